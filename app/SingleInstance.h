@@ -1,0 +1,47 @@
+#pragma once
+
+#include <QObject>
+#include <QStringList>
+
+#include <memory>
+
+class QLocalServer;
+class QLocalSocket;
+
+namespace kestrel {
+
+/// One Kestrel a user. The first one to claim a folder holds a lock there that the system takes back when its process ends, however
+/// it ends; a later one hands over its files through a socket beside the lock.
+class SingleInstance : public QObject {
+    Q_OBJECT
+public:
+    enum class Role {
+        First,       ///< this process is the one
+        Second,      ///< another one is, and has taken the files over
+        Unanswered,  ///< another one holds the lock but does not answer
+    };
+
+    /// `folder` is private to the user and is created where it is missing.
+    explicit SingleInstance(const QString &folder, QObject *parent = nullptr);
+    ~SingleInstance() override;
+
+    /// `files` are absolute paths. Takes up to `patienceMs` where another instance is slow to answer.
+    Role claim(const QStringList &files, int patienceMs = 5000);
+
+signals:
+    /// Another one was started, with these files, and has gone again.
+    void startedAgain(const QStringList &files);
+
+private:
+    bool lock();
+    bool handOver(const QStringList &files, int patienceMs);
+    void listen();
+    void receive(QLocalSocket *socket);
+
+    QString m_lockPath;
+    QString m_socketPath;
+    int m_lockFile = -1;
+    std::unique_ptr<QLocalServer> m_server;
+};
+
+}  // namespace kestrel

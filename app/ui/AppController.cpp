@@ -1,0 +1,282 @@
+#include "AppController.h"
+
+#include "Frames.h"
+#include "JKestrelSetting.h"
+#include "JKestrelSettingDispatcher.h"
+#include "JTitledWindow.h"
+#include "LWindowTransitionAnimator.h"
+#include "ProductInformation.h"
+#include "Queues.h"
+#include "UserDefaults.h"
+#include "WebPages.h"
+#include "_JKestrelWindow.h"
+
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+const QString menuMode = u"menu"_s;
+const QString moduleModes[] = {u"video"_s, u"dvd"_s, u"downloader"_s, u"recorder"_s};
+const QString installedVersionKey = u"InstalledVersion"_s;
+
+foundation::Size sizeOf(const QWidget *view)
+{
+    return view ? foundation::Size{double(view->width()), double(view->height())} : foundation::Size{};
+}
+
+template <class Message>
+void sendIfImplemented(ModuleController *controller, void (Message::*message)())
+{
+    if (auto *receiver = dynamic_cast<Message *>(controller))
+        (receiver->*message)();
+}
+
+void removeFromSuperview(QWidget *view)
+{
+    if (view)
+        view->setParent(nullptr);
+}
+
+}  // namespace
+
+foundation::Rect mainWindowFrame(const foundation::Rect &homeFrame, const foundation::Size &viewSize)
+{
+    const foundation::Point center = homeFrame.center();
+    return {center.x - 0.5 * viewSize.width, center.y - 0.5 * viewSize.height, viewSize.width,
+            viewSize.height + tarnwell::JTitledWindow::defaultTitleBarHeight};
+}
+
+AppController::AppController(Surroundings surroundings, QObject *parent)
+    : QObject(parent), m_surroundings(std::move(surroundings))
+{
+}
+
+AppController::~AppController()
+{
+    // A module owns its view: it must be out of the window before either goes.
+    if (m_currentController)
+        removeFromSuperview(m_currentController->view());
+}
+
+void AppController::applicationWillFinishLaunching()
+{
+    tarnwell::JTitledWindow &window = m_surroundings.mainWindow;
+    window.setButtonVisible(tarnwell::JTitledWindow::WindowButton::Zoom, false);
+    window.setShouldClose([this] { return windowShouldClose(); });
+    m_menuController = std::make_unique<KestrelController>();
+    m_menuController->makeInit();
+    m_menuController->setSettingAndAboutEnabled(bool(m_surroundings.windows.setting), bool(m_surroundings.windows.about));
+    loadEachSubController();
+}
+
+void AppController::applicationDidFinishLaunching()
+{
+    m_menuController->setMenuDelegate(this);
+    m_menuController->window()->center();
+    m_menuController->showWindow();
+    m_surroundings.mainWindow.setCloseAction([this] { closeSubWindowAction(); });
+    for (tarnwell::JTitledWindow *window :
+         {static_cast<tarnwell::JTitledWindow *>(m_menuController->window()), &m_surroundings.mainWindow}) {
+        connect(window, &tarnwell::JTitledWindow::willClose, this,
+                [this, window] { subModeWindowWillCloseNotification(window); });
+    }
+    recordInstalledVersion();
+}
+
+void AppController::recordInstalledVersion()
+{
+    const QString previous = m_surroundings.defaults.stringForKey(installedVersionKey);
+    const QString current = tarnwell::GetAppCurrentVersion();
+    if (previous == current)
+        return;
+    m_surroundings.setting.setFirstRun(true);
+    m_surroundings.setting.setPreviousVersion(previous);
+    tarnwell::PHPOpenWebsite(tarnwell::AppLaunchLink(), u"ins"_s);
+    m_surroundings.defaults.setObject(current, installedVersionKey);
+}
+
+void AppController::applicationWillTerminate()
+{
+    for (const ModuleIndex index : {Converter, Ripper})
+        sendIfImplemented(m_modules[index].controller.get(), &ModuleSettingSync::syncSetting);
+    m_surroundings.setting.sync();
+}
+
+void AppController::loadEachSubController()
+{
+    const ModuleFactories &factories = m_surroundings.modules;
+    const ModuleFactory *inOrder[] = {&factories.converter, &factories.ripper, &factories.downloader,
+                                      &factories.recorder};
+    for (int i = Converter; i < ModuleCount; ++i) {
+        if (!*inOrder[i])
+            continue;
+        auto dispatcher = std::make_shared<JKestrelSettingDispatcher>(i, m_surroundings.setting);
+        m_modules[i].controller = (*inOrder[i])({{moduleSettingKey.toString(), std::move(dispatcher)}});
+    }
+    const auto completed = [this](ModuleController *controller) { completeModule(controller); };
+    for (HostedModule &module : m_modules) {
+        if (module.controller)
+            module.controller->setCompletedHandler(completed);
+    }
+    for (HostedModule &module : m_modules)
+        module.originalSize = realLoadSubController(module.controller.get());
+    m_surroundings.setting.setCurrMode(menuMode);
+}
+
+foundation::Size AppController::realLoadSubController(ModuleController *controller)
+{
+    QWidget *view = controller ? controller->view() : nullptr;
+    if (!view)
+        return {};
+    view->setParent(m_surroundings.mainWindow.contentView());
+    foundation::Rect frame = tarnwell::viewFrame(view);
+    frame.origin = {1000, 0};
+    tarnwell::setViewFrame(view, frame);
+    removeFromSuperview(view);
+    return sizeOf(view);
+}
+
+void AppController::completeModule(ModuleController *controller)
+{
+    const QWidget *view = controller->view();
+    QWidget *window = view && view->parentWidget() ? view->window() : nullptr;
+    tarnwell::LWindowTransitionAnimator::sharedAnimator().zoomFromWindow(window, m_menuController->window(), true, [this] {
+        switchToMenuWindow();
+        m_surroundings.setting.setCurrMode(menuMode);
+    });
+}
+
+void AppController::showMenuWindow()
+{
+    m_menuController->showWindow();
+}
+
+void AppController::onShowMarlin()
+{
+    openModule(Converter);
+}
+
+void AppController::onShowHeron()
+{
+    openModule(Ripper);
+}
+
+void AppController::onShowPetrel()
+{
+    openModule(Downloader);
+    sendIfImplemented(downloaderController(), &ModuleCoreUpdate::checkCoreUpdateInBackground);
+}
+
+void AppController::onShowRecorder()
+{
+    openModule(Recorder);
+}
+
+void AppController::openModule(ModuleIndex index)
+{
+    const HostedModule &module = m_modules[index];
+    if (!module.controller)
+        return;
+    m_surroundings.setting.setCurrMode(moduleModes[index]);
+    if (QWidget *view = module.controller->view())
+        view->resize(qRound(module.originalSize.width), qRound(module.originalSize.height));
+    showSubModeHelper(module.controller.get());
+}
+
+void AppController::showSubModeHelper(ModuleController *controller)
+{
+    sendIfImplemented(controller, &ModuleAppearance::markAppear);
+    if (m_currentController) {
+        sendIfImplemented(m_currentController, &ModuleDisappearance::onViewDidDisappear);
+        removeFromSuperview(m_currentController->view());
+    }
+    m_currentController = controller;
+    tarnwell::JTitledWindow &window = m_surroundings.mainWindow;
+    QWidget *view = controller->view();
+    if (view) {
+        view->setParent(window.contentView());
+        setWindowTitle(controller->windowTitle());
+    }
+    window.setFrame(mainWindowFrame(m_menuController->window()->frame(), sizeOf(view)));
+    if (view) {
+        const foundation::Size size = sizeOf(view);
+        tarnwell::setViewFrame(view, {0, 0, size.width, size.height});
+        view->show();
+    }
+    tarnwell::LWindowTransitionAnimator::sharedAnimator().zoomFromWindow(
+        m_menuController->window(), &window, false, [this] {
+            if (m_currentController && m_currentController == recorderController())
+                sendIfImplemented(m_currentController, &ModuleRecorderSession::startRecorderSession);
+        });
+}
+
+void AppController::setWindowTitle(const QString &text)
+{
+    m_surroundings.mainWindow.setWindowTitle(u"Kestrel 4K%1%2"_s.arg(text.isNull() ? u""_s : u" - "_s, text));
+}
+
+void AppController::onShowSetting()
+{
+    if (m_surroundings.windows.setting)
+        m_surroundings.windows.setting(visibleWindow());
+}
+
+void AppController::onShowAbout()
+{
+    if (m_surroundings.windows.about)
+        m_surroundings.windows.about(visibleWindow());
+}
+
+tarnwell::JTitledWindow *AppController::visibleWindow() const
+{
+    if (m_surroundings.mainWindow.isVisible())
+        return &m_surroundings.mainWindow;
+    return m_menuController->window();
+}
+
+void AppController::openFiles(const QStringList &paths)
+{
+    if (!m_surroundings.mainWindow.isVisible() || m_currentController != converterController())
+        onShowMarlin();
+    if (auto *receiver = dynamic_cast<ModuleFileOpening *>(converterController()))
+        receiver->openFiles(paths);
+}
+
+void AppController::raiseVisibleWindow()
+{
+    visibleWindow()->makeKeyAndOrderFront();
+}
+
+void AppController::showProperTip()
+{
+    if (m_currentController != converterController())
+        return;
+    if (auto *receiver = dynamic_cast<ModuleFirstOpenTip *>(m_currentController))
+        receiver->showFirstOpenAppTip(true);
+}
+
+void AppController::closeSubWindowAction()
+{
+    // A turn later, when the button is through with its own event.
+    foundation::queue::asyncMain([self = QPointer(this)] {
+        if (self && self->m_currentController)
+            self->m_currentController->doBackAction();
+    });
+}
+
+bool AppController::windowShouldClose()
+{
+    return m_currentController && m_currentController->shouldTerminate();
+}
+
+void AppController::subModeWindowWillCloseNotification(const tarnwell::JTitledWindow *window)
+{
+    if (window == m_menuController->window())
+        m_surroundings.terminate();
+}
+
+}  // namespace kestrel

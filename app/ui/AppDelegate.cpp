@@ -1,0 +1,228 @@
+#include "AppDelegate.h"
+
+#include "Alerts.h"
+#include "Bundle.h"
+#include "InterfaceLanguage.h"
+#include "JKestrelSetting.h"
+#include "JTitledWindow.h"
+#include "JTooltipController.h"
+#include "LanguageTags.h"
+#include "Localization.h"
+#include "Log.h"
+#include "NotificationCenter.h"
+#include "ProductInformation.h"
+#include "Queues.h"
+#include "SystemInformation.h"
+#include "UserDefaults.h"
+#include "_JKestrelWindow.h"
+
+#include <QActionGroup>
+#include <QApplication>
+#include <QFileInfo>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+using kestrel::tarnwell::AppLocalizedString;
+
+namespace kestrel {
+
+namespace {
+
+const QString notSafeTerminateKey = u"KestrelNotSafeTerminate"_s;
+
+/// The state of the tip entry when it was last chosen.
+bool tipFlag = false;
+
+QString showTipTitle()
+{
+    return AppLocalizedString(u"showtip"_s);
+}
+
+QString closeTipTitle()
+{
+    return AppLocalizedString(u"closetip"_s);
+}
+
+tarnwell::AlertAnswer askOkOrCancel(const QString &message, const QString &informativeText)
+{
+    return tarnwell::runAlert({message, AppLocalizedString(u"OK"_s), AppLocalizedString(u"Cancel"_s), informativeText});
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(Surroundings surroundings)
+    : m_surroundings(std::move(surroundings)), m_window(std::make_unique<tarnwell::JTitledWindow>()),
+      m_appController(std::make_unique<AppController>(
+          AppController::Surroundings{*m_window, m_surroundings.setting, m_surroundings.defaults,
+                                      std::move(m_surroundings.modules), m_surroundings.windows, m_surroundings.terminate}))
+{
+    makeStandardMenus();
+}
+
+AppDelegate::~AppDelegate()
+{
+    m_appController.reset();
+}
+
+void AppDelegate::makeStandardMenus()
+{
+    const bool hasAbout = bool(m_surroundings.windows.about);
+    const bool hasSetting = bool(m_surroundings.windows.setting);
+    using Action = std::function<void()>;
+    const MenuEntry application[] = {
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "About Kestrel"),
+         hasAbout ? Action([this] { m_appController->onShowAbout(); }) : Action()},
+        {},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Preferences…"),
+         hasSetting ? Action([this] { onPreferencesAction(); }) : Action(), Qt::CTRL | Qt::Key_Comma},
+        {},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Quit Kestrel"), [this] { onQuitAction(); }, Qt::CTRL | Qt::Key_Q}};
+    MainMenu::append(*m_mainMenu.applicationMenu(), application);
+    const MenuEntry help[] = {
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Kestrel Help"), [this] { showHelp(); }, QKeySequence::HelpContents}};
+    MainMenu::append(*m_mainMenu.helpMenu(), help);
+}
+
+void AppDelegate::applicationWillFinishLaunching()
+{
+    appendNewMenuItems();
+    setupLanuageMenu();
+    const QString dataFolder = tarnwell::GetApplicationSupportDir() + u'/' + tarnwell::GetApplicationName();
+    if (!QFileInfo::exists(dataFolder))
+        tarnwell::CreateDirectory(dataFolder);
+    tarnwell::JTooltipController::Instance().addWindow(m_window.get());
+    m_window->makeInitWithImageName(u"window_titlebarbg"_s, u"window_title_bg"_s);
+    m_appController->applicationWillFinishLaunching();
+    m_window->setMenus(m_mainMenu.menus());
+    m_appController->menuController()->window()->setMenus(m_mainMenu.menus());
+}
+
+void AppDelegate::applicationDidFinishLaunching()
+{
+    tarnwell::DNFootLog(u"[DEBUG]Application did Finished launching"_s);
+    m_appController->applicationDidFinishLaunching();
+    m_appController->showMenuWindow();
+    foundation::queue::afterMain(250ms, [self = QPointer(this)] {
+        if (self)
+            self->checkBugReportFlagWhenLaunch();
+    });
+}
+
+void AppDelegate::applicationWillTerminate()
+{
+    m_appController->applicationWillTerminate();
+    m_surroundings.defaults.setObject(false, notSafeTerminateKey);
+    m_surroundings.defaults.synchronize();
+}
+
+void AppDelegate::checkBugReportFlagWhenLaunch()
+{
+    m_surroundings.defaults.setObject(true, notSafeTerminateKey);
+}
+
+void AppDelegate::appendNewMenuItems()
+{
+    // The log viewer and the problem report are not part of this build yet: their entries wait disabled.
+    const MenuEntry entries[] = {
+        {},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "App Log")},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Report Bug")},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Reset Profiles"), [this] { resetProfiles(); }}};
+    MainMenu::append(*m_mainMenu.helpMenu(), entries);
+}
+
+void AppDelegate::setupLanuageMenu()
+{
+    QMenu *languages = m_mainMenu.helpMenu()->addMenu(AppLocalizedString(u"Language"_s));
+    auto *choices = new QActionGroup(languages);
+    const QString stored = m_surroundings.defaults.stringForKey(customizeLanguageKey.toString());
+    for (int tag = 0; tag < int(supportedLanguages.size()); ++tag) {
+        const QString code = supportedLanguages[size_t(tag)].toString();
+        QAction *item = languages->addAction(tag == 0 ? AppLocalizedString(code) : foundation::languageDisplayName(code));
+        item->setData(tag);
+        item->setCheckable(true);
+        item->setChecked(code == stored);
+        choices->addAction(item);
+        connect(item, &QAction::triggered, this, [this, tag] { onAppLanguageChanged(tag); });
+    }
+}
+
+void AppDelegate::onAppLanguageChanged(int tag)
+{
+    const bool restarts = askOkOrCancel(AppLocalizedString(u"Are you sure you want to restart the application now?"_s),
+                                        AppLocalizedString(u"Changes to the languages take effect upon relaunch."_s)) ==
+                          tarnwell::AlertAnswer::Default;
+    // Stored whatever the answer: the choice holds from the next start on.
+    m_surroundings.defaults.setObject(supportedLanguages.at(size_t(tag)).toString(), customizeLanguageKey.toString());
+    if (restarts)
+        restartApplication();
+}
+
+void AppDelegate::restartApplication()
+{
+    const foundation::Bundle &bundle = tarnwell::productBundle();
+    const QString relauncher = bundle.contentsPath(u"Frameworks/appRelauncher"_s);
+    if (!m_surroundings.startProcess(relauncher, {bundle.path(), QString::number(QCoreApplication::applicationPid())}))
+        tarnwell::DNFootLog(u"The relaunch helper could not be started"_s);
+    m_surroundings.terminate();
+}
+
+void AppDelegate::setupTipMenu()
+{
+    QAction *item = m_mainMenu.helpMenu()->addAction(showTipTitle());
+    connect(item, &QAction::triggered, this, &AppDelegate::showApplicationTip);
+}
+
+void AppDelegate::showApplicationTip()
+{
+    const QList<QAction *> items = m_mainMenu.helpMenu()->actions();
+    tipFlag = !items.isEmpty() && items.constLast()->text() == closeTipTitle();
+    const QString present = tipFlag ? closeTipTitle() : showTipTitle();
+    const auto found =
+        std::find_if(items.begin(), items.end(), [&](const QAction *item) { return item->text() == present; });
+    if (found != items.end())
+        (*found)->setText(tipFlag ? showTipTitle() : closeTipTitle());
+    tipFlag = !tipFlag;
+    m_appController->showProperTip();
+}
+
+void AppDelegate::resetProfiles()
+{
+    if (askOkOrCancel(AppLocalizedString(u"Are you sure you want to reset profile?"_s), u""_s) ==
+        tarnwell::AlertAnswer::Default)
+        foundation::NotificationCenter::defaultCenter().postNotificationName(keyResetProfilesNotification.toString());
+}
+
+void AppDelegate::onPreferencesAction()
+{
+    m_appController->showSetting();
+}
+
+void AppDelegate::showHelp()
+{
+    tarnwell::OpenWebsitePath(tarnwell::AppHelpLink(), u"help"_s);
+}
+
+void AppDelegate::onQuitAction()
+{
+    if (QApplication::activeModalWidget() != m_window.get())
+        m_surroundings.terminate();
+}
+
+QString AppDelegate::traceSuffix(const QString &tag) const
+{
+    return m_surroundings.setting.traceFlags2019(tag);
+}
+
+QString AppDelegate::phpRedirectLink(const QString &fui, const QString &jump) const
+{
+    return m_surroundings.setting.makePHPParams(fui, jump);
+}
+
+QString AppDelegate::supportLink(QString SupportLinks::*field) const
+{
+    return m_upConfigure ? (*m_upConfigure).*field : QString();
+}
+
+}  // namespace kestrel

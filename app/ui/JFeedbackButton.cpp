@@ -1,0 +1,16 @@
+#include "JFeedbackButton.h"
+
+namespace kestrel {
+
+void JFeedbackButton::onMouseEnterExit(bool entered)
+{
+    JHoverButton::onMouseEnterExit(entered);
+    if (!m_target)
+        return;
+    if (entered)
+        m_target->onButtonMouseEntered(this);
+    else
+        m_target->onButtonMouseExit(this);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,31 @@
+#pragma once
+
+#include "JHoverButton.h"
+
+namespace kestrel {
+
+class JFeedbackButton;
+
+/// Hears of the pointer over its buttons.
+class FeedbackButtonTarget {
+public:
+    virtual ~FeedbackButtonTarget() = default;
+    virtual void onButtonMouseEntered(JFeedbackButton *sender) = 0;
+    virtual void onButtonMouseExit(JFeedbackButton *sender) = 0;
+};
+
+/// A hover button that reports the pointer's coming and going to its target.
+class JFeedbackButton : public tarnwell::JHoverButton {
+    Q_OBJECT
+public:
+    using JHoverButton::JHoverButton;
+
+    /// `target` outlives the button's events, or is taken away with null.
+    void setTarget(FeedbackButtonTarget *target) { m_target = target; }
+    void onMouseEnterExit(bool entered) override;
+
+private:
+    FeedbackButtonTarget *m_target = nullptr;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,293 @@
+#include "KestrelController.h"
+
+#include "Alerts.h"
+#include "Bundle.h"
+#include "Color.h"
+#include "Frames.h"
+#include "HomeTexts.h"
+#include "Images.h"
+#include "Localization.h"
+#include "ProductInformation.h"
+#include "RecorderAccess.h"
+#include "TranslateControls.h"
+#include "_JKestrelWindow.h"
+#include "ui_KestrelController.h"
+
+#include <QPainter>
+#include <QPointer>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+using kestrel::tarnwell::AppLocalizedString;
+
+namespace kestrel {
+
+namespace {
+
+const QString hoveredCaptionColor = u"0074CC"_s;
+const QString restingCaptionColor = u"343641"_s;
+const QString smallButtonTitleColor = u"434652"_s;
+
+constexpr foundation::Rect initialLayerFrames[] = {
+    {91, 262, 94, 94}, {260, 262, 94, 94}, {427, 262, 94, 94}, {596, 262, 94, 94}};
+
+QString localized(const char *key)
+{
+    return AppLocalizedString(QString::fromUtf8(key));
+}
+
+void setTextColor(QWidget *widget, const QString &hex)
+{
+    QPalette palette = widget->palette();
+    const QColor color = foundation::ColorWithHexString(hex);
+    palette.setColor(QPalette::WindowText, color);
+    palette.setColor(QPalette::ButtonText, color);
+    widget->setPalette(palette);
+}
+
+/// A white disc with a margin, the ground of a module button.
+QPixmap discImage(qreal scale)
+{
+    constexpr int size = 128;
+    QPixmap disc(QSize(size, size) * scale);
+    disc.setDevicePixelRatio(scale);
+    disc.fill(Qt::transparent);
+    QPainter painter(&disc);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::white);
+    painter.drawEllipse(QRectF(0, 0, size, size).adjusted(3, 3, -3, -3));
+    return disc;
+}
+
+}  // namespace
+
+KestrelController::KestrelController(QObject *parent) : QObject(parent) {}
+
+KestrelController::~KestrelController()
+{
+    // A window that goes is left by the pointer, which is not to be heard any more.
+    for (const ModuleButton &module : m_modules) {
+        if (module.button)
+            module.button->setTarget(nullptr);
+    }
+}
+
+void KestrelController::makeInit()
+{
+    m_window = std::make_unique<_JKestrelWindow>();
+    m_window->makeInit();
+    m_ui = std::make_unique<Ui::KestrelController>();
+    m_ui->setupUi(m_window->contentView());
+    const QSize content = m_window->contentView()->maximumSize();
+    const double titleBarHeight = _JKestrelWindow::titleBarHeightFor(tarnwell::GetSystemVersion2());
+    m_window->setFrame({0, 0, double(content.width()), content.height() + titleBarHeight});
+    m_modules = {{{m_ui->convertButton, m_ui->convertLabel},
+                  {m_ui->ripButton, m_ui->ripLabel},
+                  {m_ui->downloadButton, m_ui->downloadLabel},
+                  {m_ui->recordButton, m_ui->recordLabel}}};
+    windowDidLoad();
+}
+
+void KestrelController::showWindow()
+{
+    m_window->makeKeyAndOrderFront();
+}
+
+void KestrelController::setSettingAndAboutEnabled(bool setting, bool about)
+{
+    m_ui->settingButton->setEnabled(setting);
+    m_ui->aboutButton->setEnabled(about);
+}
+
+void KestrelController::windowDidLoad()
+{
+    using Action = void (KestrelController::*)();
+    const struct {
+        QAbstractButton *button;
+        const char16_t *image;
+        Action action;
+    } buttons[] = {{m_ui->convertButton, u"kestrel_convert", &KestrelController::onConvertButtonAction},
+                   {m_ui->ripButton, u"kestrel_dvd", &KestrelController::onRipButtonAction},
+                   {m_ui->downloadButton, u"kestrel_download", &KestrelController::onDownloadButtonAction},
+                   {m_ui->recordButton, u"kestrel_record", &KestrelController::onRecordButtonAction},
+                   {m_ui->settingButton, u"kestrel_setting", &KestrelController::onSettingAction},
+                   {m_ui->aboutButton, u"kestrel_about", &KestrelController::onAboutAction}};
+    for (const auto &[button, image, action] : buttons) {
+        button->setIcon(tarnwell::IconNamed(QString::fromUtf16(image)));
+        connect(button, &QAbstractButton::clicked, this, action);
+    }
+    for (const ModuleButton &module : m_modules)
+        module.button->setTarget(this);
+
+    const struct {
+        QWidget *view;
+        int points;
+        QFont::Weight weight;
+    } fonts[] = {{m_ui->introduceMain, 18, QFont::Bold}, {m_ui->introduceSub, 13, QFont::Normal},
+                 {m_ui->homeLabel, 10, QFont::Normal}};
+    for (const auto &[view, points, weight] : fonts) {
+        QFont font = view->font();
+        font.setPixelSize(points);
+        font.setWeight(weight);
+        view->setFont(font);
+    }
+
+    m_window->setButtonVisible(tarnwell::JTitledWindow::WindowButton::Zoom, false);
+    onButtonMouseExit(nullptr);
+    makeBackgroundLayers();
+    for (const ModuleButton &module : m_modules) {
+        module.label->setText(AppLocalizedString(module.label->text()));
+        module.button->setAccessibleName(module.label->text());
+        setCaptionColor(module, restingCaptionColor);
+    }
+    for (QAbstractButton *button : {m_ui->settingButton, m_ui->aboutButton}) {
+        button->setText(AppLocalizedString(button->text()));
+        button->setAccessibleName(button->text());
+        setTextColor(button, smallButtonTitleColor);
+    }
+    m_ui->homeLabel->setText(u"Tarnwell Software, Inc. %1"_s.arg(tarnwell::AppReadableHomeLink()));
+    paintDiscsIntoBackground();
+    for (const auto &[button, origin] : {std::pair<QWidget *, foundation::Point>{m_ui->aboutButton, {574, 4}},
+                                         {m_ui->settingButton, {664, 4}}}) {
+        foundation::Rect frame = tarnwell::viewFrame(button);
+        frame.origin = origin;
+        tarnwell::setViewFrame(button, frame);
+    }
+}
+
+void KestrelController::makeBackgroundLayers()
+{
+    for (size_t i = 0; i < m_modules.size(); ++i) {
+        auto *layer = new tarnwell::ImageLayer(u"kestrel_button_animation"_s, m_window->contentView());
+        layer->setFrame(initialLayerFrames[i]);
+        layer->stackUnder(m_ui->convertButton);
+        m_modules[i].backgroundLayer = layer;
+    }
+    // Beneath the layers there is only the picture, which the platform would draw as the view's own background.
+    m_ui->backgroundImage->lower();
+}
+
+void KestrelController::paintDiscsIntoBackground()
+{
+    const qreal scale = m_window->devicePixelRatioF();
+    QPixmap picture = tarnwell::ImageNamed(u"kestrel_bg"_s, scale);
+    if (picture.isNull())
+        return;
+    const QPixmap disc = discImage(picture.devicePixelRatio());
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    for (const ModuleButton &module : m_modules)
+        painter.drawPixmap(module.button->geometry(), disc);
+    painter.end();
+    m_ui->backgroundImage->setPixmap(picture);
+}
+
+void KestrelController::showTexts(const QString &headline, const QString &description)
+{
+    m_ui->introduceMain->setStringValue(headline);
+    m_ui->introduceSub->setText(description);
+}
+
+void KestrelController::setCaptionColor(const ModuleButton &module, const QString &hex)
+{
+    setTextColor(module.label, hex);
+}
+
+const KestrelController::ModuleButton *KestrelController::moduleOf(const JFeedbackButton *button) const
+{
+    const auto found = std::find_if(m_modules.begin(), m_modules.end(),
+                                    [button](const ModuleButton &module) { return button && module.button == button; });
+    return found == m_modules.end() ? nullptr : &*found;
+}
+
+void KestrelController::onButtonMouseEntered(JFeedbackButton *sender)
+{
+    const ModuleButton *module = moduleOf(sender);
+    if (!module)
+        return;
+    const HomeHoverText &texts = homeHoverTexts[size_t(module - m_modules.data())];
+    showTexts(localized(texts.headline), localized(texts.description));
+    setCaptionColor(*module, hoveredCaptionColor);
+    makeZoomInAnimation(module->backgroundLayer, module->button);
+}
+
+void KestrelController::onButtonMouseExit(JFeedbackButton *sender)
+{
+    showTexts(homeRestingHeadline.toString(), localized(homeRestingDescription));
+    const ModuleButton *module = moduleOf(sender);
+    if (!module)
+        return;
+    makeZoomOutAnimation(module->backgroundLayer, module->button);
+    setCaptionColor(*module, restingCaptionColor);
+}
+
+void KestrelController::makeZoomInAnimation(tarnwell::ImageLayer *layer, const QWidget *related)
+{
+    layer->setFrame(tarnwell::viewFrame(related).inset(-15, -15));
+}
+
+void KestrelController::makeZoomOutAnimation(tarnwell::ImageLayer *layer, const QWidget *related)
+{
+    constexpr double restingSize = 96;
+    const foundation::Rect frame = tarnwell::viewFrame(related);
+    layer->setFrame(frame.inset((frame.size.width - restingSize) / 2, (frame.size.height - restingSize) / 2));
+}
+
+void KestrelController::onConvertButtonAction()
+{
+    m_menuDelegate->onShowMarlin();
+}
+
+void KestrelController::onRipButtonAction()
+{
+    m_menuDelegate->onShowHeron();
+}
+
+void KestrelController::onDownloadButtonAction()
+{
+    m_menuDelegate->onShowPetrel();
+}
+
+void KestrelController::onRecordButtonAction()
+{
+    switch (recorderGate(tarnwell::GetSystemVersion2())) {
+    case RecorderGate::Unavailable:
+        tarnwell::runAlert({AppLocalizedString(u"Screen Record Unavailable!"_s), AppLocalizedString(u"OK"_s), {},
+                            AppLocalizedString(u"The screen recorder is only supported on Mac OS Lion and later."_s),
+                            tarnwell::AlertStyle::Critical});
+        return;
+    case RecorderGate::Open:
+        m_menuDelegate->onShowRecorder();
+        return;
+    case RecorderGate::AskForPermission:
+        break;
+    }
+    const QString library = tarnwell::productBundle().contentsPath(u"Frameworks/libCapturePermission.dylib"_s);
+    const QPointer<KestrelController> self(this);
+    const CapturePermissionAnswer answer = requestCapturePermission(library, [self] {
+        if (self)
+            self->m_menuDelegate->onShowRecorder();
+    });
+    using Outcome = CapturePermissionAnswer::Outcome;
+    const bool opens = answer.outcome == Outcome::Open ||
+                       (answer.outcome == Outcome::Failed &&
+                        tarnwell::runAlert({answer.error, AppLocalizedString(u"Continue"_s),
+                                            AppLocalizedString(u"Cancel"_s), {}, tarnwell::AlertStyle::Warning}) ==
+                            tarnwell::AlertAnswer::Default);
+    if (opens)
+        m_menuDelegate->onShowRecorder();
+}
+
+void KestrelController::onSettingAction()
+{
+    m_menuDelegate->onShowSetting();
+}
+
+void KestrelController::onAboutAction()
+{
+    m_menuDelegate->onShowAbout();
+}
+
+}  // namespace kestrel

@@ -1,0 +1,84 @@
+#include "MainMenu.h"
+
+#include "JTitledWindow.h"
+#include "Localization.h"
+
+#include <QApplication>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+/// Sends a text-editing message to the control that has the keyboard, as far as it knows it.
+std::function<void()> toFocusedControl(const char *slot)
+{
+    return [slot] {
+        QWidget *control = QApplication::focusWidget();
+        if (control && control->metaObject()->indexOfSlot(QByteArray(slot).append("()").constData()) >= 0)
+            QMetaObject::invokeMethod(control, slot);
+    };
+}
+
+std::function<void()> toActiveWindow(void (QWidget::*message)())
+{
+    return [message] {
+        if (QWidget *window = QApplication::activeWindow())
+            (window->*message)();
+    };
+}
+
+}  // namespace
+
+MainMenu::MainMenu()
+{
+    const char *const titles[] = {nullptr, QT_TRANSLATE_NOOP("TarnwellPublic", "Edit"),
+                                  QT_TRANSLATE_NOOP("TarnwellPublic", "Window"),
+                                  QT_TRANSLATE_NOOP("TarnwellPublic", "Help")};
+    for (size_t i = 0; i < m_menus.size(); ++i) {
+        const QString title = titles[i] ? tarnwell::AppLocalizedString(QString::fromUtf8(titles[i])) : u"Kestrel"_s;
+        m_menus[i] = std::make_unique<QMenu>(title);
+    }
+    const MenuEntry edit[] = {
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Undo"), toFocusedControl("undo"), QKeySequence::Undo},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Redo"), toFocusedControl("redo"), QKeySequence::Redo},
+        {},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Cut"), toFocusedControl("cut"), QKeySequence::Cut},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Copy"), toFocusedControl("copy"), QKeySequence::Copy},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Paste"), toFocusedControl("paste"), QKeySequence::Paste},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Select All"), toFocusedControl("selectAll"), QKeySequence::SelectAll}};
+    append(*editMenu(), edit);
+    const MenuEntry window[] = {
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Minimize"), toActiveWindow(&QWidget::showMinimized), Qt::CTRL | Qt::Key_M},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Close"),
+         [] {
+             if (auto *active = qobject_cast<tarnwell::JTitledWindow *>(QApplication::activeWindow()))
+                 active->performClose();
+         },
+         QKeySequence::Close}};
+    append(*windowMenu(), window);
+}
+
+MainMenu::~MainMenu() = default;
+
+QList<QMenu *> MainMenu::menus() const
+{
+    return {applicationMenu(), editMenu(), windowMenu(), helpMenu()};
+}
+
+void MainMenu::append(QMenu &menu, std::span<const MenuEntry> entries)
+{
+    for (const MenuEntry &entry : entries) {
+        if (!entry.title) {
+            menu.addSeparator();
+            continue;
+        }
+        QAction *item = menu.addAction(tarnwell::AppLocalizedString(QString::fromUtf8(entry.title)));
+        item->setShortcut(entry.shortcut);
+        item->setEnabled(bool(entry.action));
+        QObject::connect(item, &QAction::triggered, item, [action = entry.action] { action(); });
+    }
+}
+
+}  // namespace kestrel

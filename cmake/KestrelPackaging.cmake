@@ -1,0 +1,27 @@
+# `cmake --install` puts the bundle under lib/, a launcher on the path, and what a desktop wants to know about it; CPack makes a
+# Debian package of that.
+
+include(GNUInstallDirs)
+
+install(DIRECTORY "${KESTREL_BUNDLE_DIR}" DESTINATION "${CMAKE_INSTALL_LIBDIR}" USE_SOURCE_PERMISSIONS)
+install(CODE "
+    set(launcher \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/kestrel\")
+    get_filename_component(folder \"\${launcher}\" DIRECTORY)
+    file(MAKE_DIRECTORY \"\${folder}\")
+    file(RELATIVE_PATH program \"/${CMAKE_INSTALL_BINDIR}\" \"/${CMAKE_INSTALL_LIBDIR}/Kestrel.app/Contents/MacOS/Kestrel\")
+    file(CREATE_LINK \"\${program}\" \"\${launcher}\" SYMBOLIC)
+    message(STATUS \"Installing: \${launcher}\")")
+install(DIRECTORY "${KESTREL_RESOURCES_DIR}/icons/" DESTINATION "${CMAKE_INSTALL_DATADIR}/icons")
+install(FILES packaging/com.tarnwell.kestrel.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
+install(FILES packaging/com.tarnwell.kestrel.metainfo.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
+
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME kestrel)
+set(CPACK_PACKAGE_VENDOR "Tarnwell Software, Inc.")
+set(CPACK_PACKAGE_CONTACT "Tarnwell Software <support@tarnwell.example>")
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "ffmpeg, mediainfo, xdg-utils, qt6-qpa-plugins")
+set(CPACK_DEBIAN_PACKAGE_SECTION video)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+include(CPack)

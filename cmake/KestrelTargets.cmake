@@ -1,0 +1,44 @@
+# Build settings that every target shares, and the one way in which a folder becomes a target.
+
+set(CMAKE_CXX_STANDARD 20)
+set(CMAKE_CXX_STANDARD_REQUIRED ON)
+set(CMAKE_CXX_EXTENSIONS OFF)
+set(CMAKE_AUTOMOC ON)
+set(CMAKE_AUTOUIC ON)
+set(CMAKE_EXPORT_COMPILE_COMMANDS ON)
+set(CMAKE_CXX_VISIBILITY_PRESET hidden)
+set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
+
+option(KESTREL_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
+option(KESTREL_BENCHMARKS "Build the benchmarks" OFF)
+set(KESTREL_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
+
+find_program(CCACHE_PROGRAM ccache)
+if(CCACHE_PROGRAM)
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+endif()
+
+add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
+if(KESTREL_WARNINGS_AS_ERRORS)
+    add_compile_options(-Werror)
+endif()
+if(KESTREL_SANITIZE)
+    add_compile_options(-fsanitize=${KESTREL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
+    add_link_options(-fsanitize=${KESTREL_SANITIZE})
+endif()
+add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
+                        QT_DISABLE_DEPRECATED_BEFORE=0x060400)
+
+set(KESTREL_BUNDLE_DIR "${CMAKE_BINARY_DIR}/Kestrel.app")
+set(KESTREL_CONTENTS_DIR "${KESTREL_BUNDLE_DIR}/Contents")
+set(KESTREL_RESOURCES_DIR "${KESTREL_CONTENTS_DIR}/Resources")
+
+# kestrel_library(<name> SOURCES … [PUBLIC …] [PRIVATE …])
+# The static library of the present folder. Headers are found by their bare name, and only through a link: a target sees the
+# folders that it, or what it links publicly, names.
+function(kestrel_library name)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PUBLIC;PRIVATE")
+    add_library(${name} STATIC ${arg_SOURCES})
+    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+endfunction()

@@ -1,0 +1,11 @@
+#pragma once
+
+#include "PropertyList.h"
+
+namespace kestrel::foundation {
+
+/// The binary form, for PropertyList.cpp; the contract is there.
+PropertyListResult readBinaryPropertyList(const QByteArray &bytes, const PropertyListLimits &limits);
+QByteArray writeBinaryPropertyList(const QVariant &value, const PropertyListLimits &limits);
+
+}  // namespace kestrel::foundation

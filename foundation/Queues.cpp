@@ -1,0 +1,67 @@
+#include "Queues.h"
+
+#include <QCoreApplication>
+#include <QSemaphore>
+#include <QThread>
+#include <QThreadPool>
+#include <QTimer>
+
+#include <atomic>
+#include <memory>
+
+namespace kestrel::foundation::queue {
+
+namespace {
+
+constexpr int endCheckIntervalMs = 20;
+
+}  // namespace
+
+void asyncMain(Job job)
+{
+    if (QCoreApplication *application = QCoreApplication::instance())
+        QMetaObject::invokeMethod(application, std::move(job), Qt::QueuedConnection);
+}
+
+void afterMain(std::chrono::milliseconds delay, Job job)
+{
+    // A timer belongs to the thread that starts it, hence the hop.
+    asyncMain([delay, job = std::move(job)]() mutable {
+        // A coarse timer, the default from two seconds on, may come early.
+        QTimer::singleShot(delay, Qt::PreciseTimer, QCoreApplication::instance(), std::move(job));
+    });
+}
+
+bool syncMain(const Job &job)
+{
+    const QCoreApplication *application = QCoreApplication::instance();
+    if (application && QThread::currentThread() == application->thread()) {
+        job();
+        return true;
+    }
+    // Whoever claims the call decides: the main thread to run it, or this one to give it up, because the application's
+    // end waits for this thread before it drops what is queued.
+    struct Call {
+        std::atomic<bool> isClaimed = false;
+        QSemaphore done;
+    };
+    const auto call = std::make_shared<Call>();
+    asyncMain([call, &job] {
+        if (call->isClaimed.exchange(true))
+            return;
+        job();
+        call->done.release();
+    });
+    while (!call->done.tryAcquire(1, endCheckIntervalMs)) {
+        if (!QCoreApplication::instance() && !call->isClaimed.exchange(true))
+            return false;
+    }
+    return true;
+}
+
+void asyncGlobal(Job job)
+{
+    QThreadPool::globalInstance()->start(std::move(job));
+}
+
+}  // namespace kestrel::foundation::queue

@@ -1,0 +1,26 @@
+#pragma once
+
+#include <chrono>
+#include <functional>
+
+/// Work for another thread or for later. The main queue belongs to the thread that runs the application's event loop
+/// and runs its jobs in the order in which they came; background jobs run on a pool and in no order.
+namespace kestrel::foundation::queue {
+
+using Job = std::function<void()>;
+
+/// Runs `job` on the main thread in a later turn of its event loop. Jobs still queued when the application ends are
+/// dropped.
+void asyncMain(Job job);
+
+/// As `asyncMain`, no sooner than `delay` from now.
+void afterMain(std::chrono::milliseconds delay, Job job);
+
+/// Runs `job` on the main thread and waits for it; at once when called there. False where the application ended before
+/// it ran.
+bool syncMain(const Job &job);
+
+/// Runs `job` on a background thread. The application's end waits for running jobs, so a job must be bounded in time.
+void asyncGlobal(Job job);
+
+}  // namespace kestrel::foundation::queue

@@ -1,0 +1,15 @@
+#include "CapturePermission.h"
+
+// The desktop asks for access to microphone and screen by itself, when a recording begins: for the shell it is always decided.
+
+extern "C" __attribute__((visibility("default"))) int GetAuthorizationStatus(const char *, const char **)
+{
+    constexpr int authorized = 3;
+    return authorized;
+}
+
+extern "C" __attribute__((visibility("default"))) void AuthorDevice(const char *, void (*completion)(void *, int),
+                                                                    void *context)
+{
+    completion(context, 1);
+}

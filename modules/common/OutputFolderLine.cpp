@@ -1,0 +1,54 @@
+#include "OutputFolderLine.h"
+
+#include "Alerts.h"
+#include "Images.h"
+#include "JKestrelSettingDispatcher.h"
+#include "Localization.h"
+#include "NotificationCenter.h"
+#include "TextStyles.h"
+#include "WebPages.h"
+#include "ui_OutputFolderLine.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+OutputFolderLine::OutputFolderLine(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::OutputFolderLine>())
+{
+    m_form->setupUi(this);
+    m_form->openFolderButton->setIcon(tarnwell::IconNamed(u"marlin_folder"_s));
+    setTextStyle(m_form->folderCaption, 13, QFont::Normal, tarnwell::palette::quietText);
+    connect(m_form->openFolderButton, &QPushButton::clicked, this, &OutputFolderLine::openFolder);
+    foundation::NotificationCenter::defaultCenter().addObserver(
+        this, keyKestrelSettingDidChangedNotification.toString(), [this](QObject *) { showFolder(); });
+}
+
+OutputFolderLine::~OutputFolderLine() = default;
+
+void OutputFolderLine::setDispatcher(std::shared_ptr<JKestrelSettingDispatcher> dispatcher)
+{
+    m_dispatcher = std::move(dispatcher);
+    showFolder();
+}
+
+void OutputFolderLine::showFolder()
+{
+    const QString folder = m_dispatcher ? m_dispatcher->getVideoDir() : QString();
+    m_form->folderLabel->setText(QDir::toNativeSeparators(folder));
+    m_form->openFolderButton->setEnabled(!folder.isEmpty());
+}
+
+void OutputFolderLine::openFolder()
+{
+    if (tarnwell::OpenDirectory(m_dispatcher->getVideoDir()))
+        return;
+    tarnwell::runAlert({.message = tarnwell::AppLocalizedString(u"The folder could not be opened."_s),
+                        .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
+                        .alternateButton = {},
+                        .informativeText = m_dispatcher->getVideoDir(),
+                        .style = tarnwell::AlertStyle::Warning});
+}
+
+}  // namespace kestrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include <QWidget>
+
+#include <memory>
+
+namespace Ui {
+class OverviewView;
+}
+
+namespace kestrel {
+
+class JKestrelSettingDispatcher;
+struct ModuleOverview;
+
+/// The view of an `OverviewController`.
+class OverviewView : public QWidget {
+    Q_OBJECT
+public:
+    OverviewView(const ModuleOverview &overview, std::shared_ptr<JKestrelSettingDispatcher> dispatcher);
+    ~OverviewView() override;
+
+signals:
+    void backClicked();
+
+protected:
+    void showEvent(QShowEvent *event) override;
+
+private:
+    const ModuleOverview &m_overview;
+    std::unique_ptr<Ui::OverviewView> m_form;
+};
+
+}  // namespace kestrel

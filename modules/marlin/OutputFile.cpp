@@ -1,0 +1,83 @@
+#include "OutputFile.h"
+
+#include "TranscodeFailure.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+
+#include <filesystem>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+/// `name` followed by `suffix`, cut between characters so that the whole, with `prefix`, is a file name.
+QString fittingName(const QString &prefix, QString name, const QString &suffix)
+{
+    constexpr qsizetype maximumNameBytes = 255;
+    while (!name.isEmpty() && QFile::encodeName(prefix + name + suffix).size() > maximumNameBytes)
+        name.chop(name.size() > 1 && name.back().isLowSurrogate() ? 2 : 1);
+    return prefix + name + suffix;
+}
+
+}  // namespace
+
+OutputFile::OutputFile(const QString &folder, const QString &baseName, const QString &extension)
+    : m_folder(folder),
+      m_baseName(baseName),
+      m_extension(extension)
+{
+    // The part keeps the extension: tools look at it.
+    m_partPath = createNew(u"."_s, u".kestrel-part."_s + extension);
+}
+
+OutputFile::~OutputFile()
+{
+    if (!m_partPath.isEmpty())
+        QFile::remove(m_partPath);
+}
+
+QString OutputFile::publish()
+{
+    if (!isValid())
+        return {};
+    // Taking the name with an empty file first works on every file system; hard links do not.
+    const QString path = createNew({}, u'.' + m_extension);
+    if (path.isNull())
+        return {};
+    std::error_code error;
+    std::filesystem::rename(QFile::encodeName(m_partPath).toStdString(), QFile::encodeName(path).toStdString(), error);
+    if (error) {
+        m_reason = failureSentenceOrGeneral(QString::fromStdString(error.message()));
+        QFile::remove(path);
+        return {};
+    }
+    m_partPath.clear();
+    return path;
+}
+
+/// Makes an empty file with the first name that is free and answers its path; null where none can be made.
+QString OutputFile::createNew(const QString &prefix, const QString &suffix)
+{
+    constexpr int maximumNumber = 9999;
+    for (int number = 0; number <= maximumNumber; ++number) {
+        const QString numbering = number == 0 ? QString() : u" (%1)"_s.arg(number);
+        QFile file(QDir(m_folder).filePath(fittingName(prefix, m_baseName, numbering + suffix)));
+        if (file.open(QIODevice::WriteOnly | QIODevice::NewOnly))
+            return file.fileName();
+        const QFileInfo taken(file.fileName());
+        if (!taken.exists() && !taken.isSymLink()) {
+            m_reason = QFileInfo(m_folder).isDir()
+                           ? failureSentenceOrGeneral(file.errorString())
+                           : u"The output directory does not exist. Please check the setting."_s;
+            return {};
+        }
+    }
+    m_reason = failureSentenceOrGeneral({});
+    return {};
+}
+
+}  // namespace kestrel

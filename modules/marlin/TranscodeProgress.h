@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+
+#include <optional>
+
+namespace kestrel {
+
+/// Follows the transcoder's progress report, which comes as lines of "key=value" in pieces of any size.
+class TranscodeProgress {
+public:
+    void read(const QByteArray &piece);
+
+    /// Seconds of the output that are written; never less than before.
+    double processed() const { return m_processed; }
+    /// Whether the transcoder said that it is through.
+    bool hasEnded() const { return m_hasEnded; }
+
+private:
+    void readLine(const QByteArray &line);
+
+    QByteArray m_pending;
+    double m_processed = 0;
+    bool m_hasEnded = false;
+};
+
+/// Guesses from the speed so far how long the rest takes. The speed is smoothed, so that the guess does not jump.
+class RemainingTime {
+public:
+    /// `fraction` (0 to 1) of the work is done after `elapsedSeconds`; both only grow.
+    void update(double fraction, double elapsedSeconds);
+    /// Nothing until there is enough to guess from.
+    std::optional<double> seconds() const;
+
+private:
+    double m_fraction = 0;
+    double m_elapsed = 0;
+    double m_speed = 0;  ///< fraction a second
+};
+
+QString remainingTimeText(double seconds);  ///< localised: "about 2 minutes left"
+QString durationText(double seconds);       ///< "1:02:03", "0:42"
+
+}  // namespace kestrel

@@ -1,0 +1,52 @@
+#pragma once
+
+#include "ConversionQueue.h"
+#include "MediaProber.h"
+#include "Module.h"
+
+#include <QObject>
+
+namespace kestrel {
+
+class MarlinView;
+
+/// The conversion module: reads the files that the user adds, converts them with the transcoder, one after another,
+/// into the output folder, and keeps its list as long as the application runs.
+class MarlinController final : public QObject,
+                               public ModuleController,
+                               public ModuleSettingSync,
+                               public ModuleFirstOpenTip,
+                               public ModuleFileOpening {
+    Q_OBJECT
+public:
+    explicit MarlinController(const ModuleConfigure &configure);
+    ~MarlinController() override;
+
+    void setCompletedHandler(CompletedHandler handler) override;
+    QWidget *view() override;
+    QString windowTitle() const override;
+    void doBackAction() override;
+    bool shouldTerminate() override;
+    void syncSetting() override;
+    void showFirstOpenAppTip(bool show) override;
+    void openFiles(const QStringList &paths) override;
+
+private:
+    void connectParts();
+    void probed(qint64 id, const std::optional<MediaInformation> &information, const QString &reason);
+    void convert();
+    bool canStart(QString *obstacle) const;
+    bool mayLeave();
+    void targetChanged();
+    void finished(int succeeded, bool isCancelled);
+    void showState();
+
+    std::shared_ptr<JKestrelSettingDispatcher> m_settings;
+    CompletedHandler m_completedHandler;
+    ConversionList m_list;
+    MediaProber m_prober;
+    ConversionQueue m_queue;
+    std::unique_ptr<MarlinView> m_view;
+};
+
+}  // namespace kestrel

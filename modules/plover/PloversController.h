@@ -1,0 +1,13 @@
+#pragma once
+
+#include "OverviewController.h"
+
+namespace kestrel {
+
+/// The recording module. It has no recorder yet that could begin a session, so it does not ask for that message.
+class PloversController final : public OverviewController {
+public:
+    explicit PloversController(const ModuleConfigure &configure);
+};
+
+}  // namespace kestrel

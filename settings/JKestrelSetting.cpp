@@ -1,0 +1,131 @@
+#include "JKestrelSetting.h"
+
+#include "Bundle.h"
+#include "ProductInformation.h"
+#include "SystemInformation.h"
+#include "UserDefaults.h"
+
+#include <QCryptographicHash>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+const QString settingKey = u"setting"_s;
+
+/// Reads the object under `key` where `root` has one of that class, else makes a new one.
+template <class Setting>
+std::unique_ptr<Setting> makeSetting(const std::optional<foundation::KeyedDecoder> &root, const QString &className,
+                                     const QString &key)
+{
+    if (const auto coder = root ? root->decodeObjectOfClass(className, key) : std::nullopt)
+        return std::make_unique<Setting>(&*coder);
+    return std::make_unique<Setting>();
+}
+
+}  // namespace
+
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults) : m_defaults(defaults)
+{
+    load();
+    const QString transcoderTools = getFFmpegBundlePath() + "/Contents/Resources/"_L1;
+    const QString discTools = getRipperBundlePath() + "/Contents/Resources/"_L1;
+    m_mediaInfoPath = transcoderTools + "mediainfo"_L1;
+    m_transcoderPath = transcoderTools + "ffmpeg"_L1;
+    m_playerPath = transcoderTools + "ffplay"_L1;
+    m_discInfoPath = discTools + "discinfo"_L1;
+    m_disc2isoPath = discTools + "disc2iso"_L1;
+    m_discCoverPath = discTools + "disccover"_L1;
+    constexpr quint32 avc1 = 0x61766331;
+    m_intelQSV = tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720);
+}
+
+JKestrelSetting::~JKestrelSetting() = default;
+
+JKestrelSetting &JKestrelSetting::ShareInst()
+{
+    // Never released: modules hold on to it until the process ends.
+    static auto *shared = new JKestrelSetting(foundation::UserDefaults::standardUserDefaults());
+    return *shared;
+}
+
+void JKestrelSetting::load()
+{
+    const auto root = foundation::KeyedDecoder::unarchive(m_defaults.dataForKey(settingKey));
+    m_video = makeSetting<JVideoSetting>(root, u"JVideoSetting"_s, u"video"_s);
+    m_dvd = makeSetting<JDVDSetting>(root, u"JDVDSetting"_s, u"dvd"_s);
+    m_downloader = makeSetting<JDownloaderSetting>(root, u"JDownloaderSetting"_s, u"downloader"_s);
+    m_recorder = makeSetting<JRecorderSetting>(root, u"JRecorderSetting"_s, u"recorder"_s);
+    if (const auto switches = root ? root->decodeObject(u"vars"_s) : std::nullopt) {
+        m_openFolderWhenDone = switches->decodeBool(u"openFolder"_s);
+        m_shutdownWhenDone = switches->decodeBool(u"shutdown"_s);
+        m_notifyWhenAvailable = switches->decodeBool(u"notify"_s);
+    }
+}
+
+void JKestrelSetting::sync()
+{
+    foundation::KeyedArchiver archiver;
+    archiver.setObject(u"video"_s, *m_video);
+    archiver.setObject(u"dvd"_s, *m_dvd);
+    archiver.setObject(u"downloader"_s, *m_downloader);
+    archiver.setObject(u"recorder"_s, *m_recorder);
+    archiver.setNumbers(u"vars"_s, {{u"openFolder"_s, m_openFolderWhenDone},
+                                    {u"shutdown"_s, m_shutdownWhenDone},
+                                    {u"notify"_s, m_notifyWhenAvailable}});
+    const QByteArray archive = archiver.archivedData();
+    if (archive.isEmpty())
+        return;
+    m_defaults.setObject(archive, settingKey);
+    m_defaults.synchronize();
+}
+
+QString JKestrelSetting::getFFmpegBundlePath() const
+{
+    return tarnwell::productBundle().resource(u"transcoder.bundle"_s);
+}
+
+QString JKestrelSetting::getRipperBundlePath() const
+{
+    return tarnwell::productBundle().resource(u"heron.bundle"_s);
+}
+
+QString JKestrelSetting::traceFlags2019(const QString &tag) const
+{
+    const bool isFourK = tarnwell::GetApplicationName() == "Kestrel Converter 4K"_L1;
+    QString suffix = "?ttsoft="_L1 + (isFourK ? u"kt4kmac"_s : u"ktmac"_s) + u'-' + tarnwell::GetAppCurrentVersion();
+    for (const QString &part : {tag, tarnwell::SpecialMakeIdentifier()}) {
+        if (!part.isNull())
+            suffix += u'-' + part;
+    }
+    return suffix;
+}
+
+QString JKestrelSetting::makePHPParams(const QString &fui, const QString &jump) const
+{
+    // Another name than the trace suffix tests: the redirect service knows the products so.
+    const bool isFourK = tarnwell::GetApplicationName() == "Kestrel 4K"_L1;
+    const QStringList languages = m_defaults.stringArrayForKey(u"AppleLanguages"_s);
+    const QByteArray escapedJump = jump.isValidUtf16() ? QUrl::toPercentEncoding(jump) : QByteArray();
+    const std::pair<QString, QString> pairs[] = {
+        {u"an"_s, isFourK ? u"kt4kmac"_s : u"ktmac"_s},
+        {u"cvs"_s, tarnwell::GetAppCurrentVersion()},
+        {u"pvs"_s, m_previousVersion},
+        {u"cb"_s, tarnwell::SpecialMakeIdentifier()},
+        {u"ev"_s, m_firstRun ? u"ins"_s : QString()},
+        {u"fui"_s, fui},
+        {u"lang"_s, languages.isEmpty() ? u"en"_s : languages.first()},
+        {u"jump"_s, QString::fromLatin1(escapedJump)},
+    };
+    QStringList parts;
+    for (const auto &[name, value] : pairs)
+        parts.append(name + u'=' + value);
+    const QString query = parts.join(u'&');
+    const QByteArray digest = QCryptographicHash::hash(query.toUtf8(), QCryptographicHash::Md5).toHex().toUpper();
+    return tarnwell::PHPRedirectLink() + u'?' + query + "&h="_L1 + QString::fromLatin1(digest);
+}
+
+}  // namespace kestrel

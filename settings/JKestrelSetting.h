@@ -1,0 +1,105 @@
+#pragma once
+
+#include "JModuleSettings.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace kestrel::foundation {
+class UserDefaults;
+}
+
+namespace kestrel {
+
+/// Every setting of the application and its modules. Loaded from the user defaults ("setting", one keyed archive) when it is made;
+/// changes live in memory until `sync`. Properties can be looked up by key path ("video.videoOutputPath"). Main thread only.
+class JKestrelSetting final : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QObject *video READ videoObject CONSTANT)
+    Q_PROPERTY(QObject *dvd READ dvdObject CONSTANT)
+    Q_PROPERTY(QObject *downloader READ downloaderObject CONSTANT)
+    Q_PROPERTY(QObject *recorder READ recorderObject CONSTANT)
+    Q_PROPERTY(bool openFolderWhenDone READ openFolderWhenDone WRITE setOpenFolderWhenDone)
+    Q_PROPERTY(bool shutdownWhenDone READ shutdownWhenDone WRITE setShutdownWhenDone)
+    Q_PROPERTY(bool notifyWhenAvailable READ notifyWhenAvailable WRITE setNotifyWhenAvailable)
+    Q_PROPERTY(bool intelQSV READ intelQSV WRITE setIntelQSV)
+
+public:
+    /// `defaults` must outlive the object.
+    explicit JKestrelSetting(foundation::UserDefaults &defaults);
+    ~JKestrelSetting() override;
+
+    /// The shared object over the application's own defaults, made on first use.
+    static JKestrelSetting &ShareInst();
+
+    /// Writes the model to the defaults and the defaults to the disk. Where it cannot be archived, the stored value stays.
+    void sync();
+
+    JVideoSetting *video() const { return m_video.get(); }
+    JDVDSetting *dvd() const { return m_dvd.get(); }
+    JDownloaderSetting *downloader() const { return m_downloader.get(); }
+    JRecorderSetting *recorder() const { return m_recorder.get(); }
+
+    bool openFolderWhenDone() const { return m_openFolderWhenDone; }
+    void setOpenFolderWhenDone(bool open) { m_openFolderWhenDone = open; }
+    bool shutdownWhenDone() const { return m_shutdownWhenDone; }
+    void setShutdownWhenDone(bool shutDown) { m_shutdownWhenDone = shutDown; }
+    bool notifyWhenAvailable() const { return m_notifyWhenAvailable; }
+    void setNotifyWhenAvailable(bool notify) { m_notifyWhenAvailable = notify; }
+    /// Whether video is encoded in hardware. Every run begins with what the machine can do.
+    bool intelQSV() const { return m_intelQSV; }
+    void setIntelQSV(bool enabled) { m_intelQSV = enabled; }
+
+    /// What is on screen: "menu", "video", "dvd", "downloader" or "recorder"; null before the first.
+    QString currMode() const { return m_currMode; }
+    void setCurrMode(const QString &mode) { m_currMode = mode; }
+    /// The version that ran before this one, where it was another; null where there was none.
+    QString previousVersion() const { return m_previousVersion; }
+    void setPreviousVersion(const QString &version) { m_previousVersion = version; }
+    /// Whether this version runs for the first time.
+    bool firstRun() const { return m_firstRun; }
+    void setFirstRun(bool firstRun) { m_firstRun = firstRun; }
+
+    QString mediaInfoPath() const { return m_mediaInfoPath; }
+    QString transcoderPath() const { return m_transcoderPath; }
+    QString playerPath() const { return m_playerPath; }
+    QString discInfoPath() const { return m_discInfoPath; }
+    QString disc2isoPath() const { return m_disc2isoPath; }
+    QString discCoverPath() const { return m_discCoverPath; }
+    QString getFFmpegBundlePath() const;
+    QString getRipperBundlePath() const;
+
+    /// What tells the web site which product and version a visitor comes from; a null tag is left out.
+    QString traceFlags2019(const QString &tag) const;
+    /// The whole address of the redirect endpoint with its query and the query's MD5 digest.
+    QString makePHPParams(const QString &fui, const QString &jump) const;
+
+private:
+    void load();
+    QObject *videoObject() const { return m_video.get(); }
+    QObject *dvdObject() const { return m_dvd.get(); }
+    QObject *downloaderObject() const { return m_downloader.get(); }
+    QObject *recorderObject() const { return m_recorder.get(); }
+
+    foundation::UserDefaults &m_defaults;
+    std::unique_ptr<JVideoSetting> m_video;
+    std::unique_ptr<JDVDSetting> m_dvd;
+    std::unique_ptr<JDownloaderSetting> m_downloader;
+    std::unique_ptr<JRecorderSetting> m_recorder;
+    bool m_openFolderWhenDone = true;
+    bool m_shutdownWhenDone = false;
+    bool m_notifyWhenAvailable = true;
+    bool m_intelQSV = false;
+    QString m_currMode;
+    QString m_previousVersion;
+    bool m_firstRun = false;
+    QString m_mediaInfoPath;
+    QString m_transcoderPath;
+    QString m_playerPath;
+    QString m_discInfoPath;
+    QString m_disc2isoPath;
+    QString m_discCoverPath;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,13 @@
+#include "Alerts.h"
+
+#include "Installed.h"
+
+namespace kestrel::tarnwell {
+
+AlertAnswer runAlert(const Alert &alert)
+{
+    AlertPresenter *presenter = Installed<AlertPresenter>::current();
+    return presenter ? presenter->runModal(alert) : AlertAnswer::Alternate;
+}
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QString>
+
+namespace kestrel::tarnwell {
+
+enum class AlertStyle { Informational, Warning, Critical };
+enum class AlertAnswer { Default, Alternate };
+
+/// A question or a message over all windows. The texts are shown as they are: plain, already localised. A null `alternateButton`
+/// leaves that button out. Escape answers as the alternate button, or as the only one.
+struct Alert {
+    QString message;
+    QString defaultButton;
+    QString alternateButton;
+    QString informativeText;
+    AlertStyle style = AlertStyle::Informational;
+    bool operator==(const Alert &) const = default;
+};
+
+class AlertPresenter {
+public:
+    virtual ~AlertPresenter() = default;
+    /// Runs modally until the user has answered. An alert that the application's end takes away answers as by Escape.
+    virtual AlertAnswer runModal(const Alert &alert) = 0;
+};
+
+/// Asks through the installed presenter (`Installed<AlertPresenter>`); without one the answer is the alternate button.
+AlertAnswer runAlert(const Alert &alert);
+
+}  // namespace kestrel::tarnwell

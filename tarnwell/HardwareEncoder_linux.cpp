@@ -1,0 +1,84 @@
+#include "SystemInformation.h"
+
+#include <fcntl.h>
+#include <unistd.h>
+#include <va/va.h>
+#include <va/va_drm.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+/// A libva session on one render node.
+class VideoDevice {
+public:
+    explicit VideoDevice(const char *path) : m_file(open(path, O_RDWR | O_CLOEXEC))
+    {
+        if (m_file < 0)
+            return;
+        m_display = vaGetDisplayDRM(m_file);
+        if (!m_display)
+            return;
+        vaSetInfoCallback(m_display, nullptr, nullptr);
+        vaSetErrorCallback(m_display, nullptr, nullptr);
+        int major = 0, minor = 0;
+        m_isOpen = vaInitialize(m_display, &major, &minor) == VA_STATUS_SUCCESS;
+    }
+    ~VideoDevice()
+    {
+        if (m_display)
+            vaTerminate(m_display);
+        if (m_file >= 0)
+            close(m_file);
+    }
+    VideoDevice(const VideoDevice &) = delete;
+    VideoDevice &operator=(const VideoDevice &) = delete;
+
+    bool canEncode(VAProfile profile, int width, int height) const
+    {
+        if (!m_isOpen)
+            return false;
+        std::vector<VAEntrypoint> entrypoints(size_t(vaMaxNumEntrypoints(m_display)));
+        int count = 0;
+        if (vaQueryConfigEntrypoints(m_display, profile, entrypoints.data(), &count) != VA_STATUS_SUCCESS)
+            return false;
+        return std::any_of(entrypoints.begin(), entrypoints.begin() + count, [&](VAEntrypoint entrypoint) {
+            return (entrypoint == VAEntrypointEncSlice || entrypoint == VAEntrypointEncSliceLP) &&
+                   fits(profile, entrypoint, width, height);
+        });
+    }
+
+private:
+    bool fits(VAProfile profile, VAEntrypoint entrypoint, int width, int height) const
+    {
+        VAConfigAttrib limits[] = {{VAConfigAttribMaxPictureWidth, 0}, {VAConfigAttribMaxPictureHeight, 0}};
+        if (vaGetConfigAttributes(m_display, profile, entrypoint, limits, 2) != VA_STATUS_SUCCESS)
+            return false;
+        const auto allows = [](const VAConfigAttrib &limit, int size) {
+            return limit.value == VA_ATTRIB_NOT_SUPPORTED || limit.value >= unsigned(size);
+        };
+        return allows(limits[0], width) && allows(limits[1], height);
+    }
+
+    int m_file;
+    VADisplay m_display = nullptr;
+    bool m_isOpen = false;
+};
+
+}  // namespace
+
+bool HWECanEncodeVideoInSize(quint32 codec, int width, int height)
+{
+    constexpr quint32 avc1 = 0x61766331;
+    if (codec != avc1)
+        return false;
+    constexpr const char *renderNodes[] = {"/dev/dri/renderD128", "/dev/dri/renderD129"};
+    return std::any_of(std::begin(renderNodes), std::end(renderNodes), [&](const char *node) {
+        return VideoDevice(node).canEncode(VAProfileH264Main, width, height);
+    });
+}
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,132 @@
+#include "Log.h"
+
+#include "Installed.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QFileInfo>
+#include <QRegularExpression>
+#include <QThread>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+QString threadName()
+{
+    // The main thread is the one that made the application's log, long before any other thread.
+    static const Qt::HANDLE mainThread = QThread::currentThreadId();
+    const Qt::HANDLE thread = QThread::currentThreadId();
+    return thread == mainThread ? u"main"_s : u"%1"_s.arg(quintptr(thread) & 0xFFFFFF, 6, 16, QLatin1Char('0'));
+}
+
+void writeToStandardError(const QByteArray &line)
+{
+    std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
+}
+
+}  // namespace
+
+QString withoutPrivateParts(const QString &text, const QString &homeFolder)
+{
+    // Up to the last "@" of the authority: passwords hold "@" as well.
+    static const QRegularExpression credentials(u"(\\b[a-zA-Z][a-zA-Z0-9+.-]*://)[^/?#\\s]*@"_s);
+    QString result = text;
+    result.replace(credentials, u"\\1"_s);
+    if (homeFolder.size() > 1 && result.contains(homeFolder)) {
+        // Whole path components, at the end of a sentence too.
+        const QRegularExpression home(u"(?<![\\w.-])"_s + QRegularExpression::escape(homeFolder) + u"(?![\\w-]|\\.\\w)"_s,
+                                      QRegularExpression::UseUnicodePropertiesOption);
+        result.replace(home, u"~"_s);
+    }
+    result.remove(u'\r');
+    result.replace(u'\n', u"\n    "_s);
+    return result;
+}
+
+Log::Log(const QString &folder, qint64 maximumBytes)
+    : m_file(folder + u"/kestrel.log"_s), m_previousPath(folder + u"/kestrel-previous.log"_s), m_maximumBytes(maximumBytes)
+{
+    threadName();
+    QDir().mkpath(folder);
+    discardPrevious();
+    QFile::rename(m_file.fileName(), m_previousPath);
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered))
+        writeToStandardError("The log cannot be written: "_ba + m_file.errorString().toUtf8() + '\n');
+}
+
+void Log::append(const QString &text)
+{
+    const QString line = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s) + u" ["_s + threadName() +
+                         u"] "_s + withoutPrivateParts(text, QDir::homePath()) + u'\n';
+    const QByteArray bytes = line.toUtf8();
+    const QMutexLocker locker(&m_mutex);
+    if (!m_file.isOpen() || m_file.write(bytes) != bytes.size()) {
+        writeToStandardError(bytes);
+        return;
+    }
+    m_size += bytes.size();
+    if (m_size > m_maximumBytes)
+        dropOldestLines();
+}
+
+void Log::discardPrevious()
+{
+    QFile::remove(m_previousPath);
+}
+
+void Log::dropOldestLines()
+{
+    // Half is kept, so that this happens once in a long while.
+    m_file.seek(m_size - m_maximumBytes / 2);
+    m_file.readLine();
+    const QByteArray kept = "… older lines were left out\n" + m_file.readAll();
+    m_file.resize(0);
+    m_file.seek(0);
+    m_file.write(kept);
+    m_size = kept.size();
+}
+
+void DNFootLog(const QString &text)
+{
+    if (Log *log = Installed<Log>::current())
+        log->append(text);
+    else
+        writeToStandardError(text.toUtf8() + '\n');
+}
+
+QString DNGetLogFilePath()
+{
+    const Log *log = Installed<Log>::current();
+    return log ? log->path() : QString();
+}
+
+QString DNGetPreviousLogFilePath()
+{
+    const Log *log = Installed<Log>::current();
+    return log ? log->previousPath() : QString();
+}
+
+void DNCleanupLogFile()
+{
+    if (Log *log = Installed<Log>::current())
+        log->discardPrevious();
+}
+
+void logQtMessages()
+{
+    static QtMessageHandler previous = nullptr;
+    if (previous)
+        return;
+    previous = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
+        if (Log *log = Installed<Log>::current(); log && type != QtDebugMsg)
+            log->append(message);
+        previous(type, context, message);
+    });
+}
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QFile>
+#include <QMutex>
+#include <QString>
+
+namespace kestrel::tarnwell {
+
+/// The application's log: one file a run, and the one of the run before. Each line carries the local time and the thread. A line is
+/// written before `append` returns, so a crash loses none that came before it. Neither file grows beyond `maximumBytes`: the oldest
+/// lines go first and a line says so. The home folder is shown as "~" and credentials in web addresses are left out. Any thread.
+class Log {
+public:
+    static constexpr qint64 defaultMaximumBytes = 5 * 1024 * 1024;
+
+    /// Makes the last run's current log the previous one and begins a new one in `folder`. Where that cannot be written, lines go
+    /// to standard error.
+    explicit Log(const QString &folder, qint64 maximumBytes = defaultMaximumBytes);
+
+    void append(const QString &text);
+    QString path() const { return m_file.fileName(); }
+    QString previousPath() const { return m_previousPath; }
+    void discardPrevious();
+
+private:
+    void dropOldestLines();
+
+    QMutex m_mutex;
+    QFile m_file;
+    QString m_previousPath;
+    qint64 m_maximumBytes;
+    qint64 m_size = 0;
+};
+
+/// What `Log` writes for `text`: line breaks indented, the home folder and credentials taken out.
+QString withoutPrivateParts(const QString &text, const QString &homeFolder);
+
+/// Writes one line to the installed log (`Installed<Log>`), to standard error where there is none.
+void DNFootLog(const QString &text);
+
+/// As above, with %1, %2 … in `format` replaced by the arguments, which may not hold such markers' meaning themselves.
+template <class... Arguments>
+void DNFootLog(const QString &format, const Arguments &...arguments)
+{
+    DNFootLog(format.arg(arguments...));
+}
+
+QString DNGetLogFilePath();          ///< null where no log is installed
+QString DNGetPreviousLogFilePath();  ///< likewise; the file need not exist
+void DNCleanupLogFile();             ///< discards the previous run's log
+
+/// Sends Qt's own messages to the log as well.
+void logQtMessages();
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,134 @@
+#include "AlertPanel.h"
+
+#include "Images.h"
+#include "Palette.h"
+#include "ui_AlertPanel.h"
+
+#include <QApplication>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+constexpr int minimumPanelWidth = 360;
+constexpr int maximumPanelWidth = 520;
+
+QString alertImageName(AlertStyle style)
+{
+    switch (style) {
+    case AlertStyle::Critical:
+        return u"alert_critical"_s;
+    case AlertStyle::Warning:
+        return u"alert_warning"_s;
+    case AlertStyle::Informational:
+        break;
+    }
+    return u"alert_question"_s;
+}
+
+/// Paths and addresses have no blanks to wrap at.
+QString wrappable(QString text)
+{
+    constexpr qsizetype longestRun = 40;
+    qsizetype run = 0;
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        run = text.at(i).isSpace() ? 0 : run + 1;
+        if (run > longestRun && !text.at(i).isLowSurrogate()) {
+            text.insert(i, QChar(0x200B));
+            run = 0;
+        }
+    }
+    return text;
+}
+
+/// The widest line of a text that is not wrapped.
+int naturalWidth(const QLabel *label)
+{
+    return label->fontMetrics().boundingRect(QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), 0, label->text()).width() + 2;
+}
+
+}  // namespace
+
+AlertPanel::AlertPanel(const Alert &alert)
+    : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint), m_ui(std::make_unique<Ui::AlertPanel>()),
+      m_answerToEscape(alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate)
+{
+    m_ui->setupUi(this);
+    setTexts(alert);
+    const QPixmap icon = ImageNamed(alertImageName(alert.style), devicePixelRatioF());
+    m_ui->iconLabel->setPixmap(icon);
+    connect(m_ui->defaultButton, &QPushButton::clicked, this, &QDialog::accept);
+    connect(m_ui->alternateButton, &QPushButton::clicked, this, &QDialog::reject);
+    m_ui->defaultButton->setFocus();
+    fitWidth();
+}
+
+AlertPanel::~AlertPanel() = default;
+
+void AlertPanel::setTexts(const Alert &alert)
+{
+    m_ui->messageLabel->setText(wrappable(alert.message));
+    m_ui->informativeLabel->setText(wrappable(alert.informativeText));
+    m_ui->informativeLabel->setVisible(!alert.informativeText.isEmpty());
+    m_ui->defaultButton->setText(alert.defaultButton);
+    m_ui->alternateButton->setText(alert.alternateButton);
+    m_ui->alternateButton->setVisible(!alert.alternateButton.isNull());
+    setWindowTitle(QApplication::applicationDisplayName());
+    setAccessibleName(alert.message);
+    setAccessibleDescription(alert.informativeText);
+}
+
+void AlertPanel::fitWidth()
+{
+    ensurePolished();
+    const QMargins margins = layout()->contentsMargins();
+    const int rest = margins.left() + margins.right() + m_ui->iconLabel->sizeHint().width() + layout()->spacing();
+    const int wanted = std::max(naturalWidth(m_ui->messageLabel), naturalWidth(m_ui->informativeLabel));
+    const int width = std::clamp(wanted, minimumPanelWidth - rest, maximumPanelWidth - rest);
+    m_ui->messageLabel->setFixedWidth(width);
+    m_ui->informativeLabel->setFixedWidth(width);
+    adjustSize();
+}
+
+AlertAnswer AlertPanel::runModal()
+{
+    QWidget *window = QApplication::activeWindow();
+    placeOver(window);
+    if (window && window->windowHandle()) {
+        winId();  // makes the native window
+        windowHandle()->setTransientParent(window->windowHandle());
+    }
+    return exec() == QDialog::Accepted ? AlertAnswer::Default : m_answerToEscape;
+}
+
+void AlertPanel::placeOver(const QWidget *window)
+{
+    const QScreen *screen = window ? window->screen() : QGuiApplication::primaryScreen();
+    const QRect free = screen->availableGeometry();
+    QRect place(QPoint(), size());
+    place.moveCenter(window ? window->geometry().center() : free.center());
+    place.moveLeft(std::clamp(place.left(), free.left(), std::max(free.left(), free.right() + 1 - place.width())));
+    place.moveTop(std::clamp(place.top(), free.top(), std::max(free.top(), free.bottom() + 1 - place.height())));
+    move(place.topLeft());
+}
+
+void AlertPanel::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.fillRect(rect(), QColor(palette::strongLine));
+    painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor(palette::surface));
+}
+
+void AlertPanel::mousePressEvent(QMouseEvent *event)
+{
+    if (event->button() == Qt::LeftButton)
+        windowHandle()->startSystemMove();
+}
+
+}  // namespace kestrel::tarnwell

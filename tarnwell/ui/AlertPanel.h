@@ -1,0 +1,38 @@
+#pragma once
+
+#include "Alerts.h"
+
+#include <QDialog>
+
+#include <memory>
+
+namespace Ui {
+class AlertPanel;
+}
+
+namespace kestrel::tarnwell {
+
+/// One alert as a panel: icon, message, informative text, the default button at the right and the alternate one beside it. As wide as its
+/// texts ask for within limits, and never narrower than its buttons.
+class AlertPanel : public QDialog {
+    Q_OBJECT
+public:
+    explicit AlertPanel(const Alert &alert);
+    ~AlertPanel() override;
+
+    AlertAnswer runModal();
+
+protected:
+    void paintEvent(QPaintEvent *event) override;
+    void mousePressEvent(QMouseEvent *event) override;
+
+private:
+    void setTexts(const Alert &alert);
+    void fitWidth();
+    void placeOver(const QWidget *window);
+
+    std::unique_ptr<Ui::AlertPanel> m_ui;
+    AlertAnswer m_answerToEscape;
+};
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,41 @@
+#include "Frames.h"
+
+#include <QGuiApplication>
+#include <QScreen>
+#include <QWidget>
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+QRect primaryScreen()
+{
+    const QScreen *screen = QGuiApplication::primaryScreen();
+    return screen ? screen->geometry() : QRect();
+}
+
+}  // namespace
+
+foundation::Rect viewFrame(const QWidget *view)
+{
+    return foundation::toBottomUp(view->geometry(), view->parentWidget()->height());
+}
+
+void setViewFrame(QWidget *view, const foundation::Rect &frame)
+{
+    view->setGeometry(foundation::toTopDown(frame, view->parentWidget()->height()));
+}
+
+foundation::Rect windowFrame(const QWidget *window)
+{
+    const QRect screen = primaryScreen();
+    return foundation::toBottomUp(window->geometry().translated(-screen.topLeft()), screen.height());
+}
+
+void setWindowFrame(QWidget *window, const foundation::Rect &frame)
+{
+    const QRect screen = primaryScreen();
+    window->setGeometry(foundation::toTopDown(frame, screen.height()).translated(screen.topLeft()));
+}
+
+}  // namespace kestrel::tarnwell

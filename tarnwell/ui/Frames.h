@@ -1,0 +1,17 @@
+#pragma once
+
+#include "Geometry.h"
+
+class QWidget;
+
+/// Frames of widgets in points, bottom-up: those of views in the widget that holds them, those of windows on the primary screen.
+/// Places between two points go to the nearer one.
+namespace kestrel::tarnwell {
+
+foundation::Rect viewFrame(const QWidget *view);
+void setViewFrame(QWidget *view, const foundation::Rect &frame);
+
+foundation::Rect windowFrame(const QWidget *window);
+void setWindowFrame(QWidget *window, const foundation::Rect &frame);
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,54 @@
+#include "ImageLayer.h"
+
+#include "Images.h"
+#include "Motion.h"
+
+#include <QPainter>
+
+namespace kestrel::tarnwell {
+
+ImageLayer::ImageLayer(const QString &imageName, QWidget *parent) : QWidget(parent), m_imageName(imageName)
+{
+    setAttribute(Qt::WA_TransparentForMouseEvents);
+    m_animation.setDuration(motionTimeMs);
+    m_animation.setEasingCurve(QEasingCurve::OutCubic);
+    connect(&m_animation, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant &place) { showAt(place.toRectF()); });
+}
+
+void ImageLayer::setFrame(const foundation::Rect &frame)
+{
+    m_frame = frame;
+    const QRectF target = topDown(frame);
+    m_animation.stop();
+    if (!isVisible() || reducedMotion()) {
+        showAt(target);
+        return;
+    }
+    m_animation.setStartValue(m_place);
+    m_animation.setEndValue(target);
+    m_animation.start();
+}
+
+QRectF ImageLayer::topDown(const foundation::Rect &frame) const
+{
+    return {frame.origin.x, parentWidget()->height() - frame.origin.y - frame.size.height, frame.size.width,
+            frame.size.height};
+}
+
+void ImageLayer::showAt(const QRectF &place)
+{
+    m_place = place;
+    setGeometry(place.toAlignedRect());
+    update();
+}
+
+void ImageLayer::paintEvent(QPaintEvent *)
+{
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    const QPixmap image = ImageNamed(m_imageName, devicePixelRatioF());
+    painter.drawPixmap(m_place.translated(-pos()), image, image.rect().toRectF());
+}
+
+}  // namespace kestrel::tarnwell

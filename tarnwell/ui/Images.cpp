@@ -1,0 +1,131 @@
+#include "Images.h"
+
+#include "Bundle.h"
+#include "Log.h"
+#include "ProductInformation.h"
+
+#include <QHash>
+#include <QIconEngine>
+#include <QPainter>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+struct Rendering {
+    qreal scale;
+    const char *suffix;
+};
+
+constexpr Rendering renderings[] = {{1, ""}, {1.5, "@1.5x"}, {2, "@2x"}};
+constexpr qreal disabledOpacity = 0.4;
+
+const Rendering &renderingFor(qreal scale)
+{
+    for (const Rendering &rendering : renderings)
+        if (scale < rendering.scale + 0.01)
+            return rendering;
+    return renderings[2];
+}
+
+QPixmap readImage(const QString &path, qreal scale)
+{
+    QImage image;
+    if (!image.load(path, "PNG")) {
+        DNFootLog(u"The image %1 cannot be read"_s, path);
+        return {};
+    }
+    // The reader takes a scale from some file names itself.
+    image.setDevicePixelRatio(scale);
+    return QPixmap::fromImage(std::move(image));
+}
+
+/// The images of the bundle as an icon, which reads no rendering before it is shown.
+class NamedIconEngine : public QIconEngine {
+public:
+    explicit NamedIconEngine(const QString &name) : m_name(name) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State) override
+    {
+        const qreal scale = painter->device()->devicePixelRatioF();
+        const QPixmap image = pixmapOf(rect.size() * scale, scale, mode);
+        const QSizeF size = image.deviceIndependentSize();
+        drawCrisp(*painter, rect.toRectF().center() - QPointF(size.width(), size.height()) / 2, image);
+    }
+
+    /// `size` is in device pixels; the icon sets the scale of the result.
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
+    {
+        const QSizeF points = ImageNamed(m_name, 1).deviceIndependentSize();
+        return points.isEmpty() ? QPixmap() : pixmapOf(size, size.width() / points.width(), mode);
+    }
+
+    QIconEngine *clone() const override { return new NamedIconEngine(*this); }
+    QString iconName() override { return m_name; }
+    bool isNull() override { return ImageNamed(m_name, 1).isNull(); }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {ImageNamed(m_name, 1).size()}; }
+
+private:
+    QPixmap pixmapOf(const QSize &pixels, qreal scale, QIcon::Mode mode) const
+    {
+        QPixmap image = ImageNamed(m_name, scale);
+        if (image.isNull())
+            return image;
+        const qreal ratio = std::min(scale, image.devicePixelRatio());
+        const QSize shown = (image.deviceIndependentSize() * ratio).toSize().boundedTo(
+            image.size().scaled(pixels, Qt::KeepAspectRatio));
+        if (shown != image.size())
+            image = image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        image.setDevicePixelRatio(ratio);
+        return mode == QIcon::Disabled ? faded(image) : image;
+    }
+
+    static QPixmap faded(const QPixmap &image)
+    {
+        QPixmap result(image.size());
+        result.setDevicePixelRatio(image.devicePixelRatio());
+        result.fill(Qt::transparent);
+        QPainter painter(&result);
+        painter.setOpacity(disabledOpacity);
+        painter.drawPixmap(QPointF(), image);
+        return result;
+    }
+
+    QString m_name;
+};
+
+}  // namespace
+
+QString ImagePathNamed(const QString &name, qreal scale)
+{
+    return productBundle().resource("images/"_L1 + name + QLatin1StringView(renderingFor(scale).suffix) + ".png"_L1);
+}
+
+QPixmap ImageNamed(const QString &name, qreal scale)
+{
+    if (name.isEmpty())
+        return {};
+    static QHash<QString, QPixmap> images;
+    const QString path = ImagePathNamed(name, scale);
+    auto image = images.constFind(path);
+    if (image == images.cend())
+        image = images.insert(path, readImage(path, renderingFor(scale).scale));
+    return *image;
+}
+
+QIcon IconNamed(const QString &name)
+{
+    return QIcon(new NamedIconEngine(name));
+}
+
+void drawCrisp(QPainter &painter, const QPointF &topLeft, const QPixmap &pixmap)
+{
+    // At 150 % every other point falls between two pixels of the screen.
+    const QTransform toDevice = painter.deviceTransform();
+    const QPointF pixel = toDevice.map(topLeft);
+    painter.drawPixmap(toDevice.inverted().map(QPointF(std::round(pixel.x()), std::round(pixel.y()))), pixmap);
+}
+
+}  // namespace kestrel::tarnwell

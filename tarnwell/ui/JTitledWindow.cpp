@@ -1,0 +1,204 @@
+#include "JTitledWindow.h"
+
+#include "Frames.h"
+#include "JHoverButton.h"
+#include "Palette.h"
+#include "WindowTitleBar.h"
+
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QCloseEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+/// One point around the window, over whatever lies at its edges: without a frame of the desktop's it would melt into what is behind it.
+class WindowEdge : public QWidget {
+public:
+    explicit WindowEdge(QWidget *window) : QWidget(window) { setAttribute(Qt::WA_TransparentForMouseEvents); }
+
+protected:
+    void resizeEvent(QResizeEvent *) override { setMask(QRegion(rect()) - rect().adjusted(1, 1, -1, -1)); }
+    void paintEvent(QPaintEvent *) override { QPainter(this).fillRect(rect(), QColor(palette::strongLine)); }
+};
+
+/// Tells assistive programs that it is a window; a plain widget is nothing to them.
+QAccessibleInterface *windowInterface(const QString &className, QObject *object)
+{
+    if (className != "kestrel::tarnwell::JTitledWindow"_L1)
+        return nullptr;
+    return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Window);
+}
+
+}  // namespace
+
+JTitledWindow::JTitledWindow(QWidget *parent)
+    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint),
+      m_titleBar(new WindowTitleBar(this)), m_contentView(new QWidget(this)), m_edge(new WindowEdge(this)),
+      m_titleBarHeight(int(defaultTitleBarHeight))
+{
+    QAccessible::installFactory(windowInterface);
+    const auto clicked = &JHoverButton::clicked;
+    connect(m_titleBar->button(WindowButton::Close), clicked, this, &JTitledWindow::performClose);
+    connect(m_titleBar->button(WindowButton::Minimize), clicked, this, &QWidget::showMinimized);
+    connect(m_titleBar->button(WindowButton::Zoom), clicked, this, &JTitledWindow::zoom);
+    layOut();
+}
+
+void JTitledWindow::makeInitWithImageName(const QString &backgroundName, const QString &titleBackgroundName)
+{
+    m_titleBar->setImageNames(backgroundName, titleBackgroundName);
+}
+
+void JTitledWindow::setTitleBarHeight(double height)
+{
+    m_titleBarHeight = qRound(height);
+    layOut();
+}
+
+foundation::Rect JTitledWindow::frame() const
+{
+    return windowFrame(this);
+}
+
+void JTitledWindow::setFrame(const foundation::Rect &frame)
+{
+    m_geometryBeforeZoom = {};
+    setWindowFrame(this, frame);
+    // A window that was never shown hears of its size only when it is.
+    layOut();
+}
+
+void JTitledWindow::center()
+{
+    QRect place = geometry();
+    place.moveCenter(screen()->availableGeometry().center());
+    setGeometry(place);
+}
+
+void JTitledWindow::setButtonVisible(WindowButton button, bool visible)
+{
+    m_titleBar->setButtonVisible(button, visible);
+}
+
+void JTitledWindow::setCloseAction(std::function<void()> action)
+{
+    m_closeAction = std::move(action);
+}
+
+void JTitledWindow::setMenus(const QList<QMenu *> &menus)
+{
+    m_titleBar->setMenus(menus);
+}
+
+void JTitledWindow::setShouldClose(std::function<bool()> shouldClose)
+{
+    m_shouldClose = std::move(shouldClose);
+}
+
+void JTitledWindow::makeKeyAndOrderFront()
+{
+    setWindowState(windowState() & ~Qt::WindowMinimized);
+    show();
+    raise();
+    activateWindow();
+}
+
+void JTitledWindow::zoom()
+{
+    // Plain geometry: window managers differ in what they make of a frameless window that is maximised.
+    const bool isZoomed = !m_geometryBeforeZoom.isNull();
+    const QRect target = isZoomed ? m_geometryBeforeZoom : screen()->availableGeometry();
+    m_geometryBeforeZoom = isZoomed ? QRect() : geometry();
+    setGeometry(target);
+}
+
+void JTitledWindow::performClose()
+{
+    if (const auto action = m_closeAction)
+        action();
+    else
+        close();
+}
+
+void JTitledWindow::closeEvent(QCloseEvent *event)
+{
+    // The desktop's own ways to close a window do what the close button does.
+    if (event->spontaneous() && m_closeAction) {
+        event->ignore();
+        m_closeAction();
+        return;
+    }
+    if (m_shouldClose && !m_shouldClose()) {
+        event->ignore();
+        return;
+    }
+    event->accept();
+    emit willClose();
+}
+
+void JTitledWindow::resizeEvent(QResizeEvent *)
+{
+    layOut();
+}
+
+void JTitledWindow::showEvent(QShowEvent *)
+{
+    // Left alone, the first control in the window would have the keyboard: the close button.
+    if (!focusWidget() || m_titleBar->isAncestorOf(focusWidget()))
+        m_contentView->setFocus();
+}
+
+void JTitledWindow::layOut()
+{
+    m_titleBar->setGeometry(0, 0, width(), m_titleBarHeight);
+    m_contentView->setGeometry(0, m_titleBarHeight, width(), height() - m_titleBarHeight);
+    m_edge->setGeometry(rect());
+}
+
+void JTitledWindow::mousePressEvent(QMouseEvent *event)
+{
+    // What the controls leave unused arrives here.
+    const bool isHandle = m_isMovableByWindowBackground || m_titleBar->geometry().contains(event->position().toPoint());
+    if (event->button() == Qt::LeftButton && isHandle)
+        m_drag = Drag{event->globalPosition().toPoint(), pos()};
+}
+
+void JTitledWindow::mouseMoveEvent(QMouseEvent *event)
+{
+    if (!m_drag)
+        return;
+    const QPoint distance = event->globalPosition().toPoint() - m_drag->start;
+    if (!m_drag->hasBegun) {
+        if (distance.manhattanLength() < QApplication::startDragDistance())
+            return;
+        // The desktop's own move snaps and changes screens well, but swallows the release. Not every desktop has one.
+        if (windowHandle()->startSystemMove()) {
+            m_drag.reset();
+            return;
+        }
+        m_drag->hasBegun = true;
+    }
+    move(m_drag->origin + distance);
+}
+
+void JTitledWindow::mouseReleaseEvent(QMouseEvent *)
+{
+    m_drag.reset();
+}
+
+void JTitledWindow::mouseDoubleClickEvent(QMouseEvent *event)
+{
+    m_drag.reset();
+    const bool canZoom = !m_titleBar->button(WindowButton::Zoom)->isHidden();
+    if (event->button() == Qt::LeftButton && canZoom && m_titleBar->geometry().contains(event->position().toPoint()))
+        zoom();
+}
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,11 @@
+#pragma once
+
+/// How things move: for a reason, briefly, and not at all where the desktop asks for that.
+namespace kestrel::tarnwell {
+
+inline constexpr int motionTimeMs = 250;
+
+/// Whether the desktop's settings turn animations off. Asked before each motion, so that a change counts at once.
+bool reducedMotion();
+
+}  // namespace kestrel::tarnwell

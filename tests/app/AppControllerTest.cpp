@@ -1,0 +1,260 @@
+#include "AppController.h"
+
+#include "JKestrelSetting.h"
+#include "JKestrelSettingDispatcher.h"
+#include "JTitledWindow.h"
+#include "LWindowTransitionAnimator.h"
+#include "ProductFolder.h"
+#include "RecordingModule.h"
+#include "TestEnvironment.h"
+#include "UserDefaults.h"
+#include "WebPages.h"
+#include "_JKestrelWindow.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+struct RecordingOpener final : tarnwell::WebOpener {
+    bool openUrl(const QUrl &url) override
+    {
+        urls.append(url.toString(QUrl::FullyEncoded));
+        return true;
+    }
+    QStringList urls;
+};
+
+class AppControllerTest : public testing::Test {
+protected:
+    template <class Module>
+    ModuleFactory factory(const QString &name, const QSize &viewSize)
+    {
+        return [this, name, viewSize](const ModuleConfigure &configure) {
+            const auto dispatcher = configure.value(moduleSettingKey.toString());
+            m_messages.append(u"%1 made with %2 of %3"_s.arg(name).arg(dispatcher->dispatchType()).arg(configure.size()));
+            return std::make_unique<Module>(name, viewSize, m_messages);
+        };
+    }
+
+    std::unique_ptr<AppController> makeHost()
+    {
+        return std::make_unique<AppController>(AppController::Surroundings{
+            .mainWindow = m_window,
+            .setting = m_setting,
+            .defaults = m_defaults,
+            .modules = {factory<test::EagerModule>(u"video"_s, {900, 600}),
+                        factory<test::RecordingModule>(u"dvd"_s, {640, 480}),
+                        factory<test::EagerModule>(u"downloader"_s, {700, 500}),
+                        factory<test::EagerModule>(u"recorder"_s, {500, 400})},
+            .windows = {.setting = [this](QWidget *over) { m_presentedOver = over; }, .about = {}},
+            .terminate = [this] { m_messages.append(u"terminate"_s); }});
+    }
+
+    /// What happened since it was last asked.
+    QStringList messages() { return std::exchange(m_messages, {}); }
+    static bool settled() { return !tarnwell::LWindowTransitionAnimator::sharedAnimator().isRunning(); }
+
+    QTemporaryDir m_folder;
+    test::ProductFolder m_product{test::productInformation()};
+    foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
+    JKestrelSetting m_setting{m_defaults};
+    tarnwell::JTitledWindow m_window;
+    QStringList m_messages;
+    QWidget *m_presentedOver = nullptr;
+};
+
+/// A host that has been launched, with its launch messages taken.
+class LaunchedHostTest : public AppControllerTest {
+protected:
+    LaunchedHostTest() : m_host(makeHost())
+    {
+        m_host->applicationWillFinishLaunching();
+        m_host->applicationDidFinishLaunching();
+        messages();
+    }
+    tarnwell::JTitledWindow &home() { return *m_host->menuController()->window(); }
+    void open(void (AppController::*opener)())
+    {
+        (m_host.get()->*opener)();
+        ASSERT_TRUE(test::waitUntil(settled));
+    }
+
+    std::unique_ptr<AppController> m_host;
+};
+
+}  // namespace
+
+TEST(MainWindowFrameTest, is_centred_by_the_view_without_its_title_bar)
+{
+    EXPECT_EQ(mainWindowFrame({100, 100, 800, 500}, {900, 600}), foundation::Rect(50, 50, 900, 624));
+    EXPECT_EQ(mainWindowFrame({0, 0, 101, 51}, {}), foundation::Rect(50.5, 25.5, 0, 24));
+}
+
+TEST_F(AppControllerTest, launch_makes_the_modules_in_order_and_remembers_their_sizes)
+{
+    const auto host = makeHost();
+    host->applicationWillFinishLaunching();
+    EXPECT_EQ(messages(), (QStringList{u"video made with 0 of 1"_s, u"dvd made with 1 of 1"_s,
+                                       u"downloader made with 2 of 1"_s, u"recorder made with 3 of 1"_s}));
+    EXPECT_EQ(host->convertControllerOriginalSize(), (foundation::Size{900, 600}));
+    EXPECT_EQ(host->recorderControllerOriginalSize(), (foundation::Size{500, 400}));
+    EXPECT_EQ(host->airPlayControllerOriginalSize(), foundation::Size());
+    EXPECT_EQ(m_setting.currMode(), u"menu"_s);
+    EXPECT_EQ(host->converterController()->view()->parentWidget(), nullptr);
+    EXPECT_FALSE(host->menuController()->window()->isVisible());
+
+    host->applicationDidFinishLaunching();
+    EXPECT_TRUE(host->menuController()->window()->isVisible());
+    EXPECT_FALSE(m_window.isVisible());
+    EXPECT_FALSE(host->windowShouldClose());
+}
+
+TEST_F(AppControllerTest, missing_modules_and_views_leave_the_rest_working)
+{
+    AppController host({.mainWindow = m_window,
+                        .setting = m_setting,
+                        .defaults = m_defaults,
+                        .modules = {.converter = {},
+                                    .ripper = [](const ModuleConfigure &) { return nullptr; },
+                                    .downloader = factory<test::RecordingModule>(u"downloader"_s, QSize()),
+                                    .recorder = {}},
+                        .windows = {},
+                        .terminate = [] {}});
+    host.applicationWillFinishLaunching();
+    host.applicationDidFinishLaunching();
+    host.onShowMarlin();
+    host.onShowHeron();
+    EXPECT_EQ(host.currentController(), nullptr);
+    EXPECT_EQ(m_setting.currMode(), u"menu"_s);
+    const foundation::Rect home = host.menuController()->window()->frame();
+    host.onShowPetrel();
+    EXPECT_EQ(host.currentController(), host.downloaderController());
+    EXPECT_EQ(m_window.frame().size.height, 24);
+    EXPECT_NEAR(m_window.frame().origin.x, home.center().x, 1);
+    EXPECT_TRUE(m_window.windowTitle().isEmpty());
+    host.applicationWillTerminate();
+}
+
+TEST_F(LaunchedHostTest, opening_swaps_the_view_into_a_window_around_it)
+{
+    home().setFrame({100, 100, 800, 500});
+    open(&AppController::onShowMarlin);
+    EXPECT_EQ(messages(), QStringList(u"video markAppear"_s));
+    EXPECT_EQ(m_window.frame(), foundation::Rect(50, 50, 900, 624));
+    EXPECT_EQ(m_window.windowTitle(), u"Kestrel 4K - video"_s);
+    EXPECT_EQ(m_setting.currMode(), u"video"_s);
+    EXPECT_TRUE(m_window.isVisible());
+    EXPECT_FALSE(home().isVisible());
+    QWidget *view = m_host->converterController()->view();
+    EXPECT_EQ(view->parentWidget(), m_window.contentView());
+    EXPECT_EQ(view->geometry(), QRect(0, 0, 900, 600));
+
+    view->resize(300, 300);
+    open(&AppController::onShowMarlin);
+    EXPECT_EQ(messages(), (QStringList{u"video markAppear"_s, u"video onViewDidDisappear"_s}));
+    EXPECT_EQ(view->size(), QSize(900, 600));
+    EXPECT_TRUE(view->isVisible());
+
+    open(&AppController::onShowHeron);
+    EXPECT_EQ(messages(), QStringList(u"video onViewDidDisappear"_s));
+    EXPECT_EQ(view->parentWidget(), nullptr);
+    EXPECT_EQ(m_setting.currMode(), u"dvd"_s);
+}
+
+TEST_F(LaunchedHostTest, leaving_brings_the_home_window_back)
+{
+    open(&AppController::onShowPetrel);
+    messages();
+    m_host->closeSubWindowAction();
+    EXPECT_TRUE(messages().isEmpty()) << "the action belongs to a later turn";
+    ASSERT_TRUE(test::waitUntil([this] { return home().isVisible() && settled(); }));
+    EXPECT_EQ(messages(), QStringList(u"downloader doBackAction"_s));
+    EXPECT_FALSE(m_window.isVisible());
+    EXPECT_EQ(m_setting.currMode(), u"menu"_s);
+}
+
+TEST_F(LaunchedHostTest, the_download_module_checks_its_engine_on_each_opening)
+{
+    const QStringList first = {u"downloader markAppear"_s, u"downloader checkCoreUpdateInBackground"_s};
+    open(&AppController::onShowPetrel);
+    EXPECT_EQ(messages(), first);
+    open(&AppController::onShowPetrel);
+    EXPECT_EQ(messages().last(), first.last());
+}
+
+TEST_F(LaunchedHostTest, the_recorder_starts_when_the_transition_has_ended)
+{
+    m_host->onShowRecorder();
+    EXPECT_EQ(messages(), QStringList(u"recorder markAppear"_s));
+    ASSERT_TRUE(test::waitUntil(settled));
+    EXPECT_EQ(messages(), QStringList(u"recorder startRecorderSession"_s));
+}
+
+TEST_F(LaunchedHostTest, windows_close_as_their_content_allows)
+{
+    open(&AppController::onShowHeron);
+    auto *module = dynamic_cast<test::RecordingModule *>(m_host->ripperController());
+    m_window.close();
+    EXPECT_TRUE(m_window.isVisible());
+    module->m_mayTerminate = true;
+    m_window.close();
+    EXPECT_FALSE(m_window.isVisible());
+    EXPECT_TRUE(messages().isEmpty());
+    home().show();
+    home().close();
+    EXPECT_EQ(messages(), QStringList(u"terminate"_s));
+}
+
+TEST_F(LaunchedHostTest, settings_open_over_the_visible_window)
+{
+    m_host->showSetting();
+    EXPECT_EQ(m_presentedOver, &home());
+    open(&AppController::onShowMarlin);
+    m_host->onShowSetting();
+    EXPECT_EQ(m_presentedOver, &m_window);
+}
+
+TEST_F(LaunchedHostTest, tips_and_files_reach_the_conversion_module)
+{
+    m_host->showProperTip();
+    EXPECT_TRUE(messages().isEmpty());
+    m_host->openFiles({u"/a.mov"_s});
+    ASSERT_TRUE(test::waitUntil(settled));
+    m_host->openFiles({u"/b.mov"_s, u"/c.mov"_s});
+    m_host->showProperTip();
+    EXPECT_EQ(messages(), (QStringList{u"video markAppear"_s, u"video openFiles /a.mov"_s, u"video openFiles /b.mov /c.mov"_s,
+                                       u"video showFirstOpenAppTip"_s}));
+}
+
+TEST_F(LaunchedHostTest, terminating_saves_modules_then_settings)
+{
+    m_setting.dvd()->setPrefferLanguage(u"it"_s);
+    m_host->applicationWillTerminate();
+    EXPECT_EQ(messages(), QStringList(u"video syncSetting"_s));
+    foundation::UserDefaults read(m_folder.filePath(u"defaults.plist"_s));
+    EXPECT_EQ(JKestrelSetting(read).dvd()->prefferLanguage(), u"it"_s);
+}
+
+TEST_F(AppControllerTest, a_new_version_is_recorded_and_announced_once)
+{
+    RecordingOpener opener;
+    const tarnwell::Installed<tarnwell::WebOpener> installed(opener);
+    m_defaults.setObject(u"6.2.0"_s, u"InstalledVersion"_s);
+    for (int launch = 0; launch < 2; ++launch) {
+        JKestrelSetting setting(m_defaults);
+        AppController host({.mainWindow = m_window, .setting = setting, .defaults = m_defaults, .modules = {}, .windows = {},
+                            .terminate = [] {}});
+        host.applicationWillFinishLaunching();
+        host.applicationDidFinishLaunching();
+        EXPECT_EQ(setting.firstRun(), launch == 0);
+        EXPECT_EQ(setting.previousVersion(), launch == 0 ? u"6.2.0"_s : QString());
+    }
+    EXPECT_EQ(opener.urls, QStringList(u"https://www.tarnwell.example/welcome/?a=1"_s));
+    EXPECT_EQ(m_defaults.stringForKey(u"InstalledVersion"_s), u"6.2.1"_s);
+}
+
+}  // namespace kestrel

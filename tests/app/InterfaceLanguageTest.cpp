@@ -1,0 +1,77 @@
+#include "InterfaceLanguage.h"
+
+#include "UserDefaults.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+constexpr char errorLine[] = "configure application language error, force to use english.\n";
+
+}  // namespace
+
+TEST(InterfaceLanguageTest, choice_and_system_settle_the_language)
+{
+    const QVariant unset;
+    const auto list = [](const QStringList &codes) { return QVariant(QVariantList(codes.begin(), codes.end())); };
+    const struct {
+        const char *name;
+        QVariant choice;
+        QVariant stored;
+        QStringList system;
+        QString expected;
+        bool isError = false;
+    } rows[] = {
+        {"unset, unsupported system language", unset, unset, {u"pt-BR"_s}, u"en"_s},
+        {"default, script and region", u"Default"_s, unset, {u"zh-Hant-TW"_s, u"en-US"_s}, u"zh-Hant"_s},
+        {"default, simplified", u"Default"_s, unset, {u"zh-Hans-CN"_s}, u"zh-Hans"_s},
+        {"default, region", unset, unset, {u"en-GB"_s}, u"en"_s},
+        {"only the first system language counts", unset, unset, {u"pt"_s, u"de-DE"_s}, u"en"_s},
+        {"default replaces what an earlier choice wrote", u"Default"_s, list({u"fr"_s}), {u"ja-JP"_s}, u"ja"_s},
+        {"choice", u"fr"_s, list({u"de"_s, u"en"_s}), {u"ja"_s}, u"fr"_s},
+        {"choice before anything is stored", u"ko"_s, unset, {u"ja"_s}, u"ko"_s},
+        {"choice that is stored already", u"fr"_s, list({u"fr"_s}), {u"ja"_s}, u"fr"_s},
+        {"empty list", u"fr"_s, list({}), {u"ja"_s}, u"en"_s, true},
+        {"list of another type", u"fr"_s, u"fr"_s, {u"ja"_s}, u"en"_s, true},
+        {"choice of another type", 12, unset, {u"ja"_s}, u"en"_s, true},
+        {"no system language", unset, unset, {}, u"en"_s, true},
+    };
+    for (const auto &[name, choice, stored, system, expected, isError] : rows) {
+        SCOPED_TRACE(name);
+        const QTemporaryDir folder;
+        foundation::UserDefaults defaults(folder.filePath(u"defaults.plist"_s));
+        if (choice.isValid())
+            defaults.setObject(choice, customizeLanguageKey.toString());
+        if (stored.isValid())
+            defaults.setObject(stored, appleLanguagesKey.toString());
+        testing::internal::CaptureStderr();
+        settleInterfaceLanguage(defaults, system);
+        EXPECT_EQ(testing::internal::GetCapturedStderr(), isError ? errorLine : "");
+        EXPECT_EQ(defaults.stringArrayForKey(appleLanguagesKey.toString()), QStringList(expected));
+    }
+}
+
+TEST(InterfaceLanguageTest, a_language_that_holds_already_is_not_written)
+{
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"defaults.plist"_s);
+    {
+        foundation::UserDefaults defaults(path);
+        defaults.setObject(u"fr"_s, customizeLanguageKey.toString());
+        defaults.setObject(QVariantList{u"fr"_s}, appleLanguagesKey.toString());
+    }
+    foundation::UserDefaults defaults(path);
+    ASSERT_TRUE(QFile::remove(path));
+    settleInterfaceLanguage(defaults, {u"ja"_s});
+    defaults.synchronize();
+    EXPECT_FALSE(QFile::exists(path));
+}
+
+}  // namespace kestrel

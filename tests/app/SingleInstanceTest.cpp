@@ -1,0 +1,65 @@
+#include "SingleInstance.h"
+
+#include "TestEnvironment.h"
+
+#include <gtest/gtest.h>
+
+#include <QFile>
+#include <QLocalSocket>
+#include <QSignalSpy>
+#include <QTemporaryDir>
+
+#include <future>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+TEST(SingleInstanceTest, a_second_start_hands_its_files_over)
+{
+    const QTemporaryDir folder;
+    SingleInstance first(folder.path());
+    ASSERT_EQ(first.claim({}), SingleInstance::Role::First);
+    QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
+    const QStringList files = {u"/a b.mov"_s, u"/ü\n.mkv"_s};
+    auto second = std::async(std::launch::async, [&] { return SingleInstance(folder.path()).claim(files); });
+    ASSERT_TRUE(test::waitUntil([&] { return startedAgain.count() == 1; }));
+    EXPECT_EQ(startedAgain.at(0).at(0).toStringList(), files);
+    EXPECT_EQ(second.get(), SingleInstance::Role::Second);
+}
+
+TEST(SingleInstanceTest, what_a_dead_one_left_is_no_hindrance)
+{
+    const QTemporaryDir folder;
+    for (const QString &name : {u"instance.lock"_s, u"instance.socket"_s}) {
+        QFile file(folder.filePath(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("99999999"));
+    }
+    SingleInstance next(folder.path());
+    EXPECT_EQ(next.claim({}, 0), SingleInstance::Role::First);
+}
+
+TEST(SingleInstanceTest, one_that_does_not_answer_is_told_apart)
+{
+    const QTemporaryDir folder;
+    SingleInstance busy(folder.path());
+    ASSERT_EQ(busy.claim({}), SingleInstance::Role::First);
+    // Its event loop does not run.
+    EXPECT_EQ(SingleInstance(folder.path()).claim({}, 100), SingleInstance::Role::Unanswered);
+}
+
+TEST(SingleInstanceTest, noise_on_the_socket_is_ignored)
+{
+    const QTemporaryDir folder;
+    SingleInstance first(folder.path());
+    ASSERT_EQ(first.claim({}), SingleInstance::Role::First);
+    QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
+    QLocalSocket socket;
+    socket.connectToServer(folder.filePath(u"instance.socket"_s));
+    ASSERT_TRUE(socket.waitForConnected(1000));
+    socket.write(QByteArray(3 * 1024 * 1024, '\xff'));
+    EXPECT_TRUE(test::waitUntil([&] { return socket.state() == QLocalSocket::UnconnectedState; }));
+    EXPECT_EQ(startedAgain.count(), 0);
+}
+
+}  // namespace kestrel
