@@ -76,9 +76,8 @@ bool HWECanEncodeVideoInSize(quint32 codec, int width, int height)
     if (codec != avc1)
         return false;
     constexpr const char *renderNodes[] = {"/dev/dri/renderD128", "/dev/dri/renderD129"};
-    return std::any_of(std::begin(renderNodes), std::end(renderNodes), [&](const char *node) {
-        return VideoDevice(node).canEncode(VAProfileH264Main, width, height);
-    });
+    return std::any_of(std::begin(renderNodes), std::end(renderNodes),
+                       [&](const char *node) { return VideoDevice(node).canEncode(VAProfileH264Main, width, height); });
 }
 
 }  // namespace kestrel::tarnwell

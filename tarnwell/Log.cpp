@@ -39,8 +39,9 @@ QString withoutPrivateParts(const QString &text, const QString &homeFolder)
     result.replace(credentials, u"\\1"_s);
     if (homeFolder.size() > 1 && result.contains(homeFolder)) {
         // Whole path components, at the end of a sentence too.
-        const QRegularExpression home(u"(?<![\\w.-])"_s + QRegularExpression::escape(homeFolder) + u"(?![\\w-]|\\.\\w)"_s,
-                                      QRegularExpression::UseUnicodePropertiesOption);
+        const QRegularExpression home(
+            u"(?<![\\w.-])"_s + QRegularExpression::escape(homeFolder) + u"(?![\\w-]|\\.\\w)"_s,
+            QRegularExpression::UseUnicodePropertiesOption);
         result.replace(home, u"~"_s);
     }
     result.remove(u'\r');
@@ -49,7 +50,9 @@ QString withoutPrivateParts(const QString &text, const QString &homeFolder)
 }
 
 Log::Log(const QString &folder, qint64 maximumBytes)
-    : m_file(folder + u"/kestrel.log"_s), m_previousPath(folder + u"/kestrel-previous.log"_s), m_maximumBytes(maximumBytes)
+    : m_file(folder + u"/kestrel.log"_s),
+      m_previousPath(folder + u"/kestrel-previous.log"_s),
+      m_maximumBytes(maximumBytes)
 {
     threadName();
     QDir().mkpath(folder);

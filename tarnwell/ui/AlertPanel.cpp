@@ -22,12 +22,12 @@ constexpr int maximumPanelWidth = 520;
 QString alertImageName(AlertStyle style)
 {
     switch (style) {
-    case AlertStyle::Critical:
-        return u"alert_critical"_s;
-    case AlertStyle::Warning:
-        return u"alert_warning"_s;
-    case AlertStyle::Informational:
-        break;
+        case AlertStyle::Critical:
+            return u"alert_critical"_s;
+        case AlertStyle::Warning:
+            return u"alert_warning"_s;
+        case AlertStyle::Informational:
+            break;
     }
     return u"alert_question"_s;
 }
@@ -50,13 +50,15 @@ QString wrappable(QString text)
 /// The widest line of a text that is not wrapped.
 int naturalWidth(const QLabel *label)
 {
-    return label->fontMetrics().boundingRect(QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), 0, label->text()).width() + 2;
+    return label->fontMetrics().boundingRect(QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), 0, label->text()).width() +
+           2;
 }
 
 }  // namespace
 
 AlertPanel::AlertPanel(const Alert &alert)
-    : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint), m_ui(std::make_unique<Ui::AlertPanel>()),
+    : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint),
+      m_ui(std::make_unique<Ui::AlertPanel>()),
       m_answerToEscape(alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate)
 {
     m_ui->setupUi(this);

@@ -4,8 +4,8 @@
 
 class QWidget;
 
-/// Frames of widgets in points, bottom-up: those of views in the widget that holds them, those of windows on the primary screen.
-/// Places between two points go to the nearer one.
+/// Frames of widgets in points, bottom-up: those of views in the widget that holds them, those of windows on the
+/// primary screen. Places between two points go to the nearer one.
 namespace kestrel::tarnwell {
 
 foundation::Rect viewFrame(const QWidget *view);

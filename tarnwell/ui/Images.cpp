@@ -74,8 +74,9 @@ private:
         if (image.isNull())
             return image;
         const qreal ratio = std::min(scale, image.devicePixelRatio());
-        const QSize shown = (image.deviceIndependentSize() * ratio).toSize().boundedTo(
-            image.size().scaled(pixels, Qt::KeepAspectRatio));
+        const QSize shown = (image.deviceIndependentSize() * ratio)
+                                .toSize()
+                                .boundedTo(image.size().scaled(pixels, Qt::KeepAspectRatio));
         if (shown != image.size())
             image = image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         image.setDevicePixelRatio(ratio);

@@ -85,7 +85,8 @@ void JHoverButton::paintEvent(QPaintEvent *)
         QRect iconPlace(QPoint(), size);
         iconPlace.moveCenter(place.center());
         shown.paint(&painter, iconPlace, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-        place.setRect(place.right() + 1 + iconSpacing, 0, width() - place.right() - 1 - iconSpacing - textMargin, height());
+        place.setRect(place.right() + 1 + iconSpacing, 0, width() - place.right() - 1 - iconSpacing - textMargin,
+                      height());
     }
     if (!text().isEmpty()) {
         painter.setPen(isLit ? QColor(palette::accent) : QWidget::palette().color(QPalette::ButtonText));

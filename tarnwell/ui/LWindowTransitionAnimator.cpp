@@ -29,7 +29,10 @@ public:
     TransitionGhost(QWidget *from, QWidget *to)
         : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
                                Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput),
-          m_fromPlace(from->geometry()), m_toPlace(to->geometry()), m_fromPicture(from->grab()), m_toPicture(to->grab())
+          m_fromPlace(from->geometry()),
+          m_toPlace(to->geometry()),
+          m_fromPicture(from->grab()),
+          m_toPicture(to->grab())
     {
         setAttribute(Qt::WA_OpaquePaintEvent);
         setAttribute(Qt::WA_NoSystemBackground);
@@ -75,7 +78,8 @@ LWindowTransitionAnimator::LWindowTransitionAnimator()
     m_animation.setStartValue(0.0);
     m_animation.setEndValue(1.0);
     m_animation.setEasingCurve(QEasingCurve::OutCubic);
-    connect(&m_animation, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) { step(value.toDouble()); });
+    connect(&m_animation, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant &value) { step(value.toDouble()); });
     connect(&m_animation, &QAbstractAnimation::finished, this, &LWindowTransitionAnimator::finish);
     connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
         m_animation.stop();
@@ -113,8 +117,8 @@ void LWindowTransitionAnimator::step(double progress)
 {
     if (!m_transition || !m_ghost || progress <= 0)
         return;
-    // A picture that shrinks would bare the window it was taken of. That one stays open until the other is, so it is cut to what
-    // the picture covers; not before the picture has had a frame's time to appear.
+    // A picture that shrinks would bare the window it was taken of. That one stays open until the other is, so it is
+    // cut to what the picture covers; not before the picture has had a frame's time to appear.
     QWidget *from = m_transition->from;
     if (const QRegion covered = m_ghost->coveredPartOfSource(); from && from->mask().isEmpty() && !covered.isEmpty())
         from->setMask(covered);

@@ -58,9 +58,11 @@ bool reducedMotion()
 {
     const QString variable = qEnvironmentVariable("XDG_CONFIG_HOME");
     const QString folder = QDir::isAbsolutePath(variable) ? variable : QDir::homePath() + "/.config"_L1;
-    return std::any_of(std::begin(animationSettings), std::end(animationSettings), [&](const AnimationSetting &setting) {
-        return setting.asksForNone(settingsValue(folder + u'/' + QLatin1StringView(setting.file), setting.section, setting.key));
-    });
+    return std::any_of(
+        std::begin(animationSettings), std::end(animationSettings), [&](const AnimationSetting &setting) {
+            return setting.asksForNone(
+                settingsValue(folder + u'/' + QLatin1StringView(setting.file), setting.section, setting.key));
+        });
 }
 
 }  // namespace kestrel::tarnwell

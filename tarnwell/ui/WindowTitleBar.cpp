@@ -85,16 +85,16 @@ void WindowTitleBar::setMenus(const QList<QMenu *> &menus)
 bool WindowTitleBar::event(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::Resize:
-    case QEvent::LayoutRequest:
-        layOut();
-        break;
-    case QEvent::WindowActivate:
-    case QEvent::WindowDeactivate:
-        update();
-        break;
-    default:
-        break;
+        case QEvent::Resize:
+        case QEvent::LayoutRequest:
+            layOut();
+            break;
+        case QEvent::WindowActivate:
+        case QEvent::WindowDeactivate:
+            update();
+            break;
+        default:
+            break;
     }
     return QWidget::event(event);
 }
@@ -157,7 +157,8 @@ void WindowTitleBar::paintTitle(QPainter &painter)
             painter.drawPixmap(place, plate, plate.rect().toRectF());
     }
     painter.setPen(QColor(isActiveWindow() ? palette::title : palette::quietText));
-    painter.drawText(QRect(x, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, title);
+    painter.drawText(QRect(x, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     title);
 }
 
 }  // namespace kestrel::tarnwell
