@@ -109,8 +109,10 @@ void WindowTitleBar::layOut()
         x += buttonExtent;
     }
     if (m_menuBar) {
-        const QSize size = m_menuBar->sizeHint().boundedTo({width() - x - barMargin, height()});
-        m_menuBar->setGeometry({{x + barMargin, (height() - size.height()) / 2}, size});
+        // At its full height, even where that is more than the bar's: with less it would hide its menus.
+        const QSize hint = m_menuBar->sizeHint();
+        const int menuWidth = std::min(hint.width(), width() - x - barMargin);
+        m_menuBar->setGeometry(x + barMargin, (height() - hint.height()) / 2, menuWidth, hint.height());
     }
     if (m_backgroundView)
         m_backgroundView->setGeometry(rect());

@@ -93,12 +93,13 @@ void MarlinView::setUpList()
     view->setItemDelegate(new ConversionDelegate(view));
     QHeaderView *header = view->header();
     header->setSectionsMovable(false);
+    header->setStyleSheet(u"QHeaderView::section { padding: 0 8px }"_s);  // in line with the delegate's cells
     header->setStretchLastSection(false);
     header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     header->setSectionResizeMode(ConversionList::NameColumn, QHeaderView::Stretch);
-    header->resizeSection(ConversionList::DurationColumn, 88);
-    header->resizeSection(ConversionList::FormatColumn, 192);
-    header->resizeSection(ConversionList::StateColumn, 264);
+    header->resizeSection(ConversionList::DurationColumn, 80);
+    header->resizeSection(ConversionList::FormatColumn, 176);
+    header->resizeSection(ConversionList::StateColumn, 320);
 
     connect(&m_list, &QAbstractItemModel::rowsInserted, this, &MarlinView::updateControls);
     connect(&m_list, &QAbstractItemModel::rowsRemoved, this, &MarlinView::updateControls);
