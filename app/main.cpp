@@ -13,6 +13,7 @@
 #include "PetrelController.h"
 #include "PloversController.h"
 #include "ProductInformation.h"
+#include "Queues.h"
 #include "SingleInstance.h"
 #include "SystemInformation.h"
 #include "TerminationSignals.h"
@@ -22,6 +23,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
 #include <QProcess>
 #include <QSessionManager>
 #include <QStandardPaths>
@@ -56,6 +58,15 @@ QStringList filesOf(const QApplication &application)
 QString instanceFolder(const QString &identifier)
 {
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' + identifier;
+}
+
+/// For the desktop's task list; a turn of the event loop after the first window, which need not wait for it.
+void setWindowIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addFile(foundation::Bundle::main().resource(u"icons/hicolor/%1x%1/apps/kestrel.png"_s.arg(size)), {size, size});
+    QApplication::setWindowIcon(icon);
 }
 
 int run(QApplication &application, foundation::UserDefaults &defaults)
@@ -110,6 +121,7 @@ int run(QApplication &application, foundation::UserDefaults &defaults)
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+    foundation::queue::asyncMain(setWindowIcon);
     if (!files.isEmpty())
         delegate.appController()->openFiles(files);
     return QApplication::exec();
@@ -124,7 +136,7 @@ int main(int argc, char **argv)
 
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationName(u"kestrel"_s);
+    QApplication::setApplicationName(u"Kestrel"_s);
     QApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
     QApplication::setDesktopFileName(foundation::Bundle::main().identifier());
     const int status = run(application, defaults);

@@ -1,7 +1,9 @@
 #include "Processes.h"
 
 #include <cerrno>
+#include <csignal>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
 
@@ -20,6 +22,11 @@ bool waitForProcessEnd(qint64 processIdentifier)
     } while (result < 0 && errno == EINTR);
     close(process);
     return result == 1;
+}
+
+void endWithParent()
+{
+    prctl(PR_SET_PDEATHSIG, SIGKILL);
 }
 
 }  // namespace kestrel::foundation

@@ -38,10 +38,11 @@ OverviewView::OverviewView(const ModuleOverview &overview, std::shared_ptr<JKest
 OverviewView::~OverviewView() = default;
 
 /// The picture waits until somebody looks: every module's view is made on the way to the first window.
-void OverviewView::showEvent(QShowEvent *event)
+bool OverviewView::event(QEvent *event)
 {
-    QWidget::showEvent(event);
-    m_form->pictureLabel->setPixmap(tarnwell::ImageNamed(QString::fromLatin1(m_overview.image), devicePixelRatioF()));
+    if (event->type() == QEvent::Polish)
+        m_form->pictureLabel->setPixmap(tarnwell::ImageNamed(QString::fromLatin1(m_overview.image), devicePixelRatioF()));
+    return QWidget::event(event);
 }
 
 }  // namespace kestrel

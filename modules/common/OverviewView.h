@@ -24,7 +24,7 @@ signals:
     void backClicked();
 
 protected:
-    void showEvent(QShowEvent *event) override;
+    bool event(QEvent *event) override;
 
 private:
     const ModuleOverview &m_overview;

@@ -1,6 +1,7 @@
 #include "ConversionJob.h"
 
 #include "Log.h"
+#include "Processes.h"
 #include "Queues.h"
 
 #include <QFileInfo>
@@ -50,6 +51,7 @@ void ConversionJob::run(const TranscodeOptions &options)
     if (m_process)
         m_process.release()->deleteLater();  // it is in the middle of its signal
     m_process = std::make_unique<QProcess>();
+    m_process->setChildProcessModifier(foundation::endWithParent);
     m_process->setStandardInputFile(QProcess::nullDevice());
     connect(m_process.get(), &QProcess::readyReadStandardOutput, this, &ConversionJob::readProgress);
     connect(m_process.get(), &QProcess::readyReadStandardError, this,

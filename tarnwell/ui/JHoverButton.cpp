@@ -97,7 +97,8 @@ void JHoverButton::paintEvent(QPaintEvent *)
         painter.setOpacity(1);
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(QColor(palette::accent), 2));
-        painter.drawRoundedRect(rect().toRectF().adjusted(1, 1, -1, -1), 6, 6);
+        const double radius = text().isEmpty() ? std::min(width(), height()) / 2.0 : 6;
+        painter.drawRoundedRect(rect().toRectF().adjusted(1, 1, -1, -1), radius, radius);
     }
 }
 

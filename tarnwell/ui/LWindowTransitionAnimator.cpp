@@ -4,6 +4,7 @@
 #include "Queues.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QWidget>
 
@@ -132,21 +133,37 @@ void LWindowTransitionAnimator::finish()
     const Transition transition = *std::exchange(m_transition, std::nullopt);
     m_animation.stop();
     if (QWidget *to = transition.to) {
+        // The picture stays until the desktop has drawn the window beneath it.
+        to->installEventFilter(this);
         to->show();
         to->raise();
         to->activateWindow();
+        to->update();
     }
     if (QWidget *from = transition.from; from && from != transition.to) {
         from->hide();
         from->clearMask();
     }
-    // The picture stays until the desktop has drawn the window beneath it.
-    foundation::queue::afterMain(std::chrono::milliseconds(60), [self = QPointer(this)] {
+    dropGhostAfter(std::chrono::seconds(1));  // should it never be drawn
+    if (transition.finishedCallback)
+        transition.finishedCallback();
+}
+
+bool LWindowTransitionAnimator::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint) {
+        watched->removeEventFilter(this);
+        dropGhostAfter(std::chrono::milliseconds(60));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void LWindowTransitionAnimator::dropGhostAfter(std::chrono::milliseconds delay)
+{
+    foundation::queue::afterMain(delay, [self = QPointer(this)] {
         if (self && !self->isRunning())
             self->m_ghost.reset();
     });
-    if (transition.finishedCallback)
-        transition.finishedCallback();
 }
 
 }  // namespace kestrel::tarnwell

@@ -4,6 +4,7 @@
 #include <QPointer>
 #include <QVariantAnimation>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -30,6 +31,9 @@ public:
     void zoomFromWindow(QWidget *from, QWidget *to, bool isZoomIn, std::function<void()> finishedCallback);
     bool isRunning() const { return m_transition.has_value(); }
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     struct Transition {
         QPointer<QWidget> from;
@@ -39,6 +43,7 @@ private:
 
     void step(double progress);
     void finish();
+    void dropGhostAfter(std::chrono::milliseconds delay);
 
     std::optional<Transition> m_transition;
     std::unique_ptr<TransitionGhost> m_ghost;

@@ -224,6 +224,8 @@ void applyTheme(QApplication &application)
     QApplication::setStyle(new HouseStyle);
     QApplication::setPalette(housePalette());
     QApplication::setFont(houseFont());
+    // Without it a styled control that moves to another parent loses the font and colours that it was given.
+    QApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     application.setStyleSheet(houseStyleSheet(application.devicePixelRatio()));
 }
 

@@ -98,8 +98,8 @@ void MarlinView::setUpList()
     header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     header->setSectionResizeMode(ConversionList::NameColumn, QHeaderView::Stretch);
     header->resizeSection(ConversionList::DurationColumn, 80);
-    header->resizeSection(ConversionList::FormatColumn, 176);
-    header->resizeSection(ConversionList::StateColumn, 320);
+    header->resizeSection(ConversionList::FormatColumn, 208);
+    header->resizeSection(ConversionList::StateColumn, 304);
 
     connect(&m_list, &QAbstractItemModel::rowsInserted, this, &MarlinView::updateControls);
     connect(&m_list, &QAbstractItemModel::rowsRemoved, this, &MarlinView::updateControls);
@@ -142,10 +142,11 @@ void MarlinView::setUpActions()
 }
 
 /// The picture waits until somebody looks: the view is made on the way to the first window.
-void MarlinView::showEvent(QShowEvent *event)
+bool MarlinView::event(QEvent *event)
 {
-    QWidget::showEvent(event);
-    m_form->pictureLabel->setPixmap(tarnwell::ImageNamed(u"marlin_drop"_s, devicePixelRatioF()));
+    if (event->type() == QEvent::Polish)
+        m_form->pictureLabel->setPixmap(tarnwell::ImageNamed(u"marlin_drop"_s, devicePixelRatioF()));
+    return QWidget::event(event);
 }
 
 void MarlinView::setFirstUseTipVisible(bool visible)
@@ -157,6 +158,7 @@ void MarlinView::setFirstUseTipVisible(bool visible)
 
 void MarlinView::setRunning(bool running)
 {
+    // From a button that goes to the one in its place; from the end of a run to the list, since Convert may be disabled.
     const bool hadFocus = m_form->convertButton->hasFocus() || m_form->cancelButton->hasFocus();
     m_isRunning = running;
     m_form->convertButton->setVisible(!running);
@@ -165,7 +167,7 @@ void MarlinView::setRunning(bool running)
     m_form->progressBar->setVisible(running);
     m_form->targetComboBox->setEnabled(!running);
     if (hadFocus)
-        (running ? m_form->cancelButton : m_form->convertButton)->setFocus();
+        (running ? static_cast<QWidget *>(m_form->cancelButton) : m_form->fileList)->setFocus();
     updateControls();
 }
 
