@@ -10,7 +10,7 @@ class QTranslator;
 namespace kestrel::tarnwell {
 
 /// `key`, the English text, in the interface language; the key itself where it has no translation, and where it is empty or null.
-/// Texts that stand in tables are marked with QT_TRANSLATE_NOOP("TarnwellPublic", "…") so that the catalogues pick them up.
+/// Texts that stand in tables are marked with QT_TRANSLATE_NOOP so that the catalogues pick them up.
 QString AppLocalizedString(const QString &key);
 
 /// The catalogue behind `AppLocalizedString` (install it with `Installed<Localization>`).

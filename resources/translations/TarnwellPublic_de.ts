@@ -120,6 +120,10 @@
         <translation>DVD-Ripper</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>Systemsprache</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>Details</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>Ausgabeordner öffnen</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Ausgabeordner</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>Tipp anzeigen</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

@@ -120,6 +120,10 @@
         <translation>DVD Ripper</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>Details</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>Open the output folder</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Output folder</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>Show Tip</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

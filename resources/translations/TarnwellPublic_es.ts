@@ -120,6 +120,10 @@
         <translation>Extractor de DVD</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>Idioma del sistema</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>Detalles</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>Abrir la carpeta de salida</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Carpeta de salida</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>Mostrar consejo</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

@@ -120,6 +120,10 @@
         <translation>Extraction de DVD</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>Langue du système</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>Détails</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>Ouvrir le dossier de sortie</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Dossier de sortie</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>Afficher l’astuce</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

@@ -120,6 +120,10 @@
         <translation>Ripper DVD</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>Lingua di sistema</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>Dettagli</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>Apri la cartella di destinazione</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>Cartella di destinazione</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>Mostra suggerimento</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

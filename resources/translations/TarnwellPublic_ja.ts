@@ -120,6 +120,10 @@
         <translation>DVDリッピング</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>システムの言語</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>詳細</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>出力フォルダを開く</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>出力フォルダ</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>ヒントを表示</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

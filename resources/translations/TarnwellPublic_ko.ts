@@ -120,6 +120,10 @@
         <translation>DVD 리퍼</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>시스템 언어</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>세부사항</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>출력 폴더 열기</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>출력 폴더</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>팁 보기</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

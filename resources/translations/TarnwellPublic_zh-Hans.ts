@@ -120,6 +120,10 @@
         <translation>DVD 提取</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>跟随系统</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>详细信息</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>打开输出文件夹</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>输出文件夹</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>显示提示</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>

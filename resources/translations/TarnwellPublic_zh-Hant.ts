@@ -120,6 +120,10 @@
         <translation>DVD 擷取</translation>
     </message>
     <message>
+        <source>Default</source>
+        <translation>跟隨系統</translation>
+    </message>
+    <message>
         <source>Details</source>
         <translation>詳細資訊</translation>
     </message>
@@ -270,10 +274,6 @@
     <message>
         <source>Open the output folder</source>
         <translation>打開輸出檔案夾</translation>
-    </message>
-    <message>
-        <source>Output folder</source>
-        <translation>輸出檔案夾</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -538,10 +538,6 @@
     <message>
         <source>showtip</source>
         <translation>顯示提示</translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation>…</translation>
     </message>
 </context>
 </TS>
