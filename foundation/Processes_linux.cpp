@@ -1,11 +1,11 @@
 #include "Processes.h"
 
-#include <cerrno>
-#include <csignal>
 #include <poll.h>
 #include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <cerrno>
+#include <csignal>
 
 namespace kestrel::foundation {
 
@@ -24,9 +24,13 @@ bool waitForProcessEnd(qint64 processIdentifier)
     return result == 1;
 }
 
-void endWithParent()
+std::function<void()> endWithParent()
 {
-    prctl(PR_SET_PDEATHSIG, SIGKILL);
+    return [parent = getpid()] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (getppid() != parent)  // it ended in between
+            _exit(1);
+    };
 }
 
 }  // namespace kestrel::foundation

@@ -112,10 +112,6 @@
         <translation>Ausschneiden</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>DVD-Sicherung</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>DVD-Ripper</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>Bildschirmaufnahme nicht verfügbar</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>Bildschirmaufnahme</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>Der Ordner konnte nicht geöffnet werden.</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>Der Hardware-Encoder ist nicht verfügbar. Schalten Sie ihn in den Einstellungen aus.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>Videokonverter</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>Video-Downloader</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -112,10 +112,6 @@
         <translation>Cut</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>DVD Backup</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>DVD Ripper</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>Screen Record Unavailable!</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>Screen Recorder</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>Select All</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>The folder could not be opened.</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>The hardware encoder is not available. Switch it off in the settings.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>Video Converter</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>Video Downloader</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

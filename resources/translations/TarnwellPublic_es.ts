@@ -112,10 +112,6 @@
         <translation>Cortar</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>Copia de DVD</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>Extractor de DVD</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>Grabación de pantalla no disponible</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>Grabación de pantalla</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>Seleccionar todo</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>No se ha podido abrir la carpeta.</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>El codificador por hardware no está disponible. Desactívelo en los ajustes.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>Conversor de vídeo</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>Descarga de vídeos</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -112,10 +112,6 @@
         <translation>Couper</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>Sauvegarde de DVD</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>Extraction de DVD</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>Enregistrement de l’écran indisponible</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>Enregistrement de l’écran</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>Tout sélectionner</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>Impossible d’ouvrir le dossier.</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>L’encodeur matériel n’est pas disponible. Désactivez-le dans les réglages.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>Convertisseur vidéo</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>Téléchargement de vidéos</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -112,10 +112,6 @@
         <translation>Taglia</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>Backup DVD</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>Ripper DVD</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>Registrazione schermo non disponibile</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>Registrazione schermo</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>Seleziona tutto</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>Impossibile aprire la cartella.</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>Il codificatore hardware non è disponibile. Disattivalo nelle impostazioni.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>Convertitore video</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>Download di video</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -112,10 +112,6 @@
         <translation>カット</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>DVDバックアップ</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>DVDリッピング</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>画面収録は利用できません</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>画面収録</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>すべてを選択</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>フォルダを開けませんでした。</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>ハードウェアエンコーダを利用できません。設定でオフにしてください。</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>ビデオ変換</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>ビデオダウンロード</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -112,10 +112,6 @@
         <translation>오려두기</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>DVD 백업</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>DVD 리퍼</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>화면 기록을 사용할 수 없음</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>화면 기록</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>모두 선택</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>폴더를 열 수 없습니다.</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>하드웨어 인코더를 사용할 수 없습니다. 설정에서 끄십시오.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>비디오 변환기</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>비디오 다운로더</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

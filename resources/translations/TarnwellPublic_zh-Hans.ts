@@ -112,10 +112,6 @@
         <translation>剪切</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>DVD 备份</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>DVD 提取</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>屏幕录制不可用</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>屏幕录制</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>全选</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>无法打开文件夹。</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>硬件编码器不可用。请在设置中将其关闭。</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>视频转换</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>视频下载</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

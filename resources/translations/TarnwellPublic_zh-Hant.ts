@@ -112,10 +112,6 @@
         <translation>剪下</translation>
     </message>
     <message>
-        <source>DVD Backup</source>
-        <translation>DVD 備份</translation>
-    </message>
-    <message>
         <source>DVD Ripper</source>
         <translation>DVD 擷取</translation>
     </message>
@@ -348,10 +344,6 @@
         <translation>無法錄製螢幕</translation>
     </message>
     <message>
-        <source>Screen Recorder</source>
-        <translation>螢幕錄製</translation>
-    </message>
-    <message>
         <source>Select All</source>
         <translation>全選</translation>
     </message>
@@ -410,10 +402,6 @@
     <message>
         <source>The folder could not be opened.</source>
         <translation>無法打開檔案夾。</translation>
-    </message>
-    <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation>硬體編碼器無法使用。請在設定中將其關閉。</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -478,10 +466,6 @@
     <message>
         <source>Video Converter</source>
         <translation>影片轉換</translation>
-    </message>
-    <message>
-        <source>Video Downloader</source>
-        <translation>影片下載</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

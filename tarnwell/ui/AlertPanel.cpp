@@ -10,6 +10,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel::tarnwell {
@@ -93,8 +95,9 @@ void AlertPanel::fitWidth()
     const int rest = margins.left() + margins.right() + m_ui->iconLabel->sizeHint().width() + layout()->spacing();
     const int wanted = std::max(naturalWidth(m_ui->messageLabel), naturalWidth(m_ui->informativeLabel));
     const int width = std::clamp(wanted, minimumPanelWidth - rest, maximumPanelWidth - rest);
-    m_ui->messageLabel->setFixedWidth(width);
-    m_ui->informativeLabel->setFixedWidth(width);
+    // The height as well: beside wide buttons the layout would reckon with lines longer than these.
+    for (QLabel *label : {m_ui->messageLabel, m_ui->informativeLabel})
+        label->setFixedSize(width, label->heightForWidth(width));
     adjustSize();
 }
 
@@ -112,6 +115,8 @@ AlertAnswer AlertPanel::runModal()
 void AlertPanel::placeOver(const QWidget *window)
 {
     const QScreen *screen = window ? window->screen() : QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
     const QRect free = screen->availableGeometry();
     QRect place(QPoint(), size());
     place.moveCenter(window ? window->geometry().center() : free.center());

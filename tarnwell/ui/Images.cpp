@@ -4,9 +4,13 @@
 #include "Log.h"
 #include "ProductInformation.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -109,6 +113,10 @@ QPixmap ImageNamed(const QString &name, qreal scale)
     if (name.isEmpty())
         return {};
     static QHash<QString, QPixmap> images;
+    [[maybe_unused]] static const bool isClearedInTime = [] {
+        qAddPostRoutine([] { images.clear(); });  // pixmaps need the application object
+        return true;
+    }();
     const QString path = ImagePathNamed(name, scale);
     auto image = images.constFind(path);
     if (image == images.cend())

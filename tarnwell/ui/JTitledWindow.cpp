@@ -135,7 +135,7 @@ void JTitledWindow::closeEvent(QCloseEvent *event)
     // The desktop's own ways to close a window do what the close button does.
     if (event->spontaneous() && m_closeAction) {
         event->ignore();
-        m_closeAction();
+        performClose();
         return;
     }
     if (m_shouldClose && !m_shouldClose()) {

@@ -45,7 +45,8 @@ public:
     /// Whether dragging the background of the content moves the window as well.
     void setMovableByWindowBackground(bool isMovable) { m_isMovableByWindowBackground = isMovable; }
 
-    /// Shows it, in front and with the keyboard, on the space that the user is on.
+    /// Shows it, in front and with the keyboard, on the space that the user is on as far as the window manager goes
+    /// along.
     void makeKeyAndOrderFront();
     /// What the close button does: its action, or closing the window.
     void performClose();

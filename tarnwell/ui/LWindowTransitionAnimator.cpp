@@ -8,6 +8,8 @@
 #include <QPainter>
 #include <QWidget>
 
+#include <utility>
+
 namespace kestrel::tarnwell {
 
 namespace {
@@ -82,26 +84,25 @@ LWindowTransitionAnimator::LWindowTransitionAnimator()
     connect(&m_animation, &QVariantAnimation::valueChanged, this,
             [this](const QVariant &value) { step(value.toDouble()); });
     connect(&m_animation, &QAbstractAnimation::finished, this, &LWindowTransitionAnimator::finish);
-    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
-        m_animation.stop();
-        m_transition.reset();
-        m_ghost.reset();
-    });
 }
 
 LWindowTransitionAnimator::~LWindowTransitionAnimator() = default;
 
 LWindowTransitionAnimator &LWindowTransitionAnimator::sharedAnimator()
 {
-    static LWindowTransitionAnimator animator;
-    return animator;
+    // It goes with the application object, which its animation and its window need to their end.
+    static std::unique_ptr<LWindowTransitionAnimator> animator;
+    if (!animator) {
+        animator.reset(new LWindowTransitionAnimator);
+        qAddPostRoutine([] { animator.reset(); });
+    }
+    return *animator;
 }
 
 void LWindowTransitionAnimator::zoomFromWindow(QWidget *from, QWidget *to, bool isZoomIn,
                                                std::function<void()> finishedCallback)
 {
-    while (isRunning())  // the callback may have begun another
-        finish();
+    finishRunning();
     m_transition = Transition{from, to, std::move(finishedCallback)};
     const bool canMove = from && to && from != to && from->isVisible() && !from->isMinimized();
     if (!canMove || reducedMotion()) {
@@ -112,6 +113,12 @@ void LWindowTransitionAnimator::zoomFromWindow(QWidget *from, QWidget *to, bool 
     m_ghost->show();
     m_animation.setDuration(isZoomIn ? zoomInTimeMs : motionTimeMs);
     m_animation.start();
+}
+
+void LWindowTransitionAnimator::finishRunning()
+{
+    while (isRunning())  // the callback may have begun another
+        finish();
 }
 
 void LWindowTransitionAnimator::step(double progress)
@@ -133,20 +140,28 @@ void LWindowTransitionAnimator::finish()
     const Transition transition = *std::exchange(m_transition, std::nullopt);
     m_animation.stop();
     if (QWidget *to = transition.to) {
-        // The picture stays until the desktop has drawn the window beneath it.
-        to->installEventFilter(this);
         to->show();
         to->raise();
         to->activateWindow();
-        to->update();
     }
+    // The picture stays until the desktop has drawn the window beneath it.
+    if (m_ghost && transition.to)
+        dropGhostWhenPainted(transition.to);
+    else
+        m_ghost.reset();
     if (QWidget *from = transition.from; from && from != transition.to) {
         from->hide();
         from->clearMask();
     }
-    dropGhostAfter(std::chrono::seconds(1));  // should it never be drawn
     if (transition.finishedCallback)
         transition.finishedCallback();
+}
+
+void LWindowTransitionAnimator::dropGhostWhenPainted(QWidget *window)
+{
+    window->installEventFilter(this);
+    window->update();
+    dropGhostAfter(std::chrono::seconds(1));  // should it never be painted
 }
 
 bool LWindowTransitionAnimator::eventFilter(QObject *watched, QEvent *event)
@@ -160,8 +175,8 @@ bool LWindowTransitionAnimator::eventFilter(QObject *watched, QEvent *event)
 
 void LWindowTransitionAnimator::dropGhostAfter(std::chrono::milliseconds delay)
 {
-    foundation::queue::afterMain(delay, [self = QPointer(this)] {
-        if (self && !self->isRunning())
+    foundation::queue::afterMain(delay, [self = QPointer(this), ghost = QPointer(m_ghost.get())] {
+        if (self && ghost && self->m_ghost.get() == ghost && !self->isRunning())
             self->m_ghost.reset();
     });
 }

@@ -29,6 +29,8 @@ public:
     /// time where the desktop asks for reduced motion or `from` is not on screen. Where a window goes meanwhile, the
     /// rest still happens. `isZoomIn` is the way back: the picture of `from` shrinks into `to`.
     void zoomFromWindow(QWidget *from, QWidget *to, bool isZoomIn, std::function<void()> finishedCallback);
+    /// Ends the running transition now, callback included.
+    void finishRunning();
     bool isRunning() const { return m_transition.has_value(); }
 
 protected:
@@ -43,6 +45,7 @@ private:
 
     void step(double progress);
     void finish();
+    void dropGhostWhenPainted(QWidget *window);
     void dropGhostAfter(std::chrono::milliseconds delay);
 
     std::optional<Transition> m_transition;

@@ -1,7 +1,10 @@
 #include "Motion.h"
 
-#include <QDir>
+#include "StandardFolders.h"
+
 #include <QFile>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -56,8 +59,7 @@ QByteArray settingsValue(const QString &path, const char *section, const char *k
 
 bool reducedMotion()
 {
-    const QString variable = qEnvironmentVariable("XDG_CONFIG_HOME");
-    const QString folder = QDir::isAbsolutePath(variable) ? variable : QDir::homePath() + "/.config"_L1;
+    const QString folder = foundation::configurationDirectory();
     return std::any_of(
         std::begin(animationSettings), std::end(animationSettings), [&](const AnimationSetting &setting) {
             return setting.asksForNone(

@@ -168,10 +168,12 @@ public:
     {
         // A ring in the accent colour does not show on a button of that colour: a gap sets it off.
         if (element == PE_FrameFocusRect && widget && widget->property("primary").toBool()) {
+            painter->save();
             painter->setRenderHint(QPainter::Antialiasing);
             painter->setPen(QPen(QColor(palette::surface), 1));
             painter->setBrush(Qt::NoBrush);
             painter->drawRoundedRect(widget->rect().toRectF().adjusted(2.5, 2.5, -2.5, -2.5), 4, 4);
+            painter->restore();
             return;
         }
         QProxyStyle::drawPrimitive(element, option, painter, widget);

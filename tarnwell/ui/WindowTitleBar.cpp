@@ -9,6 +9,8 @@
 #include <QMenuBar>
 #include <QPainter>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel::tarnwell {
@@ -142,7 +144,9 @@ void WindowTitleBar::paintTitle(QPainter &painter)
 {
     if (window()->windowTitle().isEmpty())
         return;
-    int left = barMargin + buttonExtent * int(m_buttons.size()) + titleSpacing;
+    const auto shown =
+        std::count_if(m_buttons.begin(), m_buttons.end(), [](const JHoverButton *b) { return !b->isHidden(); });
+    int left = barMargin + buttonExtent * int(shown) + titleSpacing;
     if (m_menuBar && m_menuBar->isVisible())
         left = m_menuBar->geometry().right() + 1 + titleSpacing;
     const int room = std::max(0, width() - titleSpacing - left);

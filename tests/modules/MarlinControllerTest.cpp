@@ -2,7 +2,6 @@
 #include "MarlinController.h"
 #include "MarlinView.h"
 #include "ModuleSettings.h"
-#include "NotificationCenter.h"
 #include "TestEnvironment.h"
 #include "WebPages.h"
 
@@ -74,6 +73,11 @@ protected:
         m_settings.makeClip(m_settings.path(name), QLatin1StringView(test::shortTone));
         return m_settings.path(name);
     }
+    bool openClip()
+    {
+        m_controller.openFiles({makeClip(u"a.wav"_s)});
+        return waitForStates({u"Ready"_s});
+    }
 
     test::ModuleSettings m_settings;
     RecordingDesktop m_desktop;
@@ -99,10 +103,14 @@ TEST_F(MarlinControllerTest, FilesComeIntoTheListAndGoConverted)
     m_settings.dispatcher().setOpenFolder(true);
     click(u"convertButton"_s);
     EXPECT_TRUE(control<QPushButton>(u"cancelButton"_s)->isVisible());
+    const QString other = m_settings.path(u"other"_s);
+    QDir().mkpath(other);
+    m_settings.dispatcher().setVideoDir(other);  // for the next run
     EXPECT_TRUE(waitForStates({u"Done"_s, u"Done"_s, u"There is no such file."_s}));
     ASSERT_TRUE(test::waitUntil([this] { return control<QPushButton>(u"convertButton"_s)->isVisible(); }));
     EXPECT_EQ(m_settings.outputs(), QStringList({u"a.mp4"_s, u"b.mp4"_s}));
-    EXPECT_EQ(m_desktop.m_opened, QStringList{m_settings.folder()});
+    click(u"openFolderButton"_s);
+    EXPECT_EQ(m_desktop.m_opened, QStringList({m_settings.folder(), other}));
     EXPECT_EQ(control<QLabel>(u"statusLabel"_s)->text(), u"Converted: 2");
     EXPECT_FALSE(control<QPushButton>(u"convertButton"_s)->isEnabled());
     control<QComboBox>(u"targetComboBox"_s)->setCurrentIndex(3);
@@ -132,8 +140,7 @@ TEST_F(MarlinControllerTest, DroppedFilesAreRemovedWithTheDeleteKey)
 
 TEST_F(MarlinControllerTest, WhatStandsInTheWayIsSaidBeforeTheStart)
 {
-    m_controller.openFiles({makeClip(u"a.wav"_s)});
-    ASSERT_TRUE(waitForStates({u"Ready"_s}));
+    ASSERT_TRUE(openClip());
     m_settings.dispatcher().setVideoDir(m_settings.path(u"missing"_s));
     click(u"convertButton"_s);
     m_settings.dispatcher().setVideoDir(m_settings.folder());
@@ -144,25 +151,10 @@ TEST_F(MarlinControllerTest, WhatStandsInTheWayIsSaidBeforeTheStart)
     EXPECT_EQ(column(ConversionList::StateColumn), QStringList{u"Ready"_s});
 }
 
-TEST_F(MarlinControllerTest, TheOutputFolderFollowsTheSettings)
-{
-    auto *label = control<QLabel>(u"folderLabel"_s);
-    EXPECT_EQ(label->text(), m_settings.folder());
-    const QString other = m_settings.path(u"other"_s);
-    QDir().mkpath(other);
-    m_settings.dispatcher().setVideoDir(other);
-    foundation::NotificationCenter::defaultCenter().postNotificationName(
-        keyKestrelSettingDidChangedNotification.toString());
-    EXPECT_EQ(label->text(), other);
-    click(u"openFolderButton"_s);
-    EXPECT_EQ(m_desktop.m_opened, QStringList{other});
-}
-
 TEST_F(MarlinControllerTest, LeavingARunAsksFirst)
 {
     EXPECT_TRUE(m_controller.shouldTerminate());
-    m_controller.openFiles({makeClip(u"a.wav"_s)});
-    ASSERT_TRUE(waitForStates({u"Ready"_s}));
+    ASSERT_TRUE(openClip());
     m_settings.replaceTranscoder("echo x > \"$output\"; exec sleep 60");
     click(u"convertButton"_s);
     click(u"backButton"_s);
@@ -178,18 +170,12 @@ TEST_F(MarlinControllerTest, LeavingARunAsksFirst)
     EXPECT_TRUE(m_controller.shouldTerminate());
 }
 
-TEST_F(MarlinControllerTest, TheTipShowsUntilItIsClosed)
+TEST_F(MarlinControllerTest, ControlsHaveNamesAndTheTipCanBeClosed)
 {
-    auto *tip = control<QWidget>(u"tipFrame"_s);
-    EXPECT_FALSE(tip->isVisible());
     m_controller.showFirstOpenAppTip(true);
-    EXPECT_TRUE(tip->isVisible());
+    EXPECT_TRUE(control<QWidget>(u"tipFrame"_s)->isVisible());
     click(u"closeTipButton"_s);
-    EXPECT_FALSE(tip->isVisible());
-}
-
-TEST_F(MarlinControllerTest, EveryControlHasANameForAssistiveTools)
-{
+    EXPECT_FALSE(control<QWidget>(u"tipFrame"_s)->isVisible());
     for (const QPushButton *button : m_controller.view()->findChildren<QPushButton *>())
         EXPECT_FALSE(button->accessibleName().isEmpty()) << button->objectName().toStdString();
     EXPECT_FALSE(control<QComboBox>(u"targetComboBox"_s)->accessibleName().isEmpty());

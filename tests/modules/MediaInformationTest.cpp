@@ -25,15 +25,9 @@ TEST(MediaInformationTest, WhatIsNoReportIsAbsent)
 {
     const QByteArray huge = R"({"media": {"track": [{"@type": "Audio", "Format": "AAC"}]}, "x": ")" +
                             QByteArray(maximumReportBytes, 'x') + "\"}";
-    const QByteArray reports[] = {"",
-                                  "x",
-                                  "[]",
-                                  "{",
-                                  R"({"media": null})",
-                                  R"({"media": {"track": 5}})",
-                                  R"({"media": {"track": [5, null, [], {}, {"@type": 3}, {"@type": "Menu"}]}})",
-                                  QByteArray(100'000, '['),
-                                  huge};
+    const QByteArray tracks = R"({"media": {"track": [5, null, [], {}, {"@type": 3}, {"@type": "Menu"}]}})";
+    const QByteArray deep(100'000, '['), noMedia = R"({"media": null})", noTracks = R"({"media": {"track": 5}})";
+    const QByteArray reports[] = {"", "x", "[]", "{", noMedia, noTracks, tracks, deep, huge};
     for (const QByteArray &report : reports)
         EXPECT_FALSE(parseMediaInformation(report)) << report.left(60).constData();
 }

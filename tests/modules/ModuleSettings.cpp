@@ -33,10 +33,8 @@ QStringList ModuleSettings::outputs() const
 void ModuleSettings::replaceTranscoder(const QByteArray &text)
 {
     QFile::remove(toolPath(u"ffmpeg"_s));
-    QFile script(toolPath(u"ffmpeg"_s));
-    ASSERT_TRUE(script.open(QIODevice::WriteOnly));
-    script.write("#!/bin/sh\nfor output; do :; done\noutput=${output#file:}\n" + text + '\n');
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    writeFile(toolPath(u"ffmpeg"_s), "#!/bin/sh\nfor output; do :; done\noutput=${output#file:}\n" + text + '\n');
+    QFile::setPermissions(toolPath(u"ffmpeg"_s), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
 }
 
 void ModuleSettings::makeClip(const QString &path, const QString &arguments)
@@ -48,6 +46,13 @@ void ModuleSettings::makeClip(const QString &path, const QString &arguments)
 QString ModuleSettings::toolPath(const QString &name) const
 {
     return path(u"Test.app/Contents/Resources/transcoder.bundle/Contents/Resources/"_s + name);
+}
+
+void writeFile(const QString &path, const QByteArray &content)
+{
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(content);
 }
 
 }  // namespace kestrel::test

@@ -41,6 +41,8 @@ private:
     std::shared_ptr<JKestrelSettingDispatcher> m_dispatcher;
 };
 
+void writeFile(const QString &path, const QByteArray &content);
+
 inline constexpr const char *shortVideo = "-f lavfi -i testsrc=size=65x49:rate=10:duration=2";
 inline constexpr const char *shortTone = "-f lavfi -i sine=duration=2";
 

@@ -3,10 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QFile>
-#include <QSet>
 
-#include <mutex>
 #include <thread>
 
 using namespace Qt::StringLiterals;
@@ -14,13 +13,6 @@ using namespace Qt::StringLiterals;
 namespace kestrel {
 
 namespace {
-
-void writeText(const QString &path, const QByteArray &text)
-{
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(text);
-}
 
 QByteArray readText(const QString &path)
 {
@@ -33,7 +25,7 @@ QByteArray readText(const QString &path)
 TEST(OutputFileTest, TakesTheFirstFreeNameAndLeavesNoPart)
 {
     test::ModuleSettings settings;
-    writeText(settings.folder() + "/clip.mp4"_L1, "mine");
+    test::writeFile(settings.folder() + "/clip.mp4"_L1, "mine");
     QFile::link(u"nowhere"_s, settings.folder() + "/clip (1).mp4"_L1);
     OutputFile first(settings.folder(), u"clip"_s, u"mp4"_s);
     OutputFile second(settings.folder(), u"clip"_s, u"mp4"_s);
@@ -42,13 +34,28 @@ TEST(OutputFileTest, TakesTheFirstFreeNameAndLeavesNoPart)
         EXPECT_TRUE(QFile::exists(dropped.partPath()));
     }
     ASSERT_NE(first.partPath(), second.partPath());
-    writeText(first.partPath(), "first");
-    writeText(second.partPath(), "second");
+    test::writeFile(first.partPath(), "first");
+    test::writeFile(second.partPath(), "second");
     EXPECT_EQ(readText(second.publish()), "second");
     EXPECT_EQ(readText(first.publish()), "first");
     EXPECT_EQ(readText(settings.folder() + "/clip.mp4"_L1), "mine");
     EXPECT_EQ(settings.outputs(),
               QStringList({u"clip (1).mp4"_s, u"clip (2).mp4"_s, u"clip (3).mp4"_s, u"clip.mp4"_s}));
+}
+
+TEST(OutputFileTest, OnlyStalePartsAreRemoved)
+{
+    test::ModuleSettings settings;
+    const QDir folder(settings.folder());
+    const QStringList others{u".d.kestrel-part"_s, u".e.mp4"_s, u".folder.kestrel-part.mp4"_s,
+                             u".link.kestrel-part.mp4"_s, u"c.kestrel-part.mp4"_s};
+    for (const QString &name :
+         {u".a.kestrel-part.mp4"_s, u".b (1).kestrel-part.webm"_s, others[0], others[1], others[4]})
+        test::writeFile(folder.filePath(name), "x");
+    folder.mkdir(others[2]);
+    QFile::link(others[4], folder.filePath(others[3]));
+    OutputFile::removeStaleParts(settings.folder());
+    EXPECT_EQ(settings.outputs(), others);
 }
 
 TEST(OutputFileTest, LongNamesAreCutBetweenCharacters)
@@ -73,32 +80,26 @@ TEST(OutputFileTest, LongNamesAreCutBetweenCharacters)
 TEST(OutputFileTest, NothingIsLostWhereManyWantOneName)
 {
     test::ModuleSettings settings;
-    std::mutex mutex;
-    QSet<QString> paths;
     std::vector<std::thread> threads;
     for (int thread = 0; thread < 8; ++thread) {
         threads.emplace_back([&, thread] {
             for (int round = 0; round < 25; ++round) {
                 const QByteArray text = QByteArray::number(thread * 100 + round);
                 OutputFile file(settings.folder(), u"same"_s, u"mp3"_s);
-                writeText(file.partPath(), text);
-                const QString path = file.publish();
-                const std::scoped_lock lock(mutex);
-                paths.insert(path);
-                EXPECT_EQ(readText(path), text);
+                test::writeFile(file.partPath(), text);
+                EXPECT_EQ(readText(file.publish()), text);
             }
         });
     }
     for (std::thread &thread : threads)
         thread.join();
-    EXPECT_EQ(paths.size(), 200);
     EXPECT_EQ(settings.outputs().size(), 200);
 }
 
 TEST(OutputFileTest, AFolderThatCannotBeUsedSaysWhy)
 {
     test::ModuleSettings settings;
-    writeText(settings.path(u"file"_s), "");
+    test::writeFile(settings.path(u"file"_s), "");
     for (const QString &folder : {settings.path(u"file"_s), settings.path(u"missing"_s)}) {
         const OutputFile file(folder, u"clip"_s, u"mp4"_s);
         EXPECT_FALSE(file.isValid());

@@ -60,7 +60,7 @@ void MarlinView::setUpTexts()
     namespace palette = tarnwell::palette;
     tarnwell::TranslateControls(this);
     for (const ConversionTarget &row : conversionTargets())
-        m_form->targetComboBox->addItem(tarnwell::AppLocalizedString(QString::fromLatin1(row.name)));
+        m_form->targetComboBox->addItem(tarnwell::AppLocalizedString(row.name));
 
     const struct {
         QWidget *label;
@@ -84,6 +84,7 @@ void MarlinView::setUpTexts()
                  {m_form->cancelButton, u"marlin_stop"_s}};
     for (const auto &[button, image] : icons)
         button->setIcon(tarnwell::IconNamed(image));
+    m_form->picture->setImageNamed(u"marlin_drop"_s);
 }
 
 void MarlinView::setUpList()
@@ -141,14 +142,6 @@ void MarlinView::setUpActions()
     }
 }
 
-/// The picture waits until somebody looks: the view is made on the way to the first window.
-bool MarlinView::event(QEvent *event)
-{
-    if (event->type() == QEvent::Polish)
-        m_form->pictureLabel->setPixmap(tarnwell::ImageNamed(u"marlin_drop"_s, devicePixelRatioF()));
-    return QWidget::event(event);
-}
-
 void MarlinView::setFirstUseTipVisible(bool visible)
 {
     m_form->tipFrame->setStyleSheet(
@@ -158,7 +151,8 @@ void MarlinView::setFirstUseTipVisible(bool visible)
 
 void MarlinView::setRunning(bool running)
 {
-    // From a button that goes to the one in its place; from the end of a run to the list, since Convert may be disabled.
+    // From a button that goes to the one in its place; from the end of a run to the list, since Convert may be
+    // disabled.
     const bool hadFocus = m_form->convertButton->hasFocus() || m_form->cancelButton->hasFocus();
     m_isRunning = running;
     m_form->convertButton->setVisible(!running);
