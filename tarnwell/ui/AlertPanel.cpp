@@ -97,7 +97,7 @@ void AlertPanel::fitWidth()
     const int width = std::clamp(wanted, minimumPanelWidth - rest, maximumPanelWidth - rest);
     // The height as well: beside wide buttons the layout would reckon with lines longer than these.
     for (QLabel *label : {m_ui->messageLabel, m_ui->informativeLabel})
-        label->setFixedSize(width, label->heightForWidth(width));
+        label->setFixedSize(width, std::max(0, label->heightForWidth(width)));
     adjustSize();
 }
 
