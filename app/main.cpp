@@ -1,11 +1,13 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "DesktopAlertPresenter.h"
+#include "DesktopFolderPanel.h"
 #include "DesktopWebOpener.h"
 #include "HeronController.h"
 #include "Installed.h"
 #include "InterfaceLanguage.h"
 #include "JKestrelSetting.h"
+#include "JKestrelSettingController.h"
 #include "LanguageTags.h"
 #include "Localization.h"
 #include "Log.h"
@@ -58,6 +60,11 @@ QString instanceFolder(const QString &identifier)
     return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' + identifier;
 }
 
+void presentSettings(QWidget *overWindow)
+{
+    JKestrelSettingController::loadDefaultWindowController().presentForWindow(overWindow);
+}
+
 int run(QApplication &application, foundation::UserDefaults &defaults)
 {
     const QStringList files = filesOf(application);
@@ -82,6 +89,8 @@ int run(QApplication &application, foundation::UserDefaults &defaults)
     const tarnwell::Installed<tarnwell::WebOpener> installedWebOpener(webOpener);
     tarnwell::DesktopAlertPresenter alerts;
     const tarnwell::Installed<tarnwell::AlertPresenter> installedAlerts(alerts);
+    tarnwell::DesktopFolderPanel folderPanel;
+    const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
     tarnwell::applyTheme(application);
 
     AppDelegate delegate({
@@ -89,7 +98,7 @@ int run(QApplication &application, foundation::UserDefaults &defaults)
         .defaults = defaults,
         .modules = {factoryOf<MarlinController>(), factoryOf<HeronController>(), factoryOf<PetrelController>(),
                     factoryOf<PloversController>()},
-        .windows = {},
+        .windows = {.setting = presentSettings},
         // Not quit(): that asks every window first, and a module may refuse to close.
         .terminate = [] { QCoreApplication::exit(); },
         .startProcess = [](const QString &program,

@@ -29,6 +29,9 @@ QString stateDirectory();
 /// Creates `path` with the folders above it. True where it is a folder afterwards.
 bool CreateDirectory(const QString &path);
 
+/// The name of the machine's processor where it is one of the platform maker's own; null on all others.
+QString GetAppleChipName();
+
 /// Whether the machine encodes video of this codec (a four-character code, 'avc1') and size in hardware. Answers at once where the
 /// machine has no such device.
 bool HWECanEncodeVideoInSize(quint32 codec, int width, int height);

@@ -32,4 +32,9 @@ QString stateDirectory()
     return baseDirectory("XDG_STATE_HOME", u".local/state"_s);
 }
 
+QString GetAppleChipName()
+{
+    return {};
+}
+
 }  // namespace kestrel::tarnwell

@@ -73,7 +73,7 @@ void MarlinView::setUpTexts()
                   {m_form->targetLabel, 13, QFont::Normal, palette::quietText},
                   {m_form->statusLabel, 13, QFont::Normal, palette::quietText}};
     for (const auto &[label, size, weight, color] : styles)
-        setTextStyle(label, size, weight, color);
+        tarnwell::setTextStyle(label, size, weight, color);
 
     const struct {
         QAbstractButton *button;

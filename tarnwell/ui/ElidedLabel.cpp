@@ -6,7 +6,7 @@
 #include <QStyleOption>
 #include <QToolTip>
 
-namespace kestrel {
+namespace kestrel::tarnwell {
 
 ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
@@ -39,4 +39,4 @@ bool ElidedLabel::event(QEvent *event)
     return true;
 }
 
-}  // namespace kestrel
+}  // namespace kestrel::tarnwell
