@@ -6,8 +6,8 @@
 
 namespace kestrel {
 
-/// What the home screen says while the pointer is over a module button, in the order of the buttons: convert, DVD, download, record.
-/// English keys for `AppLocalizedString`.
+/// What the home screen says while the pointer is over a module button, in the order of the buttons: convert, DVD,
+/// download, record. English keys for `AppLocalizedString`.
 struct HomeHoverText {
     const char *headline;
     const char *description;

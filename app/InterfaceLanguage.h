@@ -11,16 +11,17 @@ class UserDefaults;
 
 namespace kestrel {
 
-/// The interface languages in the order of the Language menu; a menu item's tag is its index here. "Default" follows the system.
+/// The interface languages in the order of the Language menu; a menu item's tag is its index here. "Default" follows
+/// the system.
 inline constexpr std::array<QStringView, 10> supportedLanguages = {u"Default", u"en", u"ja", u"de",      u"fr",
                                                                    u"es",      u"it", u"ko", u"zh-Hans", u"zh-Hant"};
 
 inline constexpr QStringView customizeLanguageKey = u"kAppCustomizeLanguage";
 inline constexpr QStringView appleLanguagesKey = u"AppleLanguages";
 
-/// Settles the language of the whole run before the application object exists: writes "AppleLanguages" = [code] from the user's
-/// choice ("kAppCustomizeLanguage") or, where that is "Default", from the first of `systemLanguages` (tags, most preferred first).
-/// Stored values that make no sense end in English, with a line on standard error.
+/// Settles the language of the whole run before the application object exists: writes "AppleLanguages" = [code] from
+/// the user's choice ("kAppCustomizeLanguage") or, where that is "Default", from the first of `systemLanguages` (tags,
+/// most preferred first). Stored values that make no sense end in English, with a line on standard error.
 void settleInterfaceLanguage(foundation::UserDefaults &defaults, const QStringList &systemLanguages);
 
 }  // namespace kestrel

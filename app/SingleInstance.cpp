@@ -1,9 +1,10 @@
 #include "SingleInstance.h"
 
-#include <QDataStream>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
 #include <QLocalServer>
 #include <QLocalSocket>
 #include <QThread>
@@ -11,6 +12,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -18,13 +20,15 @@ namespace kestrel {
 
 namespace {
 
-constexpr qint64 maximumMessageBytes = 1024 * 1024;
+constexpr qint64 maximumMessageBytes = 8 * 1024 * 1024;  // more than a command line holds
 constexpr char acknowledgement = 'k';
 
 }  // namespace
 
 SingleInstance::SingleInstance(const QString &folder, QObject *parent)
-    : QObject(parent), m_lockPath(folder + "/instance.lock"_L1), m_socketPath(folder + "/instance.socket"_L1)
+    : QObject(parent),
+      m_lockPath(folder + "/instance.lock"_L1),
+      m_socketPath(folder + "/instance.socket"_L1)
 {
     QDir().mkpath(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
@@ -42,11 +46,9 @@ SingleInstance::Role SingleInstance::claim(const QStringList &files, int patienc
     // Either may change at any moment: the other one may just have begun, or be about to end.
     const QDeadlineTimer deadline(patienceMs);
     while (true) {
-        if (lock()) {
-            listen();
+        if (lock())
             return Role::First;
-        }
-        if (handOver(files, int(deadline.remainingTime())))
+        if (handOver(files, deadline))
             return Role::Second;
         if (deadline.hasExpired())
             return Role::Unanswered;
@@ -60,23 +62,24 @@ bool SingleInstance::lock()
     if (file < 0)
         return true;  // a folder that cannot be written is no reason not to start
     if (flock(file, LOCK_EX | LOCK_NB) != 0) {
+        const bool isTaken = errno == EWOULDBLOCK;
         close(file);
-        return false;
+        return !isTaken;  // nor is a file system without locks
     }
     m_lockFile = file;
     return true;
 }
 
-bool SingleInstance::handOver(const QStringList &files, int patienceMs)
+bool SingleInstance::handOver(const QStringList &files, const QDeadlineTimer &deadline)
 {
     QLocalSocket socket;
     socket.connectToServer(m_socketPath);
-    if (!socket.waitForConnected(patienceMs))
+    if (!socket.waitForConnected(int(deadline.remainingTime())))
         return false;
-    QDataStream stream(&socket);
-    stream << files;
+    socket.write(QJsonDocument(QJsonArray::fromStringList(files)).toJson(QJsonDocument::Compact) + '\n');
     char answer = 0;
-    return socket.waitForReadyRead(patienceMs) && socket.read(&answer, 1) == 1 && answer == acknowledgement;
+    return socket.waitForReadyRead(int(deadline.remainingTime())) && socket.read(&answer, 1) == 1 &&
+           answer == acknowledgement;
 }
 
 void SingleInstance::listen()
@@ -96,16 +99,18 @@ void SingleInstance::listen()
 
 void SingleInstance::receive(QLocalSocket *socket)
 {
-    if (socket->bytesAvailable() > maximumMessageBytes) {
-        socket->abort();
+    if (!socket->canReadLine()) {
+        if (socket->bytesAvailable() > maximumMessageBytes)
+            socket->abort();
         return;
     }
-    QDataStream stream(socket);
-    stream.startTransaction();
+    const QJsonDocument message = QJsonDocument::fromJson(socket->readLine(maximumMessageBytes));
+    if (!message.isArray())
+        return socket->abort();
     QStringList files;
-    stream >> files;
-    if (!stream.commitTransaction())
-        return;
+    for (const QJsonValue file : message.array())
+        files.append(file.toString());
+    files.removeAll(QString());
     socket->write(&acknowledgement, 1);
     socket->flush();
     emit startedAgain(files);

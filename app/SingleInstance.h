@@ -5,13 +5,14 @@
 
 #include <memory>
 
+class QDeadlineTimer;
 class QLocalServer;
 class QLocalSocket;
 
 namespace kestrel {
 
-/// One Kestrel a user. The first one to claim a folder holds a lock there that the system takes back when its process ends, however
-/// it ends; a later one hands over its files through a socket beside the lock.
+/// One Kestrel a user. The first one to claim a folder holds a lock there that the system takes back when its process
+/// ends, however it ends; a later one hands over its files through a socket beside the lock.
 class SingleInstance : public QObject {
     Q_OBJECT
 public:
@@ -25,8 +26,11 @@ public:
     explicit SingleInstance(const QString &folder, QObject *parent = nullptr);
     ~SingleInstance() override;
 
-    /// `files` are absolute paths. Takes up to `patienceMs` where another instance is slow to answer.
+    /// `files` are absolute paths. Takes up to `patienceMs` where another instance is slow to answer. Needs an
+    /// application object, and no display.
     Role claim(const QStringList &files, int patienceMs = 5000);
+    /// For the first one, once its event loop is about to run: takes over what later ones bring.
+    void listen();
 
 signals:
     /// Another one was started, with these files, and has gone again.
@@ -34,8 +38,7 @@ signals:
 
 private:
     bool lock();
-    bool handOver(const QStringList &files, int patienceMs);
-    void listen();
+    bool handOver(const QStringList &files, const QDeadlineTimer &deadline);
     void receive(QLocalSocket *socket);
 
     QString m_lockPath;

@@ -2,9 +2,11 @@
 
 #include <QSocketNotifier>
 
-#include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
+#include <cerrno>
+#include <csignal>
+#include <iterator>
 
 namespace kestrel {
 
@@ -12,14 +14,27 @@ namespace {
 
 constexpr int terminationSignals[] = {SIGTERM, SIGINT, SIGHUP};
 int terminationPipe[2] = {-1, -1};
+struct sigaction formerActions[std::size(terminationSignals)];
 
-void setHandlers(void (*handler)(int))
+void writeToPipe(int number)
+{
+    const int savedError = errno;
+    const char byte = char(number);
+    [[maybe_unused]] const auto written = write(terminationPipe[1], &byte, 1);
+    errno = savedError;
+}
+
+/// A signal that this process was started to ignore (nohup) stays ignored.
+void setHandlers()
 {
     struct sigaction action = {};
-    action.sa_handler = handler;
+    action.sa_handler = writeToPipe;
     action.sa_flags = SA_RESTART;
-    for (const int number : terminationSignals)
-        sigaction(number, &action, nullptr);
+    for (size_t i = 0; i < std::size(terminationSignals); ++i) {
+        sigaction(terminationSignals[i], nullptr, &formerActions[i]);
+        if (formerActions[i].sa_handler != SIG_IGN)
+            sigaction(terminationSignals[i], &action, nullptr);
+    }
 }
 
 }  // namespace
@@ -39,17 +54,15 @@ TerminationSignals::TerminationSignals(QObject *parent) : QObject(parent)
             continue;
         emit received();
     });
-    setHandlers([](int number) {
-        const char byte = char(number);
-        [[maybe_unused]] const auto written = write(terminationPipe[1], &byte, 1);
-    });
+    setHandlers();
 }
 
 TerminationSignals::~TerminationSignals()
 {
     if (!m_notifier)
         return;
-    setHandlers(SIG_DFL);
+    for (size_t i = 0; i < std::size(terminationSignals); ++i)
+        sigaction(terminationSignals[i], &formerActions[i], nullptr);
     m_notifier.reset();
     close(terminationPipe[0]);
     close(terminationPipe[1]);

@@ -8,8 +8,8 @@ class QSocketNotifier;
 
 namespace kestrel {
 
-/// Turns SIGTERM, SIGINT and SIGHUP into a signal of the event loop, so that they end the application in order. One object at a time;
-/// the signals have their former effect again when it goes.
+/// Turns SIGTERM, SIGINT and SIGHUP into a signal of the event loop, so that they end the application in order. One
+/// object at a time; the signals have their former effect again when it goes.
 class TerminationSignals : public QObject {
     Q_OBJECT
 public:

@@ -15,8 +15,9 @@
 #include "PetrelController.h"
 #include "PloversController.h"
 #include "ProductInformation.h"
+#include "Queues.h"
 #include "SingleInstance.h"
-#include "SystemInformation.h"
+#include "StandardFolders.h"
 #include "TerminationSignals.h"
 #include "Theme.h"
 #include "UserDefaults.h"
@@ -24,24 +25,24 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
+#include <QIcon>
+#include <QLibraryInfo>
 #include <QProcess>
 #include <QSessionManager>
 #include <QStandardPaths>
+#include <QThreadPool>
+#include <QTranslator>
 
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
-using namespace kestrel;
+
+namespace kestrel {
 
 namespace {
 
-template <class Controller>
-ModuleFactory factoryOf()
-{
-    return [](const ModuleConfigure &configure) { return std::make_unique<Controller>(configure); };
-}
-
-QStringList filesOf(const QApplication &application)
+/// Absolute paths of the files named on the command line; --help and --version end the process here.
+QStringList filesOf(const QCoreApplication &application)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"A desktop hub for video work."_s);
@@ -55,9 +56,24 @@ QStringList filesOf(const QApplication &application)
     return files;
 }
 
-QString instanceFolder(const QString &identifier)
+/// Whether this process is the one to run; where it is not, `status` is its exit status. Needs no display.
+bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &files, int &status)
 {
-    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' + identifier;
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"Kestrel"_s);
+    QCoreApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
+    files = filesOf(application);
+    const SingleInstance::Role role = instance.claim(files);
+    if (role == SingleInstance::Role::Unanswered)
+        std::fputs("Kestrel is running already, but does not answer.\n", stderr);
+    status = role == SingleInstance::Role::Second ? EXIT_SUCCESS : EXIT_FAILURE;
+    return role == SingleInstance::Role::First;
+}
+
+template <class Controller>
+ModuleFactory factoryOf()
+{
+    return [](const ModuleConfigure &configure) { return std::make_unique<Controller>(configure); };
 }
 
 void presentSettings(QWidget *overWindow)
@@ -65,35 +81,9 @@ void presentSettings(QWidget *overWindow)
     JKestrelSettingController::loadDefaultWindowController().presentForWindow(overWindow);
 }
 
-int run(QApplication &application, foundation::UserDefaults &defaults)
+AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults)
 {
-    const QStringList files = filesOf(application);
-    SingleInstance instance(instanceFolder(foundation::Bundle::main().identifier()));
-    switch (instance.claim(files)) {
-    case SingleInstance::Role::First:
-        break;
-    case SingleInstance::Role::Second:
-        return EXIT_SUCCESS;
-    case SingleInstance::Role::Unanswered:
-        std::fputs("Kestrel is running already, but does not answer.\n", stderr);
-        return EXIT_FAILURE;
-    }
-
-    tarnwell::Log log(tarnwell::stateDirectory() + u'/' + tarnwell::GetApplicationName());
-    const tarnwell::Installed<tarnwell::Log> installedLog(log);
-    tarnwell::logQtMessages();
-    tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s),
-                                        defaults.stringArrayForKey(appleLanguagesKey.toString()).value(0));
-    const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
-    tarnwell::DesktopWebOpener webOpener;
-    const tarnwell::Installed<tarnwell::WebOpener> installedWebOpener(webOpener);
-    tarnwell::DesktopAlertPresenter alerts;
-    const tarnwell::Installed<tarnwell::AlertPresenter> installedAlerts(alerts);
-    tarnwell::DesktopFolderPanel folderPanel;
-    const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
-    tarnwell::applyTheme(application);
-
-    AppDelegate delegate({
+    return {
         .setting = JKestrelSetting::ShareInst(),
         .defaults = defaults,
         .modules = {factoryOf<MarlinController>(), factoryOf<HeronController>(), factoryOf<PetrelController>(),
@@ -103,40 +93,93 @@ int run(QApplication &application, foundation::UserDefaults &defaults)
         .terminate = [] { QCoreApplication::exit(); },
         .startProcess = [](const QString &program,
                            const QStringList &arguments) { return QProcess::startDetached(program, arguments); },
-    });
-    const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(delegate);
+    };
+}
 
-    const TerminationSignals signals_;
-    QObject::connect(&signals_, &TerminationSignals::received, &delegate, [] { QCoreApplication::exit(); });
-    QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate, &AppDelegate::applicationWillTerminate,
+/// The texts of the desktop's own dialogs, which Qt brings along.
+void installDialogTexts(QTranslator &translator, const QString &language)
+{
+    if (translator.load(QLocale(language), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
+}
+
+/// For the desktop's task list, which the first window need not wait for.
+void setWindowIcon()
+{
+    QIcon icon;
+    for (const int size : {16, 32, 48, 128})
+        icon.addFile(foundation::Bundle::main().resource(u"icons/hicolor/%1x%1/apps/kestrel.png"_s.arg(size)),
+                     {size, size});
+    QApplication::setWindowIcon(icon);
+}
+
+/// Every way to end in order: the desktop's session, a signal, the last of the event loop.
+void connectEndings(QApplication &application, AppDelegate &delegate, const TerminationSignals &signalsOfTheSystem)
+{
+    QObject::connect(&signalsOfTheSystem, &TerminationSignals::received, &delegate, [] { QCoreApplication::exit(); });
+    QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate, &AppDelegate::sessionWillEnd,
                      Qt::DirectConnection);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
-    QObject::connect(&instance, &SingleInstance::startedAgain, &delegate, [&delegate](const QStringList &newFiles) {
-        delegate.appController()->raiseVisibleWindow();
-        if (!newFiles.isEmpty())
-            delegate.appController()->openFiles(newFiles);
-    });
+}
+
+int run(QApplication &application, SingleInstance &instance, const QStringList &files,
+        foundation::UserDefaults &defaults)
+{
+    const QString language = defaults.stringArrayForKey(appleLanguagesKey.toString()).value(0);
+    QTranslator dialogTexts;
+    installDialogTexts(dialogTexts, language);
+    tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s), language);
+    const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
+    tarnwell::DesktopWebOpener webOpener;
+    const tarnwell::Installed<tarnwell::WebOpener> installedWebOpener(webOpener);
+    tarnwell::DesktopAlertPresenter alerts;
+    const tarnwell::Installed<tarnwell::AlertPresenter> installedAlerts(alerts);
+    tarnwell::DesktopFolderPanel folderPanel;
+    const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
+    tarnwell::applyTheme(application);
+
+    AppDelegate delegate(surroundings(defaults));
+    const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(delegate);
+    const TerminationSignals signalsOfTheSystem;
+    connectEndings(application, delegate, signalsOfTheSystem);
+    QObject::connect(&instance, &SingleInstance::startedAgain, &delegate, &AppDelegate::startedAgain);
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
     if (!files.isEmpty())
         delegate.appController()->openFiles(files);
-    return QApplication::exec();
+    instance.listen();
+    foundation::queue::afterMain(std::chrono::milliseconds(250), setWindowIcon);
+    const int status = QApplication::exec();
+    // Background jobs use what goes from here on.
+    QThreadPool::globalInstance()->waitForDone();
+    return status;
 }
 
 }  // namespace
 
+}  // namespace kestrel
+
 int main(int argc, char **argv)
 {
+    using namespace kestrel;
+    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' +
+                            foundation::Bundle::main().identifier());
+    QStringList files;
+    int status = EXIT_SUCCESS;
+    if (!isTheOne(instance, argc, argv, files, status))
+        return status;
+
+    tarnwell::Log log(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName());
+    const tarnwell::Installed<tarnwell::Log> installedLog(log);
+    const tarnwell::QtMessageLog messageLog;
     foundation::UserDefaults &defaults = foundation::UserDefaults::standardUserDefaults();
     settleInterfaceLanguage(defaults, foundation::systemPreferredLanguages());
 
     QApplication application(argc, argv);
     QApplication::setQuitOnLastWindowClosed(false);
-    QApplication::setApplicationName(u"kestrel"_s);
+    QApplication::setApplicationName(u"Kestrel"_s);
     QApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
     QApplication::setDesktopFileName(foundation::Bundle::main().identifier());
-    const int status = run(application, defaults);
-    defaults.synchronize();
-    return status;
+    return run(application, instance, files, defaults);
 }

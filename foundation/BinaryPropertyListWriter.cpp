@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <bit>
 #include <limits>
+#include <optional>
 #include <vector>
 
 using namespace Qt::StringLiterals;

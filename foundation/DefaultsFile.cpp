@@ -23,7 +23,6 @@ namespace kestrel::foundation {
 
 namespace {
 
-constexpr std::chrono::milliseconds lockPatience = 3s;
 constexpr std::chrono::milliseconds lockPollInterval = 5ms;
 /// The age from which a lock whose owner cannot be told may be taken over. Short, because a running owner keeps it all
 /// the same: it holds the lock file itself locked.
@@ -73,12 +72,12 @@ DefaultsFile::DefaultsFile(const QString &path) : m_path(resolvedPath(path)), m_
     m_lock.setStaleLockTime(int(staleLockAge.count()));
 }
 
-bool DefaultsFile::lock()
+bool DefaultsFile::lock(std::chrono::milliseconds patience)
 {
     if (!makePrivateFolder(QFileInfo(m_path).path()))
         return fail(u"its folder cannot be made"_s);
     // QLockFile's own waiting doubles its pauses from 100 ms on; a save takes a few.
-    const QDeadlineTimer deadline(lockPatience);
+    const QDeadlineTimer deadline(patience);
     while (!m_lock.tryLock(0)) {
         if (m_lock.error() != QLockFile::LockFailedError)
             return fail(u"its folder takes no lock file"_s);

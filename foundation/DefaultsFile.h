@@ -4,6 +4,8 @@
 #include <QString>
 #include <QVariantMap>
 
+#include <chrono>
+
 namespace kestrel::foundation {
 
 /// The file of one defaults domain: an XML property list that holds a dictionary. Links are followed to the file that
@@ -21,9 +23,9 @@ public:
 
     explicit DefaultsFile(const QString &path);
 
-    /// Makes the folder where need be and waits for the lock for a few seconds. The lock goes with the object, and a
-    /// lock left by a process that was killed within a second.
-    bool lock();
+    /// Makes the folder where need be and waits for the lock, at most for `patience`. The lock goes with the object,
+    /// and a lock left by a process that was killed within a second.
+    bool lock(std::chrono::milliseconds patience);
 
     State read();
     State state() const { return m_state; }  ///< what the last `read` or `setAside` found

@@ -16,8 +16,9 @@ struct Size {
     bool operator==(const Size &) const = default;
 };
 
-/// A rectangle in points with a bottom-up y axis: `origin` is its lower-left corner. Frames of windows are measured from the
-/// lower-left corner of the primary screen, frames of views from the lower-left corner of the view that holds them.
+/// A rectangle in points with a bottom-up y axis: `origin` is its lower-left corner. Frames of windows are measured
+/// from the lower-left corner of the primary screen, frames of views from the lower-left corner of the view that holds
+/// them.
 struct Rect {
     Point origin;
     Size size;
@@ -34,7 +35,8 @@ struct Rect {
     }
 };
 
-/// Conversion to and from Qt's top-down pixels (one point is one device-independent pixel) inside an area `height` points high.
+/// Conversion to and from Qt's top-down pixels (one point is one device-independent pixel) inside an area `height`
+/// points high.
 QRect toTopDown(const Rect &rect, double height);
 Rect toBottomUp(const QRect &rect, double height);
 

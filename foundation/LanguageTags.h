@@ -10,7 +10,8 @@ QStringList systemPreferredLanguages();
 
 /// `localeName` (a POSIX or BCP 47 name: "zh_TW.UTF-8", "sr_RS@latin", "pt-BR") as a tag of language, script and
 /// region; empty for "C", "POSIX" and what is no locale name. The script stands where the language is commonly written
-/// in several ("zh-Hant-TW", "sr-Cyrl-RS") and where the name gives an unusual one; the region only where the name gives it.
+/// in several ("zh-Hant-TW", "sr-Cyrl-RS") and where the name gives an unusual one; the region only where the name
+/// gives it.
 QString languageTag(const QString &localeName);
 
 /// The name of the language with the tag `code`, written in the language with the tag `displayLanguage` ("Japanese",

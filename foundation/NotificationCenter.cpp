@@ -1,5 +1,7 @@
 #include "NotificationCenter.h"
 
+#include <utility>
+
 namespace kestrel::foundation {
 
 NotificationCenter &NotificationCenter::defaultCenter()

@@ -1,9 +1,11 @@
 #include "Processes.h"
 
-#include <cerrno>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/syscall.h>
 #include <unistd.h>
+#include <cerrno>
+#include <csignal>
 
 namespace kestrel::foundation {
 
@@ -20,6 +22,15 @@ bool waitForProcessEnd(qint64 processIdentifier)
     } while (result < 0 && errno == EINTR);
     close(process);
     return result == 1;
+}
+
+std::function<void()> endWithParent()
+{
+    return [parent = getpid()] {
+        prctl(PR_SET_PDEATHSIG, SIGKILL);
+        if (getppid() != parent)  // it ended in between
+            _exit(1);
+    };
 }
 
 }  // namespace kestrel::foundation

@@ -4,11 +4,13 @@
 #include "DefaultsFile.h"
 #include "LanguageTags.h"
 #include "PropertyList.h"
+#include "StandardFolders.h"
 
 #include <QCoreApplication>
 #include <QDir>
 
 #include <algorithm>
+#include <chrono>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -17,6 +19,7 @@ namespace kestrel::foundation {
 
 namespace {
 
+constexpr std::chrono::milliseconds lockPatience(3000);
 constexpr auto identifierOutsideBundle = "com.tarnwell.kestrel"_L1;
 
 /// `value` in the types of a property list, at every level: callers hand in narrower numbers and lists of strings as
@@ -60,18 +63,14 @@ QVariant asReadBack(const QString &key, const QVariant &value)
 
 QString standardDomainPath()
 {
-    QString folder = qEnvironmentVariable("XDG_CONFIG_HOME");
-    if (!QDir::isAbsolutePath(folder))
-        folder = QDir::homePath() + "/.config"_L1;
     const QString identifier = Bundle::main().identifier();
-    return folder + u'/' + (identifier.isEmpty() ? QString(identifierOutsideBundle) : identifier) +
+    return configurationDirectory() + u'/' + (identifier.isEmpty() ? QString(identifierOutsideBundle) : identifier) +
            "/defaults.plist"_L1;
 }
 
 QVariantMap systemValuesNow()
 {
-    const QStringList languages = systemPreferredLanguages();
-    return languages.isEmpty() ? QVariantMap() : QVariantMap{{u"AppleLanguages"_s, languages}};
+    return {{u"AppleLanguages"_s, systemPreferredLanguages()}};
 }
 
 }  // namespace
@@ -172,7 +171,8 @@ bool UserDefaults::synchronize()
     if (m_pendingKeys.isEmpty())
         return true;
     DefaultsFile file(m_domainPath);
-    if (!file.lock())
+    // Whoever keeps the lock for so long may keep it for ever: after one failure nobody waits for it again.
+    if (!file.lock(m_failureReported ? std::chrono::milliseconds(0) : lockPatience))
         return reportFailure(file.error());
     if (file.read() == DefaultsFile::State::Damaged)
         file.setAside();
@@ -198,7 +198,8 @@ void UserDefaults::load()
 {
     DefaultsFile file(m_domainPath);
     // Read again under the lock: another process may have put a good file there in the meantime.
-    if (file.read() == DefaultsFile::State::Damaged && file.lock() && file.read() == DefaultsFile::State::Damaged)
+    if (file.read() == DefaultsFile::State::Damaged && file.lock(lockPatience) &&
+        file.read() == DefaultsFile::State::Damaged)
         file.setAside();
     if (file.state() != DefaultsFile::State::Readable && file.state() != DefaultsFile::State::Missing)
         reportFailure(file.error());

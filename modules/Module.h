@@ -13,16 +13,17 @@ namespace kestrel {
 
 class JKestrelSettingDispatcher;
 
-/// What the host hands to a new module: one entry, "setting", the module's dispatcher. A module keeps it as long as it reads settings.
+/// What the host hands to a new module: one entry, "setting", the module's dispatcher. A module keeps it as long as it
+/// reads settings.
 using ModuleConfigure = QHash<QString, std::shared_ptr<JKestrelSettingDispatcher>>;
 inline constexpr QStringView moduleSettingKey = u"setting";
 
 /// A module as the host sees it: this header is all that a module's author has to read.
 ///
-/// The host makes each module once at launch (its constructor takes the configuration) and keeps it until the application ends. It asks
-/// for the view at once, to remember its size, and then on every switch: the view comes into the main window, at exactly that size, when
-/// the module is opened and goes out when it is left or another module is opened. Building the view is on the way to the first
-/// window, so it must be quick. All calls come on the main thread.
+/// The host makes each module once at launch (its constructor takes the configuration) and keeps it until the
+/// application ends. It asks for the view at once, to remember its size, and then on every switch: the view comes into
+/// the main window, at exactly that size, when the module is opened and goes out when it is left or another module is
+/// opened. Building the view is on the way to the first window, so it must be quick. All calls come on the main thread.
 class ModuleController {
 public:
     using CompletedHandler = std::function<void(ModuleController *)>;
@@ -31,7 +32,8 @@ public:
 
     /// Called once, after the constructor. The module calls the handler, with itself, whenever the user leaves it.
     virtual void setCompletedHandler(CompletedHandler handler) = 0;
-    /// The module's root view, owned by the module; the host takes it out of the main window before the module goes. May be null.
+    /// The module's root view, owned by the module; the host takes it out of the main window before the module goes.
+    /// May be null.
     virtual QWidget *view() = 0;
     /// What the main window's title names, already localised; null for nothing.
     virtual QString windowTitle() const = 0;
@@ -58,7 +60,8 @@ public:
 class ModuleSettingSync {
 public:
     virtual ~ModuleSettingSync() = default;
-    virtual void syncSetting() = 0;  ///< conversion and DVD, when the application ends: write your settings through the dispatcher
+    /// Conversion and DVD, when the application ends: write your settings through the dispatcher.
+    virtual void syncSetting() = 0;
 };
 
 class ModuleFirstOpenTip {
@@ -82,7 +85,8 @@ public:
 class ModuleFileOpening {
 public:
     virtual ~ModuleFileOpening() = default;
-    virtual void openFiles(const QStringList &paths) = 0;  ///< conversion, after it was opened for files: absolute paths
+    /// Conversion, after it was opened for files: absolute paths.
+    virtual void openFiles(const QStringList &paths) = 0;
 };
 
 using ModuleFactory = std::function<std::unique_ptr<ModuleController>(const ModuleConfigure &)>;

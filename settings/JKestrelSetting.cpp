@@ -1,6 +1,7 @@
 #include "JKestrelSetting.h"
 
 #include "Bundle.h"
+#include "Log.h"
 #include "ProductInformation.h"
 #include "SystemInformation.h"
 #include "UserDefaults.h"
@@ -52,9 +53,8 @@ JKestrelSetting::~JKestrelSetting() = default;
 
 JKestrelSetting &JKestrelSetting::ShareInst()
 {
-    // Never released: modules hold on to it until the process ends.
-    static auto *shared = new JKestrelSetting(foundation::UserDefaults::standardUserDefaults());
-    return *shared;
+    static JKestrelSetting shared(foundation::UserDefaults::standardUserDefaults());
+    return shared;
 }
 
 void JKestrelSetting::load()
@@ -88,8 +88,10 @@ void JKestrelSetting::sync()
                                     {u"shutdown"_s, m_shutdownWhenDone},
                                     {u"notify"_s, m_notifyWhenAvailable}});
     const QByteArray archive = archiver.archivedData();
-    if (archive.isEmpty())
+    if (archive.isEmpty()) {
+        tarnwell::DNFootLog(u"The settings could not be archived"_s);
         return;
+    }
     m_defaults.setObject(archive, settingKey);
     m_defaults.synchronize();
 }

@@ -13,8 +13,9 @@ class UserDefaults;
 
 namespace kestrel {
 
-/// Every setting of the application and its modules. Loaded from the user defaults ("setting", one keyed archive) when it is made;
-/// changes live in memory until `sync`. Properties can be looked up by key path ("video.videoOutputPath"). Main thread only.
+/// Every setting of the application and its modules. Loaded from the user defaults ("setting", one keyed archive) when
+/// it is made; changes live in memory until `sync`. Properties can be looked up by key path ("video.videoOutputPath").
+/// Main thread only.
 class JKestrelSetting final : public QObject {
     Q_OBJECT
     Q_PROPERTY(QObject *video READ videoObject CONSTANT)
@@ -37,7 +38,8 @@ public:
     /// The shared object over the application's own defaults, made on first use.
     static JKestrelSetting &ShareInst();
 
-    /// Writes the model to the defaults and the defaults to the disk. Where it cannot be archived, the stored value stays.
+    /// Writes the model to the defaults and the defaults to the disk. Where it cannot be archived, the stored value
+    /// stays.
     void sync();
 
     JVideoSetting *video() const { return m_video.get(); }

@@ -11,14 +11,14 @@ namespace {
 JSettingBase *settingOfKind(qint32 kind, const JKestrelSetting &setting)
 {
     switch (kind) {
-    case ModuleSettingVideo:
-        return setting.video();
-    case ModuleSettingDVD:
-        return setting.dvd();
-    case ModuleSettingDownload:
-        return setting.downloader();
-    case ModuleSettingRecord:
-        return setting.recorder();
+        case ModuleSettingVideo:
+            return setting.video();
+        case ModuleSettingDVD:
+            return setting.dvd();
+        case ModuleSettingDownload:
+            return setting.downloader();
+        case ModuleSettingRecord:
+            return setting.recorder();
     }
     return nullptr;
 }
@@ -31,7 +31,9 @@ std::shared_ptr<JKestrelSettingDispatcher> JKestrelSettingDispatcher::SettingDis
 }
 
 JKestrelSettingDispatcher::JKestrelSettingDispatcher(qint32 kind, JKestrelSetting &setting)
-    : m_dispatchType(kind), m_setting(&setting), m_currentSetting(settingOfKind(kind, setting))
+    : m_dispatchType(kind),
+      m_setting(&setting),
+      m_currentSetting(settingOfKind(kind, setting))
 {
 }
 

@@ -16,14 +16,14 @@ enum ModuleSettingKind : qint32 {
     ModuleSettingRecord = 3,
 };
 
-/// Posted on the default notification centre, without an object, after an output folder or the hardware choice was changed in the
-/// settings window: what a module has read before is to be read again.
+/// Posted on the default notification centre, without an object, after an output folder or the hardware choice was
+/// changed in the settings window: what a module has read before is to be read again.
 inline constexpr QStringView keyKestrelSettingDidChangedNotification = u"keyKestrelSettingDidChangedNotification";
 
-/// A module's view of the settings: its own folders and switches, the application-wide switches and tool paths, and the download,
-/// recording and DVD preferences whatever module it serves. Everything is forwarded to the shared settings object; nothing is stored
-/// on disk or announced here. One of an unknown kind answers null, false or 0 for what belongs to a module and ignores changes to
-/// it. Main thread only.
+/// A module's view of the settings: its own folders and switches, the application-wide switches and tool paths, and the
+/// download, recording and DVD preferences whatever module it serves. Everything is forwarded to the shared settings
+/// object; nothing is stored on disk or announced here. One of an unknown kind answers null, false or 0 for what
+/// belongs to a module and ignores changes to it. Main thread only.
 class JKestrelSettingDispatcher {
 public:
     static std::shared_ptr<JKestrelSettingDispatcher> SettingDispatcherWithType(qint32 kind);
@@ -58,7 +58,8 @@ public:
     bool autoCopy() const;
     void setAdd2iTunesLib(bool enabled);
     bool add2iTunesLib() const;
-    /// Whether the module can write its output; if not, `error` gets a localised sentence for the user.
+    /// Whether the module can write its output; if not, `error` gets a localised sentence for the user (null where
+    /// there is no module).
     bool check(QString *error) const;
 
     // Application-wide

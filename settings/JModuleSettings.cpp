@@ -1,5 +1,7 @@
 #include "JModuleSettings.h"
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -42,7 +44,9 @@ void JDVDSetting::encodeWithCoder(foundation::KeyedEncoder &coder) const
 }
 
 JDownloaderSetting::JDownloaderSetting(const foundation::KeyedDecoder *coder)
-    : JSettingBase({.snapshot = false}, coder), m_preferedFormat(defaultFormat), m_preferedResolution(defaultResolution)
+    : JSettingBase({.snapshot = false}, coder),
+      m_preferedFormat(defaultFormat),
+      m_preferedResolution(defaultResolution)
 {
     if (!coder)
         return;
@@ -78,7 +82,8 @@ JRecorderSetting::JRecorderSetting(const foundation::KeyedDecoder *coder)
     if (!coder)
         return;
     m_recordQuality = qint32(coder->decodeInteger(u"quality"_s));
-    m_maxFrameRate = coder->decodeDouble(u"maxFramerate"_s);
+    const double frameRate = coder->decodeDouble(u"maxFramerate"_s);
+    m_maxFrameRate = std::isfinite(frameRate) ? frameRate : 0;
     m_recordVideoDeviceID = coder->decodeString(u"videoDevice"_s);
     m_recordAudioDeviceID = coder->decodeString(u"audioDevice"_s);
     m_captureMouseClick = coder->decodeBool(u"captureMouse"_s);

@@ -44,7 +44,7 @@ void JSettingBase::loadFolders(const foundation::KeyedDecoder *coder)
             continue;
         if (coder)
             path = coder->decodeString(key);
-        if (path.isEmpty())
+        if (!QDir::isAbsolutePath(path))
             path = QDir::home().filePath(belowHome);
         tarnwell::CreateDirectory(path);
     }
@@ -52,7 +52,7 @@ void JSettingBase::loadFolders(const foundation::KeyedDecoder *coder)
 
 bool JSettingBase::checkSetting(QString *error) const
 {
-    if (!m_videoOutputPath.isEmpty() && QFileInfo::exists(m_videoOutputPath))
+    if (!m_videoOutputPath.isEmpty() && QFileInfo(m_videoOutputPath).isDir())
         return true;
     *error = tarnwell::AppLocalizedString(u"The output directory does not exist. Please check the setting."_s);
     return false;

@@ -13,9 +13,9 @@ struct FolderNeeds {
     bool snapshot = true;
 };
 
-/// What the settings of every module have in common: output folders and conversion switches. Only the folders are archived; the
-/// switches begin every run with their defaults. Making one, new or from an archive, creates the folders it needs; a folder that
-/// cannot be created is reported by `checkSetting`.
+/// What the settings of every module have in common: output folders and conversion switches. Only the folders are
+/// archived; the switches begin every run with their defaults. Making one, new or from an archive, creates the folders
+/// it needs; a folder that cannot be created is reported by `checkSetting`.
 class JSettingBase : public QObject, public foundation::KeyedArchivable {
     Q_OBJECT
     Q_PROPERTY(QString videoOutputPath READ videoOutputPath WRITE setVideoOutputPath)
@@ -35,8 +35,8 @@ public:
     bool needMusicFolder() const { return m_needs.music; }
     bool needSnapshotFolder() const { return m_needs.snapshot; }
 
-    /// Whether the video output folder exists; if not, `error` gets a localised sentence for the user. The other folders are not
-    /// looked at.
+    /// Whether the video output folder exists; if not, `error` gets a localised sentence for the user. The other
+    /// folders are not looked at.
     bool checkSetting(QString *error) const;
 
     QStringList archiveClasses() const override;

@@ -7,8 +7,8 @@ namespace kestrel::tarnwell {
 enum class AlertStyle { Informational, Warning, Critical };
 enum class AlertAnswer { Default, Alternate };
 
-/// A question or a message over all windows. The texts are shown as they are: plain, already localised. A null `alternateButton`
-/// leaves that button out. Escape answers as the alternate button, or as the only one.
+/// A question or a message over all windows. The texts are shown as they are: plain, already localised. A null
+/// `alternateButton` leaves that button out. Escape answers as the alternate button, or as the only one.
 struct Alert {
     QString message;
     QString defaultButton;

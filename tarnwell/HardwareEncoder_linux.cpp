@@ -46,8 +46,8 @@ public:
         if (vaQueryConfigEntrypoints(m_display, profile, entrypoints.data(), &count) != VA_STATUS_SUCCESS)
             return false;
         return std::any_of(entrypoints.begin(), entrypoints.begin() + count, [&](VAEntrypoint entrypoint) {
-            return (entrypoint == VAEntrypointEncSlice || entrypoint == VAEntrypointEncSliceLP) &&
-                   fits(profile, entrypoint, width, height);
+            // The transcoder does not try the low-power encoder by itself.
+            return entrypoint == VAEntrypointEncSlice && fits(profile, entrypoint, width, height);
         });
     }
 
@@ -70,15 +70,23 @@ private:
 
 }  // namespace
 
-bool HWECanEncodeVideoInSize(quint32 codec, int width, int height)
+const HardwareEncoderArguments hardwareEncoderArguments = {.device = "-vaapi_device",
+                                                           .filter = "format=nv12,hwupload",
+                                                           .encoder = "-c:v h264_vaapi",
+                                                           .quality = "-qp 23",
+                                                           .best = "-qp 19"};
+
+QString hardwareEncoderDevice(quint32 codec, int width, int height)
 {
     constexpr quint32 avc1 = 0x61766331;
-    if (codec != avc1)
-        return false;
     constexpr const char *renderNodes[] = {"/dev/dri/renderD128", "/dev/dri/renderD129"};
-    return std::any_of(std::begin(renderNodes), std::end(renderNodes), [&](const char *node) {
-        return VideoDevice(node).canEncode(VAProfileH264Main, width, height);
-    });
+    if (codec != avc1)
+        return {};
+    for (const char *node : renderNodes) {
+        if (VideoDevice(node).canEncode(VAProfileH264Main, width, height))
+            return QString::fromLatin1(node);
+    }
+    return {};
 }
 
 }  // namespace kestrel::tarnwell

@@ -14,6 +14,11 @@ QString AppLocalizedString(const QString &key)
     return localization && !key.isEmpty() ? localization->localizedString(key) : key;
 }
 
+QString AppLocalizedString(const char *key)
+{
+    return AppLocalizedString(QString::fromUtf8(key));
+}
+
 Localization::Localization(const QString &folder, const QString &language)
     : m_catalogue(std::make_unique<QTranslator>())
 {

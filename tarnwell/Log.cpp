@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QThread>
 
+#include <atomic>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +19,7 @@ namespace {
 
 QString threadName()
 {
-    // The main thread is the one that made the application's log, long before any other thread.
+    // The main thread is the one that makes the application's log, long before there is any other.
     static const Qt::HANDLE mainThread = QThread::currentThreadId();
     const Qt::HANDLE thread = QThread::currentThreadId();
     return thread == mainThread ? u"main"_s : u"%1"_s.arg(quintptr(thread) & 0xFFFFFF, 6, 16, QLatin1Char('0'));
@@ -27,6 +28,16 @@ QString threadName()
 void writeToStandardError(const QByteArray &line)
 {
     std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
+}
+
+std::atomic<QtMessageHandler> previousMessageHandler = nullptr;
+
+void logMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
+{
+    if (Log *log = Installed<Log>::current(); log && type != QtDebugMsg)
+        log->append(message);
+    if (const QtMessageHandler previous = previousMessageHandler)
+        previous(type, context, message);
 }
 
 }  // namespace
@@ -39,8 +50,9 @@ QString withoutPrivateParts(const QString &text, const QString &homeFolder)
     result.replace(credentials, u"\\1"_s);
     if (homeFolder.size() > 1 && result.contains(homeFolder)) {
         // Whole path components, at the end of a sentence too.
-        const QRegularExpression home(u"(?<![\\w.-])"_s + QRegularExpression::escape(homeFolder) + u"(?![\\w-]|\\.\\w)"_s,
-                                      QRegularExpression::UseUnicodePropertiesOption);
+        const QRegularExpression home(
+            u"(?<![\\w.-])"_s + QRegularExpression::escape(homeFolder) + u"(?![\\w-]|\\.\\w)"_s,
+            QRegularExpression::UseUnicodePropertiesOption);
         result.replace(home, u"~"_s);
     }
     result.remove(u'\r');
@@ -49,13 +61,16 @@ QString withoutPrivateParts(const QString &text, const QString &homeFolder)
 }
 
 Log::Log(const QString &folder, qint64 maximumBytes)
-    : m_file(folder + u"/kestrel.log"_s), m_previousPath(folder + u"/kestrel-previous.log"_s), m_maximumBytes(maximumBytes)
+    : m_file(folder + u"/kestrel.log"_s),
+      m_previousPath(folder + u"/kestrel-previous.log"_s),
+      m_maximumBytes(maximumBytes)
 {
     threadName();
     QDir().mkpath(folder);
     discardPrevious();
     QFile::rename(m_file.fileName(), m_previousPath);
-    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered))
+    if (!m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered,
+                     QFile::ReadOwner | QFile::WriteOwner))
         writeToStandardError("The log cannot be written: "_ba + m_file.errorString().toUtf8() + '\n');
 }
 
@@ -117,16 +132,14 @@ void DNCleanupLogFile()
         log->discardPrevious();
 }
 
-void logQtMessages()
+QtMessageLog::QtMessageLog()
 {
-    static QtMessageHandler previous = nullptr;
-    if (previous)
-        return;
-    previous = qInstallMessageHandler([](QtMsgType type, const QMessageLogContext &context, const QString &message) {
-        if (Log *log = Installed<Log>::current(); log && type != QtDebugMsg)
-            log->append(message);
-        previous(type, context, message);
-    });
+    previousMessageHandler = qInstallMessageHandler(logMessage);
+}
+
+QtMessageLog::~QtMessageLog()
+{
+    qInstallMessageHandler(previousMessageHandler);
 }
 
 }  // namespace kestrel::tarnwell

@@ -4,17 +4,20 @@
 #include <QMutex>
 #include <QString>
 
+#include <concepts>
+
 namespace kestrel::tarnwell {
 
-/// The application's log: one file a run, and the one of the run before. Each line carries the local time and the thread. A line is
-/// written before `append` returns, so a crash loses none that came before it. Neither file grows beyond `maximumBytes`: the oldest
-/// lines go first and a line says so. The home folder is shown as "~" and credentials in web addresses are left out. Any thread.
+/// The application's log: one file a run, and the one of the run before. Each line carries the local time and the
+/// thread. A line is written before `append` returns, so a crash loses none that came before it. Neither file grows
+/// beyond `maximumBytes`: the oldest lines go first and a line says so. The home folder is shown as "~" and credentials
+/// in web addresses are left out. Any thread.
 class Log {
 public:
     static constexpr qint64 defaultMaximumBytes = 5 * 1024 * 1024;
 
-    /// Makes the last run's current log the previous one and begins a new one in `folder`. Where that cannot be written, lines go
-    /// to standard error.
+    /// Makes the last run's current log the previous one and begins a new one in `folder`. Where that cannot be
+    /// written, lines go to standard error.
     explicit Log(const QString &folder, qint64 maximumBytes = defaultMaximumBytes);
 
     void append(const QString &text);
@@ -38,9 +41,10 @@ QString withoutPrivateParts(const QString &text, const QString &homeFolder);
 /// Writes one line to the installed log (`Installed<Log>`), to standard error where there is none.
 void DNFootLog(const QString &text);
 
-/// As above, with %1, %2 … in `format` replaced by the arguments, which may not hold such markers' meaning themselves.
+/// As above, with %1, %2 … in `format` replaced by the arguments, which are texts; a %1 in one of them stays as it is.
 template <class... Arguments>
-void DNFootLog(const QString &format, const Arguments &...arguments)
+requires(std::convertible_to<const Arguments &, QString> &&...) void DNFootLog(const QString &format,
+                                                                               const Arguments &...arguments)
 {
     DNFootLog(format.arg(arguments...));
 }
@@ -49,7 +53,13 @@ QString DNGetLogFilePath();          ///< null where no log is installed
 QString DNGetPreviousLogFilePath();  ///< likewise; the file need not exist
 void DNCleanupLogFile();             ///< discards the previous run's log
 
-/// Sends Qt's own messages to the log as well.
-void logQtMessages();
+/// Sends Qt's own messages to the installed log as well, for the life of the object. One object at a time.
+class QtMessageLog {
+public:
+    QtMessageLog();
+    ~QtMessageLog();
+    QtMessageLog(const QtMessageLog &) = delete;
+    QtMessageLog &operator=(const QtMessageLog &) = delete;
+};
 
 }  // namespace kestrel::tarnwell

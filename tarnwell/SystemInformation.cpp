@@ -1,10 +1,22 @@
 #include "SystemInformation.h"
 
+#include "Installed.h"
+#include "StandardFolders.h"
+
 #include <QDir>
 
-using namespace Qt::StringLiterals;
-
 namespace kestrel::tarnwell {
+
+std::optional<SystemVersion> GetSystemVersion2()
+{
+    const auto *reported = Installed<const ReportedSystemVersion>::current();
+    return reported ? reported->version : platformSystemVersion();
+}
+
+QString GetApplicationSupportDir()
+{
+    return foundation::dataDirectory();
+}
 
 bool CreateDirectory(const QString &path)
 {

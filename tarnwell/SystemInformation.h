@@ -16,15 +16,20 @@ struct SystemVersion {
     int number() const { return major * 10000 + minor * 100 + patch; }
 };
 
-/// The level of the platform that version gates compare with; nothing where the system cannot report it. On platforms other than
-/// macOS a fixed level, 13.0.0: everything that is gated there is available.
+/// The level of the platform that version gates compare with; nothing where the system cannot report it. On platforms
+/// other than macOS a fixed level, 13.0.0: everything that is gated there is available.
 std::optional<SystemVersion> GetSystemVersion2();
 
-/// The folder below which applications keep the user's data: `$XDG_DATA_HOME`, or `~/.local/share`.
-QString GetApplicationSupportDir();
+/// Reported in place of the system's own while it is installed (`Installed<const ReportedSystemVersion>`).
+struct ReportedSystemVersion {
+    std::optional<SystemVersion> version;
+};
 
-/// The folder below which applications keep logs and other state: `$XDG_STATE_HOME`, or `~/.local/state`.
-QString stateDirectory();
+/// What the platform itself reports.
+std::optional<SystemVersion> platformSystemVersion();
+
+/// The folder below which applications keep the user's data.
+QString GetApplicationSupportDir();
 
 /// Creates `path` with the folders above it. True where it is a folder afterwards.
 bool CreateDirectory(const QString &path);
@@ -32,8 +37,23 @@ bool CreateDirectory(const QString &path);
 /// The name of the machine's processor where it is one of the platform maker's own; null on all others.
 QString GetAppleChipName();
 
-/// Whether the machine encodes video of this codec (a four-character code, 'avc1') and size in hardware. Answers at once where the
-/// machine has no such device.
-bool HWECanEncodeVideoInSize(quint32 codec, int width, int height);
+/// The device that encodes video of this codec (a four-character code, 'avc1') and size in hardware, in the
+/// transcoder's words; null where there is none. Answers at once where the machine has no such device.
+QString hardwareEncoderDevice(quint32 codec, int width, int height);
+
+inline bool HWECanEncodeVideoInSize(quint32 codec, int width, int height)
+{
+    return !hardwareEncoderDevice(codec, width, height).isNull();
+}
+
+/// How the transcoder is told to encode 'avc1' on such a device: arguments, separated by blanks.
+struct HardwareEncoderArguments {
+    const char *device;  ///< the device itself follows
+    const char *filter;  ///< takes pictures of any kind to the encoder
+    const char *encoder;
+    const char *quality;  ///< usual
+    const char *best;
+};
+extern const HardwareEncoderArguments hardwareEncoderArguments;
 
 }  // namespace kestrel::tarnwell

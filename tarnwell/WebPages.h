@@ -22,8 +22,8 @@ public:
     virtual QString phpRedirectLink(const QString &fui, const QString &jump) const = 0;
 };
 
-/// Opens `link` with the delegate's trace suffix for `tag` (joined with "&" where the link has a query already). Only http and https
-/// addresses are opened; anything else is refused and logged. Needs `Installed<WebOpener>`.
+/// Opens `link` with the delegate's trace suffix for `tag` (joined with "&" where the link has a query already). Only
+/// http and https addresses are opened; anything else is refused and logged. Needs `Installed<WebOpener>`.
 bool OpenWebsitePath(const QString &link, const QString &tag);
 
 /// Opens the delegate's redirect link to `link`, under the same rule.

@@ -51,12 +51,15 @@ foundation::Rect mainWindowFrame(const foundation::Rect &homeFrame, const founda
 }
 
 AppController::AppController(Surroundings surroundings, QObject *parent)
-    : QObject(parent), m_surroundings(std::move(surroundings))
+    : QObject(parent),
+      m_surroundings(std::move(surroundings))
 {
 }
 
 AppController::~AppController()
 {
+    m_surroundings.mainWindow.setShouldClose({});
+    m_surroundings.mainWindow.setCloseAction({});
     // A module owns its view: it must be out of the window before either goes.
     if (m_currentController)
         removeFromSuperview(m_currentController->view());
@@ -69,7 +72,8 @@ void AppController::applicationWillFinishLaunching()
     window.setShouldClose([this] { return windowShouldClose(); });
     m_menuController = std::make_unique<KestrelController>();
     m_menuController->makeInit();
-    m_menuController->setSettingAndAboutEnabled(bool(m_surroundings.windows.setting), bool(m_surroundings.windows.about));
+    m_menuController->setSettingAndAboutEnabled(bool(m_surroundings.windows.setting),
+                                                bool(m_surroundings.windows.about));
     loadEachSubController();
 }
 
@@ -143,11 +147,14 @@ foundation::Size AppController::realLoadSubController(ModuleController *controll
 void AppController::completeModule(ModuleController *controller)
 {
     const QWidget *view = controller->view();
-    QWidget *window = view && view->parentWidget() ? view->window() : nullptr;
-    tarnwell::LWindowTransitionAnimator::sharedAnimator().zoomFromWindow(window, m_menuController->window(), true, [this] {
-        switchToMenuWindow();
-        m_surroundings.setting.setCurrMode(menuMode);
-    });
+    QWidget *window = view && view->parentWidget() ? view->window() : &m_surroundings.mainWindow;
+    tarnwell::LWindowTransitionAnimator::sharedAnimator().zoomFromWindow(
+        window, m_menuController->window(), true, [self = QPointer(this)] {
+            if (!self)
+                return;
+            self->switchToMenuWindow();
+            self->m_surroundings.setting.setCurrMode(menuMode);
+        });
 }
 
 void AppController::showMenuWindow()
@@ -181,6 +188,8 @@ void AppController::openModule(ModuleIndex index)
     const HostedModule &module = m_modules[index];
     if (!module.controller)
         return;
+    // A way home that is still under way would set its own mode at its end.
+    tarnwell::LWindowTransitionAnimator::sharedAnimator().finishRunning();
     m_surroundings.setting.setCurrMode(moduleModes[index]);
     if (QWidget *view = module.controller->view())
         view->resize(qRound(module.originalSize.width), qRound(module.originalSize.height));
@@ -208,9 +217,9 @@ void AppController::showSubModeHelper(ModuleController *controller)
         view->show();
     }
     tarnwell::LWindowTransitionAnimator::sharedAnimator().zoomFromWindow(
-        m_menuController->window(), &window, false, [this] {
-            if (m_currentController && m_currentController == recorderController())
-                sendIfImplemented(m_currentController, &ModuleRecorderSession::startRecorderSession);
+        m_menuController->window(), &window, false, [self = QPointer(this)] {
+            if (self && self->m_currentController && self->m_currentController == self->recorderController())
+                sendIfImplemented(self->m_currentController, &ModuleRecorderSession::startRecorderSession);
         });
 }
 
@@ -240,7 +249,7 @@ tarnwell::JTitledWindow *AppController::visibleWindow() const
 
 void AppController::openFiles(const QStringList &paths)
 {
-    if (!m_surroundings.mainWindow.isVisible() || m_currentController != converterController())
+    if (m_surroundings.setting.currMode() != moduleModes[Converter])
         onShowMarlin();
     if (auto *receiver = dynamic_cast<ModuleFileOpening *>(converterController()))
         receiver->openFiles(paths);

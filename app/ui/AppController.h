@@ -21,19 +21,20 @@ namespace kestrel {
 
 class JKestrelSetting;
 
-/// How the host opens the windows that are presented over its own. An empty one stands for a window that this build does not have.
+/// How the host opens the windows that are presented over its own. An empty one stands for a window that this build
+/// does not have.
 struct PresentedWindows {
     using Presenter = std::function<void(QWidget *overWindow)>;
     Presenter setting = {};
     Presenter about = {};
 };
 
-/// Where the main window stands for a module view of `viewSize`, given the home window's frame: centred by the view, with the title bar
-/// on top.
+/// Where the main window stands for a module view of `viewSize`, given the home window's frame: centred by the view,
+/// with the title bar on top.
 foundation::Rect mainWindowFrame(const foundation::Rect &homeFrame, const foundation::Size &viewSize);
 
-/// The module host: makes the home screen and the four modules, swaps a module's view into the main window and back, opens the settings
-/// and about windows, saves at the end. Main thread only.
+/// The module host: makes the home screen and the four modules, swaps a module's view into the main window and back,
+/// opens the settings and about windows, saves at the end. Main thread only.
 class AppController : public QObject, public AppMainMenuControllerDelegate {
     Q_OBJECT
 public:
@@ -89,7 +90,10 @@ public:
     foundation::Size ripperControllerOriginalSize() const { return m_modules[Ripper].originalSize; }
     foundation::Size downloaderControllerOriginalSize() const { return m_modules[Downloader].originalSize; }
     foundation::Size recorderControllerOriginalSize() const { return m_modules[Recorder].originalSize; }
-    foundation::Size airPlayControllerOriginalSize() const { return {}; }  ///< of a module that this build does not have
+    foundation::Size airPlayControllerOriginalSize() const
+    {
+        return {};
+    }  ///< of a module that this build does not have
 
 private:
     /// The index is the dispatcher's kind.

@@ -52,18 +52,16 @@ tarnwell::AlertAnswer askOkOrCancel(const QString &message, const QString &infor
 }  // namespace
 
 AppDelegate::AppDelegate(Surroundings surroundings)
-    : m_surroundings(std::move(surroundings)), m_window(std::make_unique<tarnwell::JTitledWindow>()),
-      m_appController(std::make_unique<AppController>(
-          AppController::Surroundings{*m_window, m_surroundings.setting, m_surroundings.defaults,
-                                      std::move(m_surroundings.modules), m_surroundings.windows, m_surroundings.terminate}))
+    : m_surroundings(std::move(surroundings)),
+      m_window(std::make_unique<tarnwell::JTitledWindow>()),
+      m_appController(std::make_unique<AppController>(AppController::Surroundings{
+          *m_window, m_surroundings.setting, m_surroundings.defaults, std::move(m_surroundings.modules),
+          m_surroundings.windows, m_surroundings.terminate}))
 {
     makeStandardMenus();
 }
 
-AppDelegate::~AppDelegate()
-{
-    m_appController.reset();
-}
+AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::makeStandardMenus()
 {
@@ -116,6 +114,23 @@ void AppDelegate::applicationWillTerminate()
     m_surroundings.defaults.synchronize();
 }
 
+void AppDelegate::sessionWillEnd()
+{
+    applicationWillTerminate();
+    // Nobody tells that a session goes on, only that it ends.
+    foundation::queue::afterMain(30s, [self = QPointer(this)] {
+        if (self)
+            self->m_surroundings.defaults.setObject(true, notSafeTerminateKey);
+    });
+}
+
+void AppDelegate::startedAgain(const QStringList &files)
+{
+    m_appController->raiseVisibleWindow();
+    if (!files.isEmpty())
+        m_appController->openFiles(files);
+}
+
 void AppDelegate::checkBugReportFlagWhenLaunch()
 {
     m_surroundings.defaults.setObject(true, notSafeTerminateKey);
@@ -124,11 +139,10 @@ void AppDelegate::checkBugReportFlagWhenLaunch()
 void AppDelegate::appendNewMenuItems()
 {
     // The log viewer and the problem report are not part of this build yet: their entries wait disabled.
-    const MenuEntry entries[] = {
-        {},
-        {QT_TRANSLATE_NOOP("TarnwellPublic", "App Log")},
-        {QT_TRANSLATE_NOOP("TarnwellPublic", "Report Bug")},
-        {QT_TRANSLATE_NOOP("TarnwellPublic", "Reset Profiles"), [this] { resetProfiles(); }}};
+    const MenuEntry entries[] = {{},
+                                 {QT_TRANSLATE_NOOP("TarnwellPublic", "App Log")},
+                                 {QT_TRANSLATE_NOOP("TarnwellPublic", "Report Bug")},
+                                 {QT_TRANSLATE_NOOP("TarnwellPublic", "Reset Profiles"), [this] { resetProfiles(); }}};
     MainMenu::append(*m_mainMenu.helpMenu(), entries);
 }
 
@@ -139,7 +153,8 @@ void AppDelegate::setupLanuageMenu()
     const QString stored = m_surroundings.defaults.stringForKey(customizeLanguageKey.toString());
     for (int tag = 0; tag < int(supportedLanguages.size()); ++tag) {
         const QString code = supportedLanguages[size_t(tag)].toString();
-        QAction *item = languages->addAction(tag == 0 ? AppLocalizedString(code) : foundation::languageDisplayName(code));
+        QAction *item =
+            languages->addAction(tag == 0 ? AppLocalizedString(u"Default"_s) : foundation::languageDisplayName(code));
         item->setData(tag);
         item->setCheckable(true);
         item->setChecked(code == stored);

@@ -23,8 +23,8 @@ struct SupportLinks {
     QString dl300PlusURLReg;
 };
 
-/// The application's delegate: owns main window, menus and module host, adds the shell's own menu entries, and carries launch and
-/// termination. Main thread only.
+/// The application's delegate: owns main window, menus and module host, adds the shell's own menu entries, and carries
+/// launch and termination. Main thread only.
 class AppDelegate : public QObject, public tarnwell::WebLinkDelegate {
     Q_OBJECT
 public:
@@ -51,6 +51,10 @@ public:
     void applicationDidFinishLaunching();
     /// Saves everything; may come more than once.
     void applicationWillTerminate();
+    /// The desktop's session is about to end. Where it is not after all, the run goes on.
+    void sessionWillEnd();
+    /// Another process was started with these files and has handed them over.
+    void startedAgain(const QStringList &files);
 
     void onQuitAction();
     void onAppLanguageChanged(int tag);

@@ -15,6 +15,8 @@
 
 #include <QPainter>
 #include <QPointer>
+#include <QScreen>
+#include <QWindow>
 
 #include <algorithm>
 
@@ -32,17 +34,14 @@ const QString smallButtonTitleColor = u"434652"_s;
 constexpr foundation::Rect initialLayerFrames[] = {
     {91, 262, 94, 94}, {260, 262, 94, 94}, {427, 262, 94, 94}, {596, 262, 94, 94}};
 
-QString localized(const char *key)
-{
-    return AppLocalizedString(QString::fromUtf8(key));
-}
-
 void setTextColor(QWidget *widget, const QString &hex)
 {
     QPalette palette = widget->palette();
     const QColor color = foundation::ColorWithHexString(hex);
-    palette.setColor(QPalette::WindowText, color);
-    palette.setColor(QPalette::ButtonText, color);
+    for (const QPalette::ColorGroup group : {QPalette::Active, QPalette::Inactive}) {
+        palette.setColor(group, QPalette::WindowText, color);
+        palette.setColor(group, QPalette::ButtonText, color);
+    }
     widget->setPalette(palette);
 }
 
@@ -93,6 +92,9 @@ void KestrelController::makeInit()
 void KestrelController::showWindow()
 {
     m_window->makeKeyAndOrderFront();
+    // The picture is made of the renderings for one scale.
+    connect(m_window->windowHandle(), &QWindow::screenChanged, this, &KestrelController::paintDiscsIntoBackground,
+            Qt::UniqueConnection);
 }
 
 void KestrelController::setSettingAndAboutEnabled(bool setting, bool about)
@@ -125,7 +127,8 @@ void KestrelController::windowDidLoad()
         QWidget *view;
         int points;
         QFont::Weight weight;
-    } fonts[] = {{m_ui->introduceMain, 18, QFont::Bold}, {m_ui->introduceSub, 13, QFont::Normal},
+    } fonts[] = {{m_ui->introduceMain, 18, QFont::Bold},
+                 {m_ui->introduceSub, 13, QFont::Normal},
                  {m_ui->homeLabel, 10, QFont::Normal}};
     for (const auto &[view, points, weight] : fonts) {
         QFont font = view->font();
@@ -149,8 +152,8 @@ void KestrelController::windowDidLoad()
     }
     m_ui->homeLabel->setText(u"Tarnwell Software, Inc. %1"_s.arg(tarnwell::AppReadableHomeLink()));
     paintDiscsIntoBackground();
-    for (const auto &[button, origin] : {std::pair<QWidget *, foundation::Point>{m_ui->aboutButton, {574, 4}},
-                                         {m_ui->settingButton, {664, 4}}}) {
+    for (const auto &[button, origin] :
+         {std::pair<QWidget *, foundation::Point>{m_ui->aboutButton, {574, 4}}, {m_ui->settingButton, {664, 4}}}) {
         foundation::Rect frame = tarnwell::viewFrame(button);
         frame.origin = origin;
         tarnwell::setViewFrame(button, frame);
@@ -208,14 +211,14 @@ void KestrelController::onButtonMouseEntered(JFeedbackButton *sender)
     if (!module)
         return;
     const HomeHoverText &texts = homeHoverTexts[size_t(module - m_modules.data())];
-    showTexts(localized(texts.headline), localized(texts.description));
+    showTexts(AppLocalizedString(texts.headline), AppLocalizedString(texts.description));
     setCaptionColor(*module, hoveredCaptionColor);
     makeZoomInAnimation(module->backgroundLayer, module->button);
 }
 
 void KestrelController::onButtonMouseExit(JFeedbackButton *sender)
 {
-    showTexts(homeRestingHeadline.toString(), localized(homeRestingDescription));
+    showTexts(homeRestingHeadline.toString(), AppLocalizedString(homeRestingDescription));
     const ModuleButton *module = moduleOf(sender);
     if (!module)
         return;
@@ -253,16 +256,19 @@ void KestrelController::onDownloadButtonAction()
 void KestrelController::onRecordButtonAction()
 {
     switch (recorderGate(tarnwell::GetSystemVersion2())) {
-    case RecorderGate::Unavailable:
-        tarnwell::runAlert({AppLocalizedString(u"Screen Record Unavailable!"_s), AppLocalizedString(u"OK"_s), {},
-                            AppLocalizedString(u"The screen recorder is only supported on Mac OS Lion and later."_s),
-                            tarnwell::AlertStyle::Critical});
-        return;
-    case RecorderGate::Open:
-        m_menuDelegate->onShowRecorder();
-        return;
-    case RecorderGate::AskForPermission:
-        break;
+        case RecorderGate::Unavailable:
+            tarnwell::runAlert(
+                {AppLocalizedString(u"Screen Record Unavailable!"_s),
+                 AppLocalizedString(u"OK"_s),
+                 {},
+                 AppLocalizedString(u"The screen recorder is only supported on Mac OS Lion and later."_s),
+                 tarnwell::AlertStyle::Critical});
+            return;
+        case RecorderGate::Open:
+            m_menuDelegate->onShowRecorder();
+            return;
+        case RecorderGate::AskForPermission:
+            break;
     }
     const QString library = tarnwell::productBundle().contentsPath(u"Frameworks/libCapturePermission.dylib"_s);
     const QPointer<KestrelController> self(this);
@@ -273,9 +279,11 @@ void KestrelController::onRecordButtonAction()
     using Outcome = CapturePermissionAnswer::Outcome;
     const bool opens = answer.outcome == Outcome::Open ||
                        (answer.outcome == Outcome::Failed &&
-                        tarnwell::runAlert({answer.error, AppLocalizedString(u"Continue"_s),
-                                            AppLocalizedString(u"Cancel"_s), {}, tarnwell::AlertStyle::Warning}) ==
-                            tarnwell::AlertAnswer::Default);
+                        tarnwell::runAlert({answer.error,
+                                            AppLocalizedString(u"Continue"_s),
+                                            AppLocalizedString(u"Cancel"_s),
+                                            {},
+                                            tarnwell::AlertStyle::Warning}) == tarnwell::AlertAnswer::Default);
     if (opens)
         m_menuDelegate->onShowRecorder();
 }

@@ -37,7 +37,7 @@ MainMenu::MainMenu()
                                   QT_TRANSLATE_NOOP("TarnwellPublic", "Window"),
                                   QT_TRANSLATE_NOOP("TarnwellPublic", "Help")};
     for (size_t i = 0; i < m_menus.size(); ++i) {
-        const QString title = titles[i] ? tarnwell::AppLocalizedString(QString::fromUtf8(titles[i])) : u"Kestrel"_s;
+        const QString title = titles[i] ? tarnwell::AppLocalizedString(titles[i]) : u"Kestrel"_s;
         m_menus[i] = std::make_unique<QMenu>(title);
     }
     const MenuEntry edit[] = {
@@ -50,7 +50,8 @@ MainMenu::MainMenu()
         {QT_TRANSLATE_NOOP("TarnwellPublic", "Select All"), toFocusedControl("selectAll"), QKeySequence::SelectAll}};
     append(*editMenu(), edit);
     const MenuEntry window[] = {
-        {QT_TRANSLATE_NOOP("TarnwellPublic", "Minimize"), toActiveWindow(&QWidget::showMinimized), Qt::CTRL | Qt::Key_M},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Minimize"), toActiveWindow(&QWidget::showMinimized),
+         Qt::CTRL | Qt::Key_M},
         {QT_TRANSLATE_NOOP("TarnwellPublic", "Close"),
          [] {
              if (auto *active = qobject_cast<tarnwell::JTitledWindow *>(QApplication::activeWindow()))
@@ -74,7 +75,7 @@ void MainMenu::append(QMenu &menu, std::span<const MenuEntry> entries)
             menu.addSeparator();
             continue;
         }
-        QAction *item = menu.addAction(tarnwell::AppLocalizedString(QString::fromUtf8(entry.title)));
+        QAction *item = menu.addAction(tarnwell::AppLocalizedString(entry.title));
         item->setShortcut(entry.shortcut);
         item->setEnabled(bool(entry.action));
         QObject::connect(item, &QAction::triggered, item, [action = entry.action] { action(); });

@@ -61,8 +61,8 @@ void TextField::myDraw(QPainter &painter) const
     painter.setPen(QColor::fromRgb(tarnwell::palette::headlineWords));
     painter.drawText(box, Qt::AlignRight | Qt::AlignVCenter, words);
 
-    const QRectF badgeBox(box.right() + gap + badgePadding, box.center().y() - badgeMetrics.height() / 2 + 2, badgeWidth,
-                          badgeMetrics.height());
+    const QRectF badgeBox(box.right() + gap + badgePadding, box.center().y() - badgeMetrics.height() / 2 + 2,
+                          badgeWidth, badgeMetrics.height());
     painter.setFont(smallFont);
     painter.drawText(badgeBox, Qt::AlignLeft | Qt::AlignVCenter, badge);
     painter.setPen(QPen(QColor::fromRgb(tarnwell::palette::headlineBadge), 2));

@@ -4,8 +4,8 @@
 
 namespace kestrel {
 
-/// The home screen's headline. The product's name is drawn with a "4K" badge in place of its last word; any other text in the
-/// ordinary way.
+/// The home screen's headline. The product's name is drawn with a "4K" badge in place of its last word; any other text
+/// in the ordinary way.
 class TextField : public QLabel {
     Q_OBJECT
 public:

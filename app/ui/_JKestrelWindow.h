@@ -7,7 +7,8 @@
 
 namespace kestrel {
 
-/// Continues the home screen's background picture into the title bar: draws the top strip of "kestrel_bg" over its whole area.
+/// Continues the home screen's background picture into the title bar: draws the top strip of "kestrel_bg" over its
+/// whole area.
 class _JKestrelTitleView : public QWidget {
     Q_OBJECT
 public:

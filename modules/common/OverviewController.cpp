@@ -26,7 +26,7 @@ QWidget *OverviewController::view()
 
 QString OverviewController::windowTitle() const
 {
-    return tarnwell::AppLocalizedString(QString::fromLatin1(m_overview.title));
+    return tarnwell::AppLocalizedString(m_overview.title);
 }
 
 void OverviewController::doBackAction()

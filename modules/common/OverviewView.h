@@ -23,11 +23,7 @@ public:
 signals:
     void backClicked();
 
-protected:
-    void showEvent(QShowEvent *event) override;
-
 private:
-    const ModuleOverview &m_overview;
     std::unique_ptr<Ui::OverviewView> m_form;
 };
 

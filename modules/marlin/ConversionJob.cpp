@@ -1,6 +1,7 @@
 #include "ConversionJob.h"
 
 #include "Log.h"
+#include "Processes.h"
 #include "Queues.h"
 
 #include <QFileInfo>
@@ -50,6 +51,7 @@ void ConversionJob::run(const TranscodeOptions &options)
     if (m_process)
         m_process.release()->deleteLater();  // it is in the middle of its signal
     m_process = std::make_unique<QProcess>();
+    m_process->setChildProcessModifier(foundation::endWithParent());
     m_process->setStandardInputFile(QProcess::nullDevice());
     connect(m_process.get(), &QProcess::readyReadStandardOutput, this, &ConversionJob::readProgress);
     connect(m_process.get(), &QProcess::readyReadStandardError, this,
@@ -96,15 +98,18 @@ void ConversionJob::toolEnded()
 {
     m_progress.read(m_process->readAllStandardOutput());
     m_messages.read(m_process->readAllStandardError());
-    const QString messages = m_messages.text();
+    // Paths could be taken for messages: "Permission denied.mkv".
+    const QString messages = m_messages.text().remove(m_request.source).remove(m_output->partPath());
+    const TranscodeFailure failure = failureIn(messages);
     if (m_isCancelled) {
         fail({});
     } else if (m_process->exitStatus() == QProcess::NormalExit && m_process->exitCode() == 0 &&
-               !messages.contains("Output file is empty"_L1)) {
-        // The tool takes an input without a single readable picture for a success.
+               !messages.contains(QLatin1StringView(emptyOutputMessage))) {
         succeed();
-    } else if (!retry(messages)) {
-        fail(failureSentenceOrGeneral(messages));
+    } else if (m_takesShortcut && !failure.isHopeless) {
+        runWithoutShortcut();
+    } else {
+        fail(failure.sentence);
     }
 }
 
@@ -129,21 +134,13 @@ void ConversionJob::finishLater(const ConversionResult &result)
         this, [this, result] { emit finished(result); }, Qt::QueuedConnection);
 }
 
-/// Runs the tool again without what it may have failed at. Not where another run meets the same end.
-bool ConversionJob::retry(const QString &messages)
+void ConversionJob::runWithoutShortcut()
 {
-    constexpr const char *obstacles[] = {"No space left", "Disk quota", "Read-only file system", "File too large"};
-    const bool isHopeless = std::any_of(std::begin(obstacles), std::end(obstacles), [&](const char *obstacle) {
-        return messages.contains(QLatin1StringView(obstacle));
-    });
-    if (!m_takesShortcut || isHopeless)
-        return false;
-    tarnwell::DNFootLog(u"Converting again in software, without copying: %1"_s, messages);
+    tarnwell::DNFootLog(u"Converting again in software, without copying: %1"_s, m_messages.text());
     TranscodeOptions options = m_request.options;
-    options.hardware = false;
+    options.hardwareDevice.clear();
     options.autoCopy = false;
     run(options);
-    return true;
 }
 
 }  // namespace kestrel

@@ -55,7 +55,7 @@ private:
     void succeed();
     void fail(const QString &reason);
     void finishLater(const ConversionResult &result);
-    bool retry(const QString &messages);
+    void runWithoutShortcut();
 
     ConversionRequest m_request;
     std::unique_ptr<OutputFile> m_output;

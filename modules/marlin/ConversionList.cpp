@@ -1,5 +1,6 @@
 #include "ConversionList.h"
 
+#include "HoverText.h"
 #include "Localization.h"
 #include "TranscodeProgress.h"
 
@@ -86,16 +87,30 @@ std::optional<qint64> ConversionList::add(const QString &path)
 
 void ConversionList::removeIds(const QList<qint64> &ids)
 {
+    QList<int> rows;
     for (const qint64 id : ids) {
-        const int row = rowOf(id);
-        if (row < 0)
-            continue;
-        beginRemoveRows({}, row, row);
-        m_identities.remove(m_items[size_t(row)].identity);
-        m_items.erase(m_items.begin() + row);
-        endRemoveRows();
-        emit itemRemoved(id);
+        if (const int row = rowOf(id); row >= 0)
+            rows.append(row);
     }
+    std::sort(rows.begin(), rows.end());
+    // From the back and in one go what stands together: the rows in front stay where they are.
+    for (auto end = rows.cend(); end != rows.cbegin();) {
+        auto begin = std::prev(end);
+        while (begin != rows.cbegin() && *std::prev(begin) >= *begin - 1)
+            --begin;
+        removeRange(*begin, *std::prev(end));
+        end = begin;
+    }
+    emit itemsRemoved(ids);
+}
+
+void ConversionList::removeRange(int first, int last)
+{
+    beginRemoveRows({}, first, last);
+    const auto begin = m_items.begin() + first, end = m_items.begin() + last + 1;
+    std::for_each(begin, end, [this](const Row &row) { m_identities.remove(row.identity); });
+    m_items.erase(begin, end);
+    endRemoveRows();
 }
 
 const ConversionItem *ConversionList::item(qint64 id) const
@@ -150,7 +165,7 @@ QVariant ConversionList::data(const QModelIndex &index, int role) const
         case Qt::DisplayRole:
             return cellText(item, index.column());
         case Qt::ToolTipRole:
-            return hoverText(item, index.column()).toHtmlEscaped();
+            return tarnwell::hoverTextShowing(hoverText(item, index.column()));
         case StateRole:
             return int(item.state);
         case FractionRole:
@@ -170,7 +185,7 @@ QVariant ConversionList::headerData(int section, Qt::Orientation orientation, in
     static_assert(std::size(titles) == ColumnCount);
     if (orientation != Qt::Horizontal || role != Qt::DisplayRole || section < 0 || section >= ColumnCount)
         return {};
-    return tarnwell::AppLocalizedString(QString::fromLatin1(titles[section]));
+    return tarnwell::AppLocalizedString(titles[section]);
 }
 
 }  // namespace kestrel

@@ -61,7 +61,7 @@ public:
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
 
 signals:
-    void itemRemoved(qint64 id);
+    void itemsRemoved(const QList<qint64> &ids);
 
 private:
     struct Row {
@@ -70,6 +70,7 @@ private:
     };
 
     int rowOf(qint64 id) const;
+    void removeRange(int first, int last);
 
     std::vector<Row> m_items;
     QSet<QString> m_identities;

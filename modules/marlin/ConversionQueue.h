@@ -16,8 +16,8 @@ struct ConversionPlan {
 };
 
 struct ConversionProgress {
-    std::optional<double>
-        fraction;      ///< of the whole run, 0 to 1; it only grows; nothing where no file tells its duration
+    /// Of the whole run, 0 to 1; it only grows. Nothing where no file tells its duration.
+    std::optional<double> fraction;
     int position = 0;  ///< of the file under way, from 1
     int count = 0;
     std::optional<double> remainingSeconds;
@@ -34,6 +34,8 @@ public:
     /// The files that a run would convert now.
     QList<qint64> convertibleIds() const;
     bool isRunning() const { return m_isRunning; }
+    /// Of the latest run.
+    const ConversionPlan &plan() const { return m_plan; }
     /// Nothing happens while it runs, or where there is nothing to convert.
     void start(const ConversionPlan &plan);
     void cancel();

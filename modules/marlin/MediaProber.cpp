@@ -1,10 +1,12 @@
 #include "MediaProber.h"
 
+#include "Processes.h"
 #include "Queues.h"
 
 #include <QFileInfo>
 #include <QPointer>
 #include <QProcess>
+#include <QSet>
 
 #include <algorithm>
 
@@ -58,9 +60,10 @@ void MediaProber::probe(qint64 id, const QString &toolPath, const QString &path)
     QMetaObject::invokeMethod(this, &MediaProber::startPending, Qt::QueuedConnection);
 }
 
-void MediaProber::forget(qint64 id)
+void MediaProber::forget(const QList<qint64> &ids)
 {
-    m_pending.removeIf([id](const Request &request) { return request.id == id; });
+    const QSet<qint64> forgotten(ids.begin(), ids.end());
+    m_pending.removeIf([&](const Request &request) { return forgotten.contains(request.id); });
 }
 
 void MediaProber::startPending()
@@ -79,6 +82,7 @@ void MediaProber::startPending()
 void MediaProber::start(const Request &request)
 {
     QProcess *process = m_running.emplace_back(std::make_unique<QProcess>()).get();
+    process->setChildProcessModifier(foundation::endWithParent());
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardErrorFile(QProcess::nullDevice());
     connect(process, &QProcess::finished, this, [this, process, request] { finish(process, request); });

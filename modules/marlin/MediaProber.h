@@ -22,8 +22,8 @@ public:
 
     /// `id` is the caller's name for the file.
     void probe(qint64 id, const QString &toolPath, const QString &path);
-    /// Drops a file that has not had its turn.
-    void forget(qint64 id);
+    /// Drops files that have not had their turn.
+    void forget(const QList<qint64> &ids);
 
 signals:
     /// What can be converted comes with information; without it `reason` is the key of a sentence that says why.

@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <unistd.h>
 #include <filesystem>
 
 using namespace Qt::StringLiterals;
@@ -13,6 +14,8 @@ using namespace Qt::StringLiterals;
 namespace kestrel {
 
 namespace {
+
+constexpr const char *partMark = ".kestrel-part.";
 
 /// `name` followed by `suffix`, cut between characters so that the whole, with `prefix`, is a file name.
 QString fittingName(const QString &prefix, QString name, const QString &suffix)
@@ -31,13 +34,24 @@ OutputFile::OutputFile(const QString &folder, const QString &baseName, const QSt
       m_extension(extension)
 {
     // The part keeps the extension: tools look at it.
-    m_partPath = createNew(u"."_s, u".kestrel-part."_s + extension);
+    m_partPath = createNew(u"."_s, QLatin1StringView(partMark) + extension);
 }
 
 OutputFile::~OutputFile()
 {
     if (!m_partPath.isEmpty())
         QFile::remove(m_partPath);
+}
+
+void OutputFile::removeStaleParts(const QString &folder)
+{
+    constexpr QDir::Filters hiddenFiles = QDir::Files | QDir::Hidden | QDir::NoSymLinks;
+    const QFileInfoList parts =
+        QDir(folder).entryInfoList({u".*"_s + QLatin1StringView(partMark) + u'*'}, hiddenFiles, QDir::Unsorted);
+    for (const QFileInfo &part : parts) {
+        if (part.ownerId() == geteuid())  // others share the folder
+            QFile::remove(part.filePath());
+    }
 }
 
 QString OutputFile::publish()
@@ -51,7 +65,7 @@ QString OutputFile::publish()
     std::error_code error;
     std::filesystem::rename(QFile::encodeName(m_partPath).toStdString(), QFile::encodeName(path).toStdString(), error);
     if (error) {
-        m_reason = failureSentenceOrGeneral(QString::fromStdString(error.message()));
+        m_reason = failureIn(QString::fromStdString(error.message())).sentence;
         QFile::remove(path);
         return {};
     }
@@ -71,12 +85,12 @@ QString OutputFile::createNew(const QString &prefix, const QString &suffix)
         const QFileInfo taken(file.fileName());
         if (!taken.exists() && !taken.isSymLink()) {
             m_reason = QFileInfo(m_folder).isDir()
-                           ? failureSentenceOrGeneral(file.errorString())
+                           ? failureIn(file.errorString()).sentence
                            : u"The output directory does not exist. Please check the setting."_s;
             return {};
         }
     }
-    m_reason = failureSentenceOrGeneral({});
+    m_reason = failureIn({}).sentence;
     return {};
 }
 

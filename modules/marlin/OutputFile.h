@@ -16,6 +16,10 @@ public:
     OutputFile(const OutputFile &) = delete;
     OutputFile &operator=(const OutputFile &) = delete;
 
+    /// Removes parts of the user's in `folder`, which are there where the application was killed. While no output of
+    /// its own is in the making.
+    static void removeStaleParts(const QString &folder);
+
     bool isValid() const { return !m_partPath.isEmpty(); }
     /// The key of a sentence that says why it is not valid, or was not published.
     QString reason() const { return m_reason; }

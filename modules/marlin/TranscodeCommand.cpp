@@ -1,6 +1,7 @@
 #include "TranscodeCommand.h"
 
 #include "JKestrelSettingDispatcher.h"
+#include "SystemInformation.h"
 
 #include <QtGlobal>
 
@@ -62,11 +63,6 @@ constexpr ConversionTarget targetTable[] = {
      .hardwareVideo = false},
 };
 
-constexpr const char *hardwareDevice = "-vaapi_device /dev/dri/renderD128";
-constexpr const char *hardwareEncoder = "-c:v h264_vaapi";
-constexpr const char *hardwareQuality = "-qp 23";
-constexpr const char *hardwareBest = "-qp 19";
-
 QStringList splitArguments(const char *arguments)
 {
     return QString::fromLatin1(arguments).split(u' ', Qt::SkipEmptyParts);
@@ -85,7 +81,7 @@ QString videoFilters(const TranscodeOptions &options, bool hardware)
         filters.append(u"bwdif"_s);
     filters.append(u"scale=ceil(iw/2)*2:ceil(ih/2)*2"_s +
                    (options.highQuality ? u":flags=lanczos+accurate_rnd"_s : QString()));
-    filters.append(hardware ? u"format=nv12,hwupload"_s : u"format=yuv420p"_s);
+    filters.append(QString::fromLatin1(hardware ? tarnwell::hardwareEncoderArguments.filter : "format=yuv420p"));
     return filters.join(u',');
 }
 
@@ -106,7 +102,8 @@ QString unsuitableReason(const MediaInformation &information, const ConversionTa
 TranscodeOptions transcodeOptions(const JKestrelSettingDispatcher &settings, int processors)
 {
     const qint64 cores = settings.getCpuCore();
-    return {.hardware = settings.getQSV(),
+    constexpr quint32 avc1 = 0x61766331;
+    return {.hardwareDevice = settings.getQSV() ? tarnwell::hardwareEncoderDevice(avc1, 1280, 720) : QString(),
             .deinterlace = settings.getDeinterlacing(),
             .autoCopy = settings.autoCopy(),
             .highQuality = settings.getHQE(),
@@ -122,12 +119,13 @@ TranscodeCommand transcodeCommand(const QString &source, const MediaInformation 
                             isKept(target.keptVideo, information.videoCodec);
     const bool keepsAudio =
         information.hasAudio && options.autoCopy && isKept(target.keptAudio, information.audioCodec);
-    const bool hardware = hasVideo && !keepsVideo && options.hardware && target.hardwareVideo;
+    const bool hardware = hasVideo && !keepsVideo && target.hardwareVideo && !options.hardwareDevice.isEmpty();
+    const tarnwell::HardwareEncoderArguments &encoder = tarnwell::hardwareEncoderArguments;
     const QString threads = QString::number(options.threads);
 
     QStringList arguments = splitArguments("-hide_banner -nostdin -nostats -loglevel warning -progress pipe:1 -y");
     if (hardware)
-        arguments += splitArguments(hardwareDevice);
+        arguments << splitArguments(encoder.device) << options.hardwareDevice;
     // "file:" keeps names with a colon or a leading dash from being taken for something else, and play lists of other
     // places out.
     arguments << u"-protocol_whitelist"_s << u"file"_s << u"-threads"_s << threads << u"-i"_s << "file:"_L1 + source;
@@ -139,8 +137,8 @@ TranscodeCommand transcodeCommand(const QString &source, const MediaInformation 
             arguments << u"-c:v"_s << u"copy"_s;
         } else {
             arguments << u"-vf"_s << videoFilters(options, hardware);
-            arguments += splitArguments(hardware ? hardwareEncoder : target.video);
-            arguments += hardware ? splitArguments(options.highQuality ? hardwareBest : hardwareQuality)
+            arguments += splitArguments(hardware ? encoder.encoder : target.video);
+            arguments += hardware ? splitArguments(options.highQuality ? encoder.best : encoder.quality)
                                   : splitArguments(options.highQuality ? target.videoBest : target.videoQuality);
         }
     }

@@ -33,7 +33,7 @@ std::span<const ConversionTarget> conversionTargets();
 QString unsuitableReason(const MediaInformation &information, const ConversionTarget &target);
 
 struct TranscodeOptions {
-    bool hardware = false;
+    QString hardwareDevice = {};  ///< that encodes; empty for software
     bool deinterlace = false;
     bool autoCopy = false;  ///< keeps tracks that fit the target as they are
     bool highQuality = false;

@@ -11,12 +11,11 @@ namespace {
 struct KnownFailure {
     const char *message;
     const char *sentence;
+    bool isHopeless = false;
 };
 
 constexpr const char *diskFull =
     QT_TRANSLATE_NOOP("TarnwellPublic", "There is no space left on the disk. Free some space and convert again.");
-constexpr const char *noHardware =
-    QT_TRANSLATE_NOOP("TarnwellPublic", "The hardware encoder is not available. Switch it off in the settings.");
 constexpr const char *notAllowed = QT_TRANSLATE_NOOP(
     "TarnwellPublic", "Reading the file or writing to the output folder is not allowed. Check their permissions.");
 constexpr const char *damaged = QT_TRANSLATE_NOOP("TarnwellPublic", "The file is damaged or incomplete.");
@@ -25,19 +24,14 @@ constexpr const char *noTracks =
 constexpr const char *noEncoder =
     QT_TRANSLATE_NOOP("TarnwellPublic", "The converter cannot make this format. Choose another one.");
 
-// The first match counts: what stops the writing comes before what a damaged file says all the time, and the hardware
-// before the missing device file that it complains about.
+// The first match counts: what stops the writing comes before what a damaged file says all the time.
 constexpr KnownFailure knownFailures[] = {
-    {"No space left on device", diskFull},
-    {"Disk quota exceeded", diskFull},
+    {"No space left on device", diskFull, true},
+    {"Disk quota exceeded", diskFull, true},
     {"File too large",
-     QT_TRANSLATE_NOOP("TarnwellPublic", "The disk of the output folder cannot hold a file of this size.")},
+     QT_TRANSLATE_NOOP("TarnwellPublic", "The disk of the output folder cannot hold a file of this size."), true},
     {"Read-only file system",
-     QT_TRANSLATE_NOOP("TarnwellPublic", "The output folder is read-only. Choose another one in the settings.")},
-    {"VAAPI", noHardware},
-    {"No VA display", noHardware},
-    {"Device creation failed", noHardware},
-    {"libva", noHardware},
+     QT_TRANSLATE_NOOP("TarnwellPublic", "The output folder is read-only. Choose another one in the settings."), true},
     {"Unknown encoder", noEncoder},
     {"Encoder not found", noEncoder},
     {"Requested output format", noEncoder},
@@ -50,27 +44,19 @@ constexpr KnownFailure knownFailures[] = {
     {"does not contain any stream", noTracks},
     {"moov atom not found", damaged},
     {"Invalid data found", damaged},
-    {"Output file is empty", damaged},
+    {emptyOutputMessage, damaged},
     {"Truncating packet", damaged},
 };
 
 }  // namespace
 
-QString failureSentence(const QString &messages)
+TranscodeFailure failureIn(const QString &messages)
 {
-    for (const auto &[message, sentence] : knownFailures) {
+    for (const auto &[message, sentence, isHopeless] : knownFailures) {
         if (messages.contains(QLatin1StringView(message), Qt::CaseInsensitive))
-            return QString::fromLatin1(sentence);
+            return {QString::fromLatin1(sentence), isHopeless};
     }
-    return {};
-}
-
-QString failureSentenceOrGeneral(const QString &messages)
-{
-    const QString sentence = failureSentence(messages);
-    return !sentence.isNull()
-               ? sentence
-               : QString::fromLatin1(QT_TRANSLATE_NOOP("TarnwellPublic", "The converter could not convert this file."));
+    return {QString::fromLatin1(QT_TRANSLATE_NOOP("TarnwellPublic", "The converter could not convert this file."))};
 }
 
 void MessageTail::read(const QByteArray &piece)

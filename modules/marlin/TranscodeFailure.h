@@ -6,18 +6,22 @@
 
 namespace kestrel {
 
-/// The key of a sentence for the user about a failure that a tool or the system reported in `messages`; null where none
-/// of it is known.
-QString failureSentence(const QString &messages);
+struct TranscodeFailure {
+    QString sentence;         ///< the key of one for the user; a general one where nothing more is known
+    bool isHopeless = false;  ///< another attempt meets the same end
+};
 
-/// The same with a general sentence for what is not known.
-QString failureSentenceOrGeneral(const QString &messages);
+/// What a tool or the system reports in `messages`. Names of files in them are taken for messages as well.
+TranscodeFailure failureIn(const QString &messages);
+
+/// What the transcoder says when it found nothing to convert, and calls a success.
+inline constexpr const char *emptyOutputMessage = "Output file is empty";
 
 /// The last lines of a tool's messages, however many it writes.
 class MessageTail {
 public:
     static constexpr qsizetype maximumLines = 20;
-    static constexpr qsizetype maximumLineLength = 500;
+    static constexpr qsizetype maximumLineLength = 5000;  ///< the longest path with its message
 
     void read(const QByteArray &piece);
     /// The lines, an unfinished one included.

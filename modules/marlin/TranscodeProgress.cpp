@@ -26,12 +26,8 @@ void TranscodeProgress::readLine(const QByteArray &line)
     const qsizetype equals = line.indexOf('=');
     const QByteArray key = line.left(std::max<qsizetype>(equals, 0));
     const QByteArray value = line.mid(equals + 1);
-    if (key == "progress") {
-        m_hasEnded = value == "end";
-    } else if (key == "out_time_us") {
-        // "N/A" and negative before the first picture
+    if (key == "out_time_us")  // "N/A" and negative before the first picture
         m_processed = std::max(m_processed, double(value.toLongLong()) / 1e6);
-    }
 }
 
 void RemainingTime::update(double fraction, double elapsedSeconds)

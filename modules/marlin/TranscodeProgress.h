@@ -14,15 +14,12 @@ public:
 
     /// Seconds of the output that are written; never less than before.
     double processed() const { return m_processed; }
-    /// Whether the transcoder said that it is through.
-    bool hasEnded() const { return m_hasEnded; }
 
 private:
     void readLine(const QByteArray &line);
 
     QByteArray m_pending;
     double m_processed = 0;
-    bool m_hasEnded = false;
 };
 
 /// Guesses from the speed so far how long the rest takes. The speed is smoothed, so that the guess does not jump.

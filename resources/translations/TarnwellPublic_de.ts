@@ -5,339 +5,523 @@
     <name>TarnwellPublic</name>
     <message>
         <source>%1 converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 konvertiert</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 von %2</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Über</translation>
     </message>
     <message>
         <source>About Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Über Kestrel</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>Dateien hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Dateien hinzufügen …</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Alle Dateien</translation>
     </message>
     <message>
         <source>App Log</source>
-        <translation type="unfinished"></translation>
+        <translation>App-Protokoll</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie die Profile wirklich zurücksetzen?</translation>
     </message>
     <message>
         <source>Are you sure you want to restart the application now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Möchten Sie das Programm jetzt neu starten?</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Zurück</translation>
     </message>
     <message>
         <source>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</source>
-        <translation type="unfinished"></translation>
+        <translation>Sichern Sie DVDs in 6 Modi, und wandeln Sie ganze DVDs in über 180 Formate um: zum Abspielen auf Mac und Mobilgeräten, zum Speichern auf der Festplatte, zum Ansehen am Fernseher und mehr. Eine ganze DVD in 5 Minuten!</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Abbrechen</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ändern Sie Video- und Audioformate und die Größe von Videodateien, und bearbeiten Sie Videos in 4K, 5K und 8K: schneiden, zusammenfügen, teilen, drehen, mit Untertiteln oder Wasserzeichen versehen und mehr. Erleben Sie die schnellste hardwarebeschleunigte Verarbeitung.</translation>
     </message>
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die neue Sprache gilt nach dem Neustart des Programms.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Leeren</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Close the tip</source>
+        <translation>Tipp schließen</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Fortfahren</translation>
+    </message>
+    <message>
+        <source>Conversions are running.</source>
+        <translation>Es wird gerade konvertiert.</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>Konvertieren</translation>
     </message>
     <message>
         <source>Convert &amp; Backup DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>DVDs konvertieren und sichern</translation>
     </message>
     <message>
         <source>Convert &amp; Process Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos konvertieren und bearbeiten</translation>
+    </message>
+    <message>
+        <source>Convert to:</source>
+        <translation>Konvertieren in:</translation>
+    </message>
+    <message>
+        <source>Converted: %1</source>
+        <translation>Konvertiert: %1</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopieren</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausschneiden</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD-Ripper</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Systemsprache</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>Details …</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig</translation>
     </message>
     <message>
         <source>Download Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos laden</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Laden Sie Streaming-Videos und Musik in höchster Qualität von YouTube, Facebook und über 1000 weiteren Websites. Konvertieren Sie die geladenen Dateien in MP4, MP3 usw.</translation>
     </message>
     <message>
         <source>Downloader</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloader</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
+        <translation>Legen Sie Videos oder Ordner in diesem Fenster ab, wählen Sie unten ein Format und klicken Sie auf „Konvertieren“. Die Ergebnisse kommen in den Ausgabeordner; Ihre eigenen Dateien bleiben unverändert.</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders here</source>
+        <translation>Videos oder Ordner hier ablegen</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Dauer</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Fehlgeschlagen: %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Files that are not finished would have to be converted again.</source>
+        <translation>Nicht fertiggestellte Dateien müssten erneut konvertiert werden.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Got It</source>
+        <translation>Verstanden</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>It will convert titles to videos for every device.</source>
+        <translation>Titel lassen sich künftig in Videos für jedes Gerät konvertieren.</translation>
+    </message>
+    <message>
+        <source>It will copy a DVD to a disc image or a folder.</source>
+        <translation>DVDs lassen sich künftig in ein Image oder einen Ordner kopieren.</translation>
+    </message>
+    <message>
+        <source>It will fetch several at a time, in the resolution that you prefer.</source>
+        <translation>Mehrere lassen sich künftig gleichzeitig in der gewünschten Auflösung laden.</translation>
+    </message>
+    <message>
+        <source>It will go through your proxy where you have one.</source>
+        <translation>Ein vorhandener Proxy wird künftig berücksichtigt.</translation>
+    </message>
+    <message>
+        <source>It will keep the sound track in the language that you prefer.</source>
+        <translation>Die Tonspur in Ihrer bevorzugten Sprache bleibt künftig erhalten.</translation>
+    </message>
+    <message>
+        <source>It will record the sound of the computer and of a microphone.</source>
+        <translation>Der Ton des Computers und eines Mikrofons lässt sich künftig aufnehmen.</translation>
+    </message>
+    <message>
+        <source>It will record the whole screen, a window or a part of it.</source>
+        <translation>Der ganze Bildschirm, ein Fenster oder ein Teil davon lässt sich künftig aufnehmen.</translation>
+    </message>
+    <message>
+        <source>It will save videos and music from addresses that you paste.</source>
+        <translation>Videos und Musik lassen sich künftig über eingesetzte Adressen sichern.</translation>
+    </message>
+    <message>
+        <source>It will show mouse clicks where you want them seen.</source>
+        <translation>Mausklicks lassen sich künftig bei Bedarf anzeigen.</translation>
+    </message>
+    <message>
+        <source>Keep Converting</source>
+        <translation>Weiter konvertieren</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel-Hilfe</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Sprache</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV-Video (H.264, AAC)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP3-Audio</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4-Video (H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>Mediendateien</translation>
+    </message>
+    <message>
+        <source>Messages of the converter</source>
+        <translation>Meldungen des Konverters</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimieren</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open the output folder</source>
+        <translation>Ausgabeordner öffnen</translation>
+    </message>
+    <message>
+        <source>Output folder:</source>
+        <translation>Ausgabeordner:</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>Ausgabeformat</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Einsetzen</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen …</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Fortschritt</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel beenden</translation>
+    </message>
+    <message>
+        <source>Reading files…</source>
+        <translation>Dateien werden gelesen …</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Lesen der Datei oder das Schreiben in den Ausgabeordner ist nicht erlaubt. Prüfen Sie die Zugriffsrechte.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gelesen …</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereit</translation>
     </message>
     <message>
         <source>Record Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Videos aufnehmen</translation>
     </message>
     <message>
         <source>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nehmen Sie Videos von Bildschirm, Webcam und iPhone auf. Halten Sie Livestreams, Spiele, den Schreibtisch und alles andere als MOV für YouTube fest. Bildschirm und Webcam lassen sich auch gleichzeitig aufnehmen.</translation>
     </message>
     <message>
         <source>Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorder</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
     </message>
     <message>
         <source>Report Bug</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehler melden</translation>
     </message>
     <message>
         <source>Reset Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Profile zurücksetzen</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
-        <translation type="unfinished"></translation>
+        <translation>Bildschirmaufnahme nicht verfügbar</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alles auswählen</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Einstellungen</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Stop and Leave</source>
+        <translation>Stoppen und verlassen</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Gestoppt</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Konverter kann dieses Format nicht erzeugen. Wählen Sie ein anderes.</translation>
     </message>
     <message>
         <source>The converter could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Konverter konnte nicht gestartet werden. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>The converter could not convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Konverter konnte diese Datei nicht konvertieren.</translation>
+    </message>
+    <message>
+        <source>The converter is missing. Please install the application again.</source>
+        <translation>Der Konverter fehlt. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger konnte nicht gelesen oder beschrieben werden.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger des Ausgabeordners kann keine Datei dieser Größe aufnehmen.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei enthält weder Video noch Ton, der sich konvertieren lässt.</translation>
     </message>
     <message>
         <source>The file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist beschädigt oder unvollständig.</translation>
     </message>
     <message>
         <source>The file is no longer where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei ist nicht mehr an ihrem Ort.</translation>
     </message>
     <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <source>The folder could not be opened.</source>
+        <translation>Der Ordner konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgabeordner ist nicht vorhanden. Bitte prüfen Sie die Einstellung.</translation>
     </message>
     <message>
         <source>The output folder is read-only. Choose another one in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ausgabeordner ist schreibgeschützt. Wählen Sie in den Einstellungen einen anderen.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Bildschirmaufnahme wird erst ab Mac OS Lion unterstützt.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die leistungsstärkste Videosoftware: Videos, Audiodateien und DVDs konvertieren, Videodateien bearbeiten, transcodieren, komprimieren und anpassen, Online-Medien laden, Bildschirm und Webcam aufnehmen.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Werkzeug zum Lesen von Mediendateien fehlt. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf der Festplatte ist kein Platz mehr. Schaffen Sie Platz und konvertieren Sie erneut.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei ist nicht vorhanden.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht nicht aus, um diese Datei zu konvertieren.</translation>
+    </message>
+    <message>
+        <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
+        <translation>Daraus wird je nach Wahl MP4, MKV, WebM oder MP3.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei enthält keinen Ton zum Konvertieren.</translation>
     </message>
     <message>
-        <source>This is no media file.</source>
-        <translation type="unfinished"></translation>
+        <source>This file is damaged, or it holds neither video nor sound.</source>
+        <translation>Diese Datei ist beschädigt oder enthält weder Video noch Ton.</translation>
+    </message>
+    <message>
+        <source>This is no video or sound file.</source>
+        <translation>Dies ist keine Video- oder Tondatei.</translation>
+    </message>
+    <message>
+        <source>This part is still being made and comes with an update.</source>
+        <translation>Dieser Teil ist noch in Arbeit und kommt mit einem Update.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Widerrufen</translation>
     </message>
     <message>
         <source>Video Converter</source>
-        <translation type="unfinished"></translation>
+        <translation>Videokonverter</translation>
+    </message>
+    <message>
+        <source>Videos from the web, on your disk</source>
+        <translation>Videos aus dem Web auf Ihrer Festplatte</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM-Video (VP9, Opus)</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenster</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sie dürfen diese Datei nicht lesen.</translation>
+    </message>
+    <message>
+        <source>Your DVDs, as files</source>
+        <translation>Ihre DVDs als Dateien</translation>
+    </message>
+    <message>
+        <source>Your screen, as a video</source>
+        <translation>Ihr Bildschirm als Video</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoomen</translation>
     </message>
     <message>
         <source>about %1 hours left</source>
-        <translation type="unfinished"></translation>
+        <translation>noch etwa %1 Stunden</translation>
     </message>
     <message>
         <source>about %1 minutes left</source>
-        <translation type="unfinished"></translation>
+        <translation>noch etwa %1 Minuten</translation>
     </message>
     <message>
         <source>about a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>noch etwa eine Minute</translation>
     </message>
     <message>
         <source>closetip</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipp schließen</translation>
     </message>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>noch weniger als eine Minute</translation>
     </message>
     <message>
         <source>showtip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tipp anzeigen</translation>
     </message>
 </context>
 </TS>

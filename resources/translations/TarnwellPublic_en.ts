@@ -5,339 +5,523 @@
     <name>TarnwellPublic</name>
     <message>
         <source>%1 converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 converted</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 of %2</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>About</translation>
     </message>
     <message>
         <source>About Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>About Kestrel</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>Add Files</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Add Files…</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>All files</translation>
     </message>
     <message>
         <source>App Log</source>
-        <translation type="unfinished"></translation>
+        <translation>App Log</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to reset profile?</translation>
     </message>
     <message>
         <source>Are you sure you want to restart the application now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Are you sure you want to restart the application now?</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Back</translation>
     </message>
     <message>
         <source>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</source>
-        <translation type="unfinished"></translation>
+        <translation>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</translation>
     </message>
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Changes to the languages take effect upon relaunch.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Clear</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Close</translation>
+    </message>
+    <message>
+        <source>Close the tip</source>
+        <translation>Close the tip</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Continue</translation>
+    </message>
+    <message>
+        <source>Conversions are running.</source>
+        <translation>Conversions are running.</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>Convert</translation>
     </message>
     <message>
         <source>Convert &amp; Backup DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>Convert &amp; Backup DVD</translation>
     </message>
     <message>
         <source>Convert &amp; Process Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Convert &amp; Process Video</translation>
+    </message>
+    <message>
+        <source>Convert to:</source>
+        <translation>Convert to:</translation>
+    </message>
+    <message>
+        <source>Converted: %1</source>
+        <translation>Converted: %1</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copy</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD Ripper</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Default</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Details</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>Details…</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Done</translation>
     </message>
     <message>
         <source>Download Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Download Video</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</translation>
     </message>
     <message>
         <source>Downloader</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloader</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
+        <translation>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders here</source>
+        <translation>Drop videos or folders here</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duration</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Edit</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Failed: %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Files</translation>
+    </message>
+    <message>
+        <source>Files that are not finished would have to be converted again.</source>
+        <translation>Files that are not finished would have to be converted again.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Got It</source>
+        <translation>Got It</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Help</translation>
+    </message>
+    <message>
+        <source>It will convert titles to videos for every device.</source>
+        <translation>It will convert titles to videos for every device.</translation>
+    </message>
+    <message>
+        <source>It will copy a DVD to a disc image or a folder.</source>
+        <translation>It will copy a DVD to a disc image or a folder.</translation>
+    </message>
+    <message>
+        <source>It will fetch several at a time, in the resolution that you prefer.</source>
+        <translation>It will fetch several at a time, in the resolution that you prefer.</translation>
+    </message>
+    <message>
+        <source>It will go through your proxy where you have one.</source>
+        <translation>It will go through your proxy where you have one.</translation>
+    </message>
+    <message>
+        <source>It will keep the sound track in the language that you prefer.</source>
+        <translation>It will keep the sound track in the language that you prefer.</translation>
+    </message>
+    <message>
+        <source>It will record the sound of the computer and of a microphone.</source>
+        <translation>It will record the sound of the computer and of a microphone.</translation>
+    </message>
+    <message>
+        <source>It will record the whole screen, a window or a part of it.</source>
+        <translation>It will record the whole screen, a window or a part of it.</translation>
+    </message>
+    <message>
+        <source>It will save videos and music from addresses that you paste.</source>
+        <translation>It will save videos and music from addresses that you paste.</translation>
+    </message>
+    <message>
+        <source>It will show mouse clicks where you want them seen.</source>
+        <translation>It will show mouse clicks where you want them seen.</translation>
+    </message>
+    <message>
+        <source>Keep Converting</source>
+        <translation>Keep Converting</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel Help</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Language</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV Video (H.264, AAC)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP3 Audio</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4 Video (H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>Media files</translation>
+    </message>
+    <message>
+        <source>Messages of the converter</source>
+        <translation>Messages of the converter</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimize</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Name</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Open</translation>
+    </message>
+    <message>
+        <source>Open the output folder</source>
+        <translation>Open the output folder</translation>
+    </message>
+    <message>
+        <source>Output folder:</source>
+        <translation>Output folder:</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>Output format</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Paste</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Preferences…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progress</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Quit Kestrel</translation>
+    </message>
+    <message>
+        <source>Reading files…</source>
+        <translation>Reading files…</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the file or writing to the output folder is not allowed. Check their permissions.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading…</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Ready</translation>
     </message>
     <message>
         <source>Record Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Record Video</translation>
     </message>
     <message>
         <source>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</translation>
     </message>
     <message>
         <source>Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation>Recorder</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Redo</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remove</translation>
     </message>
     <message>
         <source>Report Bug</source>
-        <translation type="unfinished"></translation>
+        <translation>Report Bug</translation>
     </message>
     <message>
         <source>Reset Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Reset Profiles</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
-        <translation type="unfinished"></translation>
+        <translation>Screen Record Unavailable!</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Select All</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Settings</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Stop and Leave</source>
+        <translation>Stop and Leave</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopped</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>The converter cannot make this format. Choose another one.</translation>
     </message>
     <message>
         <source>The converter could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The converter could not be started. Please install the application again.</translation>
     </message>
     <message>
         <source>The converter could not convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The converter could not convert this file.</translation>
+    </message>
+    <message>
+        <source>The converter is missing. Please install the application again.</source>
+        <translation>The converter is missing. Please install the application again.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disk could not be read or written.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disk of the output folder cannot hold a file of this size.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file holds neither video nor sound that can be converted.</translation>
     </message>
     <message>
         <source>The file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is damaged or incomplete.</translation>
     </message>
     <message>
         <source>The file is no longer where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file is no longer where it was.</translation>
     </message>
     <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <source>The folder could not be opened.</source>
+        <translation>The folder could not be opened.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>The output directory does not exist. Please check the setting.</translation>
     </message>
     <message>
         <source>The output folder is read-only. Choose another one in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>The output folder is read-only. Choose another one in the settings.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
-        <translation type="unfinished"></translation>
+        <translation>The screen recorder is only supported on Mac OS Lion and later.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
-        <translation type="unfinished"></translation>
+        <translation>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The tool that reads media files is missing. Please install the application again.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no space left on the disk. Free some space and convert again.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no such file.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is not enough memory to convert this file.</translation>
+    </message>
+    <message>
+        <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
+        <translation>They become MP4, MKV, WebM or MP3, as you choose.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file could not be read.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file has no sound to convert.</translation>
     </message>
     <message>
-        <source>This is no media file.</source>
-        <translation type="unfinished"></translation>
+        <source>This file is damaged, or it holds neither video nor sound.</source>
+        <translation>This file is damaged, or it holds neither video nor sound.</translation>
+    </message>
+    <message>
+        <source>This is no video or sound file.</source>
+        <translation>This is no video or sound file.</translation>
+    </message>
+    <message>
+        <source>This part is still being made and comes with an update.</source>
+        <translation>This part is still being made and comes with an update.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Undo</translation>
     </message>
     <message>
         <source>Video Converter</source>
-        <translation type="unfinished"></translation>
+        <translation>Video Converter</translation>
+    </message>
+    <message>
+        <source>Videos from the web, on your disk</source>
+        <translation>Videos from the web, on your disk</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>Waiting</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM Video (VP9, Opus)</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Window</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>You are not allowed to read this file.</translation>
+    </message>
+    <message>
+        <source>Your DVDs, as files</source>
+        <translation>Your DVDs, as files</translation>
+    </message>
+    <message>
+        <source>Your screen, as a video</source>
+        <translation>Your screen, as a video</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>about %1 hours left</source>
-        <translation type="unfinished"></translation>
+        <translation>about %1 hours left</translation>
     </message>
     <message>
         <source>about %1 minutes left</source>
-        <translation type="unfinished"></translation>
+        <translation>about %1 minutes left</translation>
     </message>
     <message>
         <source>about a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>about a minute left</translation>
     </message>
     <message>
         <source>closetip</source>
-        <translation type="unfinished"></translation>
+        <translation>Close Tip</translation>
     </message>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>less than a minute left</translation>
     </message>
     <message>
         <source>showtip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>Show Tip</translation>
     </message>
 </context>
 </TS>

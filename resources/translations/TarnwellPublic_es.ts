@@ -5,339 +5,523 @@
     <name>TarnwellPublic</name>
     <message>
         <source>%1 converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 convertido</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 de %2</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de</translation>
     </message>
     <message>
         <source>About Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Acerca de Kestrel</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>Añadir archivos</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Añadir archivos…</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Todos los archivos</translation>
     </message>
     <message>
         <source>App Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Registro de la app</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea restablecer los perfiles?</translation>
     </message>
     <message>
         <source>Are you sure you want to restart the application now?</source>
-        <translation type="unfinished"></translation>
+        <translation>¿Seguro que desea reiniciar la aplicación ahora?</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Atrás</translation>
     </message>
     <message>
         <source>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</source>
-        <translation type="unfinished"></translation>
+        <translation>Haga copias de seguridad de sus DVD en 6 modos y convierta un DVD completo a más de 180 formatos para reproducirlo en Mac y dispositivos móviles, guardarlo en el disco duro o verlo en la tele, entre otros. ¡Un DVD completo en 5 minutos!</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambie los formatos de vídeo y audio, modifique el tamaño de los archivos y edite vídeos 4K, 5K y 8K: cortar, unir, dividir, rotar, añadir subtítulos o marcas de agua, etc. Disfrute del procesamiento acelerado por hardware n.º 1 en rapidez.</translation>
     </message>
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
-        <translation type="unfinished"></translation>
+        <translation>El cambio de idioma se aplicará al reiniciar la aplicación.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vaciar</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar</translation>
+    </message>
+    <message>
+        <source>Close the tip</source>
+        <translation>Cerrar el consejo</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuar</translation>
+    </message>
+    <message>
+        <source>Conversions are running.</source>
+        <translation>Hay conversiones en curso.</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>Convert &amp; Backup DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir y copiar DVD</translation>
     </message>
     <message>
         <source>Convert &amp; Process Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir y procesar vídeos</translation>
+    </message>
+    <message>
+        <source>Convert to:</source>
+        <translation>Convertir a:</translation>
+    </message>
+    <message>
+        <source>Converted: %1</source>
+        <translation>Convertidos: %1</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copiar</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
-        <translation type="unfinished"></translation>
+        <translation>Extractor de DVD</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Idioma del sistema</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Detalles</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>Detalles…</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Completado</translation>
     </message>
     <message>
         <source>Download Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargar vídeos</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargue vídeos y música en línea de altísima calidad de YouTube, Facebook y más de 1000 sitios. Convierta los archivos descargados a MP4, MP3, etc.</translation>
     </message>
     <message>
         <source>Downloader</source>
-        <translation type="unfinished"></translation>
+        <translation>Descargas</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
+        <translation>Suelte vídeos o carpetas en esta ventana, elija un formato abajo y pulse Convertir. Los resultados van a la carpeta de salida; sus archivos no se modifican.</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders here</source>
+        <translation>Suelte aquí vídeos o carpetas</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Edición</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Con error: %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Archivos</translation>
+    </message>
+    <message>
+        <source>Files that are not finished would have to be converted again.</source>
+        <translation>Los archivos sin terminar tendrían que volver a convertirse.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Got It</source>
+        <translation>Entendido</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>It will convert titles to videos for every device.</source>
+        <translation>Podrá convertir los títulos en vídeos para cualquier dispositivo.</translation>
+    </message>
+    <message>
+        <source>It will copy a DVD to a disc image or a folder.</source>
+        <translation>Podrá copiar un DVD a una imagen de disco o una carpeta.</translation>
+    </message>
+    <message>
+        <source>It will fetch several at a time, in the resolution that you prefer.</source>
+        <translation>Obtendrá varios a la vez, en la resolución que prefiera.</translation>
+    </message>
+    <message>
+        <source>It will go through your proxy where you have one.</source>
+        <translation>Usará su proxy si lo tiene.</translation>
+    </message>
+    <message>
+        <source>It will keep the sound track in the language that you prefer.</source>
+        <translation>Conservará la pista de audio en el idioma que prefiera.</translation>
+    </message>
+    <message>
+        <source>It will record the sound of the computer and of a microphone.</source>
+        <translation>Grabará el sonido del ordenador y de un micrófono.</translation>
+    </message>
+    <message>
+        <source>It will record the whole screen, a window or a part of it.</source>
+        <translation>Grabará la pantalla completa, una ventana o una parte.</translation>
+    </message>
+    <message>
+        <source>It will save videos and music from addresses that you paste.</source>
+        <translation>Guardará vídeos y música de las direcciones que pegue.</translation>
+    </message>
+    <message>
+        <source>It will show mouse clicks where you want them seen.</source>
+        <translation>Mostrará los clics del ratón donde quiera que se vean.</translation>
+    </message>
+    <message>
+        <source>Keep Converting</source>
+        <translation>Seguir convirtiendo</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Ayuda de Kestrel</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MKV (H.264, AAC)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio MP3</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MP4 (H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>Archivos multimedia</translation>
+    </message>
+    <message>
+        <source>Messages of the converter</source>
+        <translation>Mensajes del conversor</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Minimizar</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Open the output folder</source>
+        <translation>Abrir la carpeta de salida</translation>
+    </message>
+    <message>
+        <source>Output folder:</source>
+        <translation>Carpeta de salida:</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>Formato de salida</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Pegar</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progreso</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Salir de Kestrel</translation>
+    </message>
+    <message>
+        <source>Reading files…</source>
+        <translation>Leyendo archivos…</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se permite leer el archivo o escribir en la carpeta de salida. Compruebe sus permisos.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo…</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Preparado</translation>
     </message>
     <message>
         <source>Record Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabar vídeos</translation>
     </message>
     <message>
         <source>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabe vídeos de la pantalla, la cámara web o el iPhone. Capture retransmisiones en directo, juegos, el escritorio y cualquier otra cosa en MOV para YouTube. Admite la grabación simultánea de pantalla y cámara web.</translation>
     </message>
     <message>
         <source>Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabadora</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rehacer</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Quitar</translation>
     </message>
     <message>
         <source>Report Bug</source>
-        <translation type="unfinished"></translation>
+        <translation>Informar de un error</translation>
     </message>
     <message>
         <source>Reset Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Restablecer perfiles</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
-        <translation type="unfinished"></translation>
+        <translation>Grabación de pantalla no disponible</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccionar todo</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Estado</translation>
+    </message>
+    <message>
+        <source>Stop and Leave</source>
+        <translation>Detener y salir</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Detenido</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>El conversor no puede crear este formato. Elija otro.</translation>
     </message>
     <message>
         <source>The converter could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido iniciar el conversor. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>The converter could not convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El conversor no ha podido convertir este archivo.</translation>
+    </message>
+    <message>
+        <source>The converter is missing. Please install the application again.</source>
+        <translation>Falta el conversor. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer o escribir en el disco.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco de la carpeta de salida no admite un archivo de este tamaño.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo no contiene vídeo ni sonido que se pueda convertir.</translation>
     </message>
     <message>
         <source>The file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo está dañado o incompleto.</translation>
     </message>
     <message>
         <source>The file is no longer where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo ya no está donde estaba.</translation>
     </message>
     <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <source>The folder could not be opened.</source>
+        <translation>No se ha podido abrir la carpeta.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de salida no existe. Compruebe el ajuste.</translation>
     </message>
     <message>
         <source>The output folder is read-only. Choose another one in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>La carpeta de salida es de solo lectura. Elija otra en los ajustes.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación de pantalla solo es compatible con Mac OS Lion y posteriores.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
-        <translation type="unfinished"></translation>
+        <translation>El software de procesamiento de vídeo más potente: convierta vídeos, audio y DVD; edite, transcodifique, comprima y ajuste archivos de vídeo; descargue contenido multimedia en línea; grabe la pantalla y la cámara web.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la herramienta que lee los archivos multimedia. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No queda espacio en el disco. Libere espacio y vuelva a convertir.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no existe.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para convertir este archivo.</translation>
+    </message>
+    <message>
+        <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
+        <translation>Se convierten a MP4, MKV, WebM o MP3, según elija.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer este archivo.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no tiene sonido que convertir.</translation>
     </message>
     <message>
-        <source>This is no media file.</source>
-        <translation type="unfinished"></translation>
+        <source>This file is damaged, or it holds neither video nor sound.</source>
+        <translation>Este archivo está dañado o no contiene vídeo ni sonido.</translation>
+    </message>
+    <message>
+        <source>This is no video or sound file.</source>
+        <translation>No es un archivo de vídeo ni de sonido.</translation>
+    </message>
+    <message>
+        <source>This part is still being made and comes with an update.</source>
+        <translation>Esta parte aún está en desarrollo y llegará con una actualización.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Deshacer</translation>
     </message>
     <message>
         <source>Video Converter</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversor de vídeo</translation>
+    </message>
+    <message>
+        <source>Videos from the web, on your disk</source>
+        <translation>Vídeos de la web, en su disco</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo WebM (VP9, Opus)</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Ventana</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No tiene permiso para leer este archivo.</translation>
+    </message>
+    <message>
+        <source>Your DVDs, as files</source>
+        <translation>Sus DVD, en archivos</translation>
+    </message>
+    <message>
+        <source>Your screen, as a video</source>
+        <translation>Su pantalla, en vídeo</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Zoom</translation>
     </message>
     <message>
         <source>about %1 hours left</source>
-        <translation type="unfinished"></translation>
+        <translation>quedan unas %1 horas</translation>
     </message>
     <message>
         <source>about %1 minutes left</source>
-        <translation type="unfinished"></translation>
+        <translation>quedan unos %1 minutos</translation>
     </message>
     <message>
         <source>about a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>queda alrededor de un minuto</translation>
     </message>
     <message>
         <source>closetip</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerrar consejo</translation>
     </message>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>queda menos de un minuto</translation>
     </message>
     <message>
         <source>showtip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar consejo</translation>
     </message>
 </context>
 </TS>

@@ -5,339 +5,523 @@
     <name>TarnwellPublic</name>
     <message>
         <source>%1 converted</source>
-        <translation type="unfinished"></translation>
+        <translation>Converti : %1</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 sur %2</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos</translation>
     </message>
     <message>
         <source>About Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>À propos de Kestrel</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>Ajouter des fichiers</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Ajouter des fichiers…</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tous les fichiers</translation>
     </message>
     <message>
         <source>App Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Journal de l’app</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment réinitialiser les profils ?</translation>
     </message>
     <message>
         <source>Are you sure you want to restart the application now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Voulez-vous vraiment redémarrer l’application maintenant ?</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Retour</translation>
     </message>
     <message>
         <source>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</source>
-        <translation type="unfinished"></translation>
+        <translation>Sauvegardez vos DVD selon 6 modes et convertissez un DVD entier vers plus de 180 formats pour le lire sur Mac et appareils mobiles, le stocker sur disque dur ou le regarder sur un téléviseur, etc. Un DVD entier en 5 minutes !</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Changez les formats vidéo et audio, redimensionnez vos fichiers et modifiez des vidéos 4K, 5K et 8K : coupe, fusion, division, rotation, sous-titres, filigrane, etc. Découvrez le n° 1 du traitement rapide avec accélération matérielle.</translation>
     </message>
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le changement de langue prend effet au redémarrage de l’application.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Vider</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer</translation>
+    </message>
+    <message>
+        <source>Close the tip</source>
+        <translation>Fermer l’astuce</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Continuer</translation>
+    </message>
+    <message>
+        <source>Conversions are running.</source>
+        <translation>Des conversions sont en cours.</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>Convertir</translation>
     </message>
     <message>
         <source>Convert &amp; Backup DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir et sauvegarder des DVD</translation>
     </message>
     <message>
         <source>Convert &amp; Process Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir et traiter des vidéos</translation>
+    </message>
+    <message>
+        <source>Convert to:</source>
+        <translation>Convertir en :</translation>
+    </message>
+    <message>
+        <source>Converted: %1</source>
+        <translation>Convertis : %1</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copier</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
-        <translation type="unfinished"></translation>
+        <translation>Extraction de DVD</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Langue du système</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Détails</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>Détails…</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé</translation>
     </message>
     <message>
         <source>Download Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Télécharger des vidéos</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargez des vidéos et de la musique en ligne en très haute qualité depuis YouTube, Facebook et plus de 1 000 sites. Convertissez les fichiers téléchargés en MP4, MP3, etc.</translation>
     </message>
     <message>
         <source>Downloader</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléchargement</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
+        <translation>Déposez des vidéos ou des dossiers dans cette fenêtre, choisissez un format ci-dessous et cliquez sur « Convertir ». Les résultats vont dans le dossier de sortie ; vos propres fichiers restent inchangés.</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders here</source>
+        <translation>Déposez ici des vidéos ou des dossiers</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Édition</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Échecs : %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Fichiers</translation>
+    </message>
+    <message>
+        <source>Files that are not finished would have to be converted again.</source>
+        <translation>Les fichiers non terminés devraient être convertis de nouveau.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Format</translation>
+    </message>
+    <message>
+        <source>Got It</source>
+        <translation>J’ai compris</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide</translation>
+    </message>
+    <message>
+        <source>It will convert titles to videos for every device.</source>
+        <translation>Les titres pourront être convertis en vidéos pour tous les appareils.</translation>
+    </message>
+    <message>
+        <source>It will copy a DVD to a disc image or a folder.</source>
+        <translation>Un DVD pourra être copié vers une image disque ou un dossier.</translation>
+    </message>
+    <message>
+        <source>It will fetch several at a time, in the resolution that you prefer.</source>
+        <translation>Plusieurs pourront être récupérées à la fois, dans la résolution de votre choix.</translation>
+    </message>
+    <message>
+        <source>It will go through your proxy where you have one.</source>
+        <translation>Votre proxy sera utilisé si vous en avez un.</translation>
+    </message>
+    <message>
+        <source>It will keep the sound track in the language that you prefer.</source>
+        <translation>La piste audio dans la langue de votre choix sera conservée.</translation>
+    </message>
+    <message>
+        <source>It will record the sound of the computer and of a microphone.</source>
+        <translation>Le son de l’ordinateur et d’un micro pourra être enregistré.</translation>
+    </message>
+    <message>
+        <source>It will record the whole screen, a window or a part of it.</source>
+        <translation>L’écran entier, une fenêtre ou une partie pourront être enregistrés.</translation>
+    </message>
+    <message>
+        <source>It will save videos and music from addresses that you paste.</source>
+        <translation>Il suffira de coller une adresse pour enregistrer vidéos et musique.</translation>
+    </message>
+    <message>
+        <source>It will show mouse clicks where you want them seen.</source>
+        <translation>Les clics de souris pourront être montrés là où vous le souhaitez.</translation>
+    </message>
+    <message>
+        <source>Keep Converting</source>
+        <translation>Poursuivre la conversion</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aide Kestrel</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MKV (H.264, AAC)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio MP3</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MP4 (H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>Fichiers multimédias</translation>
+    </message>
+    <message>
+        <source>Messages of the converter</source>
+        <translation>Messages du convertisseur</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open the output folder</source>
+        <translation>Ouvrir le dossier de sortie</translation>
+    </message>
+    <message>
+        <source>Output folder:</source>
+        <translation>Dossier de sortie :</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>Format de sortie</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Coller</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Progression</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitter Kestrel</translation>
+    </message>
+    <message>
+        <source>Reading files…</source>
+        <translation>Analyse des fichiers…</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>La lecture du fichier ou l’écriture dans le dossier de sortie n’est pas autorisée. Vérifiez leurs autorisations.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse…</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Prêt</translation>
     </message>
     <message>
         <source>Record Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer des vidéos</translation>
     </message>
     <message>
         <source>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrez des vidéos de l’écran, d’une webcam ou d’un iPhone. Capturez diffusions en direct, jeux, bureau et tout le reste en MOV pour YouTube. L’écran et la webcam peuvent être enregistrés en même temps.</translation>
     </message>
     <message>
         <source>Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistreur</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Rétablir</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Retirer</translation>
     </message>
     <message>
         <source>Report Bug</source>
-        <translation type="unfinished"></translation>
+        <translation>Signaler un problème</translation>
     </message>
     <message>
         <source>Reset Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Réinitialiser les profils</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement de l’écran indisponible</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tout sélectionner</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>État</translation>
+    </message>
+    <message>
+        <source>Stop and Leave</source>
+        <translation>Arrêter et quitter</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêté</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le convertisseur ne peut pas produire ce format. Choisissez-en un autre.</translation>
     </message>
     <message>
         <source>The converter could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le convertisseur n’a pas pu démarrer. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>The converter could not convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le convertisseur n’a pas pu convertir ce fichier.</translation>
+    </message>
+    <message>
+        <source>The converter is missing. Please install the application again.</source>
+        <translation>Le convertisseur est introuvable. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire ou d’écrire sur le disque.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque du dossier de sortie ne peut pas contenir un fichier de cette taille.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier ne contient ni vidéo ni son pouvant être converti.</translation>
     </message>
     <message>
         <source>The file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier est endommagé ou incomplet.</translation>
     </message>
     <message>
         <source>The file is no longer where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier n’est plus à son emplacement.</translation>
     </message>
     <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <source>The folder could not be opened.</source>
+        <translation>Impossible d’ouvrir le dossier.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier de sortie n’existe pas. Veuillez vérifier le réglage.</translation>
     </message>
     <message>
         <source>The output folder is read-only. Choose another one in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le dossier de sortie est en lecture seule. Choisissez-en un autre dans les réglages.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement de l’écran n’est pris en charge qu’à partir de Mac OS Lion.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus puissant des logiciels de traitement vidéo : convertissez vidéos, fichiers audio et DVD ; modifiez, transcodez, compressez et ajustez vos vidéos ; téléchargez des contenus en ligne ; enregistrez l’écran et la webcam.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’outil qui lit les fichiers multimédias est introuvable. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a plus d’espace sur le disque. Libérez de l’espace et relancez la conversion.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n’existe pas.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire est insuffisante pour convertir ce fichier.</translation>
+    </message>
+    <message>
+        <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
+        <translation>Ils deviennent MP4, MKV, WebM ou MP3, selon votre choix.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier n’a pas pu être lu.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne contient pas de son à convertir.</translation>
     </message>
     <message>
-        <source>This is no media file.</source>
-        <translation type="unfinished"></translation>
+        <source>This file is damaged, or it holds neither video nor sound.</source>
+        <translation>Ce fichier est endommagé ou ne contient ni vidéo ni son.</translation>
+    </message>
+    <message>
+        <source>This is no video or sound file.</source>
+        <translation>Ce n’est pas un fichier vidéo ou audio.</translation>
+    </message>
+    <message>
+        <source>This part is still being made and comes with an update.</source>
+        <translation>Cette partie est en cours de réalisation et arrivera avec une mise à jour.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler</translation>
     </message>
     <message>
         <source>Video Converter</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertisseur vidéo</translation>
+    </message>
+    <message>
+        <source>Videos from the web, on your disk</source>
+        <translation>Les vidéos du web sur votre disque</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo WebM (VP9, Opus)</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Fenêtre</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vous n’êtes pas autorisé à lire ce fichier.</translation>
+    </message>
+    <message>
+        <source>Your DVDs, as files</source>
+        <translation>Vos DVD sous forme de fichiers</translation>
+    </message>
+    <message>
+        <source>Your screen, as a video</source>
+        <translation>Votre écran en vidéo</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Réduire/Agrandir</translation>
     </message>
     <message>
         <source>about %1 hours left</source>
-        <translation type="unfinished"></translation>
+        <translation>environ %1 heures restantes</translation>
     </message>
     <message>
         <source>about %1 minutes left</source>
-        <translation type="unfinished"></translation>
+        <translation>environ %1 minutes restantes</translation>
     </message>
     <message>
         <source>about a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>environ une minute restante</translation>
     </message>
     <message>
         <source>closetip</source>
-        <translation type="unfinished"></translation>
+        <translation>Fermer l’astuce</translation>
     </message>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>moins d’une minute restante</translation>
     </message>
     <message>
         <source>showtip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher l’astuce</translation>
     </message>
 </context>
 </TS>

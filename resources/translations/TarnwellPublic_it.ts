@@ -5,339 +5,523 @@
     <name>TarnwellPublic</name>
     <message>
         <source>%1 converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 convertito</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%1 di %2</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>Info</translation>
     </message>
     <message>
         <source>About Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Informazioni su Kestrel</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>Aggiungi file</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>Aggiungi file…</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>Tutti i file</translation>
     </message>
     <message>
         <source>App Log</source>
-        <translation type="unfinished"></translation>
+        <translation>Log dell’app</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristinare i profili?</translation>
     </message>
     <message>
         <source>Are you sure you want to restart the application now?</source>
-        <translation type="unfinished"></translation>
+        <translation>Riavviare l’applicazione adesso?</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>Indietro</translation>
     </message>
     <message>
         <source>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</source>
-        <translation type="unfinished"></translation>
+        <translation>Esegui il backup dei DVD in 6 modalità e converti un intero DVD in oltre 180 formati per riprodurlo su Mac e dispositivi mobili, archiviarlo sul disco rigido, guardarlo in TV e altro. Un intero DVD in 5 minuti!</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambia i formati video e audio, ridimensiona i file e modifica video 4K, 5K e 8K: taglia, unisci, dividi, ruota, aggiungi sottotitoli, filigrane e altro. Prova l’elaborazione con accelerazione hardware n. 1 per velocità.</translation>
     </message>
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
-        <translation type="unfinished"></translation>
+        <translation>La nuova lingua sarà attiva dopo il riavvio dell’applicazione.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>Svuota</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi</translation>
+    </message>
+    <message>
+        <source>Close the tip</source>
+        <translation>Chiudi il suggerimento</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>Continua</translation>
+    </message>
+    <message>
+        <source>Conversions are running.</source>
+        <translation>Ci sono conversioni in corso.</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>Converti</translation>
     </message>
     <message>
         <source>Convert &amp; Backup DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>Converti e copia DVD</translation>
     </message>
     <message>
         <source>Convert &amp; Process Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Converti ed elabora video</translation>
+    </message>
+    <message>
+        <source>Convert to:</source>
+        <translation>Converti in:</translation>
+    </message>
+    <message>
+        <source>Converted: %1</source>
+        <translation>Convertiti: %1</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Copia</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripper DVD</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>Lingua di sistema</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>Dettagli</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>Dettagli…</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>Completato</translation>
     </message>
     <message>
         <source>Download Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarica video</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Scarica video e musica in streaming ad altissima qualità da YouTube, Facebook e oltre 1000 siti. Converti i file scaricati in MP4, MP3 e altro.</translation>
     </message>
     <message>
         <source>Downloader</source>
-        <translation type="unfinished"></translation>
+        <translation>Downloader</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
+        <translation>Trascina video o cartelle in questa finestra, scegli un formato in basso e premi Converti. I risultati vanno nella cartella di destinazione; i tuoi file restano come sono.</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders here</source>
+        <translation>Trascina qui video o cartelle</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>Durata</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifica</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>Non riusciti: %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>File</translation>
+    </message>
+    <message>
+        <source>Files that are not finished would have to be converted again.</source>
+        <translation>I file non completati dovrebbero essere convertiti di nuovo.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Got It</source>
+        <translation>Ho capito</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>It will convert titles to videos for every device.</source>
+        <translation>Potrai convertire i titoli in video per ogni dispositivo.</translation>
+    </message>
+    <message>
+        <source>It will copy a DVD to a disc image or a folder.</source>
+        <translation>Potrai copiare un DVD in un’immagine disco o in una cartella.</translation>
+    </message>
+    <message>
+        <source>It will fetch several at a time, in the resolution that you prefer.</source>
+        <translation>Ne scaricherà più di uno alla volta, nella risoluzione che preferisci.</translation>
+    </message>
+    <message>
+        <source>It will go through your proxy where you have one.</source>
+        <translation>Userà il tuo proxy, se ne hai uno.</translation>
+    </message>
+    <message>
+        <source>It will keep the sound track in the language that you prefer.</source>
+        <translation>Manterrà la traccia audio nella lingua che preferisci.</translation>
+    </message>
+    <message>
+        <source>It will record the sound of the computer and of a microphone.</source>
+        <translation>Registrerà l’audio del computer e di un microfono.</translation>
+    </message>
+    <message>
+        <source>It will record the whole screen, a window or a part of it.</source>
+        <translation>Registrerà l’intero schermo, una finestra o una sua parte.</translation>
+    </message>
+    <message>
+        <source>It will save videos and music from addresses that you paste.</source>
+        <translation>Salverà video e musica dagli indirizzi che incolli.</translation>
+    </message>
+    <message>
+        <source>It will show mouse clicks where you want them seen.</source>
+        <translation>Mostrerà i clic del mouse dove vuoi che si vedano.</translation>
+    </message>
+    <message>
+        <source>Keep Converting</source>
+        <translation>Continua a convertire</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Aiuto Kestrel</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MKV (H.264, AAC)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio MP3</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MP4 (H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>File multimediali</translation>
+    </message>
+    <message>
+        <source>Messages of the converter</source>
+        <translation>Messaggi del convertitore</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrai</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Open the output folder</source>
+        <translation>Apri la cartella di destinazione</translation>
+    </message>
+    <message>
+        <source>Output folder:</source>
+        <translation>Cartella di destinazione:</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>Formato di destinazione</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Incolla</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>Avanzamento</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Esci da Kestrel</translation>
+    </message>
+    <message>
+        <source>Reading files…</source>
+        <translation>Lettura dei file…</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è consentito leggere il file o scrivere nella cartella di destinazione. Verifica i permessi.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura…</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>Pronto</translation>
     </message>
     <message>
         <source>Record Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Registra video</translation>
     </message>
     <message>
         <source>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Registra video da schermo, webcam o iPhone. Cattura dirette, giochi, scrivania e qualsiasi altra cosa in MOV per YouTube. È possibile registrare schermo e webcam contemporaneamente.</translation>
     </message>
     <message>
         <source>Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation>Registratore</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>Rimuovi</translation>
     </message>
     <message>
         <source>Report Bug</source>
-        <translation type="unfinished"></translation>
+        <translation>Segnala un problema</translation>
     </message>
     <message>
         <source>Reset Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>Ripristina profili</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
-        <translation type="unfinished"></translation>
+        <translation>Registrazione schermo non disponibile</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona tutto</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Impostazioni</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>Stato</translation>
+    </message>
+    <message>
+        <source>Stop and Leave</source>
+        <translation>Interrompi ed esci</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il convertitore non può creare questo formato. Scegline un altro.</translation>
     </message>
     <message>
         <source>The converter could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile avviare il convertitore. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>The converter could not convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il convertitore non ha potuto convertire questo file.</translation>
+    </message>
+    <message>
+        <source>The converter is missing. Please install the application again.</source>
+        <translation>Il convertitore non è presente. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere o scrivere sul disco.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disco della cartella di destinazione non può contenere un file di queste dimensioni.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file non contiene video né audio che si possa convertire.</translation>
     </message>
     <message>
         <source>The file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file è danneggiato o incompleto.</translation>
     </message>
     <message>
         <source>The file is no longer where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file non è più nella sua posizione.</translation>
     </message>
     <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <source>The folder could not be opened.</source>
+        <translation>Impossibile aprire la cartella.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella di destinazione non esiste. Verifica l’impostazione.</translation>
     </message>
     <message>
         <source>The output folder is read-only. Choose another one in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>La cartella di destinazione è di sola lettura. Scegline un’altra nelle impostazioni.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
-        <translation type="unfinished"></translation>
+        <translation>La registrazione dello schermo è supportata solo da Mac OS Lion in poi.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il software di elaborazione video più potente: converti video, audio e DVD; modifica, transcodifica, comprimi e regola i file video; scarica contenuti multimediali online; registra schermo e webcam.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo strumento che legge i file multimediali non è presente. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo spazio su disco è esaurito. Libera spazio e converti di nuovo.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non esiste.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>La memoria non è sufficiente per convertire questo file.</translation>
+    </message>
+    <message>
+        <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
+        <translation>Diventano MP4, MKV, WebM o MP3, a tua scelta.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere questo file.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non contiene audio da convertire.</translation>
     </message>
     <message>
-        <source>This is no media file.</source>
-        <translation type="unfinished"></translation>
+        <source>This file is damaged, or it holds neither video nor sound.</source>
+        <translation>Questo file è danneggiato o non contiene né video né audio.</translation>
+    </message>
+    <message>
+        <source>This is no video or sound file.</source>
+        <translation>Non è un file video o audio.</translation>
+    </message>
+    <message>
+        <source>This part is still being made and comes with an update.</source>
+        <translation>Questa parte è ancora in lavorazione e arriverà con un aggiornamento.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla</translation>
     </message>
     <message>
         <source>Video Converter</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertitore video</translation>
+    </message>
+    <message>
+        <source>Videos from the web, on your disk</source>
+        <translation>I video del web, sul tuo disco</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video WebM (VP9, Opus)</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>Finestra</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non hai il permesso di leggere questo file.</translation>
+    </message>
+    <message>
+        <source>Your DVDs, as files</source>
+        <translation>I tuoi DVD, come file</translation>
+    </message>
+    <message>
+        <source>Your screen, as a video</source>
+        <translation>Il tuo schermo, in video</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>Ridimensiona</translation>
     </message>
     <message>
         <source>about %1 hours left</source>
-        <translation type="unfinished"></translation>
+        <translation>circa %1 ore rimanenti</translation>
     </message>
     <message>
         <source>about %1 minutes left</source>
-        <translation type="unfinished"></translation>
+        <translation>circa %1 minuti rimanenti</translation>
     </message>
     <message>
         <source>about a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>circa un minuto rimanente</translation>
     </message>
     <message>
         <source>closetip</source>
-        <translation type="unfinished"></translation>
+        <translation>Chiudi suggerimento</translation>
     </message>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>meno di un minuto rimanente</translation>
     </message>
     <message>
         <source>showtip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra suggerimento</translation>
     </message>
 </context>
 </TS>

@@ -5,339 +5,523 @@
     <name>TarnwellPublic</name>
     <message>
         <source>%1 converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1まで変換済み</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2件中%1件目</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>情報</translation>
     </message>
     <message>
         <source>About Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrelについて</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>ファイルを追加</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>ファイルを追加…</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>すべてのファイル</translation>
     </message>
     <message>
         <source>App Log</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリのログ</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイルをリセットしてもよろしいですか？</translation>
     </message>
     <message>
         <source>Are you sure you want to restart the application now?</source>
-        <translation type="unfinished"></translation>
+        <translation>アプリケーションを今すぐ再起動しますか？</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>戻る</translation>
     </message>
     <message>
         <source>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</source>
-        <translation type="unfinished"></translation>
+        <translation>6種類のモードでDVDをバックアップし、DVD全体を180種類以上の形式に変換できます。Macやモバイル機器での再生、ハードディスクへの保存、テレビでの視聴などに対応。DVD1枚を5分でリッピングできます。</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>キャンセル</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオやオーディオの形式を変換し、ファイルサイズを調整できます。4K、5K、8Kビデオのカット、結合、分割、回転、字幕や透かしの追加などの編集にも対応しています。最速のハードウェアアクセラレーション処理をご体験ください。</translation>
     </message>
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
-        <translation type="unfinished"></translation>
+        <translation>言語の変更は再起動後に反映されます。</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>すべて削除</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>閉じる</translation>
+    </message>
+    <message>
+        <source>Close the tip</source>
+        <translation>ヒントを閉じる</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Conversions are running.</source>
+        <translation>変換を実行中です。</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>変換</translation>
     </message>
     <message>
         <source>Convert &amp; Backup DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>DVDの変換とバックアップ</translation>
     </message>
     <message>
         <source>Convert &amp; Process Video</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオの変換と加工</translation>
+    </message>
+    <message>
+        <source>Convert to:</source>
+        <translation>変換形式:</translation>
+    </message>
+    <message>
+        <source>Converted: %1</source>
+        <translation>変換済み: %1</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>コピー</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>カット</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
-        <translation type="unfinished"></translation>
+        <translation>DVDリッピング</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>システムの言語</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>詳細</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>詳細…</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>完了</translation>
     </message>
     <message>
         <source>Download Video</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオをダウンロード</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
-        <translation type="unfinished"></translation>
+        <translation>YouTube、Facebookなど1000以上のサイトから、超高画質のストリーミングビデオや音楽をダウンロードできます。ダウンロードしたファイルはMP4、MP3などに変換できます。</translation>
     </message>
     <message>
         <source>Downloader</source>
-        <translation type="unfinished"></translation>
+        <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
+        <translation>ビデオまたはフォルダをこのウインドウにドロップし、下で形式を選んで「変換」を押してください。変換結果は出力フォルダに保存され、元のファイルは変更されません。</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders here</source>
+        <translation>ここにビデオまたはフォルダをドロップ</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>長さ</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>編集</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>失敗: %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>ファイル</translation>
+    </message>
+    <message>
+        <source>Files that are not finished would have to be converted again.</source>
+        <translation>完了していないファイルは、もう一度変換する必要があります。</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>形式</translation>
+    </message>
+    <message>
+        <source>Got It</source>
+        <translation>了解</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>It will convert titles to videos for every device.</source>
+        <translation>タイトルをあらゆるデバイス向けのビデオに変換できるようになります。</translation>
+    </message>
+    <message>
+        <source>It will copy a DVD to a disc image or a folder.</source>
+        <translation>DVDをディスクイメージまたはフォルダにコピーできるようになります。</translation>
+    </message>
+    <message>
+        <source>It will fetch several at a time, in the resolution that you prefer.</source>
+        <translation>ご希望の解像度で、複数を同時に取得できるようになります。</translation>
+    </message>
+    <message>
+        <source>It will go through your proxy where you have one.</source>
+        <translation>プロキシがある場合は、プロキシを経由するようになります。</translation>
+    </message>
+    <message>
+        <source>It will keep the sound track in the language that you prefer.</source>
+        <translation>ご希望の言語の音声トラックを残せるようになります。</translation>
+    </message>
+    <message>
+        <source>It will record the sound of the computer and of a microphone.</source>
+        <translation>コンピュータとマイクの音声を録音できるようになります。</translation>
+    </message>
+    <message>
+        <source>It will record the whole screen, a window or a part of it.</source>
+        <translation>画面全体、ウインドウ、またはその一部を録画できるようになります。</translation>
+    </message>
+    <message>
+        <source>It will save videos and music from addresses that you paste.</source>
+        <translation>ペーストしたアドレスからビデオや音楽を保存できるようになります。</translation>
+    </message>
+    <message>
+        <source>It will show mouse clicks where you want them seen.</source>
+        <translation>必要な場面でマウスのクリックを表示できるようになります。</translation>
+    </message>
+    <message>
+        <source>Keep Converting</source>
+        <translation>変換を続ける</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrelヘルプ</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKVビデオ（H.264、AAC）</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP3オーディオ</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4ビデオ（H.264、AAC）</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>メディアファイル</translation>
+    </message>
+    <message>
+        <source>Messages of the converter</source>
+        <translation>変換プログラムのメッセージ</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>最小化</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>名前</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>OK</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open the output folder</source>
+        <translation>出力フォルダを開く</translation>
+    </message>
+    <message>
+        <source>Output folder:</source>
+        <translation>出力フォルダ:</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>出力形式</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>ペースト</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>設定…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>進行状況</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrelを終了</translation>
+    </message>
+    <message>
+        <source>Reading files…</source>
+        <translation>ファイルを読み込み中…</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルの読み込みまたは出力フォルダへの書き込みが許可されていません。アクセス権を確認してください。</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>読み込み中…</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>準備完了</translation>
     </message>
     <message>
         <source>Record Video</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオを録画</translation>
     </message>
     <message>
         <source>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>画面、Webカメラ、iPhoneのビデオを録画できます。ライブ配信、ゲーム、デスクトップなど、あらゆる映像をYouTubeに適したMOVで記録します。画面とWebカメラの同時録画にも対応しています。</translation>
     </message>
     <message>
         <source>Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation>録画</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>やり直す</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>削除</translation>
     </message>
     <message>
         <source>Report Bug</source>
-        <translation type="unfinished"></translation>
+        <translation>問題を報告</translation>
     </message>
     <message>
         <source>Reset Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>プロファイルをリセット</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
-        <translation type="unfinished"></translation>
+        <translation>画面収録は利用できません</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>すべてを選択</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>状態</translation>
+    </message>
+    <message>
+        <source>Stop and Leave</source>
+        <translation>中止して戻る</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>中止</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>この形式には変換できません。別の形式を選んでください。</translation>
     </message>
     <message>
         <source>The converter could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>変換プログラムを起動できませんでした。アプリケーションをインストールし直してください。</translation>
     </message>
     <message>
         <source>The converter could not convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルを変換できませんでした。</translation>
+    </message>
+    <message>
+        <source>The converter is missing. Please install the application again.</source>
+        <translation>変換プログラムが見つかりません。アプリケーションをインストールし直してください。</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクを読み書きできませんでした。</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力フォルダのディスクには、このサイズのファイルを保存できません。</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルには、変換できるビデオや音声が含まれていません。</translation>
     </message>
     <message>
         <source>The file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが破損しているか、不完全です。</translation>
     </message>
     <message>
         <source>The file is no longer where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>ファイルが元の場所に見つかりません。</translation>
     </message>
     <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <source>The folder could not be opened.</source>
+        <translation>フォルダを開けませんでした。</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力フォルダがありません。設定を確認してください。</translation>
     </message>
     <message>
         <source>The output folder is read-only. Choose another one in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>出力フォルダは読み出し専用です。設定で別のフォルダを選んでください。</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
-        <translation type="unfinished"></translation>
+        <translation>画面収録はMac OS Lion以降でのみ利用できます。</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオ、オーディオ、DVDの変換、ビデオファイルの編集、トランスコード、圧縮、調整、オンラインメディアのダウンロード、画面やWebカメラの録画ができる、最も強力なビデオ処理ソフトウェアです。</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>メディアファイルを読み込むツールが見つかりません。アプリケーションをインストールし直してください。</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
-        <translation type="unfinished"></translation>
+        <translation>ディスクに空き容量がありません。空き容量を増やしてから、もう一度変換してください。</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルはありません。</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>メモリが不足しているため、このファイルを変換できません。</translation>
+    </message>
+    <message>
+        <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
+        <translation>選んだ形式（MP4、MKV、WebM、MP3）に変換されます。</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルを読み込めませんでした。</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルには変換できる音声がありません。</translation>
     </message>
     <message>
-        <source>This is no media file.</source>
-        <translation type="unfinished"></translation>
+        <source>This file is damaged, or it holds neither video nor sound.</source>
+        <translation>このファイルは破損しているか、ビデオも音声も含まれていません。</translation>
+    </message>
+    <message>
+        <source>This is no video or sound file.</source>
+        <translation>これはビデオまたは音声のファイルではありません。</translation>
+    </message>
+    <message>
+        <source>This part is still being made and comes with an update.</source>
+        <translation>この機能は開発中です。アップデートで提供されます。</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>取り消す</translation>
     </message>
     <message>
         <source>Video Converter</source>
-        <translation type="unfinished"></translation>
+        <translation>ビデオ変換</translation>
+    </message>
+    <message>
+        <source>Videos from the web, on your disk</source>
+        <translation>Webのビデオをディスクに</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>待機中</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebMビデオ（VP9、Opus）</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>ウインドウ</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>このファイルを読み込む権限がありません。</translation>
+    </message>
+    <message>
+        <source>Your DVDs, as files</source>
+        <translation>DVDをファイルに</translation>
+    </message>
+    <message>
+        <source>Your screen, as a video</source>
+        <translation>画面をビデオに</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>拡大/縮小</translation>
     </message>
     <message>
         <source>about %1 hours left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り約%1時間</translation>
     </message>
     <message>
         <source>about %1 minutes left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り約%1分</translation>
     </message>
     <message>
         <source>about a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り約1分</translation>
     </message>
     <message>
         <source>closetip</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒントを閉じる</translation>
     </message>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>残り1分未満</translation>
     </message>
     <message>
         <source>showtip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>ヒントを表示</translation>
     </message>
 </context>
 </TS>

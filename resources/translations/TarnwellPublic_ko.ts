@@ -5,339 +5,523 @@
     <name>TarnwellPublic</name>
     <message>
         <source>%1 converted</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 변환됨</translation>
+    </message>
+    <message>
+        <source>%1 of %2</source>
+        <translation>%2개 중 %1번째</translation>
     </message>
     <message>
         <source>About</source>
-        <translation type="unfinished"></translation>
+        <translation>정보</translation>
     </message>
     <message>
         <source>About Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel에 관하여</translation>
+    </message>
+    <message>
+        <source>Add Files</source>
+        <translation>파일 추가</translation>
+    </message>
+    <message>
+        <source>Add Files…</source>
+        <translation>파일 추가…</translation>
+    </message>
+    <message>
+        <source>All files</source>
+        <translation>모든 파일</translation>
     </message>
     <message>
         <source>App Log</source>
-        <translation type="unfinished"></translation>
+        <translation>앱 로그</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
-        <translation type="unfinished"></translation>
+        <translation>프로파일을 재설정하겠습니까?</translation>
     </message>
     <message>
         <source>Are you sure you want to restart the application now?</source>
-        <translation type="unfinished"></translation>
+        <translation>지금 응용 프로그램을 재시동하겠습니까?</translation>
+    </message>
+    <message>
+        <source>Back</source>
+        <translation>뒤로</translation>
     </message>
     <message>
         <source>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</source>
-        <translation type="unfinished"></translation>
+        <translation>6가지 모드로 DVD를 백업하고, DVD 전체를 180가지 이상의 포맷으로 변환하여 Mac과 모바일 기기에서 재생하거나 하드 디스크에 저장하고 TV에서 즐길 수 있습니다. DVD 한 장을 5분 만에 변환합니다!</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>취소</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
-        <translation type="unfinished"></translation>
+        <translation>비디오 및 오디오 포맷을 바꾸고 파일 크기를 조절하며, 4K, 5K, 8K 비디오를 자르기, 병합, 분할, 회전하고 자막이나 워터마크를 추가할 수 있습니다. 가장 빠른 하드웨어 가속 처리를 경험해 보십시오.</translation>
     </message>
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
-        <translation type="unfinished"></translation>
+        <translation>변경한 언어는 다시 시작하면 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>모두 제거</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>닫기</translation>
+    </message>
+    <message>
+        <source>Close the tip</source>
+        <translation>팁 닫기</translation>
     </message>
     <message>
         <source>Continue</source>
-        <translation type="unfinished"></translation>
+        <translation>계속</translation>
+    </message>
+    <message>
+        <source>Conversions are running.</source>
+        <translation>변환이 진행 중입니다.</translation>
+    </message>
+    <message>
+        <source>Convert</source>
+        <translation>변환</translation>
     </message>
     <message>
         <source>Convert &amp; Backup DVD</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD 변환 및 백업</translation>
     </message>
     <message>
         <source>Convert &amp; Process Video</source>
-        <translation type="unfinished"></translation>
+        <translation>비디오 변환 및 처리</translation>
+    </message>
+    <message>
+        <source>Convert to:</source>
+        <translation>변환 포맷:</translation>
+    </message>
+    <message>
+        <source>Converted: %1</source>
+        <translation>변환됨: %1</translation>
     </message>
     <message>
         <source>Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>복사하기</translation>
     </message>
     <message>
         <source>Cut</source>
-        <translation type="unfinished"></translation>
+        <translation>오려두기</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD 리퍼</translation>
+    </message>
+    <message>
+        <source>Default</source>
+        <translation>시스템 언어</translation>
+    </message>
+    <message>
+        <source>Details</source>
+        <translation>세부사항</translation>
+    </message>
+    <message>
+        <source>Details…</source>
+        <translation>세부사항…</translation>
     </message>
     <message>
         <source>Done</source>
-        <translation type="unfinished"></translation>
+        <translation>완료</translation>
     </message>
     <message>
         <source>Download Video</source>
-        <translation type="unfinished"></translation>
+        <translation>비디오 다운로드</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
-        <translation type="unfinished"></translation>
+        <translation>YouTube, Facebook 등 1000개 이상의 사이트에서 초고화질 스트리밍 비디오와 음악을 다운로드할 수 있습니다. 다운로드한 파일은 MP4, MP3 등으로 변환합니다.</translation>
     </message>
     <message>
         <source>Downloader</source>
-        <translation type="unfinished"></translation>
+        <translation>다운로더</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
+        <translation>비디오나 폴더를 이 윈도우로 드래그하고 아래에서 포맷을 선택한 다음 ‘변환’을 누르십시오. 결과는 출력 폴더에 저장되며 원본 파일은 그대로 유지됩니다.</translation>
+    </message>
+    <message>
+        <source>Drop videos or folders here</source>
+        <translation>여기에 비디오나 폴더를 드래그하십시오</translation>
     </message>
     <message>
         <source>Duration</source>
-        <translation type="unfinished"></translation>
+        <translation>길이</translation>
     </message>
     <message>
         <source>Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>편집</translation>
+    </message>
+    <message>
+        <source>Failed: %1</source>
+        <translation>실패: %1</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>파일</translation>
+    </message>
+    <message>
+        <source>Files that are not finished would have to be converted again.</source>
+        <translation>완료되지 않은 파일은 다시 변환해야 합니다.</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>포맷</translation>
+    </message>
+    <message>
+        <source>Got It</source>
+        <translation>알겠습니다</translation>
     </message>
     <message>
         <source>Help</source>
-        <translation type="unfinished"></translation>
+        <translation>도움말</translation>
+    </message>
+    <message>
+        <source>It will convert titles to videos for every device.</source>
+        <translation>타이틀을 모든 기기용 비디오로 변환할 수 있게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will copy a DVD to a disc image or a folder.</source>
+        <translation>DVD를 디스크 이미지나 폴더로 복사할 수 있게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will fetch several at a time, in the resolution that you prefer.</source>
+        <translation>원하는 해상도로 여러 개를 동시에 받을 수 있게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will go through your proxy where you have one.</source>
+        <translation>프록시가 있으면 프록시를 통해 연결하게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will keep the sound track in the language that you prefer.</source>
+        <translation>선호하는 언어의 사운드 트랙을 유지하게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will record the sound of the computer and of a microphone.</source>
+        <translation>컴퓨터와 마이크의 사운드를 기록할 수 있게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will record the whole screen, a window or a part of it.</source>
+        <translation>전체 화면, 윈도우 또는 그 일부를 기록할 수 있게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will save videos and music from addresses that you paste.</source>
+        <translation>붙여넣은 주소에서 비디오와 음악을 저장할 수 있게 됩니다.</translation>
+    </message>
+    <message>
+        <source>It will show mouse clicks where you want them seen.</source>
+        <translation>원하는 곳에 마우스 클릭을 표시할 수 있게 됩니다.</translation>
+    </message>
+    <message>
+        <source>Keep Converting</source>
+        <translation>계속 변환</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel 도움말</translation>
     </message>
     <message>
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>언어</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV 비디오(H.264, AAC)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>MP3 오디오</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4 비디오(H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>Media files</source>
+        <translation>미디어 파일</translation>
+    </message>
+    <message>
+        <source>Messages of the converter</source>
+        <translation>변환기 메시지</translation>
     </message>
     <message>
         <source>Minimize</source>
-        <translation type="unfinished"></translation>
+        <translation>최소화</translation>
     </message>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>이름</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>확인</translation>
+    </message>
+    <message>
+        <source>Open</source>
+        <translation>열기</translation>
+    </message>
+    <message>
+        <source>Open the output folder</source>
+        <translation>출력 폴더 열기</translation>
+    </message>
+    <message>
+        <source>Output folder:</source>
+        <translation>출력 폴더:</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>출력 포맷</translation>
     </message>
     <message>
         <source>Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>붙여넣기</translation>
     </message>
     <message>
         <source>Preferences…</source>
-        <translation type="unfinished"></translation>
+        <translation>설정…</translation>
+    </message>
+    <message>
+        <source>Progress</source>
+        <translation>진행률</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel 종료</translation>
+    </message>
+    <message>
+        <source>Reading files…</source>
+        <translation>파일을 읽는 중…</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일을 읽거나 출력 폴더에 쓸 권한이 없습니다. 권한을 확인하십시오.</translation>
     </message>
     <message>
         <source>Reading…</source>
-        <translation type="unfinished"></translation>
+        <translation>읽는 중…</translation>
     </message>
     <message>
         <source>Ready</source>
-        <translation type="unfinished"></translation>
+        <translation>준비됨</translation>
     </message>
     <message>
         <source>Record Video</source>
-        <translation type="unfinished"></translation>
+        <translation>비디오 녹화</translation>
     </message>
     <message>
         <source>Record screen/webcam/iPhone videos. Capture live streams, games, desktop, and anything in MOV for YouTube. Support recording screen and webcam at the same time.</source>
-        <translation type="unfinished"></translation>
+        <translation>화면, 웹캠, iPhone 비디오를 녹화할 수 있습니다. 라이브 스트림, 게임, 데스크탑 등 무엇이든 YouTube용 MOV로 기록합니다. 화면과 웹캠을 동시에 녹화할 수도 있습니다.</translation>
     </message>
     <message>
         <source>Recorder</source>
-        <translation type="unfinished"></translation>
+        <translation>녹화기</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 복귀</translation>
+    </message>
+    <message>
+        <source>Remove</source>
+        <translation>제거</translation>
     </message>
     <message>
         <source>Report Bug</source>
-        <translation type="unfinished"></translation>
+        <translation>문제 신고</translation>
     </message>
     <message>
         <source>Reset Profiles</source>
-        <translation type="unfinished"></translation>
+        <translation>프로파일 재설정</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
-        <translation type="unfinished"></translation>
+        <translation>화면 기록을 사용할 수 없음</translation>
     </message>
     <message>
         <source>Select All</source>
-        <translation type="unfinished"></translation>
+        <translation>모두 선택</translation>
     </message>
     <message>
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>설정</translation>
     </message>
     <message>
         <source>Status</source>
-        <translation type="unfinished"></translation>
+        <translation>상태</translation>
+    </message>
+    <message>
+        <source>Stop and Leave</source>
+        <translation>중단하고 나가기</translation>
     </message>
     <message>
         <source>Stopped</source>
-        <translation type="unfinished"></translation>
+        <translation>중단됨</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
-        <translation type="unfinished"></translation>
+        <translation>변환기가 이 포맷을 만들 수 없습니다. 다른 포맷을 선택하십시오.</translation>
     </message>
     <message>
         <source>The converter could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>변환기를 시작할 수 없습니다. 응용 프로그램을 다시 설치하십시오.</translation>
     </message>
     <message>
         <source>The converter could not convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>변환기가 이 파일을 변환할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The converter is missing. Please install the application again.</source>
+        <translation>변환기가 없습니다. 응용 프로그램을 다시 설치하십시오.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크를 읽거나 쓸 수 없습니다.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
-        <translation type="unfinished"></translation>
+        <translation>출력 폴더의 디스크에 이 크기의 파일을 저장할 수 없습니다.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일에 변환할 수 있는 비디오나 사운드가 없습니다.</translation>
     </message>
     <message>
         <source>The file is damaged or incomplete.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 손상되었거나 불완전합니다.</translation>
     </message>
     <message>
         <source>The file is no longer where it was.</source>
-        <translation type="unfinished"></translation>
+        <translation>파일이 더 이상 원래 위치에 없습니다.</translation>
     </message>
     <message>
-        <source>The hardware encoder is not available. Switch it off in the settings.</source>
-        <translation type="unfinished"></translation>
+        <source>The folder could not be opened.</source>
+        <translation>폴더를 열 수 없습니다.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
-        <translation type="unfinished"></translation>
+        <translation>출력 폴더가 없습니다. 설정을 확인하십시오.</translation>
     </message>
     <message>
         <source>The output folder is read-only. Choose another one in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>출력 폴더가 읽기 전용입니다. 설정에서 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
-        <translation type="unfinished"></translation>
+        <translation>화면 기록은 Mac OS Lion 이상에서만 지원됩니다.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
-        <translation type="unfinished"></translation>
+        <translation>비디오, 오디오, DVD 변환부터 비디오 파일 편집, 트랜스코딩, 압축, 조정, 온라인 미디어 다운로드, 화면과 웹캠 녹화까지 가능한 가장 강력한 비디오 처리 소프트웨어입니다.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>미디어 파일을 읽는 도구가 없습니다. 응용 프로그램을 다시 설치하십시오.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
-        <translation type="unfinished"></translation>
+        <translation>디스크에 남은 공간이 없습니다. 공간을 확보한 다음 다시 변환하십시오.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일이 없습니다.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>메모리가 부족하여 이 파일을 변환할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
+        <translation>선택에 따라 MP4, MKV, WebM 또는 MP3로 변환됩니다.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일을 읽을 수 없습니다.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일에는 변환할 사운드가 없습니다.</translation>
     </message>
     <message>
-        <source>This is no media file.</source>
-        <translation type="unfinished"></translation>
+        <source>This file is damaged, or it holds neither video nor sound.</source>
+        <translation>이 파일이 손상되었거나 비디오와 사운드가 없습니다.</translation>
+    </message>
+    <message>
+        <source>This is no video or sound file.</source>
+        <translation>비디오 또는 사운드 파일이 아닙니다.</translation>
+    </message>
+    <message>
+        <source>This part is still being made and comes with an update.</source>
+        <translation>이 기능은 아직 제작 중이며 업데이트로 제공됩니다.</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>실행 취소</translation>
     </message>
     <message>
         <source>Video Converter</source>
-        <translation type="unfinished"></translation>
+        <translation>비디오 변환기</translation>
+    </message>
+    <message>
+        <source>Videos from the web, on your disk</source>
+        <translation>웹 비디오를 디스크에</translation>
     </message>
     <message>
         <source>Waiting</source>
-        <translation type="unfinished"></translation>
+        <translation>대기 중</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM 비디오(VP9, Opus)</translation>
     </message>
     <message>
         <source>Window</source>
-        <translation type="unfinished"></translation>
+        <translation>윈도우</translation>
     </message>
     <message>
         <source>You are not allowed to read this file.</source>
-        <translation type="unfinished"></translation>
+        <translation>이 파일을 읽을 권한이 없습니다.</translation>
+    </message>
+    <message>
+        <source>Your DVDs, as files</source>
+        <translation>DVD를 파일로</translation>
+    </message>
+    <message>
+        <source>Your screen, as a video</source>
+        <translation>화면을 비디오로</translation>
     </message>
     <message>
         <source>Zoom</source>
-        <translation type="unfinished"></translation>
+        <translation>확대/축소</translation>
     </message>
     <message>
         <source>about %1 hours left</source>
-        <translation type="unfinished"></translation>
+        <translation>약 %1시간 남음</translation>
     </message>
     <message>
         <source>about %1 minutes left</source>
-        <translation type="unfinished"></translation>
+        <translation>약 %1분 남음</translation>
     </message>
     <message>
         <source>about a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>약 1분 남음</translation>
     </message>
     <message>
         <source>closetip</source>
-        <translation type="unfinished"></translation>
+        <translation>팁 닫기</translation>
     </message>
     <message>
         <source>less than a minute left</source>
-        <translation type="unfinished"></translation>
+        <translation>1분 미만 남음</translation>
     </message>
     <message>
         <source>showtip</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>…</source>
-        <translation type="unfinished"></translation>
+        <translation>팁 보기</translation>
     </message>
 </context>
 </TS>

@@ -11,6 +11,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel::tarnwell {
@@ -23,12 +25,12 @@ constexpr int maximumPanelWidth = 520;
 QString alertImageName(AlertStyle style)
 {
     switch (style) {
-    case AlertStyle::Critical:
-        return u"alert_critical"_s;
-    case AlertStyle::Warning:
-        return u"alert_warning"_s;
-    case AlertStyle::Informational:
-        break;
+        case AlertStyle::Critical:
+            return u"alert_critical"_s;
+        case AlertStyle::Warning:
+            return u"alert_warning"_s;
+        case AlertStyle::Informational:
+            break;
     }
     return u"alert_question"_s;
 }
@@ -51,13 +53,15 @@ QString wrappable(QString text)
 /// The widest line of a text that is not wrapped.
 int naturalWidth(const QLabel *label)
 {
-    return label->fontMetrics().boundingRect(QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), 0, label->text()).width() + 2;
+    return label->fontMetrics().boundingRect(QRect(0, 0, QWIDGETSIZE_MAX, QWIDGETSIZE_MAX), 0, label->text()).width() +
+           2;
 }
 
 }  // namespace
 
 AlertPanel::AlertPanel(const Alert &alert)
-    : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint), m_ui(std::make_unique<Ui::AlertPanel>()),
+    : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint),
+      m_ui(std::make_unique<Ui::AlertPanel>()),
       m_answerToEscape(alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate)
 {
     m_ui->setupUi(this);
@@ -92,8 +96,9 @@ void AlertPanel::fitWidth()
     const int rest = margins.left() + margins.right() + m_ui->iconLabel->sizeHint().width() + layout()->spacing();
     const int wanted = std::max(naturalWidth(m_ui->messageLabel), naturalWidth(m_ui->informativeLabel));
     const int width = std::clamp(wanted, minimumPanelWidth - rest, maximumPanelWidth - rest);
-    m_ui->messageLabel->setFixedWidth(width);
-    m_ui->informativeLabel->setFixedWidth(width);
+    // The height as well: beside wide buttons the layout would reckon with lines longer than these.
+    for (QLabel *label : {m_ui->messageLabel, m_ui->informativeLabel})
+        label->setFixedSize(width, label->heightForWidth(width));
     adjustSize();
 }
 
@@ -111,6 +116,8 @@ AlertAnswer AlertPanel::runModal()
 void AlertPanel::placeOver(const QWidget *window)
 {
     const QScreen *screen = window ? window->screen() : QGuiApplication::primaryScreen();
+    if (!screen)
+        return;
     QRect place(QPoint(), size());
     place.moveCenter(window ? window->geometry().center() : screen->availableGeometry().center());
     move(keptOnScreen(place, *screen).topLeft());

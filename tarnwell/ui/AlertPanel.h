@@ -12,8 +12,8 @@ class AlertPanel;
 
 namespace kestrel::tarnwell {
 
-/// One alert as a panel: icon, message, informative text, the default button at the right and the alternate one beside it. As wide as its
-/// texts ask for within limits, and never narrower than its buttons.
+/// One alert as a panel: icon, message, informative text, the default button at the right and the alternate one beside
+/// it. As wide as its texts ask for within limits, and never narrower than its buttons.
 class AlertPanel : public QDialog {
     Q_OBJECT
 public:

@@ -1,5 +1,7 @@
 #include "ElidedLabel.h"
 
+#include "HoverText.h"
+
 #include <QHelpEvent>
 #include <QPainter>
 #include <QStyle>
@@ -34,8 +36,8 @@ bool ElidedLabel::event(QEvent *event)
     if (event->type() != QEvent::ToolTip)
         return QLabel::event(event);
     const bool isCut = fontMetrics().horizontalAdvance(text()) > contentsRect().width();
-    // Escaped: a tooltip takes what looks like markup for markup.
-    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), isCut ? text().toHtmlEscaped() : QString(), this);
+    QToolTip::showText(static_cast<QHelpEvent *>(event)->globalPos(), isCut ? hoverTextShowing(text()) : QString(),
+                       this);
     return true;
 }
 

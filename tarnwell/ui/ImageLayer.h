@@ -7,8 +7,9 @@
 
 namespace kestrel::tarnwell {
 
-/// An image of the bundle, stretched to a frame in the bottom-up points of the view that holds it. A new frame is moved to within
-/// 0.25 s, at once where the layer is not on screen or the desktop asks for reduced motion. Lets the mouse through.
+/// An image of the bundle, stretched to a frame in the bottom-up points of the view that holds it. A new frame is moved
+/// to within 0.25 s, at once where the layer is not on screen or the desktop asks for reduced motion. Lets the mouse
+/// through.
 class ImageLayer : public QWidget {
     Q_OBJECT
 public:

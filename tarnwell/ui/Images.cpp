@@ -4,9 +4,13 @@
 #include "Log.h"
 #include "ProductInformation.h"
 
+#include <QCoreApplication>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -74,8 +78,9 @@ private:
         if (image.isNull())
             return image;
         const qreal ratio = std::min(scale, image.devicePixelRatio());
-        const QSize shown = (image.deviceIndependentSize() * ratio).toSize().boundedTo(
-            image.size().scaled(pixels, Qt::KeepAspectRatio));
+        const QSize shown = (image.deviceIndependentSize() * ratio)
+                                .toSize()
+                                .boundedTo(image.size().scaled(pixels, Qt::KeepAspectRatio));
         if (shown != image.size())
             image = image.scaled(shown, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         image.setDevicePixelRatio(ratio);
@@ -108,6 +113,10 @@ QPixmap ImageNamed(const QString &name, qreal scale)
     if (name.isEmpty())
         return {};
     static QHash<QString, QPixmap> images;
+    [[maybe_unused]] static const bool isClearedInTime = [] {
+        qAddPostRoutine([] { images.clear(); });  // pixmaps need the application object
+        return true;
+    }();
     const QString path = ImagePathNamed(name, scale);
     auto image = images.constFind(path);
     if (image == images.cend())

@@ -9,8 +9,9 @@ class QPointF;
 
 namespace kestrel::tarnwell {
 
-/// The bundle's image of that name ("kestrel_bg"), in the rendering that is crisp at `scale` device pixels a point: 1, 1.5 or 2. Its size
-/// in points is the same at every scale. Read once and kept. A null pixmap where there is no such image.
+/// The bundle's image of that name ("kestrel_bg"), in the rendering that is crisp at `scale` device pixels a point:
+/// 1, 1.5 or 2. Its size in points is the same at every scale. Read once and kept. A null pixmap where there is no such
+/// image.
 QPixmap ImageNamed(const QString &name, qreal scale);
 
 /// The file behind `ImageNamed`, for style sheets.

@@ -5,6 +5,8 @@
 
 #include <QPainter>
 
+#include <algorithm>
+
 namespace kestrel::tarnwell {
 
 namespace {
@@ -85,7 +87,8 @@ void JHoverButton::paintEvent(QPaintEvent *)
         QRect iconPlace(QPoint(), size);
         iconPlace.moveCenter(place.center());
         shown.paint(&painter, iconPlace, Qt::AlignCenter, isEnabled() ? QIcon::Normal : QIcon::Disabled);
-        place.setRect(place.right() + 1 + iconSpacing, 0, width() - place.right() - 1 - iconSpacing - textMargin, height());
+        place.setRect(place.right() + 1 + iconSpacing, 0, width() - place.right() - 1 - iconSpacing - textMargin,
+                      height());
     }
     if (!text().isEmpty()) {
         painter.setPen(isLit ? QColor(palette::accent) : QWidget::palette().color(QPalette::ButtonText));
@@ -96,7 +99,8 @@ void JHoverButton::paintEvent(QPaintEvent *)
         painter.setOpacity(1);
         painter.setBrush(Qt::NoBrush);
         painter.setPen(QPen(QColor(palette::accent), 2));
-        painter.drawRoundedRect(rect().toRectF().adjusted(1, 1, -1, -1), 6, 6);
+        const double radius = text().isEmpty() ? std::min(width(), height()) / 2.0 : 6;
+        painter.drawRoundedRect(rect().toRectF().adjusted(1, 1, -1, -1), radius, radius);
     }
 }
 

@@ -4,8 +4,8 @@
 
 namespace kestrel::tarnwell {
 
-/// A button without an outline: an icon, a text or both beside each other, which reports the pointer's coming and going. Keyboard
-/// focus shows as a ring and is not reported. Icon-only buttons need an accessible name.
+/// A button without an outline: an icon, a text or both beside each other, which reports the pointer's coming and
+/// going. Keyboard focus shows as a ring and is not reported. Icon-only buttons need an accessible name.
 class JHoverButton : public QAbstractButton {
     Q_OBJECT
 public:

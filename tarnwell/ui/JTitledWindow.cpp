@@ -18,7 +18,8 @@ namespace kestrel::tarnwell {
 
 namespace {
 
-/// One point around the window, over whatever lies at its edges: without a frame of the desktop's it would melt into what is behind it.
+/// One point around the window, over whatever lies at its edges: without a frame of the desktop's it would melt into
+/// what is behind it.
 class WindowEdge : public QWidget {
 public:
     explicit WindowEdge(QWidget *window) : QWidget(window) { setAttribute(Qt::WA_TransparentForMouseEvents); }
@@ -40,7 +41,9 @@ QAccessibleInterface *windowInterface(const QString &className, QObject *object)
 
 JTitledWindow::JTitledWindow(QWidget *parent)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint),
-      m_titleBar(new WindowTitleBar(this)), m_contentView(new QWidget(this)), m_edge(new WindowEdge(this)),
+      m_titleBar(new WindowTitleBar(this)),
+      m_contentView(new QWidget(this)),
+      m_edge(new WindowEdge(this)),
       m_titleBarHeight(int(defaultTitleBarHeight))
 {
     QAccessible::installFactory(windowInterface);
@@ -132,7 +135,7 @@ void JTitledWindow::closeEvent(QCloseEvent *event)
     // The desktop's own ways to close a window do what the close button does.
     if (event->spontaneous() && m_closeAction) {
         event->ignore();
-        m_closeAction();
+        performClose();
         return;
     }
     if (m_shouldClose && !m_shouldClose()) {

@@ -13,9 +13,9 @@ namespace kestrel::tarnwell {
 
 class WindowTitleBar;
 
-/// A top-level window with a title bar of its own: close, minimise and zoom button at the left, the menus where the platform has no global
-/// menu bar, the title in the middle; dragging it moves the window. `contentView()` fills the rest. Frames are in points, bottom-up, and
-/// take in the title bar. Only `setFrame` and the zoom button size it.
+/// A top-level window with a title bar of its own: close, minimise and zoom button at the left, the menus where the
+/// platform has no global menu bar, the title in the middle; dragging it moves the window. `contentView()` fills the
+/// rest. Frames are in points, bottom-up, and take in the title bar. Only `setFrame` and the zoom button size it.
 class JTitledWindow : public QWidget {
     Q_OBJECT
 public:
@@ -45,7 +45,8 @@ public:
     /// Whether dragging the background of the content moves the window as well.
     void setMovableByWindowBackground(bool isMovable) { m_isMovableByWindowBackground = isMovable; }
 
-    /// Shows it, in front and with the keyboard, on the space that the user is on.
+    /// Shows it, in front and with the keyboard, on the space that the user is on as far as the window manager goes
+    /// along.
     void makeKeyAndOrderFront();
     /// What the close button does: its action, or closing the window.
     void performClose();

@@ -6,8 +6,8 @@ class QWidget;
 
 namespace kestrel::tarnwell {
 
-/// Keeps the tooltips of the windows that it is handed to the time in which their window has the keyboard: they go when it loses it, and
-/// none opens until it has it again.
+/// Keeps the tooltips of the windows that it is handed to the time in which their window has the keyboard: they go when
+/// it loses it, and none opens until it has it again.
 class JTooltipController : public QObject {
     Q_OBJECT
 public:

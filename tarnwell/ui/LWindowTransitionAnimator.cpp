@@ -4,8 +4,11 @@
 #include "Queues.h"
 
 #include <QCoreApplication>
+#include <QEvent>
 #include <QPainter>
 #include <QWidget>
+
+#include <utility>
 
 namespace kestrel::tarnwell {
 
@@ -29,7 +32,10 @@ public:
     TransitionGhost(QWidget *from, QWidget *to)
         : QWidget(nullptr, Qt::ToolTip | Qt::FramelessWindowHint | Qt::BypassWindowManagerHint |
                                Qt::WindowDoesNotAcceptFocus | Qt::WindowTransparentForInput),
-          m_fromPlace(from->geometry()), m_toPlace(to->geometry()), m_fromPicture(from->grab()), m_toPicture(to->grab())
+          m_fromPlace(from->geometry()),
+          m_toPlace(to->geometry()),
+          m_fromPicture(from->grab()),
+          m_toPicture(to->grab())
     {
         setAttribute(Qt::WA_OpaquePaintEvent);
         setAttribute(Qt::WA_NoSystemBackground);
@@ -75,28 +81,28 @@ LWindowTransitionAnimator::LWindowTransitionAnimator()
     m_animation.setStartValue(0.0);
     m_animation.setEndValue(1.0);
     m_animation.setEasingCurve(QEasingCurve::OutCubic);
-    connect(&m_animation, &QVariantAnimation::valueChanged, this, [this](const QVariant &value) { step(value.toDouble()); });
+    connect(&m_animation, &QVariantAnimation::valueChanged, this,
+            [this](const QVariant &value) { step(value.toDouble()); });
     connect(&m_animation, &QAbstractAnimation::finished, this, &LWindowTransitionAnimator::finish);
-    connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, [this] {
-        m_animation.stop();
-        m_transition.reset();
-        m_ghost.reset();
-    });
 }
 
 LWindowTransitionAnimator::~LWindowTransitionAnimator() = default;
 
 LWindowTransitionAnimator &LWindowTransitionAnimator::sharedAnimator()
 {
-    static LWindowTransitionAnimator animator;
-    return animator;
+    // It goes with the application object, which its animation and its window need to their end.
+    static std::unique_ptr<LWindowTransitionAnimator> animator;
+    if (!animator) {
+        animator.reset(new LWindowTransitionAnimator);
+        qAddPostRoutine([] { animator.reset(); });
+    }
+    return *animator;
 }
 
 void LWindowTransitionAnimator::zoomFromWindow(QWidget *from, QWidget *to, bool isZoomIn,
                                                std::function<void()> finishedCallback)
 {
-    while (isRunning())  // the callback may have begun another
-        finish();
+    finishRunning();
     m_transition = Transition{from, to, std::move(finishedCallback)};
     const bool canMove = from && to && from != to && from->isVisible() && !from->isMinimized();
     if (!canMove || reducedMotion()) {
@@ -109,12 +115,18 @@ void LWindowTransitionAnimator::zoomFromWindow(QWidget *from, QWidget *to, bool 
     m_animation.start();
 }
 
+void LWindowTransitionAnimator::finishRunning()
+{
+    while (isRunning())  // the callback may have begun another
+        finish();
+}
+
 void LWindowTransitionAnimator::step(double progress)
 {
     if (!m_transition || !m_ghost || progress <= 0)
         return;
-    // A picture that shrinks would bare the window it was taken of. That one stays open until the other is, so it is cut to what
-    // the picture covers; not before the picture has had a frame's time to appear.
+    // A picture that shrinks would bare the window it was taken of. That one stays open until the other is, so it is
+    // cut to what the picture covers; not before the picture has had a frame's time to appear.
     QWidget *from = m_transition->from;
     if (const QRegion covered = m_ghost->coveredPartOfSource(); from && from->mask().isEmpty() && !covered.isEmpty())
         from->setMask(covered);
@@ -132,17 +144,41 @@ void LWindowTransitionAnimator::finish()
         to->raise();
         to->activateWindow();
     }
+    // The picture stays until the desktop has drawn the window beneath it.
+    if (m_ghost && transition.to)
+        dropGhostWhenPainted(transition.to);
+    else
+        m_ghost.reset();
     if (QWidget *from = transition.from; from && from != transition.to) {
         from->hide();
         from->clearMask();
     }
-    // The picture stays until the desktop has drawn the window beneath it.
-    foundation::queue::afterMain(std::chrono::milliseconds(60), [self = QPointer(this)] {
-        if (self && !self->isRunning())
-            self->m_ghost.reset();
-    });
     if (transition.finishedCallback)
         transition.finishedCallback();
+}
+
+void LWindowTransitionAnimator::dropGhostWhenPainted(QWidget *window)
+{
+    window->installEventFilter(this);
+    window->update();
+    dropGhostAfter(std::chrono::seconds(1));  // should it never be painted
+}
+
+bool LWindowTransitionAnimator::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() == QEvent::Paint) {
+        watched->removeEventFilter(this);
+        dropGhostAfter(std::chrono::milliseconds(60));
+    }
+    return QObject::eventFilter(watched, event);
+}
+
+void LWindowTransitionAnimator::dropGhostAfter(std::chrono::milliseconds delay)
+{
+    foundation::queue::afterMain(delay, [self = QPointer(this), ghost = QPointer(m_ghost.get())] {
+        if (self && ghost && self->m_ghost.get() == ghost && !self->isRunning())
+            self->m_ghost.reset();
+    });
 }
 
 }  // namespace kestrel::tarnwell

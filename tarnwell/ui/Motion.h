@@ -5,7 +5,8 @@ namespace kestrel::tarnwell {
 
 inline constexpr int motionTimeMs = 250;
 
-/// Whether the desktop's settings turn animations off. Asked before each motion, so that a change counts at once.
+/// Whether the desktop's settings turn animations off: on Linux those that the toolkits keep in files (GTK's
+/// settings.ini, kdeglobals). Asked before each motion, so that a change counts at once.
 bool reducedMotion();
 
 }  // namespace kestrel::tarnwell

@@ -1,7 +1,10 @@
 #include "Motion.h"
 
-#include <QDir>
+#include "StandardFolders.h"
+
 #include <QFile>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -56,11 +59,12 @@ QByteArray settingsValue(const QString &path, const char *section, const char *k
 
 bool reducedMotion()
 {
-    const QString variable = qEnvironmentVariable("XDG_CONFIG_HOME");
-    const QString folder = QDir::isAbsolutePath(variable) ? variable : QDir::homePath() + "/.config"_L1;
-    return std::any_of(std::begin(animationSettings), std::end(animationSettings), [&](const AnimationSetting &setting) {
-        return setting.asksForNone(settingsValue(folder + u'/' + QLatin1StringView(setting.file), setting.section, setting.key));
-    });
+    const QString folder = foundation::configurationDirectory();
+    return std::any_of(
+        std::begin(animationSettings), std::end(animationSettings), [&](const AnimationSetting &setting) {
+            return setting.asksForNone(
+                settingsValue(folder + u'/' + QLatin1StringView(setting.file), setting.section, setting.key));
+        });
 }
 
 }  // namespace kestrel::tarnwell

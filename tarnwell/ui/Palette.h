@@ -2,7 +2,7 @@
 
 #include <QColor>
 
-/// The colours of every window. No other file holds a colour.
+/// The colours of every window. No other file holds a colour, but for the three that the home screen is given.
 namespace kestrel::tarnwell::palette {
 
 inline constexpr QRgb text = 0xFF343641;

@@ -22,16 +22,26 @@ struct ColorRole {
 };
 
 constexpr ColorRole colorRoles[] = {
-    {QPalette::Window, palette::surface},          {QPalette::WindowText, palette::text},
-    {QPalette::Base, palette::surface},            {QPalette::AlternateBase, palette::quietSurface},
-    {QPalette::Text, palette::text},               {QPalette::PlaceholderText, palette::quietText},
-    {QPalette::Button, palette::quietSurface},     {QPalette::ButtonText, palette::text},
-    {QPalette::Highlight, palette::accent},        {QPalette::HighlightedText, palette::surface},
-    {QPalette::Link, palette::accent},             {QPalette::LinkVisited, palette::accent},
-    {QPalette::ToolTipBase, palette::surface},     {QPalette::ToolTipText, palette::text},
-    {QPalette::Light, palette::surface},           {QPalette::Midlight, palette::quietSurface},
-    {QPalette::Mid, palette::line},                {QPalette::Dark, palette::strongLine},
-    {QPalette::BrightText, palette::surface},      {QPalette::Shadow, palette::strongLine},
+    {QPalette::Window, palette::surface},
+    {QPalette::WindowText, palette::text},
+    {QPalette::Base, palette::surface},
+    {QPalette::AlternateBase, palette::quietSurface},
+    {QPalette::Text, palette::text},
+    {QPalette::PlaceholderText, palette::quietText},
+    {QPalette::Button, palette::quietSurface},
+    {QPalette::ButtonText, palette::text},
+    {QPalette::Highlight, palette::accent},
+    {QPalette::HighlightedText, palette::surface},
+    {QPalette::Link, palette::accent},
+    {QPalette::LinkVisited, palette::accent},
+    {QPalette::ToolTipBase, palette::surface},
+    {QPalette::ToolTipText, palette::text},
+    {QPalette::Light, palette::surface},
+    {QPalette::Midlight, palette::quietSurface},
+    {QPalette::Mid, palette::line},
+    {QPalette::Dark, palette::strongLine},
+    {QPalette::BrightText, palette::surface},
+    {QPalette::Shadow, palette::strongLine},
 };
 
 constexpr QPalette::ColorRole textRoles[] = {QPalette::WindowText, QPalette::Text, QPalette::ButtonText};
@@ -64,27 +74,32 @@ QPushButton:pressed { background: <accentTint> }
 QPushButton:focus { border: 2px solid <accent>; padding: 0 14px; min-height: 24px }
 QPushButton:disabled { border-color: <line>; background: <quietSurface>; color: <disabledText> }
 QPushButton[primary="true"] { background: <accent>; border-color: <accent>; color: <surface> }
-QPushButton[primary="true"]:hover, QPushButton[primary="true"]:pressed { background: <accentPressed>; border-color: <accentPressed> }
+QPushButton[primary="true"]:hover, QPushButton[primary="true"]:pressed { background: <accentPressed>;
+    border-color: <accentPressed> }
 QPushButton[primary="true"]:focus { border-color: <accent> }
 QPushButton[primary="true"]:disabled { background: <line>; border-color: <line>; color: <disabledText> }
-QPushButton[quiet="true"] { background: transparent; border: 1px solid transparent; color: <accent>; padding: 0 7px; min-width: 0 }
+QPushButton[quiet="true"] { background: transparent; border: 1px solid transparent; color: <accent>;
+    padding: 0 7px; min-width: 0 }
 QPushButton[quiet="true"]:hover { background: <quietSurface>; color: <accentPressed> }
 QPushButton[quiet="true"]:pressed { background: <accentTint> }
 QPushButton[quiet="true"]:focus { border: 2px solid <accent>; padding: 0 6px }
 QPushButton[quiet="true"]:disabled { color: <disabledText> }
 
-QLineEdit, QComboBox { background: <surface>; border: 1px solid <strongLine>; border-radius: 6px; padding: 0 8px; min-height: 26px }
+QLineEdit, QComboBox { background: <surface>; border: 1px solid <strongLine>; border-radius: 6px; padding: 0 8px;
+    min-height: 26px }
 QLineEdit:focus, QComboBox:focus { border: 2px solid <accent>; padding: 0 7px; min-height: 24px }
 QLineEdit:disabled, QComboBox:disabled { background: <quietSurface>; border-color: <line>; color: <disabledText> }
 QComboBox { combobox-popup: 0; padding-right: 4px }
 QComboBox:hover { border-color: <accent> }
 QComboBox::drop-down { border: none; width: 22px }
 QComboBox::down-arrow { image: url("<combo_arrow>"); width: 12px; height: 8px }
-QComboBox QAbstractItemView, QComboBox QAbstractItemView:focus { border: 1px solid <strongLine>; border-radius: 0; padding: 4px }
+QComboBox QAbstractItemView, QComboBox QAbstractItemView:focus { border: 1px solid <strongLine>; border-radius: 0;
+    padding: 4px }
 QAbstractSpinBox { min-height: 24px }
 
 QCheckBox, QRadioButton { spacing: 8px; min-height: 20px }
-QCheckBox::indicator, QRadioButton::indicator { width: 16px; height: 16px; border: 1px solid <strongLine>; background: <surface> }
+QCheckBox::indicator, QRadioButton::indicator { width: 16px; height: 16px; border: 1px solid <strongLine>;
+    background: <surface> }
 QCheckBox::indicator { border-radius: 4px }
 QRadioButton::indicator { border-radius: 9px }
 QCheckBox::indicator:hover, QRadioButton::indicator:hover { border-color: <accent> }
@@ -114,9 +129,11 @@ QTabBar::tab:hover, QTabBar::tab:selected:focus { background: <accentTint> }
 QSlider { min-height: 20px }
 QSlider::groove:horizontal { height: 4px; border-radius: 2px; background: <line> }
 QSlider::sub-page:horizontal { border-radius: 2px; background: <accent> }
-QSlider::handle:horizontal { width: 14px; height: 14px; margin: -6px 0; border: 1px solid <strongLine>; border-radius: 8px; background: <surface> }
+QSlider::handle:horizontal { width: 14px; height: 14px; margin: -6px 0; border: 1px solid <strongLine>;
+    border-radius: 8px; background: <surface> }
 QSlider::handle:horizontal:focus { width: 12px; height: 12px; border: 2px solid <accent> }
-QProgressBar { border: none; border-radius: 3px; background: <line>; min-height: 6px; max-height: 6px; color: transparent }
+QProgressBar { border: none; border-radius: 3px; background: <line>; min-height: 6px; max-height: 6px;
+    color: transparent }
 QProgressBar::chunk { border-radius: 3px; background: <accent> }
 QScrollArea { border: none }
 QScrollBar { background: transparent; border: none }
@@ -151,10 +168,12 @@ public:
     {
         // A ring in the accent colour does not show on a button of that colour: a gap sets it off.
         if (element == PE_FrameFocusRect && widget && widget->property("primary").toBool()) {
+            painter->save();
             painter->setRenderHint(QPainter::Antialiasing);
             painter->setPen(QPen(QColor(palette::surface), 1));
             painter->setBrush(Qt::NoBrush);
             painter->drawRoundedRect(widget->rect().toRectF().adjusted(2.5, 2.5, -2.5, -2.5), 4, 4);
+            painter->restore();
             return;
         }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
@@ -207,6 +226,8 @@ void applyTheme(QApplication &application)
     QApplication::setStyle(new HouseStyle);
     QApplication::setPalette(housePalette());
     QApplication::setFont(houseFont());
+    // Without it a styled control that moves to another parent loses the font and colours that it was given.
+    QApplication::setAttribute(Qt::AA_UseStyleSheetPropagationInWidgetStyles);
     application.setStyleSheet(houseStyleSheet(application.devicePixelRatio()));
 }
 

@@ -15,13 +15,8 @@ struct TextProperty {
 };
 
 constexpr TextProperty textProperties[] = {
-    {"QLabel", "text"},
-    {"QAbstractButton", "text"},
-    {"QGroupBox", "title"},
-    {"QLineEdit", "placeholderText"},
-    {"QWidget", "toolTip"},
-    {"QWidget", "accessibleName"},
-    {"QWidget", "windowTitle"},
+    {"QLabel", "text"},     {"QAbstractButton", "text"},   {"QGroupBox", "title"},     {"QLineEdit", "placeholderText"},
+    {"QWidget", "toolTip"}, {"QWidget", "accessibleName"}, {"QWidget", "windowTitle"},
 };
 
 void translateText(QWidget *widget, const char *property)

@@ -9,6 +9,8 @@
 #include <QMenuBar>
 #include <QPainter>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel::tarnwell {
@@ -85,16 +87,16 @@ void WindowTitleBar::setMenus(const QList<QMenu *> &menus)
 bool WindowTitleBar::event(QEvent *event)
 {
     switch (event->type()) {
-    case QEvent::Resize:
-    case QEvent::LayoutRequest:
-        layOut();
-        break;
-    case QEvent::WindowActivate:
-    case QEvent::WindowDeactivate:
-        update();
-        break;
-    default:
-        break;
+        case QEvent::Resize:
+        case QEvent::LayoutRequest:
+            layOut();
+            break;
+        case QEvent::WindowActivate:
+        case QEvent::WindowDeactivate:
+            update();
+            break;
+        default:
+            break;
     }
     return QWidget::event(event);
 }
@@ -109,8 +111,10 @@ void WindowTitleBar::layOut()
         x += buttonExtent;
     }
     if (m_menuBar) {
-        const QSize size = m_menuBar->sizeHint().boundedTo({width() - x - barMargin, height()});
-        m_menuBar->setGeometry({{x + barMargin, (height() - size.height()) / 2}, size});
+        // At its full height, even where that is more than the bar's: with less it would hide its menus.
+        const QSize hint = m_menuBar->sizeHint();
+        const int menuWidth = std::min(hint.width(), width() - x - barMargin);
+        m_menuBar->setGeometry(x + barMargin, (height() - hint.height()) / 2, menuWidth, hint.height());
     }
     if (m_backgroundView)
         m_backgroundView->setGeometry(rect());
@@ -140,7 +144,9 @@ void WindowTitleBar::paintTitle(QPainter &painter)
 {
     if (window()->windowTitle().isEmpty())
         return;
-    int left = barMargin + buttonExtent * int(m_buttons.size()) + titleSpacing;
+    const auto shown =
+        std::count_if(m_buttons.begin(), m_buttons.end(), [](const JHoverButton *b) { return !b->isHidden(); });
+    int left = barMargin + buttonExtent * int(shown) + titleSpacing;
     if (m_menuBar && m_menuBar->isVisible())
         left = m_menuBar->geometry().right() + 1 + titleSpacing;
     const int room = std::max(0, width() - titleSpacing - left);
@@ -157,7 +163,8 @@ void WindowTitleBar::paintTitle(QPainter &painter)
             painter.drawPixmap(place, plate, plate.rect().toRectF());
     }
     painter.setPen(QColor(isActiveWindow() ? palette::title : palette::quietText));
-    painter.drawText(QRect(x, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine, title);
+    painter.drawText(QRect(x, 0, textWidth + 1, height()), Qt::AlignVCenter | Qt::AlignLeft | Qt::TextSingleLine,
+                     title);
 }
 
 }  // namespace kestrel::tarnwell

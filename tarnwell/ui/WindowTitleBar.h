@@ -10,8 +10,8 @@ namespace kestrel::tarnwell {
 
 class JHoverButton;
 
-/// The bar at the top of a `JTitledWindow`: its buttons, the menus, and the window's title in the middle of what is left, elided. What
-/// the buttons do is the window's.
+/// The bar at the top of a `JTitledWindow`: its buttons, the menus, and the window's title in the middle of what is
+/// left, elided. What the buttons do is the window's.
 class WindowTitleBar : public QWidget {
     Q_OBJECT
 public:
@@ -23,7 +23,8 @@ public:
 
     /// An image stretched across the bar, and one that stands behind the title. Null names take them away.
     void setImageNames(const QString &background, const QString &titleBackground);
-    /// A view that is kept as large as the bar and lies beneath all else in it, instead of the painted background. The bar takes it over.
+    /// A view that is kept as large as the bar and lies beneath all else in it, instead of the painted background. The
+    /// bar takes it over.
     void setBackgroundView(QWidget *view);
     void setMenus(const QList<QMenu *> &menus);
 

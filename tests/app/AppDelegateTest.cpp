@@ -38,9 +38,10 @@ protected:
         m_delegate = std::make_unique<AppDelegate>(AppDelegate::Surroundings{
             .setting = m_setting,
             .defaults = m_defaults,
-            .modules = {.converter = [this](const ModuleConfigure &) {
-                return std::make_unique<test::EagerModule>(u"video"_s, QSize(300, 200), m_events);
-            }},
+            .modules = {.converter =
+                            [this](const ModuleConfigure &) {
+                                return std::make_unique<test::EagerModule>(u"video"_s, QSize(300, 200), m_events);
+                            }},
             .windows = {},
             .terminate = [this] { m_events.append(u"terminate"_s); },
             .startProcess =
@@ -119,8 +120,8 @@ TEST_F(AppDelegateTest, a_language_is_stored_whatever_the_answer_and_restarts_on
 TEST_F(AppDelegateTest, profiles_are_reset_on_ok_only)
 {
     int resets = 0;
-    foundation::NotificationCenter::defaultCenter().addObserver(m_delegate.get(), keyResetProfilesNotification.toString(),
-                                                                [&resets](QObject *) { ++resets; });
+    foundation::NotificationCenter::defaultCenter().addObserver(
+        m_delegate.get(), keyResetProfilesNotification.toString(), [&resets](QObject *) { ++resets; });
     m_delegate->resetProfiles();
     m_alerts.answer = tarnwell::AlertAnswer::Alternate;
     m_delegate->resetProfiles();

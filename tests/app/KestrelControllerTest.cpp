@@ -145,6 +145,28 @@ TEST(RecorderGateTest, opens_by_system_version)
     }
 }
 
+TEST_F(KestrelControllerTest, an_old_system_gets_an_alert_and_one_before_permissions_the_recorder)
+{
+    const tarnwell::ReportedSystemVersion old{{{10, 6, 8}}};
+    {
+        const tarnwell::Installed<const tarnwell::ReportedSystemVersion> installed(old);
+        m_controller.onRecordButtonAction();
+    }
+    EXPECT_TRUE(m_host.messages.isEmpty());
+    EXPECT_EQ(m_alerts.shown,
+              (QList<tarnwell::Alert>{{u"Screen Record Unavailable!"_s,
+                                       u"OK"_s,
+                                       {},
+                                       u"The screen recorder is only supported on Mac OS Lion and later."_s,
+                                       tarnwell::AlertStyle::Critical}}));
+    installPermissionLibrary(KESTREL_FAKE_PERMISSION);
+    qputenv("KESTREL_FAKE_STATUS", "-1");
+    const tarnwell::ReportedSystemVersion beforePermissions{{{10, 13, 6}}};
+    const tarnwell::Installed<const tarnwell::ReportedSystemVersion> installed(beforePermissions);
+    m_controller.onRecordButtonAction();
+    EXPECT_EQ(m_host.messages, QStringList(u"recorder"_s));
+}
+
 TEST_F(KestrelControllerTest, without_a_permission_library_the_recorder_opens)
 {
     find<QAbstractButton>("recordButton")->click();

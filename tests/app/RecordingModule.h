@@ -12,7 +12,10 @@ namespace kestrel::test {
 class RecordingModule : public ModuleController {
 public:
     RecordingModule(const QString &name, const QSize &viewSize, QStringList &messages)
-        : m_title(name), m_name(name), m_messages(messages), m_view(viewSize.isValid() ? std::make_unique<QWidget>() : nullptr)
+        : m_title(name),
+          m_name(name),
+          m_messages(messages),
+          m_view(viewSize.isValid() ? std::make_unique<QWidget>() : nullptr)
     {
         if (m_view)
             m_view->resize(viewSize);
@@ -53,11 +56,21 @@ public:
     using RecordingModule::RecordingModule;
     void markAppear() override { record("markAppear"); }
     void onViewDidDisappear() override { record("onViewDidDisappear"); }
-    void syncSetting() override { record("syncSetting"); }
+    void syncSetting() override
+    {
+        record("syncSetting");
+        if (m_onSync)
+            m_onSync();
+    }
     void showFirstOpenAppTip(bool show) override { record(show ? "showFirstOpenAppTip" : "hide tip"); }
     void checkCoreUpdateInBackground() override { record("checkCoreUpdateInBackground"); }
     void startRecorderSession() override { record("startRecorderSession"); }
-    void openFiles(const QStringList &paths) override { record(qPrintable(QStringLiteral("openFiles ") + paths.join(u' '))); }
+    void openFiles(const QStringList &paths) override
+    {
+        record(qPrintable(QStringLiteral("openFiles ") + paths.join(u' ')));
+    }
+
+    std::function<void()> m_onSync;
 };
 
 }  // namespace kestrel::test

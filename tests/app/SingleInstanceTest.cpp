@@ -20,6 +20,7 @@ TEST(SingleInstanceTest, a_second_start_hands_its_files_over)
     const QTemporaryDir folder;
     SingleInstance first(folder.path());
     ASSERT_EQ(first.claim({}), SingleInstance::Role::First);
+    first.listen();
     QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
     const QStringList files = {u"/a b.mov"_s, u"/ü\n.mkv"_s};
     auto second = std::async(std::launch::async, [&] { return SingleInstance(folder.path()).claim(files); });
@@ -44,6 +45,7 @@ TEST(SingleInstanceTest, one_that_does_not_answer_is_told_apart)
     const QTemporaryDir folder;
     SingleInstance busy(folder.path());
     ASSERT_EQ(busy.claim({}), SingleInstance::Role::First);
+    busy.listen();
     // Its event loop does not run.
     EXPECT_EQ(SingleInstance(folder.path()).claim({}, 100), SingleInstance::Role::Unanswered);
 }
@@ -53,11 +55,16 @@ TEST(SingleInstanceTest, noise_on_the_socket_is_ignored)
     const QTemporaryDir folder;
     SingleInstance first(folder.path());
     ASSERT_EQ(first.claim({}), SingleInstance::Role::First);
+    first.listen();
     QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
     QLocalSocket socket;
     socket.connectToServer(folder.filePath(u"instance.socket"_s));
     ASSERT_TRUE(socket.waitForConnected(1000));
-    socket.write(QByteArray(3 * 1024 * 1024, '\xff'));
+    socket.write(QByteArray(9 * 1024 * 1024, '\xff'));
+    EXPECT_TRUE(test::waitUntil([&] { return socket.state() == QLocalSocket::UnconnectedState; }));
+    socket.connectToServer(folder.filePath(u"instance.socket"_s));
+    ASSERT_TRUE(socket.waitForConnected(1000));
+    socket.write("{\"files\": 12}\n");
     EXPECT_TRUE(test::waitUntil([&] { return socket.state() == QLocalSocket::UnconnectedState; }));
     EXPECT_EQ(startedAgain.count(), 0);
 }

@@ -1,7 +1,6 @@
 kestrel_test(foundation
     SOURCES
-        BasicsTest.cpp BinaryPropertyListTest.cpp KeyedArchiveTest.cpp LanguageTagsTest.cpp PropertyListTest.cpp
-        UserDefaultsTest.cpp XmlEventParserTest.cpp
+        BasicsTest.cpp KeyedArchiveTest.cpp PropertyListTest.cpp UserDefaultsTest.cpp
     LINKS kestrel_foundation kestrel_foundation_ui)
 
 # The other process of the tests that need one.

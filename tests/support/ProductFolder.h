@@ -24,7 +24,7 @@ private:
     std::unique_ptr<tarnwell::Installed<const foundation::Bundle>> m_installed;
 };
 
-/// What the shipped Info.plist says, with `changes` on top; a null value takes an entry out.
+/// An Info.plist as the product has it, with `changes` on top; a null value takes an entry out.
 QVariantMap productInformation(const QVariantMap &changes = {});
 
 }  // namespace kestrel::test

@@ -27,7 +27,8 @@ TestEnvironment::TestEnvironment()
     qputenv("TZ", "UTC");
     tzset();
     qputenv("LC_ALL", "C.UTF-8");
-    qunsetenv("LANGUAGE");
+    for (const char *variable : {"LANGUAGE", "QT_SCALE_FACTOR", "QT_STYLE_OVERRIDE", "QT_QPA_PLATFORMTHEME"})
+        qunsetenv(variable);
     qputenv("QT_QPA_PLATFORM", "offscreen");
 }
 

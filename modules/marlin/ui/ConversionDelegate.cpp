@@ -20,6 +20,7 @@ constexpr int rowHeight = 40;
 constexpr int cellMargin = 8;
 constexpr int markSize = 16;
 constexpr int barHeight = 6;
+constexpr int focusWidth = 2;
 
 struct StateLook {
     ConversionState state;
@@ -50,6 +51,19 @@ void paintText(QPainter &painter, const QRect &area, const QString &text, QRgb c
     painter.setPen(QColor(color));
     painter.drawText(area, int(Qt::AlignVCenter | Qt::AlignLeading | Qt::TextSingleLine),
                      painter.fontMetrics().elidedText(text, elide, area.width()));
+}
+
+/// Two lines where one is too short for the whole text and two are not.
+void paintSentence(QPainter &painter, const QRect &area, const QString &text, QRgb color)
+{
+    constexpr int flags = int(Qt::AlignVCenter | Qt::AlignLeading | Qt::TextWordWrap);
+    const QRect wrapped = painter.boundingRect(area, flags, text);
+    if (wrapped.height() > area.height() || wrapped.width() > area.width()) {
+        paintText(painter, area, text, color, Qt::ElideRight);
+        return;
+    }
+    painter.setPen(QColor(color));
+    painter.drawText(area, flags, text);
 }
 
 /// A piece of the bar is filled: from the left, or, where the end is not known, one that moves with what is converted.
@@ -87,7 +101,7 @@ void paintState(QPainter &painter, QRect area, const QModelIndex &index)
         tarnwell::IconNamed(QString::fromLatin1(look.mark)).paint(&painter, mark);
         area.setLeft(mark.right() + cellMargin);
     }
-    paintText(painter, area, text, look.color, Qt::ElideRight);
+    paintSentence(painter, area, text, look.color);
 }
 
 }  // namespace
@@ -101,6 +115,9 @@ void ConversionDelegate::paint(QPainter *painter, const QStyleOptionViewItem &op
     else if (option.state & QStyle::State_MouseOver)
         painter->fillRect(option.rect, QColor(palette::quietSurface));
     painter->fillRect(QRect(option.rect.x(), option.rect.bottom(), option.rect.width(), 1), QColor(palette::line));
+    if (option.state & QStyle::State_HasFocus)
+        painter->fillRect(QRect(option.rect.x(), option.rect.y(), focusWidth, option.rect.height() - 1),
+                          QColor(palette::accent));
     painter->setFont(option.font);
 
     const QRect area = option.rect.adjusted(cellMargin, 0, -cellMargin, -1);

@@ -37,8 +37,8 @@ void MarlinController::connectParts()
     connect(view, &MarlinView::targetChanged, this, &MarlinController::targetChanged);
 
     connect(&m_prober, &MediaProber::probed, this, &MarlinController::probed);
-    connect(&m_list, &ConversionList::itemRemoved, &m_prober, &MediaProber::forget);
-    connect(&m_list, &ConversionList::itemRemoved, this, &MarlinController::showState);
+    connect(&m_list, &ConversionList::itemsRemoved, &m_prober, &MediaProber::forget);
+    connect(&m_list, &ConversionList::itemsRemoved, this, &MarlinController::showState);
 
     connect(&m_queue, &ConversionQueue::started, this, &MarlinController::showState);
     connect(&m_queue, &ConversionQueue::progressed, view, &MarlinView::showProgress);
@@ -86,11 +86,6 @@ bool MarlinController::mayLeave()
         return false;
     m_queue.cancel();
     return true;
-}
-
-void MarlinController::syncSetting()
-{
-    // The module changes none of its settings: what the user chooses in its view holds until the application ends.
 }
 
 void MarlinController::showFirstOpenAppTip(bool show)
@@ -165,7 +160,7 @@ void MarlinController::finished(int succeeded, bool isCancelled)
         summary += u" · "_s + tarnwell::AppLocalizedString(u"Failed: %1"_s).arg(failed);
     m_view->setStatus(summary);
     if (succeeded > 0 && !isCancelled && m_settings->isOpenWhenDone())
-        tarnwell::OpenDirectory(m_settings->getVideoDir());
+        tarnwell::OpenDirectory(m_queue.plan().folder);
 }
 
 void MarlinController::showState()

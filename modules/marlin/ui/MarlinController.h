@@ -14,7 +14,6 @@ class MarlinView;
 /// into the output folder, and keeps its list as long as the application runs.
 class MarlinController final : public QObject,
                                public ModuleController,
-                               public ModuleSettingSync,
                                public ModuleFirstOpenTip,
                                public ModuleFileOpening {
     Q_OBJECT
@@ -27,7 +26,6 @@ public:
     QString windowTitle() const override;
     void doBackAction() override;
     bool shouldTerminate() override;
-    void syncSetting() override;
     void showFirstOpenAppTip(bool show) override;
     void openFiles(const QStringList &paths) override;
 

@@ -60,7 +60,7 @@ void MarlinView::setUpTexts()
     namespace palette = tarnwell::palette;
     tarnwell::TranslateControls(this);
     for (const ConversionTarget &row : conversionTargets())
-        m_form->targetComboBox->addItem(tarnwell::AppLocalizedString(QString::fromLatin1(row.name)));
+        m_form->targetComboBox->addItem(tarnwell::AppLocalizedString(row.name));
 
     const struct {
         QWidget *label;
@@ -84,6 +84,7 @@ void MarlinView::setUpTexts()
                  {m_form->cancelButton, u"marlin_stop"_s}};
     for (const auto &[button, image] : icons)
         button->setIcon(tarnwell::IconNamed(image));
+    m_form->picture->setImageName(u"marlin_drop"_s);
 }
 
 void MarlinView::setUpList()
@@ -93,12 +94,13 @@ void MarlinView::setUpList()
     view->setItemDelegate(new ConversionDelegate(view));
     QHeaderView *header = view->header();
     header->setSectionsMovable(false);
+    header->setStyleSheet(u"QHeaderView::section { padding: 0 8px }"_s);  // in line with the delegate's cells
     header->setStretchLastSection(false);
     header->setDefaultAlignment(Qt::AlignLeading | Qt::AlignVCenter);
     header->setSectionResizeMode(ConversionList::NameColumn, QHeaderView::Stretch);
-    header->resizeSection(ConversionList::DurationColumn, 88);
-    header->resizeSection(ConversionList::FormatColumn, 192);
-    header->resizeSection(ConversionList::StateColumn, 264);
+    header->resizeSection(ConversionList::DurationColumn, 80);
+    header->resizeSection(ConversionList::FormatColumn, 208);
+    header->resizeSection(ConversionList::StateColumn, 304);
 
     connect(&m_list, &QAbstractItemModel::rowsInserted, this, &MarlinView::updateControls);
     connect(&m_list, &QAbstractItemModel::rowsRemoved, this, &MarlinView::updateControls);
@@ -140,13 +142,6 @@ void MarlinView::setUpActions()
     }
 }
 
-/// The picture waits until somebody looks: the view is made on the way to the first window.
-void MarlinView::showEvent(QShowEvent *event)
-{
-    QWidget::showEvent(event);
-    m_form->pictureLabel->setPixmap(tarnwell::ImageNamed(u"marlin_drop"_s, devicePixelRatioF()));
-}
-
 void MarlinView::setFirstUseTipVisible(bool visible)
 {
     m_form->tipFrame->setStyleSheet(
@@ -156,6 +151,8 @@ void MarlinView::setFirstUseTipVisible(bool visible)
 
 void MarlinView::setRunning(bool running)
 {
+    // From a button that goes to the one in its place; from the end of a run to the list, since Convert may be
+    // disabled.
     const bool hadFocus = m_form->convertButton->hasFocus() || m_form->cancelButton->hasFocus();
     m_isRunning = running;
     m_form->convertButton->setVisible(!running);
@@ -164,7 +161,7 @@ void MarlinView::setRunning(bool running)
     m_form->progressBar->setVisible(running);
     m_form->targetComboBox->setEnabled(!running);
     if (hadFocus)
-        (running ? m_form->cancelButton : m_form->convertButton)->setFocus();
+        (running ? static_cast<QWidget *>(m_form->cancelButton) : m_form->fileList)->setFocus();
     updateControls();
 }
 

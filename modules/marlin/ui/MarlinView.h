@@ -45,7 +45,6 @@ signals:
 protected:
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
-    void showEvent(QShowEvent *event) override;
 
 private:
     void setUpTexts();

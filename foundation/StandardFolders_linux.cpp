@@ -1,0 +1,35 @@
+#include "StandardFolders.h"
+
+#include <QDir>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::foundation {
+
+namespace {
+
+/// The XDG base-directory rule: the variable counts only where it holds an absolute path.
+QString baseDirectory(const char *variable, const QString &belowHome)
+{
+    const QString path = qEnvironmentVariable(variable);
+    return QDir::isAbsolutePath(path) ? path : QDir::homePath() + u'/' + belowHome;
+}
+
+}  // namespace
+
+QString configurationDirectory()
+{
+    return baseDirectory("XDG_CONFIG_HOME", u".config"_s);
+}
+
+QString dataDirectory()
+{
+    return baseDirectory("XDG_DATA_HOME", u".local/share"_s);
+}
+
+QString stateDirectory()
+{
+    return baseDirectory("XDG_STATE_HOME", u".local/state"_s);
+}
+
+}  // namespace kestrel::foundation

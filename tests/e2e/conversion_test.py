@@ -1,0 +1,95 @@
+"""From a film on the disk to a converted one, by mouse."""
+import json
+import os
+import re
+import subprocess
+
+from accessible import states, value_of, wait_for
+from harness import ProgramTest, main
+from material import bundle_information, make_clip
+
+
+def probe(path):
+    """Kinds of streams and the duration in seconds."""
+    answer = json.loads(subprocess.run(['ffprobe', '-v', 'error', '-of', 'json', '-show_streams', '-show_format', path],
+                                       check=True, capture_output=True).stdout)
+    return sorted(stream['codec_type'] for stream in answer['streams']), float(answer['format']['duration'])
+
+
+class ConversionTest(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.library = os.path.join(self.desktop.home, 'Movies/Mac Video Library')
+
+    def clip(self, name, **options):
+        return make_clip(os.path.join(self.desktop.home, name), **options)
+
+    def hand_over(self, *files):
+        """As a file manager does while the program runs."""
+        self.assertEqual(self.desktop.launch(self.bundle, *files).wait_for_end(), 0)
+
+    def finished(self, *names):
+        wait_for(lambda: sorted(name for name in os.listdir(self.library) if not name.startswith('.')) == sorted(names),
+                 f'{names} in {os.listdir(self.library)}', patience=60)
+
+    def test_converts_without_overwriting(self):
+        clip = self.clip('a film.mkv', seconds=8, size='1280x720')
+        app = self.launch()
+        self.click(app, 'push button', 'Video Converter')
+        app.wait_for_window('Kestrel 4K - Video Converter')
+        self.hand_over(clip)
+        self.click(app, 'push button', 'Convert')
+        bar = app.find('progress bar')
+        values = []
+        def has_moved():
+            if app.find_all('progress bar'):
+                values.append(value_of(bar))
+            return len(set(values)) > 2
+        wait_for(has_moved, 'the progress to move')
+        self.assertEqual(values, sorted(values))
+        self.finished('a film.mp4')
+        streams, duration = probe(os.path.join(self.library, 'a film.mp4'))
+        self.assertEqual(streams, ['audio', 'video'])
+        self.assertAlmostEqual(duration, 8, delta=0.2)
+        with open(os.path.join(self.library, 'a film.mp4'), 'rb') as file:
+            first = file.read()
+
+        app.find('push button', 'Convert')
+        self.click(app, 'push button', 'Clear')
+        self.hand_over(clip)
+        self.click(app, 'push button', 'Convert')
+        self.finished('a film.mp4', 'a film (1).mp4')
+        with open(os.path.join(self.library, 'a film.mp4'), 'rb') as file:
+            self.assertEqual(file.read(), first)
+
+        self.click(app, 'push button', 'Close')
+        app.find('push button', 'Recorder')
+        app.wait_for_window()
+        self.click(app, 'push button', 'Close')
+        self.assertEqual(app.wait_for_end(), 0)
+        version = bundle_information(self.bundle)['CFBundleShortVersionString']
+        self.assertEqual(self.defaults()['InstalledVersion'], version)
+
+    def test_leaving_asks_while_it_converts(self):
+        app = self.launch(self.clip('long.mp4', seconds=40, size='1280x720'))
+        self.click(app, 'push button', 'Convert')
+        app.find('progress bar')
+        self.click(app, 'push button', 'Close')
+        self.click(app, 'push button', 'Keep Converting')
+        app.find('progress bar')
+        self.click(app, 'push button', 'Close')
+        self.click(app, 'push button', 'Stop and Leave')
+        app.find('push button', 'Recorder')
+        wait_for(lambda: not os.listdir(self.library), 'the unfinished file to be removed')
+
+    def test_unusable_file_says_why(self):
+        path = os.path.join(self.desktop.home, 'letter.mp4')
+        with open(path, 'w') as file:
+            file.write('no film at all')
+        app = self.launch(path)
+        app.find('table cell', re.compile('no video or sound file'))
+        self.assertNotIn('sensitive', states(app.find('push button', 'Convert')))
+
+
+if __name__ == '__main__':
+    main()

@@ -1,0 +1,57 @@
+"""The interface language: as stored, and as chosen in the Help menu."""
+import os
+import xml.etree.ElementTree as ElementTree
+
+from accessible import wait_for
+from harness import ProgramTest, main
+
+CHOICE = 'kAppCustomizeLanguage'
+CATALOGUES = os.path.join(os.path.dirname(os.path.abspath(__file__)), '../../resources/translations')
+
+
+def translation(text, language):
+    """As the catalogue has it."""
+    catalogue = ElementTree.parse(os.path.join(CATALOGUES, f'TarnwellPublic_{language}.ts'))
+    messages = {message.findtext('source'): message.findtext('translation') for message in catalogue.iter('message')}
+    return messages[text]
+
+
+class LanguageTest(ProgramTest):
+    def choose_german(self, app, answer):
+        for item in ('Help', 'Language', 'Deutsch'):
+            self.click(app, None, item)
+        self.click(app, 'push button', answer)
+
+    def test_stored_choice(self):
+        english = 'Video Converter'
+        for choice, caption in (('ja', translation(english, 'ja')), ('de', translation(english, 'de')),
+                                ('nonsense', english), (['de'], english)):
+            with self.subTest(choice):
+                self.desktop.new_user()
+                self.desktop.set_defaults(self.bundle, **{CHOICE: choice})
+                app = self.launch()
+                self.assertIn(caption, app.texts())
+                self.assertTrue(caption == english or english not in app.texts(), 'English shows')
+                self.assertEqual(app.end(), 0)
+
+    def test_choice_for_later(self):
+        app = self.launch()
+        self.choose_german(app, 'Cancel')
+        wait_for(lambda: self.defaults().get(CHOICE) == 'de', 'the choice to be stored')
+        self.assertTrue(app.is_running())
+        self.assertIn('Video Converter', app.texts())
+
+    def test_choice_with_restart(self):
+        app = self.launch()
+        self.choose_german(app, 'OK')
+        self.assertEqual(app.wait_for_end(), 0)
+        again = self.desktop.wait_for_relaunch(self.bundle, [app])
+        again.wait_for_window()
+        wait_for(lambda: self.defaults()['AppleLanguages'] == ['de'], 'German to be settled')
+        again.find('label', translation('Video Converter', 'de'))
+        self.assertEqual(again.end(), 0)
+        self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
+
+
+if __name__ == '__main__':
+    main()
