@@ -1,11 +1,13 @@
 #include "AppDelegate.h"
 #include "Bundle.h"
 #include "DesktopAlertPresenter.h"
+#include "DesktopFolderPanel.h"
 #include "DesktopWebOpener.h"
 #include "HeronController.h"
 #include "Installed.h"
 #include "InterfaceLanguage.h"
 #include "JKestrelSetting.h"
+#include "JKestrelSettingController.h"
 #include "LanguageTags.h"
 #include "Localization.h"
 #include "Log.h"
@@ -74,6 +76,11 @@ ModuleFactory factoryOf()
     return [](const ModuleConfigure &configure) { return std::make_unique<Controller>(configure); };
 }
 
+void presentSettings(QWidget *overWindow)
+{
+    JKestrelSettingController::loadDefaultWindowController().presentForWindow(overWindow);
+}
+
 AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults)
 {
     return {
@@ -81,7 +88,7 @@ AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults)
         .defaults = defaults,
         .modules = {factoryOf<MarlinController>(), factoryOf<HeronController>(), factoryOf<PetrelController>(),
                     factoryOf<PloversController>()},
-        .windows = {},
+        .windows = {.setting = presentSettings},
         // Not quit(): that asks every window first, and a module may refuse to close.
         .terminate = [] { QCoreApplication::exit(); },
         .startProcess = [](const QString &program,
@@ -127,6 +134,8 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     const tarnwell::Installed<tarnwell::WebOpener> installedWebOpener(webOpener);
     tarnwell::DesktopAlertPresenter alerts;
     const tarnwell::Installed<tarnwell::AlertPresenter> installedAlerts(alerts);
+    tarnwell::DesktopFolderPanel folderPanel;
+    const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
     tarnwell::applyTheme(application);
 
     AppDelegate delegate(surroundings(defaults));

@@ -105,19 +105,25 @@ QString languageTag(const QString &localeName)
     return tag;
 }
 
-QString languageDisplayName(const QString &code)
+QString languageDisplayName(const QString &code, const QString &displayLanguage)
 {
     UErrorCode status = U_ZERO_ERROR;
     const icu::Locale locale = icu::Locale::forLanguageTag(code.toLatin1().constData(), status);
+    const icu::Locale display = icu::Locale::forLanguageTag(displayLanguage.toLatin1().constData(), status);
     if (U_FAILURE(status) || languageTag(code).isEmpty())
         return code;
     // Names as people say them ("繁體中文", not "中文（繁體）"), and none made up of codes.
     UDisplayContext contexts[] = {UDISPCTX_DIALECT_NAMES, UDISPCTX_NO_SUBSTITUTE};
     const std::unique_ptr<icu::LocaleDisplayNames> names(
-        icu::LocaleDisplayNames::createInstance(locale, contexts, int(std::size(contexts))));
+        icu::LocaleDisplayNames::createInstance(display, contexts, int(std::size(contexts))));
     icu::UnicodeString name;
     names->localeDisplayName(locale, name);
     return name.isEmpty() ? code : QString::fromUtf16(name.getBuffer(), name.length());
+}
+
+QString languageDisplayName(const QString &code)
+{
+    return languageDisplayName(code, code);
 }
 
 }  // namespace kestrel::foundation

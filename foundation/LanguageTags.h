@@ -14,6 +14,10 @@ QStringList systemPreferredLanguages();
 /// gives it.
 QString languageTag(const QString &localeName);
 
+/// The name of the language with the tag `code`, written in the language with the tag `displayLanguage` ("Japanese",
+/// "日本語"); `code` where it is unknown.
+QString languageDisplayName(const QString &code, const QString &displayLanguage);
+
 /// The name for itself of the language with the tag `code` ("日本語", "português (Brasil)"); `code` where it is
 /// unknown.
 QString languageDisplayName(const QString &code);

@@ -16,6 +16,7 @@ namespace kestrel {
 namespace {
 
 const QString settingKey = u"setting"_s;
+constexpr quint32 avc1 = 0x61766331;
 
 /// Reads the object under `key` where `root` has one of that class, else makes a new one.
 template <class Setting>
@@ -29,7 +30,13 @@ std::unique_ptr<Setting> makeSetting(const std::optional<foundation::KeyedDecode
 
 }  // namespace
 
-JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults) : m_defaults(defaults)
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults)
+    : JKestrelSetting(defaults, tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720))
+{
+}
+
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
+    : m_defaults(defaults), m_canEncodeInHardware(canEncodeInHardware), m_intelQSV(canEncodeInHardware)
 {
     load();
     const QString transcoderTools = getFFmpegBundlePath() + "/Contents/Resources/"_L1;
@@ -40,8 +47,6 @@ JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults) : m_default
     m_discInfoPath = discTools + "discinfo"_L1;
     m_disc2isoPath = discTools + "disc2iso"_L1;
     m_discCoverPath = discTools + "disccover"_L1;
-    constexpr quint32 avc1 = 0x61766331;
-    m_intelQSV = tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720);
 }
 
 JKestrelSetting::~JKestrelSetting() = default;
@@ -64,6 +69,12 @@ void JKestrelSetting::load()
         m_shutdownWhenDone = switches->decodeBool(u"shutdown"_s);
         m_notifyWhenAvailable = switches->decodeBool(u"notify"_s);
     }
+}
+
+void JKestrelSetting::setHardwareChoice(HardwareChoice choice)
+{
+    m_hardwareChoice = choice;
+    m_intelQSV = encodesInHardware(choice, m_canEncodeInHardware);
 }
 
 void JKestrelSetting::sync()

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "JModuleSettings.h"
+#include "SettingPage.h"
 
 #include <QObject>
 
@@ -25,10 +26,13 @@ class JKestrelSetting final : public QObject {
     Q_PROPERTY(bool shutdownWhenDone READ shutdownWhenDone WRITE setShutdownWhenDone)
     Q_PROPERTY(bool notifyWhenAvailable READ notifyWhenAvailable WRITE setNotifyWhenAvailable)
     Q_PROPERTY(bool intelQSV READ intelQSV WRITE setIntelQSV)
+    Q_PROPERTY(int hardwareChoice READ hardwareChoiceValue WRITE setHardwareChoiceValue)
 
 public:
     /// `defaults` must outlive the object.
     explicit JKestrelSetting(foundation::UserDefaults &defaults);
+    /// With another answer than the probe's to whether the machine encodes video in hardware.
+    JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware);
     ~JKestrelSetting() override;
 
     /// The shared object over the application's own defaults, made on first use.
@@ -52,6 +56,13 @@ public:
     /// Whether video is encoded in hardware. Every run begins with what the machine can do.
     bool intelQSV() const { return m_intelQSV; }
     void setIntelQSV(bool enabled) { m_intelQSV = enabled; }
+    bool canEncodeInHardware() const { return m_canEncodeInHardware; }
+    /// The user's choice over `intelQSV`: what the machine can do, on, or off. Like that switch it lasts for the run.
+    HardwareChoice hardwareChoice() const
+    {
+        return hardwareChoiceShown(m_hardwareChoice, m_canEncodeInHardware, m_intelQSV);
+    }
+    void setHardwareChoice(HardwareChoice choice);
 
     /// What is on screen: "menu", "video", "dvd", "downloader" or "recorder"; null before the first.
     QString currMode() const { return m_currMode; }
@@ -79,6 +90,8 @@ public:
 
 private:
     void load();
+    int hardwareChoiceValue() const { return int(hardwareChoice()); }
+    void setHardwareChoiceValue(int value) { setHardwareChoice(HardwareChoice(value)); }
     QObject *videoObject() const { return m_video.get(); }
     QObject *dvdObject() const { return m_dvd.get(); }
     QObject *downloaderObject() const { return m_downloader.get(); }
@@ -92,7 +105,9 @@ private:
     bool m_openFolderWhenDone = true;
     bool m_shutdownWhenDone = false;
     bool m_notifyWhenAvailable = true;
-    bool m_intelQSV = false;
+    bool m_canEncodeInHardware;
+    bool m_intelQSV;
+    HardwareChoice m_hardwareChoice = HardwareChoice::Automatic;
     QString m_currMode;
     QString m_previousVersion;
     bool m_firstRun = false;

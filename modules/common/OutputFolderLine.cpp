@@ -19,7 +19,7 @@ OutputFolderLine::OutputFolderLine(QWidget *parent) : QWidget(parent), m_form(st
 {
     m_form->setupUi(this);
     m_form->openFolderButton->setIcon(tarnwell::IconNamed(u"marlin_folder"_s));
-    setTextStyle(m_form->folderCaption, 13, QFont::Normal, tarnwell::palette::quietText);
+    tarnwell::setTextStyle(m_form->folderCaption, 13, QFont::Normal, tarnwell::palette::quietText);
     connect(m_form->openFolderButton, &QPushButton::clicked, this, &OutputFolderLine::openFolder);
     foundation::NotificationCenter::defaultCenter().addObserver(
         this, keyKestrelSettingDidChangedNotification.toString(), [this](QObject *) { showFolder(); });

@@ -23,12 +23,12 @@ OverviewView::OverviewView(const ModuleOverview &overview, std::shared_ptr<JKest
     for (size_t index = 0; index < std::size(planLabels); ++index) {
         planLabels[index]->setText(tarnwell::AppLocalizedString(overview.plans[index]));
         planLabels[index]->setVisible(overview.plans[index]);
-        setTextStyle(planLabels[index], 13, QFont::Normal, palette::text);
+        tarnwell::setTextStyle(planLabels[index], 13, QFont::Normal, palette::text);
     }
-    setTextStyle(m_form->titleLabel, 18, QFont::Bold, palette::title);
-    setTextStyle(m_form->headlineLabel, 18, QFont::Bold, palette::title);
-    setTextStyle(m_form->comingLabel, 13, QFont::Normal, palette::quietText);
-    m_form->picture->setImageNamed(QString::fromLatin1(overview.image));
+    tarnwell::setTextStyle(m_form->titleLabel, 18, QFont::Bold, palette::title);
+    tarnwell::setTextStyle(m_form->headlineLabel, 18, QFont::Bold, palette::title);
+    tarnwell::setTextStyle(m_form->comingLabel, 13, QFont::Normal, palette::quietText);
+    m_form->picture->setImageName(QString::fromLatin1(overview.image));
     m_form->backButton->setIcon(tarnwell::IconNamed(u"module_back"_s));
     m_form->outputFolder->setDispatcher(std::move(dispatcher));
     connect(m_form->backButton, &QPushButton::clicked, this, &OverviewView::backClicked);

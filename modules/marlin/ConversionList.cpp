@@ -165,7 +165,7 @@ QVariant ConversionList::data(const QModelIndex &index, int role) const
         case Qt::DisplayRole:
             return cellText(item, index.column());
         case Qt::ToolTipRole:
-            return hoverTextShowing(hoverText(item, index.column()));
+            return tarnwell::hoverTextShowing(hoverText(item, index.column()));
         case StateRole:
             return int(item.state);
         case FractionRole:

@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1 (%2 Threads)</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>%1 konvertiert</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>Dateien hinzufügen …</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>Alle Dateien</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>Eine Adresse ist zum Beispiel http://proxy.example.com oder socks5://10.0.0.1.</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Möchten Sie das Programm jetzt neu starten?</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatisch</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>Die neue Sprache gilt nach dem Neustart des Programms.</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>Wählen Sie einen anderen oder geben Sie sich Schreibrechte: %1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Wählen …</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>Leeren</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>Tipp schließen</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>Allgemein</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>Kopieren</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>Kerne</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Ausschneiden</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>Fertig</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>Download</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>Videos laden</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>Download-Format</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>Download-Auflösung</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>Downloader</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>Gleichzeitige Downloads</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>Verstanden</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>Grafik</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>H.264-Decoder</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>H.264-Encoder</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>HEVC-Decoder</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>HEVC-Encoder</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>Hardware-Informationen</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>Hardwarebeschleunigung:</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Hilfe</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>Höchste Auflösung</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>Sprache</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>Hardware wird untersucht</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKV-Video (H.264, AAC)</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>Mediendateien</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>Arbeitsspeicher</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>Meldungen des Konverters</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>Minimieren</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>Musikordner</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Name</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>Noch nicht gewählt</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Aus</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>Ausgabeordner öffnen</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>Nach Abschluss den Ausgabeordner öffnen</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>Einsetzen</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>Einstellungen …</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>Bevorzugte Tonsprache</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Prozessor</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>Fortschritt</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Proxy-Adresse</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Proxy-Port</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>Profile zurücksetzen</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>Auflösung</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Bildschirmaufnahme nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>Einstellungen durchsuchen</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>Mitteilungen zeigen</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>Nach Abschluss den Computer ausschalten</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>Ordner für Standbilder</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>Gestoppt</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Vorschläge</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>Das Werkzeug zum Lesen von Mediendateien fehlt. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>Der Transcoder hat nicht wie erwartet geantwortet.</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>Der Transcoder fehlt. Bitte installieren Sie das Programm neu.</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>Auf der Festplatte ist kein Platz mehr. Schaffen Sie Platz und konvertieren Sie erneut.</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>Daraus wird je nach Wahl MP4, MKV, WebM oder MP3.</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>Dieser Computer hat keinen Hardware-Encoder für H.264-Videos.</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>Diese Datei konnte nicht gelesen werden.</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>Diese Datei ist beschädigt oder enthält weder Video noch Ton.</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>In diesen Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>Dies ist keine Video- oder Tondatei.</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>Dieser Teil ist noch in Arbeit und kommt mit einem Update.</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>Transcoder</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>Widerrufen</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>Unbegrenzt</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Proxy verwenden</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>Videokonverter</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>Videoordner</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

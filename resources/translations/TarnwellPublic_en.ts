@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1 (%2 threads)</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>%1 converted</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>Add Files…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>Address</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>All files</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>An address is for example http://proxy.example.com or socks5://10.0.0.1.</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Are you sure you want to restart the application now?</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatic</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>Changes to the languages take effect upon relaunch.</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>Choose a Folder</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>Choose another one, or allow yourself to write to it: %1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choose…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>Clear</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>Close the tip</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>Common</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>Copy</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>Cores</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Cut</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>Done</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>Download</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>Download Video</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>Download format</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>Download resolution</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>Downloader</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>Downloads at the same time</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>Got It</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>Graphics</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>H.264 decoders</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>H.264 encoders</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>HEVC decoders</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>HEVC encoders</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>Hardware Information</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>Hardware acceleration:</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Help</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>Highest Resolution</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>Language</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>Looking at the hardware</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKV Video (H.264, AAC)</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>Media files</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>Memory</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>Messages of the converter</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>Minimize</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>Music folder</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Name</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>Not chosen yet</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Off</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>Open the output folder</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>Open the output folder when done</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>Paste</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>Preferences…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>Preferred audio language</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processor</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>Progress</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Proxy address</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Proxy port</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>Reset Profiles</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>Resolution</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Screen Record Unavailable!</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>Search Settings</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>Settings</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>Show notifications</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>Shut down the computer when done</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>Snapshot folder</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>Stopped</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggestions</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>The tool that reads media files is missing. Please install the application again.</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>The transcoder did not answer as it should.</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>The transcoder is missing. Please install the application again.</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>There is no space left on the disk. Free some space and convert again.</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>They become MP4, MKV, WebM or MP3, as you choose.</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>This computer has no hardware encoder for H.264 video.</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>This file could not be read.</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>This file is damaged, or it holds neither video nor sound.</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>This folder cannot be written to.</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>This is no video or sound file.</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>This part is still being made and comes with an update.</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>Transcoder</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>Undo</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>Unlimited</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Use a proxy</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>Video Converter</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>Video folder</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1 (%2 hilos)</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>%1 convertido</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>Añadir archivos…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>Dirección</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>Todos los archivos</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>Una dirección es, por ejemplo, http://proxy.example.com o socks5://10.0.0.1.</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>¿Seguro que desea reiniciar la aplicación ahora?</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automática</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>El cambio de idioma se aplicará al reiniciar la aplicación.</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>Elegir una carpeta</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>Elija otra o permita escribir en ella: %1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Elegir…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>Vaciar</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>Cerrar el consejo</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>General</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>Copiar</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>Núcleos</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Cortar</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>Completado</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>Descarga</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>Descargar vídeos</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>Formato de descarga</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>Resolución de descarga</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>Descargas</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>Descargas simultáneas</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>Entendido</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>Gráficos</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>Decodificadores H.264</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>Codificadores H.264</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>Decodificadores HEVC</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>Codificadores HEVC</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>Información del hardware</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>Aceleración por hardware:</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Ayuda</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>Resolución máxima</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>Idioma</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>Examinando el hardware</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>Vídeo MKV (H.264, AAC)</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>Archivos multimedia</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>Mensajes del conversor</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>Minimizar</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>Carpeta de música</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nombre</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>Aún sin elegir</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>Aceptar</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Desactivada</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>Abrir la carpeta de salida</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>Abrir la carpeta de salida al terminar</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>Pegar</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>Puerto</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>Ajustes…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>Idioma de audio preferido</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Procesador</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>Progreso</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Dirección del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Puerto del proxy</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>Restablecer perfiles</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>Resolución</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Grabación de pantalla no disponible</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>Buscar en los ajustes</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>Ajustes</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>Mostrar notificaciones</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>Apagar el equipo al terminar</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>Carpeta de capturas</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>Detenido</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Sugerencias</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>Falta la herramienta que lee los archivos multimedia. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>El transcodificador no respondió como debía.</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>Falta el transcodificador. Vuelva a instalar la aplicación.</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>No queda espacio en el disco. Libere espacio y vuelva a convertir.</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>Se convierten a MP4, MKV, WebM o MP3, según elija.</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>Este equipo no tiene codificador de hardware para vídeo H.264.</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>No se ha podido leer este archivo.</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>Este archivo está dañado o no contiene vídeo ni sonido.</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>No se puede escribir en esta carpeta.</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>No es un archivo de vídeo ni de sonido.</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>Esta parte aún está en desarrollo y llegará con una actualización.</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>Transcodificador</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>Deshacer</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>Sin límite</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Usar un proxy</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vídeo</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>Conversor de vídeo</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>Carpeta de vídeo</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1 (%2 threads)</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>Converti : %1</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>Ajouter des fichiers…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>Tous les fichiers</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>Exemples d’adresse : http://proxy.example.com ou socks5://10.0.0.1.</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Voulez-vous vraiment redémarrer l’application maintenant ?</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatique</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>Le changement de langue prend effet au redémarrage de l’application.</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>Choisissez-en un autre ou autorisez l’écriture : %1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Choisir…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>Vider</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>Fermer l’astuce</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>Général</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>Copier</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>Cœurs</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Couper</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>Terminé</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>Téléchargement</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>Télécharger des vidéos</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>Format de téléchargement</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>Résolution de téléchargement</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>Téléchargement</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>Téléchargements simultanés</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>J’ai compris</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>Graphismes</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>Décodeurs H.264</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>Encodeurs H.264</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>Décodeurs HEVC</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>Encodeurs HEVC</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>Informations sur le matériel</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>Accélération matérielle :</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Aide</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>Résolution maximale</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>Langue</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>Examen du matériel</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>Vidéo MKV (H.264, AAC)</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>Fichiers multimédias</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>Mémoire</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>Messages du convertisseur</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>Réduire</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>Dossier de musique</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nom</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>Pas encore choisi</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Désactivée</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>Ouvrir le dossier de sortie</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>Ouvrir le dossier de sortie à la fin</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>Coller</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>Port</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>Réglages…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>Langue audio préférée</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processeur</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>Progression</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Adresse du proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Port du proxy</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>Réinitialiser les profils</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>Résolution</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Enregistrement de l’écran indisponible</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>Rechercher un réglage</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>Réglages</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>Afficher les notifications</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>Éteindre l’ordinateur à la fin</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>Dossier des captures</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>Arrêté</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggestions</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>L’outil qui lit les fichiers multimédias est introuvable. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>Le transcodeur n’a pas répondu comme prévu.</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>Le transcodeur est introuvable. Veuillez réinstaller l’application.</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>Il n’y a plus d’espace sur le disque. Libérez de l’espace et relancez la conversion.</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>Ils deviennent MP4, MKV, WebM ou MP3, selon votre choix.</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>Cet ordinateur n’a pas d’encodeur matériel pour la vidéo H.264.</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>Ce fichier n’a pas pu être lu.</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>Ce fichier est endommagé ou ne contient ni vidéo ni son.</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>Impossible d’écrire dans ce dossier.</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>Ce n’est pas un fichier vidéo ou audio.</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>Cette partie est en cours de réalisation et arrivera avec une mise à jour.</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>Transcodeur</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>Annuler</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>Illimité</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Utiliser un proxy</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Vidéo</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>Convertisseur vidéo</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>Dossier vidéo</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

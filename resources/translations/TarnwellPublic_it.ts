@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1 (%2 thread)</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>%1 convertito</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>Aggiungi file…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>Indirizzo</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>Tutti i file</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>Un indirizzo è per esempio http://proxy.example.com o socks5://10.0.0.1.</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Riavviare l’applicazione adesso?</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>Automatica</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>La nuova lingua sarà attiva dopo il riavvio dell’applicazione.</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>Scegli una cartella</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>Scegline un’altra o consenti la scrittura: %1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>Scegli…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>Svuota</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>Chiudi il suggerimento</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>Generali</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>Copia</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>Core</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Taglia</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>Completato</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>Download</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>Scarica video</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>Formato di download</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>Risoluzione di download</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>Downloader</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>Download simultanei</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>Ho capito</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>Grafica</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>Decoder H.264</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>Encoder H.264</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>Decoder HEVC</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>Encoder HEVC</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>Informazioni sull’hardware</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>Accelerazione hardware:</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>Aiuto</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>Risoluzione massima</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>Lingua</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>Analisi dell’hardware</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>Video MKV (H.264, AAC)</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>File multimediali</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>Memoria</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>Messaggi del convertitore</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>Contrai</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>Cartella della musica</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>Nome</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>Non ancora scelta</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>Disattivata</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>Apri la cartella di destinazione</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>Apri la cartella di destinazione al termine</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>Incolla</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>Porta</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>Impostazioni…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>Lingua audio preferita</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>Processore</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>Avanzamento</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>Indirizzo del proxy</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>Porta del proxy</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>Ripristina profili</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>Risoluzione</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Registrazione schermo non disponibile</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>Cerca nelle impostazioni</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>Impostazioni</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>Mostra notifiche</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>Spegni il computer al termine</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>Cartella delle istantanee</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>Interrotto</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>Suggerimenti</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>Lo strumento che legge i file multimediali non è presente. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>Il transcodificatore non ha risposto come previsto.</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>Il transcodificatore manca. Installa di nuovo l’applicazione.</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>Lo spazio su disco è esaurito. Libera spazio e converti di nuovo.</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>Diventano MP4, MKV, WebM o MP3, a tua scelta.</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>Questo computer non ha un encoder hardware per i video H.264.</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>Impossibile leggere questo file.</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>Questo file è danneggiato o non contiene né video né audio.</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>Impossibile scrivere in questa cartella.</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>Non è un file video o audio.</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>Questa parte è ancora in lavorazione e arriverà con un aggiornamento.</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>Transcodificatore</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>Annulla</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>Illimitati</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>Usa un proxy</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>Video</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>Convertitore video</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>Cartella dei video</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1（%2スレッド）</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>%1まで変換済み</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>ファイルを追加…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>アドレス</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>アドレスの例: http://proxy.example.com、socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>アプリケーションを今すぐ再起動しますか？</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>言語の変更は再起動後に反映されます。</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>フォルダーを選択</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>別のフォルダーを選ぶか、書き込みを許可してください: %1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選択…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>すべて削除</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>ヒントを閉じる</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>一般</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>コピー</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>コア</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>カット</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>完了</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>ダウンロード</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>ビデオをダウンロード</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>ダウンロード形式</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>ダウンロード解像度</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>同時ダウンロード数</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>了解</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>グラフィックス</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>H.264デコーダー</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>H.264エンコーダー</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>HEVCデコーダー</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>HEVCエンコーダー</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>ハードウェア情報</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>ハードウェアアクセラレーション:</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>ヘルプ</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>最高解像度</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>言語</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>ハードウェアを確認しています</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKVビデオ（H.264、AAC）</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>メディアファイル</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>メモリ</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>変換プログラムのメッセージ</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>ミュージックフォルダー</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>名前</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>未選択</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>オフ</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>出力フォルダを開く</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>完了後に出力フォルダーを開く</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>ペースト</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>ポート</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>設定…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>優先する音声言語</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>プロセッサ</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>進行状況</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>プロキシのアドレス</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>プロキシのポート</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>プロファイルをリセット</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>解像度</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>画面収録は利用できません</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>設定を検索</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>通知を表示</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>完了後にコンピューターをシャットダウン</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>スナップショットフォルダー</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>中止</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>候補</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>メディアファイルを読み込むツールが見つかりません。アプリケーションをインストールし直してください。</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>トランスコーダーから正しい応答がありませんでした。</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>トランスコーダーが見つかりません。アプリケーションを再インストールしてください。</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>ディスクに空き容量がありません。空き容量を増やしてから、もう一度変換してください。</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>選んだ形式（MP4、MKV、WebM、MP3）に変換されます。</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>このコンピューターには H.264 ビデオ用のハードウェアエンコーダーがありません。</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>このファイルを読み込めませんでした。</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>このファイルは破損しているか、ビデオも音声も含まれていません。</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>このフォルダーには書き込めません。</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>これはビデオまたは音声のファイルではありません。</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>この機能は開発中です。アップデートで提供されます。</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>トランスコーダー</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>取り消す</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>無制限</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>プロキシを使用</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>ビデオ</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>ビデオ変換</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>ビデオフォルダー</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

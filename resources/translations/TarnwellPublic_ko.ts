@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1(스레드 %2개)</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>%1 변환됨</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>파일 추가…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>주소</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>모든 파일</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>주소 예: http://proxy.example.com 또는 socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>지금 응용 프로그램을 재시동하겠습니까?</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>자동</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>변경한 언어는 다시 시작하면 적용됩니다.</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>폴더 선택</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>다른 폴더를 선택하거나 쓰기 권한을 허용하세요: %1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>선택…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>모두 제거</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>팁 닫기</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>일반</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>복사하기</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>코어</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>오려두기</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>완료</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>다운로드</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>비디오 다운로드</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>다운로드 형식</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>다운로드 해상도</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>다운로더</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>동시 다운로드 수</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>알겠습니다</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>그래픽</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>H.264 디코더</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>H.264 인코더</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>HEVC 디코더</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>HEVC 인코더</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>하드웨어 정보</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>하드웨어 가속:</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>도움말</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>최고 해상도</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>언어</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>하드웨어 확인 중</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKV 비디오(H.264, AAC)</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>미디어 파일</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>메모리</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>변환기 메시지</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>최소화</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>음악 폴더</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>이름</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>아직 선택하지 않음</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>확인</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>끔</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>출력 폴더 열기</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>완료되면 출력 폴더 열기</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>붙여넣기</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>포트</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>설정…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>기본 오디오 언어</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>프로세서</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>진행률</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>프록시 주소</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>프록시 포트</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>프로파일 재설정</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>해상도</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>화면 기록을 사용할 수 없음</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>설정 검색</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>설정</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>알림 표시</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>완료되면 컴퓨터 종료</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>스냅샷 폴더</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>중단됨</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>추천</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>미디어 파일을 읽는 도구가 없습니다. 응용 프로그램을 다시 설치하십시오.</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>트랜스코더가 올바르게 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>트랜스코더가 없습니다. 앱을 다시 설치하세요.</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>디스크에 남은 공간이 없습니다. 공간을 확보한 다음 다시 변환하십시오.</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>선택에 따라 MP4, MKV, WebM 또는 MP3로 변환됩니다.</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>이 컴퓨터에는 H.264 비디오용 하드웨어 인코더가 없습니다.</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>이 파일을 읽을 수 없습니다.</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>이 파일이 손상되었거나 비디오와 사운드가 없습니다.</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>이 폴더에는 쓸 수 없습니다.</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>비디오 또는 사운드 파일이 아닙니다.</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>이 기능은 아직 제작 중이며 업데이트로 제공됩니다.</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>트랜스코더</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>실행 취소</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>무제한</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>프록시 사용</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>비디오</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>비디오 변환기</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>비디오 폴더</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

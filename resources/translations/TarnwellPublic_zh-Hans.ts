@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1（%2 线程）</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>已转换 %1</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>添加文件…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>地址</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>所有文件</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>地址示例：http://proxy.example.com 或 socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>确定要现在重新启动应用程序吗？</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自动</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>语言更改将在重新启动后生效。</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>选择文件夹</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>请选择其他文件夹，或允许写入：%1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>选择…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>清空</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>关闭提示</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>通用</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>拷贝</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>核心</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>剪切</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>已完成</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>下载</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>下载视频</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>下载格式</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>下载分辨率</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>下载</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>同时下载数</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>知道了</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>图形</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>H.264 解码器</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>H.264 编码器</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>HEVC 解码器</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>HEVC 编码器</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>硬件信息</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>硬件加速：</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>帮助</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>最高分辨率</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>语言</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>正在检查硬件</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKV 视频（H.264、AAC）</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>媒体文件</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>内存</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>转换器的消息</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>最小化</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>音乐文件夹</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>名称</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>尚未选择</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>好</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>关闭</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>打开输出文件夹</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>完成后打开输出文件夹</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>粘贴</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>端口</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>设置…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>首选音频语言</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>处理器</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>进度</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>代理地址</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>代理端口</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>重置配置文件</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>分辨率</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>屏幕录制不可用</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>搜索设置</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>设置</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>显示通知</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>完成后关闭电脑</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>快照文件夹</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>建议</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>找不到读取媒体文件的工具。请重新安装应用程序。</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>转码器未按预期响应。</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>缺少转码器。请重新安装应用程序。</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>磁盘空间不足。请释放一些空间后再次转换。</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>可按您的选择转换为 MP4、MKV、WebM 或 MP3。</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>此电脑没有 H.264 视频硬件编码器。</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>无法读取此文件。</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>此文件已损坏，或不包含视频和声音。</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>无法写入此文件夹。</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>这不是视频或声音文件。</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>此功能仍在制作中，将随更新提供。</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>转码器</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>撤销</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>不限</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>使用代理</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>视频</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>视频转换</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>视频文件夹</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

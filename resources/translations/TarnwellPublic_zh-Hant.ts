@@ -4,6 +4,10 @@
 <context>
     <name>TarnwellPublic</name>
     <message>
+        <source>%1 (%2 threads)</source>
+        <translation>%1（%2 個執行緒）</translation>
+    </message>
+    <message>
         <source>%1 converted</source>
         <translation>已轉換 %1</translation>
     </message>
@@ -28,8 +32,16 @@
         <translation>加入檔案…</translation>
     </message>
     <message>
+        <source>Address</source>
+        <translation>位址</translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>所有檔案</translation>
+    </message>
+    <message>
+        <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
+        <translation>位址範例：http://proxy.example.com 或 socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -42,6 +54,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>確定要現在重新啟動應用程式嗎？</translation>
+    </message>
+    <message>
+        <source>Automatic</source>
+        <translation>自動</translation>
     </message>
     <message>
         <source>Back</source>
@@ -64,6 +80,18 @@
         <translation>語言變更會在重新啟動後生效。</translation>
     </message>
     <message>
+        <source>Choose a Folder</source>
+        <translation>選擇資料夾</translation>
+    </message>
+    <message>
+        <source>Choose another one, or allow yourself to write to it: %1</source>
+        <translation>請選擇其他資料夾，或允許寫入：%1</translation>
+    </message>
+    <message>
+        <source>Choose…</source>
+        <translation>選擇…</translation>
+    </message>
+    <message>
         <source>Clear</source>
         <translation>清空</translation>
     </message>
@@ -74,6 +102,10 @@
     <message>
         <source>Close the tip</source>
         <translation>關閉提示</translation>
+    </message>
+    <message>
+        <source>Common</source>
+        <translation>一般</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -108,8 +140,16 @@
         <translation>拷貝</translation>
     </message>
     <message>
+        <source>Cores</source>
+        <translation>核心</translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>剪下</translation>
+    </message>
+    <message>
+        <source>DVD</source>
+        <translation>DVD</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -132,8 +172,20 @@
         <translation>已完成</translation>
     </message>
     <message>
+        <source>Download</source>
+        <translation>下載</translation>
+    </message>
+    <message>
         <source>Download Video</source>
         <translation>下載影片</translation>
+    </message>
+    <message>
+        <source>Download format</source>
+        <translation>下載格式</translation>
+    </message>
+    <message>
+        <source>Download resolution</source>
+        <translation>下載解析度</translation>
     </message>
     <message>
         <source>Download ultra-high quality online streaming videos and music from YouTube Facebook and 1000+ sites. Convert downloaded files to MP4, MP3, etc.</source>
@@ -142,6 +194,10 @@
     <message>
         <source>Downloader</source>
         <translation>下載</translation>
+    </message>
+    <message>
+        <source>Downloads at the same time</source>
+        <translation>同時下載數</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -180,8 +236,44 @@
         <translation>知道了</translation>
     </message>
     <message>
+        <source>Graphics</source>
+        <translation>圖形</translation>
+    </message>
+    <message>
+        <source>H.264 decoders</source>
+        <translation>H.264 解碼器</translation>
+    </message>
+    <message>
+        <source>H.264 encoders</source>
+        <translation>H.264 編碼器</translation>
+    </message>
+    <message>
+        <source>HEVC decoders</source>
+        <translation>HEVC 解碼器</translation>
+    </message>
+    <message>
+        <source>HEVC encoders</source>
+        <translation>HEVC 編碼器</translation>
+    </message>
+    <message>
+        <source>Hardware Information</source>
+        <translation>硬體資訊</translation>
+    </message>
+    <message>
+        <source>Hardware acceleration:</source>
+        <translation>硬體加速：</translation>
+    </message>
+    <message>
         <source>Help</source>
         <translation>輔助說明</translation>
+    </message>
+    <message>
+        <source>Highest Resolution</source>
+        <translation>最高解析度</translation>
+    </message>
+    <message>
+        <source>Intel</source>
+        <translation>Intel</translation>
     </message>
     <message>
         <source>It will convert titles to videos for every device.</source>
@@ -232,6 +324,10 @@
         <translation>語言</translation>
     </message>
     <message>
+        <source>Looking at the hardware</source>
+        <translation>正在檢查硬體</translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKV 影片（H.264、AAC）</translation>
     </message>
@@ -248,6 +344,10 @@
         <translation>媒體檔案</translation>
     </message>
     <message>
+        <source>Memory</source>
+        <translation>記憶體</translation>
+    </message>
+    <message>
         <source>Messages of the converter</source>
         <translation>轉換器的訊息</translation>
     </message>
@@ -256,12 +356,24 @@
         <translation>縮到最小</translation>
     </message>
     <message>
+        <source>Music folder</source>
+        <translation>音樂資料夾</translation>
+    </message>
+    <message>
         <source>Name</source>
         <translation>名稱</translation>
     </message>
     <message>
+        <source>Not chosen yet</source>
+        <translation>尚未選擇</translation>
+    </message>
+    <message>
         <source>OK</source>
         <translation>好</translation>
+    </message>
+    <message>
+        <source>Off</source>
+        <translation>關閉</translation>
     </message>
     <message>
         <source>Open</source>
@@ -270,6 +382,10 @@
     <message>
         <source>Open the output folder</source>
         <translation>打開輸出檔案夾</translation>
+    </message>
+    <message>
+        <source>Open the output folder when done</source>
+        <translation>完成後打開輸出資料夾</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -284,12 +400,32 @@
         <translation>貼上</translation>
     </message>
     <message>
+        <source>Port</source>
+        <translation>連接埠</translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>設定…</translation>
     </message>
     <message>
+        <source>Preferred audio language</source>
+        <translation>偏好的音訊語言</translation>
+    </message>
+    <message>
+        <source>Processor</source>
+        <translation>處理器</translation>
+    </message>
+    <message>
         <source>Progress</source>
         <translation>進度</translation>
+    </message>
+    <message>
+        <source>Proxy address</source>
+        <translation>代理位址</translation>
+    </message>
+    <message>
+        <source>Proxy port</source>
+        <translation>代理連接埠</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -340,8 +476,16 @@
         <translation>重設設定檔</translation>
     </message>
     <message>
+        <source>Resolution</source>
+        <translation>解析度</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>無法錄製螢幕</translation>
+    </message>
+    <message>
+        <source>Search Settings</source>
+        <translation>搜尋設定</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -350,6 +494,18 @@
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>Show notifications</source>
+        <translation>顯示通知</translation>
+    </message>
+    <message>
+        <source>Shut down the computer when done</source>
+        <translation>完成後關閉電腦</translation>
+    </message>
+    <message>
+        <source>Snapshot folder</source>
+        <translation>快照資料夾</translation>
     </message>
     <message>
         <source>Status</source>
@@ -362,6 +518,10 @@
     <message>
         <source>Stopped</source>
         <translation>已停止</translation>
+    </message>
+    <message>
+        <source>Suggestions</source>
+        <translation>建議</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -424,6 +584,14 @@
         <translation>找不到讀取媒體檔案的工具。請重新安裝應用程式。</translation>
     </message>
     <message>
+        <source>The transcoder did not answer as it should.</source>
+        <translation>轉碼器未依預期回應。</translation>
+    </message>
+    <message>
+        <source>The transcoder is missing. Please install the application again.</source>
+        <translation>缺少轉碼器。請重新安裝應用程式。</translation>
+    </message>
+    <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>磁碟空間不足。請釋出一些空間後再次轉換。</translation>
     </message>
@@ -440,6 +608,10 @@
         <translation>可依您的選擇轉換為 MP4、MKV、WebM 或 MP3。</translation>
     </message>
     <message>
+        <source>This computer has no hardware encoder for H.264 video.</source>
+        <translation>此電腦沒有 H.264 視訊硬體編碼器。</translation>
+    </message>
+    <message>
         <source>This file could not be read.</source>
         <translation>無法讀取此檔案。</translation>
     </message>
@@ -452,6 +624,10 @@
         <translation>此檔案已損毀，或不包含影片和聲音。</translation>
     </message>
     <message>
+        <source>This folder cannot be written to.</source>
+        <translation>無法寫入此資料夾。</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>這不是影片或聲音檔案。</translation>
     </message>
@@ -460,12 +636,32 @@
         <translation>此功能仍在製作中，將隨更新項目提供。</translation>
     </message>
     <message>
+        <source>Transcoder</source>
+        <translation>轉碼器</translation>
+    </message>
+    <message>
         <source>Undo</source>
         <translation>還原</translation>
     </message>
     <message>
+        <source>Unlimited</source>
+        <translation>不限</translation>
+    </message>
+    <message>
+        <source>Use a proxy</source>
+        <translation>使用代理</translation>
+    </message>
+    <message>
+        <source>Video</source>
+        <translation>視訊</translation>
+    </message>
+    <message>
         <source>Video Converter</source>
         <translation>影片轉換</translation>
+    </message>
+    <message>
+        <source>Video folder</source>
+        <translation>視訊資料夾</translation>
     </message>
     <message>
         <source>Videos from the web, on your disk</source>

@@ -1,5 +1,6 @@
 #include "AlertPanel.h"
 
+#include "Frames.h"
 #include "Images.h"
 #include "Palette.h"
 #include "ui_AlertPanel.h"
@@ -117,12 +118,9 @@ void AlertPanel::placeOver(const QWidget *window)
     const QScreen *screen = window ? window->screen() : QGuiApplication::primaryScreen();
     if (!screen)
         return;
-    const QRect free = screen->availableGeometry();
     QRect place(QPoint(), size());
-    place.moveCenter(window ? window->geometry().center() : free.center());
-    place.moveLeft(std::clamp(place.left(), free.left(), std::max(free.left(), free.right() + 1 - place.width())));
-    place.moveTop(std::clamp(place.top(), free.top(), std::max(free.top(), free.bottom() + 1 - place.height())));
-    move(place.topLeft());
+    place.moveCenter(window ? window->geometry().center() : screen->availableGeometry().center());
+    move(keptOnScreen(place, *screen).topLeft());
 }
 
 void AlertPanel::paintEvent(QPaintEvent *)

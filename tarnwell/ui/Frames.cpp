@@ -4,6 +4,8 @@
 #include <QScreen>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace kestrel::tarnwell {
 
 namespace {
@@ -36,6 +38,14 @@ void setWindowFrame(QWidget *window, const foundation::Rect &frame)
 {
     const QRect screen = primaryScreen();
     window->setGeometry(foundation::toTopDown(frame, screen.height()).translated(screen.topLeft()));
+}
+
+QRect keptOnScreen(QRect place, const QScreen &screen)
+{
+    const QRect free = screen.availableGeometry();
+    place.moveLeft(std::clamp(place.left(), free.left(), std::max(free.left(), free.right() + 1 - place.width())));
+    place.moveTop(std::clamp(place.top(), free.top(), std::max(free.top(), free.bottom() + 1 - place.height())));
+    return place;
 }
 
 }  // namespace kestrel::tarnwell

@@ -2,6 +2,7 @@
 
 #include "Geometry.h"
 
+class QScreen;
 class QWidget;
 
 /// Frames of widgets in points, bottom-up: those of views in the widget that holds them, those of windows on the
@@ -13,5 +14,9 @@ void setViewFrame(QWidget *view, const foundation::Rect &frame);
 
 foundation::Rect windowFrame(const QWidget *window);
 void setWindowFrame(QWidget *window, const foundation::Rect &frame);
+
+/// A window's place in pixels of the desktop, moved as little as it takes to lie on the free area of the screen; what
+/// is too large keeps its upper left corner there.
+QRect keptOnScreen(QRect place, const QScreen &screen);
 
 }  // namespace kestrel::tarnwell

@@ -8,7 +8,7 @@ import os
 import subprocess
 import sys
 
-from accessible import Failure, extents, value_of, wait_for
+from accessible import Failure, extents, value_of, wait_for, walk
 from driver import Desktop
 from material import make_clip
 
@@ -18,7 +18,7 @@ class Walk:
         desktop.new_user()
         desktop.set_defaults(bundle, kAppCustomizeLanguage=language)
         desktop.move(0, 0)
-        self.desktop, self.bundle = desktop, bundle
+        self.desktop, self.bundle, self.presents = desktop, bundle, False
         self.app = desktop.launch(bundle, QT_SCALE_FACTOR=str(scale))
 
     def at_home(self):
@@ -43,6 +43,32 @@ class Walk:
         wait_for(self.module_buttons, 'the home screen')
         self.at_home()
 
+    def open_settings(self):
+        """By the button in the corner of the home screen."""
+        self.desktop.click(max(self.app.find_all('push button'), key=lambda button: extents(button)[1::-1]))
+        self.app.find('dialog')
+        self.presents = True
+
+    def settings_controls(self, role):
+        return sorted((node for node in walk(self.app.find('dialog')) if node.get_role_name() == role), key=lambda node: extents(node)[1])
+
+    def scroll_settings_to_end(self):
+        """By the last of the section buttons, which are as wide as their column."""
+        buttons = [button for button in self.settings_controls('push button') if extents(button)[2] == 140]
+        self.desktop.click(buttons[-1])
+        self.desktop.move(0, 0)
+
+    def search_settings(self):
+        self.desktop.click(self.settings_controls('text')[0])
+        self.desktop.x('xdotool', 'type', 'folder')
+        self.app.find('list item', 'dvd folder')
+        self.desktop.key('Down', 'Down')
+
+    def close_settings(self):
+        self.desktop.key('Escape', 'Escape')
+        wait_for(lambda: not self.app.find_all('dialog'), 'the settings to close')
+        self.presents = False
+
     def add_film(self):
         film = os.path.join(self.desktop.folder, 'Holiday.mkv')
         if not os.path.exists(film):
@@ -58,9 +84,13 @@ class Walk:
     def wait_until_converted(self):
         self.app.find('push button', 'Convert', patience=120)
 
+    def window(self):
+        """The one in front, where it is presented over another."""
+        return self.app.windows()[-1] if self.presents else self.app.wait_for_window()
+
     def picture(self, path):
         """Of the window, once it is painted and nothing moves in it; a conversion moves for ever."""
-        window = self.app.wait_for_window()['id']
+        window = self.window()['id']
         before = b''
         for _ in range(20):
             self.desktop.screenshot(path, window)
@@ -76,6 +106,10 @@ class Walk:
 STOPS = (  # picture, the way there from the stop before
     ('01-home', Walk.at_home),
     ('02-home-hover', lambda walk: walk.hover(1)),
+    ('03-settings', Walk.open_settings),
+    ('04-settings-end', Walk.scroll_settings_to_end),
+    ('05-settings-search', Walk.search_settings),
+    ('06-home-after-settings', Walk.close_settings),
     ('10-converter', lambda walk: walk.enter(0)),
     ('11-converter-ready', Walk.add_film),
     ('12-converter-converting', Walk.convert),

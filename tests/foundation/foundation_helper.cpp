@@ -27,6 +27,7 @@ int store(const QStringList &arguments)
         defaults.setObject(i, arguments.at(3) + QString::number(i));
         if (!defaults.synchronize())
             return 1;
+        QThread::msleep(2);  // the lock is not a fair one: without a pause the other process may never get it
     }
     return 0;
 }

@@ -23,8 +23,8 @@ FailureDetails::FailureDetails(const ConversionItem &item, QWidget *parent)
     m_form->nameLabel->setText(QFileInfo(item.path).fileName());
     m_form->messagesEdit->setPlainText(item.details);
     m_form->messagesEdit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
-    setTextStyle(m_form->reasonLabel, 13, QFont::Bold, tarnwell::palette::title);
-    setTextStyle(m_form->nameLabel, 13, QFont::Normal, tarnwell::palette::quietText);
+    tarnwell::setTextStyle(m_form->reasonLabel, 13, QFont::Bold, tarnwell::palette::title);
+    tarnwell::setTextStyle(m_form->nameLabel, 13, QFont::Normal, tarnwell::palette::quietText);
     connect(m_form->closeButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_form->copyButton, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(m_form->messagesEdit->toPlainText()); });

@@ -73,7 +73,7 @@ void MarlinView::setUpTexts()
                   {m_form->targetLabel, 13, QFont::Normal, palette::quietText},
                   {m_form->statusLabel, 13, QFont::Normal, palette::quietText}};
     for (const auto &[label, size, weight, color] : styles)
-        setTextStyle(label, size, weight, color);
+        tarnwell::setTextStyle(label, size, weight, color);
 
     const struct {
         QAbstractButton *button;
@@ -84,7 +84,7 @@ void MarlinView::setUpTexts()
                  {m_form->cancelButton, u"marlin_stop"_s}};
     for (const auto &[button, image] : icons)
         button->setIcon(tarnwell::IconNamed(image));
-    m_form->picture->setImageNamed(u"marlin_drop"_s);
+    m_form->picture->setImageName(u"marlin_drop"_s);
 }
 
 void MarlinView::setUpList()

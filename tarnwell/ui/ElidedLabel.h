@@ -2,7 +2,7 @@
 
 #include <QLabel>
 
-namespace kestrel {
+namespace kestrel::tarnwell {
 
 /// One line of plain text that gives way in the middle where there is too little room; the tooltip then has all of it.
 class ElidedLabel : public QLabel {
@@ -17,4 +17,4 @@ protected:
     bool event(QEvent *event) override;
 };
 
-}  // namespace kestrel
+}  // namespace kestrel::tarnwell

@@ -2,7 +2,7 @@
 
 #include <QString>
 
-namespace kestrel {
+namespace kestrel::tarnwell {
 
 /// What to give to a tooltip so that it shows `text` as it stands, blanks included: a tooltip guesses by itself whether
 /// it was given markup. Null for an empty text.
@@ -13,4 +13,4 @@ inline QString hoverTextShowing(const QString &text)
     return QStringLiteral("<qt><div style='white-space: pre-wrap'>%1</div></qt>").arg(text.toHtmlEscaped());
 }
 
-}  // namespace kestrel
+}  // namespace kestrel::tarnwell

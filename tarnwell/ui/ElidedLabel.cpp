@@ -8,7 +8,7 @@
 #include <QStyleOption>
 #include <QToolTip>
 
-namespace kestrel {
+namespace kestrel::tarnwell {
 
 ElidedLabel::ElidedLabel(QWidget *parent) : QLabel(parent)
 {
@@ -41,4 +41,4 @@ bool ElidedLabel::event(QEvent *event)
     return true;
 }
 
-}  // namespace kestrel
+}  // namespace kestrel::tarnwell

@@ -4,7 +4,7 @@
 
 #include <QWidget>
 
-namespace kestrel {
+namespace kestrel::tarnwell {
 
 /// Gives a label its place in the hierarchy of texts: size in points, weight and one of the palette's colours.
 inline void setTextStyle(QWidget *label, int size, QFont::Weight weight, QRgb color)
@@ -18,4 +18,4 @@ inline void setTextStyle(QWidget *label, int size, QFont::Weight weight, QRgb co
     label->setPalette(palette);
 }
 
-}  // namespace kestrel
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,12 @@
+#include "_SettingCheckButtonCell.h"
+
+#include "TextStyles.h"
+
+namespace kestrel {
+
+_SettingCheckButtonCell::_SettingCheckButtonCell(QWidget *parent) : QCheckBox(parent)
+{
+    tarnwell::setTextStyle(this, 13, QFont::Normal, tarnwell::palette::quietText);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,157 @@
+#include "JPresentWindowController.h"
+
+#include "Frames.h"
+#include "JTitledWindow.h"
+#include "Palette.h"
+
+#include <QDialog>
+#include <QEvent>
+#include <QPainter>
+#include <QScreen>
+#include <QWindow>
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+constexpr int sheetEdge = 2;
+
+/// The window itself. Escape and the desktop's ways to close it arrive at `reject`.
+class SheetWindow : public QDialog {
+public:
+    explicit SheetWindow(JPresentWindowController &controller)
+        : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint),
+          m_controller(controller)
+    {
+        setWindowModality(Qt::WindowModal);
+        setContentsMargins(sheetEdge, sheetEdge, sheetEdge, sheetEdge);
+    }
+
+    void reject() override { m_controller.onCloseAction(); }
+
+protected:
+    void paintEvent(QPaintEvent *) override
+    {
+        // A dark line with a lighter one inside sets it off from a window of the same white below.
+        QPainter painter(this);
+        painter.fillRect(rect(), QColor(palette::strongLine));
+        painter.fillRect(rect().adjusted(1, 1, -1, -1), QColor(palette::line));
+        painter.fillRect(rect().adjusted(sheetEdge, sheetEdge, -sheetEdge, -sheetEdge), QColor(palette::surface));
+    }
+
+private:
+    JPresentWindowController &m_controller;
+};
+
+const QWidget *contentOf(const QWidget *window)
+{
+    const auto *titledWindow = qobject_cast<const JTitledWindow *>(window);
+    return titledWindow ? titledWindow->contentView() : window;
+}
+
+}  // namespace
+
+JPresentWindowController::JPresentWindowController() = default;
+
+JPresentWindowController::~JPresentWindowController() = default;
+
+QDialog *JPresentWindowController::window()
+{
+    if (!m_window) {
+        m_window = std::make_unique<SheetWindow>(*this);
+        m_window->installEventFilter(this);
+        windowDidLoad(m_window.get());
+    }
+    return m_window.get();
+}
+
+bool JPresentWindowController::isPresented() const
+{
+    return m_window && m_window->isVisible();
+}
+
+void JPresentWindowController::presentForWindow(QWidget *window)
+{
+    if (isPresented() && m_presentedFor != window) {
+        m_window->hide();
+        detach();
+    }
+    if (!isPresented()) {
+        this->window();
+        windowWillPresent();
+        attachTo(window);
+        m_window->show();
+    }
+    m_window->raise();
+    m_window->activateWindow();
+}
+
+void JPresentWindowController::onCloseAction()
+{
+    if (!isPresented())
+        return;
+    m_window->hide();
+    if (QWidget *presentedFor = m_presentedFor; presentedFor && presentedFor->isVisible())
+        presentedFor->activateWindow();
+    detach();
+}
+
+void JPresentWindowController::attachTo(QWidget *window)
+{
+    m_presentedFor = window;
+    if (!m_window->testAttribute(Qt::WA_Resized))
+        m_window->adjustSize();
+    m_window->winId();  // makes the native window
+    // Attached on the level of native windows only: as a child it would be deleted with a window that goes.
+    m_window->windowHandle()->setTransientParent(nullptr);
+    if (window) {
+        window->winId();
+        m_window->windowHandle()->setTransientParent(window->window()->windowHandle());
+        window->installEventFilter(this);
+        connect(window, &QObject::destroyed, this, [this] { onCloseAction(); });
+    }
+    place();
+}
+
+void JPresentWindowController::detach()
+{
+    if (!m_presentedFor)
+        return;
+    m_presentedFor->removeEventFilter(this);
+    m_presentedFor->disconnect(this);
+    m_presentedFor = nullptr;
+}
+
+void JPresentWindowController::place()
+{
+    if (!m_presentedFor)
+        return;
+    const QWidget *content = contentOf(m_presentedFor);
+    const QPoint top = content->mapToGlobal(QPoint(content->width() / 2, 0));
+    const QRect wanted(top - QPoint(m_window->width() / 2, 0), m_window->size());
+    m_window->move(keptOnScreen(wanted, *m_presentedFor->screen()).topLeft());
+}
+
+bool JPresentWindowController::eventFilter(QObject *watched, QEvent *event)
+{
+    const bool isOwnWindow = watched == m_window.get();
+    switch (event->type()) {
+        case QEvent::Move:
+            if (!isOwnWindow)
+                place();
+            break;
+        case QEvent::Resize:
+            place();
+            break;
+        case QEvent::Hide:
+            // One that is only minimised keeps it.
+            if (!isOwnWindow && !event->spontaneous())
+                onCloseAction();
+            break;
+        default:
+            break;
+    }
+    return false;
+}
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,93 @@
+#include "NXHardwareInfoController.h"
+
+#include "Queues.h"
+#include "TextStyles.h"
+#include "TranscoderCodecs.h"
+#include "TranslateControls.h"
+#include "ui_NXHardwareInfoController.h"
+
+#include <QClipboard>
+#include <QGridLayout>
+#include <QGuiApplication>
+
+namespace kestrel::tarnwell {
+
+namespace {
+
+constexpr int hardwareValueWidth = 400;
+
+QLabel *makeLabel(const QString &text, QRgb color)
+{
+    auto *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setTextStyle(label, 13, QFont::Normal, color);
+    return label;
+}
+
+}  // namespace
+
+NXHardwareInfoController::NXHardwareInfoController() = default;
+
+NXHardwareInfoController::~NXHardwareInfoController() = default;
+
+NXHardwareInfoController &NXHardwareInfoController::loadDefaultWindowController()
+{
+    return sharedController<NXHardwareInfoController>();
+}
+
+void NXHardwareInfoController::setEncoderPath(const QString &path)
+{
+    m_encoderPath = path;
+}
+
+void NXHardwareInfoController::windowDidLoad(QDialog *window)
+{
+    m_form = std::make_unique<Ui::NXHardwareInfoController>();
+    m_form->setupUi(window);
+    TranslateControls(window);
+    setTextStyle(m_form->titleLabel, 18, QFont::Bold, palette::title);
+    QSizePolicy policy = m_form->progressBar->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    m_form->progressBar->setSizePolicy(policy);
+    connect(m_form->copyButton, &QPushButton::clicked, this,
+            [this] { QGuiApplication::clipboard()->setText(hardwareText(m_rows)); });
+    connect(m_form->closeButton, &QPushButton::clicked, this, &NXHardwareInfoController::onCloseAction);
+}
+
+void NXHardwareInfoController::windowWillPresent()
+{
+    gather();
+}
+
+void NXHardwareInfoController::gather()
+{
+    m_form->progressBar->show();
+    m_form->copyButton->setEnabled(!m_rows.isEmpty());
+    foundation::queue::asyncGlobal([self = QPointer(this), path = m_encoderPath, number = ++m_gathering] {
+        const HardwareInformation hardware = hardwareInformation();
+        const TranscoderCodecs codecs = askTranscoder(path);
+        foundation::queue::asyncMain([self, hardware, codecs, number] {
+            if (self && self->m_gathering == number)
+                self->showRows(hardwareRows(hardware, codecs));
+        });
+    });
+}
+
+void NXHardwareInfoController::showRows(const QList<HardwareRow> &rows)
+{
+    m_rows = rows;
+    m_form->progressBar->hide();
+    m_form->copyButton->setEnabled(true);
+    qDeleteAll(m_form->rowsView->findChildren<QLabel *>(Qt::FindDirectChildrenOnly));
+    for (int i = 0; i < rows.size(); ++i) {
+        QLabel *value = makeLabel(rows[i].value, palette::text);
+        value->setTextInteractionFlags(Qt::TextSelectableByMouse);
+        value->setWordWrap(true);
+        value->setFixedWidth(hardwareValueWidth);
+        m_form->rowsLayout->addWidget(makeLabel(rows[i].label, palette::quietText), i, 0);
+        m_form->rowsLayout->addWidget(value, i, 1);
+    }
+}
+
+}  // namespace kestrel::tarnwell
