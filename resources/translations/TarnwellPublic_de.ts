@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>Systemsprache</translation>
+        <translation>Standard</translation>
     </message>
     <message>
         <source>Details</source>

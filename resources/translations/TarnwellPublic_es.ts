@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>Idioma del sistema</translation>
+        <translation>Predeterminado</translation>
     </message>
     <message>
         <source>Details</source>

@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>Langue du système</translation>
+        <translation>Par défaut</translation>
     </message>
     <message>
         <source>Details</source>

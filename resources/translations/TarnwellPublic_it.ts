@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>Lingua di sistema</translation>
+        <translation>Predefinito</translation>
     </message>
     <message>
         <source>Details</source>

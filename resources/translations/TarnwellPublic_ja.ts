@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>システムの言語</translation>
+        <translation>デフォルト</translation>
     </message>
     <message>
         <source>Details</source>

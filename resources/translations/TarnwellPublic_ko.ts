@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>시스템 언어</translation>
+        <translation>기본값</translation>
     </message>
     <message>
         <source>Details</source>

@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>跟随系统</translation>
+        <translation>默认</translation>
     </message>
     <message>
         <source>Details</source>

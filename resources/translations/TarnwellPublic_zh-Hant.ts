@@ -157,7 +157,7 @@
     </message>
     <message>
         <source>Default</source>
-        <translation>跟隨系統</translation>
+        <translation>預設</translation>
     </message>
     <message>
         <source>Details</source>
