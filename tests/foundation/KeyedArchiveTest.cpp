@@ -63,7 +63,6 @@ TEST(KeyedArchive, ReadsAnotherImplementations)
 // What is damaged reads as absent, and the entry beside it is still there. Numbers out of range are clamped.
 TEST(KeyedArchive, ReadsUnusualAndDamagedEntries)
 {
-    using Limits = std::numeric_limits<qint64>;
     const struct {
         const char *name;
         QVariant field;       ///< of the root, entry 1, whose class is entry 2
@@ -72,7 +71,7 @@ TEST(KeyedArchive, ReadsUnusualAndDamagedEntries)
         QString string = {};
     } table[] = {
         {"negative real", -2.9, {}, -2},
-        {"great real by reference", archiveUid(3), 1e300, Limits::max()},
+        {"great real by reference", archiveUid(3), 1e300, std::numeric_limits<qint64>::max()},
         {"digits", archiveUid(3), u"1"_s, 0, u"1"_s},
         {"far out of range", archiveUid(std::numeric_limits<quint64>::max())},
         {"itself", archiveUid(1)},

@@ -59,8 +59,7 @@ QVariantMap richPlist()
     return {{u"strings"_s, QVariantList{u" two\tlines\r\n"_s, u"<a> & \"b\" ]]>"_s, u""_s, u"é日本"_s, u"🎬"_s}},
             {u"integers"_s, QVariantList{0, 255, 256, 65535, 65536, 4294967295LL, 4294967296LL, -1, -129, Signed::max(),
                                          Signed::min(), std::numeric_limits<quint64>::max()}},
-            {u"reals"_s,
-             QVariantList{true, false, 1.0, 0.0, 0.1, -2.5e-300, 5e-324, 1.7976931348623157e308, HUGE_VAL, -HUGE_VAL}},
+            {u"reals"_s, QVariantList{true, 1.0, 0.1, -2.5e-300, 5e-324, 1.7976931348623157e308, -HUGE_VAL}},
             {u"dates"_s, QVariantList{date(1, 1, 1), date(2024, 2, 29).addSecs(86399), date(9999, 12, 31)}},
             {u"data"_s,
              QVariantList{QVariantMap(), QVariantList(), QByteArray(""), QByteArray("\0\xff\n", 3).repeated(100)}},
@@ -131,8 +130,7 @@ TEST(PropertyList, RefusesBrokenBinaryOnes)
     } table[] = {
         {"a count that overflows", binaryPlist({"\x09"}, 1, INT_MAX), "more than"},
         {"reference size 9", binaryPlist({"\x09"}, 9), "sizes out of range"},
-        {"integer beyond 64 bits", binaryPlist({fromHex("1400000000000000010000000000000000")}),
-         "integer out of range"},
+        {"big integer", binaryPlist({fromHex("1400000000000000010000000000000000")}), "integer out of range"},
         {"date in the year 10000", binaryPlist({fromHex("33424d637cb8000000")}), "date out of range"},
         {"length that overflows", binaryPlist({fromHex("6f13800000000000000161")}), "past the end"},
         {"reference out of range", binaryPlist({fromHex("a101")}), "reference out of range"},
@@ -189,10 +187,9 @@ TEST(PropertyList, WritesNothingThatCouldNotBeRead)
 TEST(PropertyList, ComparesTypesToo)
 {
     const QVariantList values{1, -1, 1.0, true, u"1"_s, QByteArray("1"), plistUid(1)};
-    for (qsizetype i = 0; i < values.size(); ++i) {
-        for (qsizetype j = 0; j < values.size(); ++j)
-            EXPECT_EQ(isSamePropertyList(values[i], values[j]), i == j) << i << " and " << j;
-    }
+    for (const QVariant &left : values)
+        for (const QVariant &right : values)
+            EXPECT_EQ(isSamePropertyList(left, right), &left == &right) << left.typeName() << ", " << right.typeName();
     EXPECT_TRUE(isSamePropertyList(QVariantList{1, std::nan("")}, QVariantList{quint64(1), -std::nan("")}));
     EXPECT_FALSE(isSamePropertyList(QVariantMap{{u"a"_s, QVariantList{1}}}, QVariantMap{{u"a"_s, QVariantList{1.0}}}));
 }

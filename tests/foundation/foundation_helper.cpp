@@ -6,9 +6,9 @@
 
 #include <QCoreApplication>
 #include <QSemaphore>
+#include <QTextStream>
 #include <QThread>
 
-#include <cstdio>
 #include <memory>
 
 #include <unistd.h>
@@ -40,10 +40,8 @@ int rewrite(const QStringList &arguments)
         defaults.setObject(QString(20'000, save % 2 ? u'o' : u'n'), u"large"_s);
         if (!defaults.synchronize())
             return 1;
-        if (save == arguments.at(3).toInt()) {
-            std::puts("started");
-            std::fflush(stdout);
-        }
+        if (save == arguments.at(3).toInt())
+            QTextStream(stdout) << "started" << Qt::endl;
     }
 }
 
