@@ -126,6 +126,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
         foundation::UserDefaults &defaults)
 {
     const QString language = defaults.stringArrayForKey(appleLanguagesKey.toString()).value(0);
+    QLocale::setDefault(QLocale(language));
     QTranslator dialogTexts;
     installDialogTexts(dialogTexts, language);
     tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s), language);
@@ -151,8 +152,9 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     instance.listen();
     foundation::queue::afterMain(std::chrono::milliseconds(250), setWindowIcon);
     const int status = QApplication::exec();
-    // Background jobs use what goes from here on.
-    QThreadPool::globalInstance()->waitForDone();
+    // Background jobs use what goes from here on, and may be waiting for the main thread.
+    while (!QThreadPool::globalInstance()->waitForDone(20))
+        QCoreApplication::sendPostedEvents();
     return status;
 }
 

@@ -36,7 +36,9 @@ JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults)
 }
 
 JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
-    : m_defaults(defaults), m_canEncodeInHardware(canEncodeInHardware), m_intelQSV(canEncodeInHardware)
+    : m_defaults(defaults),
+      m_canEncodeInHardware(canEncodeInHardware),
+      m_intelQSV(canEncodeInHardware)
 {
     load();
     const QString transcoderTools = getFFmpegBundlePath() + "/Contents/Resources/"_L1;

@@ -30,12 +30,12 @@ bool markMoves(double origin, double target)
 QString folderProperty(int folderTag)
 {
     switch (folderTag) {
-    case 1:
-        return u"videoOutputPath"_s;
-    case 2:
-        return u"musicOutputPath"_s;
-    case 3:
-        return u"snapshotOutputPath"_s;
+        case 1:
+            return u"videoOutputPath"_s;
+        case 2:
+            return u"musicOutputPath"_s;
+        case 3:
+            return u"snapshotOutputPath"_s;
     }
     return {};
 }

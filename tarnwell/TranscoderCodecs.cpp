@@ -1,5 +1,7 @@
 #include "TranscoderCodecs.h"
 
+#include "Processes.h"
+
 #include <QDeadlineTimer>
 #include <QFileInfo>
 #include <QProcess>
@@ -25,6 +27,7 @@ QByteArray codecOf(const QByteArray &line, const QByteArray &name)
 std::optional<CodecNames> readCodecTable(const QString &path, const QString &option, const QDeadlineTimer &deadline)
 {
     QProcess process;
+    process.setChildProcessModifier(foundation::endWithParent());
     process.setStandardInputFile(QProcess::nullDevice());
     process.setStandardErrorFile(QProcess::nullDevice());
     process.start(path, {u"-hide_banner"_s, option}, QIODevice::ReadOnly);
@@ -38,7 +41,8 @@ std::optional<CodecNames> readCodecTable(const QString &path, const QString &opt
         process.waitForFinished(500);
         return {};
     }
-    return parseCodecTable(table);
+    const bool hasFailed = process.exitStatus() != QProcess::NormalExit || process.exitCode() != 0;
+    return hasFailed ? std::nullopt : parseCodecTable(table);
 }
 
 }  // namespace

@@ -109,6 +109,15 @@ void AppDelegate::applicationDidFinishLaunching()
 
 void AppDelegate::applicationWillTerminate()
 {
+    // A window that is presented over these closes with them, and stores what was typed into it.
+    m_window->hide();
+    if (KestrelController *home = m_appController->menuController())
+        home->window()->hide();
+    save();
+}
+
+void AppDelegate::save()
+{
     m_appController->applicationWillTerminate();
     m_surroundings.defaults.setObject(false, notSafeTerminateKey);
     m_surroundings.defaults.synchronize();
@@ -116,7 +125,7 @@ void AppDelegate::applicationWillTerminate()
 
 void AppDelegate::sessionWillEnd()
 {
-    applicationWillTerminate();
+    save();
     // Nobody tells that a session goes on, only that it ends.
     foundation::queue::afterMain(30s, [self = QPointer(this)] {
         if (self)

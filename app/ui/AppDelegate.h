@@ -79,6 +79,7 @@ private:
     void appendNewMenuItems();
     void setupLanuageMenu();
     void restartApplication();
+    void save();
     QString supportLink(QString SupportLinks::*field) const;
 
     Surroundings m_surroundings;

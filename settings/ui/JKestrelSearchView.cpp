@@ -1,6 +1,7 @@
 #include "JKestrelSearchView.h"
 
-#include <QApplication>
+#include "Palette.h"
+
 #include <QHBoxLayout>
 #include <QLabel>
 
@@ -26,7 +27,7 @@ void JKestrelSearchView::onHighlightChanged()
 {
     QPalette palette = m_textfield->palette();
     palette.setColor(QPalette::WindowText,
-                     isHighlighted() ? QColor(Qt::white) : QApplication::palette().color(QPalette::Text));
+                     QColor(isHighlighted() ? tarnwell::palette::surface : tarnwell::palette::text));
     m_textfield->setPalette(palette);
 }
 

@@ -108,12 +108,12 @@ void JKestrelSettingController::browseSelectFolderWithBlock(const std::function<
 JSettingBase *JKestrelSettingController::getSettingObjectWithID(int id) const
 {
     switch (id) {
-    case VideoModule:
-        return m_setting.video();
-    case DVDModule:
-        return m_setting.dvd();
-    case DownloadModule:
-        return m_setting.downloader();
+        case VideoModule:
+            return m_setting.video();
+        case DVDModule:
+            return m_setting.dvd();
+        case DownloadModule:
+            return m_setting.downloader();
     }
     return nullptr;
 }

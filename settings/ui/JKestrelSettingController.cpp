@@ -54,7 +54,9 @@ JKestrelSettingController::JKestrelSettingController()
 }
 
 JKestrelSettingController::JKestrelSettingController(JKestrelSetting &setting, foundation::UserDefaults &defaults)
-    : m_setting(setting), m_defaults(defaults), m_form(std::make_unique<Ui::JKestrelSettingController>())
+    : m_setting(setting),
+      m_defaults(defaults),
+      m_form(std::make_unique<Ui::JKestrelSettingController>())
 {
     m_markMotion.setPropertyName("pos");
     m_markMotion.setDuration(tarnwell::motionTimeMs);

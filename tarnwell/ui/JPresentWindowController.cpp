@@ -70,16 +70,15 @@ bool JPresentWindowController::isPresented() const
     return m_window && m_window->isVisible();
 }
 
-void JPresentWindowController::presentForWindow(QWidget *window)
+void JPresentWindowController::presentForWindow(QWidget *presenter)
 {
-    if (isPresented() && m_presentedFor != window) {
-        m_window->hide();
-        detach();
-    }
+    QWidget *host = presenter ? presenter->window() : nullptr;
+    if (isPresented() && m_presentedFor != host)
+        onCloseAction();  // which stores what is to be stored
     if (!isPresented()) {
-        this->window();
+        window();
         windowWillPresent();
-        attachTo(window);
+        attachTo(host);
         m_window->show();
     }
     m_window->raise();
@@ -106,7 +105,7 @@ void JPresentWindowController::attachTo(QWidget *window)
     m_window->windowHandle()->setTransientParent(nullptr);
     if (window) {
         window->winId();
-        m_window->windowHandle()->setTransientParent(window->window()->windowHandle());
+        m_window->windowHandle()->setTransientParent(window->windowHandle());
         window->installEventFilter(this);
         connect(window, &QObject::destroyed, this, [this] { onCloseAction(); });
     }

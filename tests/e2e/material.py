@@ -21,6 +21,22 @@ def bundle_information(bundle):
         return plistlib.load(file)
 
 
+def unarchived(data):
+    """A keyed archive as dictionaries; an object also has its class's name under "class"."""
+    archive = plistlib.loads(data)
+
+    def resolved(value):
+        if isinstance(value, plistlib.UID):
+            value = archive['$objects'][value.data]
+        if not isinstance(value, dict):
+            return None if value == '$null' else value
+        if 'NS.keys' in value:
+            return {resolved(key): resolved(item) for key, item in zip(value['NS.keys'], value['NS.objects'])}
+        fields = {key: resolved(item) for key, item in value.items() if key != '$class'}
+        return fields | {'class': archive['$objects'][value['$class'].data]['$classname']}
+    return resolved(archive['$top']['root'])
+
+
 def make_clip(path, seconds=2, size='320x240'):
     """A film with a moving picture and a tone, in codecs that no target takes as they are."""
     subprocess.run(['ffmpeg', '-v', 'error', '-y', '-f', 'lavfi', '-i', f'testsrc2=s={size}:r=25:d={seconds}',

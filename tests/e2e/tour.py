@@ -8,7 +8,7 @@ import os
 import subprocess
 import sys
 
-from accessible import Failure, extents, value_of, wait_for, walk
+from accessible import Failure, extents, value_of, wait_for
 from driver import Desktop
 from material import make_clip
 
@@ -49,17 +49,14 @@ class Walk:
         self.app.find('dialog')
         self.presents = True
 
-    def settings_controls(self, role):
-        return sorted((node for node in walk(self.app.find('dialog')) if node.get_role_name() == role), key=lambda node: extents(node)[1])
-
     def scroll_settings_to_end(self):
         """By the last of the section buttons, which are as wide as their column."""
-        buttons = [button for button in self.settings_controls('push button') if extents(button)[2] == 140]
-        self.desktop.click(buttons[-1])
+        buttons = [button for button in self.app.find_all('push button') if extents(button)[2] == 140]
+        self.desktop.click(max(buttons, key=lambda button: extents(button)[1]))
         self.desktop.move(0, 0)
 
     def search_settings(self):
-        self.desktop.click(self.settings_controls('text')[0])
+        self.desktop.click(min(self.app.find_all('text'), key=lambda field: extents(field)[1]))
         self.desktop.x('xdotool', 'type', 'folder')
         self.app.find('list item', 'dvd folder')
         self.desktop.key('Down', 'Down')

@@ -32,11 +32,10 @@ TEST(TranscodeCommandTest, Table)
     tenBit.isPlainVideo = false;
     const MediaInformation avc = mediaOf(u"AVC"_s, u"AAC"_s);
     const MediaInformation hevc = mediaOf(u"HEVC"_s, u"AAC"_s);
-    const MediaInformation silent = mediaOf(u"AVC"_s, {});
     const MediaInformation mp3 = mediaOf({}, u"MPEG Audio Layer 3"_s);
     const QString card = u"/dev/card7"_s;
-    const TranscodeOptions plain, copying{.autoCopy = true}, deinterlacing{.deinterlace = true, .autoCopy = true};
-    const TranscodeOptions best{.highQuality = true}, threads{.threads = 3};
+    const TranscodeOptions plain, copying{.autoCopy = true};
+    const TranscodeOptions threads{.threads = 3};
     const TranscodeOptions hardware{.hardwareDevice = card}, hardwareCopying{.hardwareDevice = card, .autoCopy = true};
     const TranscodeOptions hardwareBest{.hardwareDevice = card, .deinterlace = true, .highQuality = true};
     const struct {
@@ -51,23 +50,18 @@ TEST(TranscodeCommandTest, Table)
         {"picture", avc, Mp4, plain,
          "-map 0:V:0? -vf scale=ceil(iw/2)*2:ceil(ih/2)*2,format=yuv420p -c:v libx264;-sn -dn;-f mp4",
          "vaapi;copy;bwdif", false},
-        {"sound", avc, Mp4, plain, "-map 0:a:0? -c:a aac", "copy", false},
         {"files", avc, Mp4, plain, "-nostdin;-progress pipe:1;-i file:/in/-a: 100%d.mov; file:/out/.p.mp4", "", false},
         {"copies what fits", avc, Mp4, copying, "-c:v copy;-c:a copy", "-vf", true},
         {"copies half", hevc, Mkv, copying, "-c:v libx264;-c:a copy", "", true},
         {"copies nothing that does not fit", avc, WebM, copying, "libvpx-vp9;libopus", "copy", false},
         {"does not copy ten bits", tenBit, Mp4, copying, "libx264;-c:a copy", "", true},
-        {"does not copy what it deinterlaces", avc, Mp4, deinterlacing, "-vf bwdif,scale;libx264;-c:a copy", "", true},
         {"hardware", avc, Mkv, hardware, "/dev/card7 ;-c:v h264_vaapi;format=nv12,hwupload -c:v", "libx264;crf", true},
         {"best hardware", avc, Mp4, hardwareBest, "-vf bwdif,scale;lanczos;-qp 19;-b:a 256k", "-qp 23;crf", true},
         {"no hardware for another codec", avc, WebM, hardware, "libvpx", "vaapi;card7", false},
         {"no hardware for a copy", avc, Mp4, hardwareCopying, "-c:v copy", "vaapi;card7", true},
-        {"high quality", avc, Mp4, best, "-preset slow;lanczos;-b:a 256k", "medium", false},
         {"threads", avc, Mp4, threads, "-threads 3 -i;-threads 3 -f", "-threads 0", false},
-        {"sound of a video", avc, Mp3, copying, "-map 0:a:0? -c:a libmp3lame;-f mp3", "0:V;-vf", false},
         {"MP3 to MP3", mp3, Mp3, copying, "-c:a copy", "lame", true},
         {"sound to a video format", mp3, Mp4, hardware, "-c:a aac", "0:V;vaapi", false},
-        {"silent video", silent, Mkv, plain, "-c:v libx264", "0:a;-c:a", false},
     };
     const auto parts = [](const char *list) { return QString::fromLatin1(list).split(u';', Qt::SkipEmptyParts); };
     for (const auto &row : rows) {

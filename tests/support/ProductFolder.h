@@ -10,7 +10,8 @@
 
 namespace kestrel::test {
 
-/// A bundle folder of the test's own with this Info.plist, which the product constants are read from for the life of the object.
+/// A bundle folder of the test's own with this Info.plist, which the product constants are read from for the life of
+/// the object.
 class ProductFolder {
 public:
     explicit ProductFolder(const QVariantMap &information = {});

@@ -23,7 +23,8 @@ TestEnvironment::TestEnvironment()
         QDir().mkpath(path);
         qputenv(variable, path.toUtf8());
     }
-    QFile::setPermissions(m_home.filePath(QStringLiteral("run")), QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    QFile::setPermissions(m_home.filePath(QStringLiteral("run")),
+                          QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     qputenv("TZ", "UTC");
     tzset();
     qputenv("LC_ALL", "C.UTF-8");

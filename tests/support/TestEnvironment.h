@@ -6,8 +6,8 @@
 
 namespace kestrel::test {
 
-/// A fresh home folder with its XDG folders, UTC, the C locale and an offscreen display, for the life of the object. Made before the
-/// application object.
+/// A fresh home folder with its XDG folders, UTC, the C locale and an offscreen display, for the life of the object.
+/// Made before the application object.
 class TestEnvironment {
 public:
     TestEnvironment();

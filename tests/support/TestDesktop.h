@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Alerts.h"
+#include "Folders.h"
+#include "Installed.h"
+#include "WebPages.h"
+
+#include <QUrl>
+
+namespace kestrel::test {
+
+/// The alerts, folder panel and web browser while it lives: answers as it is told and notes what it was asked.
+class TestDesktop final : public tarnwell::AlertPresenter, public tarnwell::FolderPanel, public tarnwell::WebOpener {
+public:
+    tarnwell::AlertAnswer runModal(const tarnwell::Alert &alert) override
+    {
+        alerts.append(alert);
+        return answer;
+    }
+    QString chooseFolder(QWidget *, const QString &startFolder) override
+    {
+        startFolders.append(startFolder);
+        return folder;
+    }
+    bool openUrl(const QUrl &url) override
+    {
+        opened.append(url);
+        return true;
+    }
+
+    tarnwell::AlertAnswer answer = tarnwell::AlertAnswer::Default;
+    QString folder;
+    QList<tarnwell::Alert> alerts;
+    QStringList startFolders;
+    QList<QUrl> opened;
+
+private:
+    tarnwell::Installed<tarnwell::AlertPresenter> m_presenter{*this};
+    tarnwell::Installed<tarnwell::FolderPanel> m_panel{*this};
+    tarnwell::Installed<tarnwell::WebOpener> m_opener{*this};
+};
+
+}  // namespace kestrel::test
