@@ -10,6 +10,7 @@ DOWNLOAD_LISTS = (  # shown, picked, stored under, as
     ('Highest Resolution', '720P', 'rso', '720P'),
     ('mp4', 'flv', 'format', 'flv'),
 )
+SWITCHES = ('Open the output folder when done', 'Shut down the computer when done', 'Show notifications')
 
 
 class SettingsTest(ProgramTest):
@@ -49,7 +50,9 @@ class SettingsTest(ProgramTest):
         os.makedirs(video)
         app = self.launch()
         dialog = self.open(app)
-        self.click(app, 'check box', 'Show notifications')
+        for name in SWITCHES:
+            self.click(app, 'check box', name)
+        self.click(app, 'radio button', 'Off')
         self.choose(app, 'Choose… (Video, Video folder)', video)
         app.find('label', video)
         self.click(app, 'push button', 'DVD')
@@ -57,27 +60,38 @@ class SettingsTest(ProgramTest):
         self.click(app, 'push button', 'Download')
         for shown, picked, _, _ in DOWNLOAD_LISTS:
             self.pick(app, shown, picked)
+        self.choose(app, 'Choose… (Download, Music folder)', video)
         self.click(app, 'check box', 'Use a proxy')
         self.type_into(app, 'Proxy address', 'socks5://10.0.0.1')
         self.type_into(app, 'Proxy port', 'abc')
-        self.close(app, dialog)
+        # The end of the session finds the window open.
         self.assertEqual(app.end(), 0)
 
         downloader = self.stored('downloader')
         expected = {key: value for _, _, key, value in DOWNLOAD_LISTS}
-        expected |= {'proxyEnable': True, 'proxyURL': 'socks5://10.0.0.1', 'proxyPort': 'abc'}
+        expected |= {'proxyEnable': True, 'proxyURL': 'socks5://10.0.0.1', 'proxyPort': 'abc', 'audio_out': video}
         self.assertLessEqual(expected.items(), downloader.items())
         self.assertEqual(self.stored('dvd')['DVDAudioLanCode'], 'ja')
         self.assertEqual(self.stored('video')['video_out'], video)
+        self.assertEqual(self.stored('vars'), {'openFolder': False, 'shutdown': True, 'notify': False})
 
         app = self.launch()
         self.desktop.key('ctrl+comma')
-        app.find('dialog', 'Settings')
+        dialog = app.find('dialog', 'Settings')
         self.assertNotIn('checked', states(app.find('check box', 'Show notifications')))
+        self.assertIn('checked', states(app.find('radio button', 'Automatic')))
         self.assertIn('checked', states(app.find('check box', 'Use a proxy')))
         self.assertIn(video, app.texts())
+        self.click(app, 'push button', 'Download')
         for name in ('Unlimited', '720P', 'flv', 'Japanese'):
             app.find('combo box', name)
+        self.close(app, dialog)
+
+    def test_hardware_information_asks_the_transcoder(self):
+        app = self.launch()
+        self.open(app)
+        self.click(app, 'push button', 'Hardware Information')
+        wait_for(lambda: any('libx264' in text for text in app.texts()), 'the encoders of the transcoder')
 
     def test_search_goes_to_the_section(self):
         app = self.launch()
