@@ -9,6 +9,7 @@
 #include <QTextStream>
 #include <QThread>
 
+#include <atomic>
 #include <memory>
 
 #include <unistd.h>
@@ -60,7 +61,7 @@ int change(std::unique_ptr<QCoreApplication> application)
 int endWhileWaitedFor(std::unique_ptr<QCoreApplication> application)
 {
     QSemaphore isStarted;
-    bool ran = true;
+    std::atomic<bool> ran = true;
     queue::asyncGlobal([&] {
         isStarted.release();
         ran = queue::syncMain([] {});
