@@ -77,6 +77,7 @@ QString OutputFile::publish()
 QString OutputFile::createNew(const QString &prefix, const QString &suffix)
 {
     constexpr int maximumNumber = 9999;
+    int namesGivenBack = 0;
     for (int number = 0; number <= maximumNumber; ++number) {
         const QString numbering = number == 0 ? QString() : u" (%1)"_s.arg(number);
         QFile file(QDir(m_folder).filePath(fittingName(prefix, m_baseName, numbering + suffix)));
@@ -84,6 +85,12 @@ QString OutputFile::createNew(const QString &prefix, const QString &suffix)
             return file.fileName();
         const QFileInfo taken(file.fileName());
         if (!taken.exists() && !taken.isSymLink()) {
+            // Either the folder takes no file, or whoever had the name gave it back in between: then it is free now.
+            constexpr int patience = 10;
+            if (++namesGivenBack < patience) {
+                --number;
+                continue;
+            }
             m_reason = QFileInfo(m_folder).isDir()
                            ? failureIn(file.errorString()).sentence
                            : u"The output directory does not exist. Please check the setting."_s;
