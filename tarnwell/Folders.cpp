@@ -4,6 +4,7 @@
 #include "Installed.h"
 #include "Localization.h"
 #include "Log.h"
+#include "WebPages.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -26,6 +27,19 @@ bool canMakeFileIn(const QString &folder)
 }
 
 }  // namespace
+
+void openFolder(const QString &path)
+{
+    // What is stored may be of any length; the alert has to stay on the screen.
+    constexpr qsizetype shownCharacters = 500;
+    if (OpenDirectory(path))
+        return;
+    runAlert({.message = AppLocalizedString(u"The folder could not be opened."_s),
+              .defaultButton = AppLocalizedString(u"OK"_s),
+              .alternateButton = {},
+              .informativeText = path.left(shownCharacters).simplified(),
+              .style = AlertStyle::Warning});
+}
 
 QString chooseFolder(QWidget *parent, const QString &startFolder)
 {

@@ -21,4 +21,7 @@ QString chooseFolder(QWidget *parent, const QString &startFolder);
 /// logged and told to the user in an alert.
 bool checkFolderWritable(const QString &path);
 
+/// Shows a folder in the user's file manager; an alert tells where that cannot be done.
+void openFolder(const QString &path);
+
 }  // namespace kestrel::tarnwell

@@ -1,12 +1,10 @@
 #include "OutputFolderLine.h"
 
-#include "Alerts.h"
+#include "Folders.h"
 #include "Images.h"
 #include "JKestrelSettingDispatcher.h"
-#include "Localization.h"
 #include "NotificationCenter.h"
 #include "TextStyles.h"
-#include "WebPages.h"
 #include "ui_OutputFolderLine.h"
 
 #include <QDir>
@@ -42,13 +40,7 @@ void OutputFolderLine::showFolder()
 
 void OutputFolderLine::openFolder()
 {
-    if (tarnwell::OpenDirectory(m_dispatcher->getVideoDir()))
-        return;
-    tarnwell::runAlert({.message = tarnwell::AppLocalizedString(u"The folder could not be opened."_s),
-                        .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
-                        .alternateButton = {},
-                        .informativeText = m_dispatcher->getVideoDir(),
-                        .style = tarnwell::AlertStyle::Warning});
+    tarnwell::openFolder(m_dispatcher->getVideoDir());
 }
 
 }  // namespace kestrel

@@ -1,20 +1,16 @@
 #include "JKestrelSettingController.h"
 
-#include "Alerts.h"
 #include "FolderRow.h"
 #include "Folders.h"
 #include "JKestrelSetting.h"
 #include "JKestrelSettingDispatcher.h"
 #include "KeyPathBinder.h"
-#include "Localization.h"
 #include "NXHardwareInfoController.h"
 #include "NotificationCenter.h"
 #include "SettingLists.h"
-#include "WebPages.h"
 #include "ui_JKestrelSettingController.h"
 
 using namespace Qt::StringLiterals;
-using kestrel::tarnwell::AppLocalizedString;
 
 namespace kestrel {
 
@@ -138,14 +134,7 @@ void JKestrelSettingController::openFolder(int folder, const QWidget *sender)
     const JSettingBase *module = getSettingObjectWithID(tagOf(sender));
     if (!module)
         return;
-    const QString path = module->property(folderProperty(folder).toLatin1()).toString();
-    if (tarnwell::OpenDirectory(path))
-        return;
-    tarnwell::runAlert({.message = AppLocalizedString(u"The folder could not be opened."_s),
-                        .defaultButton = AppLocalizedString(u"OK"_s),
-                        .alternateButton = {},
-                        .informativeText = path,
-                        .style = tarnwell::AlertStyle::Warning});
+    tarnwell::openFolder(module->property(folderProperty(folder).toLatin1()).toString());
 }
 
 void JKestrelSettingController::onDVDLanguageChangeAction()

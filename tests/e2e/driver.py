@@ -232,6 +232,8 @@ class Desktop:
         if not os.path.exists(path):
             raise Failure(f'no picture of window {window}')
 
+    scale = 1  # pixels a point, of the programs under way
+
     def hover(self, node):
         """Moves the pointer onto the control, once that stands still."""
         place = []
@@ -240,7 +242,8 @@ class Desktop:
             return len(place) > 1 and place[-1] == place[-2] and place[-1][2] > 0
         wait_for(is_still, 'a control to stand still')
         x, y, width, height = place[-1]
-        self.move(x + width // 2, y + height // 2)
+        # Controls report points, the pointer moves in pixels.
+        self.move(round((x + width / 2) * self.scale), round((y + height / 2) * self.scale))
 
     def move(self, x, y):
         self.x('xdotool', 'mousemove', x, y)

@@ -19,6 +19,7 @@ class Walk:
         desktop.set_defaults(bundle, kAppCustomizeLanguage=language)
         desktop.move(0, 0)
         self.desktop, self.bundle, self.presents = desktop, bundle, False
+        desktop.scale = scale
         self.app = desktop.launch(bundle, QT_SCALE_FACTOR=str(scale))
 
     def at_home(self):
