@@ -3,9 +3,11 @@
 #include "DesktopAlertPresenter.h"
 #include "DesktopFolderPanel.h"
 #include "DesktopWebOpener.h"
+#include "Fetch.h"
 #include "HeronController.h"
 #include "Installed.h"
 #include "InterfaceLanguage.h"
+#include "JKestrelAboutController.h"
 #include "JKestrelSetting.h"
 #include "JKestrelSettingController.h"
 #include "LanguageTags.h"
@@ -28,9 +30,9 @@
 #include <QIcon>
 #include <QLibraryInfo>
 #include <QProcess>
+#include <QRandomGenerator>
 #include <QSessionManager>
 #include <QStandardPaths>
-#include <QThreadPool>
 #include <QTranslator>
 
 #include <cstdio>
@@ -81,18 +83,26 @@ void presentSettings(QWidget *overWindow)
     JKestrelSettingController::loadDefaultWindowController().presentForWindow(overWindow);
 }
 
-AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults)
+void presentAbout(QWidget *overWindow)
+{
+    JKestrelAboutController::loadDefaultWindowController().presentForWindow(overWindow);
+}
+
+AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults, foundation::Fetcher &fetcher)
 {
     return {
         .setting = JKestrelSetting::ShareInst(),
         .defaults = defaults,
         .modules = {factoryOf<MarlinController>(), factoryOf<HeronController>(), factoryOf<PetrelController>(),
                     factoryOf<PloversController>()},
-        .windows = {.setting = presentSettings},
+        .windows = {.setting = presentSettings, .about = presentAbout},
         // Not quit(): that asks every window first, and a module may refuse to close.
         .terminate = [] { QCoreApplication::exit(); },
         .startProcess = [](const QString &program,
                            const QStringList &arguments) { return QProcess::startDetached(program, arguments); },
+        .updates = {.fetch = [&fetcher](const foundation::FetchRequest &request) { return fetcher.fetch(request); },
+                    .today = QDate::currentDate,
+                    .draw = [] { return QRandomGenerator::system()->generate(); }},
     };
 }
 
@@ -139,7 +149,8 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
     tarnwell::applyTheme(application);
 
-    AppDelegate delegate(surroundings(defaults));
+    foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s));
+    AppDelegate delegate(surroundings(defaults, fetcher));
     const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(delegate);
     const TerminationSignals signalsOfTheSystem;
     connectEndings(application, delegate, signalsOfTheSystem);
@@ -152,9 +163,8 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     instance.listen();
     foundation::queue::afterMain(std::chrono::milliseconds(250), setWindowIcon);
     const int status = QApplication::exec();
-    // Background jobs use what goes from here on, and may be waiting for the main thread.
-    while (!QThreadPool::globalInstance()->waitForDone(20))
-        QCoreApplication::sendPostedEvents();
+    fetcher.abandon();
+    foundation::queue::finishGlobal();
     return status;
 }
 

@@ -11,6 +11,7 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
 option(KESTREL_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KESTREL_BENCHMARKS "Build the benchmarks" OFF)
+option(KESTREL_FUZZ "Build the fuzz targets; needs clang" OFF)
 set(KESTREL_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
 
 find_program(CCACHE_PROGRAM ccache)
@@ -25,6 +26,9 @@ endif()
 if(KESTREL_SANITIZE)
     add_compile_options(-fsanitize=${KESTREL_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${KESTREL_SANITIZE})
+endif()
+if(KESTREL_FUZZ)
+    add_compile_definitions(QT_FORCE_ASSERTS)
 endif()
 add_compile_definitions(QT_NO_CAST_FROM_ASCII QT_NO_CAST_TO_ASCII QT_NO_URL_CAST_FROM_STRING
                         QT_DISABLE_DEPRECATED_BEFORE=0x060400)

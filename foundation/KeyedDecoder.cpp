@@ -1,8 +1,7 @@
 #include "KeyedArchive.h"
-#include "PropertyList.h"
 
-#include <cmath>
-#include <limits>
+#include "Numbers.h"
+#include "PropertyList.h"
 
 using namespace Qt::StringLiterals;
 
@@ -30,16 +29,6 @@ namespace {
 QString stringIn(const QVariant &value)
 {
     return propertyListType(value) == PropertyListType::String ? value.toString() : QString();
-}
-
-qint64 clampedInteger(double value)
-{
-    using Limits = std::numeric_limits<qint64>;
-    if (std::isnan(value))
-        return 0;
-    if (value >= 0x1p63)
-        return Limits::max();
-    return value <= -0x1p63 ? Limits::min() : qint64(value);
 }
 
 }  // namespace
@@ -164,10 +153,7 @@ bool KeyedDecoder::decodeBool(const QString &key) const
 
 qint64 KeyedDecoder::decodeInteger(const QString &key) const
 {
-    const QVariant value = number(key);
-    if (value.typeId() == QMetaType::ULongLong)
-        return std::numeric_limits<qint64>::max();
-    return value.typeId() == QMetaType::Double ? clampedInteger(value.toDouble()) : value.toLongLong();
+    return integerValue(number(key));
 }
 
 double KeyedDecoder::decodeDouble(const QString &key) const

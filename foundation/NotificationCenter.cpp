@@ -11,18 +11,18 @@ NotificationCenter &NotificationCenter::defaultCenter()
 }
 
 QMetaObject::Connection NotificationCenter::addObserver(QObject *context, const QString &name,
-                                                        std::function<void(QObject *)> observer)
+                                                        std::function<void(const QObject *)> observer)
 {
     return connect(
         this, &NotificationCenter::posted, context,
-        [name, observer = std::move(observer)](const QString &postedName, QObject *object) {
+        [name, observer = std::move(observer)](const QString &postedName, const QObject *object) {
             if (postedName == name)
                 observer(object);
         },
         Qt::DirectConnection);
 }
 
-void NotificationCenter::postNotificationName(const QString &name, QObject *object)
+void NotificationCenter::postNotificationName(const QString &name, const QObject *object)
 {
     emit posted(name, object);
 }

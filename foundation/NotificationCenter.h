@@ -16,11 +16,12 @@ public:
 
     /// `observer` gets the posted object (often null). It is forgotten when `context` goes, or by disconnecting the
     /// result.
-    QMetaObject::Connection addObserver(QObject *context, const QString &name, std::function<void(QObject *)> observer);
-    void postNotificationName(const QString &name, QObject *object = nullptr);
+    QMetaObject::Connection addObserver(QObject *context, const QString &name,
+                                        std::function<void(const QObject *)> observer);
+    void postNotificationName(const QString &name, const QObject *object = nullptr);
 
 signals:
-    void posted(const QString &name, QObject *object);
+    void posted(const QString &name, const QObject *object);
 };
 
 }  // namespace kestrel::foundation

@@ -1,8 +1,24 @@
 #include "Numbers.h"
 
+#include <algorithm>
+#include <cmath>
 #include <limits>
 
 namespace kestrel::foundation {
+
+namespace {
+
+qint64 clampedInteger(double value)
+{
+    using Limits = std::numeric_limits<qint64>;
+    if (std::isnan(value))
+        return 0;
+    if (value >= 0x1p63)
+        return Limits::max();
+    return value <= -0x1p63 ? Limits::min() : qint64(value);
+}
+
+}  // namespace
 
 qint64 lenientInteger(QStringView text)
 {
@@ -22,6 +38,24 @@ qint64 lenientInteger(QStringView text)
     if (negative)
         return value;
     return value == std::numeric_limits<qint64>::min() ? std::numeric_limits<qint64>::max() : -value;
+}
+
+qint64 integerValue(const QVariant &value)
+{
+    switch (value.typeId()) {
+        case QMetaType::QString:
+            return lenientInteger(value.toString());
+        case QMetaType::Bool:
+        case QMetaType::Int:
+        case QMetaType::LongLong:
+            return value.toLongLong();
+        case QMetaType::ULongLong:
+            return qint64(std::min<quint64>(value.toULongLong(), std::numeric_limits<qint64>::max()));
+        case QMetaType::Double:
+            return clampedInteger(value.toDouble());
+        default:
+            return 0;
+    }
 }
 
 }  // namespace kestrel::foundation

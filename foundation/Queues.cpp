@@ -19,6 +19,7 @@ namespace kestrel::foundation::queue {
 namespace {
 
 constexpr int endCheckIntervalMs = 20;
+constexpr int maximumThreads = 16;  ///< most of the jobs wait, for the network or another program
 
 /// `job`, with the hand-over between the threads told to the thread sanitizer, which does not see into Qt's queues.
 Job announced(Job job)
@@ -33,6 +34,17 @@ Job announced(Job job)
 #else
     return job;
 #endif
+}
+
+/// Not Qt's global pool: painting takes its threads from that, and would wait for jobs that wait for the network.
+QThreadPool &backgroundThreads()
+{
+    static QThreadPool pool;
+    [[maybe_unused]] static const bool isSetUp = [] {
+        pool.setMaxThreadCount(maximumThreads);
+        return true;
+    }();
+    return pool;
 }
 
 }  // namespace
@@ -81,7 +93,18 @@ bool syncMain(const Job &job)
 
 void asyncGlobal(Job job)
 {
-    QThreadPool::globalInstance()->start(announced(std::move(job)));
+    backgroundThreads().start(announced(std::move(job)));
+}
+
+void afterGlobal(std::chrono::milliseconds delay, Job job)
+{
+    afterMain(delay, [job = std::move(job)]() mutable { asyncGlobal(std::move(job)); });
+}
+
+void finishGlobal()
+{
+    while (!backgroundThreads().waitForDone(endCheckIntervalMs))
+        QCoreApplication::sendPostedEvents();
 }
 
 }  // namespace kestrel::foundation::queue

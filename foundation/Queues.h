@@ -23,4 +23,11 @@ bool syncMain(const Job &job);
 /// Runs `job` on a background thread. The application's end waits for running jobs, so a job must be bounded in time.
 void asyncGlobal(Job job);
 
+/// As `asyncGlobal`, no sooner than `delay` from now.
+void afterGlobal(std::chrono::milliseconds delay, Job job);
+
+/// Waits on the main thread until all background jobs have ended, and runs what they wait for there meanwhile. For the
+/// application's end, after its event loop: jobs use what goes from then on.
+void finishGlobal();
+
 }  // namespace kestrel::foundation::queue

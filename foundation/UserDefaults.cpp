@@ -3,6 +3,7 @@
 #include "Bundle.h"
 #include "DefaultsFile.h"
 #include "LanguageTags.h"
+#include "Numbers.h"
 #include "PropertyList.h"
 #include "StandardFolders.h"
 
@@ -129,6 +130,11 @@ bool UserDefaults::boolForKey(const QString &key) const
         default:
             return false;
     }
+}
+
+qint64 UserDefaults::integerForKey(const QString &key) const
+{
+    return integerValue(objectForKey(key));
 }
 
 QByteArray UserDefaults::dataForKey(const QString &key) const

@@ -30,9 +30,11 @@ public:
     /// "AppleLanguages".
     static UserDefaults &standardUserDefaults();
 
-    QVariant objectForKey(const QString &key) const;          ///< invalid where no layer has it
-    QString stringForKey(const QString &key) const;           ///< null where absent or another type
-    bool boolForKey(const QString &key) const;                ///< numbers other than 0 and "YES", "true", "1" are true
+    QVariant objectForKey(const QString &key) const;  ///< invalid where no layer has it
+    QString stringForKey(const QString &key) const;   ///< null where absent or another type
+    bool boolForKey(const QString &key) const;        ///< numbers other than 0 and "YES", "true", "1" are true
+    /// Numbers are truncated, texts read leniently (Numbers.h); 0 where absent or another type.
+    qint64 integerForKey(const QString &key) const;
     QByteArray dataForKey(const QString &key) const;          ///< null where absent or another type
     QStringList stringArrayForKey(const QString &key) const;  ///< empty where absent or where any entry is no string
 

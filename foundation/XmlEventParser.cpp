@@ -28,6 +28,7 @@ struct XmlEventParser::Session {
     std::optional<XmlError> error = {};
     int depth = 0;
     int entities = 0;
+    QList<XmlAttribute> attributes = {};
 
     void fail(const QString &message)
     {
@@ -70,12 +71,12 @@ void XMLCALL XmlEventParser::Session::started(void *data, const XML_Char *name, 
         return;
     if (++session.depth > session.owner.m_limits.depth)
         return session.fail(u"elements are nested deeper than %1"_s.arg(session.owner.m_limits.depth));
-    QList<XmlAttribute> list;
+    session.attributes.clear();
     // A default from the DTD costs the input nothing and would be copied for every element.
     const int count = XML_GetSpecifiedAttributeCount(session.expat.get());
     for (int i = 0; i < count; i += 2)
-        list.append({QString::fromUtf8(attributes[i]), QString::fromUtf8(attributes[i + 1])});
-    session.delegate.startElement(session.owner, QUtf8StringView(name), list);
+        session.attributes.append({QUtf8StringView(attributes[i]), QUtf8StringView(attributes[i + 1])});
+    session.delegate.startElement(session.owner, QUtf8StringView(name), session.attributes);
 }
 
 void XMLCALL XmlEventParser::Session::ended(void *data, const XML_Char *name)

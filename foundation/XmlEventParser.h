@@ -10,8 +10,8 @@
 namespace kestrel::foundation {
 
 struct XmlAttribute {
-    QString name;
-    QString value;
+    QUtf8StringView name;
+    QUtf8StringView value;
 };
 
 struct XmlError {

@@ -6,6 +6,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QRegularExpression>
+#include <QSaveFile>
 #include <QThread>
 
 #include <atomic>
@@ -16,6 +17,8 @@ using namespace Qt::StringLiterals;
 namespace kestrel::tarnwell {
 
 namespace {
+
+constexpr qsizetype maximumTextLength = 100'000;
 
 QString threadName()
 {
@@ -42,19 +45,24 @@ void logMessage(QtMsgType type, const QMessageLogContext &context, const QString
 
 }  // namespace
 
-QString withoutPrivateParts(const QString &text, const QString &homeFolder)
+QString withoutPrivateParts(const QString &text, const QString &homeFolder, const QString &userName)
 {
+    // Whole path components, at the end of a sentence too.
+    static const QString endOfComponent = u"(?![\\w-]|\\.\\w)"_s;
+    const auto replaceComponents = [](QString &where, const QString &before, const QString &name) {
+        if (name.isEmpty() || name == "/"_L1 || !where.contains(name))
+            return;
+        where.replace(QRegularExpression(before + QRegularExpression::escape(name) + endOfComponent,
+                                         QRegularExpression::UseUnicodePropertiesOption),
+                      u"~"_s);
+    };
     // Up to the last "@" of the authority: passwords hold "@" as well.
     static const QRegularExpression credentials(u"(\\b[a-zA-Z][a-zA-Z0-9+.-]*://)[^/?#\\s]*@"_s);
     QString result = text;
     result.replace(credentials, u"\\1"_s);
-    if (homeFolder.size() > 1 && result.contains(homeFolder)) {
-        // Whole path components, at the end of a sentence too.
-        const QRegularExpression home(
-            u"(?<![\\w.-])"_s + QRegularExpression::escape(homeFolder) + u"(?![\\w-]|\\.\\w)"_s,
-            QRegularExpression::UseUnicodePropertiesOption);
-        result.replace(home, u"~"_s);
-    }
+    replaceComponents(result, u"(?<![\\w.-])"_s, homeFolder);
+    for (const QString &name : {QFileInfo(homeFolder).fileName(), userName})
+        replaceComponents(result, u"(?<=/)"_s, name);
     result.remove(u'\r');
     result.replace(u'\n', u"\n    "_s);
     return result;
@@ -76,11 +84,18 @@ Log::Log(const QString &folder, qint64 maximumBytes)
 
 void Log::append(const QString &text)
 {
+    const QString shown =
+        withoutPrivateParts(text.left(maximumTextLength), QDir::homePath(), qEnvironmentVariable("USER"));
     const QString line = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s) + u" ["_s + threadName() +
-                         u"] "_s + withoutPrivateParts(text, QDir::homePath()) + u'\n';
+                         u"] "_s + shown + u'\n';
     const QByteArray bytes = line.toUtf8();
     const QMutexLocker locker(&m_mutex);
-    if (!m_file.isOpen() || m_file.write(bytes) != bytes.size()) {
+    if (!m_file.isOpen()) {
+        writeToStandardError(bytes);
+        return;
+    }
+    if (m_file.write(bytes) != bytes.size()) {
+        m_file.resize(m_size);  // no part of a line, so that the next one begins one
         writeToStandardError(bytes);
         return;
     }
@@ -100,10 +115,18 @@ void Log::dropOldestLines()
     m_file.seek(m_size - m_maximumBytes / 2);
     m_file.readLine();
     const QByteArray kept = "… older lines were left out\n" + m_file.readAll();
-    m_file.resize(0);
-    m_file.seek(0);
-    m_file.write(kept);
-    m_size = kept.size();
+    // Replaced whole, so that no crash takes the lines along; where there is no room for two, in its place.
+    QSaveFile shortened(m_file.fileName());
+    if (shortened.open(QIODevice::WriteOnly) && shortened.write(kept) == kept.size() && shortened.commit()) {
+        m_file.close();
+        if (!m_file.open(QIODevice::ReadWrite | QIODevice::Unbuffered))
+            return;
+        m_file.seek(kept.size());
+    } else {
+        m_file.resize(0);
+        m_file.write(kept);
+    }
+    m_size = m_file.size();
 }
 
 void DNFootLog(const QString &text)

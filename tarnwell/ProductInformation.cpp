@@ -28,6 +28,11 @@ QString GetBuildDate()
     return productBundle().infoString(u"TWBuildDate"_s);
 }
 
+QString applicationNameAndVersion()
+{
+    return u"%1 (%2)"_s.arg(GetApplicationName(), GetAppCurrentVersion());
+}
+
 QString AppGroupName()
 {
     return productBundle().infoString(u"TWGroupName"_s);

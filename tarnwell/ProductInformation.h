@@ -14,9 +14,10 @@ namespace kestrel::tarnwell {
 /// (`Installed<const foundation::Bundle>`).
 const foundation::Bundle &productBundle();
 
-QString GetApplicationName();    ///< "Kestrel Converter 4K"
-QString GetAppCurrentVersion();  ///< "1.0.0"
-QString GetBuildDate();          ///< "2026-11-21"
+QString GetApplicationName();         ///< "Kestrel Converter 4K"
+QString GetAppCurrentVersion();       ///< "1.0.0"
+QString GetBuildDate();               ///< "2026-11-21"
+QString applicationNameAndVersion();  ///< "Kestrel Converter 4K (1.0.0)", the subject of messages to the support
 QString AppGroupName();
 QString AppHelpLink();
 QString AppLaunchLink();        ///< the install-tracking page

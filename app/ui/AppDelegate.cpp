@@ -9,6 +9,7 @@
 #include "LanguageTags.h"
 #include "Localization.h"
 #include "Log.h"
+#include "LoggerWatcherTask.h"
 #include "NotificationCenter.h"
 #include "ProductInformation.h"
 #include "Queues.h"
@@ -28,8 +29,6 @@ using kestrel::tarnwell::AppLocalizedString;
 namespace kestrel {
 
 namespace {
-
-const QString notSafeTerminateKey = u"KestrelNotSafeTerminate"_s;
 
 /// The state of the tip entry when it was last chosen.
 bool tipFlag = false;
@@ -71,6 +70,7 @@ void AppDelegate::makeStandardMenus()
     const MenuEntry application[] = {
         {QT_TRANSLATE_NOOP("TarnwellPublic", "About Kestrel"),
          hasAbout ? Action([this] { m_appController->onShowAbout(); }) : Action()},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Check for Updates…"), [this] { onCheckUpdateAction(); }},
         {},
         {QT_TRANSLATE_NOOP("TarnwellPublic", "Preferences…"),
          hasSetting ? Action([this] { onPreferencesAction(); }) : Action(), Qt::CTRL | Qt::Key_Comma},
@@ -105,10 +105,17 @@ void AppDelegate::applicationDidFinishLaunching()
         if (self)
             self->checkBugReportFlagWhenLaunch();
     });
+    foundation::queue::afterGlobal(500ms, [self = QPointer(this)] {
+        if (self)
+            self->checkUpgradesAutomatically();
+    });
 }
 
 void AppDelegate::applicationWillTerminate()
 {
+    m_hasTerminated = true;
+    if (const auto viewer = loggerWatcherTask())
+        viewer->terminate();
     // A window that is presented over these closes with them, and stores what was typed into it.
     m_window->hide();
     if (KestrelController *home = m_appController->menuController())
@@ -119,17 +126,20 @@ void AppDelegate::applicationWillTerminate()
 void AppDelegate::save()
 {
     m_appController->applicationWillTerminate();
-    m_surroundings.defaults.setObject(false, notSafeTerminateKey);
+    setNotSafeTerminate(false);
     m_surroundings.defaults.synchronize();
 }
 
 void AppDelegate::sessionWillEnd()
 {
+    m_sessionIsEnding = true;
     save();
     // Nobody tells that a session goes on, only that it ends.
     foundation::queue::afterMain(30s, [self = QPointer(this)] {
-        if (self)
-            self->m_surroundings.defaults.setObject(true, notSafeTerminateKey);
+        if (!self)
+            return;
+        self->m_sessionIsEnding = false;
+        self->setNotSafeTerminate(true);
     });
 }
 
@@ -140,17 +150,11 @@ void AppDelegate::startedAgain(const QStringList &files)
         m_appController->openFiles(files);
 }
 
-void AppDelegate::checkBugReportFlagWhenLaunch()
-{
-    m_surroundings.defaults.setObject(true, notSafeTerminateKey);
-}
-
 void AppDelegate::appendNewMenuItems()
 {
-    // The log viewer and the problem report are not part of this build yet: their entries wait disabled.
     const MenuEntry entries[] = {{},
-                                 {QT_TRANSLATE_NOOP("TarnwellPublic", "App Log")},
-                                 {QT_TRANSLATE_NOOP("TarnwellPublic", "Report Bug")},
+                                 {QT_TRANSLATE_NOOP("TarnwellPublic", "App Log"), [this] { showApplicationLog(); }},
+                                 {QT_TRANSLATE_NOOP("TarnwellPublic", "Report Bug"), [this] { sendBugTypeEmail(); }},
                                  {QT_TRANSLATE_NOOP("TarnwellPublic", "Reset Profiles"), [this] { resetProfiles(); }}};
     MainMenu::append(*m_mainMenu.helpMenu(), entries);
 }
@@ -242,11 +246,6 @@ QString AppDelegate::traceSuffix(const QString &tag) const
 QString AppDelegate::phpRedirectLink(const QString &fui, const QString &jump) const
 {
     return m_surroundings.setting.makePHPParams(fui, jump);
-}
-
-QString AppDelegate::supportLink(QString SupportLinks::*field) const
-{
-    return m_upConfigure ? (*m_upConfigure).*field : QString();
 }
 
 }  // namespace kestrel

@@ -1,9 +1,12 @@
 #pragma once
 
 #include "AppController.h"
+#include "AppWndTRButtonConfig.h"
+#include "Fetch.h"
 #include "MainMenu.h"
 #include "WebPages.h"
 
+#include <QDate>
 #include <QObject>
 
 #include <functional>
@@ -15,19 +18,22 @@ namespace kestrel {
 /// Broadcast, without an object, when the user has confirmed to reset the conversion profiles; the modules own them.
 inline constexpr QStringView keyResetProfilesNotification = u"keyResetProfilesNotification";
 
-/// Titles and addresses of the Help menu's support entries, as the update descriptor names them.
-struct SupportLinks {
-    QString dlSupportLinkTitleReg;
-    QString dlSupportLinkURLReg;
-    QString dl300PlusTitleReg;
-    QString dl300PlusURLReg;
-};
+class LoggerWatcherTask;
+class UPParser;
+struct UpdateContext;
 
 /// The application's delegate: owns main window, menus and module host, adds the shell's own menu entries, and carries
 /// launch and termination. Main thread only.
 class AppDelegate : public QObject, public tarnwell::WebLinkDelegate {
     Q_OBJECT
 public:
+    /// What the update check gets from outside. `fetch` is called on background threads.
+    struct UpdateSources {
+        foundation::Fetch fetch;
+        std::function<QDate()> today;
+        std::function<quint32()> draw;  ///< a random number, uniform over its 32 bits
+    };
+
     struct Surroundings {
         JKestrelSetting &setting;
         foundation::UserDefaults &defaults;
@@ -36,16 +42,20 @@ public:
         std::function<void()> terminate;  ///< ends the application after the present event
         /// Starts a program that lives on by itself; false where it cannot be started.
         std::function<bool(const QString &program, const QStringList &arguments)> startProcess;
+        UpdateSources updates;
     };
 
-    /// What is referred to in `surroundings` outlives the delegate.
+    /// What is referred to in `surroundings` outlives the delegate. The delegate itself outlives its background jobs:
+    /// whoever takes it down after a launch waits for them first (`queue::finishGlobal`).
     explicit AppDelegate(Surroundings surroundings);
     ~AppDelegate() override;
 
     tarnwell::JTitledWindow *window() const { return m_window.get(); }
     AppController *appController() const { return m_appController.get(); }
     MainMenu &mainMenu() { return m_mainMenu; }
-    void setUpConfigure(const SupportLinks &links) { m_upConfigure = links; }
+    /// The update descriptor of this run; null until it has been fetched, and where that failed.
+    const std::shared_ptr<const UPParser> &upConfigure() const { return m_upConfigure; }
+    void setUpConfigure(std::shared_ptr<const UPParser> descriptor) { m_upConfigure = std::move(descriptor); }
 
     void applicationWillFinishLaunching();
     void applicationDidFinishLaunching();
@@ -63,16 +73,31 @@ public:
     void resetProfiles();
     void onPreferencesAction();
     void showHelp();
+
+    /// Shows this run's log in the log viewer, unless one is open already.
+    void showApplicationLog();
+    /// Null unless the log viewer runs, or is being started.
+    std::shared_ptr<LoggerWatcherTask> loggerWatcherTask() const;
+    /// Opens a message to the support with a copy of the previous run's log.
+    void sendBugTypeEmail();
+    /// Offers that after a run that did not end in order, and marks this one as under way.
     void checkBugReportFlagWhenLaunch();
 
     QString traceSuffix(const QString &tag) const override;
     QString phpRedirectLink(const QString &fui, const QString &jump) const override;
 
-    // Null until the update descriptor has been read.
-    QString titleOfSupportField() const { return supportLink(&SupportLinks::dlSupportLinkTitleReg); }
-    QString URLOfSupportField() const { return supportLink(&SupportLinks::dlSupportLinkURLReg); }
-    QString titleOf300PlusSupportField() const { return supportLink(&SupportLinks::dl300PlusTitleReg); }
-    QString URLOf300PlusSupportField() const { return supportLink(&SupportLinks::dl300PlusURLReg); }
+    /// Fetches the descriptor and shows the update window, a promotion, or nothing. Called once a launch, on a
+    /// background thread.
+    void checkUpgradesAutomatically();
+    /// Opens the update window, which makes a check of its own.
+    void onCheckUpdateAction();
+
+    // Null while there is no descriptor.
+    QString titleOfSupportField() const;
+    QString URLOfSupportField() const;
+    QString titleOf300PlusSupportField() const;
+    QString URLOf300PlusSupportField() const;
+    std::optional<tarnwell::AppWndTRButtonConfig> topRightWndBtnConfig() const;
 
 private:
     void makeStandardMenus();
@@ -80,13 +105,19 @@ private:
     void setupLanuageMenu();
     void restartApplication();
     void save();
-    QString supportLink(QString SupportLinks::*field) const;
+    void setNotSafeTerminate(bool isNotSafe);
+    UpdateContext updateContext() const;
+    void showWhatIsDue(const std::shared_ptr<const UPParser> &descriptor, const QString &url);
+    void fetchPromotion(const std::shared_ptr<const UPParser> &descriptor, const QString &today);
 
     Surroundings m_surroundings;
     std::unique_ptr<tarnwell::JTitledWindow> m_window;
     MainMenu m_mainMenu;
     std::unique_ptr<AppController> m_appController;
-    std::optional<SupportLinks> m_upConfigure;
+    std::shared_ptr<const UPParser> m_upConfigure;
+    std::shared_ptr<LoggerWatcherTask> m_loggerWatcherTask;  ///< the latest
+    bool m_hasTerminated = false;
+    bool m_sessionIsEnding = false;
 };
 
 }  // namespace kestrel

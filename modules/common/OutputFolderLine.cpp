@@ -20,7 +20,7 @@ OutputFolderLine::OutputFolderLine(QWidget *parent) : QWidget(parent), m_form(st
     tarnwell::setTextStyle(m_form->folderCaption, 13, QFont::Normal, tarnwell::palette::quietText);
     connect(m_form->openFolderButton, &QPushButton::clicked, this, &OutputFolderLine::openFolder);
     foundation::NotificationCenter::defaultCenter().addObserver(
-        this, keyKestrelSettingDidChangedNotification.toString(), [this](QObject *) { showFolder(); });
+        this, keyKestrelSettingDidChangedNotification.toString(), [this](const QObject *) { showFolder(); });
 }
 
 OutputFolderLine::~OutputFolderLine() = default;

@@ -129,6 +129,14 @@ QIcon IconNamed(const QString &name)
     return QIcon(new NamedIconEngine(name));
 }
 
+QPixmap ApplicationIcon(int size, qreal scale)
+{
+    QIcon icon(productBundle().resource(u"Kestrel.icns"_s));
+    if (icon.availableSizes().isEmpty())
+        icon = QIcon(productBundle().resource(u"icons/hicolor/512x512/apps/kestrel.png"_s));
+    return icon.pixmap(QSize(size, size), scale);
+}
+
 void drawCrisp(QPainter &painter, const QPointF &topLeft, const QPixmap &pixmap)
 {
     // At 150 % every other point falls between two pixels of the screen.

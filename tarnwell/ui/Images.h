@@ -20,6 +20,10 @@ QString ImagePathNamed(const QString &name, qreal scale);
 /// An icon of the same, which picks the rendering by the screen that it is painted on. Larger places do not enlarge it.
 QIcon IconNamed(const QString &name);
 
+/// The application's icon in this size, in points; from the bundle's "Kestrel.icns", or where the system cannot read that
+/// from its icon for the desktop.
+QPixmap ApplicationIcon(int size, qreal scale);
+
 /// Draws a pixmap at its own size with its pixels on those of the screen, at the place nearest to `topLeft`.
 void drawCrisp(QPainter &painter, const QPointF &topLeft, const QPixmap &pixmap);
 

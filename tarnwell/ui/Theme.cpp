@@ -115,6 +115,9 @@ QRadioButton::indicator:unchecked:focus { width: 14px; height: 14px; border: 2px
 QAbstractItemView, QTextEdit, QPlainTextEdit { background: <surface>; border: 1px solid <line>; border-radius: 6px;
     selection-background-color: <accentTint>; selection-color: <text>; outline: none; gridline-color: <line> }
 QAbstractItemView:focus, QTextEdit:focus, QPlainTextEdit:focus { border-color: <accent> }
+QTextEdit[quiet="true"] { background: transparent; border-color: transparent }
+QTextEdit[quiet="true"]:focus { border-color: <accent> }
+QFrame[card="true"] { background: <quietSurface>; border: 1px solid <line>; border-radius: 6px }
 QAbstractItemView::item:hover { background: <quietSurface> }
 QAbstractItemView::item:selected { background: <accentTint>; color: <text> }
 QHeaderView { border: none; border-radius: 0 }

@@ -2,8 +2,11 @@
 
 #include "JKestrelSetting.h"
 #include "JTitledWindow.h"
+#include "Log.h"
+#include "LoggerWatcherTask.h"
 #include "NotificationCenter.h"
 #include "ProductFolder.h"
+#include "RecordingMailProgram.h"
 #include "RecordingModule.h"
 #include "TestDesktop.h"
 #include "TestEnvironment.h"
@@ -38,7 +41,10 @@ protected:
                                       .modules = {.converter = converter},
                                       .windows = {},
                                       .terminate = [this] { m_events.append(u"terminate"_s); },
-                                      .startProcess = startProcess});
+                                      .startProcess = startProcess,
+                                      .updates = {.fetch = [](const auto &) { return foundation::FetchResult(); },
+                                                  .today = QDate::currentDate,
+                                                  .draw = [] { return 0; }}});
     }
     QMenu *help() { return m_delegate->mainMenu().helpMenu(); }
     QStringList helpTitles()
@@ -51,7 +57,7 @@ protected:
     QMenu *languageMenu() { return help()->actions().constLast()->menu(); }
 
     QTemporaryDir m_folder;
-    test::ProductFolder m_product{test::productInformation()};
+    test::ProductFolder m_product{test::productInformation({{u"TWSupportEmail"_s, u"help@kite.example"_s}})};
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults};
     QStringList m_events;
@@ -100,7 +106,7 @@ TEST_F(AppDelegateTest, profiles_are_reset_on_ok_only)
 {
     int resets = 0;
     foundation::NotificationCenter::defaultCenter().addObserver(
-        m_delegate.get(), keyResetProfilesNotification.toString(), [&resets](QObject *) { ++resets; });
+        m_delegate.get(), keyResetProfilesNotification.toString(), [&resets](const QObject *) { ++resets; });
     m_delegate->resetProfiles();
     m_desktop.answer = tarnwell::AlertAnswer::Alternate;
     m_delegate->resetProfiles();
@@ -118,6 +124,88 @@ TEST_F(AppDelegateTest, the_unclean_exit_flag_is_armed_after_launch_and_cleared_
     foundation::UserDefaults read(m_folder.filePath(u"defaults.plist"_s));
     EXPECT_EQ(read.objectForKey(flag), QVariant(false));
     EXPECT_TRUE(m_events.contains(u"video syncSetting"_s));
+}
+
+TEST_F(AppDelegateTest, a_report_is_offered_after_an_unclean_exit_only)
+{
+    const QString flag = u"KestrelNotSafeTerminate"_s;
+    qputenv("TMPDIR", m_folder.path().toUtf8());
+    QFile precious(m_folder.filePath(u"precious"_s));
+    ASSERT_TRUE(precious.open(QIODevice::WriteOnly));
+    const QString copy = m_folder.filePath(u"kestrel-previous.log"_s);
+    const struct {
+        const char *name;
+        bool wasUnclean;
+        tarnwell::AlertAnswer answer;
+        qsizetype alerts;
+        bool sends, keepsLog;
+    } rows[] = {{"orderly", false, tarnwell::AlertAnswer::Default, 0, false, true},
+                {"send", true, tarnwell::AlertAnswer::Default, 1, true, true},
+                {"cancel", true, tarnwell::AlertAnswer::Alternate, 1, false, false}};
+    for (const auto &[name, wasUnclean, answer, alerts, sends, keepsLog] : rows) {
+        SCOPED_TRACE(name);
+        const QTemporaryDir logs;
+        tarnwell::Log(logs.path()).append(u"the run before"_s);
+        tarnwell::Log log(logs.path());
+        const tarnwell::Installed<tarnwell::Log> installed(log);
+        QFile::remove(copy);
+        QFile::link(precious.fileName(), copy);
+        test::RecordingMailProgram mail;
+        m_desktop.alerts.clear();
+        m_desktop.answer = answer;
+        m_defaults.setObject(wasUnclean, flag);
+        m_delegate->checkBugReportFlagWhenLaunch();
+        EXPECT_EQ(m_desktop.alerts.size(), alerts);
+        EXPECT_TRUE(m_defaults.boolForKey(flag));
+        EXPECT_EQ(QFile::exists(log.previousPath()), keepsLog);
+        EXPECT_EQ(QFileInfo(copy).isSymLink(), !sends);
+        if (!sends)
+            continue;
+        EXPECT_EQ(m_desktop.alerts[0],
+                  (tarnwell::Alert{u"Problem detected in last conversion."_s, u"Send Report"_s, u"Cancel"_s,
+                                   u"Would you please send us the Log File to help us fix the issue?"_s}));
+        EXPECT_EQ(mail.arguments(), (QStringList{u"--utf8"_s, u"--subject"_s, u"Kestrel Converter 4K (6.2.1)"_s,
+                                                 u"--attach"_s, copy, u"help@kite.example"_s}));
+        QFile sent(copy);
+        EXPECT_TRUE(sent.open(QIODevice::ReadOnly) && sent.readAll().endsWith("the run before\n"));
+    }
+    EXPECT_EQ(precious.size(), 0) << "a link in the temporary folder was followed";
+    qunsetenv("TMPDIR");
+
+    m_delegate->sessionWillEnd();
+    m_desktop.answer = tarnwell::AlertAnswer::Alternate;
+    m_delegate->checkBugReportFlagWhenLaunch();
+    EXPECT_FALSE(m_defaults.boolForKey(flag)) << "armed while the session ends";
+}
+
+TEST_F(AppDelegateTest, one_log_viewer_at_a_time_until_the_end)
+{
+    const auto isOver = [this] { return !m_delegate->loggerWatcherTask(); };
+    m_delegate->showApplicationLog();
+    EXPECT_TRUE(test::waitUntil(isOver)) << "a viewer that is not there";
+
+    QFile viewer(m_product.contentsPath(u"Resources/KestrelLogWatcher.app/Contents/MacOS/KestrelLogWatcher"_s));
+    ASSERT_TRUE(viewer.open(QIODevice::WriteOnly));
+    viewer.write("#!/bin/sh\ntrap '' TERM\necho started >>\"$0.log\"\nwhile :; do sleep 0.1; done\n");
+    viewer.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
+    viewer.close();
+    const auto starts = [&viewer] {
+        return QFileInfo(viewer.fileName() + u".log"_s).size() / qint64(sizeof "started");
+    };
+    m_delegate->showApplicationLog();
+    m_delegate->showApplicationLog();
+    ASSERT_TRUE(test::waitUntil([&] { return starts() == 1; }));
+    m_delegate->showApplicationLog();
+    EXPECT_FALSE(isOver());
+    m_delegate->applicationWillTerminate();
+    EXPECT_TRUE(test::waitUntil(isOver)) << "a viewer that does not heed SIGTERM holds the end";
+    EXPECT_EQ(starts(), 1);
+
+    LoggerWatcherTask early;
+    early.terminate();
+    early.run(viewer.fileName(), {});
+    EXPECT_TRUE(early.hasEnded());
+    EXPECT_EQ(starts(), 1) << "started after the end";
 }
 
 TEST_F(AppDelegateTest, quit_waits_while_the_main_window_is_modal)

@@ -83,6 +83,11 @@ class App:
         with open(self.log, errors='replace') as file:
             return file.read()
 
+    def memory(self):
+        """The most that it has had so far, in MiB."""
+        with open(f'/proc/{self.pid}/status') as file:
+            return int(re.search(r'VmHWM:\s*(\d+) kB', file.read())[1]) / 1024
+
     def is_running(self):
         if self.status is None:
             ended, status = os.waitpid(self.pid, os.WNOHANG)
@@ -108,7 +113,10 @@ class Desktop:
         signal.signal(signal.SIGTERM, signal.default_int_handler)  # as Ctrl-C
         atexit.register(self.close)
         self.environment = {key: value for key, value in os.environ.items() if key.endswith('SAN_OPTIONS')}
-        self.environment.update(LC_ALL='C.UTF-8', TZ='UTC', QT_QPA_PLATFORM='xcb', GSETTINGS_BACKEND='memory')
+        self.environment.update(LC_ALL='C.UTF-8', TZ='UTC', QT_QPA_PLATFORM='xcb', GSETTINGS_BACKEND='memory',
+                                # Nothing beyond this machine is asked: the proxy for it refuses.
+                                http_proxy='http://127.0.0.1:9', https_proxy='http://127.0.0.1:9',
+                                no_proxy='127.0.0.1,localhost')
         self.new_user()
         self._start(size)
         if accessible:
@@ -183,6 +191,9 @@ class Desktop:
     def defaults_path(self, bundle):
         return os.path.join(self.home, '.config', bundle_information(bundle)['CFBundleIdentifier'], 'defaults.plist')
 
+    def log_path(self, bundle, name='kestrel.log'):
+        return os.path.join(self.home, '.local/state', bundle_information(bundle)['CFBundleName'], name)
+
     def defaults(self, bundle):
         with open(self.defaults_path(bundle), 'rb') as file:
             return plistlib.load(file)
@@ -226,6 +237,11 @@ class Desktop:
             if pid and 'window state: Normal' in properties:
                 found.append({'id': window, 'pid': int(pid[1]), 'title': title[1] if title else ''})
         return found
+
+    def active_window(self):
+        """The id of the one that has the keyboard."""
+        found = re.search(r'0x[0-9a-f]+', self.x('xprop', '-root', '_NET_ACTIVE_WINDOW'))
+        return found[0] if found else None
 
     def screenshot(self, path, window='root'):
         self.x('import', '-silent', '-window', window, 'png:' + path)

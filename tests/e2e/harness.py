@@ -45,6 +45,10 @@ class ProgramTest(unittest.TestCase):
     def click(self, app, role, name):
         self.desktop.click(app.find(role, name))
 
+    def choose_from_menu(self, app, *titles):
+        for title in titles:
+            self.click(app, 'menu item', title)
+
 
 def main():
     ProgramTest.bundle_argument = sys.argv.pop(1)

@@ -43,12 +43,6 @@ class LifecycleTest(ProgramTest):
         self.assertEqual(self.launch().end(), 0)
         self.assertEqual(self.stored('KeyOfSomebodyElse'), {'kept': [1, 2.5, b'bytes']})
 
-    def test_start_after_a_crash(self):
-        self.assertEqual(self.launch_and_wait_for_flag().end(signal.SIGKILL), -signal.SIGKILL)
-        self.assertIs(self.stored(ENDED_BADLY), True)
-        self.assertEqual(self.launch().end(), 0)
-        self.assertIs(self.stored(ENDED_BADLY), False)
-
     def test_second_start_raises_the_first(self):
         first = self.launch()
         copy = copy_bundle(self.bundle, self.desktop.home + '/Copy.app', CFBundleIdentifier='org.example.copy')

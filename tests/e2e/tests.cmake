@@ -1,6 +1,15 @@
 # Each file drives the real program on a display of its own.
-foreach(name conversion home language lifecycle settings)
+foreach(name conversion home hostile language lifecycle logwatcher reports settings update)
     add_test(NAME e2e.${name}
              COMMAND /usr/bin/python3 "${CMAKE_CURRENT_LIST_DIR}/${name}_test.py" "${KESTREL_BUNDLE_DIR}")
     set_tests_properties(e2e.${name} PROPERTIES LABELS e2e TIMEOUT 180)
 endforeach()
+
+# The prompt, which nothing in the program opens, for the eye
+add_executable(kestrel_show_prompt e2e/show_prompt.cpp)
+target_link_libraries(kestrel_show_prompt PRIVATE kestrel_remote_ui)
+
+# Preloaded: host names that take long to be not found
+add_library(kestrel_slow_names MODULE e2e/slow_names.cpp)
+target_link_libraries(kestrel_slow_names PRIVATE ${CMAKE_DL_LIBS})
+set_target_properties(kestrel_slow_names PROPERTIES LIBRARY_OUTPUT_DIRECTORY "${CMAKE_BINARY_DIR}/tests")

@@ -49,7 +49,7 @@ protected:
     JKestrelSettingControllerTest()
     {
         foundation::NotificationCenter::defaultCenter().addObserver(
-            &m_parent, keyKestrelSettingDidChangedNotification.toString(), [this](QObject *) { ++m_posted; });
+            &m_parent, keyKestrelSettingDidChangedNotification.toString(), [this](const QObject *) { ++m_posted; });
     }
     void present()
     {

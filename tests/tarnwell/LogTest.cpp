@@ -24,12 +24,14 @@ TEST(Log, LeavesPrivatePartsOut)
         const char *name, *text, *written;
     } rows[] = {{"home", "/home/ann/a.mov, and in /home/ann.", "~/a.mov, and in ~."},
                 {"longer name", "/home/anna /home/ann-old /home/annö", "/home/anna /home/ann-old /home/annö"},
-                {"deeper", "/mnt/home/ann/x file:///home/ann/x", "/mnt/home/ann/x file://~/x"},
+                {"deeper", "/mnt/home/ann/x file:///home/ann/x", "/mnt/home/~/x file://~/x"},
+                {"volume", "/media/ann/a /run/user/ann2, /x/ann.mov ann", "/media/~/a /run/user/~, /x/ann.mov ann"},
                 {"credentials", "https://ann:se@cret@host/a", "https://host/a"},
                 {"at in query", "http://host?x=a@b ann@host", "http://host?x=a@b ann@host"},
                 {"lines", "one\r\ntwo", "one\n    two"}};
     for (const auto &[name, text, written] : rows)
-        EXPECT_EQ(withoutPrivateParts(QString::fromUtf8(text), u"/home/ann"_s), QString::fromUtf8(written)) << name;
+        EXPECT_EQ(withoutPrivateParts(QString::fromUtf8(text), u"/home/ann"_s, u"ann2"_s), QString::fromUtf8(written))
+            << name;
 }
 
 TEST(Log, KeepsThisRunAndTheOneBefore)
@@ -57,6 +59,18 @@ TEST(Log, DropsTheOldestLinesAtItsLimit)
     EXPECT_TRUE(text.startsWith(u"… older lines were left out\n"_s));
     EXPECT_TRUE(text.endsWith(u"line 499.\n"_s));
     EXPECT_GT(text.size(), limit / 3);
+}
+
+TEST(Log, WritesToStandardErrorWhereItHasNoFile)
+{
+    const QTemporaryDir folder;
+    QFile inTheWay(folder.filePath(u"file"_s));
+    ASSERT_TRUE(inTheWay.open(QIODevice::WriteOnly));
+    testing::internal::CaptureStderr();
+    Log log(inTheWay.fileName());
+    log.append(u"still told"_s);
+    log.discardPrevious();
+    EXPECT_TRUE(QByteArray::fromStdString(testing::internal::GetCapturedStderr()).endsWith("] still told\n"));
 }
 
 TEST(Log, TakesFormatsAndMessagesOfQt)

@@ -2,5 +2,6 @@ kestrel_test(tarnwell
     SOURCES
         FoldersTest.cpp HardwareInformationTest.cpp JPresentWindowControllerTest.cpp JSuggestionsSearchFieldTest.cpp
         AlertPanelTest.cpp ImagesTest.cpp JTitledWindowTest.cpp LWindowTransitionAnimatorTest.cpp LogTest.cpp
-        WebPagesTest.cpp
+        JAppleScriptHelperTest.cpp
+        StyledTextViewTest.cpp WebPagesTest.cpp
     LINKS kestrel_tarnwell_ui kestrel_test_product)

@@ -1,0 +1,85 @@
+#include "Alerts.h"
+#include "AppDelegate.h"
+#include "Bundle.h"
+#include "JAppleScriptHelper.h"
+#include "Localization.h"
+#include "Log.h"
+#include "LoggerWatcherTask.h"
+#include "ProductInformation.h"
+#include "Queues.h"
+#include "UserDefaults.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+using namespace Qt::StringLiterals;
+using kestrel::tarnwell::AppLocalizedString;
+
+namespace kestrel {
+
+namespace {
+
+const QString notSafeTerminateKey = u"KestrelNotSafeTerminate"_s;
+
+/// A link goes itself, and not what it names.
+void removeItem(const QString &path)
+{
+    const QFileInfo item(path);
+    if (item.isDir() && !item.isSymLink())
+        QDir(path).removeRecursively();
+    else
+        QFile::remove(path);
+}
+
+}  // namespace
+
+std::shared_ptr<LoggerWatcherTask> AppDelegate::loggerWatcherTask() const
+{
+    return m_loggerWatcherTask && !m_loggerWatcherTask->hasEnded() ? m_loggerWatcherTask : nullptr;
+}
+
+void AppDelegate::showApplicationLog()
+{
+    if (loggerWatcherTask())
+        return;
+    m_loggerWatcherTask = std::make_shared<LoggerWatcherTask>();
+    const QString viewer =
+        tarnwell::productBundle().resource(u"KestrelLogWatcher.app"_s) + u"/Contents/MacOS/KestrelLogWatcher"_s;
+    foundation::queue::asyncGlobal(
+        [task = m_loggerWatcherTask, viewer, path = tarnwell::DNGetLogFilePath()] { task->run(viewer, {path}); });
+}
+
+void AppDelegate::sendBugTypeEmail()
+{
+    const QString log = tarnwell::DNGetPreviousLogFilePath();
+    const QString copy = QDir::temp().filePath(QFileInfo(log).fileName());
+    removeItem(copy);
+    QFile::copy(log, copy);
+    tarnwell::JAppleScriptHelper::sendEmailWithMail(tarnwell::AppSupportEmail(), tarnwell::applicationNameAndVersion(),
+                                                    {copy}, u""_s);
+}
+
+void AppDelegate::checkBugReportFlagWhenLaunch()
+{
+    if (m_surroundings.defaults.boolForKey(notSafeTerminateKey)) {
+        const auto answer =
+            tarnwell::runAlert({.message = AppLocalizedString(u"Problem detected in last conversion."_s),
+                                .defaultButton = AppLocalizedString(u"Send Report"_s),
+                                .alternateButton = AppLocalizedString(u"Cancel"_s),
+                                .informativeText = AppLocalizedString(
+                                    u"Would you please send us the Log File to help us fix the issue?"_s)});
+        if (answer == tarnwell::AlertAnswer::Default)
+            sendBugTypeEmail();
+        else
+            tarnwell::DNCleanupLogFile();
+    }
+    setNotSafeTerminate(true);
+}
+
+/// The end of the session counts as the end of the run until it is known that it goes on.
+void AppDelegate::setNotSafeTerminate(bool isNotSafe)
+{
+    m_surroundings.defaults.setObject(isNotSafe && !m_sessionIsEnding, notSafeTerminateKey);
+}
+
+}  // namespace kestrel

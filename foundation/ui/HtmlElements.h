@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QRgb>
+#include <QString>
+
+#include <optional>
+#include <string_view>
+
+namespace kestrel::foundation {
+
+enum class HtmlRole {
+    Plain,  ///< looks of its own only by its attributes
+    Bold,
+    Italic,
+    Underline,
+    Font,
+    Link,
+    Paragraph,
+    Heading,
+    BulletList,
+    NumberedList,
+    Item,
+    LineBreak,  ///< from here on: without content that looks different
+    Cell,
+    Boundary
+};
+
+struct HtmlElement {
+    std::string_view name;
+    HtmlRole role;
+    int lines = 0;     ///< line ends between it and its surroundings
+    int fontSize = 0;  ///< of a heading, from 1 to 7
+};
+
+/// The element of that name in lower case; null where it shows no more than its text.
+const HtmlElement *htmlElementNamed(std::string_view name);
+bool isHtmlList(const HtmlElement &element);
+
+int htmlFontPoints(int size);                           ///< of the sizes 1 to 7; the nearest of them for others
+int htmlFontPoints(QStringView attribute);              ///< of a size attribute; 0 where it is empty
+std::optional<QRgb> htmlColor(QStringView attribute);   ///< of a colour attribute: "#RRGGBB", "#RGB" or a name
+std::optional<QRgb> htmlStyleColor(QStringView style);  ///< of a style attribute; where it has several, the last
+QString htmlLink(QStringView attribute);  ///< of an href attribute; null unless it leads to a web page or mail address
+
+}  // namespace kestrel::foundation

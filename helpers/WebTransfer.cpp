@@ -1,0 +1,200 @@
+#include "WebTransfer.h"
+
+#include "WebTransferProxy.h"
+
+#include <curl/curl.h>
+
+#include <algorithm>
+#include <memory>
+#include <type_traits>
+
+using namespace Qt::StringLiterals;
+using kestrel::foundation::WebTransferRequest;
+using kestrel::foundation::WebTransferResult;
+
+namespace {
+
+using namespace std::chrono;
+
+constexpr auto headersTooLong = "the headers are too long"_L1;
+constexpr size_t maximumHeaderBytes = 65'536;  // of all responses together: those of a proxy, and interim ones
+
+struct EasyDeleter {
+    void operator()(CURL *easy) const { curl_easy_cleanup(easy); }
+};
+struct MultiDeleter {
+    void operator()(CURLM *multi) const { curl_multi_cleanup(multi); }
+};
+
+/// One request, and libcurl's callbacks.
+class Session {
+public:
+    explicit Session(const WebTransferRequest &request) : m_request(request) {}
+
+    WebTransferResult run();
+
+private:
+    bool prepare(const QNetworkProxy &proxy);
+    bool setProxy(const QNetworkProxy &proxy);
+    CURLcode perform();
+    WebTransferResult conclusion(CURLcode code) const;
+    long status() const;
+    QString interruption() const;
+
+    size_t refuse(const QString &reason);
+    static size_t headerReceived(char *bytes, size_t, size_t length, void *session);
+    static size_t bodyReceived(char *bytes, size_t, size_t length, void *session);
+
+    template <typename Value>
+    bool set(CURLoption option, Value value)
+    {
+        return curl_easy_setopt(m_easy.get(), option, value) == CURLE_OK;
+    }
+
+    const WebTransferRequest &m_request;
+    // In this order: a transfer is taken out of the multi handle before either of them goes.
+    std::unique_ptr<CURLM, MultiDeleter> m_multi{curl_multi_init()};
+    std::unique_ptr<CURL, EasyDeleter> m_easy{curl_easy_init()};
+    QByteArray m_body;
+    size_t m_headerBytes = 0;
+    bool m_isDecided = false;  ///< by the status: the body does not matter
+    QString m_refusal;
+};
+
+WebTransferResult Session::run()
+{
+    const std::optional<QNetworkProxy> proxy = systemProxy(m_request);
+    if (!proxy)
+        return {{}, {}, interruption()};
+    if (!m_multi || !m_easy || !prepare(*proxy))
+        return {{}, {}, u"the transfer cannot be set up"_s};
+    return conclusion(perform());
+}
+
+bool Session::prepare(const QNetworkProxy &proxy)
+{
+    const QByteArray address = m_request.address.toEncoded();
+    return set(CURLOPT_URL, address.constData()) &&
+           // Whatever libcurl makes of the address, the caller has looked at this scheme.
+           set(CURLOPT_PROTOCOLS_STR, m_request.address.scheme().toLatin1().constData()) &&
+           set(CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_2TLS)) && set(CURLOPT_ACCEPT_ENCODING, "gzip, deflate") &&
+           set(CURLOPT_NOSIGNAL, 1L) &&
+           // Or the end would wait for a name server.
+           set(CURLOPT_QUICK_EXIT, 1L) && setProxy(proxy) && set(CURLOPT_HEADERFUNCTION, &Session::headerReceived) &&
+           set(CURLOPT_HEADERDATA, this) && set(CURLOPT_WRITEFUNCTION, &Session::bodyReceived) &&
+           set(CURLOPT_WRITEDATA, this);
+}
+
+bool Session::setProxy(const QNetworkProxy &proxy)
+{
+    QByteArray address = "";
+    if (proxy.type() == QNetworkProxy::HttpProxy || proxy.type() == QNetworkProxy::Socks5Proxy) {
+        QUrl url;
+        url.setScheme(proxy.type() == QNetworkProxy::HttpProxy ? u"http"_s : u"socks5h"_s);
+        url.setHost(proxy.hostName());
+        url.setPort(proxy.port() ? proxy.port() : -1);
+        address = url.toEncoded();
+    }
+    const bool hasLogin = !address.isEmpty() && !proxy.user().isEmpty();
+    // Both are set even where they are empty, or libcurl would read the environment for itself.
+    return set(CURLOPT_PROXY, address.constData()) && set(CURLOPT_NOPROXY, "") &&
+           (!hasLogin || (set(CURLOPT_PROXYUSERNAME, proxy.user().toUtf8().constData()) &&
+                          set(CURLOPT_PROXYPASSWORD, proxy.password().toUtf8().constData())));
+}
+
+CURLcode Session::perform()
+{
+    if (curl_multi_add_handle(m_multi.get(), m_easy.get()) != CURLM_OK)
+        return CURLE_FAILED_INIT;
+    int running = 1;
+    while (m_refusal.isNull() && running > 0) {
+        m_refusal = interruption();
+        if (!m_refusal.isNull() || curl_multi_perform(m_multi.get(), &running) != CURLM_OK)
+            break;
+        const auto left = duration_cast<milliseconds>(m_request.deadline - steady_clock::now());
+        if (running > 0)
+            curl_multi_poll(m_multi.get(), nullptr, 0, int(std::clamp<qint64>(left.count(), 0, 20)), nullptr);
+    }
+    int waiting = 0;
+    const CURLMsg *message = curl_multi_info_read(m_multi.get(), &waiting);
+    const CURLcode code = message ? message->data.result : CURLE_ABORTED_BY_CALLBACK;
+    curl_multi_remove_handle(m_multi.get(), m_easy.get());
+    return code;
+}
+
+WebTransferResult Session::conclusion(CURLcode code) const
+{
+    if (!m_refusal.isNull())
+        return {{}, {}, m_refusal};
+    if (code == CURLE_UNSUPPORTED_PROTOCOL || code == CURLE_WEIRD_SERVER_REPLY)
+        return {{}, {}, u"the answer is not HTTP"_s};
+    if (code == CURLE_OUT_OF_MEMORY)  // how it calls a line that is longer than it cares to hold
+        return {{}, {}, headersTooLong};
+    if (code != CURLE_OK && !m_isDecided)
+        return {{}, {}, QString::fromUtf8(curl_easy_strerror(code))};
+    if (status() / 100 == 2)
+        return {m_body, {}, {}};
+    curl_header *location = nullptr;
+    if (status() / 100 != 3 || curl_easy_header(m_easy.get(), "Location", 0, CURLH_HEADER, -1, &location) != CURLHE_OK)
+        return {{}, {}, u"status %1"_s.arg(status())};
+    const QUrl target(QString::fromUtf8(location->value).trimmed());
+    if (!target.isValid())
+        return {{}, {}, u"a redirect to a malformed address"_s};
+    return {{}, m_request.address.resolved(target), {}};
+}
+
+long Session::status() const
+{
+    long status = 0;
+    curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
+    return status;
+}
+
+/// Null where the transfer may go on.
+QString Session::interruption() const
+{
+    if (m_request.isAbandoned)
+        return u"abandoned"_s;
+    return steady_clock::now() >= m_request.deadline ? u"not complete in time"_s : QString();
+}
+
+/// As the answer of a callback it ends the transfer.
+size_t Session::refuse(const QString &reason)
+{
+    m_refusal = reason;
+    return 0;
+}
+
+size_t Session::headerReceived(char *bytes, size_t, size_t length, void *session)
+{
+    auto &self = *static_cast<Session *>(session);
+    self.m_headerBytes += length;
+    if (self.m_headerBytes > maximumHeaderBytes)
+        return self.refuse(headersTooLong);
+    const bool isEnd = QByteArrayView(bytes, qsizetype(length)).trimmed().isEmpty();
+    self.m_isDecided = isEnd && self.status() >= 300;
+    return self.m_isDecided ? 0 : length;
+}
+
+size_t Session::bodyReceived(char *bytes, size_t, size_t length, void *session)
+{
+    auto &self = *static_cast<Session *>(session);
+    if (qint64(length) > self.m_request.maximumBytes - self.m_body.size())
+        return self.refuse(u"longer than %1 bytes"_s.arg(self.m_request.maximumBytes));
+    self.m_body.append(bytes, qsizetype(length));
+    return length;
+}
+
+}  // namespace
+
+extern "C" __attribute__((visibility("default"))) void webTransfer(const WebTransferRequest &request,
+                                                                   WebTransferResult &result)
+{
+    static const CURLcode initialisation = curl_global_init(CURL_GLOBAL_DEFAULT);
+    if (initialisation == CURLE_OK)
+        result = Session(request).run();
+    else
+        result.reason = QString::fromUtf8(curl_easy_strerror(initialisation));
+}
+
+static_assert(std::is_same_v<decltype(webTransfer), kestrel::foundation::WebTransferFunction>);

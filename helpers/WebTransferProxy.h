@@ -1,0 +1,9 @@
+#pragma once
+
+#include "WebTransfer.h"
+
+#include <QNetworkProxy>
+
+/// The proxy that the system's settings have for the request's address, exceptions included; of type NoProxy where it
+/// is to be reached directly. Nothing where the deadline came first, or the request was abandoned.
+std::optional<QNetworkProxy> systemProxy(const kestrel::foundation::WebTransferRequest &request);

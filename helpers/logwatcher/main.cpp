@@ -1,0 +1,87 @@
+#include "Bundle.h"
+#include "DefaultsFile.h"
+#include "Installed.h"
+#include "Localization.h"
+#include "LogWindow.h"
+#include "ProductInformation.h"
+#include "Queues.h"
+#include "StandardFolders.h"
+#include "TerminationSignals.h"
+#include "Theme.h"
+
+#include <QApplication>
+#include <QFileInfo>
+#include <QIcon>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+/// The product that this program is a part of: Product.app/Contents/Resources/Viewer.app.
+foundation::Bundle outerBundle()
+{
+    const QFileInfo resources(QFileInfo(foundation::Bundle::main().path()).path());
+    return foundation::Bundle(QFileInfo(resources.path()).path());
+}
+
+/// What the product has settled on at its start. Only looked up: the file is the product's.
+QString interfaceLanguage(const foundation::Bundle &product)
+{
+    foundation::DefaultsFile defaults(foundation::configurationDirectory() + u'/' + product.identifier() +
+                                      u"/defaults.plist"_s);
+    defaults.read();
+    return defaults.values().value(u"AppleLanguages"_s).toStringList().value(0, u"en"_s);
+}
+
+/// The texts of the desktop's own dialogs, which Qt brings along.
+void installDialogTexts(QTranslator &translator, const QString &language)
+{
+    if (translator.load(QLocale(language), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+        QCoreApplication::installTranslator(&translator);
+}
+
+int run(QApplication &application, const foundation::Bundle &product)
+{
+    const QString language = interfaceLanguage(product);
+    QLocale::setDefault(QLocale(language));
+    QTranslator dialogTexts;
+    installDialogTexts(dialogTexts, language);
+    tarnwell::Localization localization(product.resource(u"translations"_s), language);
+    const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
+    tarnwell::applyTheme(application);
+
+    const TerminationSignals signalsOfTheSystem;
+    QObject::connect(&signalsOfTheSystem, &TerminationSignals::received, &application, &QCoreApplication::quit);
+    LogWindow window(QCoreApplication::arguments().value(1));
+    window.show();
+    foundation::queue::afterMain(std::chrono::milliseconds(250), [] {
+        QIcon icon;
+        for (const int size : {16, 32, 48, 128})
+            icon.addFile(tarnwell::productBundle().resource(u"icons/hicolor/%1x%1/apps/kestrel.png"_s.arg(size)),
+                         {size, size});
+        QApplication::setWindowIcon(icon);
+    });
+    return QApplication::exec();
+}
+
+}  // namespace
+
+}  // namespace kestrel
+
+int main(int argc, char **argv)
+{
+    using namespace kestrel;
+    const foundation::Bundle product = outerBundle();
+    const tarnwell::Installed<const foundation::Bundle> installedProduct(product);
+    QApplication application(argc, argv);
+    QApplication::setApplicationName(u"KestrelLogWatcher"_s);
+    QApplication::setDesktopFileName(product.identifier());
+    const int status = run(application, product);
+    foundation::queue::finishGlobal();
+    return status;
+}

@@ -1,0 +1,40 @@
+#include "AppRMConfig.h"
+
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+constexpr qint64 maximumConfigurationBytes = 1024 * 1024;
+
+}  // namespace
+
+std::shared_ptr<const AppRMConfig> AppRMConfig::remoteConfigWithURL(const QString &url, const foundation::Fetch &fetch)
+{
+    return initWithURL(url, fetch);
+}
+
+std::shared_ptr<const AppRMConfig> AppRMConfig::initWithURL(const QString &url, const foundation::Fetch &fetch)
+{
+    const foundation::FetchResult result = fetch({.address = url, .maximumBytes = maximumConfigurationBytes});
+    return result.body ? initWithData(*result.body) : nullptr;
+}
+
+std::shared_ptr<const AppRMConfig> AppRMConfig::initWithData(const QByteArray &json)
+{
+    using tarnwell::AppWndTRButtonConfig;
+    const QJsonObject root = QJsonDocument::fromJson(json).object();
+    AppRMConfig configuration;
+    if (const QJsonValue promotions = root.value(u"ads"_s); promotions.isObject())
+        configuration.m_adParser = AdParser::initWithDictionary(promotions.toObject());
+    if (const QJsonValue button = root.value(u"top-right-button"_s); button.isObject())
+        configuration.m_topRightBtnConfig = AppWndTRButtonConfig::initWithDictionary(button.toObject());
+    if (const QJsonValue button = root.value(u"top-right-button-v2"_s).toObject().value(u"full"_s); button.isObject())
+        configuration.m_topRightBtnConfig_full = AppWndTRButtonConfig::initWithDictionary(button.toObject());
+    return std::make_shared<const AppRMConfig>(std::move(configuration));
+}
+
+}  // namespace kestrel

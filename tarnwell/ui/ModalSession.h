@@ -1,0 +1,27 @@
+#pragma once
+
+#include <QEventLoop>
+
+#include <functional>
+
+namespace kestrel::tarnwell {
+
+class JTitledWindow;
+
+/// Runs a window as the application's modal window, while the event loop goes on. The window comes to the front; it
+/// takes the keyboard only where the application has it already. Main thread only.
+class ModalSession {
+public:
+    /// Shows the window and returns when the session is stopped or the application ends; the window is hidden then.
+    /// `cancel` is what Escape, the window's close button and the desktop's ways to close a window do.
+    void run(JTitledWindow &window, std::function<void()> cancel);
+
+    /// Hides the window and lets `run` return. Nothing where none runs.
+    void stop();
+
+private:
+    JTitledWindow *m_window = nullptr;
+    QEventLoop *m_loop = nullptr;
+};
+
+}  // namespace kestrel::tarnwell

@@ -1,0 +1,3 @@
+kestrel_test(about
+    SOURCES JKestrelAboutControllerTest.cpp
+    LINKS kestrel_about_ui kestrel_test_product)

@@ -1,0 +1,180 @@
+"""The update check by itself and on demand, and the promotion: against a server of the test's own."""
+import datetime
+import json
+import plistlib
+import signal
+
+from accessible import wait_for
+from harness import ProgramTest, main
+from material import copy_bundle
+from servers import HOSTILE, Server
+
+SITE = 'https://www.example.org/'
+NEWER = {'LastestVersion': '9.0', 'DownloadURLReg': SITE + 'get',
+         'UpdateLog': [{'content': 'Converts <b>faster</b>.', 'color': '0074CC'}, {'content': 'Mends the rest.'}]}
+NEWS = {'LastestVersion': '0.9', 'DownloadURLReg': SITE + 'get', 'NotificationTitle': 'Spring has come',
+        'NotificationContent': 'A new guide to films from the garden.', 'NotificationURL': SITE + 'news?from=kestrel'}
+PROMOTION = {'title': 'All your films', 'details': ['<b>One</b> place', ' for all.'], 'button': 'Take a Look',
+             'label': 'No, Thanks', 'url': SITE + 'offer', 'rate': '100', 'next_rate': 100, 'max_count': 1}
+TODAY = datetime.datetime.now(datetime.timezone.utc).strftime('%Y-%m-%d')
+YESTERDAY = '2001-02-03'
+DAY, RATE, DECLINES = '_AdvertisementDateString', '_AdvertisementRate', '_AdvertisementRefuse'
+
+
+class UpdateTest(ProgramTest):
+    def setUp(self):
+        super().setUp()
+        self.server = self.enterContext(Server())
+        self.bundle = copy_bundle(type(self).bundle, self.desktop.home + '/Kestrel.app',
+                                  TWUpdateXMLLink=self.server.url('/kestrel.plist'))
+
+    def publish(self, descriptor, promotion=None):
+        documents = {}
+        if promotion is not None:
+            descriptor = descriptor | {'ADConfigURL': self.server.url('/configuration.json')}
+            documents['/configuration.json'] = json.dumps({'ads': {'full': promotion}}).encode()
+        self.server.documents = documents | {'/kestrel.plist': plistlib.dumps(descriptor)}
+
+    def start(self, text):
+        """Starts the program and waits for what it shows by itself."""
+        app = self.desktop.launch(self.bundle)
+        app.wait_for_text(text)
+        return app
+
+    def start_quietly(self):
+        """Starts the program, which shows its home screen and nothing else once it has asked the server."""
+        self.server.requests.clear()
+        app = self.launch()
+        wait_for(lambda: self.logged(app, 'Update check:'), 'the automatic check')
+        self.assertEqual(len(app.windows()), 1)
+        return app
+
+    def logged(self, app, text):
+        with open(self.desktop.log_path(self.bundle)) as log:
+            return text in log.read()
+
+    def check_by_menu(self, app):
+        self.choose_from_menu(app, 'Kestrel', 'Check for Updates…')
+        app.find('push button', 'Cancel')
+
+    def wait_until_closed(self, app):
+        wait_for(lambda: len(app.windows()) == 1, 'the window to close')
+
+    def opened(self):
+        """The one page that was."""
+        def pages():
+            return [page for call in self.desktop.calls('xdg-open') if (page := call[-1]).startswith(SITE)]
+        page, = wait_for(pages, 'a page to be opened')
+        return page
+
+    def test_newer_version(self):
+        self.publish(NEWER, PROMOTION)
+        app = self.start('A new version of Kestrel Converter 4K is available!')
+        app.wait_for_text("Kestrel Converter 4K 9.0 is now available -- you're running ")
+        self.assertEqual(app.end(), 0, 'ends in order with the window open')
+        app = self.start('A new version of')
+        self.click(app, 'push button', 'Download Now')
+        self.wait_until_closed(app)
+        self.assertTrue(self.opened().startswith(SITE + 'get?'))
+        self.assertEqual(app.end(), 0)
+        self.assertNotIn(DAY, self.defaults())
+        self.assertEqual(self.server.requests, ['/kestrel.plist', '/configuration.json'] * 2)
+
+    def test_compulsory_version(self):
+        self.publish(NEWER | {'ForceAppUpgrade': True})
+        app = self.start('A new version of')
+        self.click(app, 'push button', 'Download Now')
+        self.assertTrue(self.opened().startswith(SITE + 'get?'))
+        self.assertEqual(len(app.windows()), 2)
+        self.desktop.key('Return')  # is nobody's
+        self.assertTrue(app.is_running())
+        self.click(app, 'push button', 'Cancel')
+        self.assertEqual(app.wait_for_end(), 0)
+        self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
+
+    def test_up_to_date(self):
+        self.publish(NEWS)
+        app = self.start_quietly()
+        self.check_by_menu(app)
+        app.wait_for_text("You're up-to-date!")
+        self.assertIn('Spring has come', app.texts())
+        app.find('text', 'Spring has come')
+        self.desktop.key('Escape')
+        self.wait_until_closed(app)
+        self.check_by_menu(app)
+        self.click(app, 'push button', 'Learn More')
+        self.wait_until_closed(app)
+        self.assertTrue(self.opened().startswith(SITE + 'news?from=kestrel&'))
+
+    def test_unreachable(self):
+        self.server.documents = {'/kestrel.plist': ('503 Service Unavailable', b'')}
+        app = self.start_quietly()
+        self.assertTrue(self.logged(app, 'The update descriptor could not be read: '))
+        self.check_by_menu(app)
+        app.wait_for_text('Unable to connect to update server.')
+        self.assertEqual(app.find('progress bar').get_current_value(), 70)
+        self.click(app, 'push button', 'Cancel')
+        self.wait_until_closed(app)
+        self.publish(NEWS)
+        self.check_by_menu(app)
+        app.wait_for_text("You're up-to-date!")
+
+    def test_promotion(self):
+        def remembered():
+            return tuple(self.defaults().get(key) for key in (DAY, RATE, DECLINES))
+
+        self.publish(NEWS, PROMOTION)
+        app = self.start('All your films')
+        app.find('text', None)
+        self.click(app, 'push button', 'No, Thanks')
+        self.wait_until_closed(app)
+        self.assertEqual(app.end(), 0)
+        self.assertEqual(remembered(), (TODAY, 100, 1))
+        self.assertEqual(self.start_quietly().end(), 0, 'once a day')
+
+        for act, declines in (('No, Thanks', 2), ('Escape', None), ('Take a Look', None)):
+            with self.subTest(act):
+                self.desktop.set_defaults(self.bundle, **{DAY: YESTERDAY, DECLINES: 1, RATE: 100})
+                app = self.start('All your films')
+                if act == 'Escape':
+                    self.desktop.key(act)
+                else:
+                    self.click(app, 'push button', act)
+                self.wait_until_closed(app)
+                self.assertEqual(app.end(), 0)
+                self.assertEqual(remembered(), (TODAY, 100, declines or 1))
+        self.assertTrue(self.opened().startswith(SITE + 'offer?'))
+
+        self.desktop.set_defaults(self.bundle, **{DAY: YESTERDAY, DECLINES: 2})
+        self.assertEqual(self.start_quietly().end(), 0, 'declined too often')
+        self.assertEqual(remembered(), (TODAY, None, 2))
+        self.desktop.set_defaults(self.bundle, **{DAY: YESTERDAY, RATE: 0})
+        self.assertEqual(self.start_quietly().end(), 0, 'its later rate is 0')
+        self.assertEqual(remembered(), (YESTERDAY, 0, None))
+
+    def test_another_application_keeps_the_keyboard(self):
+        self.publish(NEWER)
+        with Server() as other:
+            self.server.documents['/kestrel.plist'] = lambda connection: (
+                connection.wait(2), connection.document(plistlib.dumps(NEWER)))
+            app = self.launch()
+            copy = copy_bundle(type(self).bundle, self.desktop.home + '/Other.app', CFBundleIdentifier='org.example.other',
+                               TWUpdateXMLLink=other.url('/'))
+            active = self.desktop.launch(copy)
+            active.wait_for_window()
+            window = wait_for(lambda: self.desktop.active_window() in [w['id'] for w in active.windows()]
+                              and self.desktop.active_window(), 'the other application to be active')
+            app.wait_for_text('A new version of')
+            wait_for(lambda: len(app.windows()) == 2, 'the update window')
+            self.assertEqual(self.desktop.active_window(), window)
+
+    def test_ends_at_once_while_the_server_stalls(self):
+        self.server.documents = {'/kestrel.plist': HOSTILE['stall after the headers']}
+        app = self.launch()
+        wait_for(lambda: self.server.requests, 'the request')
+        self.assertEqual(app.end(signal.SIGTERM), 0)
+        self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
+
+
+if __name__ == '__main__':
+    main()

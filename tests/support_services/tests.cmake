@@ -1,0 +1,3 @@
+kestrel_test(support_services
+    SOURCES XMLReader2Test.cpp
+    LINKS kestrel_support)

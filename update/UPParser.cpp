@@ -1,0 +1,135 @@
+#include "UPParser.h"
+
+#include "Color.h"
+#include "PropertyList.h"
+#include "StyledTextBuilder.h"
+#include "VersionOrder.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+constexpr foundation::PropertyListLimits descriptorLimits{.bytes = 1 << 20, .depth = 32, .items = 100'000};
+constexpr qsizetype shortestConfigurationAddress = 2;
+
+QString textIn(const QVariantMap &dictionary, const QString &key)
+{
+    const QVariant value = dictionary.value(key);
+    return value.typeId() == QMetaType::QString ? value.toString() : QString();
+}
+
+/// Of "DownloaderUISupportURLTop" and its like: the link for the language, or the English one.
+QVariantMap linkIn(const QVariantMap &root, const QString &key, const QString &language)
+{
+    const QVariantMap links = root.value(key).toMap();
+    const QVariant link = links.value(language);
+    return (link.typeId() == QMetaType::QVariantMap ? link : links.value(u"en"_s)).toMap();
+}
+
+/// Blanks, a sign and zeros, and then a digit or the first letter of "yes" or "true".
+bool booleanText(QStringView text)
+{
+    text = text.trimmed();
+    if (text.startsWith(u'-') || text.startsWith(u'+'))
+        text = text.sliced(1);
+    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c != u'0'; });
+    return first != text.end() && ((*first >= u'1' && *first <= u'9') || QStringView(u"YyTt").contains(*first));
+}
+
+bool booleanReading(const QVariant &value)
+{
+    switch (foundation::propertyListType(value)) {
+        case foundation::PropertyListType::Boolean:
+        case foundation::PropertyListType::Integer:
+            return value.toBool();
+        case foundation::PropertyListType::Real:
+            return value.toDouble() != 0;
+        case foundation::PropertyListType::String:
+            return booleanText(value.toString());
+        default:
+            return false;
+    }
+}
+
+}  // namespace
+
+std::shared_ptr<const UPParser> UPParser::initWithXMLURL(const QString &url, const UpdateContext &context,
+                                                         QString *reason)
+{
+    const auto fail = [reason](const QString &why) {
+        if (reason)
+            *reason = why;
+        return nullptr;
+    };
+    const foundation::FetchResult result = context.fetch(
+        {.address = url, .maximumBytes = descriptorLimits.bytes, .schemes = foundation::FetchSchemes::WebAndFile});
+    if (!result.body)
+        return fail(result.reason);
+    const foundation::PropertyListResult list = foundation::readPropertyList(*result.body, descriptorLimits);
+    if (!list.value)
+        return fail(list.error.toString());
+    if (list.value->typeId() != QMetaType::QVariantMap)
+        return fail(u"the property list is no dictionary"_s);
+    auto parser = std::make_shared<UPParser>(context);
+    parser->parseUpgradeConfig(list.value->toMap());
+    return parser;
+}
+
+void UPParser::parseUpgradeConfig(const QVariantMap &root)
+{
+    m_forceUpgrade = booleanReading(root.value(u"ForceAppUpgrade"_s));
+    m_versionFromServer = textIn(root, u"LastestVersion"_s);
+    m_buildTimeFromServer = textIn(root, u"BuildDate"_s);
+
+    const QVariant ofLanguage = root.value(m_context.language);
+    const QVariantMap section = ofLanguage.typeId() == QMetaType::QVariantMap ? ofLanguage.toMap() : root;
+    // A text would read as a list of its characters.
+    const QVariant log = section.value(u"UpdateLog"_s);
+    m_upgradeLogFromServer = log.typeId() == QMetaType::QVariantList ? log.toList() : QVariantList();
+    m_productDownloadURLReg = textIn(section, u"DownloadURLReg"_s);
+    m_promotionRegitsteredTitle = textIn(section, u"NotificationTitle"_s);
+    m_promotionRegitsteredNotes = textIn(section, u"NotificationContent"_s);
+    m_promotionRegitsteredURL = textIn(section, u"NotificationURL"_s);
+
+    const QVariantMap top = linkIn(root, u"DownloaderUISupportURLTop"_s, m_context.language);
+    m_dlSupportLinkTitleReg = textIn(top, u"Title"_s);
+    m_dlSupportLinkURLReg = textIn(top, u"URL"_s);
+    const QVariantMap bottom = linkIn(root, u"DownloaderUISupportURLBottom"_s, m_context.language);
+    m_dl300PlusTitleReg = textIn(bottom, u"Title"_s);
+    m_dl300PlusURLReg = textIn(bottom, u"URL"_s);
+
+    const QString configuration = textIn(section, u"ADConfigURL"_s);
+    if (configuration.size() >= shortestConfigurationAddress)
+        m_rmtConfig = AppRMConfig::remoteConfigWithURL(configuration, m_context.fetch);
+}
+
+bool UPParser::foundNewVerion() const
+{
+    return !m_versionFromServer.isNull() && compareVersions(m_versionFromServer, m_context.localVersion) > 0;
+}
+
+foundation::StyledText UPParser::updateLog() const
+{
+    foundation::StyledTextBuilder builder;
+    foundation::TextStyle style;
+    if (m_upgradeLogFromServer.isEmpty()) {
+        style.color = foundation::ColorWithHexString(u"696969"_s).rgb();
+        builder.append(u" 1. Add the support more media format.\n 2. minor bug improvements.", style);
+        return builder.text();
+    }
+    style.fontFamily = u"Arial"_s;
+    style.pixelSize = 13;
+    for (qsizetype i = 0; i < m_upgradeLogFromServer.size() && !builder.isFull(); ++i) {
+        const QVariantMap entry = m_upgradeLogFromServer[i].toMap();
+        const QColor color = foundation::ColorWithHexString(textIn(entry, u"color"_s));
+        style.color = color.isValid() ? color.rgb() : qRgb(0, 0, 0);
+        builder.append(u" %1. "_s.arg(i + 1) + textIn(entry, u"content"_s) + u'\n', style);
+    }
+    return builder.text();
+}
+
+}  // namespace kestrel

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "AppRMConfig.h"
+#include "Fetch.h"
+#include "StyledText.h"
+
+#include <QObject>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <memory>
+
+namespace kestrel {
+
+/// What a descriptor is read with.
+struct UpdateContext {
+    QString language;      ///< the interface language, as the user's defaults have it ("zh-Hans")
+    QString localVersion;  ///< of the running program
+    foundation::Fetch fetch;
+};
+
+/// The update descriptor: which version is the latest, what is new in it, where it is, and some more texts and links
+/// from the publisher. Immutable once parsed; made on a background thread and read on the main one. A field that the
+/// document lacks, or holds in another type, is null.
+class UPParser : public QObject {
+public:
+    /// Fetches and reads the descriptor and the remote configuration that it names; blocks. Null where the descriptor
+    /// cannot be had or is no property-list dictionary; `reason` then says why, in English, for the log.
+    static std::shared_ptr<const UPParser> initWithXMLURL(const QString &url, const UpdateContext &context,
+                                                          QString *reason = nullptr);
+
+    explicit UPParser(const UpdateContext &context) : m_context(context) {}
+    void parseUpgradeConfig(const QVariantMap &root);
+
+    /// Whether the server's version is above the running one, component by component; a component that one of them
+    /// lacks counts as -1, below an explicit 0.
+    bool foundNewVerion() const;
+    /// The release notes, one numbered line an entry; a fixed text where there are none.
+    foundation::StyledText updateLog() const;
+
+    bool forceUpgrade() const { return m_forceUpgrade; }
+    QString versionFromServer() const { return m_versionFromServer; }
+    QString buildTimeFromServer() const { return m_buildTimeFromServer; }
+    const QVariantList &upgradeLogFromServer() const { return m_upgradeLogFromServer; }
+    QString productDownloadURLReg() const { return m_productDownloadURLReg; }
+    QString promotionRegitsteredTitle() const { return m_promotionRegitsteredTitle; }
+    QString promotionRegitsteredNotes() const { return m_promotionRegitsteredNotes; }
+    QString promotionRegitsteredURL() const { return m_promotionRegitsteredURL; }
+    QString dlSupportLinkTitleReg() const { return m_dlSupportLinkTitleReg; }
+    QString dlSupportLinkURLReg() const { return m_dlSupportLinkURLReg; }
+    QString dl300PlusTitleReg() const { return m_dl300PlusTitleReg; }
+    QString dl300PlusURLReg() const { return m_dl300PlusURLReg; }
+    const std::shared_ptr<const AppRMConfig> &rmtConfig() const { return m_rmtConfig; }
+
+private:
+    UpdateContext m_context;
+    bool m_forceUpgrade = false;
+    QString m_versionFromServer;
+    QString m_buildTimeFromServer;
+    QVariantList m_upgradeLogFromServer;
+    QString m_productDownloadURLReg;
+    QString m_promotionRegitsteredTitle;
+    QString m_promotionRegitsteredNotes;
+    QString m_promotionRegitsteredURL;
+    QString m_dlSupportLinkTitleReg;
+    QString m_dlSupportLinkURLReg;
+    QString m_dl300PlusTitleReg;
+    QString m_dl300PlusURLReg;
+    std::shared_ptr<const AppRMConfig> m_rmtConfig;
+};
+
+}  // namespace kestrel
