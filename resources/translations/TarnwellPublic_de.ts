@@ -16,12 +16,32 @@
         <translation>%1 von %2</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>%@ %@ ist derzeit die neueste verfügbare Version.</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ ist jetzt verfügbar – Sie verwenden %@. Möchten Sie jetzt aktualisieren?</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>Eine neue Version von %@ ist verfügbar</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>Über</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>Über %@</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>Über Kestrel</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>Über unser Unternehmen Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>Sichern Sie DVDs in 6 Modi, und wandeln Sie ganze DVDs in über 180 Formate um: zum Abspielen auf Mac und Mobilgeräten, zum Speichern auf der Festplatte, zum Ansehen am Fernseher und mehr. Eine ganze DVD in 5 Minuten!</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>Erstellt am: %@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Abbrechen</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>Die neue Sprache gilt nach dem Neustart des Programms.</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Nach Updates suchen …</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>Nach Updates wird gesucht … </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>Konvertiert: %1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>Kopiert.</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>Copyright © 2019-%@ Tarnwell Software, Inc. Alle Rechte vorbehalten.</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>Download</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>Jetzt laden</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>Nicht fertiggestellte Dateien müssten erneut konvertiert werden.</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Nächstes suchen</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Vorheriges suchen</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Mitlaufen</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>Format</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>Am anderen Ende des Protokolls weitergesucht und gefunden.</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>Es wird hier angezeigt, sobald es geschrieben wird: %1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>Titel lassen sich künftig in Videos für jedes Gerät konvertieren.</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Kestrel-Hilfe</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Kestrel-Protokoll</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Kestrel-Protokoll — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>Weitere Infos</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>Zeilen mit diesem Text: %1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>Zeilen mit diesem Text: %1, Suche läuft … %2 % (Esc stoppt)</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>Protokolltext</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>Name</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>Kein Protokoll angegeben</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>Noch nicht gewählt</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nichts gefunden.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>Öffnen</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>Öffnen Sie das Protokoll mit „App-Protokoll“ im Menü „Hilfe“ von %1.</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>Einsetzen</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>Einen Moment bitte. Update-Informationen werden vom Server geladen …</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>Bitte schreiben Sie an %1 und fügen Sie diese Datei bei: %2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>Bitte schreiben Sie an diese Adresse: %1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>Bevorzugte Tonsprache</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>Bei der letzten Konvertierung ist ein Problem aufgetreten.</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>Wiederholen</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>Versionshinweise:</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Entfernen</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>Auflösung</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>Kopie sichern</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Kopie sichern …</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>Wird gesichert … %1 % (Esc stoppt)</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Bildschirmaufnahme nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Seitwärts scrollen</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Auf- und abwärts scrollen</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>Einstellungen durchsuchen</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>Suche läuft … %1 % (Esc stoppt)</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Alles auswählen</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>Feedback senden</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>Bericht senden</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>Einstellungen</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>Datei zeigen</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>Mitteilungen zeigen</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>Nur Zeilen zeigen mit</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>Status</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>Am Ende bleiben, während das Protokoll wächst</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>Stoppen und verlassen</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>Gestoppt</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>Gestoppt.</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>Vorschläge</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>Das ist das Protokoll selbst. Wählen Sie einen anderen Namen.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>Der Konverter fehlt. Bitte installieren Sie das Programm erneut.</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>Die Kopie konnte nicht gesichert werden: %1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>Die Kopie wurde gesichert.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>Die Datei ist nicht mehr an ihrem Ort.</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>Die Datei wurde gelöscht. Ihr Inhalt wird weiterhin angezeigt.</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>Die ersten %1 wurden kopiert. Sichern Sie eine Kopie, um alles zu erhalten.</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>Der Ordner konnte nicht geöffnet werden.</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>Das Protokoll kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>Das Protokoll wurde inzwischen gekürzt. Versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Der Transcoder fehlt. Bitte installieren Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>Noch kein Protokoll vorhanden</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>In diesen Ordner kann nicht geschrieben werden.</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>Dies ist keine Textdatei</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>Dies ist keine Video- oder Tondatei.</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>Dieser Teil ist noch in Arbeit und kommt mit einem Update.</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>Zu viele Zeilen mit diesem Text: Die neuesten %1 werden angezeigt.</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>Transcoder</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>Keine Verbindung zum Update-Server möglich.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>Proxy verwenden</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>Version: %@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>Videos aus dem Web auf Ihrer Festplatte</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>Besuchen Sie unsere Website:</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>Website besuchen</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>Wartet</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>Fenster</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>Möchten Sie uns die Protokolldatei senden, damit wir das Problem beheben können?</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>Sie dürfen diese Datei nicht lesen.</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>Sie sind auf dem neuesten Stand</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>Ihre DVDs als Dateien</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>Ihr E-Mail-Programm konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

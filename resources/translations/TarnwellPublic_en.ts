@@ -16,12 +16,32 @@
         <translation>%1 of %2</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>%@ %@ is currently the latest version available.</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ is now available -- you're running %@. Would you like to update now?</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>A new version of %@ is available!</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>About</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>About %@</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>About Kestrel</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>About Our Company Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>Build on: %@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>Changes to the languages take effect upon relaunch.</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Check for Updates…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>Checking for updates.. </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>Converted: %1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>Copied.</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Copy</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>Download</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>Download Now</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>Files that are not finished would have to be converted again.</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>Find</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Find Next</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Find Previous</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Follow</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>Format</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>Found after going around the end of the log.</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>It is shown here as soon as it is written: %1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>It will convert titles to videos for every device.</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Kestrel Help</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Kestrel Log</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Kestrel Log — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Language</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>Learn More</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>Lines with this text: %1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>Lines with this text: %1, looking for more… %2 % (Esc stops)</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>Log text</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>Name</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>No log was named</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>Not chosen yet</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nothing found.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>Open</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>Open the log with “App Log” in the Help menu of %1.</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>Paste</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>Please wait. Getting update information from the server...</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>Please write to %1 and attach this file: %2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>Please write to this address: %1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>Preferred audio language</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>Problem detected in last conversion.</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>Redo</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>Release Notes:</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Remove</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>Resolution</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>Save a Copy</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Save a Copy…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>Saving… %1 % (Esc stops)</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Screen Record Unavailable!</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Scroll sideways</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Scroll up and down</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>Search Settings</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>Searching… %1 % (Esc stops)</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Select All</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>Send Feedback</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>Send Report</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>Settings</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>Show File</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>Show notifications</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>Show only lines with</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>Status</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>Stay at the end while the log grows</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>Stop and Leave</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>Stopped</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>Stopped.</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>Suggestions</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>That is the log itself. Choose another name.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>The converter is missing. Please install the application again.</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>The copy could not be saved: %1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>The copy was saved.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>The file is no longer where it was.</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>The file was deleted. What it held is still shown.</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>The first %1 were copied. Save a copy to have all of it.</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>The folder could not be opened.</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>The log cannot be read</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>The log was cut short meanwhile. Try again.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>The transcoder is missing. Please install the application again.</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>There is no log yet</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>This folder cannot be written to.</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>This is no text file</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>This is no video or sound file.</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>This part is still being made and comes with an update.</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>Too many lines have this text: the newest %1 are shown.</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>Transcoder</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>Unable to connect to update server.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>Use a proxy</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>Version: %@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>Videos from the web, on your disk</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>Visit our website:</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>Visit website</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>Waiting</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>Window</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>Would you please send us the Log File to help us fix the issue?</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>You are not allowed to read this file.</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>You're up-to-date!</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>Your DVDs, as files</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>Your mail program could not be opened.</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

@@ -16,12 +16,32 @@
         <translation>%1 de %2</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>%@ %@ es la última versión disponible actualmente.</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ ya está disponible (versión actual: %@). ¿Desea actualizar ahora?</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>Hay una nueva versión de %@ disponible</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>Acerca de</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>Acerca de %@</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>Acerca de Kestrel</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>Acerca de nuestra empresa, Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>Haga copias de seguridad de sus DVD en 6 modos y convierta un DVD completo a más de 180 formatos para reproducirlo en Mac y dispositivos móviles, guardarlo en el disco duro o verlo en la tele, entre otros. ¡Un DVD completo en 5 minutos!</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>Compilado el: %@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancelar</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>El cambio de idioma se aplicará al reiniciar la aplicación.</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Buscar actualizaciones…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>Buscando actualizaciones… </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>Convertidos: %1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>Copiado.</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>Copyright © 2019-%@ Tarnwell Software, Inc. Todos los derechos reservados.</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>Descarga</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>Descargar ahora</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>Los archivos sin terminar tendrían que volver a convertirse.</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Buscar siguiente</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Buscar anterior</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Seguir</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>Encontrado tras continuar por el otro extremo del registro.</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>Se mostrará aquí en cuanto se escriba: %1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>Podrá convertir los títulos en vídeos para cualquier dispositivo.</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Ayuda de Kestrel</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Registro de Kestrel</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Registro de Kestrel — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>Más información</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>Líneas con este texto: %1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>Líneas con este texto: %1; buscando más… %2 % (Esc para detener)</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>Texto del registro</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>Nombre</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>No se ha indicado ningún registro</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>Aún sin elegir</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>No se ha encontrado nada.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>Abrir</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>Abra el registro con “Registro de la app” en el menú Ayuda de %1.</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>Pegar</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>Espere un momento. Obteniendo del servidor la información de actualización…</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>Escriba a %1 y adjunte este archivo: %2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>Escriba a esta dirección: %1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>Puerto</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>Idioma de audio preferido</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>Se ha detectado un problema en la última conversión.</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>Rehacer</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>Notas de la versión:</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Quitar</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>Resolución</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>Guardar una copia</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Guardar una copia…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>Guardando… %1 % (Esc para detener)</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Grabación de pantalla no disponible</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Desplazar en horizontal</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Desplazar en vertical</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>Buscar en los ajustes</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>Buscando… %1 % (Esc para detener)</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Seleccionar todo</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>Enviar comentarios</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>Enviar informe</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>Ajustes</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>Mostrar archivo</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>Mostrar notificaciones</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>Mostrar solo líneas con</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>Estado</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>Permanecer al final mientras crece el registro</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>Detener y salir</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>Detenido</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>Detenido.</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>Sugerencias</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>Ese es el propio registro. Elija otro nombre.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>Falta el conversor. Vuelva a instalar la aplicación.</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>No se ha podido guardar la copia: %1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>Se ha guardado la copia.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>El archivo ya no está donde estaba.</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>El archivo se ha eliminado. Su contenido aún se muestra.</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>Se han copiado los primeros %1. Guarde una copia para tenerlo todo.</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>No se ha podido abrir la carpeta.</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>No se puede leer el registro</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>El registro se ha acortado mientras tanto. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Falta el transcodificador. Vuelva a instalar la aplicación.</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>Todavía no hay ningún registro</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>No se puede escribir en esta carpeta.</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>No es un archivo de texto</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>No es un archivo de vídeo ni de sonido.</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>Esta parte aún está en desarrollo y llegará con una actualización.</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>Demasiadas líneas con este texto: se muestran las %1 más recientes.</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>Transcodificador</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>No se ha podido conectar con el servidor de actualizaciones.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>Usar un proxy</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>Versión: %@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>Vídeos de la web, en su disco</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>Visite nuestro sitio web:</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>Visitar el sitio web</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>En espera</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>Ventana</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>¿Desea enviarnos el archivo de registro para ayudarnos a solucionar el problema?</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>No tiene permiso para leer este archivo.</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>Tiene la versión más reciente</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>Sus DVD, en archivos</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>No se ha podido abrir su programa de correo.</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

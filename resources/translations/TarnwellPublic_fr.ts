@@ -16,12 +16,32 @@
         <translation>%1 sur %2</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>%@ %@ est actuellement la dernière version disponible.</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ est maintenant disponible – vous utilisez la version %@. Voulez-vous effectuer la mise à jour maintenant ?</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>Une nouvelle version de %@ est disponible</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>À propos</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>À propos de %@</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>À propos de Kestrel</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>À propos de notre société Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>Sauvegardez vos DVD selon 6 modes et convertissez un DVD entier vers plus de 180 formats pour le lire sur Mac et appareils mobiles, le stocker sur disque dur ou le regarder sur un téléviseur, etc. Un DVD entier en 5 minutes !</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>Compilé le : %@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Annuler</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>Le changement de langue prend effet au redémarrage de l’application.</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Rechercher les mises à jour…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>Recherche de mises à jour… </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>Convertis : %1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>Copié.</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Copier</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>Copyright © 2019-%@ Tarnwell Software, Inc. Tous droits réservés.</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>Téléchargement</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>Télécharger</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>Les fichiers non terminés devraient être convertis de nouveau.</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>Rechercher</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Rechercher le suivant</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Rechercher le précédent</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Suivre</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>Format</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>Trouvé après reprise à l’autre extrémité du journal.</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>Il s’affichera ici dès qu’il sera écrit : %1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>Les titres pourront être convertis en vidéos pour tous les appareils.</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Aide Kestrel</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Journal de Kestrel</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Journal de Kestrel — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>En savoir plus</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>Lignes contenant ce texte : %1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>Lignes contenant ce texte : %1, recherche en cours… %2 % (Échap pour arrêter)</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>Texte du journal</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>Nom</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>Aucun journal indiqué</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>Pas encore choisi</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Aucun résultat.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>Ouvrir</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>Ouvrez le journal avec « Journal de l’app » dans le menu Aide de %1.</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>Coller</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>Veuillez patienter. Récupération des informations de mise à jour auprès du serveur…</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>Veuillez écrire à %1 en joignant ce fichier : %2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>Veuillez écrire à cette adresse : %1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>Port</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>Langue audio préférée</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>Un problème a été détecté lors de la dernière conversion.</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>Rétablir</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>Notes de version :</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Retirer</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>Résolution</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>Enregistrer une copie</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Enregistrer une copie…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>Enregistrement… %1 % (Échap pour arrêter)</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Enregistrement de l’écran indisponible</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Défiler horizontalement</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Défiler verticalement</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>Rechercher un réglage</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>Recherche… %1 % (Échap pour arrêter)</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Tout sélectionner</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>Envoyer un commentaire</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>Envoyer le rapport</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>Réglages</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>Afficher le fichier</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>Afficher les notifications</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>Lignes contenant</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>État</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>Rester à la fin pendant que le journal s’allonge</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>Arrêter et quitter</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>Arrêté</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>Arrêté.</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>Suggestions</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>C’est le journal lui-même. Choisissez un autre nom.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>Le convertisseur est introuvable. Veuillez réinstaller l’application.</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>Impossible d’enregistrer la copie : %1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>La copie a été enregistrée.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>Le fichier n’est plus à son emplacement.</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>Le fichier a été supprimé. Son contenu reste affiché.</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>Les %1 premiers ont été copiés. Enregistrez une copie pour tout obtenir.</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>Impossible d’ouvrir le dossier.</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>Impossible de lire le journal</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>Le journal a été raccourci entre-temps. Réessayez.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Le transcodeur est introuvable. Veuillez réinstaller l’application.</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>Aucun journal pour le moment</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>Impossible d’écrire dans ce dossier.</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>Ce n’est pas un fichier texte</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>Ce n’est pas un fichier vidéo ou audio.</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>Cette partie est en cours de réalisation et arrivera avec une mise à jour.</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>Trop de lignes contiennent ce texte : seules les %1 plus récentes sont affichées.</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>Transcodeur</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>Impossible de se connecter au serveur de mise à jour.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>Utiliser un proxy</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>Version : %@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>Les vidéos du web sur votre disque</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>Visitez notre site web :</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>Visiter le site web</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>En attente</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>Fenêtre</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>Voulez-vous nous envoyer le fichier journal pour nous aider à résoudre le problème ?</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>Vous n’êtes pas autorisé à lire ce fichier.</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>Votre version est à jour</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>Vos DVD sous forme de fichiers</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>Impossible d’ouvrir votre logiciel de messagerie.</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

@@ -16,12 +16,32 @@
         <translation>%1 di %2</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>%@ %@ è attualmente la versione più recente disponibile.</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ è ora disponibile; la versione in uso è la %@. Aggiornare adesso?</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>È disponibile una nuova versione di %@</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>Info</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>Informazioni su %@</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>Informazioni su Kestrel</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>Informazioni sulla nostra azienda Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>Esegui il backup dei DVD in 6 modalità e converti un intero DVD in oltre 180 formati per riprodurlo su Mac e dispositivi mobili, archiviarlo sul disco rigido, guardarlo in TV e altro. Un intero DVD in 5 minuti!</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>Compilato il: %@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Annulla</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>La nuova lingua sarà attiva dopo il riavvio dell’applicazione.</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>Verifica aggiornamenti…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>Verifica degli aggiornamenti… </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>Convertiti: %1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>Copiato.</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>Copia</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>Copyright © 2019-%@ Tarnwell Software, Inc. Tutti i diritti riservati.</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>Download</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>Scarica ora</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>I file non completati dovrebbero essere convertiti di nuovo.</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>Cerca</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>Cerca successivo</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>Cerca precedente</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>Segui</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>Formato</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>Trovato proseguendo dall’altra estremità del log.</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>Sarà mostrato qui non appena verrà scritto: %1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>Potrai convertire i titoli in video per ogni dispositivo.</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Aiuto Kestrel</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Log di Kestrel</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Log di Kestrel — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>Scopri di più</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>Righe con questo testo: %1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>Righe con questo testo: %1, ricerca in corso… %2% (Esc per interrompere)</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>Testo del log</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>Nome</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>Nessun log indicato</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>Non ancora scelta</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>Nessun risultato.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>Apri</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>Apri il log con “Log dell’app” nel menu Aiuto di %1.</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>Incolla</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>Attendi. Recupero delle informazioni sugli aggiornamenti dal server…</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>Scrivi a %1 e allega questo file: %2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>Scrivi a questo indirizzo: %1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>Porta</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>Lingua audio preferita</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>È stato rilevato un problema nell’ultima conversione.</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>Ripristina</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>Note di rilascio:</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>Rimuovi</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>Risoluzione</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>Salva una copia</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>Salva una copia…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>Salvataggio… %1% (Esc per interrompere)</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>Registrazione schermo non disponibile</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>Scorri in orizzontale</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>Scorri in verticale</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>Cerca nelle impostazioni</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>Ricerca… %1% (Esc per interrompere)</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Seleziona tutto</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>Invia feedback</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>Invia resoconto</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>Impostazioni</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>Mostra file</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>Mostra notifiche</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>Mostra solo righe con</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>Stato</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>Resta alla fine mentre il log cresce</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>Interrompi ed esci</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>Interrotto</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>Interrotto.</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>Suggerimenti</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>Questo è il log stesso. Scegli un altro nome.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>Il convertitore non è presente. Installa di nuovo l’applicazione.</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>Impossibile salvare la copia: %1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>La copia è stata salvata.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>Il file non è più nella sua posizione.</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>Il file è stato eliminato. Il suo contenuto è ancora mostrato.</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>Sono stati copiati i primi %1. Salva una copia per avere tutto.</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>Impossibile aprire la cartella.</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>Impossibile leggere il log</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>Nel frattempo il log è stato accorciato. Riprova.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Il transcodificatore manca. Installa di nuovo l’applicazione.</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>Non c’è ancora alcun log</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>Impossibile scrivere in questa cartella.</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>Non è un file di testo</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>Non è un file video o audio.</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>Questa parte è ancora in lavorazione e arriverà con un aggiornamento.</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>Troppe righe con questo testo: sono mostrate le %1 più recenti.</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>Transcodificatore</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>Impossibile connettersi al server degli aggiornamenti.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>Usa un proxy</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>Versione: %@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>I video del web, sul tuo disco</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>Visita il nostro sito web:</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>Visita il sito web</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>In attesa</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>Finestra</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>Vuoi inviarci il file di log per aiutarci a risolvere il problema?</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>Non hai il permesso di leggere questo file.</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>Hai la versione più recente</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>I tuoi DVD, come file</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>Impossibile aprire il programma di posta.</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

@@ -16,12 +16,32 @@
         <translation>%2件中%1件目</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>現在利用できる最新のバージョンは%@ %@です。</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@が利用できるようになりました。現在お使いのバージョンは%@です。今すぐアップデートしますか？</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>%@の新しいバージョンがあります</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>情報</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>%@について</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>Kestrelについて</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>会社について: Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>6種類のモードでDVDをバックアップし、DVD全体を180種類以上の形式に変換できます。Macやモバイル機器での再生、ハードディスクへの保存、テレビでの視聴などに対応。DVD1枚を5分でリッピングできます。</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>ビルド日: %@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>言語の変更は再起動後に反映されます。</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>アップデートを確認…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>アップデートを確認中… </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>変換済み: %1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>コピーしました。</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>コピー</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>Copyright © 2019-%@ Tarnwell Software, Inc. 無断転載を禁じます。</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>ダウンロード</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>今すぐダウンロード</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>完了していないファイルは、もう一度変換する必要があります。</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>検索</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>次を検索</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>前を検索</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>自動スクロール</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>形式</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>ログの端から反対側へ折り返して見つかりました。</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>書き込まれ次第、ここに表示されます: %1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>タイトルをあらゆるデバイス向けのビデオに変換できるようになります。</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Kestrelヘルプ</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Kestrelログ</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Kestrelログ — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>詳しい情報</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>このテキストを含む行: %1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>このテキストを含む行: %1、検索中… %2%（Escで中止）</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>ログのテキスト</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>名前</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>ログが指定されていません</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>未選択</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>見つかりませんでした。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>%1の「ヘルプ」メニューの「アプリのログ」でログを開いてください。</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>ペースト</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>しばらくお待ちください。サーバーからアップデート情報を取得しています…</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>このファイルを添付して%1までメールをお送りください: %2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>このアドレスまでメールをお送りください: %1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>ポート</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>優先する音声言語</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>前回の変換で問題が検出されました。</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>やり直す</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>リリースノート:</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>削除</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>解像度</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>コピーを保存</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>コピーを保存…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>保存中… %1%（Escで中止）</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>画面収録は利用できません</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>横にスクロール</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>縦にスクロール</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>設定を検索</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>検索中… %1%（Escで中止）</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>すべてを選択</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>フィードバックを送信</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>レポートを送信</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>設定</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>ファイルを表示</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>通知を表示</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>このテキストを含む行だけ表示</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>状態</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>ログが増えても末尾を表示し続ける</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>中止して戻る</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>中止</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>中止しました。</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>候補</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>これはログそのものです。別の名前を選んでください。</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>変換プログラムが見つかりません。アプリケーションをインストールし直してください。</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>コピーを保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>コピーを保存しました。</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>ファイルが元の場所に見つかりません。</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>ファイルは削除されましたが、内容は引き続き表示されています。</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>先頭の%1をコピーしました。すべてが必要な場合はコピーを保存してください。</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>フォルダを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>ログを読み込めません</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>途中でログが短くなりました。もう一度お試しください。</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>トランスコーダーが見つかりません。アプリケーションを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>ログはまだありません</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>このフォルダーには書き込めません。</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>これはテキストファイルではありません</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>これはビデオまたは音声のファイルではありません。</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>この機能は開発中です。アップデートで提供されます。</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>このテキストを含む行が多すぎるため、最新の%1行を表示しています。</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>トランスコーダー</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>アップデートサーバーに接続できません。</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>プロキシを使用</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>バージョン: %@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>Webのビデオをディスクに</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>Webサイト:</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>Webサイトを見る</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>待機中</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>ウインドウ</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>問題の解決のため、ログファイルをお送りいただけますか？</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>このファイルを読み込む権限がありません。</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>お使いのバージョンは最新です</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>DVDをファイルに</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>メールプログラムを開けませんでした。</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

@@ -16,12 +16,32 @@
         <translation>%2개 중 %1번째</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>현재 사용할 수 있는 최신 버전은 %@ %@입니다.</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ 버전을 사용할 수 있습니다. 현재 버전은 %@입니다. 지금 업데이트하겠습니까?</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>%@의 새로운 버전이 있습니다</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>정보</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>%@에 관하여</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>Kestrel에 관하여</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>회사 소개: Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>6가지 모드로 DVD를 백업하고, DVD 전체를 180가지 이상의 포맷으로 변환하여 Mac과 모바일 기기에서 재생하거나 하드 디스크에 저장하고 TV에서 즐길 수 있습니다. DVD 한 장을 5분 만에 변환합니다!</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>빌드 날짜: %@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>취소</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>변경한 언어는 다시 시작하면 적용됩니다.</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>업데이트 확인…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>업데이트 확인 중… </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>변환됨: %1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>복사했습니다.</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>복사하기</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>Copyright © 2019-%@ Tarnwell Software, Inc. 모든 권리 보유.</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>다운로드</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>지금 다운로드</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>완료되지 않은 파일은 다시 변환해야 합니다.</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>찾기</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>다음 찾기</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>이전 찾기</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>자동 스크롤</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>포맷</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>로그의 반대쪽 끝에서 계속하여 찾았습니다.</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>기록되는 즉시 여기에 표시됩니다: %1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>타이틀을 모든 기기용 비디오로 변환할 수 있게 됩니다.</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Kestrel 도움말</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Kestrel 로그</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Kestrel 로그 — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>언어</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>더 알아보기</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>이 텍스트가 있는 줄: %1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>이 텍스트가 있는 줄: %1, 계속 찾는 중… %2%(Esc로 중단)</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>로그 텍스트</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>이름</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>지정된 로그가 없음</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>아직 선택하지 않음</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>찾은 결과가 없습니다.</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>열기</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>%1의 도움말 메뉴에서 ‘앱 로그’로 로그를 여십시오.</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>붙여넣기</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>잠시 기다려 주십시오. 서버에서 업데이트 정보를 가져오는 중…</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>이 파일을 첨부하여 %1(으)로 메일을 보내 주십시오: %2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>이 주소로 메일을 보내 주십시오: %1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>포트</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>기본 오디오 언어</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>마지막 변환에서 문제가 감지되었습니다.</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>실행 복귀</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>출시 노트:</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>제거</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>해상도</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>사본 저장</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>사본 저장…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>저장 중… %1%(Esc로 중단)</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>화면 기록을 사용할 수 없음</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>가로로 스크롤</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>세로로 스크롤</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>설정 검색</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>찾는 중… %1%(Esc로 중단)</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>모두 선택</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>피드백 보내기</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>리포트 보내기</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>설정</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>파일 보기</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>알림 표시</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>이 텍스트가 있는 줄만 보기</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>상태</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>로그가 늘어나는 동안 끝에 머무르기</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>중단하고 나가기</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>중단됨</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>중단했습니다.</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>추천</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>이 파일은 로그 자체입니다. 다른 이름을 선택하십시오.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>변환기가 없습니다. 응용 프로그램을 다시 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>사본을 저장할 수 없습니다: %1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>사본을 저장했습니다.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>파일이 더 이상 원래 위치에 없습니다.</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>파일이 삭제되었습니다. 내용은 계속 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>처음 %1만 복사했습니다. 전체가 필요하면 사본을 저장하십시오.</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>폴더를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>로그를 읽을 수 없음</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>그 사이에 로그가 짧아졌습니다. 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>트랜스코더가 없습니다. 앱을 다시 설치하세요.</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>아직 로그가 없음</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>이 폴더에는 쓸 수 없습니다.</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>텍스트 파일이 아닙니다</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>비디오 또는 사운드 파일이 아닙니다.</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>이 기능은 아직 제작 중이며 업데이트로 제공됩니다.</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>이 텍스트가 있는 줄이 너무 많아 최신 %1줄을 표시합니다.</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>트랜스코더</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>업데이트 서버에 연결할 수 없습니다.</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>프록시 사용</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>버전: %@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>웹 비디오를 디스크에</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>웹사이트 방문:</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>웹사이트 방문</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>대기 중</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>윈도우</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>문제를 해결할 수 있도록 로그 파일을 보내 주시겠습니까?</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>이 파일을 읽을 권한이 없습니다.</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>최신 버전입니다</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>DVD를 파일로</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>메일 프로그램을 열 수 없습니다.</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

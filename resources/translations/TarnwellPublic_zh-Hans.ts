@@ -16,12 +16,32 @@
         <translation>第 %1 个，共 %2 个</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>%@ %@ 是当前可用的最新版本。</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ 现已推出，您当前使用的是 %@。要现在更新吗？</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>%@ 有新版本可用</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>关于</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>关于 %@</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>关于 Kestrel</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>关于我们的公司 Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>以 6 种模式备份 DVD，将整张 DVD 转换为 180 多种格式，在 Mac 和移动设备上播放、存储到硬盘或在电视上观看等。5 分钟即可转换整张 DVD！</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>构建日期：%@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>语言更改将在重新启动后生效。</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>检查更新…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>正在检查更新… </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>已转换：%1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>已拷贝。</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>拷贝</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>版权所有 © 2019-%@ Tarnwell Software, Inc. 保留所有权利。</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>下载</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>立即下载</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>尚未完成的文件需要重新转换。</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>查找</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>查找下一个</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>查找上一个</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>自动滚动</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>格式</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>已从日志另一端继续查找并找到。</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>日志写入后将立即显示在此处：%1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>将可以把标题转换为适合各种设备的视频。</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Kestrel 帮助</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Kestrel 日志</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Kestrel 日志 — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>语言</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>了解更多</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>包含此文本的行：%1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>包含此文本的行：%1，正在继续查找… %2%（按 Esc 停止）</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>日志文本</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>名称</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>未指定日志</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>尚未选择</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>未找到任何内容。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>打开</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>请在 %1 的“帮助”菜单中通过“应用日志”打开日志。</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>粘贴</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>请稍候。正在从服务器获取更新信息…</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>请写信至 %1 并附上此文件：%2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>请写信至此地址：%1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>端口</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>首选音频语言</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>上次转换时检测到问题。</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>重做</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>版本说明：</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>移除</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>分辨率</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>存储副本</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>存储副本…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>正在存储… %1%（按 Esc 停止）</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>屏幕录制不可用</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>左右滚动</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>上下滚动</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>搜索设置</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>正在查找… %1%（按 Esc 停止）</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>全选</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>发送反馈</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>发送报告</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>设置</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>显示文件</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>显示通知</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>仅显示包含此文本的行</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>状态</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>日志增长时停留在末尾</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>停止并离开</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>已停止</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>已停止。</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>建议</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>这是日志本身。请选择其他名称。</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>找不到转换器。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>无法存储副本：%1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>副本已存储。</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>文件已不在原来的位置。</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>文件已删除。其内容仍会显示。</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>已拷贝前 %1。要获取全部内容，请存储副本。</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>无法打开文件夹。</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>无法读取日志</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>日志在此期间被截短。请重试。</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>缺少转码器。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>尚无日志</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>无法写入此文件夹。</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>这不是文本文件</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>这不是视频或声音文件。</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>此功能仍在制作中，将随更新提供。</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>包含此文本的行过多：显示最新的 %1 行。</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>转码器</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>无法连接到更新服务器。</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>使用代理</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>版本：%@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>把网络视频保存到磁盘</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>访问我们的网站：</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>访问网站</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>等待中</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>窗口</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>您愿意将日志文件发送给我们，以帮助我们解决此问题吗？</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>您没有读取此文件的权限。</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>已是最新版本</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>让 DVD 成为文件</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>无法打开您的邮件程序。</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>

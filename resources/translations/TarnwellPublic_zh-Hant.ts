@@ -16,12 +16,32 @@
         <translation>第 %1 個，共 %2 個</translation>
     </message>
     <message>
+        <source>%@ %@ is currently the latest version available.</source>
+        <translation>%@ %@ 是目前可用的最新版本。</translation>
+    </message>
+    <message>
+        <source>%@ %@ is now available -- you're running %@. Would you like to update now?</source>
+        <translation>%@ %@ 現已推出，您目前使用的是 %@。要現在更新嗎？</translation>
+    </message>
+    <message>
+        <source>A new version of %@ is available!</source>
+        <translation>%@ 有新版本可供使用</translation>
+    </message>
+    <message>
         <source>About</source>
         <translation>關於</translation>
     </message>
     <message>
+        <source>About %@</source>
+        <translation>關於 %@</translation>
+    </message>
+    <message>
         <source>About Kestrel</source>
         <translation>關於 Kestrel</translation>
+    </message>
+    <message>
+        <source>About Our Company Tarnwell Software, Inc.</source>
+        <translation>關於我們的公司 Tarnwell Software, Inc.</translation>
     </message>
     <message>
         <source>Add Files</source>
@@ -68,6 +88,10 @@
         <translation>以 6 種模式備份 DVD，將整張 DVD 轉換為 180 多種格式，在 Mac 和行動裝置上播放、儲存到硬碟或在電視上觀賞等。5 分鐘即可轉換整張 DVD！</translation>
     </message>
     <message>
+        <source>Build on: %@</source>
+        <translation>建置日期：%@</translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>取消</translation>
     </message>
@@ -78,6 +102,14 @@
     <message>
         <source>Changes to the languages take effect upon relaunch.</source>
         <translation>語言變更會在重新啟動後生效。</translation>
+    </message>
+    <message>
+        <source>Check for Updates…</source>
+        <translation>檢查更新項目…</translation>
+    </message>
+    <message>
+        <source>Checking for updates.. </source>
+        <translation>正在檢查更新項目… </translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -136,8 +168,16 @@
         <translation>已轉換：%1</translation>
     </message>
     <message>
+        <source>Copied.</source>
+        <translation>已拷貝。</translation>
+    </message>
+    <message>
         <source>Copy</source>
         <translation>拷貝</translation>
+    </message>
+    <message>
+        <source>Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved.</source>
+        <translation>版權所有 © 2019-%@ Tarnwell Software, Inc. 保留一切權利。</translation>
     </message>
     <message>
         <source>Cores</source>
@@ -174,6 +214,10 @@
     <message>
         <source>Download</source>
         <translation>下載</translation>
+    </message>
+    <message>
+        <source>Download Now</source>
+        <translation>立即下載</translation>
     </message>
     <message>
         <source>Download Video</source>
@@ -228,8 +272,28 @@
         <translation>尚未完成的檔案需要重新轉換。</translation>
     </message>
     <message>
+        <source>Find</source>
+        <translation>尋找</translation>
+    </message>
+    <message>
+        <source>Find Next</source>
+        <translation>尋找下一個</translation>
+    </message>
+    <message>
+        <source>Find Previous</source>
+        <translation>尋找上一個</translation>
+    </message>
+    <message>
+        <source>Follow</source>
+        <translation>自動捲動</translation>
+    </message>
+    <message>
         <source>Format</source>
         <translation>格式</translation>
+    </message>
+    <message>
+        <source>Found after going around the end of the log.</source>
+        <translation>已從記錄另一端繼續尋找並找到。</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -276,6 +340,10 @@
         <translation>Intel</translation>
     </message>
     <message>
+        <source>It is shown here as soon as it is written: %1</source>
+        <translation>記錄寫入後會立即顯示在此處：%1</translation>
+    </message>
+    <message>
         <source>It will convert titles to videos for every device.</source>
         <translation>將可把標題轉換為適合各種裝置的影片。</translation>
     </message>
@@ -320,8 +388,32 @@
         <translation>Kestrel 輔助說明</translation>
     </message>
     <message>
+        <source>Kestrel Log</source>
+        <translation>Kestrel 記錄</translation>
+    </message>
+    <message>
+        <source>Kestrel Log — %1</source>
+        <translation>Kestrel 記錄 — %1</translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>語言</translation>
+    </message>
+    <message>
+        <source>Learn More</source>
+        <translation>瞭解更多</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1</source>
+        <translation>包含此文字的行：%1</translation>
+    </message>
+    <message>
+        <source>Lines with this text: %1, looking for more… %2 % (Esc stops)</source>
+        <translation>包含此文字的行：%1，正在繼續尋找… %2%（按 Esc 停止）</translation>
+    </message>
+    <message>
+        <source>Log text</source>
+        <translation>記錄文字</translation>
     </message>
     <message>
         <source>Looking at the hardware</source>
@@ -364,8 +456,16 @@
         <translation>名稱</translation>
     </message>
     <message>
+        <source>No log was named</source>
+        <translation>未指定記錄</translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>尚未選擇</translation>
+    </message>
+    <message>
+        <source>Nothing found.</source>
+        <translation>找不到任何內容。</translation>
     </message>
     <message>
         <source>OK</source>
@@ -378,6 +478,10 @@
     <message>
         <source>Open</source>
         <translation>打開</translation>
+    </message>
+    <message>
+        <source>Open the log with “App Log” in the Help menu of %1.</source>
+        <translation>請在 %1 的「輔助說明」選單中透過「應用程式記錄」打開記錄。</translation>
     </message>
     <message>
         <source>Open the output folder</source>
@@ -400,6 +504,18 @@
         <translation>貼上</translation>
     </message>
     <message>
+        <source>Please wait. Getting update information from the server...</source>
+        <translation>請稍候。正在從伺服器取得更新資訊…</translation>
+    </message>
+    <message>
+        <source>Please write to %1 and attach this file: %2</source>
+        <translation>請寫信至 %1 並附上此檔案：%2</translation>
+    </message>
+    <message>
+        <source>Please write to this address: %1</source>
+        <translation>請寫信至此地址：%1</translation>
+    </message>
+    <message>
         <source>Port</source>
         <translation>連接埠</translation>
     </message>
@@ -410,6 +526,10 @@
     <message>
         <source>Preferred audio language</source>
         <translation>偏好的音訊語言</translation>
+    </message>
+    <message>
+        <source>Problem detected in last conversion.</source>
+        <translation>上次轉換時偵測到問題。</translation>
     </message>
     <message>
         <source>Processor</source>
@@ -464,6 +584,10 @@
         <translation>重做</translation>
     </message>
     <message>
+        <source>Release Notes:</source>
+        <translation>版本說明：</translation>
+    </message>
+    <message>
         <source>Remove</source>
         <translation>移除</translation>
     </message>
@@ -480,24 +604,64 @@
         <translation>解析度</translation>
     </message>
     <message>
+        <source>Save a Copy</source>
+        <translation>儲存副本</translation>
+    </message>
+    <message>
+        <source>Save a Copy…</source>
+        <translation>儲存副本…</translation>
+    </message>
+    <message>
+        <source>Saving… %1 % (Esc stops)</source>
+        <translation>正在儲存… %1%（按 Esc 停止）</translation>
+    </message>
+    <message>
         <source>Screen Record Unavailable!</source>
         <translation>無法錄製螢幕</translation>
+    </message>
+    <message>
+        <source>Scroll sideways</source>
+        <translation>左右捲動</translation>
+    </message>
+    <message>
+        <source>Scroll up and down</source>
+        <translation>上下捲動</translation>
     </message>
     <message>
         <source>Search Settings</source>
         <translation>搜尋設定</translation>
     </message>
     <message>
+        <source>Searching… %1 % (Esc stops)</source>
+        <translation>正在尋找… %1%（按 Esc 停止）</translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>全選</translation>
+    </message>
+    <message>
+        <source>Send Feedback</source>
+        <translation>傳送意見回饋</translation>
+    </message>
+    <message>
+        <source>Send Report</source>
+        <translation>傳送報告</translation>
     </message>
     <message>
         <source>Settings</source>
         <translation>設定</translation>
     </message>
     <message>
+        <source>Show File</source>
+        <translation>顯示檔案</translation>
+    </message>
+    <message>
         <source>Show notifications</source>
         <translation>顯示通知</translation>
+    </message>
+    <message>
+        <source>Show only lines with</source>
+        <translation>只顯示包含此文字的行</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -512,6 +676,10 @@
         <translation>狀態</translation>
     </message>
     <message>
+        <source>Stay at the end while the log grows</source>
+        <translation>記錄增加時停留在結尾</translation>
+    </message>
+    <message>
         <source>Stop and Leave</source>
         <translation>停止並離開</translation>
     </message>
@@ -520,8 +688,16 @@
         <translation>已停止</translation>
     </message>
     <message>
+        <source>Stopped.</source>
+        <translation>已停止。</translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>建議</translation>
+    </message>
+    <message>
+        <source>That is the log itself. Choose another name.</source>
+        <translation>這是記錄本身。請選擇其他名稱。</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -538,6 +714,14 @@
     <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>找不到轉換器。請重新安裝應用程式。</translation>
+    </message>
+    <message>
+        <source>The copy could not be saved: %1</source>
+        <translation>無法儲存副本：%1</translation>
+    </message>
+    <message>
+        <source>The copy was saved.</source>
+        <translation>副本已儲存。</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -560,8 +744,24 @@
         <translation>檔案已不在原來的位置。</translation>
     </message>
     <message>
+        <source>The file was deleted. What it held is still shown.</source>
+        <translation>檔案已刪除。其內容仍會顯示。</translation>
+    </message>
+    <message>
+        <source>The first %1 were copied. Save a copy to have all of it.</source>
+        <translation>已拷貝前 %1。若要取得全部內容，請儲存副本。</translation>
+    </message>
+    <message>
         <source>The folder could not be opened.</source>
         <translation>無法打開檔案夾。</translation>
+    </message>
+    <message>
+        <source>The log cannot be read</source>
+        <translation>無法讀取記錄</translation>
+    </message>
+    <message>
+        <source>The log was cut short meanwhile. Try again.</source>
+        <translation>記錄在此期間被截短。請再試一次。</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -590,6 +790,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>缺少轉碼器。請重新安裝應用程式。</translation>
+    </message>
+    <message>
+        <source>There is no log yet</source>
+        <translation>尚無記錄</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -628,6 +832,10 @@
         <translation>無法寫入此資料夾。</translation>
     </message>
     <message>
+        <source>This is no text file</source>
+        <translation>這不是文字檔</translation>
+    </message>
+    <message>
         <source>This is no video or sound file.</source>
         <translation>這不是影片或聲音檔案。</translation>
     </message>
@@ -636,8 +844,16 @@
         <translation>此功能仍在製作中，將隨更新項目提供。</translation>
     </message>
     <message>
+        <source>Too many lines have this text: the newest %1 are shown.</source>
+        <translation>包含此文字的行過多：顯示最新的 %1 行。</translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>轉碼器</translation>
+    </message>
+    <message>
+        <source>Unable to connect to update server.</source>
+        <translation>無法連接更新伺服器。</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -650,6 +866,10 @@
     <message>
         <source>Use a proxy</source>
         <translation>使用代理</translation>
+    </message>
+    <message>
+        <source>Version: %@</source>
+        <translation>版本：%@</translation>
     </message>
     <message>
         <source>Video</source>
@@ -668,6 +888,14 @@
         <translation>把網路影片存到磁碟</translation>
     </message>
     <message>
+        <source>Visit our website:</source>
+        <translation>造訪我們的網站：</translation>
+    </message>
+    <message>
+        <source>Visit website</source>
+        <translation>造訪網站</translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>等待中</translation>
     </message>
@@ -680,12 +908,24 @@
         <translation>視窗</translation>
     </message>
     <message>
+        <source>Would you please send us the Log File to help us fix the issue?</source>
+        <translation>您願意將記錄檔傳送給我們，以協助我們解決此問題嗎？</translation>
+    </message>
+    <message>
         <source>You are not allowed to read this file.</source>
         <translation>您沒有讀取此檔案的權限。</translation>
     </message>
     <message>
+        <source>You're up-to-date!</source>
+        <translation>已是最新版本</translation>
+    </message>
+    <message>
         <source>Your DVDs, as files</source>
         <translation>讓 DVD 成為檔案</translation>
+    </message>
+    <message>
+        <source>Your mail program could not be opened.</source>
+        <translation>無法打開您的郵件程式。</translation>
     </message>
     <message>
         <source>Your screen, as a video</source>
