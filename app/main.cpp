@@ -124,9 +124,11 @@ void setWindowIcon()
 }
 
 /// Every way to end in order: the desktop's session, a signal, the last of the event loop.
-void connectEndings(QApplication &application, AppDelegate &delegate, const TerminationSignals &signalsOfTheSystem)
+void connectEndings(QApplication &application, AppDelegate &delegate,
+                    const foundation::TerminationSignals &signalsOfTheSystem)
 {
-    QObject::connect(&signalsOfTheSystem, &TerminationSignals::received, &delegate, [] { QCoreApplication::exit(); });
+    QObject::connect(&signalsOfTheSystem, &foundation::TerminationSignals::received, &delegate,
+                     [] { QCoreApplication::exit(); });
     QObject::connect(&application, &QGuiApplication::commitDataRequest, &delegate, &AppDelegate::sessionWillEnd,
                      Qt::DirectConnection);
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
@@ -152,7 +154,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s));
     AppDelegate delegate(surroundings(defaults, fetcher));
     const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(delegate);
-    const TerminationSignals signalsOfTheSystem;
+    const foundation::TerminationSignals signalsOfTheSystem;
     connectEndings(application, delegate, signalsOfTheSystem);
     QObject::connect(&instance, &SingleInstance::startedAgain, &delegate, &AppDelegate::startedAgain);
 

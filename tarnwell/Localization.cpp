@@ -19,6 +19,15 @@ QString AppLocalizedString(const char *key)
     return AppLocalizedString(QString::fromUtf8(key));
 }
 
+QString filledIn(const QString &format, const QStringList &texts)
+{
+    const QStringList pieces = format.split("%@"_L1);
+    QString result = pieces.first();
+    for (qsizetype i = 1; i < pieces.size(); ++i)
+        result += texts.value(i - 1) + pieces[i];
+    return result;
+}
+
 Localization::Localization(const QString &folder, const QString &language)
     : m_catalogue(std::make_unique<QTranslator>())
 {

@@ -15,6 +15,9 @@ QString AppLocalizedString(const QString &key);
 /// For keys that stand in tables, in UTF-8; null where `key` is.
 QString AppLocalizedString(const char *key);
 
+/// `format` with each "%@" replaced by the next of the texts; one that stands in a text is left alone.
+QString filledIn(const QString &format, const QStringList &texts);
+
 /// The catalogue behind `AppLocalizedString` (install it with `Installed<Localization>`).
 class Localization {
 public:

@@ -12,17 +12,13 @@
 
 using namespace Qt::StringLiterals;
 using kestrel::tarnwell::AppLocalizedString;
+using kestrel::tarnwell::filledIn;
 
 namespace kestrel {
 
 namespace {
 
 constexpr int applicationIconSize = 96;
-
-QString filledIn(QString format, const QString &text)
-{
-    return format.replace("%@"_L1, text);
-}
 
 /// The company line's key is the whole sentence: this one has translations.
 [[maybe_unused]] constexpr auto companyLine =
@@ -51,9 +47,9 @@ void JKestrelAboutController::windowDidLoad(QDialog *window)
     m_form->sendButton->setText(AppLocalizedString(u"Send Feedback"_s));
     tarnwell::TranslateLabels(m_form->bottomBox);
     m_form->aboutOurCompanyLabel->setText(
-        AppLocalizedString(filledIn(u"About Our Company %@"_s, tarnwell::AppGroupName())));
+        AppLocalizedString(filledIn(u"About Our Company %@"_s, {tarnwell::AppGroupName()})));
     setup();
-    window->setWindowTitle(filledIn(AppLocalizedString(u"About %@"_s), tarnwell::GetApplicationName()));
+    window->setWindowTitle(filledIn(AppLocalizedString(u"About %@"_s), {tarnwell::GetApplicationName()}));
     connect(m_form->homeBtn, &QPushButton::clicked, this, &JKestrelAboutController::onLinkButtonAction);
     connect(m_form->sendButton, &QPushButton::clicked, this, &JKestrelAboutController::onSendFeedbackAction);
     connect(m_form->closeButton, &QPushButton::clicked, this, &JKestrelAboutController::onCloseAction);
@@ -65,13 +61,13 @@ void JKestrelAboutController::setup()
     m_form->appIcon->setPixmap(tarnwell::ApplicationIcon(applicationIconSize, m_form->appIcon->devicePixelRatioF()));
     m_form->appIcon->setAccessibleName(name);
     m_form->titleLabel->setText(name);
-    m_form->versionLabel->setText(filledIn(AppLocalizedString(u"Version: %@"_s), tarnwell::GetAppCurrentVersion()));
-    m_form->buildDateLabel->setText(filledIn(AppLocalizedString(u"Build on: %@"_s), tarnwell::GetBuildDate()));
-    // Its layout has no gap, so that the address begins where the words before it end.
+    m_form->versionLabel->setText(filledIn(AppLocalizedString(u"Version: %@"_s), {tarnwell::GetAppCurrentVersion()}));
+    m_form->buildDateLabel->setText(filledIn(AppLocalizedString(u"Build on: %@"_s), {tarnwell::GetBuildDate()}));
+    // Its layout has no gap: the button begins where the words before it end, and its padding parts the two.
     m_form->homeBtn->setText(tarnwell::AppReadableHomeLink());
     m_form->copyrightLabel->setText(
         filledIn(AppLocalizedString(u"Copyright © 2019-%@ Tarnwell Software, Inc. All rights reserved."_s),
-                 copyrightYear(m_today())));
+                 {copyrightYear(m_today())}));
 }
 
 void JKestrelAboutController::setUpTextStyles()

@@ -55,8 +55,9 @@ int run(QApplication &application, const foundation::Bundle &product)
     const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
     tarnwell::applyTheme(application);
 
-    const TerminationSignals signalsOfTheSystem;
-    QObject::connect(&signalsOfTheSystem, &TerminationSignals::received, &application, &QCoreApplication::quit);
+    const foundation::TerminationSignals signalsOfTheSystem;
+    QObject::connect(&signalsOfTheSystem, &foundation::TerminationSignals::received, &application,
+                     &QCoreApplication::quit);
     LogWindow window(QCoreApplication::arguments().value(1));
     window.show();
     foundation::queue::afterMain(std::chrono::milliseconds(250), [] {

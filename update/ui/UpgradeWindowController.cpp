@@ -19,6 +19,7 @@
 
 using namespace Qt::StringLiterals;
 using kestrel::tarnwell::AppLocalizedString;
+using kestrel::tarnwell::filledIn;
 
 namespace kestrel {
 
@@ -35,16 +36,6 @@ constexpr int windowIconSize = 96;
 constexpr qsizetype longestVersion = 60;
 constexpr qsizetype longestNewsTitle = 200;
 const QString webSourceTag = u"upui"_s;
-
-/// Each text takes the place of the next "%@"; one that stands in a text is left alone.
-QString filledIn(const QString &format, const QStringList &texts)
-{
-    const QStringList pieces = format.split("%@"_L1);
-    QString result = pieces.first();
-    for (qsizetype i = 1; i < pieces.size(); ++i)
-        result += texts.value(i - 1) + pieces[i];
-    return result;
-}
 
 foundation::StyledText styledNotes(const QString &notes)
 {

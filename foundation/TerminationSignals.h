@@ -6,7 +6,7 @@
 
 class QSocketNotifier;
 
-namespace kestrel {
+namespace kestrel::foundation {
 
 /// Turns SIGTERM, SIGINT and SIGHUP into a signal of the event loop, so that they end the application in order. One
 /// object at a time; the signals have their former effect again when it goes.
@@ -23,4 +23,4 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
 };
 
-}  // namespace kestrel
+}  // namespace kestrel::foundation

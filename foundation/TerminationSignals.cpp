@@ -8,7 +8,7 @@
 #include <csignal>
 #include <iterator>
 
-namespace kestrel {
+namespace kestrel::foundation {
 
 namespace {
 
@@ -68,4 +68,4 @@ TerminationSignals::~TerminationSignals()
     close(terminationPipe[1]);
 }
 
-}  // namespace kestrel
+}  // namespace kestrel::foundation
