@@ -1,4 +1,5 @@
 #include "AppDelegate.h"
+#include "ApplicationSetUp.h"
 #include "Bundle.h"
 #include "DesktopAlertPresenter.h"
 #include "DesktopFolderPanel.h"
@@ -27,15 +28,15 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFileInfo>
-#include <QIcon>
-#include <QLibraryInfo>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSessionManager>
 #include <QStandardPaths>
+#include <QThread>
 #include <QTranslator>
 
 #include <cstdio>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -106,23 +107,6 @@ AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults, found
     };
 }
 
-/// The texts of the desktop's own dialogs, which Qt brings along.
-void installDialogTexts(QTranslator &translator, const QString &language)
-{
-    if (translator.load(QLocale(language), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&translator);
-}
-
-/// For the desktop's task list, which the first window need not wait for.
-void setWindowIcon()
-{
-    QIcon icon;
-    for (const int size : {16, 32, 48, 128})
-        icon.addFile(foundation::Bundle::main().resource(u"icons/hicolor/%1x%1/apps/kestrel.png"_s.arg(size)),
-                     {size, size});
-    QApplication::setWindowIcon(icon);
-}
-
 /// Every way to end in order: the desktop's session, a signal, the last of the event loop.
 void connectEndings(QApplication &application, AppDelegate &delegate,
                     const foundation::TerminationSignals &signalsOfTheSystem)
@@ -134,13 +118,36 @@ void connectEndings(QApplication &application, AppDelegate &delegate,
     QObject::connect(&application, &QCoreApplication::aboutToQuit, &delegate, &AppDelegate::applicationWillTerminate);
 }
 
+/// Where the display goes, as at many a session's end, Qt calls exit() in the midst of the event loop. While this
+/// stands, that saves first. One object a process.
+class SavingAtExit {
+public:
+    explicit SavingAtExit(AppDelegate &delegate)
+    {
+        standing = &delegate;
+        std::atexit([] {
+            if (!standing || QThread::currentThread() != standing->thread())
+                return;
+            standing->displayWasLost();
+            // Background threads are at work still: what they use must not be taken down.
+            std::_Exit(EXIT_FAILURE);
+        });
+    }
+    ~SavingAtExit() { standing = nullptr; }
+    SavingAtExit(const SavingAtExit &) = delete;
+    SavingAtExit &operator=(const SavingAtExit &) = delete;
+
+private:
+    static inline AppDelegate *standing = nullptr;
+};
+
 int run(QApplication &application, SingleInstance &instance, const QStringList &files,
         foundation::UserDefaults &defaults)
 {
     const QString language = defaults.stringArrayForKey(appleLanguagesKey.toString()).value(0);
     QLocale::setDefault(QLocale(language));
     QTranslator dialogTexts;
-    installDialogTexts(dialogTexts, language);
+    tarnwell::installDialogTexts(dialogTexts, language);
     tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s), language);
     const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
     tarnwell::DesktopWebOpener webOpener;
@@ -160,10 +167,11 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+    const SavingAtExit savingAtExit(delegate);
     if (!files.isEmpty())
         delegate.appController()->openFiles(files);
     instance.listen();
-    foundation::queue::afterMain(std::chrono::milliseconds(250), setWindowIcon);
+    foundation::queue::afterMain(std::chrono::milliseconds(250), tarnwell::setWindowIcon);
     const int status = QApplication::exec();
     fetcher.abandon();
     foundation::queue::finishGlobal();

@@ -31,8 +31,8 @@ using Fetch = std::function<FetchResult(const FetchRequest &)>;
 
 /// Fetches documents over the bundle's transfer library, which is loaded on the first fetch. At most five redirects are
 /// followed, none from https to http and none to a file; a status other than 2xx and a body that is shorter than
-/// announced are failures. A proxy of the system's settings is used. Files are read with the same limits: regular ones
-/// only. Any thread but the main one, which would wait.
+/// announced are failures. A proxy of the system's settings is used. Files are read with the same limit of bytes:
+/// regular ones only. Any thread but the main one, which would wait.
 class Fetcher {
 public:
     explicit Fetcher(const QString &libraryPath);

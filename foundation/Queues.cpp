@@ -96,11 +96,6 @@ void asyncGlobal(Job job)
     backgroundThreads().start(announced(std::move(job)));
 }
 
-void afterGlobal(std::chrono::milliseconds delay, Job job)
-{
-    afterMain(delay, [job = std::move(job)]() mutable { asyncGlobal(std::move(job)); });
-}
-
 void finishGlobal()
 {
     while (!backgroundThreads().waitForDone(endCheckIntervalMs))

@@ -20,11 +20,9 @@ void afterMain(std::chrono::milliseconds delay, Job job);
 /// it ran.
 bool syncMain(const Job &job);
 
-/// Runs `job` on a background thread. The application's end waits for running jobs, so a job must be bounded in time.
+/// Runs `job` on a background thread. The process waits for running jobs at its end, so a job must be bounded in time,
+/// and one that lasts as long as something else must be ended by whoever asked for it.
 void asyncGlobal(Job job);
-
-/// As `asyncGlobal`, no sooner than `delay` from now.
-void afterGlobal(std::chrono::milliseconds delay, Job job);
 
 /// Waits on the main thread until all background jobs have ended, and runs what they wait for there meanwhile. For the
 /// application's end, after its event loop: jobs use what goes from then on.

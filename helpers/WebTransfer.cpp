@@ -1,5 +1,6 @@
 #include "WebTransfer.h"
 
+#include "WebTransferBody.h"
 #include "WebTransferProxy.h"
 
 #include <curl/curl.h>
@@ -18,6 +19,7 @@ using namespace std::chrono;
 
 constexpr auto headersTooLong = "the headers are too long"_L1;
 constexpr size_t maximumHeaderBytes = 65'536;  // of all responses together: those of a proxy, and interim ones
+constexpr qint64 longestOverhead = 65'536;     // of a compressed body over what is in it
 
 struct EasyDeleter {
     void operator()(CURL *easy) const { curl_easy_cleanup(easy); }
@@ -25,6 +27,22 @@ struct EasyDeleter {
 struct MultiDeleter {
     void operator()(CURLM *multi) const { curl_multi_cleanup(multi); }
 };
+
+/// Empty for none; nothing for one that must not be passed by.
+std::optional<QString> proxyScheme(QNetworkProxy::ProxyType type)
+{
+    switch (type) {
+        case QNetworkProxy::NoProxy:
+            return QString();
+        case QNetworkProxy::HttpProxy:
+        case QNetworkProxy::HttpCachingProxy:
+            return u"http"_s;
+        case QNetworkProxy::Socks5Proxy:
+            return u"socks5h"_s;
+        default:
+            return std::nullopt;
+    }
+}
 
 /// One request, and libcurl's callbacks.
 class Session {
@@ -37,8 +55,10 @@ private:
     bool prepare(const QNetworkProxy &proxy);
     bool setProxy(const QNetworkProxy &proxy);
     CURLcode perform();
-    WebTransferResult conclusion(CURLcode code) const;
+    WebTransferResult conclusion(CURLcode code);
+    WebTransferResult document();
     long status() const;
+    QByteArrayList headers(const char *name) const;
     QString interruption() const;
 
     size_t refuse(const QString &reason);
@@ -66,6 +86,8 @@ WebTransferResult Session::run()
     const std::optional<QNetworkProxy> proxy = systemProxy(m_request);
     if (!proxy)
         return {{}, {}, interruption()};
+    if (!proxyScheme(proxy->type()))
+        return {{}, {}, u"the system's settings name a proxy of an unknown kind"_s};
     if (!m_multi || !m_easy || !prepare(*proxy))
         return {{}, {}, u"the transfer cannot be set up"_s};
     return conclusion(perform());
@@ -77,8 +99,9 @@ bool Session::prepare(const QNetworkProxy &proxy)
     return set(CURLOPT_URL, address.constData()) &&
            // Whatever libcurl makes of the address, the caller has looked at this scheme.
            set(CURLOPT_PROTOCOLS_STR, m_request.address.scheme().toLatin1().constData()) &&
-           set(CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_2TLS)) && set(CURLOPT_ACCEPT_ENCODING, "gzip, deflate") &&
-           set(CURLOPT_NOSIGNAL, 1L) &&
+           set(CURLOPT_HTTP_VERSION, long(CURL_HTTP_VERSION_2TLS)) && set(CURLOPT_NOSIGNAL, 1L) &&
+           // It would take a compressed body that is cut off for a whole one.
+           set(CURLOPT_ACCEPT_ENCODING, acceptedEncodings) && set(CURLOPT_HTTP_CONTENT_DECODING, 0L) &&
            // Or the end would wait for a name server.
            set(CURLOPT_QUICK_EXIT, 1L) && setProxy(proxy) && set(CURLOPT_HEADERFUNCTION, &Session::headerReceived) &&
            set(CURLOPT_HEADERDATA, this) && set(CURLOPT_WRITEFUNCTION, &Session::bodyReceived) &&
@@ -88,9 +111,9 @@ bool Session::prepare(const QNetworkProxy &proxy)
 bool Session::setProxy(const QNetworkProxy &proxy)
 {
     QByteArray address = "";
-    if (proxy.type() == QNetworkProxy::HttpProxy || proxy.type() == QNetworkProxy::Socks5Proxy) {
+    if (const QString scheme = proxyScheme(proxy.type()).value_or(QString()); !scheme.isEmpty()) {
         QUrl url;
-        url.setScheme(proxy.type() == QNetworkProxy::HttpProxy ? u"http"_s : u"socks5h"_s);
+        url.setScheme(scheme);
         url.setHost(proxy.hostName());
         url.setPort(proxy.port() ? proxy.port() : -1);
         address = url.toEncoded();
@@ -122,7 +145,7 @@ CURLcode Session::perform()
     return code;
 }
 
-WebTransferResult Session::conclusion(CURLcode code) const
+WebTransferResult Session::conclusion(CURLcode code)
 {
     if (!m_refusal.isNull())
         return {{}, {}, m_refusal};
@@ -133,14 +156,26 @@ WebTransferResult Session::conclusion(CURLcode code) const
     if (code != CURLE_OK && !m_isDecided)
         return {{}, {}, QString::fromUtf8(curl_easy_strerror(code))};
     if (status() / 100 == 2)
-        return {m_body, {}, {}};
-    curl_header *location = nullptr;
-    if (status() / 100 != 3 || curl_easy_header(m_easy.get(), "Location", 0, CURLH_HEADER, -1, &location) != CURLHE_OK)
+        return document();
+    const QByteArray location = headers("Location").value(0);
+    const long redirects[] = {301, 302, 303, 307, 308};
+    if (std::ranges::count(redirects, status()) == 0 || location.isNull())
         return {{}, {}, u"status %1"_s.arg(status())};
-    const QUrl target(QString::fromUtf8(location->value).trimmed());
+    const QUrl target(QString::fromUtf8(location).trimmed());
     if (!target.isValid())
         return {{}, {}, u"a redirect to a malformed address"_s};
     return {{}, m_request.address.resolved(target), {}};
+}
+
+WebTransferResult Session::document()
+{
+    const QByteArray transfer = headers("Transfer-Encoding").join(", ").toLower();
+    const auto encoding = webTransferEncoding(headers("Content-Encoding").join(", "));
+    if (!encoding || (!transfer.isEmpty() && transfer != "chunked"))
+        return {{}, {}, u"the body is encoded in a way that was not asked for"_s};
+    if (const QString reason = uncompress(m_body, *encoding, m_request.maximumBytes); !reason.isNull())
+        return {{}, {}, reason};
+    return {m_body, {}, {}};
 }
 
 long Session::status() const
@@ -148,6 +183,16 @@ long Session::status() const
     long status = 0;
     curl_easy_getinfo(m_easy.get(), CURLINFO_RESPONSE_CODE, &status);
     return status;
+}
+
+/// Of the last response.
+QByteArrayList Session::headers(const char *name) const
+{
+    QByteArrayList values;
+    curl_header *found = nullptr;
+    while (curl_easy_header(m_easy.get(), name, size_t(values.size()), CURLH_HEADER, -1, &found) == CURLHE_OK)
+        values += found->value;
+    return values;
 }
 
 /// Null where the transfer may go on.
@@ -179,8 +224,9 @@ size_t Session::headerReceived(char *bytes, size_t, size_t length, void *session
 size_t Session::bodyReceived(char *bytes, size_t, size_t length, void *session)
 {
     auto &self = *static_cast<Session *>(session);
-    if (qint64(length) > self.m_request.maximumBytes - self.m_body.size())
-        return self.refuse(u"longer than %1 bytes"_s.arg(self.m_request.maximumBytes));
+    const qint64 overhead = self.headers("Content-Encoding").isEmpty() ? 0 : longestOverhead;
+    if (qint64(length) > self.m_request.maximumBytes + overhead - self.m_body.size())
+        return self.refuse(bodyTooLong(self.m_request.maximumBytes));
     self.m_body.append(bytes, qsizetype(length));
     return length;
 }

@@ -21,7 +21,9 @@ std::optional<ADItem> ADItem::itemWithDictionary(const std::optional<QJsonObject
 ADItem ADItem::initWithDictionary(const QJsonObject &dictionary)
 {
     const auto integer = [&](const QString &key) {
-        return foundation::integerValue(dictionary.value(key).toVariant());
+        const QJsonValue value = dictionary.value(key);
+        // Others would only be copied, which an array is layer by layer.
+        return value.isArray() || value.isObject() ? 0 : foundation::integerValue(value.toVariant());
     };
     ADItem item;
     item.m_title = dictionary.value(u"title"_s).toString();

@@ -1,5 +1,7 @@
 #include "AppRMConfig.h"
 
+#include "Log.h"
+
 #include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
@@ -20,7 +22,11 @@ std::shared_ptr<const AppRMConfig> AppRMConfig::remoteConfigWithURL(const QStrin
 std::shared_ptr<const AppRMConfig> AppRMConfig::initWithURL(const QString &url, const foundation::Fetch &fetch)
 {
     const foundation::FetchResult result = fetch({.address = url, .maximumBytes = maximumConfigurationBytes});
-    return result.body ? initWithData(*result.body) : nullptr;
+    if (!result.body) {
+        tarnwell::DNFootLog(u"The remote configuration could not be fetched: %1"_s, result.reason);
+        return nullptr;
+    }
+    return initWithData(*result.body);
 }
 
 std::shared_ptr<const AppRMConfig> AppRMConfig::initWithData(const QByteArray &json)

@@ -35,9 +35,9 @@ private:
     quint32 stored(std::string_view string);
 
     XMLTree m_tree;
-    std::vector<quint32> m_dictionaryStack;  ///< the open elements, the document dictionary first
-    std::string m_textInProgress;            ///< UTF-8
-    std::optional<foundation::XmlError> m_errorPointer;
+    std::vector<quint32> m_dictionaryStack;              ///< the open elements, the document dictionary first
+    std::string m_textInProgress;                        ///< UTF-8
+    std::optional<foundation::XmlError> m_errorPointer;  ///< the last failure, where the caller wants none logged
 };
 
 }  // namespace kestrel

@@ -5,7 +5,8 @@
 namespace kestrel::tarnwell {
 
 enum class AlertStyle { Informational, Warning, Critical };
-enum class AlertAnswer { Default, Alternate };
+/// `None` where the application's end takes the alert away: the user has not answered.
+enum class AlertAnswer { Default, Alternate, None };
 
 /// A question or a message over all windows. The texts are shown as they are: plain, already localised. A null
 /// `alternateButton` leaves that button out. Escape answers as the alternate button, or as the only one.
@@ -21,7 +22,7 @@ struct Alert {
 class AlertPresenter {
 public:
     virtual ~AlertPresenter() = default;
-    /// Runs modally until the user has answered. An alert that the application's end takes away answers as by Escape.
+    /// Runs modally until the user has answered.
     virtual AlertAnswer runModal(const Alert &alert) = 0;
 };
 

@@ -33,6 +33,25 @@ public:
     ~MailProcess() override { setProcessState(NotRunning); }
 };
 
+/// Where the file manager cannot select it, its folder is opened.
+void revealFile(const QString &path)
+{
+    auto *process = new QProcess(QCoreApplication::instance());
+    const auto end = [process, folder = QFileInfo(path).absolutePath()](bool isShown) {
+        process->deleteLater();
+        if (!isShown)
+            openFolder(folder);
+    };
+    QObject::connect(process, &QProcess::errorOccurred, process, [end](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart)
+            end(false);
+    });
+    QObject::connect(process, &QProcess::finished, process,
+                     [end](int exitCode, QProcess::ExitStatus) { end(exitCode == 0); });
+    const DesktopCommand command = revealCommand(QFileInfo(path).absoluteFilePath());
+    process->start(command.program, command.arguments);
+}
+
 void showMailFailure(const QString &mail, const QStringList &files)
 {
     Alert alert{.message = AppLocalizedString(u"Your mail program could not be opened."_s),
@@ -49,7 +68,7 @@ void showMailFailure(const QString &mail, const QStringList &files)
     alert.informativeText = AppLocalizedString(u"Please write to %1 and attach this file: %2"_s)
                                 .arg(mail, QDir::toNativeSeparators(files.join(u", "_s)));
     if (runAlert(alert) == AlertAnswer::Default)
-        openFolder(QFileInfo(files.constFirst()).absolutePath());
+        revealFile(files.constFirst());
 }
 
 void reportMailFailure(const QString &reason, const QString &mail, const QStringList &files)
@@ -83,7 +102,7 @@ bool JAppleScriptHelper::sendEmailWithMail(const QString &mail, const QString &w
     });
     process->setProcessChannelMode(QProcess::ForwardedChannels);
     process->setStandardInputFile(QProcess::nullDevice());
-    const MailCommand command = mailCommand(mail, withSubject, files, body);
+    const DesktopCommand command = mailCommand(mail, withSubject, files, body);
     process->start(command.program, command.arguments);
     return process->waitForStarted(mailStartLimitMs) || process->state() != QProcess::NotRunning;
 }

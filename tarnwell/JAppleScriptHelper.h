@@ -15,13 +15,14 @@ public:
                                   const QString &body);
 };
 
-/// How this platform opens a new message: a program, by path or looked up in PATH, and its arguments.
-struct MailCommand {
+/// How this platform does something: a program, by path or looked up in PATH, and its arguments.
+struct DesktopCommand {
     QString program;
     QStringList arguments;
 };
 
-MailCommand mailCommand(const QString &mail, const QString &subject, const QStringList &attachments,
-                        const QString &body);
+DesktopCommand mailCommand(const QString &mail, const QString &subject, const QStringList &attachments,
+                           const QString &body);    ///< opens a new message
+DesktopCommand revealCommand(const QString &path);  ///< shows a file in its folder; fails where nothing here can
 
 }  // namespace kestrel::tarnwell

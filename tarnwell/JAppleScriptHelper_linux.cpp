@@ -18,8 +18,8 @@ QString recipientArgument(const QString &mail)
 
 }  // namespace
 
-MailCommand mailCommand(const QString &mail, const QString &subject, const QStringList &attachments,
-                        const QString &body)
+DesktopCommand mailCommand(const QString &mail, const QString &subject, const QStringList &attachments,
+                           const QString &body)
 {
     QStringList arguments = {u"--utf8"_s};
     const auto add = [&arguments](const QString &option, const QString &value) {
@@ -33,6 +33,16 @@ MailCommand mailCommand(const QString &mail, const QString &subject, const QStri
     if (!mail.isEmpty())
         arguments << recipientArgument(mail);
     return {u"xdg-email"_s, arguments};
+}
+
+DesktopCommand revealCommand(const QString &path)
+{
+    // Encoded throughout: a comma would begin another file.
+    const QString address = u"file://"_s + QString::fromLatin1(QUrl::toPercentEncoding(path, "/"));
+    return {u"dbus-send"_s,
+            {u"--session"_s, u"--print-reply"_s, u"--dest=org.freedesktop.FileManager1"_s,
+             u"/org/freedesktop/FileManager1"_s, u"org.freedesktop.FileManager1.ShowItems"_s,
+             u"array:string:"_s + address, u"string:"_s}};
 }
 
 }  // namespace kestrel::tarnwell

@@ -8,6 +8,7 @@
 #include <QRegularExpression>
 #include <QSaveFile>
 #include <QThread>
+#include <QUrl>
 
 #include <atomic>
 #include <cstdio>
@@ -19,6 +20,7 @@ namespace kestrel::tarnwell {
 namespace {
 
 constexpr qsizetype maximumTextLength = 100'000;
+constexpr qsizetype shortestTellingName = 3;  ///< a shorter one is part of too many other words
 
 QString threadName()
 {
@@ -31,6 +33,20 @@ QString threadName()
 void writeToStandardError(const QByteArray &line)
 {
     std::fwrite(line.constData(), 1, size_t(line.size()), stderr);
+}
+
+/// Replaces `name`, as it is or percent-encoded, between what the two patterns tell.
+void replaceName(QString &text, const QString &before, const QString &name, const QString &after)
+{
+    if (name.isEmpty() || name == "/"_L1 || !(text.contains(name) || text.contains(u'%')))
+        return;
+    QString pattern;
+    for (const char32_t character : name.toStdU32String()) {
+        const QString plain = QString::fromUcs4(&character, 1);
+        pattern += u"(?:"_s + QRegularExpression::escape(plain) + u"|(?i:"_s +
+                   QRegularExpression::escape(QString::fromLatin1(QUrl::toPercentEncoding(plain))) + u"))"_s;
+    }
+    text.replace(QRegularExpression(before + pattern + after, QRegularExpression::UseUnicodePropertiesOption), u"~"_s);
 }
 
 std::atomic<QtMessageHandler> previousMessageHandler = nullptr;
@@ -47,22 +63,18 @@ void logMessage(QtMsgType type, const QMessageLogContext &context, const QString
 
 QString withoutPrivateParts(const QString &text, const QString &homeFolder, const QString &userName)
 {
+    // Up to the last "@": passwords hold "@" as well, and, after a colon, whatever else somebody typed.
+    static const QRegularExpression credentials(u"//(?:(?<=://)[^/?#\\s]*|[^/@:\\s]*:\\S{0,4096})@"_s);
+    // A regular expression finds nothing in ill-formed UTF-16, which file names may hold.
+    QString result = QString::fromUtf8(text.toUtf8());
+    result.replace(credentials, u"//"_s);
     // Whole path components, at the end of a sentence too.
-    static const QString endOfComponent = u"(?![\\w-]|\\.\\w)"_s;
-    const auto replaceComponents = [](QString &where, const QString &before, const QString &name) {
-        if (name.isEmpty() || name == "/"_L1 || !where.contains(name))
-            return;
-        where.replace(QRegularExpression(before + QRegularExpression::escape(name) + endOfComponent,
-                                         QRegularExpression::UseUnicodePropertiesOption),
-                      u"~"_s);
-    };
-    // Up to the last "@" of the authority: passwords hold "@" as well.
-    static const QRegularExpression credentials(u"(\\b[a-zA-Z][a-zA-Z0-9+.-]*://)[^/?#\\s]*@"_s);
-    QString result = text;
-    result.replace(credentials, u"\\1"_s);
-    replaceComponents(result, u"(?<![\\w.-])"_s, homeFolder);
-    for (const QString &name : {QFileInfo(homeFolder).fileName(), userName})
-        replaceComponents(result, u"(?<=/)"_s, name);
+    replaceName(result, u"(?<![\\w.-])"_s, homeFolder, u"(?![\\w-]|\\.\\w)"_s);
+    for (const QString &name : {QFileInfo(homeFolder).fileName(), userName}) {
+        const bool isTelling = name.size() >= shortestTellingName && name != "root"_L1;
+        replaceName(result, isTelling ? u"(?<!\\w)"_s : u"(?<=/)"_s, name,
+                    isTelling ? u"(?!\\w)"_s : u"(?![\\w-]|\\.\\w)"_s);
+    }
     result.remove(u'\r');
     result.replace(u'\n', u"\n    "_s);
     return result;
@@ -85,7 +97,7 @@ Log::Log(const QString &folder, qint64 maximumBytes)
 void Log::append(const QString &text)
 {
     const QString shown =
-        withoutPrivateParts(text.left(maximumTextLength), QDir::homePath(), qEnvironmentVariable("USER"));
+        withoutPrivateParts(text, QDir::homePath(), qEnvironmentVariable("USER")).left(maximumTextLength);
     const QString line = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH:mm:ss.zzz"_s) + u" ["_s + threadName() +
                          u"] "_s + shown + u'\n';
     const QByteArray bytes = line.toUtf8();

@@ -10,8 +10,8 @@ namespace kestrel::tarnwell {
 
 /// The application's log: one file a run, and the one of the run before. Each line carries the local time and the
 /// thread. A line is written before `append` returns, so a crash loses none that came before it. Neither file grows
-/// beyond `maximumBytes`: the oldest lines go first and a line says so. The home folder is shown as "~", the user's
-/// name in other paths likewise, and credentials in web addresses are left out. Any thread.
+/// beyond `maximumBytes`: the oldest lines go first and a line says so. Private parts are left out as
+/// `withoutPrivateParts` says; what remains of a text is cut at 100,000 characters. Any thread.
 class Log {
 public:
     static constexpr qint64 defaultMaximumBytes = 5 * 1024 * 1024;
@@ -35,8 +35,9 @@ private:
     qint64 m_size = 0;
 };
 
-/// What `Log` writes for `text`: line breaks indented, the home folder, the user's name in other paths, and credentials
-/// taken out.
+/// What `Log` writes for `text`: line breaks indented, credentials in addresses taken out, and "~" for the home folder
+/// and for the names of it and of the user, percent-encoded or not. A name goes as a word anywhere, one of less than
+/// three letters and "root" as a part of a path alone. Ill-formed UTF-16 is replaced.
 QString withoutPrivateParts(const QString &text, const QString &homeFolder, const QString &userName);
 
 /// Writes one line to the installed log (`Installed<Log>`), to standard error where there is none.

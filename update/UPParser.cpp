@@ -13,7 +13,7 @@ namespace kestrel {
 
 namespace {
 
-constexpr foundation::PropertyListLimits descriptorLimits{.bytes = 1 << 20, .depth = 32, .items = 100'000};
+constexpr foundation::PropertyListLimits descriptorLimits{.bytes = 1 << 20, .depth = 500, .items = 200'000};
 constexpr qsizetype shortestConfigurationAddress = 2;
 
 QString textIn(const QVariantMap &dictionary, const QString &key)

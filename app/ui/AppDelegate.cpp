@@ -58,6 +58,10 @@ AppDelegate::AppDelegate(Surroundings surroundings)
           m_surroundings.windows, m_surroundings.terminate}))
 {
     makeStandardMenus();
+    // Nobody tells that a session goes on, only that it ends.
+    m_sessionEnd.setSingleShot(true);
+    m_sessionEnd.setInterval(30s);
+    connect(&m_sessionEnd, &QTimer::timeout, this, [this] { setNotSafeTerminate(true); });
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -105,9 +109,9 @@ void AppDelegate::applicationDidFinishLaunching()
         if (self)
             self->checkBugReportFlagWhenLaunch();
     });
-    foundation::queue::afterGlobal(500ms, [self = QPointer(this)] {
+    foundation::queue::afterMain(500ms, [self = QPointer(this)] {
         if (self)
-            self->checkUpgradesAutomatically();
+            foundation::queue::asyncGlobal([self] { self->checkUpgradesAutomatically(); });
     });
 }
 
@@ -132,15 +136,14 @@ void AppDelegate::save()
 
 void AppDelegate::sessionWillEnd()
 {
-    m_sessionIsEnding = true;
+    m_sessionEnd.start();
     save();
-    // Nobody tells that a session goes on, only that it ends.
-    foundation::queue::afterMain(30s, [self = QPointer(this)] {
-        if (!self)
-            return;
-        self->m_sessionIsEnding = false;
-        self->setNotSafeTerminate(true);
-    });
+}
+
+void AppDelegate::displayWasLost()
+{
+    if (!m_hasTerminated)
+        save();
 }
 
 void AppDelegate::startedAgain(const QStringList &files)

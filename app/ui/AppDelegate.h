@@ -8,6 +8,7 @@
 
 #include <QDate>
 #include <QObject>
+#include <QTimer>
 
 #include <functional>
 #include <memory>
@@ -63,6 +64,8 @@ public:
     void applicationWillTerminate();
     /// The desktop's session is about to end. Where it is not after all, the run goes on.
     void sessionWillEnd();
+    /// The process ends at once and with its display: saves everything that needs no window.
+    void displayWasLost();
     /// Another process was started with these files and has handed them over.
     void startedAgain(const QStringList &files);
 
@@ -117,7 +120,7 @@ private:
     std::shared_ptr<const UPParser> m_upConfigure;
     std::shared_ptr<LoggerWatcherTask> m_loggerWatcherTask;  ///< the latest
     bool m_hasTerminated = false;
-    bool m_sessionIsEnding = false;
+    QTimer m_sessionEnd;  ///< active from the announcement of the session's end until that is overdue
 };
 
 }  // namespace kestrel

@@ -21,16 +21,6 @@ namespace {
 
 const QString notSafeTerminateKey = u"KestrelNotSafeTerminate"_s;
 
-/// A link goes itself, and not what it names.
-void removeItem(const QString &path)
-{
-    const QFileInfo item(path);
-    if (item.isDir() && !item.isSymLink())
-        QDir(path).removeRecursively();
-    else
-        QFile::remove(path);
-}
-
 }  // namespace
 
 std::shared_ptr<LoggerWatcherTask> AppDelegate::loggerWatcherTask() const
@@ -40,7 +30,7 @@ std::shared_ptr<LoggerWatcherTask> AppDelegate::loggerWatcherTask() const
 
 void AppDelegate::showApplicationLog()
 {
-    if (loggerWatcherTask())
+    if (m_hasTerminated || loggerWatcherTask())
         return;
     m_loggerWatcherTask = std::make_shared<LoggerWatcherTask>();
     const QString viewer =
@@ -51,12 +41,15 @@ void AppDelegate::showApplicationLog()
 
 void AppDelegate::sendBugTypeEmail()
 {
-    const QString log = tarnwell::DNGetPreviousLogFilePath();
-    const QString copy = QDir::temp().filePath(QFileInfo(log).fileName());
-    removeItem(copy);
-    QFile::copy(log, copy);
+    QStringList attachments;
+    if (const QString log = tarnwell::DNGetPreviousLogFilePath(); !log.isEmpty()) {
+        const QString copy = QDir::temp().filePath(QFileInfo(log).fileName());
+        QFile::remove(copy);  // a link goes itself, and not what it names
+        // What cannot be replaced there is somebody else's.
+        attachments.append(QFile::copy(log, copy) ? copy : log);
+    }
     tarnwell::JAppleScriptHelper::sendEmailWithMail(tarnwell::AppSupportEmail(), tarnwell::applicationNameAndVersion(),
-                                                    {copy}, u""_s);
+                                                    attachments, u""_s);
 }
 
 void AppDelegate::checkBugReportFlagWhenLaunch()
@@ -70,7 +63,7 @@ void AppDelegate::checkBugReportFlagWhenLaunch()
                                     u"Would you please send us the Log File to help us fix the issue?"_s)});
         if (answer == tarnwell::AlertAnswer::Default)
             sendBugTypeEmail();
-        else
+        else if (answer == tarnwell::AlertAnswer::Alternate && !m_sessionEnd.isActive())  // its end closes windows
             tarnwell::DNCleanupLogFile();
     }
     setNotSafeTerminate(true);
@@ -79,7 +72,7 @@ void AppDelegate::checkBugReportFlagWhenLaunch()
 /// The end of the session counts as the end of the run until it is known that it goes on.
 void AppDelegate::setNotSafeTerminate(bool isNotSafe)
 {
-    m_surroundings.defaults.setObject(isNotSafe && !m_sessionIsEnding, notSafeTerminateKey);
+    m_surroundings.defaults.setObject(isNotSafe && !m_sessionEnd.isActive(), notSafeTerminateKey);
 }
 
 }  // namespace kestrel

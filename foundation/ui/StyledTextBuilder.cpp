@@ -47,9 +47,11 @@ void StyledTextBuilder::append(QStringView text, const TextStyle &style)
 {
     QString kept;
     for (qsizetype at = 0; at < text.size() && !m_isFull;) {
-        const char32_t c = takeCodePoint(text, at);
+        char32_t c = takeCodePoint(text, at);
         if (isUnwanted(c))
             continue;
+        if (c == U'\t' && style.indent == 0)
+            c = U' ';
         const bool wraps = isWrapPlace(c);
         const bool needsWrap = !wraps && m_unbroken == maximumUnbroken;
         const qsizetype length = (QChar::requiresSurrogates(c) ? 2 : 1) + (needsWrap ? 1 : 0);
@@ -64,7 +66,7 @@ void StyledTextBuilder::append(QStringView text, const TextStyle &style)
     }
     if (kept.isEmpty())
         return;
-    if (!m_text.isEmpty() && m_text.last().style == style)
+    if (!m_text.isEmpty() && (m_text.last().style == style || m_text.size() == maximumRuns))
         m_text.last().text += kept;
     else
         m_text.append({kept, style});

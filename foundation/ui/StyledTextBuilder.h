@@ -5,13 +5,15 @@
 namespace kestrel::foundation {
 
 /// Collects styled text out of texts from outside, and keeps it harmless to lay out: control characters, those that
-/// turn the direction of the text or mean something to a text document, and half surrogate pairs never get in; a
+/// turn the direction of the text or mean something to a text document, and half surrogate pairs never get in; a tab
+/// outside of lists becomes a blank, for thousands of them take seconds; a
 /// stretch without a blank gets a place to wrap at after every `maximumUnbroken` characters; and what is beyond
-/// `maximumLength` (UTF-16 units, all runs together) is cut off.
+/// `maximumLength` (UTF-16 units, all runs together) is cut off. From `maximumRuns` on the looks no longer change.
 class StyledTextBuilder {
 public:
     static constexpr qsizetype maximumLength = 20'000;
     static constexpr int maximumUnbroken = 200;
+    static constexpr qsizetype maximumRuns = 2'000;
 
     /// Whether anything of it would get in.
     static bool isVisible(QStringView text);

@@ -16,20 +16,37 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+namespace {
+
+/// Why the last call failed; empty where there is just no such file.
+QString lastError()
+{
+    return errno == ENOENT || errno == ENOTDIR ? QString() : QString::fromLocal8Bit(std::strerror(errno));
+}
+
+}  // namespace
+
 std::shared_ptr<const LogBytes> LogBytes::open(const QString &path, QString &error)
 {
     error.clear();
-    // Without waiting: a pipe of that name would keep the window from appearing.
-    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
-    if (descriptor < 0) {
-        if (errno != ENOENT && errno != ENOTDIR)
-            error = QString::fromLocal8Bit(std::strerror(errno));
+    const QByteArray name = QFile::encodeName(path);
+    struct stat status = {};
+    if (::stat(name.constData(), &status) != 0) {
+        error = lastError();
         return nullptr;
     }
-    std::shared_ptr<const LogBytes> bytes(new LogBytes(descriptor));
-    struct stat status = {};
-    if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
-        return bytes;
+    // Nothing else is opened: who writes into a pipe would be ended by a reader that comes and goes.
+    if (S_ISREG(status.st_mode)) {
+        // It may be a pipe by now: without waiting for its writer.
+        const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
+        if (descriptor < 0) {
+            error = lastError();
+            return nullptr;
+        }
+        std::shared_ptr<const LogBytes> bytes(new LogBytes(descriptor));
+        if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
+            return bytes;
+    }
     error = tarnwell::AppLocalizedString(u"This is no text file"_s);
     return nullptr;
 }

@@ -48,10 +48,10 @@ void LogFile::check()
     const bool isSame = m_bytes && m_bytes->isNamed(m_path);
     std::shared_ptr<const LogBytes> bytes = isSame ? m_bytes : LogBytes::open(m_path, error);
     if (!bytes) {
-        if (m_bytes)
-            setState(State::Readable, {}, true);
+        if (!error.isEmpty())
+            setState(State::Unreadable, error, false);
         else
-            setState(error.isEmpty() ? State::Missing : State::Unreadable, error, false);
+            setState(m_bytes ? State::Readable : State::Missing, {}, m_bytes != nullptr);
         return;
     }
     const qint64 size = bytes->size();

@@ -24,7 +24,7 @@ LogFilter::LogFilter(const LogFile &file, size_t maximumRows, QObject *parent)
 void LogFilter::setText(const QString &text)
 {
     m_pattern = TextPattern(text);
-    m_begins.clear();
+    m_found.clear();
     m_from = m_to = m_file.size();
     m_isCapped = false;
     m_shownPercent = 0;
@@ -37,8 +37,18 @@ void LogFilter::setText(const QString &text)
 
 void LogFilter::fileGrown()
 {
-    if (!m_pattern.isEmpty())
-        m_slices.start();
+    if (m_pattern.isEmpty())
+        return;
+    // The last row may have been half a row.
+    if (!m_found.empty())
+        m_found.back() = m_lines.rowAt(m_found.back().begin).value_or(m_found.back());
+    m_slices.start();
+}
+
+void LogFilter::stop()
+{
+    m_slices.stop();
+    m_from = 0;
 }
 
 int LogFilter::percent() const
@@ -49,35 +59,37 @@ int LogFilter::percent() const
 /// New text first, then one block more towards the begin.
 bool LogFilter::step()
 {
+    const bool hadLookedBack = hasLookedBack();
     bool isChanged = false;
     if (m_to < m_file.size()) {
-        // The last row may have been half a row, and half a match.
+        // The last text may have been half a match.
         const qint64 begin = std::max<qint64>(m_to - m_pattern.maximumLength(), 0);
         const qint64 end = std::min(m_to + filterBlockLength, m_file.size());
-        for (const qint64 row : rowsIn(begin, end)) {
-            if (!m_begins.empty() && row <= m_begins.back())
+        for (const LogRow &row : rowsIn(begin, end)) {
+            if (!m_found.empty() && row.begin <= m_found.back().begin)
                 continue;
-            m_begins.push_back(row);
+            m_found.push_back(row);
             isChanged = true;
         }
         m_to = end;
-        for (; m_begins.size() > m_maximumRows; m_isCapped = true)
-            m_begins.pop_front();
-    } else if (m_from > 0 && !m_isCapped) {
+        for (; m_found.size() > m_maximumRows; m_isCapped = true)
+            m_found.pop_front();
+    } else if (!hadLookedBack) {
         const qint64 begin = std::max<qint64>(m_from - filterBlockLength, 0);
-        std::deque<qint64> rows = rowsIn(begin, m_from);
-        if (!rows.empty() && !m_begins.empty() && rows.back() >= m_begins.front())
+        std::deque<LogRow> rows = rowsIn(begin, m_from);
+        if (!rows.empty() && !m_found.empty() && rows.back().begin >= m_found.front().begin)
             rows.pop_back();
-        const size_t room = std::min(m_maximumRows - m_begins.size(), rows.size());
-        m_begins.insert(m_begins.begin(), rows.end() - qsizetype(room), rows.end());
+        const size_t room = std::min(m_maximumRows - m_found.size(), rows.size());
+        m_found.insert(m_found.begin(), rows.end() - qsizetype(room), rows.end());
         isChanged = room > 0;
         m_isCapped = room < rows.size();
         m_from = begin;
     }
-    const bool isDone = m_to == m_file.size() && (m_from == 0 || m_isCapped);
+    const bool isDone = m_to == m_file.size() && hasLookedBack();
     if (isDone)
         m_slices.stop();
-    if (isChanged || isDone || percent() != m_shownPercent) {
+    // New text without a match changes nothing.
+    if (isChanged || (!hadLookedBack && (hasLookedBack() || percent() != m_shownPercent))) {
         m_shownPercent = percent();
         emit changed();
     }
@@ -85,19 +97,17 @@ bool LogFilter::step()
 }
 
 /// The rows with matches that begin in this part of the file; the first of them may begin before it.
-std::deque<qint64> LogFilter::rowsIn(qint64 begin, qint64 end) const
+std::deque<LogRow> LogFilter::rowsIn(qint64 begin, qint64 end) const
 {
-    std::deque<qint64> rows;
-    qint64 next = 0;
+    std::deque<LogRow> rows;
     m_pattern.forEachIn(m_file.read(begin, end - begin + m_pattern.maximumLength() - 1), [&](TextPattern::Match match) {
         match.begin += begin;
         if (match.begin >= end)
             return false;
-        if (match.begin < next)
+        if (!rows.empty() && match.begin < rows.back().next)
             return true;
-        const auto row = m_lines.rowAt(match.begin);
-        rows.push_back(row->begin);
-        next = row->next;
+        if (const auto row = m_lines.rowAt(match.begin))
+            rows.push_back(*row);
         return true;
     });
     return rows;
@@ -105,20 +115,19 @@ std::deque<qint64> LogFilter::rowsIn(qint64 begin, qint64 end) const
 
 std::optional<LogRow> LogFilter::rowAtPosition(qint64 position) const
 {
-    if (m_begins.empty())
+    if (m_found.empty())
         return std::nullopt;
-    return m_lines.rowAt(m_begins[size_t(std::clamp<qint64>(position, 0, extent() - 1))]);
+    return m_found[size_t(std::clamp<qint64>(position, 0, extent() - 1))];
 }
 
 std::optional<LogRow> LogFilter::rowAt(qint64 offset) const
 {
-    const auto after = std::upper_bound(m_begins.cbegin(), m_begins.cend(), offset);
-    return rowAtPosition(after - m_begins.cbegin() - 1);
+    return rowAtPosition(positionAfter(offset) - 1);
 }
 
 std::optional<LogRow> LogFilter::rowAfter(const LogRow &row) const
 {
-    const qint64 position = std::upper_bound(m_begins.cbegin(), m_begins.cend(), row.begin) - m_begins.cbegin();
+    const qint64 position = positionAfter(row.begin);
     return position < extent() ? rowAtPosition(position) : std::nullopt;
 }
 
@@ -136,7 +145,13 @@ bool LogFilter::isShown(qint64 offset) const
 
 qint64 LogFilter::positionOf(const LogRow &row) const
 {
-    return std::lower_bound(m_begins.cbegin(), m_begins.cend(), row.begin) - m_begins.cbegin();
+    return std::ranges::lower_bound(m_found, row.begin, {}, &LogRow::begin) - m_found.cbegin();
+}
+
+/// Of the first row that begins beyond this byte.
+qint64 LogFilter::positionAfter(qint64 offset) const
+{
+    return std::ranges::upper_bound(m_found, offset, {}, &LogRow::begin) - m_found.cbegin();
 }
 
 }  // namespace kestrel

@@ -25,16 +25,18 @@ public:
 
     void fileGrown();
     void fileReplaced() { setText(text()); }
+    void stop();  ///< keeps what was found and looks at no older text
 
     bool isRunning() const { return m_slices.isRunning(); }
-    int percent() const;                          ///< of the file looked through
-    bool isCapped() const { return m_isCapped; }  ///< older rows were left out
+    bool isLookingBack() const { return isRunning() && !hasLookedBack(); }  ///< the first pass, through older text
+    int percent() const;                                                    ///< of the file looked through
+    bool isCapped() const { return m_isCapped; }                            ///< older rows were left out
 
     std::optional<LogRow> rowAt(qint64 offset) const override;
     std::optional<LogRow> rowAfter(const LogRow &row) const override;
     std::optional<LogRow> rowBefore(const LogRow &row) const override;
     bool isShown(qint64 offset) const override;
-    qint64 extent() const override { return qint64(m_begins.size()); }
+    qint64 extent() const override { return qint64(m_found.size()); }
     qint64 positionOf(const LogRow &row) const override;
     std::optional<LogRow> rowAtPosition(qint64 position) const override;
 
@@ -43,13 +45,15 @@ signals:
 
 private:
     bool step();
-    std::deque<qint64> rowsIn(qint64 begin, qint64 end) const;
+    bool hasLookedBack() const { return m_from == 0 || m_isCapped; }
+    qint64 positionAfter(qint64 offset) const;
+    std::deque<LogRow> rowsIn(qint64 begin, qint64 end) const;
 
     const LogFile &m_file;
     LogLines m_lines;
     TextPattern m_pattern;
     size_t m_maximumRows;
-    std::deque<qint64> m_begins;  ///< of the rows, ascending
+    std::deque<LogRow> m_found;   ///< ascending; kept whole, so that a search need not read them again
     qint64 m_from = 0, m_to = 0;  ///< what has been looked through
     bool m_isCapped = false;
     int m_shownPercent = 0;

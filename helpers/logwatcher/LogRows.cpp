@@ -70,7 +70,11 @@ std::optional<LogRow> LogLines::rowAt(qint64 offset) const
 
 std::optional<LogRow> LogLines::rowAfter(const LogRow &row) const
 {
-    return row.next < m_file.size() ? std::optional(rowFrom(row.next)) : std::nullopt;
+    if (row.next >= m_file.size())
+        return std::nullopt;
+    // A file that was cut short a moment ago, or a failing disk, gives nothing: that row would follow itself.
+    const LogRow after = rowFrom(row.next);
+    return after.next > after.begin ? std::optional(after) : std::nullopt;
 }
 
 std::optional<LogRow> LogLines::rowBefore(const LogRow &row) const

@@ -1,3 +1,4 @@
+#include "ApplicationSetUp.h"
 #include "Bundle.h"
 #include "DefaultsFile.h"
 #include "Installed.h"
@@ -11,8 +12,6 @@
 
 #include <QApplication>
 #include <QFileInfo>
-#include <QIcon>
-#include <QLibraryInfo>
 #include <QLocale>
 #include <QTranslator>
 
@@ -38,11 +37,12 @@ QString interfaceLanguage(const foundation::Bundle &product)
     return defaults.values().value(u"AppleLanguages"_s).toStringList().value(0, u"en"_s);
 }
 
-/// The texts of the desktop's own dialogs, which Qt brings along.
-void installDialogTexts(QTranslator &translator, const QString &language)
+int showLog()
 {
-    if (translator.load(QLocale(language), u"qtbase"_s, u"_"_s, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(&translator);
+    LogWindow window(QCoreApplication::arguments().value(1));
+    window.show();
+    foundation::queue::afterMain(std::chrono::milliseconds(250), tarnwell::setWindowIcon);
+    return QApplication::exec();
 }
 
 int run(QApplication &application, const foundation::Bundle &product)
@@ -50,7 +50,7 @@ int run(QApplication &application, const foundation::Bundle &product)
     const QString language = interfaceLanguage(product);
     QLocale::setDefault(QLocale(language));
     QTranslator dialogTexts;
-    installDialogTexts(dialogTexts, language);
+    tarnwell::installDialogTexts(dialogTexts, language);
     tarnwell::Localization localization(product.resource(u"translations"_s), language);
     const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
     tarnwell::applyTheme(application);
@@ -58,16 +58,10 @@ int run(QApplication &application, const foundation::Bundle &product)
     const foundation::TerminationSignals signalsOfTheSystem;
     QObject::connect(&signalsOfTheSystem, &foundation::TerminationSignals::received, &application,
                      &QCoreApplication::quit);
-    LogWindow window(QCoreApplication::arguments().value(1));
-    window.show();
-    foundation::queue::afterMain(std::chrono::milliseconds(250), [] {
-        QIcon icon;
-        for (const int size : {16, 32, 48, 128})
-            icon.addFile(tarnwell::productBundle().resource(u"icons/hicolor/%1x%1/apps/kestrel.png"_s.arg(size)),
-                         {size, size});
-        QApplication::setWindowIcon(icon);
-    });
-    return QApplication::exec();
+    const int status = showLog();
+    // A copy that the window's end gave up may still be looking for a text.
+    foundation::queue::finishGlobal();
+    return status;
 }
 
 }  // namespace
@@ -82,7 +76,5 @@ int main(int argc, char **argv)
     QApplication application(argc, argv);
     QApplication::setApplicationName(u"KestrelLogWatcher"_s);
     QApplication::setDesktopFileName(product.identifier());
-    const int status = run(application, product);
-    foundation::queue::finishGlobal();
-    return status;
+    return run(application, product);
 }

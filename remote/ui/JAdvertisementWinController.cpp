@@ -7,13 +7,12 @@
 #include "LabelText.h"
 #include "ProductInformation.h"
 #include "Promotion.h"
+#include "PromotionPicture.h"
 #include "TextStyles.h"
 #include "WebPages.h"
 #include "ui_JAdvertisementWinController.h"
 
-#include <QBuffer>
 #include <QGuiApplication>
-#include <QImageReader>
 
 #include <algorithm>
 
@@ -24,7 +23,6 @@ namespace kestrel {
 namespace {
 
 constexpr QSize advertisementSize(640, 480);
-constexpr int largestPictureExtent = 4096;
 constexpr int pictureIconSize = 128;
 constexpr qsizetype longestHeadline = 160;
 constexpr qsizetype longestButtonTitle = 1000;
@@ -57,21 +55,8 @@ double fitButton(QPushButton *button, const QString &remoteTitle, double widest)
 
 QImage JAdvertisementWinController::imageFromData(const QByteArray &data)
 {
-    QBuffer buffer;
-    buffer.setData(data);
-    for (const char *format : {"png", "jpeg", "gif", "bmp"}) {
-        buffer.open(QIODevice::ReadOnly);
-        QImageReader reader(&buffer, format);
-        reader.setAutoDetectImageFormat(false);
-        reader.setAutoTransform(true);
-        const QSize size = reader.canRead() ? reader.size() : QSize();
-        const bool isFit = !size.isEmpty() && std::max(size.width(), size.height()) <= largestPictureExtent;
-        if (QImage image; isFit && reader.read(&image)) {
-            image.setDevicePixelRatio(1);
-            return image;
-        }
-        buffer.close();
-    }
+    if (const QImage picture = promotionPicture(data); !picture.isNull())
+        return picture;
     return tarnwell::ApplicationIcon(pictureIconSize, qGuiApp->devicePixelRatio()).toImage();
 }
 

@@ -29,7 +29,7 @@ public:
     /// it was fetched, or null.
     static void ShowAdvertisement(const std::optional<ADItem> &item, const QByteArray &data,
                                   foundation::UserDefaults &defaults);
-    /// The picture's first frame; the application's icon where it is no PNG, JPEG, GIF or BMP or is too large.
+    /// The picture (PromotionPicture.h), or the application's icon where it is none that can be shown.
     static QImage imageFromData(const QByteArray &data);
 
     explicit JAdvertisementWinController(foundation::UserDefaults &defaults);

@@ -110,7 +110,10 @@ AlertAnswer AlertPanel::runModal()
         winId();  // makes the native window
         windowHandle()->setTransientParent(window->windowHandle());
     }
-    return exec() == QDialog::Accepted ? AlertAnswer::Default : m_answerToEscape;
+    const int result = exec();
+    if (isVisible())  // any answer closes it
+        return AlertAnswer::None;
+    return result == QDialog::Accepted ? AlertAnswer::Default : m_answerToEscape;
 }
 
 void AlertPanel::placeOver(const QWidget *window)

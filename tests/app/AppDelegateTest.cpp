@@ -16,6 +16,7 @@
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QScopeGuard>
 
 using namespace Qt::StringLiterals;
 
@@ -129,6 +130,9 @@ TEST_F(AppDelegateTest, the_unclean_exit_flag_is_armed_after_launch_and_cleared_
 TEST_F(AppDelegateTest, a_report_is_offered_after_an_unclean_exit_only)
 {
     const QString flag = u"KestrelNotSafeTerminate"_s;
+    const QByteArray formerFolder = qgetenv("TMPDIR");
+    const auto restored =
+        qScopeGuard([&] { formerFolder.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", formerFolder); });
     qputenv("TMPDIR", m_folder.path().toUtf8());
     QFile precious(m_folder.filePath(u"precious"_s));
     ASSERT_TRUE(precious.open(QIODevice::WriteOnly));
@@ -141,7 +145,8 @@ TEST_F(AppDelegateTest, a_report_is_offered_after_an_unclean_exit_only)
         bool sends, keepsLog;
     } rows[] = {{"orderly", false, tarnwell::AlertAnswer::Default, 0, false, true},
                 {"send", true, tarnwell::AlertAnswer::Default, 1, true, true},
-                {"cancel", true, tarnwell::AlertAnswer::Alternate, 1, false, false}};
+                {"cancel", true, tarnwell::AlertAnswer::Alternate, 1, false, false},
+                {"end of the application", true, tarnwell::AlertAnswer::None, 1, false, true}};
     for (const auto &[name, wasUnclean, answer, alerts, sends, keepsLog] : rows) {
         SCOPED_TRACE(name);
         const QTemporaryDir logs;
@@ -170,11 +175,28 @@ TEST_F(AppDelegateTest, a_report_is_offered_after_an_unclean_exit_only)
         EXPECT_TRUE(sent.open(QIODevice::ReadOnly) && sent.readAll().endsWith("the run before\n"));
     }
     EXPECT_EQ(precious.size(), 0) << "a link in the temporary folder was followed";
-    qunsetenv("TMPDIR");
+
+    // Without a log nothing is attached, and the temporary folder stays as it is.
+    test::RecordingMailProgram mail;
+    m_delegate->sendBugTypeEmail();
+    EXPECT_FALSE(mail.arguments().contains(u"--attach"_s));
+    EXPECT_TRUE(precious.exists());
+    // A copy that cannot be replaced is somebody else's.
+    const QTemporaryDir logs;
+    tarnwell::Log(logs.path()).append(u"the run before"_s);
+    tarnwell::Log log(logs.path());
+    const tarnwell::Installed<tarnwell::Log> installed(log);
+    QFile::remove(copy);
+    ASSERT_TRUE(QDir(m_folder.path()).mkpath(copy + u"/kept"_s));
+    m_delegate->sendBugTypeEmail();
+    EXPECT_TRUE(mail.arguments().contains(log.previousPath()));
+    EXPECT_TRUE(QFile::exists(copy + u"/kept"_s));
 
     m_delegate->sessionWillEnd();
+    m_defaults.setObject(true, flag);
     m_desktop.answer = tarnwell::AlertAnswer::Alternate;
     m_delegate->checkBugReportFlagWhenLaunch();
+    EXPECT_TRUE(QFile::exists(log.previousPath())) << "taken for an answer of the user";
     EXPECT_FALSE(m_defaults.boolForKey(flag)) << "armed while the session ends";
 }
 
@@ -199,6 +221,8 @@ TEST_F(AppDelegateTest, one_log_viewer_at_a_time_until_the_end)
     EXPECT_FALSE(isOver());
     m_delegate->applicationWillTerminate();
     EXPECT_TRUE(test::waitUntil(isOver)) << "a viewer that does not heed SIGTERM holds the end";
+    m_delegate->showApplicationLog();
+    EXPECT_TRUE(isOver());
     EXPECT_EQ(starts(), 1);
 
     LoggerWatcherTask early;

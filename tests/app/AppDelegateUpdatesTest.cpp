@@ -9,13 +9,14 @@
 #include "Queues.h"
 #include "RecordingModule.h"
 #include "TestDesktop.h"
-#include "TestEnvironment.h"
 #include "UPParser.h"
 #include "UserDefaults.h"
 
 #include <gtest/gtest.h>
 
 #include <QApplication>
+#include <QBuffer>
+#include <QStackedWidget>
 #include <QTimer>
 
 using namespace Qt::StringLiterals;
@@ -44,109 +45,165 @@ struct TestServer {
 
 QByteArray descriptor(const QString &version)
 {
-    return foundation::writePropertyList(
-        QVariantMap{{u"LastestVersion"_s, version},
-                    {u"ADConfigURL"_s, configurationLink},
-                    {u"DownloaderUISupportURLTop"_s,
-                     QVariantMap{{u"en"_s, QVariantMap{{u"Title"_s, u"Support"_s}, {u"URL"_s, u"http://a"_s}}}}}},
-        foundation::PropertyListFormat::Xml);
+    const auto link = [](const QString &title) {
+        return QVariantMap{{u"en"_s, QVariantMap{{u"Title"_s, title}, {u"URL"_s, u"http://"_s + title}}}};
+    };
+    return foundation::writePropertyList(QVariantMap{{u"LastestVersion"_s, version},
+                                                     {u"ADConfigURL"_s, configurationLink},
+                                                     {u"DownloaderUISupportURLTop"_s, link(u"top"_s)},
+                                                     {u"DownloaderUISupportURLBottom"_s, link(u"bottom"_s)}},
+                                         foundation::PropertyListFormat::Xml);
 }
 
 const QByteArray configuration = R"({"ads": {"picture": "http://127.0.0.1/picture.png",
     "full": {"title": "Offer", "button": "Look", "label": "No", "rate": 30, "next_rate": 5}},
     "top-right-button": {"name": "plain"}, "top-right-button-v2": {"full": {"name": "full"}}})";
 
+QByteArray greenPicture()
+{
+    QImage image(300, 200, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    return buffer.data();
+}
+
+/// A delegate with such a server, and what it shows: each window is closed once it has something to say.
+class AppDelegateUpdatesTest : public testing::Test {
+protected:
+    void make(const QString &link, const QVariantMap &stored = {}, quint32 drawn = 0)
+    {
+        m_product.emplace(test::productInformation({{u"TWUpdateXMLLink"_s, link}}));
+        m_defaults.emplace(m_product->contentsPath(u"defaults.plist"_s));
+        for (const auto &[key, value] : stored.asKeyValueRange())
+            m_defaults->setObject(value, key);
+        m_setting.emplace(*m_defaults);
+        m_server.documents = {{configurationLink, configuration}, {pictureLink, greenPicture()}};
+        m_delegate.emplace(
+            AppDelegate::Surroundings{.setting = *m_setting,
+                                      .defaults = *m_defaults,
+                                      .modules = {},
+                                      .windows = {},
+                                      .terminate = [] {},
+                                      .startProcess = [](const QString &, const QStringList &) { return false; },
+                                      .updates = {.fetch = [this](const auto &asked) { return m_server.fetch(asked); },
+                                                  .today = [] { return QDate(2026, 1, 2); },
+                                                  .draw = [drawn] { return drawn; }}});
+        foundation::NotificationCenter::defaultCenter().addObserver(
+            &*m_delegate, tarnwell::RMTConfigureDidParse.toString(), [this](const QObject *object) {
+                ++m_posts;
+                EXPECT_EQ(object, m_delegate->upConfigure().get());
+            });
+        m_closer.callOnTimeout(&*m_delegate, [this] { closeWindow(); });
+        m_closer.start(5);
+    }
+
+    void checkAutomatically()
+    {
+        foundation::queue::asyncGlobal([this] { m_delegate->checkUpgradesAutomatically(); });
+        // The check, and then the picture's fetch.
+        for (int jobs = 0; jobs < 2; ++jobs) {
+            foundation::queue::finishGlobal();
+            QCoreApplication::processEvents();
+        }
+    }
+
+    void closeWindow()
+    {
+        auto *modal = qobject_cast<tarnwell::JTitledWindow *>(QApplication::activeModalWidget());
+        const auto *views = modal ? modal->findChild<QStackedWidget *>(u"upgradeContentView"_s) : nullptr;
+        if (!modal || (views && views->currentWidget()->objectName() == "progressView"_L1))
+            return;
+        m_shown += views ? u"update"_s : u"promotion"_s;
+        if (auto *picture = modal->findChild<QWidget *>(u"myImageView"_s))
+            m_color = picture->grab().toImage().pixelColor(picture->rect().center());
+        modal->performClose();
+    }
+
+    const test::TestDesktop m_desktop;
+    std::optional<test::ProductFolder> m_product;
+    std::optional<foundation::UserDefaults> m_defaults;
+    std::optional<JKestrelSetting> m_setting;
+    TestServer m_server;
+    QTimer m_closer;
+    int m_posts = 0;
+    QStringList m_shown;
+    QColor m_color;
+    std::optional<AppDelegate> m_delegate;
+};
+
 }  // namespace
 
-TEST(AppDelegateUpdates, the_automatic_check_shows_one_window_at_most)
+TEST_F(AppDelegateUpdatesTest, the_automatic_check_shows_one_window_at_most)
 {
+    const QString read = u"kestrel.plist configuration.json"_s, today = u"2026-01-02"_s;
+    const auto shownOn = [](const QString &day) { return QVariantMap{{u"_AdvertisementDateString"_s, day}}; };
+    QVariantMap declined = shownOn(u"2025-12-31"_s);
+    declined.insert(u"_AdvertisementRate"_s, 5);
     const struct {
         const char *name;
-        QString version;  ///< the server's; null where it cannot be reached
+        QString link, version;  ///< the server's; null where it cannot be reached
         QVariantMap stored;
         quint32 drawn;
-        QString window;  ///< an outlet that only it has
-        QString day, asked;
+        QString shown, day, asked;
+        int posts = 1;
     } rows[] = {
-        {"unreachable", {}, {}, 0, {}, {}, u"kestrel.plist"_s},
-        {"newer", u"9.0"_s, {}, 0, u"whatsNewFiled"_s, {}, u"kestrel.plist configuration.json"_s},
-        {"promotion",
-         u"1.0.0"_s,
-         {},
-         129,
-         u"myDetailLabel"_s,
-         u"2026-01-02"_s,
-         u"kestrel.plist configuration.json picture.png"_s},
-        {"against the draw", u"1.0.0"_s, {}, 130, {}, {}, u"kestrel.plist configuration.json"_s},
-        {"shown today",
-         u"1.0.0"_s,
-         {{u"_AdvertisementDateString"_s, u"2026-01-02"_s}},
-         0,
-         {},
-         u"2026-01-02"_s,
-         u"kestrel.plist configuration.json"_s},
-        {"declined before, and another day",
-         u"1.0.0"_s,
-         {{u"_AdvertisementDateString"_s, u"2025-12-31"_s}, {u"_AdvertisementRate"_s, 5}},
-         5,
-         {},
-         u"2025-12-31"_s,
-         u"kestrel.plist configuration.json"_s},
+        {"no address", u""_s, {}, {}, 0, {}, {}, {}, 0},
+        {"no address that could be one", u"http://127.0.0.1:port/"_s, {}, {}, 0, {}, {}, {}, 0},
+        {"unreachable", descriptorLink, {}, {}, 0, {}, {}, u"kestrel.plist"_s},
+        {"newer", descriptorLink, u"9.0"_s, {}, 0, u"update"_s, {}, read},
+        {"promotion", descriptorLink, u"1.0.0"_s, {}, 129, u"promotion"_s, today, read + " picture.png"_L1},
+        {"against the draw", descriptorLink, u"1.0.0"_s, {}, 130, {}, {}, read},
+        {"shown today", descriptorLink, u"1.0.0"_s, shownOn(today), 0, {}, today, read},
+        {"declined before, another day", descriptorLink, u"1.0.0"_s, declined, 5, {}, u"2025-12-31"_s, read},
     };
     for (const auto &row : rows) {
         SCOPED_TRACE(row.name);
-        const QTemporaryDir folder;
-        const test::ProductFolder product(test::productInformation({{u"TWUpdateXMLLink"_s, descriptorLink}}));
-        const test::TestDesktop desktop;
-        foundation::UserDefaults defaults(folder.filePath(u"defaults.plist"_s));
-        for (const auto &[key, value] : row.stored.asKeyValueRange())
-            defaults.setObject(value, key);
-        JKestrelSetting setting(defaults);
-        TestServer server;
-        server.documents.insert(configurationLink, configuration);
+        m_posts = 0;
+        m_shown.clear();
+        m_server.asked.clear();
+        make(row.link, row.stored, row.drawn);
         if (!row.version.isNull())
-            server.documents.insert(descriptorLink, descriptor(row.version));
-        AppDelegate delegate({.setting = setting,
-                              .defaults = defaults,
-                              .modules = {},
-                              .windows = {},
-                              .terminate = [] {},
-                              .startProcess = [](const QString &, const QStringList &) { return false; },
-                              .updates = {.fetch = [&](const auto &request) { return server.fetch(request); },
-                                          .today = [] { return QDate(2026, 1, 2); },
-                                          .draw = [&] { return row.drawn; }}});
-        int posts = 0;
-        foundation::NotificationCenter::defaultCenter().addObserver(
-            &delegate, tarnwell::RMTConfigureDidParse.toString(), [&](const QObject *object) {
-                ++posts;
-                EXPECT_EQ(object, delegate.upConfigure().get());
-            });
-        QString window;
-        QTimer closer;
-        closer.callOnTimeout([&] {
-            if (auto *modal = qobject_cast<tarnwell::JTitledWindow *>(QApplication::activeModalWidget())) {
-                for (const QString &outlet : {u"whatsNewFiled"_s, u"myDetailLabel"_s})
-                    if (modal->findChild<QWidget *>(outlet))
-                        window = outlet;
-                modal->performClose();
-            }
-        });
-        closer.start(5);
-
-        foundation::queue::asyncGlobal([&] { delegate.checkUpgradesAutomatically(); });
-        EXPECT_TRUE(test::waitUntil([&] { return posts > 0 && window == row.window; }));
-        foundation::queue::finishGlobal();
-        QCoreApplication::processEvents();
-        EXPECT_EQ(posts, 1);
-        EXPECT_EQ(window, row.window);
-        EXPECT_EQ(server.asked.join(u' '), row.asked);
-        EXPECT_EQ(defaults.stringForKey(u"_AdvertisementDateString"_s), row.day);
-        EXPECT_EQ(delegate.titleOfSupportField(), row.version.isNull() ? QString() : u"Support"_s);
-        EXPECT_EQ(delegate.topRightWndBtnConfig().has_value(), !row.version.isNull());
-        if (const auto button = delegate.topRightWndBtnConfig(); button.has_value()) {
-            EXPECT_EQ(button->dictionary().value(u"name"_s).toString(), u"full"_s);
-        }
+            m_server.documents.insert(descriptorLink, descriptor(row.version));
+        checkAutomatically();
+        EXPECT_EQ(m_posts, row.posts);
+        EXPECT_EQ(m_shown.join(u' '), row.shown);
+        EXPECT_EQ(m_server.asked.join(u' '), row.asked);
+        EXPECT_EQ(m_defaults->stringForKey(u"_AdvertisementDateString"_s), row.day);
+        EXPECT_EQ(m_delegate->upConfigure() != nullptr, !row.version.isNull());
     }
+    EXPECT_EQ(m_color, QColor(Qt::green));
+}
+
+TEST_F(AppDelegateUpdatesTest, the_configuration_is_handed_on)
+{
+    const std::pair<QByteArray, QString> rows[] = {
+        {configuration, u"full"_s},
+        {QByteArray(configuration).replace("\"full\": {\"name", "\"no\": {\"name"), u"plain"_s}};
+    for (const auto &[document, button] : rows) {
+        make(descriptorLink, {{u"_AdvertisementDateString"_s, u"2026-01-02"_s}});
+        m_server.documents.insert(descriptorLink, descriptor(u"1.0.0"_s));
+        m_server.documents.insert(configurationLink, document);
+        checkAutomatically();
+        EXPECT_EQ(QStringList({m_delegate->titleOfSupportField(), m_delegate->URLOfSupportField(),
+                               m_delegate->titleOf300PlusSupportField(), m_delegate->URLOf300PlusSupportField()}),
+                  QStringList({u"top"_s, u"http://top"_s, u"bottom"_s, u"http://bottom"_s}));
+        ASSERT_TRUE(m_delegate->topRightWndBtnConfig());
+        EXPECT_EQ(m_delegate->topRightWndBtnConfig()->dictionary().value(u"name"_s).toString(), button);
+    }
+}
+
+TEST_F(AppDelegateUpdatesTest, the_check_by_hand_only_shows_its_window)
+{
+    make(descriptorLink);
+    m_server.documents.insert(descriptorLink, descriptor(u"1.0.0"_s));
+    m_delegate->onCheckUpdateAction();
+    foundation::queue::finishGlobal();
+    QCoreApplication::processEvents();
+    EXPECT_EQ(m_shown, QStringList(u"update"_s));
+    EXPECT_EQ(m_server.asked, QStringList({u"kestrel.plist"_s, u"configuration.json"_s}));
+    EXPECT_TRUE(m_posts == 0 && !m_delegate->upConfigure());
+    EXPECT_FALSE(m_defaults->objectForKey(u"_AdvertisementDateString"_s).isValid());
 }
 
 }  // namespace kestrel

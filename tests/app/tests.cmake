@@ -2,7 +2,7 @@ kestrel_test(app
     SOURCES
         AppControllerTest.cpp AppDelegateTest.cpp AppDelegateUpdatesTest.cpp InterfaceLanguageTest.cpp
         KestrelControllerTest.cpp RecordingModule.h SingleInstanceTest.cpp
-    LINKS kestrel_app_ui kestrel_test_product Qt6::Network)
+    LINKS kestrel_app_ui kestrel_test_product kestrel_update Qt6::Network)
 
 # Permission libraries that answer as the test says
 foreach(variant KESTREL_FAKE_PERMISSION KESTREL_FAKE_PERMISSION_WITHOUT_DEVICE)

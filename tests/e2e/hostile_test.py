@@ -65,6 +65,16 @@ class HostileTest(ProgramTest):
         self.assertEqual(app.end(), 0)
         self.assertLess(time.monotonic() - start, 2, 'the end waits for no name')
 
+    def test_proxy_script_that_does_not_come(self):
+        with Server({'/proxy.pac': lambda connection: connection.wait()}) as server:
+            bundle = copy_bundle(self.bundle, self.desktop.home + '/Kestrel.app',
+                                 TWUpdateXMLLink='http://kestrel.invalid/kestrel.plist')
+            app = self.launch(bundle=bundle, http_proxy='pac+' + server.url('/proxy.pac'))
+            wait_for(lambda: server.requests, 'the script to be asked for')
+            start = time.monotonic()
+            self.assertEqual(app.end(), 0)
+            self.assertLess(time.monotonic() - start, 2, 'the end waits for no script')
+
 
 if __name__ == '__main__':
     main()

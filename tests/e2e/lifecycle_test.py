@@ -2,6 +2,7 @@
 import glob
 import os
 import signal
+import subprocess
 
 from accessible import wait_for
 from harness import ProgramTest, main
@@ -37,6 +38,29 @@ class LifecycleTest(ProgramTest):
                                  {'video': 'JVideoSetting', 'dvd': 'JDVDSetting', 'downloader': 'JDownloaderSetting',
                                   'recorder': 'JRecorderSetting', 'vars': None})
                 self.assertEqual(settings['vars'], {'openFolder': True, 'shutdown': False, 'notify': True})
+
+    def test_ends_with_its_display(self):
+        display = subprocess.Popen(['Xvfb', '-displayfd', '1', '-nolisten', 'tcp', '-noreset'], text=True,
+                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
+        with display.stdout as number:
+            app = self.desktop.launch(self.bundle, DISPLAY=':' + number.readline().strip())
+        wait_for(lambda: self.stored(ENDED_BADLY), 'the flag of a run under way')
+        self.assertIsNone(self.stored('setting'))
+        display.terminate()
+        display.wait()
+        self.assertEqual(app.wait_for_end(), 1, app.output())
+        self.assertIs(self.stored(ENDED_BADLY), False)
+        self.assertIn('video', unarchived(self.stored('setting')))
+
+    def test_runs_without_a_log(self):
+        folder = os.path.dirname(self.desktop.log_path(self.bundle))
+        os.makedirs(os.path.dirname(folder))
+        with open(folder, 'w'):
+            pass
+        app = self.launch()
+        self.assertEqual(app.end(), 0)
+        self.assertIn('The log cannot be written', app.output())
+        self.assertIn('Application did Finished launching', app.output())
 
     def test_keys_of_others_survive(self):
         self.desktop.set_defaults(self.bundle, KeyOfSomebodyElse={'kept': [1, 2.5, b'bytes']})

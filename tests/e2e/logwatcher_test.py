@@ -1,5 +1,6 @@
 """The log viewer, a program of its own: what it shows of a file that lives, and how one finds a line in it."""
 import os
+import time
 
 from accessible import states, wait_for
 from harness import ProgramTest, main
@@ -82,6 +83,15 @@ class LogWatcherTest(ProgramTest):
         app.wait_for_text('The copy was saved.')
         with open(copy) as saved, open(self.path) as log:
             self.assertEqual(saved.read(), log.read())
+
+    def test_a_huge_file_costs_nothing(self):
+        self.write('')
+        os.truncate(self.path, 1 << 30)
+        start = time.monotonic()
+        app = self.launch_viewer(self.path)
+        self.wait_for_rows(app, lambda rows: rows, 'its end')
+        self.assertLess(time.monotonic() - start, 2)
+        self.assertLess(app.memory(), 100, 'MiB')
 
     def test_what_cannot_be_shown_is_told(self):
         for arguments, message in (((), 'No log was named'), ((self.desktop.home,), 'The log cannot be read')):

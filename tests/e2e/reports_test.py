@@ -4,6 +4,7 @@ import os
 import signal
 
 from accessible import wait_for
+from driver import executable
 from harness import ProgramTest, main
 from material import bundle_information
 
@@ -78,11 +79,25 @@ class ReportsTest(ProgramTest):
             self.assertNotIn(file.read(), (logged, second))
 
     def test_end_while_the_question_is_open(self):
-        self.crash(self.launch())
+        logged = self.crash(self.launch())
         app = self.desktop.launch(self.bundle)
         app.wait_for_text(QUESTION)
         self.assertEqual(app.end(), 0)
         self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
+        with open(self.desktop.log_path(self.bundle, 'kestrel-previous.log'), 'rb') as file:
+            self.assertEqual(file.read(), logged)
+
+    def test_mail_program_outlives_the_program(self):
+        noted = os.path.join(self.desktop.home, 'mail')
+        with open(os.path.join(self.desktop.programs, 'xdg-email'), 'w') as file:
+            file.write(f'#!/bin/sh\necho $$ >{noted}.part\nmv {noted}.part {noted}\nexec sleep 60\n')
+        app = self.launch()
+        self.click(app, None, 'Help')
+        self.click(app, None, 'Report Bug')
+        wait_for(lambda: os.path.exists(noted), 'the mail program')
+        self.assertEqual(app.end(), 0)
+        with open(noted) as file:
+            self.assertIsNotNone(executable(int(file.read())))
 
     def test_one_log_viewer_that_ends_with_the_program(self):
         for number, status in ((signal.SIGTERM, 0), (signal.SIGKILL, -signal.SIGKILL)):

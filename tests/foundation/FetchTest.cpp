@@ -126,10 +126,11 @@ QByteArray ok(const QByteArray &headers, const QByteArray &body)
 TEST_F(FetchTest, TakesWholeDocumentsAndNothingElse)
 {
     const QByteArray as(1000, 'a'), line = "X: " + QByteArray(90, 'x') + "\r\n";
-    // As gzip: a thousand a's.
-    const QByteArray zipped = QByteArray::fromBase64("H4sIAAAAAAACA0tMHAWjYBQMdwAAA9o4mugDAAA=");
+    const QByteArray zipped = QByteArray::fromBase64("H4sIAAAAAAACA0tMHAWjYBQMdwAAA9o4mugDAAA=");  // as
+    const QByteArray a = QByteArray::fromBase64("H4sIAAAAAAACA0sEAEO+t+gBAAAA");
     const QString tooLong = u"longer than 1000 bytes"_s, late = u"not complete in time"_s,
-                  headersTooLong = u"the headers are too long"_s;
+                  headersTooLong = u"the headers are too long"_s, cutOff = u"the compressed body is cut off"_s,
+                  unasked = u"the body is encoded in a way that was not asked for"_s;
     const struct {
         const char *name;
         Answer answer;
@@ -143,12 +144,20 @@ TEST_F(FetchTest, TakesWholeDocumentsAndNothingElse)
         {"at the limit", {ok("", as)}, {as, {}}},
         {"over the limit", {ok("", as + "a")}, {{}, tooLong}},
         {"gzip at the limit", {ok("Content-Encoding: gzip\r\n", zipped)}, {as, {}}},
+        {"two gzips", {ok("Content-Encoding: GZIP\r\n", a + a)}, {"aa", {}}},
         {"deflate over the limit", {ok("Content-Encoding: deflate\r\n", qCompress(as + "a").mid(4))}, {{}, tooLong}},
+        {"bare deflate", {ok("Content-Encoding: deflate\r\n", qCompress("ab").mid(6).chopped(4))}, {"ab", {}}},
+        {"cut off gzip", {ok("Content-Encoding: gzip\r\n", zipped.chopped(9))}, {{}, cutOff}},
+        {"gzip without its trailer", {ok("Content-Encoding: gzip\r\n", zipped.chopped(8))}, {{}, cutOff}},
+        {"gzip twice", {ok("Content-Encoding: gzip\r\nContent-Encoding: gzip\r\n", zipped)}, {{}, unasked}},
+        {"unknown encoding", {ok("Content-Encoding: br\r\n", as)}, {{}, unasked}},
+        {"gzip on the way", {ok("Transfer-Encoding: gzip\r\n", zipped)}, {{}, unasked}},
+        {"300", {"HTTP/1.1 300 Multiple\r\nLocation: other\r\n\r\n"}, {{}, u"status 300"_s}},
         {"404", {"HTTP/1.1 404 Not Found\r\nLocation: other\r\n\r\n", Answer::Close, as}, {{}, u"status 404"_s}},
         {"redirect without a place", {"HTTP/1.1 302 Found\r\n\r\n"}, {{}, u"status 302"_s}},
         {"cut off length", {ok("Content-Length: 3\r\n", "ab")}, {{}, u"Transferred a partial file"_s}},
         {"cut off chunks", {ok("Transfer-Encoding: chunked\r\n", "2\r\nab\r\n")}, {{}, u"Transferred a partial"_s}},
-        {"damaged gzip", {ok("Content-Encoding: gzip\r\n", zipped.left(12) + zipped)}, {{}, u"Unrecognized or bad"_s}},
+        {"damaged gzip", {ok("Content-Encoding: gzip\r\n", zipped.left(12) + zipped)}, {{}, u"the compressed body"_s}},
         {"nothing", {""}, {{}, u"Server returned nothing"_s}},
         {"noise", {QByteArray("\x7f\0\xff\r\n\r\n\x01", 8)}, {{}, u"the answer is not HTTP"_s}},
         {"endless header", {"HTTP/1.1 200 OK\r\nX: ", Answer::Close, as}, {{}, headersTooLong}},

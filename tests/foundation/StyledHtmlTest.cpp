@@ -98,6 +98,8 @@ TEST(StyledHtml, KeepsTextsThatWouldBeHardToLayOutShort)
     const QString across = plainText(styledTextFromHtml(QByteArray("<b>aaa</b>aa").repeated(10'000)));
     EXPECT_TRUE(across.size() <= 20'000 && across.size() > 19'900) << across.size();
     EXPECT_EQ(longestWord(across), 200);
+    const StyledText colorful = styledTextFromHtml(QByteArray("<b>a</b>b").repeated(5'000));
+    EXPECT_TRUE(colorful.size() == 2'000 && plainText(colorful).size() > 10'000);
     EXPECT_EQ(plainText(styledTextFromHtml("a" + QByteArray("<br>").repeated(100'000) + "b")).size(), 20'000);
 }
 

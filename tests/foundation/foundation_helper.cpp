@@ -69,6 +69,7 @@ int endWhileWaitedFor(std::unique_ptr<QCoreApplication> application)
     isStarted.acquire();
     QThread::msleep(50);  // so that it is waiting by then
     application.reset();
+    queue::finishGlobal();
     return ran ? 1 : 0;
 }
 

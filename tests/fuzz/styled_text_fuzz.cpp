@@ -18,6 +18,7 @@ bool isHarmless(QChar c)
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
 {
     const StyledText text = styledTextFromHtml(fuzzInput(data, size));
+    require(text.size() <= 2'000);
     qsizetype unbroken = 0;
     for (const StyledRun &run : text) {
         require(!run.text.isEmpty() && run.text.isValidUtf16());

@@ -9,7 +9,15 @@
 #include <QSignalSpy>
 #include <QTemporaryDir>
 
+#include <atomic>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace kestrel {
 
@@ -37,16 +45,19 @@ TEST_F(LogFileTest, FollowsWhateverBecomesOfTheFile)
         const char *name;
         std::function<void()> change;
         QByteArray text;
-        bool isGrowth;
+        int grown = 0, replaced = 0;
         bool isGone = false;
+        LogFile::State state = LogFile::State::Readable;
     } rows[] = {
-        {"appears", [this] { write("one\n"); }, "one\n", false},
-        {"grows", [this] { write("two\n", QIODevice::Append); }, "one\ntwo\n", true},
-        {"written anew, longer", [this] { write("another text\n"); }, "another text\n", false},
-        {"cut short", [this] { QFile::resize(m_path, 7); }, "another", false},
-        {"deleted", [this] { QFile::remove(m_path); }, "another", false, true},
-        {"comes back with the same begin", [this] { write("another one"); }, "another one", false},
-        {"emptied", [this] { write(""); }, "", false},
+        {"appears", [this] { write("one\n"); }, "one\n", 0, 1},
+        {"grows", [this] { write("two\n", QIODevice::Append); }, "one\ntwo\n", 1},
+        {"written anew, longer", [this] { write("another text\n"); }, "another text\n", 0, 1},
+        {"cut short", [this] { QFile::resize(m_path, 7); }, "another", 0, 1},
+        {"deleted", [this] { QFile::remove(m_path); }, "another", 0, 0, true},
+        {"a folder instead", [this] { QDir().mkdir(m_path); }, "another", 0, 0, false, LogFile::State::Unreadable},
+        {"gone as well", [this] { QDir().rmdir(m_path); }, "another", 0, 0, true},
+        {"comes back with the same begin", [this] { write("another one"); }, "another one", 0, 1},
+        {"emptied", [this] { write(""); }, "", 0, 1},
     };
     QSignalSpy grown(&file, &LogFile::grown);
     QSignalSpy replaced(&file, &LogFile::replaced);
@@ -55,18 +66,36 @@ TEST_F(LogFileTest, FollowsWhateverBecomesOfTheFile)
         grown.clear();
         replaced.clear();
         row.change();
-        EXPECT_TRUE(test::waitUntil(
-            [&] { return file.size() == row.text.size() && all(file) == row.text && file.isGone() == row.isGone; }));
-        EXPECT_EQ(grown.size(), row.isGrowth ? 1 : 0);
-        EXPECT_EQ(replaced.size(), row.isGrowth || row.isGone ? 0 : 1);
+        EXPECT_TRUE(test::waitUntil([&] {
+            return file.size() == row.text.size() && all(file) == row.text && file.isGone() == row.isGone &&
+                   file.state() == row.state;
+        }));
+        EXPECT_EQ(grown.size(), row.grown);
+        EXPECT_EQ(replaced.size(), row.replaced);
     }
 }
 
-TEST_F(LogFileTest, FolderIsNoLog)
+TEST_F(LogFileTest, FolderAndPipeAreNoLogs)
 {
-    const LogFile file(m_folder.path());
-    EXPECT_EQ(file.state(), LogFile::State::Unreadable);
-    EXPECT_FALSE(file.error().isEmpty());
+    const QByteArray pipe = QFile::encodeName(m_path);
+    ASSERT_EQ(::mkfifo(pipe.constData(), 0600), 0);
+    std::atomic<bool> hadReader = false;
+    std::thread writer([&] {
+        const int descriptor = ::open(pipe.constData(), O_WRONLY);
+        hadReader = true;
+        ::close(descriptor);
+    });
+    std::this_thread::sleep_for(50ms);  // the writer waits by then
+    for (const QString &path : {m_folder.path(), m_path}) {
+        const LogFile file(path);
+        EXPECT_EQ(file.state(), LogFile::State::Unreadable);
+        EXPECT_FALSE(file.error().isEmpty());
+    }
+    std::this_thread::sleep_for(50ms);
+    EXPECT_FALSE(hadReader);  // and lost it at once, which ends most programs
+    const int reader = ::open(pipe.constData(), O_RDONLY | O_NONBLOCK);
+    writer.join();
+    ::close(reader);
 }
 
 TEST_F(LogFileTest, RowsAreTheSameInBothDirections)
@@ -102,6 +131,12 @@ TEST_F(LogFileTest, RowsAreTheSameInBothDirections)
             backward.prepend(file.read(row->begin, row->end - row->begin));
         EXPECT_EQ(forward, expected);
         EXPECT_EQ(backward, expected);
+
+        ASSERT_TRUE(QFile::resize(m_path, 0));  // which the file does not know yet
+        int count = 0;
+        for (auto row = lines.rowAt(0); row && count < 3; row = lines.rowAfter(*row))
+            ++count;
+        EXPECT_LT(count, 3);
     }
 }
 

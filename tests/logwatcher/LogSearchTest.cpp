@@ -104,6 +104,25 @@ TEST_F(LogSearchTest, FilterKeepsTheNewestRowsAndGainsMore)
     ASSERT_TRUE(test::waitUntil([&] { return !filter.isRunning(); }));
     EXPECT_EQ(rowsOf(file, filter), (QByteArrayList{"key 3", "half a key", "key 5"}));
     EXPECT_EQ(filter.rowBefore(*filter.rowAt(file.size())), filter.rowAtPosition(1));
+
+    QSignalSpy changed(&filter, &LogFilter::changed);
+    write("no\n");
+    file.check();
+    ASSERT_TRUE(test::waitUntil([&] { return !filter.isRunning(); }));
+    EXPECT_EQ(changed.size(), 0);
+    write("key");
+    file.check();
+    ASSERT_TRUE(test::waitUntil([&] { return !filter.isRunning(); }));
+    write(" goes on");
+    file.check();
+    EXPECT_EQ(rowsOf(file, filter).last(), "key goes on");
+
+    filter.setText(u"no"_s);
+    filter.stop();
+    write("\nno");
+    file.check();
+    ASSERT_TRUE(test::waitUntil([&] { return !filter.isRunning(); }));
+    EXPECT_EQ(rowsOf(file, filter), QByteArrayList{"no"});
 }
 
 }  // namespace

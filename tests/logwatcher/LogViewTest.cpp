@@ -68,6 +68,15 @@ TEST(LogViewTest, FollowsScrollsAndSelects)
     view.verticalScrollBar()->setValue(view.verticalScrollBar()->maximum() / 2);
     EXPECT_FALSE(view.isFollowing());
     EXPECT_NEAR(shown().first().mid(4).toInt(), 500, 20);
+
+    // Another text with all its rows at the places of the former.
+    ASSERT_TRUE(disk.seek(0));
+    QByteArray content = disk.readAll();
+    ASSERT_TRUE(disk.seek(0) && disk.write(content.replace("row", "new")) && disk.flush());
+    const QStringList former = shown();
+    file.check();
+    view.refresh();
+    EXPECT_EQ(shown(), QStringList(former).replaceInStrings(u"row"_s, u"new"_s));
 }
 
 }  // namespace

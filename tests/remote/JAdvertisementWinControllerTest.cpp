@@ -16,6 +16,9 @@
 #include <QBuffer>
 #include <QPushButton>
 #include <QTest>
+#include <QtEndian>
+
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +33,37 @@ QByteArray encoded(const QSize &size, const char *format)
     QBuffer buffer;
     image.save(&buffer, format);
     return buffer.data();
+}
+
+/// A chunk of a PNG with 7.9 MB of blanks.
+QByteArray compressedText()
+{
+    QImage image(1, 1, QImage::Format_RGB32);
+    image.setText(u"k"_s, QString(7'900'000, u' '));
+    QBuffer buffer;
+    image.save(&buffer, "PNG");
+    const qsizetype start = buffer.data().indexOf("zTXt") - 4;
+    return buffer.data().mid(start, qFromBigEndian<quint32>(buffer.data().constData() + start) + 12);
+}
+
+/// Its codes of 12 bits stand for longer and longer runs of one pixel: many thousand times as much as it shows.
+QByteArray slowGif()
+{
+    QByteArray codes;
+    quint32 bits = 0;
+    int held = 0, next = 258;
+    for (int i = 0; i < 1'000'000; ++i) {
+        const int code = i == 0 ? 256 : i == 1 ? 0 : std::min(next++, 4095);
+        const int width = next <= 512 ? 9 : next <= 1024 ? 10 : next <= 2048 ? 11 : 12;
+        bits |= quint32(code) << held;
+        for (held += width; held >= 8; held -= 8, bits >>= 8)
+            codes += char(bits);
+    }
+    QByteArray gif = QByteArray::fromHex("4749463839612c01c800f70000") + QByteArray(768, '\0') +
+                     QByteArray::fromHex("2c000000002c01c8000008");
+    for (qsizetype at = 0; at + 255 <= codes.size(); at += 255)
+        gif += '\xFF' + codes.mid(at, 255);
+    return gif;
 }
 
 class JAdvertisementWinControllerTest : public testing::Test {
@@ -113,23 +147,44 @@ TEST_F(JAdvertisementWinControllerTest, OnlyADeclineIsRemembered)
 
 TEST_F(JAdvertisementWinControllerTest, WhatIsNoPictureBecomesTheIcon)
 {
-    const QByteArray png = encoded({300, 200}, "PNG");
+    const QSize icon(128, 128), own(300, 200);
+    const QByteArray png = encoded(own, "PNG"), jpeg = encoded(own, "JPEG");
+    const auto withTexts = [&png, text = compressedText()](int count) {
+        return png.first(33) + text.repeated(count) + png.mid(33);
+    };
+    // A scan that says nothing new is a header and a run of empty blocks.
+    const QByteArray scan = QByteArray::fromHex("ffda0008010100010500") + QByteArray(20, '\0');
+    const QByteArray zeros(15, '\0');
+    const QByteArray frame = QByteArray::fromHex("ffd8ffdb004300") + QByteArray(64, '\1') +
+                             QByteArray::fromHex("ffc2000b081000100001011100ffc400140001") + zeros +
+                             QByteArray::fromHex("00ffc400141001") + zeros +
+                             QByteArray::fromHex("e0ffda0008010100000000");
     const struct {
         const char *name;
         QByteArray data;
-        bool isPicture;
+        QSize size;
     } rows[] = {
-        {"PNG", png, true},
-        {"JPEG", encoded({300, 200}, "JPEG"), true},
-        {"cut off", png.first(60), false},
-        {"none", {}, false},
-        {"another format", encoded({300, 200}, "PPM"), false},
-        {"too wide", encoded({4097, 1}, "PNG"), false},
+        {"PNG", png, own},
+        {"JPEG", jpeg, own},
+        {"JPEG with a comment", jpeg.first(2) + QByteArray::fromHex("fffe0004ffda") + jpeg.mid(2), own},
+        {"cut off", png.first(60), icon},
+        {"none", {}, icon},
+        {"another format", encoded(own, "PPM"), icon},
+        {"large", encoded({2000, 3000}, "JPEG"), {853, 1280}},
+        {"wide", encoded({16'384, 1}, "PNG"), {1280, 1}},
+        {"too wide", encoded({16'385, 1}, "PNG"), icon},
+        {"too many pixels", encoded({16'384, 1025}, "PNG"), icon},
+        {"60 texts of 7.9 MB", withTexts(60), own},
+        {"900 texts of 7.9 MB", withTexts(900), own},
+        {"4,000 scans", frame + scan.repeated(4000), icon},
+        {"slow to unpack", slowGif(), icon},
     };
     for (const auto &row : rows) {
+        const std::clock_t start = std::clock();
         const QImage image = JAdvertisementWinController::imageFromData(row.data);
-        EXPECT_EQ(image.size(), row.isPicture ? QSize(300, 200) : QSize(128, 128)) << row.name;
-        EXPECT_EQ(image.pixelColor(20, 20).green() > 200, row.isPicture) << row.name;
+        EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 2) << row.name;
+        EXPECT_EQ(image.size(), row.size) << row.name;
+        EXPECT_EQ(image.pixelColor(image.rect().center()).green() > 200, row.size != icon) << row.name;
     }
 }
 

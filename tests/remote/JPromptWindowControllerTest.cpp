@@ -22,6 +22,11 @@ using namespace kestrel;
 
 namespace {
 
+struct PromptLinkDelegate final : tarnwell::WebLinkDelegate {
+    QString traceSuffix(const QString &tag) const override { return u"?from="_s + tag; }
+    QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
+};
+
 class JPromptWindowControllerTest : public testing::Test {
 protected:
     std::optional<XMLDictionary> promptFor(const QString &language, const QByteArray &file)
@@ -131,13 +136,15 @@ TEST_F(JPromptWindowControllerTest, LinksOpenAndTheWindowClosesInItsTime)
         "</headerLink><learnMoreLink>https://l.example/</learnMoreLink>");
     tarnwell::JTitledWindow *window = controller->window();
     const auto click = [&](const QString &name) { window->findChild<QPushButton *>(name)->click(); };
-    const QUrl header(u"https://h.example/"_s);
+    PromptLinkDelegate links;
+    const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(links);
+    const QUrl header(u"https://h.example/?from=adui"_s);
     const struct {
         const char *name;
         std::function<void()> close;
         QList<QUrl> opened;
     } rows[] = {
-        {"Learn More", [&] { click(u"learnMoreButton"_s); }, {header, header, QUrl(u"https://l.example/"_s)}},
+        {"Learn More", [&] { click(u"learnMoreButton"_s); }, {header, header, QUrl(u"https://l.example/?from=adui"_s)}},
         {"Cancel", [&] { click(u"cancelButton"_s); }, {header, header}},
         {"Escape", [&] { QTest::keyClick(window, Qt::Key_Escape); }, {header, header}},
         {"close button", [&] { window->performClose(); }, {header, header}},

@@ -3,8 +3,9 @@
 #include <gtest/gtest.h>
 
 #include <QDir>
-#include <QElapsedTimer>
 #include <QJsonDocument>
+
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -90,10 +91,9 @@ TEST(RemoteConfiguration, ReadsHostileOnesQuickly)
         QByteArray(1'000'000, '['), '{' + QByteArray("\"ads\":{},").repeated(100'000) + "\"a\":1}",
         R"({"ads":{"full":{"details":[)" + QByteArray(R"("<b>",)").repeated(160'000) + R"("a"]}}})"};
     for (const QByteArray &body : bodies) {
-        QElapsedTimer timer;
-        timer.start();
+        const std::clock_t start = std::clock();
         EXPECT_TRUE(AppRMConfig::initWithData(body));
-        EXPECT_LT(timer.elapsed(), 2000) << body.left(40).toStdString();
+        EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 2) << body.left(40).toStdString();
     }
 }
 

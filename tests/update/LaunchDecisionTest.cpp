@@ -44,6 +44,7 @@ TEST(LaunchDecision, ShowsAtMostOneWindow)
         {"no promotions", u"1.0"_s, "{}", none, {}, nothing},
         {"no item", u"1.0"_s, R"({"ads": {}})", none, {}, nothing},
         {"shown today", u"1.0"_s, withRate37, shownToday, {}, nothing},
+        {"shown on a later day", u"1.0"_s, withRate37, {u"2024-03-01"_s, {}}, 0, promotion},
         {"below the rate", u"1.0"_s, withRate37, yesterday, 4'294'967'236, promotion},
         {"at the rate", u"1.0"_s, withRate37, none, 137, nothing},
         {"the remembered rate instead", u"1.0"_s, withRate37, remembered(38), 37, promotion},

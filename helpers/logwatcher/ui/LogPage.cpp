@@ -45,11 +45,11 @@ QRgb colorOf(const QString &text)
     return palette::text;
 }
 
-QTextLayout::FormatRange markedRange(int begin, int end, QRgb background, QRgb foreground)
+QTextLayout::FormatRange selectedRange(int begin, int end)
 {
     QTextLayout::FormatRange range{begin, end - begin, {}};
-    range.format.setBackground(QColor(background));
-    range.format.setForeground(QColor(foreground));
+    range.format.setBackground(QColor(palette::accent));
+    range.format.setForeground(QColor(palette::surface));
     return range;
 }
 
@@ -63,6 +63,11 @@ void LogPage::setFont(const QFont &font)
     m_font = font;
     m_rowHeight = int(std::ceil(QFontMetricsF(font).height())) + rowSpacing;
     m_ascent = QFontMetricsF(font).ascent();
+    m_lines.clear();
+}
+
+void LogPage::clear()
+{
     m_lines.clear();
 }
 
@@ -143,19 +148,37 @@ void LogPage::paint(QPainter &painter, const Marks &marks) const
     }
 }
 
+/// The occurrences on screen, as plain grounds for the text: a long row may have thousands, which as formats of its
+/// layout would take seconds.
+void LogPage::paintMarks(QPainter &painter, const Line &line, double y, const QString &text) const
+{
+    if (text.isEmpty())
+        return;
+    const QTextLine shape = line.layout->lineAt(0);
+    const QRectF clip = painter.clipBoundingRect();
+    const qsizetype begin = shape.xToCursor(clip.left());
+    const qsizetype end = shape.xToCursor(clip.right());
+    for (qsizetype i = 0; (i = line.text.text.indexOf(text, i, Qt::CaseInsensitive)) >= 0 && i <= end;
+         i += text.size()) {
+        if (i + text.size() < begin)
+            continue;
+        const double left = shape.cursorToX(int(i));
+        const QRectF ground(left, y + rowSpacing / 2.0, shape.cursorToX(int(i + text.size())) - left,
+                            m_rowHeight - rowSpacing);
+        painter.fillRect(ground, QColor(palette::accentTint));
+        painter.fillRect(ground.adjusted(0, ground.height() - 1, 0, 0), QColor(palette::accent));
+    }
+}
+
 void LogPage::paintLine(QPainter &painter, const Line &line, double y, const Marks &marks) const
 {
+    paintMarks(painter, line, y, marks.text);
     QList<QTextLayout::FormatRange> ranges;
-    const QString &text = line.text.text;
-    if (!marks.text.isEmpty()) {
-        for (qsizetype i = 0; (i = text.indexOf(marks.text, i, Qt::CaseInsensitive)) >= 0; i += marks.text.size())
-            ranges.append(markedRange(int(i), int(i + marks.text.size()), palette::accentTint, palette::accentPressed));
-    }
     const qint64 begin = std::max(marks.begin, line.row.begin);
     const qint64 end = std::min(marks.end, line.row.end);
     if (begin < end)
-        ranges.append(markedRange(line.text.indexOf(begin - line.row.begin), line.text.indexOf(end - line.row.begin),
-                                  palette::accent, palette::surface));
+        ranges.append(
+            selectedRange(line.text.indexOf(begin - line.row.begin), line.text.indexOf(end - line.row.begin)));
     painter.setPen(QColor(line.color));
     // Characters that another font lends may be taller: all rows keep to one grid.
     const QPointF place(0, std::round(y + rowSpacing / 2.0 + m_ascent - line.layout->lineAt(0).ascent()));

@@ -36,6 +36,8 @@ public:
     void setFont(const QFont &font);
     int rowHeight() const { return m_rowHeight; }
 
+    void clear();
+
     /// Lays out `count` rows from `first` on. Those that it has already are kept as they are.
     void fill(const LogFile &file, const LogRows &rows, const std::optional<LogRow> &first, int count);
     const std::vector<Line> &lines() const { return m_lines; }
@@ -51,6 +53,7 @@ public:
 
 private:
     Line lineOf(const LogFile &file, const LogRow &row) const;
+    void paintMarks(QPainter &painter, const Line &line, double y, const QString &text) const;
     void paintLine(QPainter &painter, const Line &line, double y, const Marks &marks) const;
 
     QFont m_font;

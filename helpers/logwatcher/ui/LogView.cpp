@@ -6,6 +6,7 @@
 #include "Palette.h"
 
 #include <QAccessible>
+#include <QApplication>
 #include <QFontDatabase>
 #include <QPainter>
 #include <QScrollBar>
@@ -23,7 +24,6 @@ namespace {
 constexpr int textMarginX = 12;
 constexpr int textMarginY = 6;
 constexpr int fontSize = 12;
-constexpr int rowsAWheelStep = 3;
 constexpr qint64 maximumBarValue = 1 << 30;
 
 QFont logFont()
@@ -57,6 +57,15 @@ LogView::LogView(const LogFile &file, const LogRows &rows, QWidget *parent)
     horizontalScrollBar()->setAccessibleName(tarnwell::AppLocalizedString(u"Scroll sideways"_s));
     verticalScrollBar()->setAccessibleName(tarnwell::AppLocalizedString(u"Scroll up and down"_s));
     setCornerWidget(new QWidget(this));
+    connect(&m_file, &LogFile::replaced, this, &LogView::forget);
+}
+
+/// Rows of another file may stand at the very same places.
+void LogView::forget()
+{
+    m_page.clear();
+    m_widest = 0;
+    select(0, 0);
 }
 
 void LogView::setRows(const LogRows &rows)
@@ -197,7 +206,8 @@ void LogView::wheelEvent(QWheelEvent *event)
         return;
     }
     constexpr double stepAngle = QWheelEvent::DefaultDeltasPerStep;
-    m_wheelRest -= pixels.isNull() ? angle.y() / stepAngle * rowsAWheelStep : double(pixels.y()) / m_page.rowHeight();
+    m_wheelRest -= pixels.isNull() ? angle.y() / stepAngle * QApplication::wheelScrollLines()
+                                   : double(pixels.y()) / m_page.rowHeight();
     const int rows = int(m_wheelRest);
     m_wheelRest -= rows;
     if (rows != 0)

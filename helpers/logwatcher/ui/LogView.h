@@ -18,7 +18,7 @@ public:
     explicit LogView(const LogFile &file, const LogRows &rows, QWidget *parent = nullptr);
 
     void setRows(const LogRows &rows);  ///< the first row on screen stays there as far as it can
-    void refresh();                     ///< the file or the rows have changed
+    void refresh();                     ///< the file, which may be another, or the rows have changed
     void setMarkedText(const QString &text);
 
     bool isFollowing() const { return m_isFollowing; }
@@ -63,6 +63,7 @@ protected:
     void focusOutEvent(QFocusEvent *event) override;
 
 private:
+    void forget();
     int pageRows() const;  ///< that are wholly on screen
     std::optional<LogRow> lastTop() const;
     std::optional<LogRow> movedBy(std::optional<LogRow> row, int rows) const;

@@ -80,8 +80,9 @@ bool LogView::selectWithKey(const QKeyEvent &event)
     const qint64 cursor = movedCursor(event);
     if (cursor < 0)
         return false;
-    select(m_anchor, cursor);
+    // In this order: what is told to assistive programs is a place on screen.
     reveal(cursor, Reveal::Barely);
+    select(m_anchor, cursor);
     return true;
 }
 

@@ -9,6 +9,7 @@
 #include "TranslateControls.h"
 #include "ui_LogWindow.h"
 
+#include <QAccessible>
 #include <QAction>
 #include <QDir>
 #include <QFileDialog>
@@ -113,7 +114,10 @@ void LogWindow::setUpToolBar()
         showNote({});
         markTexts();
     });
-    m_form->searchField->installEventFilter(this);
+    connect(m_form->searchField, &QLineEdit::returnPressed, this, [this] {
+        const bool isShift = QGuiApplication::keyboardModifiers().testFlag(Qt::ShiftModifier);
+        find(isShift ? Direction::Backward : Direction::Forward);
+    });
     connect(m_form->previousButton, &QPushButton::clicked, this, [this] { find(Direction::Backward); });
     connect(m_form->nextButton, &QPushButton::clicked, this, [this] { find(Direction::Forward); });
     m_filterDelay.setSingleShot(true);
@@ -190,7 +194,6 @@ void LogWindow::fileGrown()
 void LogWindow::fileReplaced()
 {
     m_search.stop();
-    m_view->select(0, 0);
     m_filter.fileReplaced();
     m_view->refresh();
     showSize();
@@ -230,17 +233,16 @@ void LogWindow::showSize()
     m_form->sizeLabel->setText(isShown ? sizeText(m_file.size()) : QString());
 }
 
-/// Nothing else to say: the file that is shown.
-void LogWindow::showNote(const QString &note)
-{
-    const bool isShown = m_file.state() == LogFile::State::Readable;
-    showNote(note.isEmpty() && isShown ? QDir::toNativeSeparators(m_file.path()) : note, palette::quietText);
-}
-
+/// Nothing to say: the file that is shown. What is said is read out as well, except for progress.
 void LogWindow::showNote(const QString &note, QRgb color)
 {
+    const bool isShown = m_file.state() == LogFile::State::Readable;
     tarnwell::setTextStyle(m_form->noteLabel, 12, QFont::Normal, color);
-    m_form->noteLabel->setText(note);
+    m_form->noteLabel->setText(note.isEmpty() && isShown ? QDir::toNativeSeparators(m_file.path()) : note);
+    if (note.isEmpty() || isWorking())
+        return;
+    QAccessibleEvent event(m_form->noteLabel, QAccessible::Alert);
+    QAccessible::updateAccessibility(&event);
 }
 
 void LogWindow::find(LogSearch::Direction direction)
@@ -259,8 +261,8 @@ void LogWindow::find(LogSearch::Direction direction)
 
 void LogWindow::showFound(qint64 begin, qint64 length, bool hasWrapped)
 {
-    m_view->select(begin, begin + length);
     m_view->reveal(begin);
+    m_view->select(begin, begin + length);
     if (!hasWrapped)
         showNote({});
     else
@@ -294,7 +296,7 @@ void LogWindow::showFilterNote()
         showNote({});
     else if (m_filter.isCapped())
         showNote(AppLocalizedString(u"Too many lines have this text: the newest %1 are shown."_s).arg(count));
-    else if (m_filter.isRunning())
+    else if (m_filter.isLookingBack())
         showNote(AppLocalizedString(u"Lines with this text: %1, looking for more… %2 % (Esc stops)"_s)
                      .arg(count, QLocale().toString(m_filter.percent())));
     else
@@ -318,28 +320,18 @@ void LogWindow::startCopy(const QString &destination)
         m_copy.start(m_file.bytes(), m_file.size(), destination);
 }
 
-/// Whether there was any under way.
-bool LogWindow::stopWork()
+bool LogWindow::isWorking() const
 {
-    const bool wasBusy = m_search.isRunning() || m_copy.isRunning();
-    m_search.stop();
-    m_copy.giveUp();
-    if (wasBusy)
-        showNote(AppLocalizedString(u"Stopped."_s));
-    return wasBusy;
+    return m_search.isRunning() || m_copy.isRunning() || m_filter.isLookingBack();
 }
 
-bool LogWindow::eventFilter(QObject *watched, QEvent *event)
+void LogWindow::stopWork()
 {
-    if (watched == m_form->searchField && event->type() == QEvent::KeyPress) {
-        const auto *press = static_cast<QKeyEvent *>(event);
-        if (press->key() == Qt::Key_Return || press->key() == Qt::Key_Enter) {
-            find(press->modifiers().testFlag(Qt::ShiftModifier) ? LogSearch::Direction::Backward
-                                                                : LogSearch::Direction::Forward);
-            return true;
-        }
-    }
-    return QMainWindow::eventFilter(watched, event);
+    m_search.stop();
+    m_copy.giveUp();
+    if (m_filter.isLookingBack())
+        m_filter.stop();
+    showNote(AppLocalizedString(u"Stopped."_s));
 }
 
 /// Escape goes back by one step: from work under way, from a field to the log, from the filter to all lines.
@@ -347,8 +339,8 @@ void LogWindow::keyPressEvent(QKeyEvent *event)
 {
     if (event->key() != Qt::Key_Escape)
         QMainWindow::keyPressEvent(event);
-    else if (stopWork())
-        return;
+    else if (isWorking())
+        stopWork();
     else if (!m_view->hasFocus())
         m_view->setFocus();
     else

@@ -4,6 +4,7 @@
 #include "LogFile.h"
 #include "LogFilter.h"
 #include "LogSearch.h"
+#include "Palette.h"
 
 #include <QMainWindow>
 #include <QTimer>
@@ -29,7 +30,6 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
-    bool eventFilter(QObject *watched, QEvent *event) override;
 
 private:
     void setUpLooks();
@@ -41,8 +41,7 @@ private:
     void fileReplaced();
     void showState();
     void showSize();
-    void showNote(const QString &note, QRgb color);
-    void showNote(const QString &note);
+    void showNote(const QString &note, QRgb color = tarnwell::palette::quietText);
 
     void find(LogSearch::Direction direction);
     void showFound(qint64 begin, qint64 length, bool hasWrapped);
@@ -51,7 +50,8 @@ private:
     void showFilterNote();
     void chooseCopy();
     void startCopy(const QString &destination);
-    bool stopWork();
+    bool isWorking() const;
+    void stopWork();
 
     LogFile m_file;
     LogLines m_lines;
