@@ -36,6 +36,8 @@ public:
     qint64 size() const override { return m_bytes.size(); }
     bool seek(qint64 position) override
     {
+        if (position < 0 || position > m_bytes.size())
+            return false;
         m_position = position;
         return QIODevice::seek(position);
     }

@@ -186,6 +186,8 @@ TEST_F(JAdvertisementWinControllerTest, WhatIsNoPictureBecomesTheIcon)
         EXPECT_EQ(image.size(), row.size) << row.name;
         EXPECT_EQ(image.pixelColor(image.rect().center()).green() > 200, row.size != icon) << row.name;
     }
+    const QByteArray pixelsBeforeTheFile = "Qk0qAQAAAQB/AAAABAQEOvr8CxjYAAEAAQAAAAAAEREDCxjYERAR/+E=";
+    EXPECT_FALSE(JAdvertisementWinController::imageFromData(QByteArray::fromBase64(pixelsBeforeTheFile)).isNull());
 }
 
 }  // namespace kestrel
