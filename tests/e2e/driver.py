@@ -88,6 +88,11 @@ class App:
         with open(f'/proc/{self.pid}/status') as file:
             return int(re.search(r'VmHWM:\s*(\d+) kB', file.read())[1]) / 1024
 
+    def is_sanitized(self):
+        """Built with the address sanitizer, which keeps what is freed."""
+        with open(f'/proc/{self.pid}/maps') as file:
+            return 'libasan' in file.read()
+
     def is_running(self):
         if self.status is None:
             ended, status = os.waitpid(self.pid, os.WNOHANG)
