@@ -104,10 +104,10 @@ class ReportsTest(ProgramTest):
             with self.subTest(number):
                 app = self.launch()
                 for _ in range(2):
-                    self.click(app, None, 'Help')
-                    self.click(app, None, 'App Log')
-                    wait_for(lambda: log_viewers(self.desktop.log_path(self.bundle)), 'the log viewer')
+                    self.choose_from_menu(app, 'Help', 'App Log')
+                    wait_for(lambda: len(self.desktop.windows()) == 2, 'the log viewer')
                     self.desktop.launch(self.bundle).wait_for_end()  # brings the program's window to the front again
+                    wait_for(lambda: self.desktop.windows()[-1]['pid'] == app.pid, 'the program in front')
                 self.assertEqual(log_viewers(self.desktop.log_path(self.bundle)), 1)
                 self.assertEqual(app.end(number), status)
                 wait_for(lambda: not log_viewers(self.desktop.log_path(self.bundle)), 'the log viewer to end')
