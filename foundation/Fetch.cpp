@@ -1,5 +1,6 @@
 #include "Fetch.h"
 
+#include "RegularFile.h"
 #include "WebTransfer.h"
 
 #include <QFile>
@@ -7,9 +8,6 @@
 #include <QUrl>
 
 #include <algorithm>
-
-#include <fcntl.h>
-#include <sys/stat.h>
 
 using namespace Qt::StringLiterals;
 
@@ -32,27 +30,14 @@ QUrl parsedAddress(const QString &text)
     return url.isRelative() ? QUrl() : url;
 }
 
-bool isRegularFile(const struct stat &status)
-{
-    return S_ISREG(status.st_mode);
-}
-
 FetchResult readFile(const QUrl &url, qint64 maximumBytes)
 {
     const QString path = url.path(QUrl::FullyDecoded);
     if (!url.host().isEmpty() || !path.startsWith(u'/') || path.contains(QChar::Null))
         return fetchFailure(u"the address is malformed"_s);
-    // Looked at before it is opened, as opening a device may already do something; and after, as it may be another by
-    // then, which must not block.
-    const QByteArray name = QFile::encodeName(path);
-    struct stat status = {};
-    if (::stat(name.constData(), &status) != 0)
-        return fetchFailure(u"there is no such file"_s);
-    const int descriptor =
-        isRegularFile(status) ? ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC) : -1;
+    const int descriptor = openRegularFile(path);
     QFile file;
-    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle) ||
-        ::fstat(descriptor, &status) != 0 || !isRegularFile(status))
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle))
         return fetchFailure(u"not a regular file that can be read"_s);
     const QByteArray body = file.read(maximumBytes + 1);
     if (file.error() != QFile::NoError)

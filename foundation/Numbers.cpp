@@ -18,6 +18,15 @@ qint64 clampedInteger(double value)
     return value <= -0x1p63 ? Limits::min() : qint64(value);
 }
 
+bool booleanText(QStringView text)
+{
+    text = text.trimmed();
+    if (text.startsWith(u'-') || text.startsWith(u'+'))
+        text = text.sliced(1);
+    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c != u'0'; });
+    return first != text.end() && ((*first >= u'1' && *first <= u'9') || QStringView(u"YyTt").contains(*first));
+}
+
 }  // namespace
 
 qint64 lenientInteger(QStringView text)
@@ -38,6 +47,22 @@ qint64 lenientInteger(QStringView text)
     if (negative)
         return value;
     return value == std::numeric_limits<qint64>::min() ? std::numeric_limits<qint64>::max() : -value;
+}
+
+bool booleanValue(const QVariant &value)
+{
+    switch (value.typeId()) {
+        case QMetaType::QString:
+            return booleanText(value.toString());
+        case QMetaType::Bool:
+        case QMetaType::Int:
+        case QMetaType::LongLong:
+        case QMetaType::ULongLong:
+        case QMetaType::Double:
+            return value.toDouble() != 0;
+        default:
+            return false;
+    }
 }
 
 qint64 integerValue(const QVariant &value)

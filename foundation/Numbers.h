@@ -13,4 +13,8 @@ qint64 lenientInteger(QStringView text);
 /// 0 for all else.
 qint64 integerValue(const QVariant &value);
 
+/// The boolean reading, as the platform has it: numbers other than 0 are true, and texts that begin, after blanks, a
+/// sign and zeros, with a digit or with Y, y, T or t.
+bool booleanValue(const QVariant &value);
+
 }  // namespace kestrel::foundation

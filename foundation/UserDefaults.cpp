@@ -117,19 +117,7 @@ QString UserDefaults::stringForKey(const QString &key) const
 
 bool UserDefaults::boolForKey(const QString &key) const
 {
-    const QVariant value = objectForKey(key);
-    switch (value.typeId()) {
-        case QMetaType::Bool:
-            return value.toBool();
-        case QMetaType::LongLong:
-        case QMetaType::ULongLong:
-        case QMetaType::Double:
-            return value.toDouble() != 0;
-        case QMetaType::QString:
-            return QStringList{u"YES"_s, u"true"_s, u"1"_s}.contains(value.toString(), Qt::CaseInsensitive);
-        default:
-            return false;
-    }
+    return booleanValue(objectForKey(key));
 }
 
 qint64 UserDefaults::integerForKey(const QString &key) const

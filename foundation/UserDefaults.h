@@ -32,7 +32,7 @@ public:
 
     QVariant objectForKey(const QString &key) const;  ///< invalid where no layer has it
     QString stringForKey(const QString &key) const;   ///< null where absent or another type
-    bool boolForKey(const QString &key) const;        ///< numbers other than 0 and "YES", "true", "1" are true
+    bool boolForKey(const QString &key) const;        ///< read as Numbers.h has it; false where absent
     /// Numbers are truncated, texts read leniently (Numbers.h); 0 where absent or another type.
     qint64 integerForKey(const QString &key) const;
     QByteArray dataForKey(const QString &key) const;          ///< null where absent or another type

@@ -1,11 +1,10 @@
 #include "UPParser.h"
 
 #include "Color.h"
+#include "Numbers.h"
 #include "PropertyList.h"
 #include "StyledTextBuilder.h"
 #include "VersionOrder.h"
-
-#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -28,31 +27,6 @@ QVariantMap linkIn(const QVariantMap &root, const QString &key, const QString &l
     const QVariantMap links = root.value(key).toMap();
     const QVariant link = links.value(language);
     return (link.typeId() == QMetaType::QVariantMap ? link : links.value(u"en"_s)).toMap();
-}
-
-/// Blanks, a sign and zeros, and then a digit or the first letter of "yes" or "true".
-bool booleanText(QStringView text)
-{
-    text = text.trimmed();
-    if (text.startsWith(u'-') || text.startsWith(u'+'))
-        text = text.sliced(1);
-    const auto first = std::find_if(text.begin(), text.end(), [](QChar c) { return c != u'0'; });
-    return first != text.end() && ((*first >= u'1' && *first <= u'9') || QStringView(u"YyTt").contains(*first));
-}
-
-bool booleanReading(const QVariant &value)
-{
-    switch (foundation::propertyListType(value)) {
-        case foundation::PropertyListType::Boolean:
-        case foundation::PropertyListType::Integer:
-            return value.toBool();
-        case foundation::PropertyListType::Real:
-            return value.toDouble() != 0;
-        case foundation::PropertyListType::String:
-            return booleanText(value.toString());
-        default:
-            return false;
-    }
 }
 
 }  // namespace
@@ -81,7 +55,7 @@ std::shared_ptr<const UPParser> UPParser::initWithXMLURL(const QString &url, con
 
 void UPParser::parseUpgradeConfig(const QVariantMap &root)
 {
-    m_forceUpgrade = booleanReading(root.value(u"ForceAppUpgrade"_s));
+    m_forceUpgrade = foundation::booleanValue(root.value(u"ForceAppUpgrade"_s));
     m_versionFromServer = textIn(root, u"LastestVersion"_s);
     m_buildTimeFromServer = textIn(root, u"BuildDate"_s);
 

@@ -1,6 +1,7 @@
 #include "LogBytes.h"
 
 #include "Localization.h"
+#include "RegularFile.h"
 
 #include <QFile>
 
@@ -8,7 +9,6 @@
 #include <cerrno>
 #include <cstring>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,9 +18,11 @@ namespace kestrel {
 
 namespace {
 
-/// Why the last call failed; empty where there is just no such file.
+/// Why the last file could not be opened; empty where there is just no such file.
 QString lastError()
 {
+    if (errno == EINVAL)
+        return tarnwell::AppLocalizedString(u"This is no text file"_s);
     return errno == ENOENT || errno == ENOTDIR ? QString() : QString::fromLocal8Bit(std::strerror(errno));
 }
 
@@ -28,27 +30,9 @@ QString lastError()
 
 std::shared_ptr<const LogBytes> LogBytes::open(const QString &path, QString &error)
 {
-    error.clear();
-    const QByteArray name = QFile::encodeName(path);
-    struct stat status = {};
-    if (::stat(name.constData(), &status) != 0) {
-        error = lastError();
-        return nullptr;
-    }
-    // Nothing else is opened: who writes into a pipe would be ended by a reader that comes and goes.
-    if (S_ISREG(status.st_mode)) {
-        // It may be a pipe by now: without waiting for its writer.
-        const int descriptor = ::open(name.constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK | O_NOCTTY);
-        if (descriptor < 0) {
-            error = lastError();
-            return nullptr;
-        }
-        std::shared_ptr<const LogBytes> bytes(new LogBytes(descriptor));
-        if (::fstat(descriptor, &status) == 0 && S_ISREG(status.st_mode))
-            return bytes;
-    }
-    error = tarnwell::AppLocalizedString(u"This is no text file"_s);
-    return nullptr;
+    const int descriptor = foundation::openRegularFile(path);
+    error = descriptor < 0 ? lastError() : QString();
+    return descriptor < 0 ? nullptr : std::shared_ptr<const LogBytes>(new LogBytes(descriptor));
 }
 
 LogBytes::~LogBytes()

@@ -5,6 +5,7 @@
 #include "Images.h"
 #include "JTitledWindow.h"
 #include "Log.h"
+#include "RegularFile.h"
 #include "TextStyles.h"
 #include "TranslateControls.h"
 #include "UserDefaults.h"
@@ -13,7 +14,6 @@
 #include "ui_JPromptWindowController.h"
 
 #include <QFile>
-#include <QFileInfo>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -33,9 +33,9 @@ constexpr int promptIconSize = 64;
 /// The whole file, which is meant to be small; null where it cannot be read or is no UTF-8.
 QString promptFileText(const QString &path)
 {
-    QFile file(path);
-    // Only what is a file is opened: others may never come to an end.
-    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+    const int descriptor = foundation::openRegularFile(path);
+    QFile file;
+    if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle)) {
         tarnwell::DNFootLog(u"The prompt file %1 cannot be read"_s, path);
         return {};
     }

@@ -2,6 +2,7 @@
 
 #include "Frames.h"
 #include "Images.h"
+#include "LabelText.h"
 #include "Palette.h"
 #include "ui_AlertPanel.h"
 
@@ -21,6 +22,7 @@ namespace {
 
 constexpr int minimumPanelWidth = 360;
 constexpr int maximumPanelWidth = 520;
+constexpr int longestRun = 40;  ///< paths and addresses have no blanks to wrap at
 
 QString alertImageName(AlertStyle style)
 {
@@ -33,21 +35,6 @@ QString alertImageName(AlertStyle style)
             break;
     }
     return u"alert_question"_s;
-}
-
-/// Paths and addresses have no blanks to wrap at.
-QString wrappable(QString text)
-{
-    constexpr qsizetype longestRun = 40;
-    qsizetype run = 0;
-    for (qsizetype i = 0; i < text.size(); ++i) {
-        run = text.at(i).isSpace() ? 0 : run + 1;
-        if (run > longestRun && !text.at(i).isLowSurrogate()) {
-            text.insert(i, QChar(0x200B));
-            run = 0;
-        }
-    }
-    return text;
 }
 
 /// The widest line of a text that is not wrapped.
@@ -78,8 +65,8 @@ AlertPanel::~AlertPanel() = default;
 
 void AlertPanel::setTexts(const Alert &alert)
 {
-    m_ui->messageLabel->setText(wrappable(alert.message));
-    m_ui->informativeLabel->setText(wrappable(alert.informativeText));
+    m_ui->messageLabel->setText(wrappable(alert.message, longestRun));
+    m_ui->informativeLabel->setText(wrappable(alert.informativeText, longestRun));
     m_ui->informativeLabel->setVisible(!alert.informativeText.isEmpty());
     m_ui->defaultButton->setText(alert.defaultButton);
     m_ui->alternateButton->setText(alert.alternateButton);

@@ -2,6 +2,8 @@
 
 #include "StyledTextBuilder.h"
 
+#include <algorithm>
+
 namespace kestrel::tarnwell {
 
 namespace {
@@ -11,20 +13,29 @@ constexpr QChar wrapPlace(0x200B);
 
 }  // namespace
 
+QString wrappable(const QString &text, int longestRun)
+{
+    QString result;
+    int run = 0;
+    for (const QChar c : text) {
+        run = c.isSpace() || c == wrapPlace ? 0 : run + 1;
+        if (run > longestRun && !c.isLowSurrogate()) {
+            result += wrapPlace;
+            run = 1;
+        }
+        result += c;
+    }
+    return result;
+}
+
 QString labelText(const QString &text, qsizetype maximumLength)
 {
     foundation::StyledTextBuilder harmless;
     harmless.append(QStringView(text).first(qMin(text.size(), maximumLength)), {});
-    QString result;
-    int word = 0;
-    for (const QChar c : foundation::plainText(harmless.text())) {
-        word = c.isSpace() || c == wrapPlace ? 0 : word + 1;
-        if (word > longestWord && !c.isLowSurrogate()) {
-            result += wrapPlace;
-            word = 1;
-        }
-        result += c.isSpace() ? QChar(u' ') : c;
-    }
+    QString result = foundation::plainText(harmless.text());
+    std::replace_if(
+        result.begin(), result.end(), [](QChar c) { return c.isSpace(); }, u' ');
+    result = wrappable(result, longestWord);
     return text.size() > maximumLength ? result + QChar(0x2026) : result;
 }
 
