@@ -1,6 +1,6 @@
 #include "InterfaceLanguage.h"
 
-#include "UserDefaults.h"
+#include "foundation/UserDefaults.h"
 
 #include <algorithm>
 #include <cstdio>

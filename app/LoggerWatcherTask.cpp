@@ -1,7 +1,7 @@
 #include "LoggerWatcherTask.h"
 
-#include "Log.h"
-#include "Processes.h"
+#include "foundation/Processes.h"
+#include "tarnwell/Log.h"
 
 #include <QEventLoop>
 #include <QMutexLocker>

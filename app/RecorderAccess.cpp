@@ -1,8 +1,8 @@
 #include "RecorderAccess.h"
 
-#include "CapturePermission.h"
-#include "Log.h"
-#include "Queues.h"
+#include "foundation/Queues.h"
+#include "helpers/CapturePermission.h"
+#include "tarnwell/Log.h"
 
 #include <QLibrary>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "SystemInformation.h"
+#include "tarnwell/SystemInformation.h"
 
 #include <QString>
 

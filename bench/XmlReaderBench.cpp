@@ -1,6 +1,6 @@
 // A document of 10 MB and 200,000 elements: what the dictionaries cost on top of the bare event parser.
 
-#include "XMLReader2.h"
+#include "support/XMLReader2.h"
 
 #include <benchmark/benchmark.h>
 

@@ -37,12 +37,27 @@ set(KESTREL_BUNDLE_DIR "${CMAKE_BINARY_DIR}/Kestrel.app")
 set(KESTREL_CONTENTS_DIR "${KESTREL_BUNDLE_DIR}/Contents")
 set(KESTREL_RESOURCES_DIR "${KESTREL_CONTENTS_DIR}/Resources")
 
+# kestrel_floor(<target> <INTERFACE|PUBLIC> HEADER…): shows headers of the present folder to who links the target, under the name of
+# their folder: "foundation/Fetch.h". What is not linked cannot be included.
+function(kestrel_floor target scope)
+    set(root "${CMAKE_BINARY_DIR}/floors/${target}")
+    cmake_path(RELATIVE_PATH CMAKE_CURRENT_SOURCE_DIR BASE_DIRECTORY "${CMAKE_SOURCE_DIR}" OUTPUT_VARIABLE floor)
+    file(REMOVE_RECURSE "${root}")
+    foreach(header ${ARGN})
+        cmake_path(GET header PARENT_PATH below)
+        file(MAKE_DIRECTORY "${root}/${floor}/${below}")
+        file(CREATE_LINK "${CMAKE_CURRENT_SOURCE_DIR}/${header}" "${root}/${floor}/${header}" SYMBOLIC)
+    endforeach()
+    target_include_directories(${target} ${scope} "${root}")
+endfunction()
+
 # kestrel_library(<name> SOURCES … [PUBLIC …] [PRIVATE …])
-# The static library of the present folder. Headers are found by their bare name, and only through a link: a target sees the
-# folders that it, or what it links publicly, names.
+# The static library of the present folder, and what of it others may include.
 function(kestrel_library name)
     cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;PUBLIC;PRIVATE")
     add_library(${name} STATIC ${arg_SOURCES})
-    target_include_directories(${name} PUBLIC "${CMAKE_CURRENT_SOURCE_DIR}")
+    set(headers ${arg_SOURCES})
+    list(FILTER headers INCLUDE REGEX "\\.h$")
+    kestrel_floor(${name} PUBLIC ${headers})
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
 endfunction()

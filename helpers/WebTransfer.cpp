@@ -1,4 +1,4 @@
-#include "WebTransfer.h"
+#include "foundation/WebTransfer.h"
 
 #include "WebTransferBody.h"
 #include "WebTransferProxy.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WebTransfer.h"
+#include "foundation/WebTransfer.h"
 
 #include <QNetworkProxy>
 

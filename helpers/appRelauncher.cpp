@@ -1,7 +1,7 @@
 // appRelauncher BUNDLE PID: waits until the process has ended, then opens the bundle.
 
-#include "Bundle.h"
-#include "Processes.h"
+#include "foundation/Bundle.h"
+#include "foundation/Processes.h"
 
 #include <QFile>
 #include <QProcess>

@@ -1,7 +1,7 @@
 #include "ADItem.h"
 
-#include "Numbers.h"
-#include "StyledHtml.h"
+#include "foundation/Numbers.h"
+#include "foundation/ui/StyledHtml.h"
 
 using namespace Qt::StringLiterals;
 

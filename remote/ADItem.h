@@ -1,6 +1,6 @@
 #pragma once
 
-#include "StyledText.h"
+#include "foundation/ui/StyledText.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

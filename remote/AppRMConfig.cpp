@@ -1,6 +1,6 @@
 #include "AppRMConfig.h"
 
-#include "Log.h"
+#include "tarnwell/Log.h"
 
 #include <QJsonDocument>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "AdParser.h"
-#include "AppWndTRButtonConfig.h"
-#include "Fetch.h"
+#include "foundation/Fetch.h"
+#include "tarnwell/AppWndTRButtonConfig.h"
 
 #include <memory>
 

@@ -1,7 +1,7 @@
 #include "Promotion.h"
 
 #include "ADItem.h"
-#include "UserDefaults.h"
+#include "foundation/UserDefaults.h"
 
 #include <limits>
 

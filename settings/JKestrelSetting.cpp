@@ -1,10 +1,10 @@
 #include "JKestrelSetting.h"
 
-#include "Bundle.h"
-#include "Log.h"
-#include "ProductInformation.h"
-#include "SystemInformation.h"
-#include "UserDefaults.h"
+#include "foundation/Bundle.h"
+#include "foundation/UserDefaults.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/SystemInformation.h"
 
 #include <QCryptographicHash>
 #include <QUrl>

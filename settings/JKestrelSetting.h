@@ -1,6 +1,6 @@
 #pragma once
 
-#include "JModuleSettings.h"
+#include "ModuleSettings.h"
 #include "SettingPage.h"
 
 #include <QObject>

@@ -1,7 +1,7 @@
 #include "JSettingBase.h"
 
-#include "Localization.h"
-#include "SystemInformation.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/SystemInformation.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "KeyedArchive.h"
+#include "foundation/KeyedArchive.h"
 
 #include <QObject>
 

@@ -1,7 +1,7 @@
 #include "SettingLists.h"
 
-#include "LanguageTags.h"
-#include "Localization.h"
+#include "foundation/LanguageTags.h"
+#include "tarnwell/Localization.h"
 
 #include <algorithm>
 

@@ -2,7 +2,7 @@
 
 #include "XMLDictionary.h"
 #include "XMLTree.h"
-#include "XmlEventParser.h"
+#include "foundation/XmlEventParser.h"
 
 #include <optional>
 

@@ -1,6 +1,6 @@
 #include "XMLReaderNavigation2.h"
 
-#include "Numbers.h"
+#include "foundation/Numbers.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,7 +4,7 @@
 #include "Folders.h"
 #include "Localization.h"
 #include "Log.h"
-#include "Queues.h"
+#include "foundation/Queues.h"
 
 #include <QCoreApplication>
 #include <QDeadlineTimer>

@@ -1,7 +1,7 @@
 #include "ProductInformation.h"
 
-#include "Bundle.h"
 #include "Installed.h"
+#include "foundation/Bundle.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "SystemInformation.h"
 
 #include "Installed.h"
-#include "StandardFolders.h"
+#include "foundation/StandardFolders.h"
 
 #include <QDir>
 

@@ -1,6 +1,6 @@
 #include "TranscoderCodecs.h"
 
-#include "Processes.h"
+#include "foundation/Processes.h"
 
 #include <QDeadlineTimer>
 #include <QFileInfo>

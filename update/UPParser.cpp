@@ -1,10 +1,10 @@
 #include "UPParser.h"
 
-#include "Color.h"
-#include "Numbers.h"
-#include "PropertyList.h"
-#include "StyledTextBuilder.h"
 #include "VersionOrder.h"
+#include "foundation/Numbers.h"
+#include "foundation/PropertyList.h"
+#include "foundation/ui/Color.h"
+#include "foundation/ui/StyledTextBuilder.h"
 
 using namespace Qt::StringLiterals;
 

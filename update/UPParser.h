@@ -1,8 +1,8 @@
 #pragma once
 
-#include "AppRMConfig.h"
-#include "Fetch.h"
-#include "StyledText.h"
+#include "foundation/Fetch.h"
+#include "foundation/ui/StyledText.h"
+#include "remote/AppRMConfig.h"
 
 #include <QObject>
 #include <QVariantList>

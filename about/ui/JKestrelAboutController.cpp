@@ -1,13 +1,13 @@
 #include "JKestrelAboutController.h"
 
-#include "CopyrightYear.h"
-#include "Images.h"
-#include "JAppleScriptHelper.h"
-#include "Localization.h"
-#include "ProductInformation.h"
-#include "TextStyles.h"
-#include "TranslateControls.h"
-#include "WebPages.h"
+#include "about/CopyrightYear.h"
+#include "tarnwell/JAppleScriptHelper.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/WebPages.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_JKestrelAboutController.h"
 
 using namespace Qt::StringLiterals;
@@ -58,7 +58,7 @@ void JKestrelAboutController::windowDidLoad(QDialog *window)
 void JKestrelAboutController::setup()
 {
     const QString name = tarnwell::GetApplicationName();
-    m_form->appIcon->setPixmap(tarnwell::ApplicationIcon(applicationIconSize, m_form->appIcon->devicePixelRatioF()));
+    m_form->appIcon->setPixmap(tarnwell::applicationIcon(applicationIconSize, m_form->appIcon->devicePixelRatioF()));
     m_form->appIcon->setAccessibleName(name);
     m_form->titleLabel->setText(name);
     m_form->versionLabel->setText(filledIn(AppLocalizedString(u"Version: %@"_s), {tarnwell::GetAppCurrentVersion()}));

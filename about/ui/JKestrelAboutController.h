@@ -1,6 +1,6 @@
 #pragma once
 
-#include "JPresentWindowController.h"
+#include "tarnwell/ui/JPresentWindowController.h"
 
 #include <QDate>
 

@@ -1,15 +1,15 @@
 #include "AppController.h"
 
-#include "Frames.h"
-#include "JKestrelSetting.h"
-#include "JKestrelSettingDispatcher.h"
-#include "JTitledWindow.h"
-#include "LWindowTransitionAnimator.h"
-#include "ProductInformation.h"
-#include "Queues.h"
-#include "UserDefaults.h"
-#include "WebPages.h"
 #include "_JKestrelWindow.h"
+#include "foundation/Queues.h"
+#include "foundation/UserDefaults.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/WebPages.h"
+#include "tarnwell/ui/Frames.h"
+#include "tarnwell/ui/LWindowTransitionAnimator.h"
+#include "tarnwell/ui/TitledWindow.h"
 
 #include <QPointer>
 
@@ -47,7 +47,7 @@ foundation::Rect mainWindowFrame(const foundation::Rect &homeFrame, const founda
 {
     const foundation::Point center = homeFrame.center();
     return {center.x - 0.5 * viewSize.width, center.y - 0.5 * viewSize.height, viewSize.width,
-            viewSize.height + tarnwell::JTitledWindow::defaultTitleBarHeight};
+            viewSize.height + tarnwell::TitledWindow::defaultTitleBarHeight};
 }
 
 AppController::AppController(Surroundings surroundings, QObject *parent)
@@ -67,8 +67,8 @@ AppController::~AppController()
 
 void AppController::applicationWillFinishLaunching()
 {
-    tarnwell::JTitledWindow &window = m_surroundings.mainWindow;
-    window.setButtonVisible(tarnwell::JTitledWindow::WindowButton::Zoom, false);
+    tarnwell::TitledWindow &window = m_surroundings.mainWindow;
+    window.setButtonVisible(tarnwell::TitledWindow::WindowButton::Zoom, false);
     window.setShouldClose([this] { return windowShouldClose(); });
     m_menuController = std::make_unique<KestrelController>();
     m_menuController->makeInit();
@@ -83,9 +83,9 @@ void AppController::applicationDidFinishLaunching()
     m_menuController->window()->center();
     m_menuController->showWindow();
     m_surroundings.mainWindow.setCloseAction([this] { closeSubWindowAction(); });
-    for (tarnwell::JTitledWindow *window :
-         {static_cast<tarnwell::JTitledWindow *>(m_menuController->window()), &m_surroundings.mainWindow}) {
-        connect(window, &tarnwell::JTitledWindow::willClose, this,
+    for (tarnwell::TitledWindow *window :
+         {static_cast<tarnwell::TitledWindow *>(m_menuController->window()), &m_surroundings.mainWindow}) {
+        connect(window, &tarnwell::TitledWindow::willClose, this,
                 [this, window] { subModeWindowWillCloseNotification(window); });
     }
     recordInstalledVersion();
@@ -204,7 +204,7 @@ void AppController::showSubModeHelper(ModuleController *controller)
         removeFromSuperview(m_currentController->view());
     }
     m_currentController = controller;
-    tarnwell::JTitledWindow &window = m_surroundings.mainWindow;
+    tarnwell::TitledWindow &window = m_surroundings.mainWindow;
     QWidget *view = controller->view();
     if (view) {
         view->setParent(window.contentView());
@@ -240,7 +240,7 @@ void AppController::onShowAbout()
         m_surroundings.windows.about(visibleWindow());
 }
 
-tarnwell::JTitledWindow *AppController::visibleWindow() const
+tarnwell::TitledWindow *AppController::visibleWindow() const
 {
     if (m_surroundings.mainWindow.isVisible())
         return &m_surroundings.mainWindow;
@@ -282,7 +282,7 @@ bool AppController::windowShouldClose()
     return m_currentController && m_currentController->shouldTerminate();
 }
 
-void AppController::subModeWindowWillCloseNotification(const tarnwell::JTitledWindow *window)
+void AppController::subModeWindowWillCloseNotification(const tarnwell::TitledWindow *window)
 {
     if (window == m_menuController->window())
         m_surroundings.terminate();

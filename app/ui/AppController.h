@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Geometry.h"
 #include "KestrelController.h"
-#include "Module.h"
+#include "foundation/Geometry.h"
+#include "modules/Module.h"
 
 #include <QObject>
 
@@ -14,7 +14,7 @@ namespace kestrel::foundation {
 class UserDefaults;
 }
 namespace kestrel::tarnwell {
-class JTitledWindow;
+class TitledWindow;
 }
 
 namespace kestrel {
@@ -39,7 +39,7 @@ class AppController : public QObject, public AppMainMenuControllerDelegate {
     Q_OBJECT
 public:
     struct Surroundings {
-        tarnwell::JTitledWindow &mainWindow;
+        tarnwell::TitledWindow &mainWindow;
         JKestrelSetting &setting;
         foundation::UserDefaults &defaults;
         ModuleFactories modules;
@@ -75,9 +75,9 @@ public:
     void showProperTip();
     void closeSubWindowAction();
     bool windowShouldClose();
-    void subModeWindowWillCloseNotification(const tarnwell::JTitledWindow *window);
+    void subModeWindowWillCloseNotification(const tarnwell::TitledWindow *window);
 
-    tarnwell::JTitledWindow *mainWindow() const { return &m_surroundings.mainWindow; }
+    tarnwell::TitledWindow *mainWindow() const { return &m_surroundings.mainWindow; }
     KestrelController *menuController() const { return m_menuController.get(); }
     ModuleController *converterController() const { return m_modules[Converter].controller.get(); }
     ModuleController *ripperController() const { return m_modules[Ripper].controller.get(); }
@@ -110,7 +110,7 @@ private:
     void showSubModeHelper(ModuleController *controller);
     void setWindowTitle(const QString &text);
     void recordInstalledVersion();
-    tarnwell::JTitledWindow *visibleWindow() const;
+    tarnwell::TitledWindow *visibleWindow() const;
 
     Surroundings m_surroundings;
     std::unique_ptr<KestrelController> m_menuController;

@@ -1,21 +1,21 @@
 #include "AppDelegate.h"
 
-#include "Alerts.h"
-#include "Bundle.h"
-#include "InterfaceLanguage.h"
-#include "JKestrelSetting.h"
-#include "JTitledWindow.h"
-#include "JTooltipController.h"
-#include "LanguageTags.h"
-#include "Localization.h"
-#include "Log.h"
-#include "LoggerWatcherTask.h"
-#include "NotificationCenter.h"
-#include "ProductInformation.h"
-#include "Queues.h"
-#include "SystemInformation.h"
-#include "UserDefaults.h"
 #include "_JKestrelWindow.h"
+#include "app/InterfaceLanguage.h"
+#include "app/LoggerWatcherTask.h"
+#include "foundation/Bundle.h"
+#include "foundation/LanguageTags.h"
+#include "foundation/NotificationCenter.h"
+#include "foundation/Queues.h"
+#include "foundation/UserDefaults.h"
+#include "settings/JKestrelSetting.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/SystemInformation.h"
+#include "tarnwell/ui/JTooltipController.h"
+#include "tarnwell/ui/TitledWindow.h"
 
 #include <QActionGroup>
 #include <QApplication>
@@ -52,7 +52,7 @@ tarnwell::AlertAnswer askOkOrCancel(const QString &message, const QString &infor
 
 AppDelegate::AppDelegate(Surroundings surroundings)
     : m_surroundings(std::move(surroundings)),
-      m_window(std::make_unique<tarnwell::JTitledWindow>()),
+      m_window(std::make_unique<tarnwell::TitledWindow>()),
       m_appController(std::make_unique<AppController>(AppController::Surroundings{
           *m_window, m_surroundings.setting, m_surroundings.defaults, std::move(m_surroundings.modules),
           m_surroundings.windows, m_surroundings.terminate}))

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "AppController.h"
-#include "AppWndTRButtonConfig.h"
-#include "Fetch.h"
 #include "MainMenu.h"
-#include "WebPages.h"
+#include "foundation/Fetch.h"
+#include "tarnwell/AppWndTRButtonConfig.h"
+#include "tarnwell/WebPages.h"
 
 #include <QDate>
 #include <QObject>
@@ -51,7 +51,7 @@ public:
     explicit AppDelegate(Surroundings surroundings);
     ~AppDelegate() override;
 
-    tarnwell::JTitledWindow *window() const { return m_window.get(); }
+    tarnwell::TitledWindow *window() const { return m_window.get(); }
     AppController *appController() const { return m_appController.get(); }
     MainMenu &mainMenu() { return m_mainMenu; }
     /// The update descriptor of this run; null until it has been fetched, and where that failed.
@@ -114,7 +114,7 @@ private:
     void fetchPromotion(const std::shared_ptr<const UPParser> &descriptor, const QString &today);
 
     Surroundings m_surroundings;
-    std::unique_ptr<tarnwell::JTitledWindow> m_window;
+    std::unique_ptr<tarnwell::TitledWindow> m_window;
     MainMenu m_mainMenu;
     std::unique_ptr<AppController> m_appController;
     std::shared_ptr<const UPParser> m_upConfigure;

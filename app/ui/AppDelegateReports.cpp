@@ -1,13 +1,13 @@
-#include "Alerts.h"
 #include "AppDelegate.h"
-#include "Bundle.h"
-#include "JAppleScriptHelper.h"
-#include "Localization.h"
-#include "Log.h"
-#include "LoggerWatcherTask.h"
-#include "ProductInformation.h"
-#include "Queues.h"
-#include "UserDefaults.h"
+#include "app/LoggerWatcherTask.h"
+#include "foundation/Bundle.h"
+#include "foundation/Queues.h"
+#include "foundation/UserDefaults.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/JAppleScriptHelper.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -4,7 +4,7 @@ namespace kestrel {
 
 void JFeedbackButton::onMouseEnterExit(bool entered)
 {
-    JHoverButton::onMouseEnterExit(entered);
+    HoverButton::onMouseEnterExit(entered);
     if (!m_target)
         return;
     if (entered)

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "JHoverButton.h"
+#include "tarnwell/ui/HoverButton.h"
 
 namespace kestrel {
 
@@ -15,10 +15,10 @@ public:
 };
 
 /// A hover button that reports the pointer's coming and going to its target.
-class JFeedbackButton : public tarnwell::JHoverButton {
+class JFeedbackButton : public tarnwell::HoverButton {
     Q_OBJECT
 public:
-    using JHoverButton::JHoverButton;
+    using HoverButton::HoverButton;
 
     /// `target` outlives the button's events, or is taken away with null.
     void setTarget(FeedbackButtonTarget *target) { m_target = target; }

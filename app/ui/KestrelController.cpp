@@ -1,16 +1,16 @@
 #include "KestrelController.h"
 
-#include "Alerts.h"
-#include "Bundle.h"
-#include "Color.h"
-#include "Frames.h"
-#include "HomeTexts.h"
-#include "Images.h"
-#include "Localization.h"
-#include "ProductInformation.h"
-#include "RecorderAccess.h"
-#include "TranslateControls.h"
 #include "_JKestrelWindow.h"
+#include "app/HomeTexts.h"
+#include "app/RecorderAccess.h"
+#include "foundation/Bundle.h"
+#include "foundation/ui/Color.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/ui/Frames.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_KestrelController.h"
 
 #include <QPainter>
@@ -117,7 +117,7 @@ void KestrelController::windowDidLoad()
                    {m_ui->settingButton, u"kestrel_setting", &KestrelController::onSettingAction},
                    {m_ui->aboutButton, u"kestrel_about", &KestrelController::onAboutAction}};
     for (const auto &[button, image, action] : buttons) {
-        button->setIcon(tarnwell::IconNamed(QString::fromUtf16(image)));
+        button->setIcon(tarnwell::namedIcon(QString::fromUtf16(image)));
         connect(button, &QAbstractButton::clicked, this, action);
     }
     for (const ModuleButton &module : m_modules)
@@ -137,7 +137,7 @@ void KestrelController::windowDidLoad()
         view->setFont(font);
     }
 
-    m_window->setButtonVisible(tarnwell::JTitledWindow::WindowButton::Zoom, false);
+    m_window->setButtonVisible(tarnwell::TitledWindow::WindowButton::Zoom, false);
     onButtonMouseExit(nullptr);
     makeBackgroundLayers();
     for (const ModuleButton &module : m_modules) {
@@ -175,7 +175,7 @@ void KestrelController::makeBackgroundLayers()
 void KestrelController::paintDiscsIntoBackground()
 {
     const qreal scale = m_window->devicePixelRatioF();
-    QPixmap picture = tarnwell::ImageNamed(u"kestrel_bg"_s, scale);
+    QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, scale);
     if (picture.isNull())
         return;
     const QPixmap disc = discImage(picture.devicePixelRatio());

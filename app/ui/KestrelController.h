@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ImageLayer.h"
 #include "JFeedbackButton.h"
+#include "tarnwell/ui/ImageLayer.h"
 
 #include <QObject>
 

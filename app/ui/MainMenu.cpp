@@ -1,7 +1,7 @@
 #include "MainMenu.h"
 
-#include "JTitledWindow.h"
-#include "Localization.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/TitledWindow.h"
 
 #include <QApplication>
 
@@ -54,7 +54,7 @@ MainMenu::MainMenu()
          Qt::CTRL | Qt::Key_M},
         {QT_TRANSLATE_NOOP("TarnwellPublic", "Close"),
          [] {
-             if (auto *active = qobject_cast<tarnwell::JTitledWindow *>(QApplication::activeWindow()))
+             if (auto *active = qobject_cast<tarnwell::TitledWindow *>(QApplication::activeWindow()))
                  active->performClose();
          },
          QKeySequence::Close}};

@@ -1,7 +1,7 @@
 #include "TextField.h"
 
-#include "HomeTexts.h"
-#include "Palette.h"
+#include "app/HomeTexts.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QPainter>
 

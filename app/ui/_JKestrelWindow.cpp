@@ -1,7 +1,7 @@
 #include "_JKestrelWindow.h"
 
-#include "Images.h"
-#include "WindowTitleBar.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/WindowTitleBar.h"
 
 #include <QPainter>
 
@@ -12,7 +12,7 @@ namespace kestrel {
 void _JKestrelTitleView::paintEvent(QPaintEvent *)
 {
     constexpr double stripHeight = 22;
-    const QPixmap picture = tarnwell::ImageNamed(u"kestrel_bg"_s, devicePixelRatioF());
+    const QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, devicePixelRatioF());
     const double ratio = picture.devicePixelRatio();
     QPainter(this).drawPixmap(QRectF(rect()), picture, QRectF(0, 0, picture.width(), stripHeight * ratio));
 }

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "JTitledWindow.h"
-#include "SystemInformation.h"
+#include "tarnwell/SystemInformation.h"
+#include "tarnwell/ui/TitledWindow.h"
 
 #include <optional>
 
@@ -19,10 +19,10 @@ protected:
 };
 
 /// The home window: its title bar carries the background picture and never a title; it moves by dragging it anywhere.
-class _JKestrelWindow : public tarnwell::JTitledWindow {
+class _JKestrelWindow : public tarnwell::TitledWindow {
     Q_OBJECT
 public:
-    using JTitledWindow::JTitledWindow;
+    using TitledWindow::TitledWindow;
 
     /// In points: 30 from system version 10.16 on, else 22, also where the version is not known.
     static double titleBarHeightFor(const std::optional<tarnwell::SystemVersion> &version);

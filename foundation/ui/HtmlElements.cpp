@@ -2,7 +2,7 @@
 
 #include "Color.h"
 #include "HtmlTokenizer.h"
-#include "Numbers.h"
+#include "foundation/Numbers.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "LogBytes.h"
 
-#include "Localization.h"
-#include "RegularFile.h"
+#include "foundation/RegularFile.h"
+#include "tarnwell/Localization.h"
 
 #include <QFile>
 

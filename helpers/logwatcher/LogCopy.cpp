@@ -1,8 +1,8 @@
 #include "LogCopy.h"
 
-#include "Localization.h"
 #include "LogBytes.h"
-#include "Queues.h"
+#include "foundation/Queues.h"
+#include "tarnwell/Localization.h"
 
 #include <QSaveFile>
 

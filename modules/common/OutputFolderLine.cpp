@@ -1,10 +1,10 @@
 #include "OutputFolderLine.h"
 
-#include "Folders.h"
-#include "Images.h"
-#include "JKestrelSettingDispatcher.h"
-#include "NotificationCenter.h"
-#include "TextStyles.h"
+#include "foundation/NotificationCenter.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/Folders.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TextStyles.h"
 #include "ui_OutputFolderLine.h"
 
 #include <QDir>
@@ -16,7 +16,7 @@ namespace kestrel {
 OutputFolderLine::OutputFolderLine(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::OutputFolderLine>())
 {
     m_form->setupUi(this);
-    m_form->openFolderButton->setIcon(tarnwell::IconNamed(u"marlin_folder"_s));
+    m_form->openFolderButton->setIcon(tarnwell::namedIcon(u"marlin_folder"_s));
     tarnwell::setTextStyle(m_form->folderCaption, 13, QFont::Normal, tarnwell::palette::quietText);
     connect(m_form->openFolderButton, &QPushButton::clicked, this, &OutputFolderLine::openFolder);
     foundation::NotificationCenter::defaultCenter().addObserver(

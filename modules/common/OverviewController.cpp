@@ -1,7 +1,7 @@
 #include "OverviewController.h"
 
-#include "Localization.h"
 #include "OverviewView.h"
+#include "tarnwell/Localization.h"
 
 namespace kestrel {
 

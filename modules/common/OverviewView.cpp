@@ -1,10 +1,10 @@
 #include "OverviewView.h"
 
-#include "Images.h"
-#include "Localization.h"
 #include "OverviewController.h"
-#include "TextStyles.h"
-#include "TranslateControls.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_OverviewView.h"
 
 using namespace Qt::StringLiterals;
@@ -29,7 +29,7 @@ OverviewView::OverviewView(const ModuleOverview &overview, std::shared_ptr<JKest
     tarnwell::setTextStyle(m_form->headlineLabel, 18, QFont::Bold, palette::title);
     tarnwell::setTextStyle(m_form->comingLabel, 13, QFont::Normal, palette::quietText);
     m_form->picture->setImageName(QString::fromLatin1(overview.image));
-    m_form->backButton->setIcon(tarnwell::IconNamed(u"module_back"_s));
+    m_form->backButton->setIcon(tarnwell::namedIcon(u"module_back"_s));
     m_form->outputFolder->setDispatcher(std::move(dispatcher));
     connect(m_form->backButton, &QPushButton::clicked, this, &OverviewView::backClicked);
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "OverviewController.h"
+#include "modules/common/OverviewController.h"
 
 namespace kestrel {
 

@@ -1,8 +1,8 @@
 #include "ConversionJob.h"
 
-#include "Log.h"
-#include "Processes.h"
-#include "Queues.h"
+#include "foundation/Processes.h"
+#include "foundation/Queues.h"
+#include "tarnwell/Log.h"
 
 #include <QFileInfo>
 #include <QPointer>

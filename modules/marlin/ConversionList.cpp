@@ -1,8 +1,8 @@
 #include "ConversionList.h"
 
-#include "HoverText.h"
-#include "Localization.h"
 #include "TranscodeProgress.h"
+#include "tarnwell/HoverText.h"
+#include "tarnwell/Localization.h"
 
 #include <QFileInfo>
 

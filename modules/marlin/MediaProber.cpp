@@ -1,7 +1,7 @@
 #include "MediaProber.h"
 
-#include "Processes.h"
-#include "Queues.h"
+#include "foundation/Processes.h"
+#include "foundation/Queues.h"
 
 #include <QFileInfo>
 #include <QPointer>

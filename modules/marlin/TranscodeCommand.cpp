@@ -1,7 +1,7 @@
 #include "TranscodeCommand.h"
 
-#include "JKestrelSettingDispatcher.h"
-#include "SystemInformation.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/SystemInformation.h"
 
 #include <QtGlobal>
 

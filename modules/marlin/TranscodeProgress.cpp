@@ -1,6 +1,6 @@
 #include "TranscodeProgress.h"
 
-#include "Localization.h"
+#include "tarnwell/Localization.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
 #include "FittedImageView.h"
 
-#include "Images.h"
+#include "tarnwell/ui/Images.h"
 
 #include <QPainter>
 

@@ -1,15 +1,15 @@
 #include "JAdvertisementWinController.h"
 
-#include "Frames.h"
-#include "HoverText.h"
-#include "Images.h"
-#include "JTitledWindow.h"
-#include "LabelText.h"
-#include "ProductInformation.h"
-#include "Promotion.h"
-#include "PromotionPicture.h"
-#include "TextStyles.h"
-#include "WebPages.h"
+#include "remote/Promotion.h"
+#include "remote/PromotionPicture.h"
+#include "tarnwell/HoverText.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/WebPages.h"
+#include "tarnwell/ui/Frames.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/LabelText.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TitledWindow.h"
 #include "ui_JAdvertisementWinController.h"
 
 #include <QGuiApplication>
@@ -57,7 +57,7 @@ QImage JAdvertisementWinController::imageFromData(const QByteArray &data)
 {
     if (const QImage picture = promotionPicture(data); !picture.isNull())
         return picture;
-    return tarnwell::ApplicationIcon(pictureIconSize, qGuiApp->devicePixelRatio()).toImage();
+    return tarnwell::applicationIcon(pictureIconSize, qGuiApp->devicePixelRatio()).toImage();
 }
 
 void JAdvertisementWinController::ShowAdvertisement(const std::optional<ADItem> &item, const QByteArray &data,
@@ -75,10 +75,10 @@ JAdvertisementWinController::JAdvertisementWinController(foundation::UserDefault
 
 JAdvertisementWinController::~JAdvertisementWinController() = default;
 
-tarnwell::JTitledWindow *JAdvertisementWinController::window()
+tarnwell::TitledWindow *JAdvertisementWinController::window()
 {
     if (!m_window) {
-        m_window = std::make_unique<tarnwell::JTitledWindow>();
+        m_window = std::make_unique<tarnwell::TitledWindow>();
         windowDidLoad();
     }
     return m_window.get();
@@ -92,7 +92,7 @@ void JAdvertisementWinController::showPrompt()
 
 void JAdvertisementWinController::windowDidLoad()
 {
-    using Button = tarnwell::JTitledWindow::WindowButton;
+    using Button = tarnwell::TitledWindow::WindowButton;
     m_form = std::make_unique<Ui::JAdvertisementWinController>();
     m_form->setupUi(m_window->contentView());
     m_window->setFrame({0, 0, advertisementSize.width(), advertisementSize.height()});

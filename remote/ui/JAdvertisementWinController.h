@@ -1,7 +1,7 @@
 #pragma once
 
-#include "ADItem.h"
-#include "ModalSession.h"
+#include "remote/ADItem.h"
+#include "tarnwell/ui/ModalSession.h"
 
 #include <QImage>
 #include <QObject>
@@ -41,7 +41,7 @@ public:
     QImage myImage() const { return m_myImage; }
     void setMyImage(const QImage &image) { m_myImage = image; }
 
-    tarnwell::JTitledWindow *window();  ///< made on first use
+    tarnwell::TitledWindow *window();  ///< made on first use
     /// Shows the window in the middle of the screen and returns when it is closed.
     void showPrompt();
 
@@ -57,7 +57,7 @@ private:
     foundation::UserDefaults &m_defaults;
     std::optional<ADItem> m_myItem;
     QImage m_myImage;
-    std::unique_ptr<tarnwell::JTitledWindow> m_window;
+    std::unique_ptr<tarnwell::TitledWindow> m_window;
     std::unique_ptr<Ui::JAdvertisementWinController> m_form;
     tarnwell::ModalSession m_session;
 };

@@ -1,16 +1,16 @@
 #include "JPromptWindowController.h"
 
-#include "Bundle.h"
-#include "HoverText.h"
-#include "Images.h"
-#include "JTitledWindow.h"
-#include "Log.h"
-#include "RegularFile.h"
-#include "TextStyles.h"
-#include "TranslateControls.h"
-#include "UserDefaults.h"
-#include "WebPages.h"
-#include "XMLReader2.h"
+#include "foundation/Bundle.h"
+#include "foundation/RegularFile.h"
+#include "foundation/UserDefaults.h"
+#include "support/XMLReader2.h"
+#include "tarnwell/HoverText.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/WebPages.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_JPromptWindowController.h"
 
 #include <QFile>
@@ -87,10 +87,10 @@ std::optional<XMLDictionary> JPromptWindowController::GetCurrentLanSpecial(const
     return prompts ? childOf(*prompts, language) : std::nullopt;
 }
 
-tarnwell::JTitledWindow *JPromptWindowController::window()
+tarnwell::TitledWindow *JPromptWindowController::window()
 {
     if (!m_window) {
-        m_window = std::make_unique<tarnwell::JTitledWindow>();
+        m_window = std::make_unique<tarnwell::TitledWindow>();
         windowDidLoad();
     }
     return m_window.get();
@@ -104,7 +104,7 @@ void JPromptWindowController::showPrompt()
 
 void JPromptWindowController::windowDidLoad()
 {
-    using Button = tarnwell::JTitledWindow::WindowButton;
+    using Button = tarnwell::TitledWindow::WindowButton;
     m_window->setWindowTitle(tarnwell::GetApplicationName());
     m_window->setButtonVisible(Button::Minimize, false);
     m_window->setButtonVisible(Button::Zoom, false);
@@ -116,7 +116,7 @@ void JPromptWindowController::windowDidLoad()
     tarnwell::setTextStyle(m_form->headerLabel, 18, QFont::Bold, tarnwell::palette::title);
     tarnwell::setTextStyle(m_form->headerDetailLabel, 13, QFont::Normal, tarnwell::palette::quietText);
     tarnwell::setTextStyle(m_form->introTitleLabel, 15, QFont::Bold, tarnwell::palette::title);
-    m_form->appIconImageView->setPixmap(tarnwell::ApplicationIcon(promptIconSize, m_window->devicePixelRatioF()));
+    m_form->appIconImageView->setPixmap(tarnwell::applicationIcon(promptIconSize, m_window->devicePixelRatioF()));
     setTexts();
     fitHeight();
     connect(m_form->headerButton, &QPushButton::clicked, this, &JPromptWindowController::onHeaderAciton);
@@ -144,7 +144,7 @@ void JPromptWindowController::fitHeight()
     const int height = std::min(textHeight, maximumTextHeight) + m_form->buttonsView->sizeHint().height();
     // A stop of the keyboard only where its arrows have something to move.
     m_form->textsArea->setFocusPolicy(textHeight > maximumTextHeight ? Qt::TabFocus : Qt::NoFocus);
-    m_window->setFrame({0, 0, promptWidth, height + tarnwell::JTitledWindow::defaultTitleBarHeight});
+    m_window->setFrame({0, 0, promptWidth, height + tarnwell::TitledWindow::defaultTitleBarHeight});
 }
 
 QString JPromptWindowController::promptText(const QString &element) const

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ModalSession.h"
-#include "ProductInformation.h"
-#include "XMLDictionary.h"
+#include "support/XMLDictionary.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/ui/ModalSession.h"
 
 #include <QObject>
 
@@ -38,7 +38,7 @@ public:
     const std::optional<XMLDictionary> &myPrompt() const { return m_myPrompt; }
     void setMyPrompt(const std::optional<XMLDictionary> &prompt) { m_myPrompt = prompt; }
 
-    tarnwell::JTitledWindow *window();  ///< made on first use
+    tarnwell::TitledWindow *window();  ///< made on first use
     /// Shows the window in the middle of the screen and returns when it was closed by "Learn More", "Cancel" or Escape.
     void showPrompt();
 
@@ -55,7 +55,7 @@ private:
     void fitHeight();
     QString promptText(const QString &element) const;
 
-    std::unique_ptr<tarnwell::JTitledWindow> m_window;
+    std::unique_ptr<tarnwell::TitledWindow> m_window;
     std::unique_ptr<Ui::JPromptWindowController> m_form;
     tarnwell::ModalSession m_session;
     std::optional<XMLDictionary> m_myPrompt;

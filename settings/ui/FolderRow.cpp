@@ -1,7 +1,7 @@
 #include "FolderRow.h"
 
-#include "Localization.h"
-#include "TextStyles.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/TextStyles.h"
 #include "ui_FolderRow.h"
 
 #include <QDir>

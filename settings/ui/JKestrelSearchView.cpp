@@ -1,6 +1,6 @@
 #include "JKestrelSearchView.h"
 
-#include "Palette.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

@@ -1,13 +1,13 @@
 #include "JKestrelSettingController.h"
 
 #include "FolderRow.h"
-#include "Folders.h"
-#include "JKestrelSetting.h"
-#include "JKestrelSettingDispatcher.h"
 #include "KeyPathBinder.h"
-#include "NXHardwareInfoController.h"
-#include "NotificationCenter.h"
-#include "SettingLists.h"
+#include "foundation/NotificationCenter.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "settings/SettingLists.h"
+#include "tarnwell/Folders.h"
+#include "tarnwell/ui/NXHardwareInfoController.h"
 #include "ui_JKestrelSettingController.h"
 
 using namespace Qt::StringLiterals;

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "JPresentWindowController.h"
-#include "JSuggestionsSearchField.h"
-#include "SettingPage.h"
+#include "settings/SettingPage.h"
+#include "tarnwell/ui/JPresentWindowController.h"
+#include "tarnwell/ui/JSuggestionsSearchField.h"
 
 #include <QPropertyAnimation>
 

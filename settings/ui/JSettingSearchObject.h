@@ -1,6 +1,6 @@
 #pragma once
 
-#include "JSuggestionsSearchField.h"
+#include "tarnwell/ui/JSuggestionsSearchField.h"
 
 namespace kestrel {
 

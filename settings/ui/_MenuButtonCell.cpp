@@ -1,6 +1,6 @@
 #include "_MenuButtonCell.h"
 
-#include "Palette.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QPainter>
 

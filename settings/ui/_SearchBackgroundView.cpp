@@ -1,7 +1,7 @@
 #include "_SearchBackgroundView.h"
 
-#include "Images.h"
-#include "Palette.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QApplication>
 #include <QPainter>
@@ -35,7 +35,7 @@ void _SearchBackgroundView::paintEvent(QPaintEvent *)
     painter.drawRoundedRect(capsule.adjusted(inset, inset, -inset, -inset), radius - inset, radius - inset);
     painter.restore();
 
-    const QPixmap image = tarnwell::ImageNamed(u"kestrel_set_search"_s, devicePixelRatioF());
+    const QPixmap image = tarnwell::namedImage(u"kestrel_set_search"_s, devicePixelRatioF());
     const double top = 0.5 * (height() - image.deviceIndependentSize().height());
     tarnwell::drawCrisp(painter, QPointF(width() - imageOffset, top), image);
 }

@@ -1,6 +1,6 @@
 #include "_SettingCheckButtonCell.h"
 
-#include "TextStyles.h"
+#include "tarnwell/ui/TextStyles.h"
 
 namespace kestrel {
 

@@ -53,7 +53,7 @@ AlertPanel::AlertPanel(const Alert &alert)
 {
     m_ui->setupUi(this);
     setTexts(alert);
-    const QPixmap icon = ImageNamed(alertImageName(alert.style), devicePixelRatioF());
+    const QPixmap icon = namedImage(alertImageName(alert.style), devicePixelRatioF());
     m_ui->iconLabel->setPixmap(icon);
     connect(m_ui->defaultButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_ui->alternateButton, &QPushButton::clicked, this, &QDialog::reject);

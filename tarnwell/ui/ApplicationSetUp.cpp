@@ -1,7 +1,7 @@
 #include "ApplicationSetUp.h"
 
-#include "Bundle.h"
-#include "ProductInformation.h"
+#include "foundation/Bundle.h"
+#include "tarnwell/ProductInformation.h"
 
 #include <QApplication>
 #include <QIcon>

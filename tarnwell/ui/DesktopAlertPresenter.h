@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Alerts.h"
+#include "tarnwell/Alerts.h"
 
 namespace kestrel::tarnwell {
 

@@ -1,6 +1,6 @@
 #include "DesktopFolderPanel.h"
 
-#include "Localization.h"
+#include "tarnwell/Localization.h"
 
 #include <QFileDialog>
 

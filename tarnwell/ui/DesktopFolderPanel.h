@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Folders.h"
+#include "tarnwell/Folders.h"
 
 namespace kestrel::tarnwell {
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "WebPages.h"
+#include "tarnwell/WebPages.h"
 
 namespace kestrel::tarnwell {
 

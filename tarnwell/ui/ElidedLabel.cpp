@@ -1,6 +1,6 @@
 #include "ElidedLabel.h"
 
-#include "HoverText.h"
+#include "tarnwell/HoverText.h"
 
 #include <QHelpEvent>
 #include <QPainter>

@@ -47,7 +47,7 @@ void ImageLayer::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
-    const QPixmap image = ImageNamed(m_imageName, devicePixelRatioF());
+    const QPixmap image = namedImage(m_imageName, devicePixelRatioF());
     painter.drawPixmap(m_place.translated(-pos()), image, image.rect().toRectF());
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Geometry.h"
+#include "foundation/Geometry.h"
 
 #include <QVariantAnimation>
 #include <QWidget>

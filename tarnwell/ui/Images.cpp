@@ -1,8 +1,8 @@
 #include "Images.h"
 
-#include "Bundle.h"
-#include "Log.h"
-#include "ProductInformation.h"
+#include "foundation/Bundle.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
 
 #include <QCoreApplication>
 #include <QHash>
@@ -62,19 +62,19 @@ public:
     /// `size` is in device pixels; the icon sets the scale of the result.
     QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State) override
     {
-        const QSizeF points = ImageNamed(m_name, 1).deviceIndependentSize();
+        const QSizeF points = namedImage(m_name, 1).deviceIndependentSize();
         return points.isEmpty() ? QPixmap() : pixmapOf(size, size.width() / points.width(), mode);
     }
 
     QIconEngine *clone() const override { return new NamedIconEngine(*this); }
     QString iconName() override { return m_name; }
-    bool isNull() override { return ImageNamed(m_name, 1).isNull(); }
-    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {ImageNamed(m_name, 1).size()}; }
+    bool isNull() override { return namedImage(m_name, 1).isNull(); }
+    QList<QSize> availableSizes(QIcon::Mode, QIcon::State) override { return {namedImage(m_name, 1).size()}; }
 
 private:
     QPixmap pixmapOf(const QSize &pixels, qreal scale, QIcon::Mode mode) const
     {
-        QPixmap image = ImageNamed(m_name, scale);
+        QPixmap image = namedImage(m_name, scale);
         if (image.isNull())
             return image;
         const qreal ratio = std::min(scale, image.devicePixelRatio());
@@ -103,12 +103,12 @@ private:
 
 }  // namespace
 
-QString ImagePathNamed(const QString &name, qreal scale)
+QString namedImagePath(const QString &name, qreal scale)
 {
     return productBundle().resource("images/"_L1 + name + QLatin1StringView(renderingFor(scale).suffix) + ".png"_L1);
 }
 
-QPixmap ImageNamed(const QString &name, qreal scale)
+QPixmap namedImage(const QString &name, qreal scale)
 {
     if (name.isEmpty())
         return {};
@@ -117,19 +117,19 @@ QPixmap ImageNamed(const QString &name, qreal scale)
         qAddPostRoutine([] { images.clear(); });  // pixmaps need the application object
         return true;
     }();
-    const QString path = ImagePathNamed(name, scale);
+    const QString path = namedImagePath(name, scale);
     auto image = images.constFind(path);
     if (image == images.cend())
         image = images.insert(path, readImage(path, renderingFor(scale).scale));
     return *image;
 }
 
-QIcon IconNamed(const QString &name)
+QIcon namedIcon(const QString &name)
 {
     return QIcon(new NamedIconEngine(name));
 }
 
-QPixmap ApplicationIcon(int size, qreal scale)
+QPixmap applicationIcon(int size, qreal scale)
 {
     QIcon icon(productBundle().resource(u"Kestrel.icns"_s));
     if (icon.availableSizes().isEmpty())

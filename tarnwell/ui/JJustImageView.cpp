@@ -20,13 +20,13 @@ void JJustImageView::setImageName(const QString &name)
 
 QSize JJustImageView::sizeHint() const
 {
-    return ImageNamed(m_imageName, devicePixelRatioF()).deviceIndependentSize().toSize();
+    return namedImage(m_imageName, devicePixelRatioF()).deviceIndependentSize().toSize();
 }
 
 void JJustImageView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QPixmap image = ImageNamed(m_imageName, devicePixelRatioF());
+    const QPixmap image = namedImage(m_imageName, devicePixelRatioF());
     const QSizeF size = image.deviceIndependentSize();
     drawCrisp(painter, QPointF(width() - size.width(), height() - size.height()) / 2, image);
 }

@@ -1,8 +1,8 @@
 #include "JPresentWindowController.h"
 
 #include "Frames.h"
-#include "JTitledWindow.h"
 #include "Palette.h"
+#include "TitledWindow.h"
 
 #include <QDialog>
 #include <QEvent>
@@ -45,7 +45,7 @@ private:
 
 const QWidget *contentOf(const QWidget *window)
 {
-    const auto *titledWindow = qobject_cast<const JTitledWindow *>(window);
+    const auto *titledWindow = qobject_cast<const TitledWindow *>(window);
     return titledWindow ? titledWindow->contentView() : window;
 }
 

@@ -1,7 +1,7 @@
 #include "LWindowTransitionAnimator.h"
 
 #include "Motion.h"
-#include "Queues.h"
+#include "foundation/Queues.h"
 
 #include <QCoreApplication>
 #include <QEvent>

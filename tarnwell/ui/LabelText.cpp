@@ -1,6 +1,6 @@
 #include "LabelText.h"
 
-#include "StyledTextBuilder.h"
+#include "foundation/ui/StyledTextBuilder.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #include "ModalSession.h"
 
-#include "JTitledWindow.h"
+#include "TitledWindow.h"
 
 #include <QApplication>
 #include <QShortcut>
@@ -14,7 +14,7 @@ namespace {
 constexpr std::chrono::milliseconds newWindowTime{300};  ///< after which a window manager has placed a window
 
 /// The window that the session blocks first of all; null where none is on screen.
-QWindow *windowBeneath(const JTitledWindow &window)
+QWindow *windowBeneath(const TitledWindow &window)
 {
     if (const QWidget *active = QApplication::activeWindow(); active && active != &window)
         return active->windowHandle();
@@ -24,7 +24,7 @@ QWindow *windowBeneath(const JTitledWindow &window)
     return nullptr;
 }
 
-void orderFront(JTitledWindow &window)
+void orderFront(TitledWindow &window)
 {
     const bool hasKeyboard = QGuiApplication::applicationState() == Qt::ApplicationActive;
     window.setAttribute(Qt::WA_ShowWithoutActivating, !hasKeyboard);
@@ -46,7 +46,7 @@ void orderFront(JTitledWindow &window)
 
 }  // namespace
 
-void ModalSession::run(JTitledWindow &window, std::function<void()> cancel)
+void ModalSession::run(TitledWindow &window, std::function<void()> cancel)
 {
     m_window = &window;
     // Only a dialog is kept over the window beneath it.
@@ -57,7 +57,7 @@ void ModalSession::run(JTitledWindow &window, std::function<void()> cancel)
     QEventLoop loop;
     m_loop = &loop;
     // Closed by whatever closes all windows, it has no modal session to be in.
-    QObject::connect(&window, &JTitledWindow::willClose, &loop, &QEventLoop::quit);
+    QObject::connect(&window, &TitledWindow::willClose, &loop, &QEventLoop::quit);
     orderFront(window);
     loop.exec();
     m_loop = nullptr;

@@ -6,7 +6,7 @@
 
 namespace kestrel::tarnwell {
 
-class JTitledWindow;
+class TitledWindow;
 
 /// Runs a window as the application's modal window, while the event loop goes on. The window comes to the front; it
 /// takes the keyboard only where the application has it already. Main thread only.
@@ -14,13 +14,13 @@ class ModalSession {
 public:
     /// Shows the window and returns when the session is stopped or the application ends; the window is hidden then.
     /// `cancel` is what Escape, the window's close button and the desktop's ways to close a window do.
-    void run(JTitledWindow &window, std::function<void()> cancel);
+    void run(TitledWindow &window, std::function<void()> cancel);
 
     /// Hides the window and lets `run` return. Nothing where none runs.
     void stop();
 
 private:
-    JTitledWindow *m_window = nullptr;
+    TitledWindow *m_window = nullptr;
     QEventLoop *m_loop = nullptr;
 };
 

@@ -1,6 +1,6 @@
 #include "Motion.h"
 
-#include "StandardFolders.h"
+#include "foundation/StandardFolders.h"
 
 #include <QFile>
 

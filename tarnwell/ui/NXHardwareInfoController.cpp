@@ -1,9 +1,9 @@
 #include "NXHardwareInfoController.h"
 
-#include "Queues.h"
 #include "TextStyles.h"
-#include "TranscoderCodecs.h"
 #include "TranslateControls.h"
+#include "foundation/Queues.h"
+#include "tarnwell/TranscoderCodecs.h"
 #include "ui_NXHardwareInfoController.h"
 
 #include <QClipboard>

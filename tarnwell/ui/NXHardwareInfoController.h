@@ -1,7 +1,7 @@
 #pragma once
 
-#include "HardwareInformation.h"
 #include "JPresentWindowController.h"
+#include "tarnwell/HardwareInformation.h"
 
 namespace Ui {
 class NXHardwareInfoController;

@@ -1,7 +1,7 @@
 #include "SuggestionList.h"
 
-#include "Localization.h"
 #include "Palette.h"
+#include "tarnwell/Localization.h"
 
 #include <QAccessibleWidget>
 #include <QMouseEvent>

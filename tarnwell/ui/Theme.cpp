@@ -215,7 +215,7 @@ QString houseStyleSheet(qreal scale)
     for (const auto &[name, color] : namedColors)
         sheet.replace(name, QColor(color).name());
     for (const QString &image : {u"combo_arrow"_s, u"check"_s}) {
-        QString path = ImagePathNamed(image, scale);
+        QString path = namedImagePath(image, scale);
         path.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s);
         sheet.replace(u'<' + image + u'>', path);
     }

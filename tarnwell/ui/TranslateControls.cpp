@@ -1,6 +1,6 @@
 #include "TranslateControls.h"
 
-#include "Localization.h"
+#include "tarnwell/Localization.h"
 
 #include <QLabel>
 #include <QVariant>

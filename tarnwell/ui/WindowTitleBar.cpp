@@ -1,9 +1,9 @@
 #include "WindowTitleBar.h"
 
+#include "HoverButton.h"
 #include "Images.h"
-#include "JHoverButton.h"
-#include "Localization.h"
 #include "Palette.h"
+#include "tarnwell/Localization.h"
 
 #include <QEvent>
 #include <QMenuBar>
@@ -41,7 +41,7 @@ WindowTitleBar::WindowTitleBar(QWidget *window) : QWidget(window)
 {
     for (size_t i = 0; i < m_buttons.size(); ++i) {
         const TitleBarButton &row = titleBarButtons[i];
-        auto *button = new JHoverButton(this);
+        auto *button = new HoverButton(this);
         button->setObjectName(QLatin1StringView(row.objectName));
         button->setAccessibleName(AppLocalizedString(QLatin1StringView(row.text)));
         button->setImageNamed(QLatin1StringView(row.image), QLatin1StringView(row.hoverImage));
@@ -57,7 +57,7 @@ void WindowTitleBar::setImageNames(const QString &background, const QString &tit
     update();
 }
 
-void WindowTitleBar::setButtonVisible(JTitledWindow::WindowButton which, bool visible)
+void WindowTitleBar::setButtonVisible(TitledWindow::WindowButton which, bool visible)
 {
     button(which)->setVisible(visible);
     layOut();
@@ -104,7 +104,7 @@ bool WindowTitleBar::event(QEvent *event)
 void WindowTitleBar::layOut()
 {
     int x = barMargin;
-    for (JHoverButton *button : m_buttons) {
+    for (HoverButton *button : m_buttons) {
         if (button->isHidden())
             continue;
         button->setGeometry(x, (height() - buttonExtent) / 2, buttonExtent, buttonExtent);
@@ -132,7 +132,7 @@ void WindowTitleBar::paintEvent(QPaintEvent *)
 
 void WindowTitleBar::paintBackground(QPainter &painter)
 {
-    if (const QPixmap image = ImageNamed(m_backgroundName, devicePixelRatioF()); !image.isNull()) {
+    if (const QPixmap image = namedImage(m_backgroundName, devicePixelRatioF()); !image.isNull()) {
         painter.drawPixmap(rect(), image);
         return;
     }
@@ -145,7 +145,7 @@ void WindowTitleBar::paintTitle(QPainter &painter)
     if (window()->windowTitle().isEmpty())
         return;
     const auto shown =
-        std::count_if(m_buttons.begin(), m_buttons.end(), [](const JHoverButton *b) { return !b->isHidden(); });
+        std::count_if(m_buttons.begin(), m_buttons.end(), [](const HoverButton *b) { return !b->isHidden(); });
     int left = barMargin + buttonExtent * int(shown) + titleSpacing;
     if (m_menuBar && m_menuBar->isVisible())
         left = m_menuBar->geometry().right() + 1 + titleSpacing;
@@ -155,7 +155,7 @@ void WindowTitleBar::paintTitle(QPainter &painter)
     // In the middle of the window while that keeps clear of the menus.
     const int x = std::max(left, std::min((width() - textWidth) / 2, width() - titleSpacing - textWidth));
 
-    if (const QPixmap plate = ImageNamed(m_titleBackgroundName, devicePixelRatioF()); !plate.isNull()) {
+    if (const QPixmap plate = namedImage(m_titleBackgroundName, devicePixelRatioF()); !plate.isNull()) {
         const QSizeF size = plate.deviceIndependentSize();
         const qreal plateWidth = std::max<qreal>(size.width(), textWidth + 4 * titleSpacing);
         const QRectF place(x + (textWidth - plateWidth) / 2, (height() - size.height()) / 2, plateWidth, size.height());

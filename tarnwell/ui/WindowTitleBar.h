@@ -1,6 +1,6 @@
 #pragma once
 
-#include "JTitledWindow.h"
+#include "TitledWindow.h"
 
 #include <array>
 
@@ -8,18 +8,18 @@ class QMenuBar;
 
 namespace kestrel::tarnwell {
 
-class JHoverButton;
+class HoverButton;
 
-/// The bar at the top of a `JTitledWindow`: its buttons, the menus, and the window's title in the middle of what is
+/// The bar at the top of a `TitledWindow`: its buttons, the menus, and the window's title in the middle of what is
 /// left, elided. What the buttons do is the window's.
 class WindowTitleBar : public QWidget {
     Q_OBJECT
 public:
     explicit WindowTitleBar(QWidget *window);
 
-    JHoverButton *button(JTitledWindow::WindowButton button) const { return m_buttons[size_t(button)]; }
+    HoverButton *button(TitledWindow::WindowButton button) const { return m_buttons[size_t(button)]; }
 
-    void setButtonVisible(JTitledWindow::WindowButton button, bool visible);
+    void setButtonVisible(TitledWindow::WindowButton button, bool visible);
 
     /// An image stretched across the bar, and one that stands behind the title. Null names take them away.
     void setImageNames(const QString &background, const QString &titleBackground);
@@ -37,7 +37,7 @@ private:
     void paintBackground(QPainter &painter);
     void paintTitle(QPainter &painter);
 
-    std::array<JHoverButton *, 3> m_buttons{};
+    std::array<HoverButton *, 3> m_buttons{};
     QString m_backgroundName;
     QString m_titleBackgroundName;
     QWidget *m_backgroundView = nullptr;

@@ -1,10 +1,10 @@
-#include "JKestrelAboutController.h"
+#include "about/ui/JKestrelAboutController.h"
 
-#include "CopyrightYear.h"
-#include "Frames.h"
-#include "ProductFolder.h"
-#include "RecordingMailProgram.h"
-#include "TestDesktop.h"
+#include "about/CopyrightYear.h"
+#include "tarnwell/ui/Frames.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/RecordingMailProgram.h"
+#include "tests/support/TestDesktop.h"
 
 #include <gtest/gtest.h>
 

@@ -1,15 +1,15 @@
-#include "AppController.h"
+#include "app/ui/AppController.h"
 
-#include "JKestrelSetting.h"
-#include "JKestrelSettingDispatcher.h"
-#include "JTitledWindow.h"
-#include "LWindowTransitionAnimator.h"
-#include "ProductFolder.h"
 #include "RecordingModule.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
-#include "UserDefaults.h"
-#include "_JKestrelWindow.h"
+#include "app/ui/_JKestrelWindow.h"
+#include "foundation/UserDefaults.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/ui/LWindowTransitionAnimator.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 
@@ -54,7 +54,7 @@ protected:
     test::ProductFolder m_product{test::productInformation()};
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults};
-    tarnwell::JTitledWindow m_window;
+    tarnwell::TitledWindow m_window;
     QStringList m_messages;
     QWidget *m_presentedOver = nullptr;
 };
@@ -68,7 +68,7 @@ protected:
         m_host->applicationDidFinishLaunching();
         messages();
     }
-    tarnwell::JTitledWindow &home() { return *m_host->menuController()->window(); }
+    tarnwell::TitledWindow &home() { return *m_host->menuController()->window(); }
     void open(void (AppController::*opener)())
     {
         (m_host.get()->*opener)();

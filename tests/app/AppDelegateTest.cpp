@@ -1,16 +1,16 @@
-#include "AppDelegate.h"
+#include "app/ui/AppDelegate.h"
 
-#include "JKestrelSetting.h"
-#include "JTitledWindow.h"
-#include "Log.h"
-#include "LoggerWatcherTask.h"
-#include "NotificationCenter.h"
-#include "ProductFolder.h"
-#include "RecordingMailProgram.h"
 #include "RecordingModule.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
-#include "UserDefaults.h"
+#include "app/LoggerWatcherTask.h"
+#include "foundation/NotificationCenter.h"
+#include "foundation/UserDefaults.h"
+#include "settings/JKestrelSetting.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/RecordingMailProgram.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

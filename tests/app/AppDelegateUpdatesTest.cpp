@@ -1,16 +1,16 @@
-#include "AppDelegate.h"
+#include "app/ui/AppDelegate.h"
 
-#include "JKestrelSetting.h"
-#include "JTitledWindow.h"
-#include "NotificationCenter.h"
-#include "Notifications.h"
-#include "ProductFolder.h"
-#include "PropertyList.h"
-#include "Queues.h"
 #include "RecordingModule.h"
-#include "TestDesktop.h"
-#include "UPParser.h"
-#include "UserDefaults.h"
+#include "foundation/NotificationCenter.h"
+#include "foundation/PropertyList.h"
+#include "foundation/Queues.h"
+#include "foundation/UserDefaults.h"
+#include "settings/JKestrelSetting.h"
+#include "tarnwell/Notifications.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/TestDesktop.h"
+#include "update/UPParser.h"
 
 #include <gtest/gtest.h>
 
@@ -110,7 +110,7 @@ protected:
 
     void closeWindow()
     {
-        auto *modal = qobject_cast<tarnwell::JTitledWindow *>(QApplication::activeModalWidget());
+        auto *modal = qobject_cast<tarnwell::TitledWindow *>(QApplication::activeModalWidget());
         const auto *views = modal ? modal->findChild<QStackedWidget *>(u"upgradeContentView"_s) : nullptr;
         if (!modal || (views && views->currentWidget()->objectName() == "progressView"_L1))
             return;

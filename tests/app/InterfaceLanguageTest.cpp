@@ -1,6 +1,6 @@
-#include "InterfaceLanguage.h"
+#include "app/InterfaceLanguage.h"
 
-#include "UserDefaults.h"
+#include "foundation/UserDefaults.h"
 
 #include <gtest/gtest.h>
 

@@ -1,12 +1,12 @@
-#include "KestrelController.h"
+#include "app/ui/KestrelController.h"
 
-#include "Log.h"
-#include "ProductFolder.h"
-#include "RecorderAccess.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
-#include "TextField.h"
-#include "_JKestrelWindow.h"
+#include "app/RecorderAccess.h"
+#include "app/ui/TextField.h"
+#include "app/ui/_JKestrelWindow.h"
+#include "tarnwell/Log.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "CapturePermission.h"
+#include "helpers/CapturePermission.h"
 
 #include <cstdlib>
 #include <thread>

@@ -1,13 +1,13 @@
 // kestrel_show_prompt BUNDLE LANGUAGE: shows the prompt of a bundle in one language, until it is closed.
 
-#include "Bundle.h"
-#include "DesktopWebOpener.h"
-#include "Installed.h"
-#include "JPromptWindowController.h"
-#include "JTitledWindow.h"
-#include "Localization.h"
-#include "Theme.h"
-#include "UserDefaults.h"
+#include "foundation/Bundle.h"
+#include "foundation/UserDefaults.h"
+#include "remote/ui/JPromptWindowController.h"
+#include "tarnwell/Installed.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/DesktopWebOpener.h"
+#include "tarnwell/ui/Theme.h"
+#include "tarnwell/ui/TitledWindow.h"
 
 #include <QApplication>
 #include <QTemporaryDir>

@@ -1,6 +1,6 @@
-#include "LanguageTags.h"
-#include "Queues.h"
-#include "TestEnvironment.h"
+#include "foundation/LanguageTags.h"
+#include "foundation/Queues.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "Fetch.h"
+#include "foundation/Fetch.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "KeyedArchive.h"
+#include "foundation/KeyedArchive.h"
 
-#include "PropertyList.h"
+#include "foundation/PropertyList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "PropertyList.h"
+#include "foundation/PropertyList.h"
 
-#include "KeyedArchive.h"
+#include "foundation/KeyedArchive.h"
 
 #include <gtest/gtest.h>
 

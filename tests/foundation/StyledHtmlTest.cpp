@@ -1,4 +1,4 @@
-#include "StyledHtml.h"
+#include "foundation/ui/StyledHtml.h"
 
 #include <gtest/gtest.h>
 

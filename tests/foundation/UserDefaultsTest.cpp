@@ -1,6 +1,6 @@
-#include "UserDefaults.h"
+#include "foundation/UserDefaults.h"
 
-#include "PropertyList.h"
+#include "foundation/PropertyList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
 // What the tests need another process for: to write at the same time, to be killed, to end. The first argument names
 // the task.
 
-#include "Queues.h"
-#include "UserDefaults.h"
+#include "foundation/Queues.h"
+#include "foundation/UserDefaults.h"
 
 #include <QCoreApplication>
 #include <QSemaphore>

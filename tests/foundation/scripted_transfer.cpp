@@ -1,7 +1,7 @@
 // A transfer library without a network: every address is redirected to what its query says, and without one is the
 // document.
 
-#include "WebTransfer.h"
+#include "foundation/WebTransfer.h"
 
 using namespace kestrel::foundation;
 

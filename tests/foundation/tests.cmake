@@ -11,8 +11,7 @@ target_compile_definitions(kestrel_foundation_tests PRIVATE KESTREL_TEST_HELPER=
 
 # The transfer library, and one without a network.
 add_library(kestrel_scripted_transfer MODULE foundation/scripted_transfer.cpp)
-target_include_directories(kestrel_scripted_transfer PRIVATE "${CMAKE_SOURCE_DIR}/foundation")
-target_link_libraries(kestrel_scripted_transfer PRIVATE Qt6::Core)
+target_link_libraries(kestrel_scripted_transfer PRIVATE kestrel_web_transfer_api Qt6::Core)
 add_dependencies(kestrel_foundation_tests kestrel_scripted_transfer WebTransfer)
 target_compile_definitions(kestrel_foundation_tests PRIVATE
     KESTREL_SCRIPTED_TRANSFER="$<TARGET_FILE:kestrel_scripted_transfer>"

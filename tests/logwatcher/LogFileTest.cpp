@@ -1,8 +1,8 @@
-#include "LogCopy.h"
-#include "LogFile.h"
-#include "LogRows.h"
-#include "LogText.h"
-#include "TestEnvironment.h"
+#include "helpers/logwatcher/LogCopy.h"
+#include "helpers/logwatcher/LogFile.h"
+#include "helpers/logwatcher/LogRows.h"
+#include "helpers/logwatcher/LogText.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "LogFile.h"
-#include "LogFilter.h"
-#include "LogSearch.h"
-#include "TestEnvironment.h"
+#include "helpers/logwatcher/LogFile.h"
+#include "helpers/logwatcher/LogFilter.h"
+#include "helpers/logwatcher/LogSearch.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "LogFile.h"
-#include "LogView.h"
+#include "helpers/logwatcher/LogFile.h"
+#include "helpers/logwatcher/ui/LogView.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
-#include "ConversionQueue.h"
-#include "MediaProber.h"
 #include "ModuleSettings.h"
-#include "TestEnvironment.h"
+#include "modules/marlin/ConversionQueue.h"
+#include "modules/marlin/MediaProber.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

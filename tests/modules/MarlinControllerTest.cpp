@@ -1,8 +1,8 @@
-#include "MarlinController.h"
-#include "MarlinView.h"
 #include "ModuleSettings.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
+#include "modules/marlin/ui/MarlinController.h"
+#include "modules/marlin/ui/MarlinView.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

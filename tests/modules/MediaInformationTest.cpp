@@ -1,4 +1,4 @@
-#include "MediaInformation.h"
+#include "modules/marlin/MediaInformation.h"
 
 #include <gtest/gtest.h>
 

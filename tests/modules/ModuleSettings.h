@@ -1,11 +1,11 @@
 #pragma once
 
-#include "Bundle.h"
-#include "Installed.h"
-#include "JKestrelSetting.h"
-#include "JKestrelSettingDispatcher.h"
-#include "Module.h"
-#include "UserDefaults.h"
+#include "foundation/Bundle.h"
+#include "foundation/UserDefaults.h"
+#include "modules/Module.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/Installed.h"
 
 #include <QTemporaryDir>
 

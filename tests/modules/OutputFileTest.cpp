@@ -1,5 +1,5 @@
 #include "ModuleSettings.h"
-#include "OutputFile.h"
+#include "modules/marlin/OutputFile.h"
 
 #include <gtest/gtest.h>
 

@@ -1,8 +1,8 @@
-#include "HeronController.h"
 #include "ModuleSettings.h"
-#include "NotificationCenter.h"
-#include "PetrelController.h"
-#include "PloversController.h"
+#include "foundation/NotificationCenter.h"
+#include "modules/heron/HeronController.h"
+#include "modules/petrel/PetrelController.h"
+#include "modules/plover/PloversController.h"
 
 #include <gtest/gtest.h>
 

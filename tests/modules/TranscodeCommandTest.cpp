@@ -1,7 +1,6 @@
-#include "JModuleSettings.h"
 #include "ModuleSettings.h"
-#include "SystemInformation.h"
-#include "TranscodeCommand.h"
+#include "modules/marlin/TranscodeCommand.h"
+#include "tarnwell/SystemInformation.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "TranscodeFailure.h"
-#include "TranscodeProgress.h"
+#include "modules/marlin/TranscodeFailure.h"
+#include "modules/marlin/TranscodeProgress.h"
 
 #include <gtest/gtest.h>
 

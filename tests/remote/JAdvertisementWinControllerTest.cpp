@@ -1,14 +1,14 @@
-#include "JAdvertisementWinController.h"
+#include "remote/ui/JAdvertisementWinController.h"
 
-#include "Frames.h"
-#include "JTitledWindow.h"
-#include "ProductFolder.h"
-#include "Promotion.h"
-#include "Queues.h"
-#include "StyledTextView.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
-#include "UserDefaults.h"
+#include "foundation/Queues.h"
+#include "foundation/UserDefaults.h"
+#include "remote/Promotion.h"
+#include "tarnwell/ui/Frames.h"
+#include "tarnwell/ui/StyledTextView.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 
@@ -88,7 +88,7 @@ TEST_F(JAdvertisementWinControllerTest, ButtonsKeepTheirPlaces)
         JAdvertisementWinController controller(m_defaults);
         const QString title(length, u'M');
         controller.setMyItem(ADItem::initWithDictionary({{u"button"_s, title}, {u"label"_s, u"R&D"_s}}));
-        tarnwell::JTitledWindow *window = controller.window();
+        tarnwell::TitledWindow *window = controller.window();
         const auto *left = window->findChild<QPushButton *>(u"myLeftButton"_s);
         const auto *right = window->findChild<QPushButton *>(u"myRightButton"_s);
         const foundation::Rect leftFrame = tarnwell::viewFrame(left);
@@ -116,7 +116,7 @@ TEST_F(JAdvertisementWinControllerTest, OnlyADeclineIsRemembered)
         {"accept", [](QWidget *w) { w->findChild<QPushButton *>(u"myRightButton"_s)->click(); }, page, 1, true},
         {"no page", [](QWidget *w) { w->findChild<QPushButton *>(u"myRightButton"_s)->click(); }, {}, 1, false},
         {"decline", [](QWidget *w) { w->findChild<QPushButton *>(u"myLeftButton"_s)->click(); }, page, 2, false},
-        {"close", [](QWidget *w) { static_cast<tarnwell::JTitledWindow *>(w)->performClose(); }, page, 1, false},
+        {"close", [](QWidget *w) { static_cast<tarnwell::TitledWindow *>(w)->performClose(); }, page, 1, false},
         {"Escape", [](QWidget *w) { QTest::keyClick(w, Qt::Key_Escape); }, page, 1, false},
         {"beyond the limit", {}, page, 9, false},
     };

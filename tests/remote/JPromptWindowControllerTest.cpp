@@ -1,11 +1,11 @@
-#include "Bundle.h"
-#include "JPromptWindowController.h"
-#include "JTitledWindow.h"
-#include "ProductFolder.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
-#include "UserDefaults.h"
-#include "XMLReaderNavigation2.h"
+#include "foundation/Bundle.h"
+#include "foundation/UserDefaults.h"
+#include "remote/ui/JPromptWindowController.h"
+#include "support/XMLReaderNavigation2.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <QFile>
 #include <QLabel>
@@ -115,7 +115,7 @@ TEST_F(JPromptWindowControllerTest, LongTextsCanBeReadToTheirEnd)
     const auto controller =
         controllerWith("<headerTitle>" + sentences + "</headerTitle><headerLinkTitle>" + sentences +
                        "</headerLinkTitle><bodyDetail>" + QByteArray(300, 'w') + sentences + "</bodyDetail>");
-    tarnwell::JTitledWindow *window = controller->window();
+    tarnwell::TitledWindow *window = controller->window();
     window->show();
     EXPECT_LT(window->height(), 700);
     const auto *area = window->findChild<QScrollArea *>();
@@ -134,7 +134,7 @@ TEST_F(JPromptWindowControllerTest, LinksOpenAndTheWindowClosesInItsTime)
     const auto controller = controllerWith(
         "<headerLinkTitle>Home</headerLinkTitle><headerLink>https://h.example/"
         "</headerLink><learnMoreLink>https://l.example/</learnMoreLink>");
-    tarnwell::JTitledWindow *window = controller->window();
+    tarnwell::TitledWindow *window = controller->window();
     const auto click = [&](const QString &name) { window->findChild<QPushButton *>(name)->click(); };
     PromptLinkDelegate links;
     const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(links);

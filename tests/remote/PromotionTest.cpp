@@ -1,7 +1,7 @@
-#include "Promotion.h"
+#include "remote/Promotion.h"
 
-#include "ADItem.h"
-#include "UserDefaults.h"
+#include "foundation/UserDefaults.h"
+#include "remote/ADItem.h"
 
 #include <gtest/gtest.h>
 

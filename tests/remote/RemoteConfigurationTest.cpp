@@ -1,4 +1,4 @@
-#include "AppRMConfig.h"
+#include "remote/AppRMConfig.h"
 
 #include <gtest/gtest.h>
 

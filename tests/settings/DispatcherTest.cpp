@@ -1,8 +1,8 @@
-#include "JKestrelSettingDispatcher.h"
+#include "settings/JKestrelSettingDispatcher.h"
 
-#include "JKestrelSetting.h"
-#include "ProductFolder.h"
-#include "UserDefaults.h"
+#include "foundation/UserDefaults.h"
+#include "settings/JKestrelSetting.h"
+#include "tests/support/ProductFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,16 +1,16 @@
-#include "JKestrelSettingController.h"
+#include "settings/ui/JKestrelSettingController.h"
 
-#include "FolderRow.h"
-#include "Frames.h"
-#include "JKestrelSetting.h"
-#include "JKestrelSettingDispatcher.h"
-#include "JSettingSearchObject.h"
-#include "NotificationCenter.h"
-#include "ProductFolder.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
-#include "UserDefaults.h"
-#include "_SettingScrollView.h"
+#include "foundation/NotificationCenter.h"
+#include "foundation/UserDefaults.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "settings/ui/FolderRow.h"
+#include "settings/ui/JSettingSearchObject.h"
+#include "settings/ui/_SettingScrollView.h"
+#include "tarnwell/ui/Frames.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "ProxyRule.h"
-#include "SettingLists.h"
-#include "SettingPage.h"
+#include "settings/ProxyRule.h"
+#include "settings/SettingLists.h"
+#include "settings/SettingPage.h"
 
 #include <gtest/gtest.h>
 

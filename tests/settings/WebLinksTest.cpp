@@ -1,7 +1,7 @@
-#include "JKestrelSetting.h"
+#include "settings/JKestrelSetting.h"
 
-#include "ProductFolder.h"
-#include "UserDefaults.h"
+#include "foundation/UserDefaults.h"
+#include "tests/support/ProductFolder.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
 #include "ProductFolder.h"
 
-#include "PropertyList.h"
+#include "foundation/PropertyList.h"
 
 #include <QDir>
 #include <QFile>

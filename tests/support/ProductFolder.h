@@ -1,7 +1,7 @@
 #pragma once
 
-#include "Bundle.h"
-#include "Installed.h"
+#include "foundation/Bundle.h"
+#include "tarnwell/Installed.h"
 
 #include <QTemporaryDir>
 #include <QVariantMap>

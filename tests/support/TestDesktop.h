@@ -1,9 +1,9 @@
 #pragma once
 
-#include "Alerts.h"
-#include "Folders.h"
-#include "Installed.h"
-#include "WebPages.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/Folders.h"
+#include "tarnwell/Installed.h"
+#include "tarnwell/WebPages.h"
 
 #include <QUrl>
 

@@ -1,5 +1,5 @@
-#include "XMLReader2.h"
-#include "XMLReaderNavigation2.h"
+#include "support/XMLReader2.h"
+#include "support/XMLReaderNavigation2.h"
 
 #include <QStringEncoder>
 

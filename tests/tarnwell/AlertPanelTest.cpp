@@ -1,6 +1,6 @@
-#include "AlertPanel.h"
-#include "DesktopAlertPresenter.h"
-#include "Installed.h"
+#include "tarnwell/Installed.h"
+#include "tarnwell/ui/AlertPanel.h"
+#include "tarnwell/ui/DesktopAlertPresenter.h"
 
 #include <QApplication>
 #include <QLabel>

@@ -1,6 +1,6 @@
-#include "Folders.h"
+#include "tarnwell/Folders.h"
 
-#include "TestDesktop.h"
+#include "tests/support/TestDesktop.h"
 
 #include <QDir>
 #include <QFile>

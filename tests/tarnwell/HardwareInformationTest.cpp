@@ -1,7 +1,7 @@
-#include "HardwareInformation_linux.h"
-#include "NXHardwareInfoController.h"
-#include "TestEnvironment.h"
-#include "TranscoderCodecs.h"
+#include "tarnwell/HardwareInformation_linux.h"
+#include "tarnwell/TranscoderCodecs.h"
+#include "tarnwell/ui/NXHardwareInfoController.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <QDialog>
 #include <QDir>

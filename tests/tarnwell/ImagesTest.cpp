@@ -1,5 +1,5 @@
-#include "Images.h"
-#include "ProductFolder.h"
+#include "tarnwell/ui/Images.h"
+#include "tests/support/ProductFolder.h"
 
 #include <QPainter>
 
@@ -21,14 +21,14 @@ TEST(Images, AreDrawnOnWholePixelsOfTheirScale)
             QPainter(&image).fillRect(x, 0, 1, size, Qt::black);
         image.save(product.contentsPath(u"Resources/images/stripes%1.png"_s.arg(suffix)));
     }
-    EXPECT_TRUE(ImageNamed(u"stripes"_s, 1.25).width() == 15 && ImageNamed(u"stripes"_s, 3).width() == 20);
+    EXPECT_TRUE(namedImage(u"stripes"_s, 1.25).width() == 15 && namedImage(u"stripes"_s, 3).width() == 20);
     for (const qreal scale : {1.0, 1.5, 2.0}) {
         QImage canvas(int(40 * scale), int(40 * scale), QImage::Format_RGB32);
         canvas.setDevicePixelRatio(scale);
         canvas.fill(Qt::white);
         QPainter painter(&canvas);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        drawCrisp(painter, {7, 7.4}, ImageNamed(u"stripes"_s, scale));
+        drawCrisp(painter, {7, 7.4}, namedImage(u"stripes"_s, scale));
         painter.end();
         int counts[256] = {};
         for (int i = 0; i < canvas.width() * canvas.height(); ++i)

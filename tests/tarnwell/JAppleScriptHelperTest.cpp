@@ -1,7 +1,7 @@
-#include "JAppleScriptHelper.h"
+#include "tarnwell/JAppleScriptHelper.h"
 
-#include "RecordingMailProgram.h"
-#include "TestDesktop.h"
+#include "tests/support/RecordingMailProgram.h"
+#include "tests/support/TestDesktop.h"
 
 #include <gtest/gtest.h>
 

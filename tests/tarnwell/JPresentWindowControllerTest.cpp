@@ -1,7 +1,7 @@
-#include "JPresentWindowController.h"
+#include "tarnwell/ui/JPresentWindowController.h"
 
-#include "JTitledWindow.h"
-#include "TestEnvironment.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <QApplication>
 #include <QDialog>
@@ -43,7 +43,7 @@ class PresentedSheet : public testing::Test {
 protected:
     PresentedSheet() { openAt(*m_window, {150, 100, 500, 400}); }
 
-    static void openAt(JTitledWindow &window, const QRect &place)
+    static void openAt(TitledWindow &window, const QRect &place)
     {
         window.setGeometry(place);
         window.show();
@@ -51,7 +51,7 @@ protected:
     }
     QPoint corner() { return m_controller.window()->pos(); }
 
-    std::unique_ptr<JTitledWindow> m_window = std::make_unique<JTitledWindow>();
+    std::unique_ptr<TitledWindow> m_window = std::make_unique<TitledWindow>();
     NotingController m_controller;
 };
 
@@ -86,7 +86,7 @@ TEST_F(PresentedSheet, EveryWayToCloseIsTheClosingAction)
         EXPECT_FALSE(m_controller.isPresented()) << &close - ways;
     }
     // The sheet outlives the one that it was presented for.
-    JTitledWindow next;
+    TitledWindow next;
     openAt(next, {150, 100, 500, 400});
     m_controller.presentForWindow(&next);
     EXPECT_EQ(m_controller.events, u"close present "_s);
@@ -99,7 +99,7 @@ TEST_F(PresentedSheet, EveryWayToCloseIsTheClosingAction)
 
 TEST_F(PresentedSheet, ComesOverToAnotherWindow)
 {
-    JTitledWindow other;
+    TitledWindow other;
     openAt(other, {0, 0, 400, 300});
     m_controller.presentForWindow(m_window.get());
     m_controller.presentForWindow(m_window.get());

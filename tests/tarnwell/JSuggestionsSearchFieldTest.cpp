@@ -1,7 +1,7 @@
-#include "JSuggestionsSearchField.h"
+#include "tarnwell/ui/JSuggestionsSearchField.h"
 
-#include "SuggestionList.h"
-#include "TestEnvironment.h"
+#include "tarnwell/ui/SuggestionList.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <QAccessible>
 #include <QDialog>

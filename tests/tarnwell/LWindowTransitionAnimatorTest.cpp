@@ -1,5 +1,5 @@
-#include "LWindowTransitionAnimator.h"
-#include "TestEnvironment.h"
+#include "tarnwell/ui/LWindowTransitionAnimator.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <QApplication>
 #include <QDir>

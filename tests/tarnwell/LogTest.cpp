@@ -1,5 +1,5 @@
-#include "Installed.h"
-#include "Log.h"
+#include "tarnwell/Installed.h"
+#include "tarnwell/Log.h"
 
 #include <QDir>
 #include <QFile>

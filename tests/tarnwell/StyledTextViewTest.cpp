@@ -1,6 +1,6 @@
-#include "StyledTextView.h"
+#include "tarnwell/ui/StyledTextView.h"
 
-#include "LabelText.h"
+#include "tarnwell/ui/LabelText.h"
 
 #include <gtest/gtest.h>
 

@@ -1,5 +1,5 @@
-#include "Installed.h"
-#include "WebPages.h"
+#include "tarnwell/Installed.h"
+#include "tarnwell/WebPages.h"
 
 #include <QMap>
 

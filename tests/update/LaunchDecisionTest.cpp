@@ -1,6 +1,6 @@
-#include "LaunchDecision.h"
+#include "update/LaunchDecision.h"
 
-#include "UPParser.h"
+#include "update/UPParser.h"
 
 #include <gtest/gtest.h>
 

@@ -1,6 +1,6 @@
-#include "UPParser.h"
+#include "update/UPParser.h"
 
-#include "PropertyList.h"
+#include "foundation/PropertyList.h"
 
 #include <gtest/gtest.h>
 

@@ -1,13 +1,13 @@
-#include "UpgradeWindowController.h"
+#include "update/ui/UpgradeWindowController.h"
 
-#include "JTitledWindow.h"
-#include "Palette.h"
-#include "ProductFolder.h"
-#include "PropertyList.h"
-#include "Queues.h"
-#include "StyledTextView.h"
-#include "TestDesktop.h"
-#include "TestEnvironment.h"
+#include "foundation/PropertyList.h"
+#include "foundation/Queues.h"
+#include "tarnwell/ui/Palette.h"
+#include "tarnwell/ui/StyledTextView.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tests/support/ProductFolder.h"
+#include "tests/support/TestDesktop.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "VersionOrder.h"
+#include "update/VersionOrder.h"
 
 #include <gtest/gtest.h>
 

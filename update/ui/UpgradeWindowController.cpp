@@ -1,16 +1,16 @@
 #include "UpgradeWindowController.h"
 
-#include "Frames.h"
-#include "Images.h"
-#include "JTitledWindow.h"
-#include "LabelText.h"
-#include "Localization.h"
-#include "Log.h"
-#include "ProductInformation.h"
-#include "Queues.h"
-#include "StyledTextBuilder.h"
-#include "TextStyles.h"
-#include "WebPages.h"
+#include "foundation/Queues.h"
+#include "foundation/ui/StyledTextBuilder.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/WebPages.h"
+#include "tarnwell/ui/Frames.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/LabelText.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TitledWindow.h"
 #include "ui_UpgradeWindowController.h"
 
 #include <QPointer>
@@ -104,7 +104,7 @@ UpgradeWindowController::UpgradeWindowController(const QString &upgradeInfoFileU
       m_terminate(std::move(terminate)),
       m_step(step),
       m_exitWhileChecking(std::make_shared<std::atomic<bool>>(false)),
-      m_window(std::make_unique<tarnwell::JTitledWindow>()),
+      m_window(std::make_unique<tarnwell::TitledWindow>()),
       m_form(std::make_unique<Ui::UpgradeWindowController>())
 {
     setUpForm();
@@ -120,8 +120,8 @@ void UpgradeWindowController::setUpForm()
     namespace colors = tarnwell::palette;
     m_form->setupUi(m_window->contentView());
     m_window->setAccessibleName(applicationName());
-    m_window->setButtonVisible(tarnwell::JTitledWindow::WindowButton::Minimize, false);
-    m_window->setButtonVisible(tarnwell::JTitledWindow::WindowButton::Zoom, false);
+    m_window->setButtonVisible(tarnwell::TitledWindow::WindowButton::Minimize, false);
+    m_window->setButtonVisible(tarnwell::TitledWindow::WindowButton::Zoom, false);
     for (QLabel *label : {m_form->hintCheckUpdatesField, m_form->upToDateLabel, m_form->haveNewVersionTitleLabel})
         tarnwell::setTextStyle(label, 18, QFont::Bold, colors::title);
     tarnwell::setTextStyle(m_form->noNewVersionNewsTitle, 14, QFont::Bold, colors::title);
@@ -176,9 +176,9 @@ void UpgradeWindowController::windowDidLoad()
 void UpgradeWindowController::loadImages()
 {
     const qreal scale = m_window->devicePixelRatioF();
-    m_resultBackground = tarnwell::ImageNamed(u"upgrade_result_bg"_s, scale);
-    m_checkingBackground = tarnwell::ImageNamed(u"upgrade_checking_bg"_s, scale);
-    m_applicationIcon = tarnwell::ApplicationIcon(windowIconSize, scale);
+    m_resultBackground = tarnwell::namedImage(u"upgrade_result_bg"_s, scale);
+    m_checkingBackground = tarnwell::namedImage(u"upgrade_checking_bg"_s, scale);
+    m_applicationIcon = tarnwell::applicationIcon(windowIconSize, scale);
 }
 
 void UpgradeWindowController::replaceWindowTitleBarBackgroundImage()

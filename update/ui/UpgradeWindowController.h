@@ -1,8 +1,8 @@
 #pragma once
 
-#include "Geometry.h"
-#include "ModalSession.h"
-#include "UPParser.h"
+#include "foundation/Geometry.h"
+#include "tarnwell/ui/ModalSession.h"
+#include "update/UPParser.h"
 
 #include <QObject>
 #include <QPixmap>
@@ -16,7 +16,7 @@ class UpgradeWindowController;
 namespace kestrel {
 
 namespace tarnwell {
-class JTitledWindow;
+class TitledWindow;
 }
 
 /// The update window, application-modal: it checks for a new version under a progress bar, or shows what is known of
@@ -55,7 +55,7 @@ public:
 
     /// Null until the check has got it.
     const std::shared_ptr<const UPParser> &upgradeInfo() const { return m_upgradeInfo; }
-    tarnwell::JTitledWindow *window() const { return m_window.get(); }
+    tarnwell::TitledWindow *window() const { return m_window.get(); }
 
 private:
     struct Check;
@@ -75,7 +75,7 @@ private:
     std::shared_ptr<const UPParser> m_upgradeInfo;
     bool m_showProgress = false;
     std::shared_ptr<std::atomic<bool>> m_exitWhileChecking;
-    std::unique_ptr<tarnwell::JTitledWindow> m_window;
+    std::unique_ptr<tarnwell::TitledWindow> m_window;
     std::unique_ptr<Ui::UpgradeWindowController> m_form;
     tarnwell::ModalSession m_session;
     QPixmap m_resultBackground;

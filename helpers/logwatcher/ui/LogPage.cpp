@@ -1,7 +1,7 @@
 #include "LogPage.h"
 
-#include "LogFile.h"
-#include "Palette.h"
+#include "helpers/logwatcher/LogFile.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QFontMetricsF>
 #include <QPainter>

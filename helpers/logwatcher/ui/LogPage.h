@@ -1,7 +1,7 @@
 #pragma once
 
-#include "LogRows.h"
-#include "LogText.h"
+#include "helpers/logwatcher/LogRows.h"
+#include "helpers/logwatcher/LogText.h"
 
 #include <QFont>
 #include <QRectF>

@@ -1,9 +1,9 @@
 #include "LogView.h"
 
-#include "Localization.h"
-#include "LogFile.h"
 #include "LogViewAccessible.h"
-#include "Palette.h"
+#include "helpers/logwatcher/LogFile.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QAccessible>
 #include <QApplication>

@@ -1,6 +1,6 @@
-#include "Localization.h"
-#include "LogFile.h"
 #include "LogView.h"
+#include "helpers/logwatcher/LogFile.h"
+#include "tarnwell/Localization.h"
 
 #include <QClipboard>
 #include <QGuiApplication>

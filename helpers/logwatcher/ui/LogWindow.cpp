@@ -1,12 +1,12 @@
 #include "LogWindow.h"
 
-#include "Images.h"
-#include "Localization.h"
 #include "LogView.h"
-#include "Palette.h"
-#include "ProductInformation.h"
-#include "TextStyles.h"
-#include "TranslateControls.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/Palette.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_LogWindow.h"
 
 #include <QAccessible>
@@ -49,7 +49,7 @@ void setUpField(QLineEdit &field, const QString &iconName)
 {
     for (QAction *clear : field.findChildren<QAction *>())
         clear->setText(AppLocalizedString(u"Clear"_s));
-    QAction *icon = field.addAction(tarnwell::IconNamed(iconName), QLineEdit::LeadingPosition);
+    QAction *icon = field.addAction(tarnwell::namedIcon(iconName), QLineEdit::LeadingPosition);
     icon->setText(field.accessibleName());
     const int words = field.fontMetrics().horizontalAdvance(field.placeholderText());
     field.setMinimumWidth(std::max(leastFieldWidth, words + fieldMargins));
@@ -94,10 +94,10 @@ void LogWindow::setUpLooks()
     tarnwell::setTextStyle(m_form->sizeLabel, 12, QFont::Normal, palette::quietText);
     setUpField(*m_form->searchField, u"kestrel_set_search"_s);
     setUpField(*m_form->filterField, u"log_filter"_s);
-    m_form->previousButton->setIcon(tarnwell::IconNamed(u"search_previous"_s));
-    m_form->nextButton->setIcon(tarnwell::IconNamed(u"search_next"_s));
-    m_form->copyButton->setIcon(tarnwell::IconNamed(u"log_copy"_s));
-    m_form->saveButton->setIcon(tarnwell::IconNamed(u"log_save"_s));
+    m_form->previousButton->setIcon(tarnwell::namedIcon(u"search_previous"_s));
+    m_form->nextButton->setIcon(tarnwell::namedIcon(u"search_next"_s));
+    m_form->copyButton->setIcon(tarnwell::namedIcon(u"log_copy"_s));
+    m_form->saveButton->setIcon(tarnwell::namedIcon(u"log_save"_s));
     for (QPushButton *button : m_form->toolBar->findChildren<QPushButton *>()) {
         // The theme's least width would otherwise cut long words.
         button->ensurePolished();

@@ -1,10 +1,10 @@
 #pragma once
 
-#include "LogCopy.h"
-#include "LogFile.h"
-#include "LogFilter.h"
-#include "LogSearch.h"
-#include "Palette.h"
+#include "helpers/logwatcher/LogCopy.h"
+#include "helpers/logwatcher/LogFile.h"
+#include "helpers/logwatcher/LogFilter.h"
+#include "helpers/logwatcher/LogSearch.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QMainWindow>
 #include <QTimer>

@@ -1,8 +1,8 @@
 #include "ConversionDelegate.h"
 
-#include "ConversionList.h"
-#include "Images.h"
-#include "Palette.h"
+#include "modules/marlin/ConversionList.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/Palette.h"
 
 #include <QPainter>
 
@@ -98,7 +98,7 @@ void paintState(QPainter &painter, QRect area, const QModelIndex &index)
         }
     } else if (look.mark) {
         const QRect mark(area.x(), area.y() + (area.height() - markSize) / 2, markSize, markSize);
-        tarnwell::IconNamed(QString::fromLatin1(look.mark)).paint(&painter, mark);
+        tarnwell::namedIcon(QString::fromLatin1(look.mark)).paint(&painter, mark);
         area.setLeft(mark.right() + cellMargin);
     }
     paintSentence(painter, area, text, look.color);

@@ -1,9 +1,9 @@
 #include "FailureDetails.h"
 
-#include "ConversionList.h"
-#include "Localization.h"
-#include "TextStyles.h"
-#include "TranslateControls.h"
+#include "modules/marlin/ConversionList.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_FailureDetails.h"
 
 #include <QClipboard>

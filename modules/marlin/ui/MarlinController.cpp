@@ -1,12 +1,12 @@
 #include "MarlinController.h"
 
-#include "Alerts.h"
-#include "JKestrelSettingDispatcher.h"
-#include "Localization.h"
 #include "MarlinView.h"
-#include "MediaFiles.h"
-#include "OutputFolderLine.h"
-#include "WebPages.h"
+#include "modules/common/OutputFolderLine.h"
+#include "modules/marlin/MediaFiles.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/WebPages.h"
 
 #include <QFileInfo>
 #include <QThread>

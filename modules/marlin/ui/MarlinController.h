@@ -1,8 +1,8 @@
 #pragma once
 
-#include "ConversionQueue.h"
-#include "MediaProber.h"
-#include "Module.h"
+#include "modules/Module.h"
+#include "modules/marlin/ConversionQueue.h"
+#include "modules/marlin/MediaProber.h"
 
 #include <QObject>
 

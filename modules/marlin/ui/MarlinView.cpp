@@ -1,13 +1,13 @@
 #include "MarlinView.h"
 
 #include "ConversionDelegate.h"
-#include "ConversionQueue.h"
 #include "FailureDetails.h"
-#include "Images.h"
-#include "Localization.h"
-#include "MediaFiles.h"
-#include "TextStyles.h"
-#include "TranslateControls.h"
+#include "modules/marlin/ConversionQueue.h"
+#include "modules/marlin/MediaFiles.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_MarlinView.h"
 
 #include <QDragEnterEvent>
@@ -83,7 +83,7 @@ void MarlinView::setUpTexts()
                  {m_form->removeButton, u"marlin_remove"_s},
                  {m_form->cancelButton, u"marlin_stop"_s}};
     for (const auto &[button, image] : icons)
-        button->setIcon(tarnwell::IconNamed(image));
+        button->setIcon(tarnwell::namedIcon(image));
     m_form->picture->setImageName(u"marlin_drop"_s);
 }
 

@@ -1,7 +1,7 @@
 // A keyed archive is unpacked and asked for everything that the settings ask for, and for the same again further in.
 
-#include "KeyedArchive.h"
 #include "Require.h"
+#include "foundation/KeyedArchive.h"
 
 using namespace Qt::StringLiterals;
 using namespace kestrel::foundation;

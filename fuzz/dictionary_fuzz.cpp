@@ -1,8 +1,8 @@
 // XML read into dictionaries, which are then walked and searched by paths of their own keys.
 
 #include "Require.h"
-#include "XMLReader2.h"
-#include "XMLReaderNavigation2.h"
+#include "support/XMLReader2.h"
+#include "support/XMLReaderNavigation2.h"
 
 using namespace Qt::StringLiterals;
 using namespace kestrel;

@@ -1,7 +1,7 @@
-#include "JTitledWindow.h"
+#include "TitledWindow.h"
 
 #include "Frames.h"
-#include "JHoverButton.h"
+#include "HoverButton.h"
 #include "Palette.h"
 #include "WindowTitleBar.h"
 
@@ -32,14 +32,14 @@ protected:
 /// Tells assistive programs that it is a window; a plain widget is nothing to them.
 QAccessibleInterface *windowInterface(const QString &className, QObject *object)
 {
-    if (className != "kestrel::tarnwell::JTitledWindow"_L1)
+    if (className != "kestrel::tarnwell::TitledWindow"_L1)
         return nullptr;
     return new QAccessibleWidget(static_cast<QWidget *>(object), QAccessible::Window);
 }
 
 }  // namespace
 
-JTitledWindow::JTitledWindow(QWidget *parent)
+TitledWindow::TitledWindow(QWidget *parent)
     : QWidget(parent, Qt::Window | Qt::FramelessWindowHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint),
       m_titleBar(new WindowTitleBar(this)),
       m_contentView(new QWidget(this)),
@@ -47,30 +47,30 @@ JTitledWindow::JTitledWindow(QWidget *parent)
       m_titleBarHeight(int(defaultTitleBarHeight))
 {
     QAccessible::installFactory(windowInterface);
-    const auto clicked = &JHoverButton::clicked;
-    connect(m_titleBar->button(WindowButton::Close), clicked, this, &JTitledWindow::performClose);
+    const auto clicked = &HoverButton::clicked;
+    connect(m_titleBar->button(WindowButton::Close), clicked, this, &TitledWindow::performClose);
     connect(m_titleBar->button(WindowButton::Minimize), clicked, this, &QWidget::showMinimized);
-    connect(m_titleBar->button(WindowButton::Zoom), clicked, this, &JTitledWindow::zoom);
+    connect(m_titleBar->button(WindowButton::Zoom), clicked, this, &TitledWindow::zoom);
     layOut();
 }
 
-void JTitledWindow::makeInitWithImageName(const QString &backgroundName, const QString &titleBackgroundName)
+void TitledWindow::makeInitWithImageName(const QString &backgroundName, const QString &titleBackgroundName)
 {
     m_titleBar->setImageNames(backgroundName, titleBackgroundName);
 }
 
-void JTitledWindow::setTitleBarHeight(double height)
+void TitledWindow::setTitleBarHeight(double height)
 {
     m_titleBarHeight = qRound(height);
     layOut();
 }
 
-foundation::Rect JTitledWindow::frame() const
+foundation::Rect TitledWindow::frame() const
 {
     return windowFrame(this);
 }
 
-void JTitledWindow::setFrame(const foundation::Rect &frame)
+void TitledWindow::setFrame(const foundation::Rect &frame)
 {
     m_geometryBeforeZoom = {};
     setWindowFrame(this, frame);
@@ -78,34 +78,34 @@ void JTitledWindow::setFrame(const foundation::Rect &frame)
     layOut();
 }
 
-void JTitledWindow::center()
+void TitledWindow::center()
 {
     QRect place = geometry();
     place.moveCenter(screen()->availableGeometry().center());
     setGeometry(place);
 }
 
-void JTitledWindow::setButtonVisible(WindowButton button, bool visible)
+void TitledWindow::setButtonVisible(WindowButton button, bool visible)
 {
     m_titleBar->setButtonVisible(button, visible);
 }
 
-void JTitledWindow::setCloseAction(std::function<void()> action)
+void TitledWindow::setCloseAction(std::function<void()> action)
 {
     m_closeAction = std::move(action);
 }
 
-void JTitledWindow::setMenus(const QList<QMenu *> &menus)
+void TitledWindow::setMenus(const QList<QMenu *> &menus)
 {
     m_titleBar->setMenus(menus);
 }
 
-void JTitledWindow::setShouldClose(std::function<bool()> shouldClose)
+void TitledWindow::setShouldClose(std::function<bool()> shouldClose)
 {
     m_shouldClose = std::move(shouldClose);
 }
 
-void JTitledWindow::makeKeyAndOrderFront()
+void TitledWindow::makeKeyAndOrderFront()
 {
     setWindowState(windowState() & ~Qt::WindowMinimized);
     show();
@@ -113,7 +113,7 @@ void JTitledWindow::makeKeyAndOrderFront()
     activateWindow();
 }
 
-void JTitledWindow::zoom()
+void TitledWindow::zoom()
 {
     // Plain geometry: window managers differ in what they make of a frameless window that is maximised.
     const bool isZoomed = !m_geometryBeforeZoom.isNull();
@@ -122,7 +122,7 @@ void JTitledWindow::zoom()
     setGeometry(target);
 }
 
-void JTitledWindow::performClose()
+void TitledWindow::performClose()
 {
     if (const auto action = m_closeAction)
         action();
@@ -130,7 +130,7 @@ void JTitledWindow::performClose()
         close();
 }
 
-void JTitledWindow::closeEvent(QCloseEvent *event)
+void TitledWindow::closeEvent(QCloseEvent *event)
 {
     // The desktop's own ways to close a window do what the close button does.
     if (event->spontaneous() && m_closeAction) {
@@ -146,26 +146,26 @@ void JTitledWindow::closeEvent(QCloseEvent *event)
     emit willClose();
 }
 
-void JTitledWindow::resizeEvent(QResizeEvent *)
+void TitledWindow::resizeEvent(QResizeEvent *)
 {
     layOut();
 }
 
-void JTitledWindow::showEvent(QShowEvent *)
+void TitledWindow::showEvent(QShowEvent *)
 {
     // Left alone, the first control in the window would have the keyboard: the close button.
     if (!focusWidget() || m_titleBar->isAncestorOf(focusWidget()))
         m_contentView->setFocus();
 }
 
-void JTitledWindow::layOut()
+void TitledWindow::layOut()
 {
     m_titleBar->setGeometry(0, 0, width(), m_titleBarHeight);
     m_contentView->setGeometry(0, m_titleBarHeight, width(), height() - m_titleBarHeight);
     m_edge->setGeometry(rect());
 }
 
-void JTitledWindow::mousePressEvent(QMouseEvent *event)
+void TitledWindow::mousePressEvent(QMouseEvent *event)
 {
     // What the controls leave unused arrives here.
     const bool isHandle = m_isMovableByWindowBackground || m_titleBar->geometry().contains(event->position().toPoint());
@@ -173,7 +173,7 @@ void JTitledWindow::mousePressEvent(QMouseEvent *event)
         m_drag = Drag{event->globalPosition().toPoint(), pos()};
 }
 
-void JTitledWindow::mouseMoveEvent(QMouseEvent *event)
+void TitledWindow::mouseMoveEvent(QMouseEvent *event)
 {
     if (!m_drag)
         return;
@@ -191,12 +191,12 @@ void JTitledWindow::mouseMoveEvent(QMouseEvent *event)
     move(m_drag->origin + distance);
 }
 
-void JTitledWindow::mouseReleaseEvent(QMouseEvent *)
+void TitledWindow::mouseReleaseEvent(QMouseEvent *)
 {
     m_drag.reset();
 }
 
-void JTitledWindow::mouseDoubleClickEvent(QMouseEvent *event)
+void TitledWindow::mouseDoubleClickEvent(QMouseEvent *event)
 {
     m_drag.reset();
     const bool canZoom = !m_titleBar->button(WindowButton::Zoom)->isHidden();

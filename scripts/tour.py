@@ -10,6 +10,8 @@ import plistlib
 import subprocess
 import sys
 
+sys.path.insert(0, os.path.join(os.path.dirname(__file__), '..', 'tests', 'e2e'))
+
 from accessible import Failure, extents, value_of, wait_for
 from driver import Desktop
 from material import copy_bundle, make_clip

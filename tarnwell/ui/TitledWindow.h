@@ -1,6 +1,6 @@
 #pragma once
 
-#include "Geometry.h"
+#include "foundation/Geometry.h"
 
 #include <QWidget>
 
@@ -16,13 +16,13 @@ class WindowTitleBar;
 /// A top-level window with a title bar of its own: close, minimise and zoom button at the left, the menus where the
 /// platform has no global menu bar, the title in the middle; dragging it moves the window. `contentView()` fills the
 /// rest. Frames are in points, bottom-up, and take in the title bar. Only `setFrame` and the zoom button size it.
-class JTitledWindow : public QWidget {
+class TitledWindow : public QWidget {
     Q_OBJECT
 public:
     static constexpr double defaultTitleBarHeight = 24;
     enum class WindowButton { Close, Minimize, Zoom };
 
-    explicit JTitledWindow(QWidget *parent = nullptr);
+    explicit TitledWindow(QWidget *parent = nullptr);
 
     /// Dresses the title bar: a background image that is stretched across it, and one that stands behind the title.
     void makeInitWithImageName(const QString &backgroundName, const QString &titleBackgroundName);

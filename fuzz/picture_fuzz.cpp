@@ -1,7 +1,7 @@
 // Whatever a server sends as a picture, there is none or one of a size to be shown, at once and in little memory.
 
-#include "PromotionPicture.h"
 #include "Require.h"
+#include "remote/PromotionPicture.h"
 
 #include <ctime>
 

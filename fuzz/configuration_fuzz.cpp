@@ -1,7 +1,7 @@
 // Whatever a server sends for the remote configuration, there is one, with texts of bounded length.
 
-#include "AppRMConfig.h"
 #include "Require.h"
+#include "remote/AppRMConfig.h"
 
 using namespace kestrel;
 

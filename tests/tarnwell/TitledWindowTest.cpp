@@ -1,7 +1,7 @@
-#include "Frames.h"
-#include "JHoverButton.h"
-#include "JTitledWindow.h"
-#include "WindowTitleBar.h"
+#include "tarnwell/ui/Frames.h"
+#include "tarnwell/ui/HoverButton.h"
+#include "tarnwell/ui/TitledWindow.h"
+#include "tarnwell/ui/WindowTitleBar.h"
 
 #include <QScreen>
 #include <QSignalSpy>
@@ -15,9 +15,9 @@ using kestrel::foundation::Rect;
 
 namespace {
 
-TEST(JTitledWindow, FramesAreExactBeforeAndAfterShowing)
+TEST(TitledWindow, FramesAreExactBeforeAndAfterShowing)
 {
-    JTitledWindow window;
+    TitledWindow window;
     const int screenHeight = QGuiApplication::primaryScreen()->geometry().height();
     for (const bool isShown : {false, true}) {
         window.setVisible(isShown);
@@ -37,11 +37,11 @@ TEST(JTitledWindow, FramesAreExactBeforeAndAfterShowing)
     EXPECT_EQ(view.geometry(), QRect(10, 10, 30, 40));
 }
 
-TEST(JTitledWindow, ClosesByRequestUnlessRefused)
+TEST(TitledWindow, ClosesByRequestUnlessRefused)
 {
-    JTitledWindow window;
-    QSignalSpy willClose(&window, &JTitledWindow::willClose);
-    JHoverButton *button = window.titleBarView()->button(JTitledWindow::WindowButton::Close);
+    TitledWindow window;
+    QSignalSpy willClose(&window, &TitledWindow::willClose);
+    HoverButton *button = window.titleBarView()->button(TitledWindow::WindowButton::Close);
     window.show();
     bool allows = false;
     int actions = 0;

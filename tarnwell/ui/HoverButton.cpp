@@ -1,4 +1,4 @@
-#include "JHoverButton.h"
+#include "HoverButton.h"
 
 #include "Images.h"
 #include "Palette.h"
@@ -17,19 +17,19 @@ constexpr qreal pressedOpacity = 0.7;
 
 }  // namespace
 
-JHoverButton::JHoverButton(QWidget *parent) : QAbstractButton(parent)
+HoverButton::HoverButton(QWidget *parent) : QAbstractButton(parent)
 {
     setFocusPolicy(Qt::TabFocus);
 }
 
-void JHoverButton::setImageNamed(const QString &name, const QString &hoverName)
+void HoverButton::setImageNamed(const QString &name, const QString &hoverName)
 {
-    setIcon(IconNamed(name));
-    setIconSize(ImageNamed(name, devicePixelRatioF()).deviceIndependentSize().toSize());
-    m_hoverIcon = hoverName.isEmpty() ? QIcon() : IconNamed(hoverName);
+    setIcon(namedIcon(name));
+    setIconSize(namedImage(name, devicePixelRatioF()).deviceIndependentSize().toSize());
+    m_hoverIcon = hoverName.isEmpty() ? QIcon() : namedIcon(hoverName);
 }
 
-QSize JHoverButton::sizeHint() const
+QSize HoverButton::sizeHint() const
 {
     QSize size = icon().isNull() ? QSize() : iconSize();
     if (!text().isEmpty()) {
@@ -41,12 +41,12 @@ QSize JHoverButton::sizeHint() const
     return size;
 }
 
-void JHoverButton::onMouseEnterExit(bool)
+void HoverButton::onMouseEnterExit(bool)
 {
     update();
 }
 
-void JHoverButton::setHovered(bool isHovered)
+void HoverButton::setHovered(bool isHovered)
 {
     if (isHovered == m_isHovered)
         return;
@@ -54,23 +54,23 @@ void JHoverButton::setHovered(bool isHovered)
     onMouseEnterExit(isHovered);
 }
 
-void JHoverButton::enterEvent(QEnterEvent *)
+void HoverButton::enterEvent(QEnterEvent *)
 {
     setHovered(true);
 }
 
-void JHoverButton::leaveEvent(QEvent *)
+void HoverButton::leaveEvent(QEvent *)
 {
     setHovered(false);
 }
 
-void JHoverButton::hideEvent(QHideEvent *event)
+void HoverButton::hideEvent(QHideEvent *event)
 {
     QAbstractButton::hideEvent(event);
     setHovered(false);
 }
 
-void JHoverButton::paintEvent(QPaintEvent *)
+void HoverButton::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::SmoothPixmapTransform);

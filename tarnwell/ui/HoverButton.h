@@ -6,10 +6,10 @@ namespace kestrel::tarnwell {
 
 /// A button without an outline: an icon, a text or both beside each other, which reports the pointer's coming and
 /// going. Keyboard focus shows as a ring and is not reported. Icon-only buttons need an accessible name.
-class JHoverButton : public QAbstractButton {
+class HoverButton : public QAbstractButton {
     Q_OBJECT
 public:
-    explicit JHoverButton(QWidget *parent = nullptr);
+    explicit HoverButton(QWidget *parent = nullptr);
 
     /// The bundle's image of that name at its own size, and the one that takes its place while the pointer is over it.
     void setImageNamed(const QString &name, const QString &hoverName = {});

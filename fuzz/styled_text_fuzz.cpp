@@ -1,7 +1,7 @@
 // Styled text out of HTML is short enough to lay out and holds nothing that a text document could stumble over.
 
 #include "Require.h"
-#include "StyledHtml.h"
+#include "foundation/ui/StyledHtml.h"
 
 using namespace Qt::StringLiterals;
 using namespace kestrel::foundation;

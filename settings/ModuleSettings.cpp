@@ -1,4 +1,4 @@
-#include "JModuleSettings.h"
+#include "ModuleSettings.h"
 
 #include <cmath>
 

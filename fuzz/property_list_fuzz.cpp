@@ -1,7 +1,7 @@
 // A property list that is read can be written, and reads back the same.
 
-#include "PropertyList.h"
 #include "Require.h"
+#include "foundation/PropertyList.h"
 
 using namespace kestrel::foundation;
 
