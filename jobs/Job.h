@@ -1,0 +1,45 @@
+#pragma once
+
+#include "JobRecord.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace kestrel {
+
+/// The run of a job. Made for one run and used once; ending the object ends its tools at once and removes what it
+/// wrote. Main thread.
+class Job : public QObject {
+    Q_OBJECT
+public:
+    using QObject::QObject;
+
+    virtual void start() = 0;
+    /// Ends with what there is, such as a recording; by default the same as `cancel`.
+    virtual void stop() { cancel(); }
+    /// Ends all tools and removes what was written; `finished` follows within 100 ms.
+    virtual void cancel() = 0;
+    virtual bool canPause() const { return false; }
+    /// Only where it can.
+    virtual void setPaused(bool paused){Q_UNUSED(paused)}
+
+    signals : void progressed(const kestrel::JobProgress &progress);
+    /// Something that the user should know while it runs; told in the row.
+    void noted(const kestrel::tarnwell::Sentence &note);
+    /// Once, later than `start` returns. Nothing follows.
+    void finished(const kestrel::JobOutcome &outcome);
+};
+
+/// How a module's jobs are run: all that the queue knows of a module.
+class JobRecipe {
+public:
+    virtual ~JobRecipe() = default;
+
+    virtual Lane lane(const JobRecord &record) const = 0;
+    /// Bytes that the output will take in the record's folder, or an upper guess; 0 where nothing is known.
+    virtual qint64 expectedBytes(const JobRecord &record) const = 0;
+    virtual std::unique_ptr<Job> makeJob(const JobRecord &record) = 0;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,45 @@
+#pragma once
+
+#include "JobRecord.h"
+
+#include <QAbstractTableModel>
+
+namespace kestrel {
+
+class JobQueue;
+
+/// The jobs of one module as rows for a view: what the queue knows, nothing of its own. Modules that have more to show
+/// derive from it and override `data` for columns of theirs.
+class JobList : public QAbstractTableModel {
+    Q_OBJECT
+public:
+    enum Column { TitleColumn, DetailColumn, StateColumn, ColumnCount };
+    enum Role { IdRole = Qt::UserRole, StateRole, FractionRole, RecordRole };
+
+    JobList(JobQueue &queue, const QString &module, QObject *parent = nullptr);
+
+    JobId idAt(int row) const;  ///< 0 where there is none
+    int rowOf(JobId id) const;  ///< -1 where there is none
+
+    int rowCount(const QModelIndex &parent = {}) const override;
+    int columnCount(const QModelIndex &parent = {}) const override;
+    QVariant data(const QModelIndex &index, int role) const override;
+    QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
+    Qt::ItemFlags flags(const QModelIndex &index) const override;
+    // Rows are dragged within the list to change their order, and results out of it as files.
+    Qt::DropActions supportedDropActions() const override;
+    QStringList mimeTypes() const override;
+    QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                      const QModelIndex &parent) override;
+
+protected:
+    const JobRecord &recordAt(int row) const;
+    JobQueue &queue() const { return m_queue; }
+
+private:
+    JobQueue &m_queue;
+    QString m_module;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "JobRecord.h"
+
+#include <functional>
+#include <memory>
+
+namespace kestrel {
+
+/// What must survive a kill: the jobs of all modules, their order, options and outcome, in an SQLite file in Kestrel's
+/// data folder, written by a thread of its own. The window and `kestrel-cli` may have it open at the same time. A
+/// damaged file, or one of a newer version, is moved aside ("jobs.sqlite.damaged-<time>") and a new one begun. Progress
+/// is not stored.
+class JobStore {
+public:
+    virtual ~JobStore() = default;
+
+    /// All jobs, in their order. What ran and whose owner has ended is Interrupted; what another process runs now is
+    /// left out. Jobs that are done but whose outputs are gone say so.
+    virtual QList<JobRecord> load() = 0;
+    /// An identifier that was never used, also by another process that has the store open.
+    virtual JobId nextId() = 0;
+    /// Writes a new or a changed job, in the background; the order of calls is kept. `position` orders the jobs of a
+    /// module.
+    virtual void put(const JobRecord &record, double position) = 0;
+    virtual void remove(const QList<JobId> &ids) = 0;
+    /// Waits until everything so far is on the disk. False where it could not be written.
+    virtual bool flush() = 0;
+};
+
+/// The store of this user. Null only where not even a new file can be made; jobs are not kept then.
+std::unique_ptr<JobStore> openJobStore(const QString &path);
+QString jobStorePath();
+
+}  // namespace kestrel

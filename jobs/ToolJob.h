@@ -1,0 +1,43 @@
+#pragma once
+
+#include "Job.h"
+#include "ToolProcess.h"
+
+#include <functional>
+
+namespace kestrel {
+
+/// A job that is a chain of tools. The subclass starts one after another with `run` and ends with `finish`; that
+/// cancelling, stopping and pausing reach the tool of the moment, and that nothing of the chain goes on after a cancel,
+/// is done here.
+class ToolJob : public Job {
+    Q_OBJECT
+public:
+    explicit ToolJob(QObject *parent = nullptr);
+    ~ToolJob() override;
+
+    void stop() override;
+    void cancel() override;
+    bool canPause() const override { return true; }
+    void setPaused(bool paused) override;
+
+protected:
+    using Continuation = std::function<void(const ToolEnding &ending)>;
+
+    /// Starts the tool; `then` is called when it has ended, unless the job was cancelled. Connect to the process for
+    /// its lines; it lives until `then` returns.
+    ToolProcess &run(const ToolCommand &command, Continuation then);
+    bool isStopping() const { return m_isStopping; }
+    /// `finished` follows, later than this returns.
+    void finish(const JobOutcome &outcome);
+    /// Removes what was written; called on a cancel, before `finished`.
+    virtual void discard() = 0;
+
+private:
+    std::unique_ptr<ToolProcess> m_tool;
+    bool m_isStopping = false;
+    bool m_isOver = false;
+    bool m_isPaused = false;
+};
+
+}  // namespace kestrel
