@@ -31,6 +31,10 @@ enum class JobState {
 bool isEnded(JobState state);   ///< from Done on
 bool isActive(JobState state);  ///< has a `Job`: Running, Paused, Stopping
 
+/// The name in files and for programs: "done-with-problems".
+QString jobStateName(JobState state);
+std::optional<JobState> jobStateNamed(const QString &name);
+
 /// What jobs share and must not fight over. Each lane runs so many of its jobs at once.
 enum class Lane { Encode, Copy, Sound, Net, Disc, Capture };
 inline constexpr int laneCount = 6;
@@ -47,6 +51,9 @@ struct JobOutcome {
 
     bool operator==(const JobOutcome &) const = default;
 };
+
+/// Of a job whose outputs are not where they were made.
+extern const tarnwell::TextKey outputIsGone;
 
 struct JobProgress {
     std::optional<double> fraction = {};  ///< 0 to 1; only grows; nothing where the end is not known
@@ -73,5 +80,10 @@ struct JobRecord {
     tarnwell::Sentence blocked = {};  ///< why it waits, where that is not its turn
     tarnwell::Sentence note = {};     ///< what the user should know of the run: "Encoding in software"
 };
+
+/// What is stored of a record besides its id, module and state.
+QJsonObject jobRecordToJson(const JobRecord &record);
+/// Puts it back; members of a wrong type read as absent. False where it is no job: it needs a title and a plan.
+bool readJobRecord(const QJsonObject &json, JobRecord &record);
 
 }  // namespace kestrel

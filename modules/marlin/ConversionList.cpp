@@ -1,6 +1,6 @@
 #include "ConversionList.h"
 
-#include "TranscodeProgress.h"
+#include "jobs/RemainingTime.h"
 #include "tarnwell/HoverText.h"
 #include "tarnwell/Localization.h"
 

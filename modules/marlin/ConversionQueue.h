@@ -2,6 +2,7 @@
 
 #include "ConversionJob.h"
 #include "ConversionList.h"
+#include "jobs/RemainingTime.h"
 
 #include <QElapsedTimer>
 

@@ -1,5 +1,6 @@
 #include "modules/marlin/TranscodeFailure.h"
 #include "modules/marlin/TranscodeProgress.h"
+#include "jobs/RemainingTime.h"
 
 #include <gtest/gtest.h>
 
