@@ -1,6 +1,7 @@
 #include "JobReporter.h"
 
-#include "jobs/RemainingTime.h"
+#include "jobs/JobList.h"
+"jobs/RemainingTime.h"
 #include "tarnwell/Localization.h"
 
 #include <QFileInfo>
@@ -116,7 +117,7 @@ void JobReporter::result(qsizetype number, const JobRecord &record)
     }
     clearLine();
     const bool isGood = record.state == JobState::Done || record.state == JobState::DoneWithProblems;
-    QString line = record.title + u": "_s + jobStateText(record.state);
+    QString line = record.title + u": "_s + jobStateText(record);
     if (isGood)
         line += u" → "_s + outcome.outputs.join(u", "_s);
     printLine(line.toUtf8());

@@ -1,6 +1,6 @@
 #include "JobDetails.h"
 
-#include "jobs/JobRecord.h"
+#include "jobs/JobList.h"
 #include "tarnwell/ui/TextStyles.h"
 #include "tarnwell/ui/TranslateControls.h"
 #include "ui_JobDetails.h"
@@ -37,7 +37,7 @@ JobDetails::JobDetails(const JobRecord &record, QWidget *parent)
     m_form->setupUi(this);
     tarnwell::TranslateControls(this);
     const JobOutcome &outcome = record.outcome;
-    const QString sentence = outcome.sentence.isEmpty() ? jobStateText(record.state) : outcome.sentence.localized();
+    const QString sentence = outcome.sentence.isEmpty() ? jobStateText(record) : outcome.sentence.localized();
     const QString problems = linesOf(outcome).join(u'\n');
     const struct {
         QLabel *label;
