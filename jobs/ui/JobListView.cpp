@@ -204,10 +204,10 @@ void JobListView::copyResults(const QList<JobId> &ids)
         urls.append(QUrl::fromLocalFile(path));
     if (urls.isEmpty())
         return;
-    auto *data = new QMimeData;
-    data->setUrls(urls);
-    data->setText(outputsOf(ids).join(u'\n'));
-    QGuiApplication::clipboard()->setMimeData(data);
+    auto *files = new QMimeData;
+    files->setUrls(urls);
+    files->setText(outputsOf(ids).join(u'\n'));
+    QGuiApplication::clipboard()->setMimeData(files);
 }
 
 void JobListView::contextMenuEvent(QContextMenuEvent *event)

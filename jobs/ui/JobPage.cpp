@@ -222,12 +222,12 @@ void JobPage::keyPressEvent(QKeyEvent *event)
         QWidget::keyPressEvent(event);
 }
 
-void JobPage::take(const QMimeData &data)
+void JobPage::take(const QMimeData &dropped)
 {
-    if (const QStringList paths = pathsIn(data); !paths.isEmpty())
+    if (const QStringList paths = pathsIn(dropped); !paths.isEmpty())
         emit pathsDropped(paths);
-    else if (data.hasText())
-        emit textDropped(data.text());
+    else if (dropped.hasText())
+        emit textDropped(dropped.text());
 }
 
 }  // namespace kestrel

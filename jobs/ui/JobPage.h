@@ -68,7 +68,7 @@ protected:
 private:
     void setUpTexts(const JobPageTexts &texts);
     void setUpActions();
-    void take(const QMimeData &data);
+    void take(const QMimeData &dropped);
     void showRun();
     void showRows();
     void togglePause();
