@@ -1,44 +1,37 @@
 #include "LoggerWatcherTask.h"
 
-#include "foundation/Processes.h"
-#include "tarnwell/Log.h"
+#include "jobs/ToolProcess.h"
 
 #include <QEventLoop>
 #include <QMutexLocker>
-#include <QProcess>
-#include <QTimer>
 
-using namespace Qt::StringLiterals;
+#include <cstdio>
+
 using namespace std::chrono_literals;
 
 namespace kestrel {
 
 void LoggerWatcherTask::run(const QString &program, const QStringList &arguments)
 {
-    QProcess process;
+    ToolProcess viewer(
+        {.program = program, .arguments = arguments, .politeEnd = ToolCommand::PoliteEnd::Terminate, .patience = 1s});
     QEventLoop untilExit;
-    QObject::connect(&process, &QProcess::finished, &untilExit, &QEventLoop::quit);
-    QObject::connect(&process, &QProcess::errorOccurred, &untilExit, [&](QProcess::ProcessError error) {
-        if (error != QProcess::FailedToStart)
-            return;
-        tarnwell::DNFootLog(u"The log viewer could not be started: %1"_s, process.errorString());
-        untilExit.quit();
-    });
-    process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setChildProcessModifier(foundation::endWithParent());
+    QObject::connect(&viewer, &ToolProcess::ended, &untilExit, &QEventLoop::quit);
+    // Not to the log: it would grow by what the viewer says of its growing.
+    QObject::connect(&viewer, &ToolProcess::errorLine, &viewer,
+                     [](const QByteArray &line) { std::fprintf(stderr, "%s\n", line.constData()); });
     bool isWanted = false;
     {
         const QMutexLocker locker(&m_mutex);
         isWanted = !m_isTerminated;
-        m_process = &process;
+        m_viewer = &viewer;
     }
-    if (isWanted)
-        process.start(program, arguments);  // one that is terminated from here on ends once the loop runs
-    if (process.state() != QProcess::NotRunning)
+    if (isWanted) {
+        viewer.start();  // one that is terminated from here on ends once the loop runs
         untilExit.exec();
+    }
     const QMutexLocker locker(&m_mutex);
-    m_process = nullptr;
+    m_viewer = nullptr;
     m_hasEnded = true;
 }
 
@@ -46,15 +39,8 @@ void LoggerWatcherTask::terminate()
 {
     const QMutexLocker locker(&m_mutex);
     m_isTerminated = true;
-    if (!m_process)
-        return;
-    QMetaObject::invokeMethod(
-        m_process,
-        [process = m_process] {
-            process->terminate();
-            QTimer::singleShot(1s, process, &QProcess::kill);
-        },
-        Qt::QueuedConnection);
+    if (m_viewer)
+        QMetaObject::invokeMethod(m_viewer, &ToolProcess::stop, Qt::QueuedConnection);
 }
 
 }  // namespace kestrel

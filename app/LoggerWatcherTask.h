@@ -6,9 +6,9 @@
 
 #include <atomic>
 
-class QProcess;
-
 namespace kestrel {
+
+class ToolProcess;
 
 /// One run of the log viewer, from the click to the viewer's end. It ends with the application, also with one that is
 /// killed. Any thread.
@@ -26,7 +26,7 @@ public:
 
 private:
     QMutex m_mutex;
-    QProcess *m_process = nullptr;  ///< while it runs; its thread is that of `run`
+    ToolProcess *m_viewer = nullptr;  ///< while it runs; its thread is that of `run`
     bool m_isTerminated = false;
     std::atomic<bool> m_hasEnded = false;
 };

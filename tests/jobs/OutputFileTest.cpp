@@ -192,8 +192,7 @@ TEST_F(OutputFileTest, ThePartsOfKilledOwnersGoAndNothingElse)
     QDir().mkdir(precious);
     writeText(precious + u"/film"_s, "mine");
     for (const QString &name : names()) {
-        if (name.contains("disc"_L1))
-            EXPECT_TRUE(QFile::link(precious, path(name) + u"/link"_s));
+        EXPECT_TRUE(!name.contains("disc"_L1) || QFile::link(precious, path(name) + u"/link"_s));
     }
     // Registrations of this very owner that point to what is not its own, and parts that nobody wrote down
     const QString id = registrations().entryList(everything).value(0);

@@ -5,6 +5,7 @@
 #include "jobs/ToolProcess.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QTextStream>
 
 #include <linux/filter.h>
@@ -13,6 +14,7 @@
 #include <sys/syscall.h>
 #include <cerrno>
 #include <cstddef>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 using namespace kestrel;
@@ -43,30 +45,33 @@ int begin(const QStringList &arguments)
     return QCoreApplication::exec();
 }
 
-/// <folder>: places a file and a folder where the system refuses to rename without writing over.
-int placeOldStyle(const QStringList &arguments)
+/// From now on that call of the system fails in this process.
+bool refuse(quint32 call, quint32 error)
 {
     sock_filter rules[] = {
         BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
-        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat2, 0, 1),
-        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EINVAL),
+        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, call, 0, 1),
+        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | error),
         BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
     };
     const sock_fprog program = {std::size(rules), rules};
-    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) != 0)
+    return prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 && prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) == 0;
+}
+
+/// <folder>: places a file and a folder where the system cannot refuse to write over; then one where it does not rename
+/// at all.
+int placeOldStyle(const QStringList &arguments)
+{
+    if (!refuse(SYS_renameat2, EINVAL))
         return 2;
     for (const auto kind : {OutputFile::Kind::File, OutputFile::Kind::Folder}) {
         OutputFile output(arguments.at(2), u"film"_s, u"mkv"_s, kind);
-        const auto placed = output.publish();
-        if (!placed)
+        if (!output.publish())
             return 1;
-        QTextStream(stdout) << *placed << Qt::endl;
     }
-    // A part that went away must not leave the empty name that was taken for it.
+    if (!refuse(SYS_rename, EIO))
+        return 2;
     OutputFile lost(arguments.at(2), u"lost"_s, u"mkv"_s);
-    const QString part = lost.partPath();
-    QFile::remove(part);
-    QFile::link(u"/nowhere"_s, part);
     return lost.publish() ? 1 : 0;
 }
 
