@@ -4,13 +4,20 @@
 include(GNUInstallDirs)
 
 install(DIRECTORY "${KESTREL_BUNDLE_DIR}" DESTINATION "${CMAKE_INSTALL_LIBDIR}" USE_SOURCE_PERMISSIONS)
-install(CODE "
-    set(launcher \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/kestrel\")
-    get_filename_component(folder \"\${launcher}\" DIRECTORY)
-    file(MAKE_DIRECTORY \"\${folder}\")
-    file(RELATIVE_PATH program \"/${CMAKE_INSTALL_BINDIR}\" \"/${CMAKE_INSTALL_LIBDIR}/Kestrel.app/Contents/MacOS/Kestrel\")
-    file(CREATE_LINK \"\${program}\" \"\${launcher}\" SYMBOLIC)
-    message(STATUS \"Installing: \${launcher}\")")
+# Names on the path are links into the bundle, which finds itself by its program's real place.
+foreach(launcher kestrel=MacOS/Kestrel kestrel-cli=Helpers/kestrel-cli)
+    string(REPLACE "=" ";" launcher "${launcher}")
+    list(POP_FRONT launcher name place)
+    install(CODE "
+        set(launcher \"\$ENV{DESTDIR}\${CMAKE_INSTALL_PREFIX}/${CMAKE_INSTALL_BINDIR}/${name}\")
+        get_filename_component(folder \"\${launcher}\" DIRECTORY)
+        file(MAKE_DIRECTORY \"\${folder}\")
+        file(RELATIVE_PATH program \"/${CMAKE_INSTALL_BINDIR}\"
+             \"/${CMAKE_INSTALL_LIBDIR}/Kestrel.app/Contents/${place}\")
+        file(CREATE_LINK \"\${program}\" \"\${launcher}\" SYMBOLIC)
+        message(STATUS \"Installing: \${launcher}\")")
+endforeach()
+install(FILES packaging/kestrel-cli.1 DESTINATION "${CMAKE_INSTALL_MANDIR}/man1")
 install(DIRECTORY "${KESTREL_RESOURCES_DIR}/icons/" DESTINATION "${CMAKE_INSTALL_DATADIR}/icons")
 install(FILES packaging/com.tarnwell.kestrel.desktop DESTINATION "${CMAKE_INSTALL_DATADIR}/applications")
 install(FILES packaging/com.tarnwell.kestrel.metainfo.xml DESTINATION "${CMAKE_INSTALL_DATADIR}/metainfo")
