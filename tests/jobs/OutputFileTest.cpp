@@ -57,7 +57,7 @@ protected:
     void leaveParts()
     {
         QProcess owner;
-        owner.start(QStringLiteral(KESTREL_TEST_HELPER), {u"begin"_s, m_folder.path()});
+        owner.start(QStringLiteral(KESTREL_TOOLS_HELPER), {u"begin"_s, m_folder.path()});
         ASSERT_TRUE(test::waitUntil([&] { return owner.canReadLine(); }));
         OutputFile::sweepDeadOwners();
         EXPECT_EQ(names().size(), 2) << "of one that lives";
@@ -103,7 +103,7 @@ TEST_F(OutputFileTest, TheOldWayOfPlacingWritesNothingOverEither)
 {
     writeText(path(u"film.mkv"_s), "mine");
     QProcess owner;
-    owner.start(QStringLiteral(KESTREL_TEST_HELPER), {u"place-old-style"_s, m_folder.path()});
+    owner.start(QStringLiteral(KESTREL_TOOLS_HELPER), {u"place-old-style"_s, m_folder.path()});
     ASSERT_TRUE(owner.waitForFinished());
     EXPECT_EQ(owner.exitCode(), 0) << owner.readAllStandardError().toStdString();
     EXPECT_EQ(names(), QStringList({u"film (1).mkv"_s, u"film (2).mkv"_s, u"film.mkv"_s}));

@@ -249,7 +249,7 @@ TEST(ToolProcessTest, NothingLivesOnWhereTheProgramIsKilled)
 {
     const QString family = u"echo $$; (trap '' TERM INT HUP; sleep 1000; sleep 1000) & echo $!; wait"_s;
     QProcess program;
-    program.start(QStringLiteral(KESTREL_TEST_HELPER), {u"tool"_s, QStringLiteral(KESTREL_TOOL_GUARDIAN), family});
+    program.start(QStringLiteral(KESTREL_TOOLS_HELPER), {u"tool"_s, QStringLiteral(KESTREL_TOOL_GUARDIAN), family});
     QList<qint64> processes;
     ASSERT_TRUE(test::waitUntil([&] {
         while (program.canReadLine())
@@ -266,7 +266,7 @@ TEST(ToolProcessTest, NothingLivesOnWhereTheProgramIsKilled)
 TEST(ToolProcessTest, ToolsRunWithoutAGuardian)
 {
     QProcess program;
-    program.start(QStringLiteral(KESTREL_TEST_HELPER), {u"tool"_s, u"/nowhere"_s, u"echo here"_s});
+    program.start(QStringLiteral(KESTREL_TOOLS_HELPER), {u"tool"_s, u"/nowhere"_s, u"echo here"_s});
     EXPECT_TRUE(program.waitForFinished() && program.exitCode() == 0);
     EXPECT_EQ(program.readAllStandardOutput(), "here\n");
 }
