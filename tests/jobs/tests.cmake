@@ -1,0 +1,1 @@
+kestrel_test(jobs SOURCES JobQueueTest.cpp LINKS kestrel_jobs)
