@@ -33,8 +33,10 @@ public:
     virtual bool flush(std::chrono::milliseconds patience = std::chrono::seconds(10)) = 0;
 };
 
-/// The store of this user. Null only where not even a new file can be made; jobs are not kept then.
-std::unique_ptr<JobStore> openJobStore(const QString &path);
-QString jobStorePath();
+/// Opens the store, or begins one; its folder is the user's alone. Null only where not even a new file can be made, or
+/// another process does not let it go for seconds; jobs are not kept then. What serves the file is a library of the
+/// bundle, loaded here, so that the program's start does not pay for it.
+std::unique_ptr<JobStore> openJobStore(const QString &path, const QString &libraryPath = {});
+QString jobStorePath();  ///< of this user
 
 }  // namespace kestrel
