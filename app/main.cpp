@@ -1,4 +1,5 @@
 #include "InterfaceLanguage.h"
+#include "ProgramJobs.h"
 #include "SingleInstance.h"
 #include "about/ui/JKestrelAboutController.h"
 #include "app/ui/AppDelegate.h"
@@ -9,6 +10,7 @@
 #include "foundation/StandardFolders.h"
 #include "foundation/TerminationSignals.h"
 #include "foundation/UserDefaults.h"
+#include "jobs/JobStore.h"
 #include "jobs/OutputFile.h"
 #include "modules/heron/HeronController.h"
 #include "modules/marlin/ui/MarlinController.h"
@@ -74,10 +76,16 @@ bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &file
     return role == SingleInstance::Role::First;
 }
 
+/// Of a module that takes the services, or has no need of them.
 template <class Controller>
 ModuleFactory factoryOf()
 {
-    return [](const ModuleConfigure &configure) { return std::make_unique<Controller>(configure); };
+    return [](const ModuleConfigure &configure, ModuleServices &services) {
+        if constexpr (std::is_constructible_v<Controller, const ModuleConfigure &, ModuleServices &>)
+            return std::make_unique<Controller>(configure, services);
+        else
+            return std::make_unique<Controller>(configure);
+    };
 }
 
 void presentSettings(QWidget *overWindow)
@@ -90,13 +98,17 @@ void presentAbout(QWidget *overWindow)
     JKestrelAboutController::loadDefaultWindowController().presentForWindow(overWindow);
 }
 
-AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults, foundation::Fetcher &fetcher)
+AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults, foundation::Fetcher &fetcher,
+                                       ProgramJobs &jobs)
 {
     return {
         .setting = JKestrelSetting::ShareInst(),
         .defaults = defaults,
-        .modules = {factoryOf<MarlinController>(), factoryOf<HeronController>(), factoryOf<PetrelController>(),
-                    factoryOf<PloversController>()},
+        .jobs = jobs,
+        .modules = {{ModuleSettingVideo, factoryOf<MarlinController>()},
+                    {ModuleSettingDVD, factoryOf<HeronController>()},
+                    {ModuleSettingDownload, factoryOf<PetrelController>()},
+                    {ModuleSettingRecord, factoryOf<PloversController>()}},
         .windows = {.setting = presentSettings, .about = presentAbout},
         // Not quit(): that asks every window first, and a module may refuse to close.
         .terminate = [] { QCoreApplication::exit(); },
@@ -160,7 +172,9 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     tarnwell::applyTheme(application);
 
     foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s));
-    AppDelegate delegate(surroundings(defaults, fetcher));
+    ProgramJobs jobs([] { return openJobStore(jobStorePath()); },
+                     [](const QString &) { return wishesOf(JKestrelSetting::ShareInst()); });
+    AppDelegate delegate(surroundings(defaults, fetcher, jobs));
     const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(delegate);
     const foundation::TerminationSignals signalsOfTheSystem;
     connectEndings(application, delegate, signalsOfTheSystem);

@@ -62,15 +62,21 @@ JKestrelSetting &JKestrelSetting::ShareInst()
 void JKestrelSetting::load()
 {
     const auto root = foundation::KeyedDecoder::unarchive(m_defaults.dataForKey(settingKey));
-    m_video = makeSetting<JVideoSetting>(root, u"JVideoSetting"_s, u"video"_s);
-    m_dvd = makeSetting<JDVDSetting>(root, u"JDVDSetting"_s, u"dvd"_s);
-    m_downloader = makeSetting<JDownloaderSetting>(root, u"JDownloaderSetting"_s, u"downloader"_s);
-    m_recorder = makeSetting<JRecorderSetting>(root, u"JRecorderSetting"_s, u"recorder"_s);
+    m_video = makeSetting<JVideoSetting>(root, u"JVideoSetting"_s, moduleKey(ModuleSettingVideo));
+    m_dvd = makeSetting<JDVDSetting>(root, u"JDVDSetting"_s, moduleKey(ModuleSettingDVD));
+    m_downloader = makeSetting<JDownloaderSetting>(root, u"JDownloaderSetting"_s, moduleKey(ModuleSettingDownload));
+    m_recorder = makeSetting<JRecorderSetting>(root, u"JRecorderSetting"_s, moduleKey(ModuleSettingRecord));
     if (const auto switches = root ? root->decodeObject(u"vars"_s) : std::nullopt) {
         m_openFolderWhenDone = switches->decodeBool(u"openFolder"_s);
         m_shutdownWhenDone = switches->decodeBool(u"shutdown"_s);
         m_notifyWhenAvailable = switches->decodeBool(u"notify"_s);
     }
+}
+
+JSettingBase *JKestrelSetting::ofModule(qint32 kind) const
+{
+    JSettingBase *const settings[] = {m_video.get(), m_dvd.get(), m_downloader.get(), m_recorder.get()};
+    return kind >= 0 && kind < qint32(std::size(settings)) ? settings[kind] : nullptr;
 }
 
 void JKestrelSetting::setHardwareChoice(HardwareChoice choice)
@@ -82,10 +88,10 @@ void JKestrelSetting::setHardwareChoice(HardwareChoice choice)
 void JKestrelSetting::sync()
 {
     foundation::KeyedArchiver archiver;
-    archiver.setObject(u"video"_s, *m_video);
-    archiver.setObject(u"dvd"_s, *m_dvd);
-    archiver.setObject(u"downloader"_s, *m_downloader);
-    archiver.setObject(u"recorder"_s, *m_recorder);
+    archiver.setObject(moduleKey(ModuleSettingVideo), *m_video);
+    archiver.setObject(moduleKey(ModuleSettingDVD), *m_dvd);
+    archiver.setObject(moduleKey(ModuleSettingDownload), *m_downloader);
+    archiver.setObject(moduleKey(ModuleSettingRecord), *m_recorder);
     archiver.setNumbers(u"vars"_s, {{u"openFolder"_s, m_openFolderWhenDone},
                                     {u"shutdown"_s, m_shutdownWhenDone},
                                     {u"notify"_s, m_notifyWhenAvailable}});

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ModuleKind.h"
 #include "ModuleSettings.h"
 #include "SettingPage.h"
 
@@ -46,6 +47,7 @@ public:
     JDVDSetting *dvd() const { return m_dvd.get(); }
     JDownloaderSetting *downloader() const { return m_downloader.get(); }
     JRecorderSetting *recorder() const { return m_recorder.get(); }
+    JSettingBase *ofModule(qint32 kind) const;  ///< null where there is no such module
 
     bool openFolderWhenDone() const { return m_openFolderWhenDone; }
     void setOpenFolderWhenDone(bool open) { m_openFolderWhenDone = open; }

@@ -9,13 +9,14 @@ enum class AlertStyle { Informational, Warning, Critical };
 enum class AlertAnswer { Default, Alternate, None };
 
 /// A question or a message over all windows. The texts are shown as they are: plain, already localised. A null
-/// `alternateButton` leaves that button out. Escape answers as the alternate button, or as the only one.
+/// `alternateButton` leaves that button out.
 struct Alert {
     QString message;
     QString defaultButton;
     QString alternateButton;
     QString informativeText;
     AlertStyle style = AlertStyle::Informational;
+    AlertAnswer answerToEscape = AlertAnswer::Alternate;  ///< where there are two buttons
     bool operator==(const Alert &) const = default;
 };
 

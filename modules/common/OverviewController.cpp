@@ -1,7 +1,7 @@
 #include "OverviewController.h"
 
 #include "OverviewView.h"
-#include "tarnwell/Localization.h"
+#include "modules/ModuleRow.h"
 
 namespace kestrel {
 
@@ -26,7 +26,7 @@ QWidget *OverviewController::view()
 
 QString OverviewController::windowTitle() const
 {
-    return tarnwell::AppLocalizedString(m_overview.title);
+    return moduleRows()[m_overview.kind].title.localized();
 }
 
 void OverviewController::doBackAction()

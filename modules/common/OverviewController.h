@@ -8,7 +8,7 @@ class OverviewView;
 
 /// The texts and the picture of a module that is still to come: English keys, a null line is left out.
 struct ModuleOverview {
-    const char *title;
+    ModuleSettingKind kind;
     const char *image;
     const char *headline;
     const char *plans[3];

@@ -7,7 +7,7 @@ namespace kestrel {
 namespace {
 
 constexpr ModuleOverview heronOverview = {
-    .title = QT_TRANSLATE_NOOP("TarnwellPublic", "DVD Ripper"),
+    .kind = ModuleSettingDVD,
     .image = "heron_module",
     .headline = QT_TRANSLATE_NOOP("TarnwellPublic", "Your DVDs, as files"),
     .plans = {QT_TRANSLATE_NOOP("TarnwellPublic", "It will copy a DVD to a disc image or a folder."),

@@ -7,7 +7,7 @@ namespace kestrel {
 namespace {
 
 constexpr ModuleOverview petrelOverview = {
-    .title = QT_TRANSLATE_NOOP("TarnwellPublic", "Downloader"),
+    .kind = ModuleSettingDownload,
     .image = "petrel_module",
     .headline = QT_TRANSLATE_NOOP("TarnwellPublic", "Videos from the web, on your disk"),
     .plans = {QT_TRANSLATE_NOOP("TarnwellPublic", "It will save videos and music from addresses that you paste."),

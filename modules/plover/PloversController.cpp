@@ -7,7 +7,7 @@ namespace kestrel {
 namespace {
 
 constexpr ModuleOverview ploverOverview = {
-    .title = QT_TRANSLATE_NOOP("TarnwellPublic", "Recorder"),
+    .kind = ModuleSettingRecord,
     .image = "plover_module",
     .headline = QT_TRANSLATE_NOOP("TarnwellPublic", "Your screen, as a video"),
     .plans = {QT_TRANSLATE_NOOP("TarnwellPublic", "It will record the whole screen, a window or a part of it."),

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "settings/ModuleKind.h"
 #include "settings/SettingPage.h"
 #include "tarnwell/ui/JPresentWindowController.h"
 #include "tarnwell/ui/JSuggestionsSearchField.h"
@@ -104,7 +105,7 @@ private:
     void showStoredValues();
     std::array<SectionViews, 4> sections() const;
     void showSection(const QLabel *heading, const QWidget *sender);
-    void selectFolder(int module, const QWidget *sender);
+    void selectFolder(ModuleSettingKind module, const QWidget *sender);
     void openFolder(int folder, const QWidget *sender);
 
     JKestrelSetting &m_setting;

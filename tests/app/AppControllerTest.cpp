@@ -1,6 +1,7 @@
 #include "app/ui/AppController.h"
 
 #include "RecordingModule.h"
+#include "app/ProgramJobs.h"
 #include "app/ui/_JKestrelWindow.h"
 #include "foundation/UserDefaults.h"
 #include "settings/JKestrelSetting.h"
@@ -24,7 +25,7 @@ protected:
     template <class Module>
     ModuleFactory factory(const QString &name, const QSize &viewSize)
     {
-        return [this, name, viewSize](const ModuleConfigure &configure) {
+        return [this, name, viewSize](const ModuleConfigure &configure, ModuleServices &) {
             const auto dispatcher = configure.value(moduleSettingKey.toString());
             m_messages.append(
                 u"%1 made with %2 of %3"_s.arg(name).arg(dispatcher->dispatchType()).arg(configure.size()));
@@ -38,12 +39,14 @@ protected:
             .mainWindow = m_window,
             .setting = m_setting,
             .defaults = m_defaults,
-            .modules = {factory<test::EagerModule>(u"video"_s, {900, 600}),
-                        factory<test::EagerModule>(u"dvd"_s, {640, 480}),
-                        factory<test::EagerModule>(u"downloader"_s, {700, 500}),
-                        factory<test::EagerModule>(u"recorder"_s, {500, 400})},
+            .modules = {{ModuleSettingVideo, factory<test::EagerModule>(u"video"_s, {900, 600})},
+                        {ModuleSettingDVD, factory<test::EagerModule>(u"dvd"_s, {640, 480})},
+                        {ModuleSettingDownload, factory<test::EagerModule>(u"downloader"_s, {700, 500})},
+                        {ModuleSettingRecord, factory<test::EagerModule>(u"recorder"_s, {500, 400})}},
+            .services = m_jobs,
             .windows = {.setting = [this](QWidget *over) { m_presentedOver = over; }, .about = {}},
-            .terminate = [this] { m_messages.append(u"terminate"_s); }});
+            .terminate = [this] { m_messages.append(u"terminate"_s); },
+            .stopJobs = [this] { return m_mayStopJobs; }});
     }
 
     /// What happened since it was last asked.
@@ -57,6 +60,8 @@ protected:
     tarnwell::TitledWindow m_window;
     QStringList m_messages;
     QWidget *m_presentedOver = nullptr;
+    bool m_mayStopJobs = true;
+    ProgramJobs m_jobs{[] { return nullptr; }, {}};
 };
 
 /// A host that has been launched, with its launch messages taken.
@@ -101,12 +106,12 @@ TEST_F(AppControllerTest, missing_modules_and_views_leave_the_rest_working)
     AppController host({.mainWindow = m_window,
                         .setting = m_setting,
                         .defaults = m_defaults,
-                        .modules = {{},
-                                    [](const ModuleConfigure &) { return nullptr; },
-                                    factory<test::RecordingModule>(u"downloader"_s, QSize()),
-                                    {}},
+                        .modules = {{ModuleSettingDVD, [](const auto &, auto &) { return nullptr; }},
+                                    {ModuleSettingDownload, factory<test::RecordingModule>(u"downloader"_s, QSize())}},
+                        .services = m_jobs,
                         .windows = {},
-                        .terminate = [] {}});
+                        .terminate = [] {},
+                        .stopJobs = [] { return true; }});
     host.applicationWillFinishLaunching();
     host.applicationDidFinishLaunching();
     host.onShowMarlin();
@@ -184,10 +189,18 @@ TEST_F(LaunchedHostTest, settings_open_over_the_visible_window_which_closes_as_i
     m_window.close();
     EXPECT_TRUE(m_window.isVisible());
     module->m_mayTerminate = true;
+    m_mayStopJobs = false;
+    m_window.close();
+    EXPECT_TRUE(m_window.isVisible());
+    m_mayStopJobs = true;
     m_window.close();
     EXPECT_FALSE(m_window.isVisible());
     messages();
     home().show();
+    m_mayStopJobs = false;
+    home().close();
+    EXPECT_TRUE(messages().isEmpty());
+    m_mayStopJobs = true;
     home().close();
     EXPECT_EQ(messages(), QStringList(u"terminate"_s));
 }
@@ -221,7 +234,7 @@ TEST_F(AppControllerTest, a_new_version_is_recorded_and_announced_once)
     m_defaults.setObject(u"6.2.0"_s, u"InstalledVersion"_s);
     for (int launch = 0; launch < 2; ++launch) {
         JKestrelSetting setting(m_defaults);
-        AppController host({m_window, setting, m_defaults, {}, {}, [] {}});
+        AppController host({m_window, setting, m_defaults, {}, m_jobs, {}, [] {}, [] { return true; }});
         host.applicationWillFinishLaunching();
         host.applicationDidFinishLaunching();
         EXPECT_EQ(setting.firstRun(), launch == 0);

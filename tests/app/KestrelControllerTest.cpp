@@ -20,6 +20,7 @@ namespace kestrel {
 namespace {
 
 struct RecordingHost final : AppMainMenuControllerDelegate {
+    void onShowModule(ModuleSettingKind kind) override { messages.append(QString::number(kind)); }
     void onShowMarlin() override { messages.append(u"marlin"_s); }
     void onShowHeron() override { messages.append(u"heron"_s); }
     void onShowPetrel() override { messages.append(u"petrel"_s); }

@@ -1,7 +1,7 @@
 kestrel_test(jobs
     SOURCES
-        JobListTest.cpp JobQueueTest.cpp JobStoreTest.cpp ManyJobsTest.cpp OutputFileTest.cpp ScriptedJobs.h ToolProcessTest.cpp
-    LINKS kestrel_jobs)
+        AfterRunTest.cpp JobListTest.cpp JobQueueTest.cpp JobStoreTest.cpp ManyJobsTest.cpp OutputFileTest.cpp ScriptedJobs.h ToolProcessTest.cpp
+    LINKS kestrel_jobs kestrel_test_product Qt6::DBus)
 
 # Other processes of the tests, to be killed: one owns jobs, one owns tools and parts
 foreach(helper jobs tools)

@@ -26,6 +26,8 @@ TEST(Alerts, AreAnswered)
         return [name](QWidget *panel) { panel->findChild<QPushButton *>(name)->click(); };
     };
     const Alert message = {u"Done"_s, u"OK"_s, {}, {}, AlertStyle::Informational};
+    Alert careful = question;
+    careful.answerToEscape = AlertAnswer::Default;
     const struct {
         const char *name;
         Alert alert;
@@ -37,6 +39,9 @@ TEST(Alerts, AreAnswered)
         {"one button", message, [](QWidget *panel) { QTest::keyClick(panel, Qt::Key_Escape); }, AlertAnswer::Default},
         {"first button", question, click(u"defaultButton"_s), AlertAnswer::Default},
         {"second button", question, click(u"alternateButton"_s), AlertAnswer::Alternate},
+        {"Escape, careful", careful, [](QWidget *panel) { QTest::keyClick(panel, Qt::Key_Escape); },
+         AlertAnswer::Default},
+        {"second button, careful", careful, click(u"alternateButton"_s), AlertAnswer::Alternate},
         {"closed", question, [](QWidget *panel) { panel->close(); }, AlertAnswer::Alternate},
     };
     for (const auto &row : rows) {

@@ -51,7 +51,7 @@ protected:
             return foundation::FetchResult{m_body, u"no answer"_s};
         };
         return std::make_unique<UpgradeWindowController>(
-            u"https://k.example/update"_s, UpdateContext{u"en"_s, u"6.2.1"_s, fetch}, [this] { ++m_terminations; },
+            u"https://k.example/update"_s, UpdateContext{{u"en"_s, u"6.2.1"_s}, fetch}, [this] { ++m_terminations; },
             step);
     }
     void answer(const std::optional<QVariantMap> &root)
@@ -62,7 +62,7 @@ protected:
     }
     void open(UpgradeWindowController &controller, const QVariantMap &root)
     {
-        auto parser = std::make_shared<UPParser>(UpdateContext{u"en"_s, u"6.2.1"_s, {}});
+        auto parser = std::make_shared<UPParser>(UpdateReading{u"en"_s, u"6.2.1"_s});
         parser->parseUpgradeConfig(root);
         controller.showUpgradeWindowNoProgress(parser);
     }

@@ -1,6 +1,7 @@
 #include "MarlinController.h"
 
 #include "MarlinView.h"
+#include "modules/ModuleRow.h"
 #include "modules/common/OutputFolderLine.h"
 #include "modules/marlin/MediaFiles.h"
 #include "settings/JKestrelSettingDispatcher.h"
@@ -57,7 +58,7 @@ QWidget *MarlinController::view()
 
 QString MarlinController::windowTitle() const
 {
-    return tarnwell::AppLocalizedString(u"Video Converter"_s);
+    return moduleRows()[ModuleSettingVideo].title.localized();
 }
 
 void MarlinController::doBackAction()

@@ -1,11 +1,9 @@
-#include "app/ui/AppDelegate.h"
+#include "app/ui/LaunchCheck.h"
 
-#include "RecordingModule.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/PropertyList.h"
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
-#include "settings/JKestrelSetting.h"
 #include "tarnwell/Notifications.h"
 #include "tarnwell/ui/TitledWindow.h"
 #include "tests/support/ProductFolder.h"
@@ -45,19 +43,13 @@ struct TestServer {
 
 QByteArray descriptor(const QString &version)
 {
-    const auto link = [](const QString &title) {
-        return QVariantMap{{u"en"_s, QVariantMap{{u"Title"_s, title}, {u"URL"_s, u"http://"_s + title}}}};
-    };
-    return foundation::writePropertyList(QVariantMap{{u"LastestVersion"_s, version},
-                                                     {u"ADConfigURL"_s, configurationLink},
-                                                     {u"DownloaderUISupportURLTop"_s, link(u"top"_s)},
-                                                     {u"DownloaderUISupportURLBottom"_s, link(u"bottom"_s)}},
-                                         foundation::PropertyListFormat::Xml);
+    return foundation::writePropertyList(
+        QVariantMap{{u"LastestVersion"_s, version}, {u"ADConfigURL"_s, configurationLink}},
+        foundation::PropertyListFormat::Xml);
 }
 
 const QByteArray configuration = R"({"ads": {"picture": "http://127.0.0.1/picture.png",
-    "full": {"title": "Offer", "button": "Look", "label": "No", "rate": 30, "next_rate": 5}},
-    "top-right-button": {"name": "plain"}, "top-right-button-v2": {"full": {"name": "full"}}})";
+    "full": {"title": "Offer", "button": "Look", "label": "No", "rate": 30, "next_rate": 5}}})";
 
 QByteArray greenPicture()
 {
@@ -68,8 +60,8 @@ QByteArray greenPicture()
     return buffer.data();
 }
 
-/// A delegate with such a server, and what it shows: each window is closed once it has something to say.
-class AppDelegateUpdatesTest : public testing::Test {
+/// A check with such a server, and what it shows: each window is closed once it has something to say.
+class LaunchCheckTest : public testing::Test {
 protected:
     void make(const QString &link, const QVariantMap &stored = {}, quint32 drawn = 0)
     {
@@ -77,30 +69,24 @@ protected:
         m_defaults.emplace(m_product->contentsPath(u"defaults.plist"_s));
         for (const auto &[key, value] : stored.asKeyValueRange())
             m_defaults->setObject(value, key);
-        m_setting.emplace(*m_defaults);
         m_server.documents = {{configurationLink, configuration}, {pictureLink, greenPicture()}};
-        m_delegate.emplace(
-            AppDelegate::Surroundings{.setting = *m_setting,
-                                      .defaults = *m_defaults,
-                                      .modules = {},
-                                      .windows = {},
-                                      .terminate = [] {},
-                                      .startProcess = [](const QString &, const QStringList &) { return false; },
-                                      .updates = {.fetch = [this](const auto &asked) { return m_server.fetch(asked); },
-                                                  .today = [] { return QDate(2026, 1, 2); },
-                                                  .draw = [drawn] { return drawn; }}});
+        m_check.emplace(*m_defaults,
+                        LaunchCheck::Sources{.fetch = [this](const auto &asked) { return m_server.fetch(asked); },
+                                             .today = [] { return QDate(2026, 1, 2); },
+                                             .draw = [drawn] { return drawn; }},
+                        [] {});
         foundation::NotificationCenter::defaultCenter().addObserver(
-            &*m_delegate, tarnwell::RMTConfigureDidParse.toString(), [this](const QObject *object) {
+            &*m_check, tarnwell::RMTConfigureDidParse.toString(), [this](const QObject *object) {
                 ++m_posts;
-                EXPECT_EQ(object, m_delegate->upConfigure().get());
+                EXPECT_EQ(object, m_check->descriptor().get());
             });
-        m_closer.callOnTimeout(&*m_delegate, [this] { closeWindow(); });
+        m_closer.callOnTimeout(&*m_check, [this] { closeWindow(); });
         m_closer.start(5);
     }
 
     void checkAutomatically()
     {
-        foundation::queue::asyncGlobal([this] { m_delegate->checkUpgradesAutomatically(); });
+        foundation::queue::asyncGlobal([this] { m_check->run(); });
         // The check, and then the picture's fetch.
         for (int jobs = 0; jobs < 2; ++jobs) {
             foundation::queue::finishGlobal();
@@ -123,18 +109,17 @@ protected:
     const test::TestDesktop m_desktop;
     std::optional<test::ProductFolder> m_product;
     std::optional<foundation::UserDefaults> m_defaults;
-    std::optional<JKestrelSetting> m_setting;
     TestServer m_server;
     QTimer m_closer;
     int m_posts = 0;
     QStringList m_shown;
     QColor m_color;
-    std::optional<AppDelegate> m_delegate;
+    std::optional<LaunchCheck> m_check;
 };
 
 }  // namespace
 
-TEST_F(AppDelegateUpdatesTest, the_automatic_check_shows_one_window_at_most)
+TEST_F(LaunchCheckTest, the_automatic_check_shows_one_window_at_most)
 {
     const QString read = u"kestrel.plist configuration.json"_s, today = u"2026-01-02"_s;
     const auto shownOn = [](const QString &day) { return QVariantMap{{u"_AdvertisementDateString"_s, day}}; };
@@ -170,39 +155,21 @@ TEST_F(AppDelegateUpdatesTest, the_automatic_check_shows_one_window_at_most)
         EXPECT_EQ(m_shown.join(u' '), row.shown);
         EXPECT_EQ(m_server.asked.join(u' '), row.asked);
         EXPECT_EQ(m_defaults->stringForKey(u"_AdvertisementDateString"_s), row.day);
-        EXPECT_EQ(m_delegate->upConfigure() != nullptr, !row.version.isNull());
+        EXPECT_EQ(m_check->descriptor() != nullptr, !row.version.isNull());
     }
     EXPECT_EQ(m_color, QColor(Qt::green));
 }
 
-TEST_F(AppDelegateUpdatesTest, the_configuration_is_handed_on)
-{
-    const std::pair<QByteArray, QString> rows[] = {
-        {configuration, u"full"_s},
-        {QByteArray(configuration).replace("\"full\": {\"name", "\"no\": {\"name"), u"plain"_s}};
-    for (const auto &[document, button] : rows) {
-        make(descriptorLink, {{u"_AdvertisementDateString"_s, u"2026-01-02"_s}});
-        m_server.documents.insert(descriptorLink, descriptor(u"1.0.0"_s));
-        m_server.documents.insert(configurationLink, document);
-        checkAutomatically();
-        EXPECT_EQ(QStringList({m_delegate->titleOfSupportField(), m_delegate->URLOfSupportField(),
-                               m_delegate->titleOf300PlusSupportField(), m_delegate->URLOf300PlusSupportField()}),
-                  QStringList({u"top"_s, u"http://top"_s, u"bottom"_s, u"http://bottom"_s}));
-        ASSERT_TRUE(m_delegate->topRightWndBtnConfig());
-        EXPECT_EQ(m_delegate->topRightWndBtnConfig()->dictionary().value(u"name"_s).toString(), button);
-    }
-}
-
-TEST_F(AppDelegateUpdatesTest, the_check_by_hand_only_shows_its_window)
+TEST_F(LaunchCheckTest, the_check_by_hand_only_shows_its_window)
 {
     make(descriptorLink);
     m_server.documents.insert(descriptorLink, descriptor(u"1.0.0"_s));
-    m_delegate->onCheckUpdateAction();
+    m_check->showUpdateWindow();
     foundation::queue::finishGlobal();
     QCoreApplication::processEvents();
     EXPECT_EQ(m_shown, QStringList(u"update"_s));
     EXPECT_EQ(m_server.asked, QStringList({u"kestrel.plist"_s, u"configuration.json"_s}));
-    EXPECT_TRUE(m_posts == 0 && !m_delegate->upConfigure());
+    EXPECT_TRUE(m_posts == 0 && !m_check->descriptor());
     EXPECT_FALSE(m_defaults->objectForKey(u"_AdvertisementDateString"_s).isValid());
 }
 

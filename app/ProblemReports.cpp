@@ -1,5 +1,6 @@
-#include "AppDelegate.h"
-#include "app/LoggerWatcherTask.h"
+#include "ProblemReports.h"
+
+#include "LoggerWatcherTask.h"
 #include "foundation/Bundle.h"
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
@@ -13,6 +14,7 @@
 #include <QFileInfo>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 using kestrel::tarnwell::AppLocalizedString;
 
 namespace kestrel {
@@ -23,23 +25,33 @@ const QString notSafeTerminateKey = u"KestrelNotSafeTerminate"_s;
 
 }  // namespace
 
-std::shared_ptr<LoggerWatcherTask> AppDelegate::loggerWatcherTask() const
+ProblemReports::ProblemReports(foundation::UserDefaults &defaults) : m_defaults(defaults)
 {
-    return m_loggerWatcherTask && !m_loggerWatcherTask->hasEnded() ? m_loggerWatcherTask : nullptr;
+    // Nobody tells that a session goes on, only that it ends.
+    m_sessionEnd.setSingleShot(true);
+    m_sessionEnd.setInterval(30s);
+    connect(&m_sessionEnd, &QTimer::timeout, this, [this] { setNotSafeTerminate(true); });
 }
 
-void AppDelegate::showApplicationLog()
+ProblemReports::~ProblemReports() = default;
+
+std::shared_ptr<LoggerWatcherTask> ProblemReports::viewer() const
 {
-    if (m_hasTerminated || loggerWatcherTask())
+    return m_viewer && !m_viewer->hasEnded() ? m_viewer : nullptr;
+}
+
+void ProblemReports::showLog()
+{
+    if (m_hasRunEnded || viewer())
         return;
-    m_loggerWatcherTask = std::make_shared<LoggerWatcherTask>();
-    const QString viewer =
+    m_viewer = std::make_shared<LoggerWatcherTask>();
+    const QString program =
         tarnwell::productBundle().resource(u"KestrelLogWatcher.app"_s) + u"/Contents/MacOS/KestrelLogWatcher"_s;
     foundation::queue::asyncGlobal(
-        [task = m_loggerWatcherTask, viewer, path = tarnwell::DNGetLogFilePath()] { task->run(viewer, {path}); });
+        [task = m_viewer, program, path = tarnwell::DNGetLogFilePath()] { task->run(program, {path}); });
 }
 
-void AppDelegate::sendBugTypeEmail()
+void ProblemReports::sendPreviousLog()
 {
     QStringList attachments;
     if (const QString log = tarnwell::DNGetPreviousLogFilePath(); !log.isEmpty()) {
@@ -52,9 +64,9 @@ void AppDelegate::sendBugTypeEmail()
                                                     attachments, u""_s);
 }
 
-void AppDelegate::checkBugReportFlagWhenLaunch()
+void ProblemReports::checkAtLaunch()
 {
-    if (m_surroundings.defaults.boolForKey(notSafeTerminateKey)) {
+    if (m_defaults.boolForKey(notSafeTerminateKey)) {
         const auto answer =
             tarnwell::runAlert({.message = AppLocalizedString(u"Problem detected in last conversion."_s),
                                 .defaultButton = AppLocalizedString(u"Send Report"_s),
@@ -62,17 +74,33 @@ void AppDelegate::checkBugReportFlagWhenLaunch()
                                 .informativeText = AppLocalizedString(
                                     u"Would you please send us the Log File to help us fix the issue?"_s)});
         if (answer == tarnwell::AlertAnswer::Default)
-            sendBugTypeEmail();
+            sendPreviousLog();
         else if (answer == tarnwell::AlertAnswer::Alternate && !m_sessionEnd.isActive())  // its end closes windows
             tarnwell::DNCleanupLogFile();
     }
     setNotSafeTerminate(true);
 }
 
-/// The end of the session counts as the end of the run until it is known that it goes on.
-void AppDelegate::setNotSafeTerminate(bool isNotSafe)
+void ProblemReports::sessionWillEnd()
 {
-    m_surroundings.defaults.setObject(isNotSafe && !m_sessionEnd.isActive(), notSafeTerminateKey);
+    m_sessionEnd.start();
+}
+
+void ProblemReports::markEnded()
+{
+    setNotSafeTerminate(false);
+}
+
+void ProblemReports::runWillEnd()
+{
+    m_hasRunEnded = true;
+    if (const auto running = viewer())
+        running->terminate();
+}
+
+void ProblemReports::setNotSafeTerminate(bool isNotSafe)
+{
+    m_defaults.setObject(isNotSafe && !m_sessionEnd.isActive(), notSafeTerminateKey);
 }
 
 }  // namespace kestrel
