@@ -472,7 +472,7 @@ QString soundFor(const Container &container, const QString &video)
 Preset furtherPreset(const Container &container, const QString &video, const QString &sound)
 {
     const QString name = QString::fromLatin1(container.name);
-    const QString codec = codecName(video.isNull() ? sound : video);
+    const QString codec = codecLabel(video.isNull() ? sound : video);
     return {.id = QLatin1StringView(container.id) + u'-' + (video.isNull() ? sound : video),
             .name = name == codec ? name : u"%1 (%2)"_s.arg(name, codec),
             .group = u"all"_s,

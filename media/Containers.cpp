@@ -12,21 +12,21 @@ namespace {
 
 using enum Container::Trait;
 
-constexpr unsigned film =
+constexpr unsigned filmTraits =
     VariableRate | Upright | Chapters | Covers | ManySounds | TrackNames | HandlerNames | TellsLength;
-constexpr unsigned matroska =
+constexpr unsigned matroskaTraits =
     VariableRate | Chapters | AttachedCovers | Attachments | ManySounds | TrackNames | TellsLength;
 constexpr const char *fastStart = "-movflags +faststart";
 constexpr const char *broadcastRates = "24000/1001 24 25 30000/1001 30 50 60000/1001 60";
 constexpr const char *plainText = "subrip ass ssa webvtt text";
 constexpr const char *discPictures = "hdmv_pgs_subtitle dvd_subtitle dvb_subtitle";
 
-constexpr Container table[] = {
+constexpr Container containerTable[] = {
     {.id = "mp4",
      .name = "MP4",
      .muxer = "mp4",
      .extension = "mp4",
-     .traits = film,
+     .traits = filmTraits,
      .video = "h264 hevc av1 vp9 mpeg4 mpeg2video mpeg1video mjpeg png",
      .sound = "aac ac3 alac dts eac3 mp3 opus truehd vorbis",
      .text = "mov_text",
@@ -36,7 +36,7 @@ constexpr Container table[] = {
      .name = "MKV",
      .muxer = "matroska",
      .extension = "mkv",
-     .traits = matroska,
+     .traits = matroskaTraits,
      .video = "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video ffv1 mjpeg theora prores dnxhd dvvideo flv1 gif h263 "
               "huffyuv png utvideo wmv2",
      .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
@@ -51,7 +51,7 @@ constexpr Container table[] = {
      .name = "MOV",
      .muxer = "mov",
      .extension = "mov",
-     .traits = film,
+     .traits = filmTraits,
      .video = "h264 hevc prores dnxhd mjpeg mpeg4 mpeg2video mpeg1video dvvideo cinepak ffv1 flv1 gif h263 huffyuv png "
               "theora utvideo wmv2",
      .sound = "aac ac3 adpcm_ima_wav alac dts eac3 mp2 mp3 pcm_s16be pcm_s16le speex vorbis",
@@ -158,7 +158,7 @@ constexpr Container table[] = {
      .name = "M4V",
      .muxer = "ipod",
      .extension = "m4v",
-     .traits = film,
+     .traits = filmTraits,
      .video = "h264 mpeg4",
      .sound = "aac ac3 alac",
      .text = "mov_text",
@@ -266,7 +266,7 @@ constexpr Container table[] = {
      .name = "MKA",
      .muxer = "matroska",
      .extension = "mka",
-     .traits = matroska & ~VariableRate,
+     .traits = matroskaTraits & ~VariableRate,
      .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
               "wavpack wmav2",
      .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
@@ -316,15 +316,15 @@ bool Container::holdsSound(const QString &codec) const
 
 std::span<const Container> containers()
 {
-    return table;
+    return containerTable;
 }
 
 const Container *containerOf(const QString &muxer, const QString &extension)
 {
-    const auto row = std::ranges::find_if(table, [&](const Container &each) {
+    const auto row = std::ranges::find_if(containerTable, [&](const Container &each) {
         return muxer == QLatin1StringView(each.muxer) && extension == QLatin1StringView(each.extension);
     });
-    return row == std::end(table) ? nullptr : row;
+    return row == std::end(containerTable) ? nullptr : row;
 }
 
 const Container *containerOf(const Preset &preset)

@@ -409,7 +409,7 @@ const SoundEncoder *soundEncoderOf(QStringView codec, const QStringList &missing
     return row == std::end(soundTable) ? nullptr : row;
 }
 
-QString codecName(const QString &codec)
+QString codecLabel(const QString &codec)
 {
     if (const VideoEncoder *video = videoEncoderOf(codec))
         return QString::fromLatin1(video->name);

@@ -59,7 +59,7 @@ const VideoEncoder *videoEncoderOf(QStringView codec, const QStringList &missing
 const SoundEncoder *soundEncoderOf(QStringView codec, const QStringList &missing = {});
 
 /// The name that people know a codec by; the codec itself where it is unknown.
-QString codecName(const QString &codec);
+QString codecLabel(const QString &codec);
 
 /// The words of a list or of arguments as they stand in the tables.
 QStringList tableWords(const char *words);

@@ -129,7 +129,7 @@ foundation::Result<TrackPlan, tarnwell::Sentence> planTracks(const Plan &plan, c
     if (plan.preset.takesVideo() && hasVideo) {
         tracks.video = planVideo(plan, *first.firstOf(Kind::Video), *tracks.container, machine, burns(plan));
         if (!tracks.video)
-            return Refused{{"The encoder for %1 is not installed."_key, {codecName(plan.preset.videoCodec)}}};
+            return Refused{{"The encoder for %1 is not installed."_key, {codecLabel(plan.preset.videoCodec)}}};
         if (first.tracksOf(Kind::Video).size() > 1)
             tracks.leftOut.append(
                 tarnwell::Sentence("Further pictures beside the first (other angles or previews)."_key));
@@ -137,7 +137,7 @@ foundation::Result<TrackPlan, tarnwell::Sentence> planTracks(const Plan &plan, c
     if (plan.preset.takesAudio() && hasSound) {
         planSoundTracks(tracks, plan, first, machine);
         if (tracks.sounds.isEmpty() && !wantedSounds(plan, first).isEmpty())
-            return Refused{{"The encoder for %1 is not installed."_key, {codecName(plan.preset.audioCodec)}}};
+            return Refused{{"The encoder for %1 is not installed."_key, {codecLabel(plan.preset.audioCodec)}}};
     } else if (hasSound) {
         tracks.leftOut.append(
             {"The sound. %1 holds only pictures."_key, {QString::fromLatin1(tracks.container->name)}});
