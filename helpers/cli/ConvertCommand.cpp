@@ -115,7 +115,7 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
     if (!plans)
         return wrongUsage(plans.reason());
 
-    TranscodeRecipe recipe(transcodeSurroundings(settings));
+    TranscodeRecipe recipe([&settings] { return transcodeTools(settings, QThread::idealThreadCount()); });
     session.queue().setRecipe(marlinJobs.toString(), &recipe);
     QList<JobId> ids;
     for (const TranscodePlan &plan : *plans) {

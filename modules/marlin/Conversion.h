@@ -1,6 +1,8 @@
 #pragma once
 
 #include "jobs/JobRecord.h"
+#include "media/MediaInformation.h"
+#include "media/TranscodeJob.h"
 #include "media/TranscodePlan.h"
 
 namespace kestrel {
@@ -16,7 +18,20 @@ TranscodePlan conversionPlan(const JKestrelSettingDispatcher &settings, const Pr
 /// Where its result goes: the settings' folder for video, or for music, or beside the source.
 QString conversionFolder(const JKestrelSettingDispatcher &settings, const TranscodePlan &plan);
 
+/// The tools that carry conversions out, at the settings' paths.
+TranscodeTools transcodeTools(const JKestrelSettingDispatcher &settings, int processors);
+
 /// The job that carries the plan out.
 JobRecord conversionJob(const TranscodePlan &plan, const QString &folder);
+/// Puts another plan into a job and leaves what is known of its source.
+void setPlan(JobRecord &record, const TranscodePlan &plan);
+
+/// What a row says of its source; kept with the job, so that it is there at the next start.
+struct SourceSummary {
+    QString text;  ///< "MPEG-4 · H.264 · AAC"
+    std::optional<double> seconds;
+};
+void setSourceSummary(JobRecord &record, const MediaInformation &information);
+SourceSummary sourceSummary(const JobRecord &record);
 
 }  // namespace kestrel
