@@ -8,6 +8,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 
@@ -36,6 +37,8 @@ FetchResult readFile(const QUrl &url, qint64 maximumBytes)
     if (!url.host().isEmpty() || !path.startsWith(u'/') || path.contains(QChar::Null))
         return fetchFailure(u"the address is malformed"_s);
     const int descriptor = openRegularFile(path);
+    if (descriptor < 0 && errno == ENOENT)
+        return fetchFailure(u"there is no such file"_s);
     QFile file;
     if (descriptor < 0 || !file.open(descriptor, QIODevice::ReadOnly, QFile::AutoCloseHandle))
         return fetchFailure(u"not a regular file that can be read"_s);

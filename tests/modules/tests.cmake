@@ -8,4 +8,4 @@ kestrel_test(modules
         OverviewControllerTest.cpp
         TranscodeCommandTest.cpp
         TranscodeReportsTest.cpp
-    LINKS kestrel_marlin_ui kestrel_heron kestrel_petrel kestrel_plover)
+    LINKS kestrel_marlin_ui kestrel_heron kestrel_petrel kestrel_plover kestrel_test_product)
