@@ -33,8 +33,8 @@ void ConversionJob::start()
 {
     const QFileInfo source(m_request.source);
     const QString baseName = source.completeBaseName().isEmpty() ? source.fileName() : source.completeBaseName();
-    m_output =
-        std::make_unique<OutputFile>(m_request.folder, baseName, QString::fromLatin1(m_request.target->extension));
+    m_output = std::make_unique<marlin::OutputFile>(m_request.folder, baseName,
+                                                    QString::fromLatin1(m_request.target->extension));
     if (m_output->isValid())
         run(m_request.options);
     else

@@ -58,7 +58,7 @@ private:
     void runWithoutShortcut();
 
     ConversionRequest m_request;
-    std::unique_ptr<OutputFile> m_output;
+    std::unique_ptr<marlin::OutputFile> m_output;
     std::unique_ptr<QProcess> m_process;
     TranscodeProgress m_progress;
     MessageTail m_messages;

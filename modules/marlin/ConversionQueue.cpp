@@ -20,7 +20,7 @@ void ConversionQueue::start(const ConversionPlan &plan)
     if (m_isRunning || convertibleIds().isEmpty())
         return;
     m_plan = plan;
-    OutputFile::removeStaleParts(plan.folder);
+    marlin::OutputFile::removeStaleParts(plan.folder);
     m_ids = convertibleIds();
     m_index = -1;
     m_isRunning = true;

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
-inline namespace marlin {
+namespace marlin {
 
 namespace {
 

@@ -5,7 +5,7 @@
 namespace kestrel {
 
 // Apart from the class of that name in jobs/
-inline namespace marlin {
+namespace marlin {
 
 /// A file that a tool is to write, kept from sight until it is whole. It begins as a hidden part in its folder;
 /// `publish` gives it a name of its own there, and without that the part goes with the object. No file that exists is

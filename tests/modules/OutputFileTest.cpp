@@ -9,6 +9,7 @@
 #include <thread>
 
 using namespace Qt::StringLiterals;
+using kestrel::marlin::OutputFile;
 
 namespace kestrel {
 
