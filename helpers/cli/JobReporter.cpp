@@ -1,7 +1,7 @@
 #include "JobReporter.h"
 
-#include "jobs/JobList.h"
-"jobs/RemainingTime.h"
+#include "jobs/JobText.h"
+#include "jobs/RemainingTime.h"
 #include "tarnwell/Localization.h"
 
 #include <QFileInfo>
@@ -122,9 +122,9 @@ void JobReporter::result(qsizetype number, const JobRecord &record)
         line += u" → "_s + outcome.outputs.join(u", "_s);
     printLine(line.toUtf8());
     for (const Sentence &problem : problemsOf(outcome))
-        printLine(("  " + problem.localized()).toUtf8());
+        printLine((u"  "_s + problem.localized()).toUtf8());
     for (const Sentence &leftOut : outcome.leftOut)
-        printLine(("  " + AppLocalizedString(u"Left out: %1"_s).arg(leftOut.localized())).toUtf8());
+        printLine((u"  "_s + AppLocalizedString(u"Left out: %1"_s).arg(leftOut.localized())).toUtf8());
     if (!isGood && !outcome.details.isEmpty())
         std::fprintf(stderr, "%s\n", qUtf8Printable(outcome.details));
 }

@@ -1,6 +1,6 @@
 #include "JobsCommand.h"
 
-#include "jobs/JobList.h"
+#include "jobs/JobText.h"
 #include "jobs/JobStore.h"
 
 #include <QJsonArray>

@@ -1,6 +1,6 @@
 #include "JobDetails.h"
 
-#include "jobs/JobList.h"
+#include "jobs/JobText.h"
 #include "tarnwell/ui/TextStyles.h"
 #include "tarnwell/ui/TranslateControls.h"
 #include "ui_JobDetails.h"

@@ -1,6 +1,7 @@
 #include "jobs/JobList.h"
 
 #include "ScriptedJobs.h"
+#include "jobs/JobText.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -92,9 +93,11 @@ TEST_F(JobListTest, AChangeIsToldForItsRowAlone)
     const QList<JobId> ids = add(3);
     QSignalSpy changes(&list, &QAbstractItemModel::dataChanged);
     queue.start({ids[1]});
-    ASSERT_EQ(changes.size(), 1);
-    EXPECT_EQ(changes[0][0].toModelIndex(), list.index(1, 0));
-    EXPECT_EQ(changes[0][1].toModelIndex(), list.index(1, JobList::ColumnCount - 1));
+    ASSERT_EQ(changes.size(), 2);  // it waits, it runs
+    for (const QList<QVariant> &change : changes) {
+        EXPECT_EQ(change[0].toModelIndex(), list.index(1, 0));
+        EXPECT_EQ(change[1].toModelIndex(), list.index(1, JobList::ColumnCount - 1));
+    }
     emit recipe.jobOf(ids[1])->progressed({.fraction = 0.417, .remainingSeconds = 130});
     EXPECT_EQ(list.index(1, 0).data(JobList::FractionRole), 0.417);
     emit recipe.jobOf(ids[1])->noted("Encoding in software"_key);
