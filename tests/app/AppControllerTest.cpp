@@ -4,6 +4,7 @@
 #include "app/ProgramJobs.h"
 #include "app/ui/_JKestrelWindow.h"
 #include "foundation/UserDefaults.h"
+#include "jobs/JobStore.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/ui/LWindowTransitionAnimator.h"

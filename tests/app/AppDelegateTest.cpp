@@ -6,6 +6,7 @@
 #include "app/ui/_JKestrelWindow.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/UserDefaults.h"
+#include "jobs/JobStore.h"
 #include "settings/JKestrelSetting.h"
 #include "tarnwell/ui/AlertPanel.h"
 #include "tests/support/ProductFolder.h"
