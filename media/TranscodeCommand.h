@@ -10,8 +10,11 @@ namespace kestrel {
 
 /// What ffmpeg of this machine can do beyond the usual.
 struct TranscodeMachine {
-    QString hardwareDevice = {};  ///< of the hardware encoder; empty where there is none
+    QString hardwareDevice = {};  ///< that encodes H.264 in hardware; empty where there is none
+    QString hevcDevice = {};      ///< that encodes H.265
     int processors = 1;
+    QStringList missingEncoders = {};         ///< that this ffmpeg lacks of those that are usually there: "libsvtav1"
+    QString language = QStringLiteral("en");  ///< that the names of languages are written in
 };
 
 /// What the output must show before it may be called done.
@@ -22,6 +25,8 @@ struct OutputExpectation {
     };
     QList<Track> tracks;
     std::optional<double> seconds;  ///< nothing where the source does not tell
+    bool mayBeLonger = false;       ///< `seconds` is the least: cuts at keyframes keep what stands before
+    qint64 maximumBytes = 0;        ///< 0 for no limit
     int rotation = 0;               ///< as MediaTrack has it
     qsizetype chapters = 0;
     /// Decode it all: where packets of a source without a length in its header were copied, or in safe mode.
@@ -40,6 +45,8 @@ struct TranscodeSteps {
     enum class Work { Copy, Sound, Encode };
 
     QList<TranscodeRun> runs;
+    /// Files that the runs read, by absolute path in the work folder: to be written before the first run.
+    QHash<QString, QByteArray> files;
     OutputExpectation expected;
     QList<tarnwell::Sentence> leftOut;  ///< what the target cannot hold, named
     QList<tarnwell::Sentence> notes;    ///< what the user should know before: "cut at the keyframe at 3.2 s"

@@ -13,8 +13,8 @@ namespace kestrel {
 /// What a user wants of one conversion: values only, all of them sensible as they are. Stored with the job as JSON.
 struct TranscodePlan {
     enum class RateControl { Preset, Quality, BitRate, Size };
-    enum class Deinterlace { Auto, Off, On, DoubleRate };
-    enum class HighDynamicRange { Auto, Keep, ToStandard };  ///< Auto keeps it where the preset can hold it
+    enum class Deinterlace { Auto, Off, On, DoubleRate, Film };  ///< Film takes the doubled fields of 24 pictures out
+    enum class HighDynamicRange { Auto, Keep, ToStandard };      ///< Auto keeps it where the preset can hold it
     enum class SoundMix { AsSource, Mono, Stereo, Surround51 };
     enum class Turn { None, Clockwise, CounterClockwise, UpsideDown };
     enum class SubtitleUse { Keep, Burn, Leave };

@@ -1,0 +1,198 @@
+#include "TrackPlan.h"
+
+#include "foundation/LanguageTags.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using Plan = TranscodePlan;
+using Kind = MediaTrack::Kind;
+using tarnwell::operator""_key;
+
+constexpr const char *readableText =
+    "subrip srt ass ssa mov_text webvtt text eia_608 microdvd sami realtext subviewer "
+    "subviewer1 jacosub mpl2 pjs vplayer stl";
+
+bool isCut(const Plan &plan)
+{
+    return plan.pieces.size() > 1 || plan.sources.size() > 1;
+}
+
+/// ffmpeg's name of the encoder; null where the container cannot hold such subtitles.
+QString subtitleEncoder(const Container &container, const QString &codec, bool isBitmap)
+{
+    if (isBitmap)
+        return tableWords(container.bitmaps).contains(codec) ? u"copy"_s : QString();
+    if (tableWords(container.keptText).contains(codec))
+        return u"copy"_s;
+    return container.text && tableWords(readableText).contains(codec) ? QString::fromLatin1(container.text) : QString();
+}
+
+QString subtitleCodec(const QString &encoder, const QString &source)
+{
+    return encoder == "copy"_L1 ? source : encoder == "srt"_L1 ? u"subrip"_s : encoder;
+}
+
+class Companions {
+public:
+    Companions(TrackPlan &tracks, const Plan &plan, const MediaInformation &source, const TranscodeMachine &machine)
+        : m_tracks(tracks),
+          m_plan(plan),
+          m_source(source),
+          m_machine(machine)
+    {
+    }
+
+    void plan()
+    {
+        for (const MediaTrack &track : m_source.tracks) {
+            if (track.kind == Kind::Subtitle) {
+                planSubtitle(track);
+                ++m_number;
+            } else if (track.kind == Kind::Cover) {
+                planCover(track);
+            } else if (track.kind == Kind::Attachment) {
+                planAttachment(track);
+            }
+        }
+        for (int file = 0; file < m_plan.externalSubtitles.size(); ++file)
+            planSubtitleFile(file);
+        planChapters();
+    }
+
+private:
+    QString containerName() const { return QString::fromLatin1(m_tracks.container->name); }
+    void leaveOut(tarnwell::TextKey key, const QString &name)
+    {
+        m_tracks.leftOut.append({key, {name, containerName()}});
+    }
+
+    void planSubtitle(const MediaTrack &track)
+    {
+        const Plan::SubtitleUse use = m_plan.subtitles.value(track.index, Plan::SubtitleUse::Keep);
+        if (use == Plan::SubtitleUse::Leave || !m_plan.preset.takesVideo() || !m_tracks.video)
+            return;
+        if (use == Plan::SubtitleUse::Burn) {
+            if (!m_tracks.burned)
+                m_tracks.burnedNumber = m_number;
+            burn({.source = &track, .file = -1, .encoder = {}, .codec = track.codec});
+            return;
+        }
+        const QString name = trackName(track, m_machine);
+        const QString encoder = subtitleEncoder(*m_tracks.container, track.codec, track.isBitmap);
+        if (encoder.isNull()) {
+            leaveOut(track.isBitmap
+                         ? "Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV."_key
+                         : "Subtitles: %1. %2 cannot hold them."_key,
+                     name);
+        } else if (m_plan.speedFactor != 1 || isCut(m_plan)) {
+            m_tracks.leftOut.append(
+                {"Subtitles: %1. They cannot follow the changed times; burn them in to keep them."_key, {name}});
+        } else {
+            m_tracks.subtitles.append(
+                {.source = &track, .file = -1, .encoder = encoder, .codec = subtitleCodec(encoder, track.codec)});
+        }
+    }
+
+    void planSubtitleFile(int index)
+    {
+        const Plan::ExternalSubtitle &file = m_plan.externalSubtitles.at(index);
+        if (file.use == Plan::SubtitleUse::Leave || !m_tracks.video)
+            return;
+        const bool isBitmap =
+            file.path.endsWith(".sup"_L1, Qt::CaseInsensitive) || file.path.endsWith(".idx"_L1, Qt::CaseInsensitive);
+        const QString codec =
+            file.path.endsWith(".sup"_L1, Qt::CaseInsensitive)   ? u"hdmv_pgs_subtitle"_s
+            : file.path.endsWith(".idx"_L1, Qt::CaseInsensitive) ? u"dvd_subtitle"_s
+            : file.path.endsWith(".ass"_L1, Qt::CaseInsensitive) || file.path.endsWith(".ssa"_L1, Qt::CaseInsensitive)
+                ? u"ass"_s
+            : file.path.endsWith(".vtt"_L1, Qt::CaseInsensitive) ? u"webvtt"_s
+                                                                 : u"subrip"_s;
+        const QString name = file.path.section(u'/', -1);
+        if (file.use == Plan::SubtitleUse::Burn) {
+            burn({.source = nullptr, .file = index, .encoder = {}, .codec = codec});
+            return;
+        }
+        const QString encoder = subtitleEncoder(*m_tracks.container, codec, isBitmap);
+        if (encoder.isNull())
+            leaveOut("Subtitles: %1. %2 cannot hold them."_key, name);
+        else if (m_plan.speedFactor != 1 || isCut(m_plan))
+            m_tracks.leftOut.append(
+                {"Subtitles: %1. They cannot follow the changed times; burn them in to keep them."_key, {name}});
+        else
+            m_tracks.subtitles.append(
+                {.source = nullptr, .file = index, .encoder = encoder, .codec = subtitleCodec(encoder, codec)});
+    }
+
+    void burn(const SubtitleTrackPlan &subtitle)
+    {
+        if (!m_tracks.burned)
+            m_tracks.burned = subtitle;
+        else
+            m_tracks.leftOut.append(
+                tarnwell::Sentence("Only one track of subtitles can be burnt in; another one stays behind."_key));
+    }
+
+    void planCover(const MediaTrack &track)
+    {
+        const Container &container = *m_tracks.container;
+        const bool isKnown = track.codec == "mjpeg"_L1 || track.codec == "png"_L1;
+        // One picture is what players show.
+        if (!m_tracks.covers.isEmpty())
+            return;
+        if (isKnown && (container.has(Container::Covers) || container.has(Container::AttachedCovers)))
+            m_tracks.covers.append(&track);
+        else
+            m_tracks.leftOut.append({"The cover picture. %1 cannot hold it."_key, {containerName()}});
+    }
+
+    void planAttachment(const MediaTrack &track)
+    {
+        const bool isHeld = m_tracks.container->has(Container::Attachments) && !isCut(m_plan);
+        if (isHeld && !track.mimeType.isEmpty() && !track.fileName.isEmpty())
+            m_tracks.attachments.append(&track);
+        else
+            leaveOut("The attached file %1. %2 cannot hold it."_key,
+                     track.fileName.isEmpty() ? u"#%1"_s.arg(track.index) : track.fileName);
+    }
+
+    void planChapters()
+    {
+        const bool hasSome = !m_source.chapters.isEmpty() || (m_plan.chapterPerSource && m_plan.sources.size() > 1);
+        m_tracks.keepsChapters = hasSome && m_tracks.container->has(Container::Chapters);
+        if (hasSome && !m_tracks.keepsChapters)
+            m_tracks.leftOut.append({"The chapters. %1 cannot hold them."_key, {containerName()}});
+        // Chapters of some containers are a data track as well.
+        const qsizetype data = m_source.tracksOf(Kind::Data).size() - (m_source.chapters.isEmpty() ? 0 : 1);
+        if (data > 0 && m_plan.preset.takesVideo())
+            m_tracks.leftOut.append(tarnwell::Sentence("Data of the camera, such as time code."_key));
+    }
+
+    TrackPlan &m_tracks;
+    const Plan &m_plan;
+    const MediaInformation &m_source;
+    const TranscodeMachine &m_machine;
+    int m_number = 0;  ///< of the next track of subtitles
+};
+
+}  // namespace
+
+void planCompanions(TrackPlan &tracks, const Plan &plan, const MediaInformation &source,
+                    const TranscodeMachine &machine)
+{
+    Companions(tracks, plan, source, machine).plan();
+}
+
+QString trackName(const MediaTrack &track, const TranscodeMachine &machine)
+{
+    if (!track.language.isEmpty())
+        return foundation::languageDisplayName(track.language, machine.language);
+    return track.title.isEmpty() ? u"#%1"_s.arg(track.index) : track.title;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,158 @@
+#include "TrackArguments.h"
+
+#include "FilterText.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using Plan = TranscodePlan;
+using Kind = MediaTrack::Kind;
+
+/// Pictures without a time of their own cannot be kept; these containers may have such.
+bool mayLackTimes(const QString &format)
+{
+    for (const char *name : {"avi", "mpeg", "mpegvideo", "h264", "hevc", "m4v", "vob", "mpegts"}) {
+        if (format.split(u',').contains(QLatin1StringView(name)))
+            return true;
+    }
+    return false;
+}
+
+QString dispositionText(const MediaTrack &track)
+{
+    QStringList flags;
+    if (track.isDefault)
+        flags << u"default"_s;
+    if (track.isForced)
+        flags << u"forced"_s;
+    return flags.isEmpty() ? u"0"_s : flags.join(u'+');
+}
+
+QStringList trackTags(const TrackPlan &tracks, const MediaTrack &track, const QString &specifier)
+{
+    QStringList arguments;
+    if (!tracks.container->has(Container::TrackNames))
+        return {};
+    const QString option = u"-metadata:s:"_s + specifier;
+    if (!track.language.isEmpty())
+        arguments << option << u"language="_s + track.language;
+    if (!track.title.isEmpty()) {
+        arguments << option << u"title="_s + track.title;
+        if (tracks.container->has(Container::HandlerNames))
+            arguments << option << u"handler_name="_s + track.title;
+    }
+    return arguments;
+}
+
+}  // namespace
+
+QStringList commonHead()
+{
+    // "file:" keeps names with a colon or a leading dash from being taken for something else, and play lists of other
+    // places out.
+    return tableWords(
+        "-hide_banner -nostdin -nostats -loglevel repeat+level+verbose -progress pipe:1 "
+        "-stats_period 0.2 -y -protocol_whitelist file");
+}
+
+QStringList commonTail(const TrackPlan &tracks, const QString &output)
+{
+    QStringList arguments{u"-dn"_s, u"-max_muxing_queue_size"_s, u"4096"_s};
+    arguments += tableWords(tracks.container->arguments);
+    return arguments << u"-f"_s << QString::fromLatin1(tracks.container->muxer) << u"file:"_s + output;
+}
+
+QStringList pieceInput(const SourcePiece &piece, const MediaInformation &source, const QString &path,
+                       bool copiesPictures)
+{
+    QStringList arguments;
+    if (copiesPictures && mayLackTimes(source.format))
+        arguments << u"-fflags"_s << u"+genpts"_s;
+    if (piece.start && *piece.start > 0)
+        arguments << u"-ss"_s << numberText(*piece.start);
+    if (piece.end)
+        arguments << u"-to"_s << numberText(*piece.end);
+    return arguments << u"-i"_s << u"file:"_s + path;
+}
+
+QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const MediaInformation &,
+                               const QHash<int, int> &subtitleInputs, const QString &coverPath)
+{
+    QStringList arguments;
+    int number = 0;
+    for (const SubtitleTrackPlan &subtitle : tracks.subtitles) {
+        const QString specifier = u"s:%1"_s.arg(number++);
+        arguments << u"-map"_s
+                  << (subtitle.source ? u"0:%1"_s.arg(subtitle.source->index)
+                                      : u"%1:s:0"_s.arg(subtitleInputs.value(subtitle.file)));
+        arguments << u"-c:"_s + specifier << subtitle.encoder;
+        if (subtitle.source) {
+            arguments << u"-disposition:"_s + specifier << dispositionText(*subtitle.source);
+            arguments += trackTags(tracks, *subtitle.source, specifier);
+        } else if (const QString language = plan.externalSubtitles.at(subtitle.file).language; !language.isEmpty()) {
+            arguments << u"-metadata:s:"_s + specifier << u"language="_s + language;
+        }
+    }
+    for (const MediaTrack *file : tracks.attachments)
+        arguments << u"-map"_s << u"0:%1"_s.arg(file->index);
+    if (!tracks.attachments.isEmpty())
+        arguments << u"-c:t"_s << u"copy"_s;
+    if (!coverPath.isEmpty()) {
+        const bool isPng = coverPath.endsWith(".png"_L1);
+        const QString option = u"-metadata:s:t:%1"_s.arg(tracks.attachments.size());
+        arguments << u"-attach"_s << u"file:"_s + coverPath << option
+                  << (isPng ? u"mimetype=image/png"_s : u"mimetype=image/jpeg"_s) << option
+                  << (isPng ? u"filename=cover.png"_s : u"filename=cover.jpg"_s);
+    } else if (!tracks.covers.isEmpty()) {
+        const QString specifier = tracks.video ? u"v:1"_s : u"v:0"_s;
+        arguments << u"-map"_s << u"0:%1"_s.arg(tracks.covers.first()->index) << u"-c:"_s + specifier << u"copy"_s
+                  << u"-disposition:"_s + specifier << u"attached_pic"_s;
+    }
+    return arguments;
+}
+
+QStringList tagArguments(const Plan &, const TrackPlan &tracks, const MediaInformation &source, int chapters)
+{
+    QStringList arguments{u"-map_metadata"_s, u"0"_s, u"-map_chapters"_s, QString::number(chapters)};
+    if (tracks.video) {
+        arguments += trackTags(tracks, *tracks.video->source, u"v:0"_s);
+        // The name that other players ask for.
+        const QString muxer = QString::fromLatin1(tracks.container->muxer);
+        if (tracks.video->codec == "hevc"_L1 && (muxer == "mp4"_L1 || muxer == "mov"_L1 || muxer == "ipod"_L1))
+            arguments << u"-tag:v:0"_s << u"hvc1"_s;
+    }
+    for (int number = 0; number < tracks.sounds.size(); ++number) {
+        const MediaTrack &track = *tracks.sounds.at(number).source;
+        arguments << u"-disposition:a:%1"_s.arg(number) << dispositionText(track);
+        arguments += trackTags(tracks, track, u"a:%1"_s.arg(number));
+    }
+    // Cameras write these under names of their own, which other containers do not know.
+    const QString place = source.tags.value(u"com.apple.quicktime.location.iso6709"_s);
+    if (!place.isEmpty() && !source.tags.contains(u"location"_s))
+        arguments << u"-metadata"_s << u"location="_s + place;
+    const QString date = source.tags.value(u"com.apple.quicktime.creationdate"_s);
+    if (!date.isEmpty() && !source.tags.contains(u"creation_time"_s))
+        arguments << u"-metadata"_s << u"creation_time="_s + date;
+    return arguments;
+}
+
+QList<OutputExpectation::Track> expectedTracks(const TrackPlan &tracks)
+{
+    QList<OutputExpectation::Track> expected;
+    if (tracks.video)
+        expected.append({Kind::Video, tracks.video->codec});
+    for (const SoundTrackPlan &sound : tracks.sounds)
+        expected.append({Kind::Audio, sound.codec});
+    for (const SubtitleTrackPlan &subtitle : tracks.subtitles)
+        expected.append({Kind::Subtitle, subtitle.codec});
+    for (const MediaTrack *file : tracks.attachments)
+        expected.append({Kind::Attachment, file->codec});
+    for (const MediaTrack *cover : tracks.covers)
+        expected.append({Kind::Cover, cover->codec});
+    return expected;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,92 @@
+#pragma once
+
+#include "Containers.h"
+#include "Encoders.h"
+#include "TranscodeCommand.h"
+
+#include <QSize>
+
+namespace kestrel {
+
+/// What of a source goes into the result, in the order of the result.
+struct SourcePiece {
+    int source = 0;                 ///< in the plan's order
+    std::optional<double> start;    ///< seconds; nothing for the beginning
+    std::optional<double> end;      ///< nothing for the end
+    std::optional<double> seconds;  ///< nothing where the source does not tell
+};
+
+struct VideoTrackPlan {
+    const MediaTrack *source = nullptr;
+    const VideoEncoder *encoder = nullptr;  ///< null where it is copied
+    QString codec;                          ///< of the result
+    bool isHardware = false;
+    bool keepsHdr = false, mapsTones = false;
+    bool deinterlaces = false;
+    QString pixelFormat;
+    QSize uprightSize;     ///< of the source's picture as it stands upright; empty where it is not known
+    QSize size;            ///< of the result
+    double frameRate = 0;  ///< that is asked for; 0 for as the source
+    bool isVariableRate = false;
+};
+
+struct SoundTrackPlan {
+    const MediaTrack *source = nullptr;
+    const SoundEncoder *encoder = nullptr;  ///< null where it is copied
+    QString codec;
+    int channels = 0;
+    QString layout;      ///< to be made; null for as the source
+    qint64 bitRate = 0;  ///< bits a second; 0 for constant quality or none
+    int sampleRate = 0;  ///< 0 for as the source
+};
+
+struct SubtitleTrackPlan {
+    const MediaTrack *source = nullptr;  ///< null where it is a file of its own
+    int file = -1;                       ///< in the plan's list
+    QString encoder;                     ///< ffmpeg's name; "copy"
+    QString codec;                       ///< of the result
+};
+
+/// What becomes of each track of the sources. Tracks point into `sources`; for a join they are those of the first.
+struct TrackPlan {
+    const Container *container = nullptr;
+    std::optional<VideoTrackPlan> video;
+    QList<SoundTrackPlan> sounds;
+    QList<SubtitleTrackPlan> subtitles;
+    std::optional<SubtitleTrackPlan> burned;
+    int burnedNumber = 0;  ///< of the burned track among the tracks of subtitles of its source
+    QList<const MediaTrack *> covers, attachments;
+    bool keepsChapters = false;
+    QList<tarnwell::Sentence> leftOut, notes;
+
+    bool copiesAll() const;
+    bool copiesAny() const;
+};
+
+/// The pieces that the plan keeps, none of them empty.
+QList<SourcePiece> sourcePieces(const TranscodePlan &plan, const QList<MediaInformation> &sources);
+/// Of the result, before it is known to be slowed or hastened by the plan; nothing where a source does not tell.
+std::optional<double> secondsOf(const QList<SourcePiece> &pieces);
+
+foundation::Result<TrackPlan, tarnwell::Sentence> planTracks(const TranscodePlan &plan,
+                                                             const QList<MediaInformation> &sources,
+                                                             const TranscodeMachine &machine);
+
+/// Whether the plan changes each picture, or each sample, so that none can be kept as it is.
+bool changesPictures(const TranscodePlan &plan);
+bool changesSound(const TranscodePlan &plan);
+bool cutsExactly(const TranscodePlan &plan);
+
+// Parts of planTracks
+
+std::optional<VideoTrackPlan> planVideo(const TranscodePlan &plan, const MediaTrack &track, const Container &container,
+                                        const TranscodeMachine &machine, bool isBurnt);
+QList<SoundTrackPlan> planSounds(const TranscodePlan &plan, const QList<const MediaTrack *> &tracks,
+                                 const Container &container, const TranscodeMachine &machine);
+/// Subtitles, covers, attachments and chapters, with what stays behind.
+void planCompanions(TrackPlan &tracks, const TranscodePlan &plan, const MediaInformation &source,
+                    const TranscodeMachine &machine);
+/// "Japanese", or what else tells one track from another.
+QString trackName(const MediaTrack &track, const TranscodeMachine &machine);
+
+}  // namespace kestrel

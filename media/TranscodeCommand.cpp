@@ -1,0 +1,287 @@
+#include "TranscodeCommand.h"
+
+#include "AudioFilters.h"
+#include "ChapterFile.h"
+#include "FilterGraph.h"
+#include "FilterText.h"
+#include "JoinCommand.h"
+#include "RateControl.h"
+#include "TrackArguments.h"
+#include "TrackPlan.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using Plan = TranscodePlan;
+using Kind = MediaTrack::Kind;
+using tarnwell::operator""_key;
+
+/// The length of what is kept, where a track that stays behind is the longest.
+void shortenToKept(QList<SourcePiece> &pieces, const TrackPlan &tracks, const QList<MediaInformation> &sources)
+{
+    if (sources.size() != 1)
+        return;
+    double longest = 0;
+    const auto take = [&](const MediaTrack *track) {
+        longest = track->duration ? std::max(longest, track->start + *track->duration) : 1e12;
+    };
+    if (tracks.video)
+        take(tracks.video->source);
+    for (const SoundTrackPlan &sound : tracks.sounds)
+        take(sound.source);
+    for (SourcePiece &piece : pieces) {
+        if (piece.seconds)
+            piece.seconds = std::clamp(longest - piece.start.value_or(0), 0.0, *piece.seconds);
+    }
+}
+
+class Builder {
+public:
+    Builder(const Plan &plan, const QList<MediaInformation> &sources, const TranscodeMachine &machine,
+            const TranscodePaths &paths, TrackPlan tracks, QList<SourcePiece> pieces)
+        : m_plan(plan),
+          m_sources(sources),
+          m_machine(machine),
+          m_paths(paths),
+          m_tracks(std::move(tracks)),
+          m_pieces(std::move(pieces))
+    {
+        shortenToKept(m_pieces, m_tracks, sources);
+        if (const auto whole = secondsOf(m_pieces))
+            m_seconds = *whole / plan.speedFactor;
+    }
+
+    foundation::Result<TranscodeSteps, tarnwell::Sentence> steps()
+    {
+        auto rate = planRates(m_plan, m_tracks, m_seconds);
+        if (!rate)
+            return foundation::Failure{rate.reason()};
+        m_rate = *rate;
+        addCoverRuns();
+        addInputs();
+        if (m_rate.hasTwoPasses) {
+            addRun(firstPass(), "First pass"_key, 0.4);
+            addRun(lastPass(2), "Second pass"_key, 0.6);
+        } else {
+            addRun(lastPass(0), {}, 1);
+        }
+        finish();
+        return m_steps;
+    }
+
+private:
+    bool isHardware() const { return m_tracks.video && m_tracks.video->isHardware; }
+    QString log() const { return m_paths.workFolder + u"/passes"_s; }
+
+    QStringList threads() const
+    {
+        return m_plan.threads > 0 ? QStringList{u"-threads"_s, QString::number(m_plan.threads)} : QStringList();
+    }
+
+    void addRun(const QStringList &arguments, tarnwell::TextKey stage, double share)
+    {
+        m_steps.runs.append({.arguments = arguments,
+                             .stage = stage.isEmpty() ? tarnwell::Sentence() : tarnwell::Sentence(stage),
+                             .share = share,
+                             .seconds = m_seconds.value_or(0)});
+    }
+
+    /// Covers are attached from files of their own where the container has no other way.
+    void addCoverRuns()
+    {
+        if (m_tracks.covers.isEmpty() || !m_tracks.container->has(Container::AttachedCovers))
+            return;
+        const MediaTrack &cover = *m_tracks.covers.first();
+        m_coverPath = m_paths.workFolder + (cover.codec == "png"_L1 ? u"/cover.png"_s : u"/cover.jpg"_s);
+        QStringList arguments = commonHead() + QStringList{u"-i"_s, u"file:"_s + m_plan.sources.first()};
+        arguments << u"-map"_s << u"0:%1"_s.arg(cover.index) << u"-c"_s << u"copy"_s << u"-frames:v"_s << u"1"_s
+                  << u"-f"_s << u"image2pipe"_s << u"file:"_s + m_coverPath;
+        m_steps.runs.append({.arguments = arguments, .stage = {"Cover"_key}, .share = 0, .seconds = 0});
+    }
+
+    void addInputs()
+    {
+        const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
+        for (const SourcePiece &piece : m_pieces)
+            m_inputs << threads()
+                     << pieceInput(piece, m_sources.at(piece.source), m_plan.sources.at(piece.source), copiesPictures);
+        m_inputCount = int(m_pieces.size());
+        for (SubtitleTrackPlan &subtitle : m_tracks.subtitles) {
+            if (subtitle.file >= 0)
+                m_subtitleInputs.insert(subtitle.file, addSubtitleInput(subtitle.file));
+        }
+        const bool burnsFile =
+            m_tracks.burned && m_tracks.burned->file >= 0 &&
+            (m_tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || m_tracks.burned->codec == "dvd_subtitle"_L1);
+        m_graphInputs = {.pieces = m_pieces, .sources = m_sources};
+        if (burnsFile)
+            m_graphInputs.subtitles = addSubtitleInput(m_tracks.burned->file);
+        const bool hasMark = m_plan.watermark && !m_plan.watermark->imagePath.isEmpty();
+        if (hasMark && m_tracks.video && m_tracks.video->encoder) {
+            m_inputs << u"-i"_s << u"file:"_s + m_plan.watermark->imagePath;
+            m_graphInputs.watermark = m_inputCount++;
+        }
+        m_firstPassInputs = m_inputs;
+        addChapterInput();
+    }
+
+    int addSubtitleInput(int file)
+    {
+        // Without this the first cue would come at the beginning.
+        m_inputs << u"-seek_timestamp"_s << u"1"_s;
+        if (const SourcePiece &piece = m_pieces.first(); piece.start && *piece.start > 0)
+            m_inputs << u"-ss"_s << numberText(*piece.start);
+        m_inputs << u"-i"_s << u"file:"_s + m_plan.externalSubtitles.at(file).path;
+        return m_inputCount++;
+    }
+
+    void addChapterInput()
+    {
+        m_chapters = m_sources.first().chapters.size();
+        m_chapterInput = 0;
+        const bool isChanged = !m_plan.pieces.isEmpty() || m_sources.size() > 1 || m_plan.speedFactor != 1;
+        if (!m_tracks.keepsChapters) {
+            m_chapters = 0;
+            m_chapterInput = -1;
+        } else if (isChanged) {
+            const QList<MediaChapter> chapters = resultChapters(m_plan, m_sources, m_pieces);
+            const QString path = m_paths.workFolder + u"/chapters.txt"_s;
+            m_chapters = chapters.size();
+            m_chapterInput = -1;
+            if (chapters.isEmpty())
+                return;
+            m_steps.files.insert(path, chapterFile(chapters));
+            m_inputs << u"-f"_s << u"ffmetadata"_s << u"-i"_s << u"file:"_s + path;
+            m_chapterInput = m_inputCount++;
+        }
+    }
+
+    QStringList device() const
+    {
+        if (!isHardware())
+            return {};
+        const bool isHevc = m_tracks.video->codec == "hevc"_L1;
+        return {u"-vaapi_device"_s, isHevc ? m_machine.hevcDevice : m_machine.hardwareDevice};
+    }
+
+    QStringList pictureArguments(const FilterGraph &graph, int pass) const
+    {
+        QStringList arguments{u"-map"_s, graph.pictures};
+        if (!graph.pictureFilters.isEmpty())
+            arguments << u"-filter:v:0"_s << graph.pictureFilters;
+        arguments += videoArguments(m_plan, *m_tracks.video, m_rate, pass, log());
+        if (m_tracks.video->encoder) {
+            const bool isSteady =
+                m_tracks.video->encoder->isSteady || !m_tracks.container->has(Container::VariableRate);
+            arguments << u"-fps_mode:v:0"_s << (isSteady ? u"cfr"_s : u"vfr"_s);
+        }
+        return arguments;
+    }
+
+    QStringList firstPass() const
+    {
+        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_graphInputs, m_seconds, false);
+        QStringList arguments = commonHead() + device() + m_firstPassInputs;
+        if (!graph.graph.isEmpty())
+            arguments << u"-filter_complex"_s << graph.graph;
+        arguments += pictureArguments(graph, 1);
+        return arguments + threads() + QStringList{u"-an"_s, u"-sn"_s, u"-dn"_s, u"-f"_s, u"null"_s, u"-"_s};
+    }
+
+    QStringList lastPass(int pass) const
+    {
+        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_graphInputs, m_seconds);
+        QStringList arguments = commonHead() + device() + m_inputs;
+        if (!graph.graph.isEmpty())
+            arguments << u"-filter_complex"_s << graph.graph;
+        if (m_tracks.video)
+            arguments += pictureArguments(graph, pass);
+        for (int number = 0; number < m_tracks.sounds.size(); ++number) {
+            arguments << u"-map"_s << graph.sounds.at(number);
+            if (const QString filters = graph.soundFilterLines.value(number); !filters.isEmpty())
+                arguments << u"-filter:a:%1"_s.arg(number) << filters;
+            arguments += soundArguments(m_plan, m_tracks.sounds.at(number), number);
+        }
+        arguments += companionArguments(m_plan, m_tracks, m_sources.first(), m_subtitleInputs, m_coverPath);
+        arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_chapterInput);
+        arguments += threads();
+        return arguments + commonTail(m_tracks, m_paths.output);
+    }
+
+    void finish()
+    {
+        m_steps.leftOut = m_tracks.leftOut;
+        m_steps.notes = m_tracks.notes;
+        m_steps.expected.tracks = expectedTracks(m_tracks);
+        m_steps.expected.seconds = m_seconds;
+        m_steps.expected.chapters = m_chapters;
+        const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
+        if (copiesPictures)
+            m_steps.expected.rotation = m_tracks.video->source->rotation;
+        m_steps.expected.mayBeLonger = copiesPictures && !m_plan.pieces.isEmpty();
+        if (m_plan.rateControl == Plan::RateControl::Size)
+            m_steps.expected.maximumBytes = m_plan.maximumBytes;
+        const bool tellsLength = std::ranges::all_of(m_sources, &MediaInformation::headerTellsDuration);
+        m_steps.expected.decodesAll = m_plan.safeMode || (m_tracks.copiesAny() && !tellsLength);
+        m_steps.work = m_tracks.copiesAll()                ? TranscodeSteps::Work::Copy
+                       : m_tracks.video && !copiesPictures ? TranscodeSteps::Work::Encode
+                                                           : TranscodeSteps::Work::Sound;
+        m_steps.expectedBytes = expectedSize(m_plan, m_tracks, m_rate, m_sources, m_seconds);
+        m_steps.takesShortcut = isHardware() || m_tracks.copiesAny();
+    }
+
+    const Plan &m_plan;
+    const QList<MediaInformation> &m_sources;
+    const TranscodeMachine &m_machine;
+    const TranscodePaths &m_paths;
+    TrackPlan m_tracks;
+    QList<SourcePiece> m_pieces;
+    std::optional<double> m_seconds;  ///< of the result
+    RateTarget m_rate;
+    QStringList m_inputs, m_firstPassInputs;
+    int m_inputCount = 0;
+    QHash<int, int> m_subtitleInputs;  ///< input of a file of the plan
+    GraphInputs m_graphInputs;
+    int m_chapterInput = 0;
+    qsizetype m_chapters = 0;
+    QString m_coverPath;
+    TranscodeSteps m_steps;
+};
+
+}  // namespace
+
+foundation::Result<TranscodeSteps, tarnwell::Sentence> transcodeSteps(const Plan &plan,
+                                                                      const QList<MediaInformation> &sources,
+                                                                      const TranscodeMachine &machine,
+                                                                      const TranscodePaths &paths)
+{
+    auto tracks = planTracks(plan, sources, machine);
+    if (!tracks)
+        return foundation::Failure{tracks.reason()};
+    const QList<SourcePiece> pieces = sourcePieces(plan, sources);
+    if (pieces.size() == 1)
+        return Builder(plan, sources, machine, paths, *tracks, pieces).steps();
+
+    if (tracks->copiesAll() && canBeJoined(sources))
+        return joinSteps(plan, sources, *tracks, pieces, paths);
+    Plan encoding = plan;
+    encoding.copies = false;
+    tracks = planTracks(encoding, sources, machine);
+    if (!tracks)
+        return foundation::Failure{tracks.reason()};
+    return Builder(encoding, sources, machine, paths, *tracks, pieces).steps();
+}
+
+TranscodePlan withoutShortcuts(Plan plan)
+{
+    plan.copies = false;
+    plan.hardware = false;
+    return plan;
+}
+
+}  // namespace kestrel
