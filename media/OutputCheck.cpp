@@ -157,8 +157,9 @@ OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput
     if (expected.seconds && !findings.isEmpty) {
         const double tolerance = std::max(1.0, *expected.seconds / 100);
         findings.isShort = findings.seconds < *expected.seconds - tolerance;
-        findings.isLong = findings.seconds > *expected.seconds + tolerance;
+        findings.isLong = !expected.mayBeLonger && findings.seconds > *expected.seconds + tolerance;
     }
+    findings.isTooLarge = expected.maximumBytes > 0 && found.bytes > expected.maximumBytes;
     findings.lacksChapters = information.chapters.size() < expected.chapters;
     return findings;
 }

@@ -30,6 +30,7 @@ struct OutputFindings {
     bool isEmpty = false;
     double seconds = 0;
     bool isShort = false, isLong = false;  ///< than expected, by more than a second and one in a hundred
+    bool isTooLarge = false;               ///< for the limit of the plan
     bool lacksChapters = false;
 };
 

@@ -11,6 +11,7 @@
 
 #include <QDate>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <algorithm>
 
@@ -136,6 +137,11 @@ void TranscodeJob::carryOut()
     if (!steps)
         return fail(steps.reason());
     m_steps = *std::move(steps);
+    for (auto file = m_steps.files.cbegin(); file != m_steps.files.cend(); ++file) {
+        QSaveFile writing(file.key());
+        if (!writing.open(QIODevice::WriteOnly) || writing.write(file.value()) < 0 || !writing.commit())
+            return fail("The folder for temporary files cannot be written."_key);
+    }
     for (const Sentence &note : std::as_const(m_steps.notes))
         emit noted(note);
     m_step = 0;

@@ -74,6 +74,8 @@ QList<Sentence> problemsIn(const TranscodeFacts &facts)
     if (findings.isLong && facts.sourceTellsDuration)
         problems.append({"The finished file is %1 s long instead of %2 s."_key,
                          {secondsText(findings.seconds), secondsText(*facts.expected.seconds)}});
+    if (findings.isTooLarge)
+        problems.append("The finished file is larger than wanted."_key);
     if (findings.lacksChapters)
         problems.append("Chapters are missing in the finished file."_key);
     if (facts.ending.cause == ToolEnding::Cause::Stopped && problems.isEmpty())
