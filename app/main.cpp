@@ -9,6 +9,7 @@
 #include "foundation/StandardFolders.h"
 #include "foundation/TerminationSignals.h"
 #include "foundation/UserDefaults.h"
+#include "jobs/OutputFile.h"
 #include "modules/heron/HeronController.h"
 #include "modules/marlin/ui/MarlinController.h"
 #include "modules/petrel/PetrelController.h"
@@ -172,6 +173,8 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
         delegate.appController()->openFiles(files);
     instance.listen();
     foundation::queue::afterMain(std::chrono::milliseconds(250), tarnwell::setWindowIcon);
+    foundation::queue::afterMain(std::chrono::seconds(3),
+                                 [] { foundation::queue::asyncGlobal(OutputFile::sweepDeadOwners); });
     const int status = QApplication::exec();
     fetcher.abandon();
     foundation::queue::finishGlobal();

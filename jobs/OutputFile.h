@@ -13,6 +13,7 @@ namespace kestrel {
 /// moment; nothing unfinished ever shows under its name.
 ///
 /// A part is also written down in a folder of Kestrel's, so that one whose owner was killed is found wherever it lies.
+/// Any thread; `publish` waits for the disk, which takes its time with a large file: not for the main thread.
 class OutputFile {
 public:
     enum class Kind { File, Folder };
@@ -28,7 +29,8 @@ public:
     /// Why it is not valid.
     tarnwell::Sentence reason() const { return m_reason; }
     QString partPath() const { return m_partPath; }
-    /// The part stays when the object goes, to be gone on with: the caller knows where it is.
+    /// The part stays when the object goes, or where the program is killed, to be gone on with: the caller knows where
+    /// it is.
     void keepPart();
 
     /// Syncs the part, calls it `baseName`, or "baseName (1)" and so on where that is taken, and syncs the folder. The
@@ -39,12 +41,15 @@ public:
     static void sweepDeadOwners();
 
 private:
+    tarnwell::Sentence makePart();
+    void forget();
+
     QString m_folder;
     QString m_baseName;
     QString m_extension;
     Kind m_kind;
     QString m_partPath;
-    QString m_registration;  ///< the file that remembers the part
+    QString m_registration;  ///< the link that remembers the part; null where it is kept
     tarnwell::Sentence m_reason;
 };
 

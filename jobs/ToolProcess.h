@@ -23,7 +23,7 @@ struct ToolCommand {
     std::chrono::milliseconds timeLimit{0};     ///< killed after that; 0 for none
     std::chrono::milliseconds silenceLimit{0};  ///< killed after that long without a byte from it; 0 for none
     qint64 outputLimit = 0;                     ///< bytes of standard output, then it is killed; 0 for none
-    bool collectsOutput = false;                ///< the whole standard output is in the ending, instead of lines
+    bool collectsOutput = false;  ///< all of standard output is in the ending, instead of lines; 64 MiB without a limit
     PoliteEnd politeEnd = PoliteEnd::Interrupt;
     std::chrono::milliseconds patience{5000};  ///< between the polite end and the kill
     /// Where set: a second tool whose standard output is this one's standard input. It ends with this one; what it says
@@ -43,17 +43,19 @@ struct ToolEnding {
         Cancelled,
     };
     Cause cause = Cause::Exited;
-    int exitCode = 0;
-    int feederExitCode = 0;
+    int exitCode = 0;        ///< as shells have it: 128 and the signal where one ended it
+    int feederExitCode = 0;  ///< likewise; a feeder that goes on after the tool has ended is killed (137)
     QByteArray output = {};  ///< where it was collected
-    QString lastWords = {};  ///< the last kilobytes of standard error, for "Details"
+    QString lastWords = {};  ///< the last kilobytes of standard error, for "Details"; why it could not be started
 
     bool isGood() const { return cause == Cause::Exited && exitCode == 0; }
 };
 
 /// The only way to run a tool: in a process group of its own that ends, children and all, with this object and with
 /// Kestrel, also where Kestrel is killed. No standard input unless it is fed. Lines of both outputs come whole and
-/// without their ends ("\n", "\r"), at most 64 KiB each (longer ones are cut). Main thread or any with an event loop.
+/// without their ends ("\n", "\r"), at most 64 KiB each (longer ones are cut). What leaves the group on its own (a
+/// daemon) is out of reach. Limits of time do not count while it is paused. Main thread or any with an event loop,
+/// which must not end before the tool.
 class ToolProcess : public QObject {
     Q_OBJECT
 public:
@@ -63,7 +65,7 @@ public:
     void start();
     /// Asks it to end (`politeEnd`), and kills it where it has not within its patience.
     void stop();
-    /// Kills the whole group; `ended` follows within 100 ms.
+    /// Kills the whole group; `ended` follows within 100 ms. No line follows.
     void cancel();
     /// Holds the whole group, which then takes no processor time, and lets it go on.
     void setPaused(bool paused);

@@ -13,6 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+inline namespace marlin {
+
 namespace {
 
 constexpr const char *partMark = ".kestrel-part.";
@@ -100,5 +102,7 @@ QString OutputFile::createNew(const QString &prefix, const QString &suffix)
     m_reason = failureIn({}).sentence;
     return {};
 }
+
+}  // namespace marlin
 
 }  // namespace kestrel

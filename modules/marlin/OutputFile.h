@@ -4,6 +4,9 @@
 
 namespace kestrel {
 
+// Apart from the class of that name in jobs/
+inline namespace marlin {
+
 /// A file that a tool is to write, kept from sight until it is whole. It begins as a hidden part in its folder;
 /// `publish` gives it a name of its own there, and without that the part goes with the object. No file that exists is
 /// ever written over, even where somebody makes one of that name at the same moment.
@@ -38,5 +41,7 @@ private:
     QString m_partPath;
     QString m_reason;
 };
+
+}  // namespace marlin
 
 }  // namespace kestrel

@@ -1,0 +1,24 @@
+#include "TranscodeProgress.h"
+
+#include <algorithm>
+
+namespace kestrel {
+
+void TranscodeProgress::readLine(const QByteArray &line)
+{
+    const qsizetype equals = line.indexOf('=');
+    const QByteArray key = line.left(std::max<qsizetype>(equals, 0)).trimmed();
+    const QByteArray value = line.mid(equals + 1).trimmed();
+    m_isAtReportEnd = key == "progress";
+    // "N/A" and negative numbers before the first picture read as nothing.
+    if (key == "out_time_us")
+        m_seconds = std::max(m_seconds, double(value.toLongLong()) / 1e6);
+    else if (key == "frame")
+        m_frames = std::max(m_frames, value.toLongLong());
+    else if (key == "total_size")
+        m_bytes = std::max<qint64>(0, value.toLongLong());
+    else if (key == "progress")
+        m_hasEnded = value == "end";
+}
+
+}  // namespace kestrel
