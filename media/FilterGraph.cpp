@@ -13,15 +13,6 @@ namespace {
 using Plan = TranscodePlan;
 using Kind = MediaTrack::Kind;
 
-bool isBitmapBurnt(const TrackPlan &tracks)
-{
-    if (!tracks.burned)
-        return false;
-    return tracks.burned->source
-               ? tracks.burned->source->isBitmap
-               : tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || tracks.burned->codec == "dvd_subtitle"_L1;
-}
-
 /// Chains of a graph, separated by semicolons; an empty list of filters still needs one.
 class Graph {
 public:
@@ -147,6 +138,15 @@ private:
 };
 
 }  // namespace
+
+bool isBitmapBurnt(const TrackPlan &tracks)
+{
+    if (!tracks.burned)
+        return false;
+    return tracks.burned->source
+               ? tracks.burned->source->isBitmap
+               : tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || tracks.burned->codec == "dvd_subtitle"_L1;
+}
 
 FilterGraph filterGraph(const Plan &plan, const TrackPlan &tracks, const GraphInputs &inputs,
                         std::optional<double> seconds, bool withSound)

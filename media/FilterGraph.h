@@ -20,6 +20,9 @@ struct GraphInputs {
     int subtitles = -1;  ///< input of a file with subtitles that are pictures, to be burnt in
 };
 
+/// Whether subtitles that are pictures are laid over the result's.
+bool isBitmapBurnt(const TrackPlan &tracks);
+
 FilterGraph filterGraph(const TranscodePlan &plan, const TrackPlan &tracks, const GraphInputs &inputs,
                         std::optional<double> seconds, bool withSound = true);
 
