@@ -1,11 +1,11 @@
 // disccover [--title N] [--ffmpeg PATH] SOURCE TARGET: writes a picture that stands for the film, or for one of its
 // titles.
 
-#include "CoverChoice.h"
 #include "DiscTables.h"
 #include "FrameDecoder.h"
 #include "PictureSearch.h"
 #include "ToolRun.h"
+#include "helpers/heron/CoverChoice.h"
 
 #include <QCommandLineParser>
 #include <QFile>

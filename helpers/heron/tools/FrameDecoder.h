@@ -1,7 +1,7 @@
 #pragma once
 
-#include "DiscError.h"
 #include "foundation/Result.h"
+#include "helpers/heron/DiscError.h"
 
 #include <QByteArray>
 #include <QStringList>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DiscError.h"
-#include "Pack.h"
 #include "foundation/Result.h"
+#include "helpers/heron/DiscError.h"
+#include "helpers/heron/Pack.h"
 
 #include <QString>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "DiscSource.h"
-#include "TitleLayout.h"
+#include "helpers/heron/TitleLayout.h"
 
 #include <functional>
 #include <vector>

@@ -1,7 +1,7 @@
 #include "DiscTables.h"
 
-#include "MainTitle.h"
 #include "TitleAttributes.h"
+#include "helpers/heron/MainTitle.h"
 
 #include <dvdread/ifo_read.h>
 

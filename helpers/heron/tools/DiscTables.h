@@ -1,8 +1,8 @@
 #pragma once
 
-#include "DiscContents.h"
 #include "DiscSource.h"
-#include "TitleLayout.h"
+#include "helpers/heron/DiscContents.h"
+#include "helpers/heron/TitleLayout.h"
 
 namespace kestrel::disc {
 

@@ -1,6 +1,6 @@
 #include "SectorCopy.h"
 
-#include "Pack.h"
+#include "helpers/heron/Pack.h"
 
 #include <QCryptographicHash>
 #include <QFile>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DiscError.h"
+#include "helpers/heron/DiscError.h"
 
 #include <QJsonObject>
 

@@ -1,14 +1,14 @@
 #include "TitleExport.h"
 
-#include "SubtitleFiles.h"
+#include "helpers/heron/SubtitleFiles.h"
 
 #include <QJsonArray>
 
 #include <unistd.h>
-#include <utility>
 #include <algorithm>
 #include <cerrno>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -17,8 +17,11 @@ namespace kestrel::disc {
 namespace {
 
 constexpr qsizetype bufferBytes = 1 << 20;
-constexpr int milliseconds = 250;    // between two lines of progress
-constexpr int leadSectors = 512;     // enough for the first packets of every track
+constexpr int milliseconds = 250;  // between two lines of progress
+constexpr int leadSectors = 512;   // enough for the first packets of every track
+// Sound is stored shortly before it is played, pictures long before: where a chapter begins, there is sound of what
+// came before it. This much is no more than the beginning of a frame of sound.
+constexpr qint64 earlySound = ticksPerSecond / 10;
 constexpr int enoughScrambled = 16;  // some may be damage
 
 double secondsOfTicks(qint64 ticks)
@@ -43,7 +46,7 @@ TitleExport::TitleExport(ToolRun &run, const DiscTitle &title, QList<TitleCell> 
 TitleExport::~TitleExport() = default;
 
 // No time may come before 0, but the first pictures are decoded, and some sound played, before the first is shown.
-qint64 TitleExport::findLead()
+void TitleExport::findLead()
 {
     std::vector<uchar> sectors(leadSectors * sectorBytes);
     const TitleCell &cell = m_cells.first();
@@ -55,22 +58,23 @@ qint64 TitleExport::findLead()
         if (const auto unit = navigationOf(sector); unit && !first)
             first = unit->startTime;
         for (const Packet &packet : packetsOf(sector)) {
-            if (!packet.pts || packet.isSubtitle())
+            const bool isEarly = packet.isSound() && first && packet.pts < *first - earlySound;
+            if (!packet.pts || packet.isSubtitle() || isEarly)
                 continue;
             played = std::min(played.value_or(*packet.pts), *packet.pts);
             earliest = std::min({earliest.value_or(*packet.pts), *packet.pts, packet.dts.value_or(*packet.pts)});
         }
     }
     if (!first || !earliest)
-        return 0;
-    const qint64 lead = std::clamp<qint64>(*first - *earliest, 0, 5 * ticksPerSecond);
-    m_zero = std::max<qint64>(0, lead + std::min<qint64>(*played - *first, 0));
-    return lead;
+        return;
+    m_lead = std::clamp<qint64>(*first - *earliest, 0, 5 * ticksPerSecond);
+    m_zero = std::max<qint64>(0, m_lead + std::min<qint64>(*played - *first, 0));
 }
 
 int TitleExport::write()
 {
-    m_clock = TitleClock(findLead());
+    findLead();
+    m_clock = TitleClock(m_lead);
     if (!m_wish.subtitlePrefix.isEmpty()) {
         m_subtitles = std::make_unique<SubtitleFiles>(m_wish.subtitlePrefix, m_title, m_zero);
         if (!m_subtitles->open())
@@ -97,14 +101,15 @@ bool TitleExport::take(Sector sector, const TitleCell &cell, bool afterLoss)
     // In the image of a damaged disc there are zeros for what could not be read.
     if (!isPack(sector)) {
         ++m_emptySectors;
-        m_isBehindEmpty = true;
+        m_isAfterLoss = true;
         return true;
     }
-    afterLoss |= std::exchange(m_isBehindEmpty, false);
+    m_isAfterLoss |= afterLoss;
     if (m_sinceReport.elapsed() >= milliseconds)
         report();
     if (const auto unit = navigationOf(sector)) {
-        m_clock.enter(*unit, afterLoss ? TitleClock::Before::Loss : TitleClock::Before::Everything);
+        m_clock.enter(*unit,
+                      std::exchange(m_isAfterLoss, false) ? TitleClock::Before::Loss : TitleClock::Before::Everything);
         for (; m_chapter < cell.chapter; ++m_chapter)
             if (m_chapter + 1 >= m_wish.firstChapter)
                 m_chapters.append(std::max(0.0, secondsOfTicks(m_clock.start() - m_zero)));
@@ -117,7 +122,6 @@ bool TitleExport::take(Sector sector, const TitleCell &cell, bool afterLoss)
 
 bool TitleExport::takeFilm(Sector sector)
 {
-    moveClocks(sector, m_clock.move());
     Packets packets = packetsOf(sector);
     if (packets.count == 0)
         return true;  // padding, or nothing at all
@@ -125,8 +129,10 @@ bool TitleExport::takeFilm(Sector sector)
         std::any_of(packets.begin(), packets.end(), [](const Packet &packet) { return packet.isScrambled; });
     if (isScrambled && ++m_scrambled >= enoughScrambled)
         return giveUp(DiscError::Protected);
-    if (repeatsSound(packets))
+    if (isSoundOfBefore(packets))
         return true;
+    moveClocks(sector, m_clock.move());
+    packets = packetsOf(sector);
     for (const Packet &packet : packets)
         if (m_subtitles && packet.isSubtitle() && !m_subtitles->add(sector, packet))
             return giveUp(DiscError::Write);
@@ -136,13 +142,14 @@ bool TitleExport::takeFilm(Sector sector)
 
 // Where two pieces meet, the sound of the first may reach into the second: what would be played at the same time, or
 // before, is left out.
-bool TitleExport::repeatsSound(Packets &packets)
+bool TitleExport::isSoundOfBefore(const Packets &packets)
 {
-    if (packets.count != 1 || !packets.items[0].isSound() || !packets.items[0].pts)
+    const Packet &packet = packets.items[0];
+    if (packets.count != 1 || !packet.isSound() || !packet.pts)
         return false;
-    const qint64 time = *packets.items[0].pts;
-    const auto [latest, isNew] = m_soundTimes.try_emplace(packets.items[0].streamId, time);
-    if (!isNew && time <= latest->second) {
+    const qint64 time = *packet.pts + m_clock.move();
+    const auto [latest, isNew] = m_soundTimes.try_emplace(packet.streamId, m_lead - earlySound - 1);
+    if (time <= latest->second) {
         ++m_repeated;
         return true;
     }

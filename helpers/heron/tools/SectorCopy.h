@@ -1,8 +1,8 @@
 #pragma once
 
-#include "CopyMap.h"
 #include "ToolRun.h"
 #include "foundation/Result.h"
+#include "helpers/heron/CopyMap.h"
 
 #include <QElapsedTimer>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "DiscContents.h"
+#include "helpers/heron/DiscContents.h"
 
 #include <dvdread/ifo_types.h>
 

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "DiscTables.h"
-#include "TitleClock.h"
 #include "TitleReading.h"
 #include "ToolRun.h"
+#include "helpers/heron/TitleClock.h"
 
 #include <QElapsedTimer>
 
@@ -33,10 +33,10 @@ public:
     int write();
 
 private:
-    qint64 findLead();
+    void findLead();
     bool take(Sector sector, const TitleCell &cell, bool afterLoss);
     bool takeFilm(Sector sector);
-    bool repeatsSound(Packets &packets);
+    bool isSoundOfBefore(const Packets &packets);
     bool flush();
     bool giveUp(DiscError error);
     void report();
@@ -54,10 +54,11 @@ private:
     std::map<int, qint64> m_soundTimes;  ///< the latest of each track
     QList<double> m_chapters;
     std::optional<DiscError> m_error;
+    qint64 m_lead = 0;  ///< when its first picture is shown
     qint64 m_zero = 0;  ///< when its first picture or sound is played
     qint64 m_sectors = 0, m_sectorsRead = 0, m_written = 0;
     qint64 m_emptySectors = 0;
-    bool m_isBehindEmpty = false;
+    bool m_isAfterLoss = false;  ///< since the last unit began
     int m_chapter = 0, m_scrambled = 0, m_repeated = 0;
 };
 
