@@ -48,7 +48,12 @@ TEST(MainTitle, IsTheFilmAndNotTheLongest)
 
 TEST(DiscContents, ComesBackFromItsJson)
 {
-    DiscTitle title{.number = 3, .isMain = true, .seconds = 60.5, .aspect = u"16:9"_s, .standard = u"NTSC"_s};
+    DiscTitle title;
+    title.number = 3;
+    title.isMain = true;
+    title.seconds = 60.5;
+    title.aspect = u"16:9"_s;
+    title.standard = u"NTSC"_s;
     title.width = 720;
     title.height = 480;
     title.chapters = {0, 15.25};
