@@ -1,8 +1,20 @@
 kestrel_test(media
     SOURCES
+        HardwareInformationTest.cpp
         MediaFilesTest.cpp
         MediaProberTest.cpp
         MediaReportTest.cpp
         MediaSamples.cpp MediaSamples.h
+        OutputCheckTest.cpp
         ToolMessagesTest.cpp
-    LINKS kestrel_media)
+        TranscodeJobTest.cpp
+    LINKS kestrel_media_ui)
+
+# Damage of every kind, which takes minutes: ctest -L long
+add_executable(kestrel_media_helper media/media_helper.cpp)
+target_link_libraries(kestrel_media_helper PRIVATE kestrel_media)
+add_library(kestrel_failing_disk MODULE media/failing_disk.cpp)
+target_link_libraries(kestrel_failing_disk PRIVATE ${CMAKE_DL_LIBS})
+add_test(NAME media.damage COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/media/damage_test.py"
+    "$<TARGET_FILE:kestrel_media_helper>" "$<TARGET_FILE:kestrel_failing_disk>")
+set_tests_properties(media.damage PROPERTIES LABELS long TIMEOUT 3600)
