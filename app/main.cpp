@@ -5,6 +5,7 @@
 #include "app/ui/AppDelegate.h"
 #include "foundation/Bundle.h"
 #include "foundation/Fetch.h"
+#include "foundation/FileNames.h"
 #include "foundation/LanguageTags.h"
 #include "foundation/Queues.h"
 #include "foundation/StandardFolders.h"
@@ -30,7 +31,6 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
-#include <QFileInfo>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSessionManager>
@@ -48,17 +48,17 @@ namespace kestrel {
 namespace {
 
 /// Absolute paths of the files named on the command line; --help and --version end the process here.
-QStringList filesOf(const QCoreApplication &application)
+QStringList filesOf(int argc, char **argv)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"A desktop hub for video work."_s);
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument(u"files"_s, u"Media files to open in the converter."_s, u"[FILE…]"_s);
-    parser.process(application);
+    parser.process(foundation::decodedArguments(argc, argv));
     QStringList files;
     for (const QString &argument : parser.positionalArguments())
-        files.append(QFileInfo(argument).absoluteFilePath());
+        files.append(foundation::absoluteFileName(argument));
     return files;
 }
 
@@ -68,7 +68,7 @@ bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &file
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Kestrel"_s);
     QCoreApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
-    files = filesOf(application);
+    files = filesOf(argc, argv);
     const SingleInstance::Role role = instance.claim(files);
     if (role == SingleInstance::Role::Unanswered)
         std::fputs("Kestrel is running already, but does not answer.\n", stderr);

@@ -3,11 +3,11 @@
 #include "FolderRow.h"
 #include "KeyPathBinder.h"
 #include "foundation/NotificationCenter.h"
+#include "media/ui/NXHardwareInfoController.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "settings/SettingLists.h"
 #include "tarnwell/Folders.h"
-#include "tarnwell/ui/NXHardwareInfoController.h"
 #include "ui_JKestrelSettingController.h"
 
 #include <algorithm>
@@ -167,7 +167,7 @@ void JKestrelSettingController::onDownloadProxyEnableStateChanged()
 
 void JKestrelSettingController::showHardwareSettings()
 {
-    auto &controller = tarnwell::NXHardwareInfoController::loadDefaultWindowController();
+    auto &controller = NXHardwareInfoController::loadDefaultWindowController();
     controller.setEncoderPath(m_setting.transcoderPath());
     controller.presentForWindow(window());
 }
