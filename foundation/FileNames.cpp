@@ -106,7 +106,11 @@ FileFacts fileFacts(const QString &path)
     const FileKind kind = S_ISREG(status.st_mode)   ? FileKind::File
                           : S_ISDIR(status.st_mode) ? FileKind::Folder
                                                     : FileKind::Other;
-    return {.kind = kind, .bytes = qint64(status.st_size), .isReadable = access(bytes.constData(), R_OK) == 0};
+    return {.kind = kind,
+            .bytes = qint64(status.st_size),
+            .isReadable = access(bytes.constData(), R_OK) == 0,
+            .modified = QDateTime::fromMSecsSinceEpoch(qint64(status.st_mtim.tv_sec) * 1000 +
+                                                       status.st_mtim.tv_nsec / 1'000'000)};
 }
 
 }  // namespace kestrel::foundation

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <QDateTime>
 #include <QString>
 #include <QUrl>
+
+#include <optional>
 
 /// Names of files as texts. The system's names are bytes and need not be UTF-8; a byte that is none stands in the text
 /// as a lone surrogate, U+DC80 to U+DCFF, so that every name has a text of its own and comes back as it was. Qt's own
@@ -25,6 +28,7 @@ struct FileFacts {
     FileKind kind = FileKind::Missing;
     qint64 bytes = 0;
     bool isReadable = false;
+    std::optional<QDateTime> modified = {};
 };
 FileFacts fileFacts(const QString &path);
 

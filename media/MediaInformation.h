@@ -92,7 +92,8 @@ inline constexpr qint64 maximumReportBytes = 4 * 1024 * 1024;
 /// bytes: nonsense in a field reads as absent.
 std::optional<MediaInformation> parseMediaInformation(const QByteArray &json);
 
-/// Adds what only pictures carry (mastering display, light level) from `ffprobe -show_frames` of the track's first one.
-void addPictureData(const QByteArray &json, MediaTrack &track);
+/// Adds what only pictures carry (mastering display, light level) from `ffprobe -show_frames` of the film's first
+/// one.
+void addPictureData(const QByteArray &json, MediaInformation &information);
 
 }  // namespace kestrel

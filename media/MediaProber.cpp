@@ -19,30 +19,6 @@ namespace {
 
 constexpr tarnwell::TextKey noMedia = "This is no video or sound file."_key;
 
-/// Mastering data that only pictures carry: PQ without it loses its look when it is encoded.
-bool wantsPictureData(const MediaInformation &information)
-{
-    const MediaTrack *video = information.firstOf(MediaTrack::Kind::Video);
-    return video && video->isHdr() && video->masteringDisplay.isNull();
-}
-
-ToolCommand pictureCommand(const QString &proberPath, const QString &argument, int track,
-                           std::chrono::milliseconds timeLimit)
-{
-    ToolCommand command = probeCommand(proberPath, argument, timeLimit);
-    command.arguments = QStringList{u"-v"_s, u"error"_s} + inputOptions() +
-                        QStringList{u"-select_streams"_s,
-                                    QString::number(track),
-                                    u"-show_frames"_s,
-                                    u"-read_intervals"_s,
-                                    u"%+#1"_s,
-                                    u"-of"_s,
-                                    u"json"_s,
-                                    u"-i"_s,
-                                    argument};
-    return command;
-}
-
 Sentence probeFailure(const ToolEnding &ending)
 {
     using enum ToolEnding::Cause;
@@ -78,6 +54,26 @@ ToolCommand probeCommand(const QString &proberPath, const QString &argument, std
             .timeLimit = timeLimit,
             .outputLimit = maximumReportBytes,
             .collectsOutput = true};
+}
+
+std::optional<ToolCommand> pictureDataCommand(const QString &proberPath, const QString &argument,
+                                              const MediaInformation &information, std::chrono::milliseconds timeLimit)
+{
+    const MediaTrack *video = information.firstOf(MediaTrack::Kind::Video);
+    if (!video || !video->isHdr() || !video->masteringDisplay.isNull())
+        return std::nullopt;
+    ToolCommand command = probeCommand(proberPath, argument, timeLimit);
+    command.arguments = QStringList{u"-v"_s, u"error"_s} + inputOptions() +
+                        QStringList{u"-select_streams"_s,
+                                    QString::number(video->index),
+                                    u"-show_frames"_s,
+                                    u"-read_intervals"_s,
+                                    u"%+#1"_s,
+                                    u"-of"_s,
+                                    u"json"_s,
+                                    u"-i"_s,
+                                    argument};
+    return command;
 }
 
 foundation::Result<MediaInformation, Sentence> probeResult(const ToolEnding &ending)
@@ -148,9 +144,12 @@ void MediaProber::start(const Request &request)
     probe.path = std::make_unique<ToolPath>(request.path);
     runTool(probe, probeCommand(request.proberPath, probe.path->argument(), m_timeLimit),
             [this, &probe](const ToolEnding &ending) {
-                Answer answer = probeResult(ending);
-                if (answer && wantsPictureData(*answer))
-                    lookAtPicture(probe, *std::move(answer));
+                const Answer answer = probeResult(ending);
+                const auto second =
+                    answer ? pictureDataCommand(probe.request.proberPath, probe.path->argument(), *answer, m_timeLimit)
+                           : std::nullopt;
+                if (second)
+                    lookAtPicture(probe, *second, *answer);
                 else
                     finish(probe, answer);
             });
@@ -165,15 +164,11 @@ void MediaProber::runTool(Probe &probe, const ToolCommand &command, std::functio
     probe.process->start();
 }
 
-void MediaProber::lookAtPicture(Probe &probe, MediaInformation information)
+void MediaProber::lookAtPicture(Probe &probe, const ToolCommand &command, MediaInformation information)
 {
-    const int index = information.firstOf(MediaTrack::Kind::Video)->index;
-    const ToolCommand command = pictureCommand(probe.request.proberPath, probe.path->argument(), index, m_timeLimit);
-    runTool(probe, command, [this, &probe, information, index](const ToolEnding &ending) mutable {
-        for (MediaTrack &track : information.tracks) {
-            if (track.index == index && ending.isGood())
-                addPictureData(ending.output, track);
-        }
+    runTool(probe, command, [this, &probe, information = std::move(information)](const ToolEnding &ending) mutable {
+        if (ending.isGood())
+            addPictureData(ending.output, information);
         finish(probe, information);
     });
 }

@@ -24,7 +24,11 @@ QStringList inputOptions();
 
 /// One look at a file; `argument` is a ToolPath's.
 ToolCommand probeCommand(const QString &proberPath, const QString &argument, std::chrono::milliseconds timeLimit);
-/// What came of it, or why the file cannot be converted.
+/// A second look, for mastering data that only pictures carry: PQ without it loses its look when it is encoded. What
+/// comes of it is for `addPictureData`. Nothing where there is no need.
+std::optional<ToolCommand> pictureDataCommand(const QString &proberPath, const QString &argument,
+                                              const MediaInformation &information, std::chrono::milliseconds timeLimit);
+/// What came of the first look, or why the file cannot be converted.
 foundation::Result<MediaInformation, tarnwell::Sentence> probeResult(const ToolEnding &ending);
 /// Why the file cannot even be looked at; none where it can.
 tarnwell::Sentence unreadableReason(const QString &path);
@@ -64,7 +68,7 @@ private:
     void startPending();
     void start(const Request &request);
     void runTool(Probe &probe, const ToolCommand &command, std::function<void(const ToolEnding &)> then);
-    void lookAtPicture(Probe &probe, MediaInformation information);
+    void lookAtPicture(Probe &probe, const ToolCommand &command, MediaInformation information);
     void finish(const Probe &probe, const Answer &answer);
 
     std::chrono::milliseconds m_timeLimit;

@@ -314,10 +314,12 @@ std::optional<MediaInformation> parseMediaInformation(const QByteArray &json)
     return information;
 }
 
-void addPictureData(const QByteArray &json, MediaTrack &track)
+void addPictureData(const QByteArray &json, MediaInformation &information)
 {
-    if (json.size() > maximumReportBytes)
+    const MediaTrack *video = information.firstOf(MediaTrack::Kind::Video);
+    if (json.size() > maximumReportBytes || !video)
         return;
+    MediaTrack &track = information.tracks[video - information.tracks.constData()];
     const QJsonArray frames = QJsonDocument::fromJson(json).object()["frames"_L1].toArray();
     const int rotation = track.rotation;
     readSideData(frames.at(0).toObject()["side_data_list"_L1].toArray(), track);

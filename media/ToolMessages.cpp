@@ -46,12 +46,12 @@ void ToolMessages::readLine(const QByteArray &line)
 {
     const QByteArray level = levelOf(line);
     if (level == "verbose") {
-        static const QRegularExpression muxed(u"Output stream #\\d+:(\\d+) .*?(\\d+) packets muxed"_s);
-        constexpr qsizetype maximumStreams = 1000;
-        if (!line.contains("packets muxed") || m_packetsMuxed.size() >= maximumStreams)
+        static const QRegularExpression muxed(u"Output stream #\\d+:\\d+ \\((\\w+)\\): .*?(\\d+) packets muxed"_s);
+        constexpr qsizetype maximumTracks = 1000;
+        if (!line.contains("packets muxed") || m_muxedTracks.size() >= maximumTracks)
             return;
         if (const auto match = muxed.match(QString::fromUtf8(line)); match.hasMatch())
-            m_packetsMuxed.insert(match.captured(1).toInt(), match.captured(2).toLongLong());
+            m_muxedTracks.append({match.captured(1), match.captured(2).toLongLong()});
         return;
     }
     if (level == "info" || line.trimmed().isEmpty())

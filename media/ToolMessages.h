@@ -2,10 +2,17 @@
 
 #include "TranscodeFailure.h"
 
-#include <QHash>
+#include <QList>
 #include <QStringList>
 
 namespace kestrel {
+
+/// What ffmpeg says that it wrote of one track.
+struct MuxedTrack {
+    QString kind;  ///< "video", "audio", "subtitle", "attachment", "data"
+    qint64 packets = 0;
+    bool operator==(const MuxedTrack &) const = default;
+};
 
 /// Reads what ffmpeg says under `-loglevel repeat+level+verbose`, line by line: counts what it reports as errors, keeps
 /// the first and the last of them, and knows how many packets it wrote. As much as it may say, only that is kept.
@@ -21,8 +28,8 @@ public:
     /// Errors, and packets and pictures that it calls corrupt.
     int faults() const { return m_faults; }
     bool saysEmptyOutput() const { return m_saysEmptyOutput; }
-    /// By the number of the stream in the output; empty where it was not told.
-    const QHash<int, qint64> &packetsMuxed() const { return m_packetsMuxed; }
+    /// In the order of the output; empty where it was not told.
+    const QList<MuxedTrack> &muxedTracks() const { return m_muxedTracks; }
     /// The cause that is told most plainly.
     TranscodeFailure failure() const { return m_failure; }
     /// The first and the last faults, or the last lines where there are none.
@@ -34,7 +41,7 @@ private:
     QStringList m_paths;
     int m_faults = 0;
     bool m_saysEmptyOutput = false;
-    QHash<int, qint64> m_packetsMuxed;
+    QList<MuxedTrack> m_muxedTracks;
     TranscodeFailure m_failure;
     QStringList m_first;
     QStringList m_last;

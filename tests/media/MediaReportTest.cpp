@@ -136,9 +136,9 @@ TEST(MediaReportTest, MasteringDataOfTracksAndPictures)
     const MediaTrack track = videoOf(masteringData);
     EXPECT_EQ(track.masteringDisplay, display);
     EXPECT_EQ(track.lightLevel, u"1000,400");
-    MediaTrack bare;
-    bare.rotation = 90;
-    addPictureData(R"({"frames": [{)" + masteringData + "}]}", bare);
+    MediaInformation film = informationOf(R"({"codec_type": "video", "tags": {"rotate": "90"}})");
+    addPictureData(R"({"frames": [{)" + masteringData + "}]}", film);
+    const MediaTrack &bare = film.tracks[0];
     EXPECT_TRUE(bare.masteringDisplay == display && bare.lightLevel == u"1000,400" && bare.rotation == 90);
     EXPECT_TRUE(
         videoOf(R"("side_data_list": [{"side_data_type": "Mastering display metadata"}])").masteringDisplay.isNull());

@@ -35,7 +35,7 @@ TEST(ToolMessagesTest, KeepsBothEndsAndThePackets)
     messages.readLine("[verbose]   Output stream #0:0 (video): 75 frames encoded; 75 packets muxed (257402 bytes); ");
     messages.readLine("[verbose]   Output stream #0:1 (audio): 131 packets muxed (26296 bytes); ");
     messages.readLine("[verbose]   Input stream #0:7 (audio): 5 packets read (26296 bytes); ");
-    EXPECT_EQ(messages.packetsMuxed(), (QHash<int, qint64>{{0, 75}, {1, 131}}));
+    EXPECT_EQ(messages.muxedTracks(), (QList<MuxedTrack>{{u"video"_s, 75}, {u"audio"_s, 131}}));
     messages.readLine("[warning] a word of warning");
     EXPECT_EQ(messages.text(), u"[warning] a word of warning");
     EXPECT_FALSE(messages.saysEmptyOutput());

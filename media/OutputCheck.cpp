@@ -1,0 +1,167 @@
+#include "OutputCheck.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+QStringList codecsOf(const QList<OutputExpectation::Track> &tracks, MediaTrack::Kind kind)
+{
+    QStringList codecs;
+    for (const OutputExpectation::Track &track : tracks) {
+        if (track.kind == kind)
+            codecs.append(track.codec);
+    }
+    return codecs;
+}
+
+QStringList codecsOf(const QList<MediaTrack> &tracks, MediaTrack::Kind kind)
+{
+    QStringList codecs;
+    for (const MediaTrack &track : tracks) {
+        if (track.kind == kind)
+            codecs.append(track.codec);
+    }
+    return codecs;
+}
+
+/// Uncompressed sound is read in portions of the reader's own; the last packet of FLAC is for the header.
+bool canBeCounted(const QString &codec)
+{
+    return !codec.startsWith("pcm_"_L1) && !codec.startsWith("adpcm_"_L1);
+}
+
+/// Whether there are as many packets of the kind as were written, track by track.
+bool hasAllPackets(const ToldOutput &told, const FoundOutput &found, MediaTrack::Kind kind, const QString &toldKind)
+{
+    QList<qint64> written;
+    for (const MuxedTrack &track : told.tracks) {
+        if (track.kind == toldKind)
+            written.append(track.packets);
+    }
+    qsizetype number = 0;
+    for (qsizetype index = 0; index < found.information.tracks.size(); ++index) {
+        const MediaTrack &track = found.information.tracks[index];
+        if (track.kind != kind)
+            continue;
+        if (number == written.size())
+            return false;
+        const qint64 expected = written[number++];
+        const qint64 packets = found.packets.value(index);
+        const bool isRight = packets == expected || (track.codec == "flac"_L1 && packets == expected - 1);
+        if (canBeCounted(track.codec) && !isRight)
+            return false;
+    }
+    return true;
+}
+
+Sentence damageIn(const ToldOutput &told, const FoundOutput &found)
+{
+    if (told.bytes && *told.bytes != found.bytes)
+        return {"The finished file has %1 bytes instead of %2."_key,
+                {QString::number(found.bytes), QString::number(*told.bytes)}};
+    const bool isWhole = told.tracks.isEmpty() || (hasAllPackets(told, found, MediaTrack::Kind::Video, u"video"_s) &&
+                                                   hasAllPackets(told, found, MediaTrack::Kind::Audio, u"audio"_s));
+    return isWhole ? Sentence() : Sentence("Parts of the finished file are missing."_key);
+}
+
+Sentence mismatchIn(const OutputExpectation &expected, const MediaInformation &found)
+{
+    using enum MediaTrack::Kind;
+    for (const auto kind : {Video, Audio, Subtitle, Cover, Attachment}) {
+        const QStringList wanted = codecsOf(expected.tracks, kind);
+        // Matroska's attached pictures come back as covers, and fonts without a codec.
+        const bool isCompanion = kind == Cover || kind == Attachment;
+        const QStringList there = codecsOf(found.tracks, kind);
+        if (isCompanion ? there.size() < wanted.size() : there != wanted)
+            return {"The finished file holds other tracks than were wanted: %1 instead of %2."_key,
+                    {there.isEmpty() ? u"–"_s : there.join(u", "_s), wanted.isEmpty() ? u"–"_s : wanted.join(u", "_s)}};
+    }
+    const MediaTrack *video = found.firstOf(Video);
+    return !video || video->rotation == expected.rotation
+               ? Sentence()
+               : Sentence("The picture of the finished file does not stand upright."_key);
+}
+
+}  // namespace
+
+ToolCommand outputReportCommand(const QString &proberPath, const QString &argument)
+{
+    return {
+        .program = proberPath,
+        .arguments = {u"-v"_s, u"error"_s, u"-protocol_whitelist"_s, u"file"_s, u"-count_packets"_s, u"-show_format"_s,
+                      u"-show_streams"_s, u"-show_chapters"_s, u"-of"_s, u"json"_s, u"-i"_s, argument},
+        .outputLimit = maximumReportBytes,
+        .collectsOutput = true};
+}
+
+ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument)
+{
+    return {.program = transcoderPath,
+            .arguments = {u"-hide_banner"_s,
+                          u"-nostdin"_s,
+                          u"-nostats"_s,
+                          u"-loglevel"_s,
+                          u"repeat+level+warning"_s,
+                          u"-progress"_s,
+                          u"pipe:1"_s,
+                          u"-stats_period"_s,
+                          u"0.5"_s,
+                          u"-protocol_whitelist"_s,
+                          u"file"_s,
+                          u"-i"_s,
+                          argument,
+                          u"-map"_s,
+                          u"0:V?"_s,
+                          u"-map"_s,
+                          u"0:a?"_s,
+                          u"-f"_s,
+                          u"null"_s,
+                          u"-"_s}};
+}
+
+std::optional<FoundOutput> parseOutputReport(const QByteArray &json, qint64 fileBytes)
+{
+    auto information = parseMediaInformation(json);
+    if (!information)
+        return std::nullopt;
+    const QJsonArray streams = QJsonDocument::fromJson(json).object()["streams"_L1].toArray();
+    FoundOutput found{.information = *std::move(information), .packets = {}, .bytes = fileBytes};
+    for (qsizetype index = 0; index < found.information.tracks.size(); ++index)
+        found.packets.append(streams.at(index).toObject()["nb_read_packets"_L1].toString().toLongLong());
+    return found;
+}
+
+OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput &told, const FoundOutput &found)
+{
+    const MediaInformation &information = found.information;
+    OutputFindings findings;
+    findings.damage = damageIn(told, found);
+    findings.mismatch = mismatchIn(expected, information);
+    findings.isEmpty = found.bytes == 0 || std::none_of(found.packets.begin(), found.packets.end(),
+                                                        [](qint64 packets) { return packets > 0; });
+    // Elsewhere the reader guesses, and the writer knows.
+    findings.seconds =
+        information.headerTellsDuration() || told.seconds <= 0 ? information.duration.value_or(0) : told.seconds;
+    if (expected.seconds && !findings.isEmpty) {
+        const double tolerance = std::max(1.0, *expected.seconds / 100);
+        findings.isShort = findings.seconds < *expected.seconds - tolerance;
+        findings.isLong = !expected.mayBeLonger && findings.seconds > *expected.seconds + tolerance;
+    }
+    findings.isTooLarge = expected.maximumBytes > 0 && found.bytes > expected.maximumBytes;
+    findings.lacksChapters = information.chapters.size() < expected.chapters;
+    return findings;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,47 @@
+#pragma once
+
+#include "MediaInformation.h"
+#include "ToolMessages.h"
+#include "TranscodeCommand.h"
+
+#include "jobs/ToolProcess.h"
+
+namespace kestrel {
+
+/// What ffmpeg said of the output as it wrote it.
+struct ToldOutput {
+    std::optional<qint64> bytes;
+    double seconds = 0;
+    QList<MuxedTrack> tracks;  ///< empty where it did not say
+};
+
+/// What is there.
+struct FoundOutput {
+    MediaInformation information;
+    QList<qint64> packets;  ///< of each track
+    qint64 bytes = 0;       ///< of the file
+};
+
+struct OutputFindings {
+    /// What was written is not what is there: the disk, or whoever else, has damaged it.
+    tarnwell::Sentence damage;
+    /// It is whole, but not what was planned: tracks, codecs, the way up.
+    tarnwell::Sentence mismatch;
+    bool isEmpty = false;
+    double seconds = 0;
+    bool isShort = false, isLong = false;  ///< than expected, by more than a second and one in a hundred
+    bool isTooLarge = false;               ///< for the limit of the plan
+    bool lacksChapters = false;
+};
+
+/// Reads a written file back; counting its packets takes about 0.1 s. `argument` as ToolPath has it.
+ToolCommand outputReportCommand(const QString &proberPath, const QString &argument);
+/// Nothing where the report is none.
+std::optional<FoundOutput> parseOutputReport(const QByteArray &json, qint64 fileBytes);
+
+/// Decodes all of it; each of its faults is a message with a level, for ToolMessages.
+ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument);
+
+OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput &told, const FoundOutput &found);
+
+}  // namespace kestrel

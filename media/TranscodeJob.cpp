@@ -1,0 +1,332 @@
+#include "TranscodeJob.h"
+
+#include "MediaProber.h"
+#include "OutputName.h"
+#include "OutputPlacing.h"
+#include "TranscodeVerdict.h"
+
+#include "foundation/FileNames.h"
+#include "jobs/OutputFile.h"
+#include "tarnwell/Log.h"
+
+#include <QDate>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+constexpr std::chrono::seconds lookLimit{30};
+
+}  // namespace
+
+TranscodeJob::TranscodeJob(TranscodeRequest request, QObject *parent) : ToolJob(parent), m_request(std::move(request))
+{
+}
+
+TranscodeJob::~TranscodeJob()
+{
+    endTool();
+    discard();
+}
+
+void TranscodeJob::start()
+{
+    const QStringList &sources = m_request.plan.sources;
+    if (sources.isEmpty())
+        return fail("The options of this job could not be read. Add the file again."_key);
+    for (const QString &source : sources) {
+        if (const Sentence reason = unreadableReason(source); !reason.isEmpty())
+            return fail(reason);
+        m_sources.emplace_back(source);
+    }
+    lookAtSource();
+}
+
+void TranscodeJob::lookAtSource()
+{
+    const qsizetype number = m_request.information.size();
+    if (number >= qsizetype(m_sources.size()))
+        return scanPicture();
+    tellStage("Reading the file…"_key);
+    run(probeCommand(m_request.tools.prober, m_sources[number].argument(), lookLimit),
+        [this](const ToolEnding &ending) {
+            if (isStopping())
+                return finishStopped();
+            auto result = probeResult(ending);
+            if (result)
+                lookAtPicture(*std::move(result));
+            else
+                fail(result.reason());
+        });
+}
+
+void TranscodeJob::lookAtPicture(MediaInformation information)
+{
+    const QString argument = m_sources[m_request.information.size()].argument();
+    const auto command = pictureDataCommand(m_request.tools.prober, argument, information, lookLimit);
+    m_request.information.append(std::move(information));
+    if (!command)
+        return lookAtSource();
+    run(*command, [this](const ToolEnding &ending) {
+        if (ending.isGood())
+            addPictureData(ending.output, m_request.information.last());
+        lookAtSource();
+    });
+}
+
+/// Of the first source, where its flags leave open whether it is interlaced.
+void TranscodeJob::scanPicture()
+{
+    const MediaTrack *video = m_request.information.first().firstOf(MediaTrack::Kind::Video);
+    const bool isWanted = m_request.plan.deinterlace == TranscodePlan::Deinterlace::Auto &&
+                          m_request.plan.preset.takesVideo() && m_request.plan.preset.videoCodec != "copy"_L1;
+    if (!isWanted || !video || !PictureScan::isWorthwhile(*video))
+        return prepare();
+    const ToolCommand command =
+        PictureScan::command(m_request.tools.transcoder, m_sources.front().argument(), m_request.information.first());
+    const ToolProcess &tool = run(command, [this](const ToolEnding &) {
+        if (isStopping())
+            return finishStopped();
+        MediaInformation &film = m_request.information.first();
+        film.tracks[film.firstOf(MediaTrack::Kind::Video) - film.tracks.constData()].fieldOrder = m_scan.fieldOrder();
+        prepare();
+    });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_scan.readLine(line); });
+}
+
+/// The plan as tools can read it.
+TranscodePlan TranscodeJob::planWithToolPaths()
+{
+    TranscodePlan plan = m_request.plan;
+    for (qsizetype index = 0; index < plan.sources.size(); ++index)
+        plan.sources[index] = m_sources[index].path();
+    for (TranscodePlan::ExternalSubtitle &subtitle : plan.externalSubtitles)
+        subtitle.path = m_companions.emplace_back(subtitle.path).path();
+    if (plan.watermark && !plan.watermark->imagePath.isEmpty())
+        plan.watermark->imagePath = m_companions.emplace_back(plan.watermark->imagePath).path();
+    return plan;
+}
+
+void TranscodeJob::prepare()
+{
+    m_output = std::make_shared<OutputFile>(outputFolder(m_request.plan, m_request.folder),
+                                            outputBaseName(m_request.plan, QDate::currentDate()),
+                                            m_request.plan.preset.extension);
+    if (!m_output->isValid())
+        return fail(m_output->reason());
+    m_workFolder = std::make_unique<QTemporaryDir>();
+    if (!m_workFolder->isValid())
+        return fail("The folder for temporary files cannot be written."_key);
+    m_request.plan = planWithToolPaths();
+    carryOut();
+}
+
+void TranscodeJob::carryOut()
+{
+    auto steps = transcodeSteps(m_request.plan, m_request.information, m_request.tools.machine,
+                                {m_output->partPath(), m_workFolder->path()});
+    if (!steps)
+        return fail(steps.reason());
+    m_steps = *std::move(steps);
+    for (auto file = m_steps.files.cbegin(); file != m_steps.files.cend(); ++file) {
+        QSaveFile writing(file.key());
+        if (!writing.open(QIODevice::WriteOnly) || writing.write(file.value()) < 0 || !writing.commit())
+            return fail("The folder for temporary files cannot be written."_key);
+    }
+    for (const Sentence &note : std::as_const(m_steps.notes))
+        emit noted(note);
+    m_step = 0;
+    m_doneShare = 0;
+    runStep();
+}
+
+void TranscodeJob::runStep()
+{
+    const TranscodeRun &step = m_steps.runs[m_step];
+    m_progress = {};
+    m_messages = ToolMessages(m_request.plan.sources + QStringList{m_output->partPath(), m_workFolder->path()});
+    tellStage(step.stage);
+    tarnwell::DNFootLog(u"Converting: %1"_s, step.arguments.join(u' '));
+    const ToolProcess &tool = run({.program = m_request.tools.transcoder,
+                                   .arguments = step.arguments,
+                                   .workingFolder = m_workFolder->path(),
+                                   .silenceLimit = m_request.tools.silenceLimit},
+                                  [this](const ToolEnding &ending) { stepEnded(ending); });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
+    connect(&tool, &ToolProcess::outputLine, this, [this](const QByteArray &line) {
+        m_progress.readLine(line);
+        if (m_progress.isAtReportEnd())
+            tellProgress();
+    });
+}
+
+void TranscodeJob::stepEnded(const ToolEnding &ending)
+{
+    const bool isLast = m_step + 1 == m_steps.runs.size();
+    if (isStopping() && !isLast)
+        return finishStopped();
+    m_doneShare += m_steps.runs[m_step].share;
+    const bool hasStopped = ending.cause == ToolEnding::Cause::Stopped;
+    if (!ending.isGood() && !hasStopped)
+        judge(ending, std::nullopt, 0);
+    else if (isLast)
+        checkOutput(ending);
+    else {
+        ++m_step;
+        runStep();
+    }
+}
+
+void TranscodeJob::checkOutput(const ToolEnding &ending)
+{
+    tellStage("Checking the finished file…"_key);
+    const QString part = m_output->partPath();
+    run(outputReportCommand(m_request.tools.prober, ToolPath(part).argument()), [this, ending,
+                                                                                 part](const ToolEnding &probing) {
+        const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
+        if (!found)
+            return judge(ending, std::nullopt, 0);
+        const OutputFindings findings = compareOutput(
+            m_steps.expected,
+            {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},
+            *found);
+        const bool isBroken = findings.isEmpty || !findings.damage.isEmpty();
+        if (m_steps.expected.decodesAll && !isBroken && !isStopping())
+            decodeOutput(ending, findings);
+        else
+            judge(ending, findings, 0);
+    });
+}
+
+void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &findings)
+{
+    m_decoding = ToolMessages({m_output->partPath()});
+    const ToolProcess &tool =
+        run(decodingCommand(m_request.tools.transcoder, ToolPath(m_output->partPath()).argument()),
+            [this, ending, findings](const ToolEnding &decoding) {
+                judge(ending, findings, std::max(m_decoding.faults(), decoding.isGood() || isStopping() ? 0 : 1));
+            });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_decoding.readLine(line); });
+}
+
+void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings, int decodingFaults)
+{
+    const auto &information = m_request.information;
+    const TranscodeFacts facts{
+        .ending = ending,
+        .messages = m_messages,
+        .expected = m_steps.expected,
+        .sourceTellsDuration = std::all_of(information.begin(), information.end(),
+                                           [](const MediaInformation &file) { return file.headerTellsDuration(); }),
+        .copiesTracks = m_steps.work != TranscodeSteps::Work::Encode,
+        .findings = findings,
+        .decodingFaults = decodingFaults};
+    JobOutcome outcome = transcodeVerdict(facts);
+    if (decodingFaults > 0)
+        outcome.details += u'\n' + m_decoding.text();
+    outcome.leftOut = m_steps.leftOut;
+    if (outcome.state != JobState::Failed)
+        return place(outcome);
+    const bool isHopeless =
+        m_messages.failure().isHopeless || ending.cause == ToolEnding::Cause::CouldNotStart || isStopping();
+    if (m_steps.takesShortcut && !m_isSecondAttempt && !isHopeless)
+        return tryWithoutShortcuts();
+    discard();
+    finish(outcome);
+}
+
+void TranscodeJob::tryWithoutShortcuts()
+{
+    tarnwell::DNFootLog(u"Converting again in software, without copying: %1"_s, m_messages.text());
+    const bool hadHardware =
+        m_steps.work == TranscodeSteps::Work::Encode && !m_request.tools.machine.hardwareDevice.isEmpty();
+    m_isSecondAttempt = true;
+    emit noted(hadHardware ? "Encoding in software"_key : "Encoding, because the tracks could not be copied"_key);
+    m_request.plan = withoutShortcuts(std::move(m_request.plan));
+    carryOut();
+}
+
+void TranscodeJob::place(JobOutcome outcome)
+{
+    tellStage("Saving…"_key);
+    const QString &source = m_sources.front().path();
+    m_placing =
+        std::make_shared<Placing>(std::exchange(m_output, nullptr),
+                                  m_request.plan.keepsDate ? foundation::fileFacts(source).modified : std::nullopt);
+    m_placing->start(this,
+                     [this, outcome = std::move(outcome)](const foundation::Result<QString, Sentence> &path) mutable {
+                         m_placing.reset();
+                         m_workFolder.reset();
+                         if (!path) {
+                             outcome.state = JobState::Failed;
+                             outcome.sentence = path.reason();
+                             outcome.problems.clear();
+                         } else {
+                             outcome.outputs = {*path};
+                         }
+                         finish(outcome);
+                     });
+}
+
+void TranscodeJob::fail(const Sentence &sentence)
+{
+    discard();
+    finish({.state = JobState::Failed, .sentence = sentence});
+}
+
+/// Before there is anything that is worth to be kept.
+void TranscodeJob::finishStopped()
+{
+    discard();
+    finish({.state = JobState::Cancelled});
+}
+
+void TranscodeJob::discard()
+{
+    if (m_placing)
+        m_placing->takeBack();
+    m_placing.reset();
+    m_output.reset();
+    m_workFolder.reset();
+}
+
+void TranscodeJob::tellProgress()
+{
+    const TranscodeRun &step = m_steps.runs[m_step];
+    const MediaTrack *video = m_request.information.first().firstOf(MediaTrack::Kind::Video);
+    double seconds = m_progress.seconds();
+    // The report follows the track that is furthest ahead; pictures come late out of an encoder.
+    const bool countsPictures = video && !video->isVariableRate && video->frameRate > 0 && m_progress.frames() > 0 &&
+                                m_request.plan.frameRate == 0 && m_request.plan.preset.maximumFrameRate == 0 &&
+                                m_request.plan.speedFactor == 1;
+    if (countsPictures)
+        seconds = std::min(seconds, double(m_progress.frames()) / video->frameRate);
+    m_told.seconds = seconds;
+    m_told.bytes = m_progress.bytes();
+    if (step.seconds > 0) {
+        // A second attempt begins anew, and files last longer than they say: the bar stays where it is, short of the
+        // end.
+        constexpr double beforeTheEnd = 0.99;
+        const double fraction = m_doneShare + step.share * std::min(seconds / step.seconds, 1.0);
+        m_told.fraction = std::max(m_told.fraction.value_or(0), std::min(fraction, beforeTheEnd));
+        m_told.stage = seconds >= step.seconds && step.stage.isEmpty() ? Sentence("Finishing…"_key) : step.stage;
+    }
+    emit progressed(m_told);
+}
+
+void TranscodeJob::tellStage(const Sentence &stage)
+{
+    m_told.stage = stage;
+    emit progressed(m_told);
+}
+
+}  // namespace kestrel

@@ -1,0 +1,87 @@
+#pragma once
+
+#include "OutputCheck.h"
+#include "PictureScan.h"
+#include "ToolMessages.h"
+#include "ToolPath.h"
+#include "TranscodeCommand.h"
+#include "TranscodeProgress.h"
+
+#include "jobs/ToolJob.h"
+
+#include <QTemporaryDir>
+
+#include <vector>
+
+namespace kestrel {
+
+class OutputFile;
+class Placing;
+
+/// The tools of ffmpeg and the machine that they run on.
+struct TranscodeTools {
+    QString transcoder;  ///< absolute path of ffmpeg
+    QString prober;      ///< of ffprobe
+    TranscodeMachine machine;
+    /// After that long without a word from ffmpeg it is taken for hung. Rewriting a large file at the end is silent.
+    std::chrono::milliseconds silenceLimit = std::chrono::minutes(30);
+};
+
+struct TranscodeRequest {
+    TranscodePlan plan;
+    QList<MediaInformation> information;  ///< of the plan's sources; those that are not told are looked at first
+    QString folder;                       ///< that the output goes to
+    TranscodeTools tools;
+};
+
+/// A conversion: looks at the sources, carries out the plan step by step, looks at the output, and gives it its name.
+/// Where hardware or copied tracks lead to nothing it is tried once more without them, which `noted` tells. Nothing is
+/// done before the output was read back; what was saved from a damaged source is kept as DoneWithProblems.
+class TranscodeJob : public ToolJob {
+    Q_OBJECT
+public:
+    explicit TranscodeJob(TranscodeRequest request, QObject *parent = nullptr);
+    ~TranscodeJob() override;
+
+    void start() override;
+
+protected:
+    void discard() override;
+
+private:
+    void lookAtSource();
+    void lookAtPicture(MediaInformation information);
+    void scanPicture();
+    void prepare();
+    void carryOut();
+    void runStep();
+    void stepEnded(const ToolEnding &ending);
+    void checkOutput(const ToolEnding &ending);
+    void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);
+    void judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings, int decodingFaults);
+    void tryWithoutShortcuts();
+    void place(JobOutcome outcome);
+    void fail(const tarnwell::Sentence &sentence);
+    void finishStopped();
+    void tellProgress();
+    void tellStage(const tarnwell::Sentence &stage);
+    TranscodePlan planWithToolPaths();
+
+    TranscodeRequest m_request;
+    std::vector<ToolPath> m_sources;
+    std::shared_ptr<OutputFile> m_output;
+    std::unique_ptr<QTemporaryDir> m_workFolder;
+    std::shared_ptr<Placing> m_placing;
+    std::vector<ToolPath> m_companions;
+    TranscodeSteps m_steps;
+    qsizetype m_step = 0;
+    double m_doneShare = 0;
+    JobProgress m_told;
+    TranscodeProgress m_progress;
+    ToolMessages m_messages;
+    ToolMessages m_decoding;
+    PictureScan m_scan;
+    bool m_isSecondAttempt = false;
+};
+
+}  // namespace kestrel

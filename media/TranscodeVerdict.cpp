@@ -1,0 +1,109 @@
+#include "TranscodeVerdict.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+QString secondsText(double seconds)
+{
+    return QString::number(seconds, 'f', seconds < 10 ? 1 : 0);
+}
+
+/// Why the tool did not end well; none where it did.
+Sentence toolFailure(const TranscodeFacts &facts)
+{
+    using enum ToolEnding::Cause;
+    switch (facts.ending.cause) {
+        case CouldNotStart:
+            return "The converter could not be started. Please install the application again."_key;
+        case Silence:
+        case TimeLimit:
+            return "The converter did not answer any more."_key;
+        case Stopped:
+            return {};
+        default:
+            break;
+    }
+    // Some of what it ends well with is none: the disk was full as it wrote the index.
+    if (facts.ending.isGood() && !facts.messages.saysEmptyOutput() && !facts.messages.failure().isHopeless)
+        return {};
+    return facts.messages.failure().sentence;
+}
+
+/// Why the output is not to be kept; none where it is.
+Sentence outputFailure(const TranscodeFacts &facts)
+{
+    if (!facts.findings)
+        return "The finished file could not be read back."_key;
+    const OutputFindings &findings = *facts.findings;
+    if (findings.isEmpty)
+        return "Nothing of the file could be converted."_key;
+    if (!findings.damage.isEmpty())
+        return findings.damage;
+    const bool isSourceDamaged = facts.messages.faults() > 0;
+    if (!findings.mismatch.isEmpty() && !isSourceDamaged)
+        return findings.mismatch;
+    if (facts.decodingFaults > 0 && !facts.copiesTracks)
+        return {"The finished file is damaged: %1 faults."_key, {QString::number(facts.decodingFaults)}};
+    return {};
+}
+
+QList<Sentence> problemsIn(const TranscodeFacts &facts)
+{
+    const OutputFindings &findings = *facts.findings;
+    const int faults = std::max(facts.messages.faults(), facts.decodingFaults);
+    const bool isShort = findings.isShort && facts.sourceTellsDuration;
+    QList<Sentence> problems;
+    if (facts.expected.seconds && (isShort || (faults > 0 && facts.sourceTellsDuration)))
+        problems.append({"%1 of %2 s could be read, %3 faults"_key,
+                         {secondsText(std::min(findings.seconds, *facts.expected.seconds)),
+                          secondsText(*facts.expected.seconds), QString::number(faults)}});
+    else if (faults > 0)
+        problems.append(
+            {"%1 s could be read, %2 faults"_key, {secondsText(findings.seconds), QString::number(faults)}});
+    if (!findings.mismatch.isEmpty())
+        problems.append(findings.mismatch);
+    if (findings.isLong && facts.sourceTellsDuration)
+        problems.append({"The finished file is %1 s long instead of %2 s."_key,
+                         {secondsText(findings.seconds), secondsText(*facts.expected.seconds)}});
+    if (findings.isTooLarge)
+        problems.append("The finished file is larger than wanted."_key);
+    if (findings.lacksChapters)
+        problems.append("Chapters are missing in the finished file."_key);
+    if (facts.ending.cause == ToolEnding::Cause::Stopped && problems.isEmpty())
+        problems.append("The conversion was stopped before the end."_key);
+    return problems;
+}
+
+}  // namespace
+
+JobOutcome transcodeVerdict(const TranscodeFacts &facts)
+{
+    JobOutcome outcome;
+    outcome.details = facts.messages.text();
+    outcome.sentence = toolFailure(facts);
+    if (outcome.sentence.isEmpty())
+        outcome.sentence = outputFailure(facts);
+    if (!outcome.sentence.isEmpty()) {
+        outcome.state = JobState::Failed;
+        return outcome;
+    }
+    outcome.problems = problemsIn(facts);
+    outcome.state = outcome.problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems;
+    outcome.sentence = outcome.problems.value(0);
+    outcome.facts[u"seconds"_s] = facts.findings->seconds;
+    if (facts.expected.seconds)
+        outcome.facts[u"wantedSeconds"_s] = *facts.expected.seconds;
+    outcome.facts[u"faults"_s] = std::max(facts.messages.faults(), facts.decodingFaults);
+    return outcome;
+}
+
+}  // namespace kestrel
