@@ -10,6 +10,7 @@
 #include <fcntl.h>
 #include <sys/file.h>
 #include <unistd.h>
+#include <cerrno>
 #include <functional>
 #include <optional>
 
@@ -279,7 +280,7 @@ extern "C" __attribute__((visibility("default"))) void openJobDatabase(const QSt
     using namespace kestrel;
     const OpeningLock lock(path + u".lock"_s);
     if (!lock.isHeld()) {
-        report = u"another process holds it"_s;
+        report = qt_error_string(errno);
         return;
     }
     auto jobs = std::make_unique<SqliteJobs>(path);

@@ -50,7 +50,4 @@ private:
     QList<JobId> m_idsOfIndexes;  ///< of the persistent ones, while rows are reordered
 };
 
-/// What the row says of its state, localised: "41 %", "Waiting for space on the disk: 2 GB needed", "Done".
-QString jobStateText(const JobRecord &record);
-
 }  // namespace kestrel

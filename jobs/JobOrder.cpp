@@ -64,6 +64,24 @@ void JobOrder::move(Range range, int to)
     m_validRows = std::min({m_validRows, range.first, to});
 }
 
+void JobOrder::gather(const QList<Range> &ranges, int to)
+{
+    QList<JobId> gathered, before, behind;
+    int row = 0;
+    const auto passTo = [&](int end) {
+        for (; row < end; ++row)
+            (row < to ? before : behind).append(m_ids.at(row));
+    };
+    for (const Range &range : ranges) {
+        passTo(range.first);
+        gathered.append(m_ids.mid(range.first, range.count));
+        row += range.count;
+    }
+    passTo(int(m_ids.size()));
+    m_ids = before + gathered + behind;
+    m_validRows = 0;
+}
+
 QList<JobId> JobOrder::settlePositions(Range moved)
 {
     // Where the neighbours leave too little room, some of them are given new positions as well.

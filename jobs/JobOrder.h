@@ -27,6 +27,8 @@ public:
     void remove(Range range);
     /// Moves the rows in front of row `to`, which is not within them; as in QAbstractItemModel::beginMoveRows.
     void move(Range range, int to);
+    /// The same for all of them at once, which keep their order; `to` is within none of them.
+    void gather(const QList<Range> &ranges, int to);
     /// Gives new positions to rows that were moved, and to as few others as that takes. Those that changed.
     QList<JobId> settlePositions(Range moved);
 

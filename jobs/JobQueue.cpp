@@ -214,18 +214,19 @@ void JobQueue::moveRanges(const QString &name, const QList<JobOrder::Range> &ran
 {
     constexpr int maximumSteps = 16;  // beyond that a view is quicker with one change of everything
     JobOrder &order = m_modules[name].order;
-    const bool isStepwise = ranges.size() <= maximumSteps;
+    if (ranges.size() > maximumSteps) {
+        emit aboutToReorder(name);
+        order.gather(ranges, to);
+        emit reordered(name);
+        return;
+    }
     const auto step = [&](JobOrder::Range range, int target) {
         if (target == range.first || target == range.first + range.count)
             return;
-        if (isStepwise)
-            emit aboutToMove(name, range.first, range.count, target);
+        emit aboutToMove(name, range.first, range.count, target);
         order.move(range, target);
-        if (isStepwise)
-            emit moved(name);
+        emit moved(name);
     };
-    if (!isStepwise)
-        emit aboutToReorder(name);
     const auto firstBehind =
         std::find_if(ranges.begin(), ranges.end(), [to](const JobOrder::Range &range) { return range.first >= to; });
     int target = to;
@@ -239,8 +240,6 @@ void JobQueue::moveRanges(const QString &name, const QList<JobOrder::Range> &ran
         step(*range, target);
         target += range->count;
     }
-    if (!isStepwise)
-        emit reordered(name);
 }
 
 QList<JobId> JobQueue::idsIn(std::initializer_list<JobState> states, const QString &module) const

@@ -65,15 +65,15 @@ struct JobProgress {
 };
 
 struct JobRecord {
-    JobId id = 0;    ///< given by the queue
-    QString module;  ///< "marlin", "heron", "petrel", "plover": whose recipe reads `plan`
+    JobId id = 0;         ///< given by the queue
+    QString module = {};  ///< "marlin", "heron", "petrel", "plover": whose recipe reads `plan`
     JobState state = JobState::Ready;
-    QString title;       ///< what the row is called: a file's name
-    QString source;      ///< absolute path or address
-    QJsonObject plan;    ///< the module's own values, with their "version"
-    QString folder;      ///< absolute; where the output goes
-    JobOutcome outcome;  ///< since it ended, or became unusable
-    QDateTime added, started, ended;
+    QString title = {};       ///< what the row is called: a file's name
+    QString source = {};      ///< absolute path or address
+    QJsonObject plan = {};    ///< the module's own values, with their "version"
+    QString folder = {};      ///< absolute; where the output goes
+    JobOutcome outcome = {};  ///< since it ended, or became unusable
+    QDateTime added = {}, started = {}, ended = {};
 
     // Not stored
     JobProgress progress = {};

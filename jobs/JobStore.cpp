@@ -148,6 +148,7 @@ QList<JobStore::Row> ThreadedJobStore::load()
 {
     Lock lock(m_mutex);
     m_isLoadAsked = true;
+    m_isToWrite = m_isToWrite || !m_changes.empty();
     m_asked.notify_one();
     m_answered.wait(lock, [this] { return !m_isLoadAsked; });
     return std::exchange(m_loaded, {});

@@ -1,8 +1,8 @@
 #include "jobs/JobQueue.h"
 
 #include "ScriptedJobs.h"
-#include "tests/support/TestEnvironment.h"
 #include "jobs/JobStore.h"
+#include "tests/support/TestEnvironment.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
@@ -277,7 +277,8 @@ TEST_F(JobQueueTest, ProgressOnlyGrowsAndIsTold10TimesASecond)
 TEST_F(JobQueueTest, TheWholeIsWeighed)
 {
     queue.setLaneLimit(Lane::Copy, 2);
-    const QList<JobId> ids = add(1, Lane::Copy, {{u"weight"_s, 30}}) + add(2, Lane::Copy, {{u"weight"_s, 10}});
+    QList<JobId> ids = add(1, Lane::Copy, {{u"weight"_s, 30}});
+    ids += add(2, Lane::Copy, {{u"weight"_s, 10}});
     EXPECT_FALSE(queue.hasWork());
     queue.start(ids);
     EXPECT_FALSE(queue.overallProgress().fraction);
@@ -336,7 +337,7 @@ TEST_F(JobQueueTest, LoadedJobsKeepTheirOrderAndDoNotStart)
     for (const JobId id : {7, 3, 5}) {
         JobRecord record = scriptedRecord(QString::number(id));
         record.id = id;
-        store.loaded.append({record, double(store.loaded.size())});
+        store.loaded.append({record, 1000.0 * double(store.loaded.size())});
     }
     store.lastId = 7;
     queue.load();
