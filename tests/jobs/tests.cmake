@@ -1,10 +1,6 @@
 kestrel_test(jobs
     SOURCES
-<<<<<<< HEAD
         AfterRunTest.cpp JobListTest.cpp JobQueueTest.cpp JobStoreTest.cpp ManyJobsTest.cpp OutputFileTest.cpp ScriptedJobs.h ToolProcessTest.cpp
-=======
-        AfterRunTest.cpp JobListTest.cpp JobQueueTest.cpp JobStoreTest.cpp ManyJobsTest.cpp ScriptedJobs.h
->>>>>>> after
     LINKS kestrel_jobs kestrel_test_product Qt6::DBus)
 
 # Other processes of the tests, to be killed: one owns jobs, one owns tools and parts
