@@ -2,6 +2,7 @@
 #include "ConvertCommand.h"
 #include "JobsCommand.h"
 #include "PresetsCommand.h"
+#include "RecordCommand.h"
 
 namespace kestrel::cli {
 
@@ -10,6 +11,8 @@ namespace {
 constexpr Command commandTable[] = {
     {"convert", "[--preset ID] [--to FOLDER] [OPTION…] FILE…", "converts files, or folders of them", runConvert},
     {"presets", "[--all]", "lists what files can be converted to", runPresets},
+    {"record", "[--seconds N] [--screen NAME|--window ID|--area X,Y,W,H] [OPTION…]",
+     "records the screen until it is interrupted", runRecord},
     {"jobs", "", "lists the jobs of all modules, also of the window", runJobsCommand},
 };
 

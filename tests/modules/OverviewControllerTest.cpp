@@ -2,7 +2,7 @@
 #include "foundation/NotificationCenter.h"
 #include "modules/heron/HeronController.h"
 #include "modules/petrel/PetrelController.h"
-#include "modules/plover/PloversController.h"
+#include "modules/plover/ui/PloversController.h"
 
 #include <gtest/gtest.h>
 
