@@ -2,7 +2,6 @@
 #include "foundation/NotificationCenter.h"
 #include "modules/heron/HeronController.h"
 #include "modules/petrel/PetrelController.h"
-#include "modules/plover/ui/PloversController.h"
 
 #include <gtest/gtest.h>
 
@@ -30,8 +29,7 @@ TEST(OverviewControllerTest, ShowsItsOwnFolderAndLeadsBack)
         qint32 kind;
         ModuleFactory make;
     } rows[] = {{ModuleSettingDVD, made<HeronController>},
-                {ModuleSettingDownload, made<PetrelController>},
-                {ModuleSettingRecord, made<PloversController>}};
+                {ModuleSettingDownload, made<PetrelController>}};
     for (const auto &[kind, make] : rows) {
         test::ModuleSettings settings(kind);
         const auto module = make(settings.configure());
