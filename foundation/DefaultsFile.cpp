@@ -8,10 +8,10 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 #include <QTemporaryFile>
 #include <QThread>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -41,16 +41,25 @@ QString resolvedPath(QString path)
     return path;
 }
 
+/// Former versions put six random letters behind the name; a word there is somebody's own copy.
+bool isLeftReplacement(const QString &suffix)
+{
+    const auto isLower = [](QChar letter) { return letter >= u'a' && letter <= u'z'; };
+    const auto isUpper = [](QChar letter) { return letter >= u'A' && letter <= u'Z'; };
+    const auto isLetter = [&](QChar letter) { return isLower(letter) || isUpper(letter); };
+    return suffix.startsWith(replacementSuffix.sliced(1)) ||
+           (suffix.size() == 6 && std::ranges::all_of(suffix, isLetter) && std::ranges::any_of(suffix, isLower) &&
+            std::ranges::any_of(suffix.sliced(1), isUpper));
+}
+
 /// Removes what processes left that were killed while they replaced the file. Nobody else replaces it meanwhile.
 void removeLeftReplacements(const QString &path)
 {
-    // Former versions put six random letters behind the name; a word there is somebody's own copy.
-    static const QRegularExpression left(u"^(?:saving-.*|(?=.*[a-z])(?=.+[A-Z])[A-Za-z]{6})$"_s);
     const QFileInfo info(path);
     const QDir folder = info.dir();
     const qsizetype nameLength = info.fileName().size() + 1;
     for (const QString &name : folder.entryList({info.fileName() + ".*"_L1}, QDir::Files | QDir::NoSymLinks))
-        if (left.match(name.sliced(nameLength)).hasMatch())
+        if (isLeftReplacement(name.sliced(nameLength)))
             QFile::remove(folder.filePath(name));
 }
 
