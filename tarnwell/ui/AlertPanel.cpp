@@ -7,6 +7,7 @@
 #include "ui_AlertPanel.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -22,6 +23,8 @@ namespace {
 
 constexpr int minimumPanelWidth = 360;
 constexpr int maximumPanelWidth = 520;
+constexpr int alternateCode = QDialog::Accepted + 1;
+constexpr int closedCode = alternateCode + 1;
 constexpr int longestRun = 40;  ///< paths and addresses have no blanks to wrap at
 
 QString alertImageName(AlertStyle style)
@@ -49,14 +52,14 @@ int naturalWidth(const QLabel *label)
 AlertPanel::AlertPanel(const Alert &alert)
     : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint),
       m_ui(std::make_unique<Ui::AlertPanel>()),
-      m_answerToEscape(alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate)
+      m_answerToEscape(alert.alternateButton.isNull() ? AlertAnswer::Default : alert.escapeAnswer)
 {
     m_ui->setupUi(this);
     setTexts(alert);
     const QPixmap icon = namedImage(alertImageName(alert.style), devicePixelRatioF());
     m_ui->iconLabel->setPixmap(icon);
     connect(m_ui->defaultButton, &QPushButton::clicked, this, &QDialog::accept);
-    connect(m_ui->alternateButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->alternateButton, &QPushButton::clicked, this, [this] { done(alternateCode); });
     m_ui->defaultButton->setFocus();
     fitWidth();
 }
@@ -98,9 +101,18 @@ AlertAnswer AlertPanel::runModal()
         windowHandle()->setTransientParent(window->windowHandle());
     }
     const int result = exec();
-    if (isVisible())  // any answer closes it
+    if (isVisible() || result == closedCode)  // any answer closes it
         return AlertAnswer::None;
+    if (result == alternateCode)
+        return AlertAnswer::Alternate;
     return result == QDialog::Accepted ? AlertAnswer::Default : m_answerToEscape;
+}
+
+void AlertPanel::closeEvent(QCloseEvent *event)
+{
+    // By the desktop, not by a button: to a question that is no answer.
+    done(m_ui->alternateButton->isHidden() ? int(Accepted) : closedCode);
+    event->accept();
 }
 
 void AlertPanel::placeOver(const QWidget *window)

@@ -28,7 +28,7 @@ protected:
         m_controller.setCompletedHandler([this](ModuleController *module) { m_leftBy.append(module); });
         m_controller.view()->show();
         m_settings.dispatcher().setOpenFolder(false);
-        m_desktop.answer = tarnwell::AlertAnswer::Alternate;
+        m_desktop.answer = tarnwell::AlertAnswer::Default;
     }
 
     template <class Control>
@@ -137,9 +137,11 @@ TEST_F(MarlinControllerTest, LeavingARunAsksFirst)
     click(u"backButton"_s);
     EXPECT_FALSE(m_controller.shouldTerminate());
     EXPECT_TRUE(m_leftBy.isEmpty());
-    EXPECT_EQ(m_desktop.alerts.size(), 2);
+    ASSERT_EQ(m_desktop.alerts.size(), 2);
+    EXPECT_EQ(m_desktop.alerts[0].defaultButton, u"Keep Converting"_s);
+    EXPECT_EQ(m_desktop.alerts[0].escapeAnswer, tarnwell::AlertAnswer::Default);
 
-    m_desktop.answer = tarnwell::AlertAnswer::Default;
+    m_desktop.answer = tarnwell::AlertAnswer::Alternate;
     m_controller.doBackAction();
     EXPECT_EQ(m_leftBy, QList<ModuleController *>{&m_controller});
     EXPECT_TRUE(waitForStates({u"Stopped"_s}));

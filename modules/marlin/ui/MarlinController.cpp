@@ -77,12 +77,13 @@ bool MarlinController::mayLeave()
     if (!m_queue.isRunning())
         return true;
     const tarnwell::Alert question{.message = tarnwell::AppLocalizedString(u"Conversions are running."_s),
-                                   .defaultButton = tarnwell::AppLocalizedString(u"Stop and Leave"_s),
-                                   .alternateButton = tarnwell::AppLocalizedString(u"Keep Converting"_s),
+                                   .defaultButton = tarnwell::AppLocalizedString(u"Keep Converting"_s),
+                                   .alternateButton = tarnwell::AppLocalizedString(u"Stop and Leave"_s),
                                    .informativeText = tarnwell::AppLocalizedString(
                                        u"Files that are not finished would have to be converted again."_s),
-                                   .style = tarnwell::AlertStyle::Warning};
-    if (tarnwell::runAlert(question) != tarnwell::AlertAnswer::Default)
+                                   .style = tarnwell::AlertStyle::Warning,
+                                   .escapeAnswer = tarnwell::AlertAnswer::Default};
+    if (tarnwell::runAlert(question) != tarnwell::AlertAnswer::Alternate)
         return false;
     m_queue.cancel();
     return true;
