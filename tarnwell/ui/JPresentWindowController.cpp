@@ -12,6 +12,8 @@
 #include <QScreen>
 #include <QWindow>
 
+#include <algorithm>
+
 namespace kestrel::tarnwell {
 
 namespace {
@@ -128,8 +130,13 @@ void JPresentWindowController::fit()
     // Not by adjustSize(), which would take two thirds of the screen for all there is.
     if (!m_wantedSize.isValid())
         m_wantedSize = m_window->testAttribute(Qt::WA_Resized) ? m_window->size() : m_window->sizeHint();
-    if (m_presentedFor && m_window->minimumSize() != m_window->maximumSize())
-        m_window->resize(m_wantedSize.boundedTo(m_presentedFor->screen()->availableGeometry().size()));
+    if (!m_presentedFor || m_window->minimumSize() == m_window->maximumSize())
+        return;
+    // Below the title bar with its menus, where that leaves enough of it.
+    const QRect free = m_presentedFor->screen()->availableGeometry();
+    const int below = free.bottom() + 1 - contentOf(m_presentedFor)->mapToGlobal(QPoint()).y();
+    const int room = std::clamp(below, free.height() * 2 / 3, free.height());
+    m_window->resize(m_wantedSize.boundedTo({free.width(), room}));
 }
 
 void JPresentWindowController::detach()

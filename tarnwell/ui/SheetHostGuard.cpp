@@ -100,7 +100,10 @@ bool SheetHostGuard::isForTitleBar(const QEvent &event) const
 {
     if (!m_titleBar || !event.isPointerEvent())
         return false;
-    if (m_isPressed)
+    const bool isHeld =
+        event.type() == QEvent::MouseButtonRelease ||
+        (event.type() == QEvent::MouseMove && static_cast<const QMouseEvent &>(event).buttons() != Qt::NoButton);
+    if (m_isPressed && isHeld)
         return true;
     const QPoint place = static_cast<const QSinglePointEvent &>(event).position().toPoint();
     return m_titleBar->geometry().contains(place) &&

@@ -193,7 +193,11 @@ void TitledWindow::mousePressEvent(QMouseEvent *event)
 {
     // What the controls leave unused arrives here.
     const bool isHandle = m_isMovableByWindowBackground || m_titleBar->geometry().contains(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && isHandle)
+    if (event->button() != Qt::LeftButton || !isHandle)
+        return;
+    // The desktop's own move snaps and changes screens well. Asked for later than now, it would lose what the pointer
+    // has gone until then. Not every desktop has one.
+    if (!windowHandle()->startSystemMove())
         m_drag = Drag{event->globalPosition().toPoint(), pos()};
 }
 
@@ -202,19 +206,9 @@ void TitledWindow::mouseMoveEvent(QMouseEvent *event)
     if (!m_drag)
         return;
     const QPoint distance = event->globalPosition().toPoint() - m_drag->start;
-    if (!m_drag->hasBegun) {
-        if (distance.manhattanLength() < QApplication::startDragDistance())
-            return;
-        // The desktop's own move begins where the pointer is by now: what it has gone until then would be lost.
-        move(m_drag->origin + QCursor::pos() - m_drag->start);
-        // That one snaps and changes screens well, but swallows the release. Not every desktop has one.
-        if (windowHandle()->startSystemMove()) {
-            m_drag.reset();
-            return;
-        }
-        m_drag->hasBegun = true;
-    }
-    move(m_drag->origin + distance);
+    m_drag->hasBegun = m_drag->hasBegun || distance.manhattanLength() >= QApplication::startDragDistance();
+    if (m_drag->hasBegun)
+        move(m_drag->origin + distance);
 }
 
 void TitledWindow::mouseReleaseEvent(QMouseEvent *)
