@@ -27,6 +27,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -35,6 +36,7 @@
 #include <QThread>
 #include <QTranslator>
 
+#include <unistd.h>
 #include <cstdio>
 #include <cstdlib>
 
@@ -71,6 +73,17 @@ bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &file
         std::fputs("Kestrel is running already, but does not answer.\n", stderr);
     status = role == SingleInstance::Role::Second ? EXIT_SUCCESS : EXIT_FAILURE;
     return role == SingleInstance::Role::First;
+}
+
+/// Where this user's one instance is known: for the login session, else in the user's own folders, else for want of
+/// both where everybody may write.
+QStringList instanceFolders()
+{
+    const QString identifier = foundation::Bundle::main().identifier();
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return {runtime.isEmpty() ? QString() : runtime + u'/' + identifier,
+            foundation::stateDirectory() + u'/' + identifier,
+            QDir::tempPath() + u'/' + identifier + u'-' + QString::number(::getuid())};
 }
 
 template <class Controller>
@@ -185,8 +198,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
 int main(int argc, char **argv)
 {
     using namespace kestrel;
-    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' +
-                            foundation::Bundle::main().identifier());
+    SingleInstance instance(instanceFolders());
     QStringList files;
     int status = EXIT_SUCCESS;
     if (!isTheOne(instance, argc, argv, files, status))
