@@ -97,6 +97,11 @@ void presentSettings(QWidget *overWindow)
     JKestrelSettingController::loadDefaultWindowController().presentForWindow(overWindow);
 }
 
+void storeEdits()
+{
+    JKestrelSettingController::loadDefaultWindowController().storeProxy();
+}
+
 void presentAbout(QWidget *overWindow)
 {
     JKestrelAboutController::loadDefaultWindowController().presentForWindow(overWindow);
@@ -109,7 +114,7 @@ AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults, found
         .defaults = defaults,
         .modules = {factoryOf<MarlinController>(), factoryOf<HeronController>(), factoryOf<PetrelController>(),
                     factoryOf<PloversController>()},
-        .windows = {.setting = presentSettings, .about = presentAbout},
+        .windows = {.setting = presentSettings, .about = presentAbout, .storeEdits = storeEdits},
         // Not quit(): that asks every window first, and a module may refuse to close.
         .terminate = [] { QCoreApplication::exit(); },
         .startProcess = [](const QString &program,
@@ -180,6 +185,8 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+    // Made before: what is made later is gone by then.
+    JKestrelSettingController::loadDefaultWindowController();
     const SavingAtExit savingAtExit(delegate);
     if (!files.isEmpty())
         delegate.appController()->openFiles(files);
