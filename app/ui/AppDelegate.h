@@ -77,7 +77,7 @@ public:
     void onPreferencesAction();
     void showHelp();
 
-    /// Shows this run's log in the log viewer, unless one is open already.
+    /// Shows this run's log in the log viewer; one that is open already comes to the front.
     void showApplicationLog();
     /// Null unless the log viewer runs, or is being started.
     std::shared_ptr<LoggerWatcherTask> loggerWatcherTask() const;

@@ -30,8 +30,10 @@ std::shared_ptr<LoggerWatcherTask> AppDelegate::loggerWatcherTask() const
 
 void AppDelegate::showApplicationLog()
 {
-    if (m_hasTerminated || loggerWatcherTask())
+    if (m_hasTerminated)
         return;
+    if (const auto running = loggerWatcherTask())
+        return running->raise();
     m_loggerWatcherTask = std::make_shared<LoggerWatcherTask>();
     const QString viewer =
         tarnwell::productBundle().resource(u"KestrelLogWatcher.app"_s) + u"/Contents/MacOS/KestrelLogWatcher"_s;

@@ -208,7 +208,9 @@ TEST_F(AppDelegateTest, one_log_viewer_at_a_time_until_the_end)
 
     QFile viewer(m_product.contentsPath(u"Resources/KestrelLogWatcher.app/Contents/MacOS/KestrelLogWatcher"_s));
     ASSERT_TRUE(viewer.open(QIODevice::WriteOnly));
-    viewer.write("#!/bin/sh\ntrap '' TERM\necho started >>\"$0.log\"\nwhile :; do sleep 0.1; done\n");
+    viewer.write(
+        "#!/bin/sh\ntrap '' TERM\necho started >>\"$0.log\"\nexec 3<&0\n"
+        "cat <&3 >>\"$0.asked\" &\nwhile :; do sleep 0.1; done\n");
     viewer.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     viewer.close();
     const auto starts = [&viewer] {
@@ -219,6 +221,8 @@ TEST_F(AppDelegateTest, one_log_viewer_at_a_time_until_the_end)
     ASSERT_TRUE(test::waitUntil([&] { return starts() == 1; }));
     m_delegate->showApplicationLog();
     EXPECT_FALSE(isOver());
+    EXPECT_TRUE(test::waitUntil([&] { return QFileInfo(viewer.fileName() + u".asked"_s).size() > 0; }))
+        << "the one that runs was not asked to the front";
     m_delegate->applicationWillTerminate();
     EXPECT_TRUE(test::waitUntil(isOver)) << "a viewer that does not heed SIGTERM holds the end";
     m_delegate->showApplicationLog();
