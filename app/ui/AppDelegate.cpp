@@ -3,10 +3,12 @@
 #include "_JKestrelWindow.h"
 #include "app/InterfaceLanguage.h"
 #include "app/LoggerWatcherTask.h"
+#include "app/UnsavedEnd.h"
 #include "foundation/Bundle.h"
 #include "foundation/LanguageTags.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "settings/JKestrelSetting.h"
 #include "tarnwell/Alerts.h"
@@ -19,6 +21,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -92,7 +95,7 @@ void AppDelegate::applicationWillFinishLaunching()
     setupLanuageMenu();
     const QString dataFolder = tarnwell::GetApplicationSupportDir() + u'/' + tarnwell::GetApplicationName();
     if (!QFileInfo::exists(dataFolder))
-        tarnwell::CreateDirectory(dataFolder);
+        foundation::makePrivateFolder(dataFolder);
     tarnwell::JTooltipController::Instance().addWindow(m_window.get());
     m_window->makeInitWithImageName(u"window_titlebarbg"_s, u"window_title_bg"_s);
     m_appController->applicationWillFinishLaunching();
@@ -131,7 +134,22 @@ void AppDelegate::save()
 {
     m_appController->applicationWillTerminate();
     setNotSafeTerminate(false);
-    m_surroundings.defaults.synchronize();
+    UnsavedEnd().note(!m_surroundings.defaults.synchronize());
+}
+
+bool AppDelegate::tellUnsavedEnd() const
+{
+    if (!UnsavedEnd().take())
+        return false;
+    tarnwell::runAlert(
+        {.message = AppLocalizedString(u"Your settings could not be saved when Kestrel was last quit."_s),
+         .defaultButton = AppLocalizedString(u"OK"_s),
+         .alternateButton = {},
+         .informativeText =
+             AppLocalizedString(u"Please check that the disk has room and that this folder can be written: %1"_s)
+                 .arg(QDir::toNativeSeparators(foundation::configurationDirectory())),
+         .style = tarnwell::AlertStyle::Warning});
+    return true;
 }
 
 void AppDelegate::sessionWillEnd()

@@ -108,6 +108,8 @@ private:
     void setupLanuageMenu();
     void restartApplication();
     void save();
+    /// Tells that the previous run could not save at its end; true where it was so. That is no unclean end.
+    bool tellUnsavedEnd() const;
     void setNotSafeTerminate(bool isNotSafe);
     UpdateContext updateContext() const;
     void showWhatIsDue(const std::shared_ptr<const UPParser> &descriptor, const QString &url);

@@ -56,7 +56,7 @@ void AppDelegate::sendBugTypeEmail()
 
 void AppDelegate::checkBugReportFlagWhenLaunch()
 {
-    if (m_surroundings.defaults.boolForKey(notSafeTerminateKey)) {
+    if (!tellUnsavedEnd() && m_surroundings.defaults.boolForKey(notSafeTerminateKey)) {
         const auto answer =
             tarnwell::runAlert({.message = AppLocalizedString(u"Problem detected in last conversion."_s),
                                 .defaultButton = AppLocalizedString(u"Send Report"_s),

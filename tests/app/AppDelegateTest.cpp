@@ -3,9 +3,11 @@
 #include "RecordingModule.h"
 #include "app/LoggerWatcherTask.h"
 #include "foundation/NotificationCenter.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "settings/JKestrelSetting.h"
 #include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
 #include "tarnwell/ui/TitledWindow.h"
 #include "tests/support/ProductFolder.h"
 #include "tests/support/RecordingMailProgram.h"
@@ -198,6 +200,26 @@ TEST_F(AppDelegateTest, a_report_is_offered_after_an_unclean_exit_only)
     m_delegate->checkBugReportFlagWhenLaunch();
     EXPECT_TRUE(QFile::exists(log.previousPath())) << "taken for an answer of the user";
     EXPECT_FALSE(m_defaults.boolForKey(flag)) << "armed while the session ends";
+}
+
+TEST_F(AppDelegateTest, an_end_that_could_not_save_is_told_and_is_no_crash)
+{
+    const QString flag = u"KestrelNotSafeTerminate"_s;
+    const QString obstacle = m_folder.filePath(u"defaults.plist"_s);
+    ASSERT_TRUE(QDir().mkpath(obstacle));
+    m_defaults.setObject(true, flag);
+    QDir().mkpath(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName());
+    m_delegate->applicationWillTerminate();
+    QDir().rmdir(obstacle);
+
+    m_defaults.setObject(true, flag);  // as the file still has it
+    m_delegate->checkBugReportFlagWhenLaunch();
+    ASSERT_EQ(m_desktop.alerts.size(), 1);
+    EXPECT_EQ(m_desktop.alerts[0].message, u"Your settings could not be saved when Kestrel was last quit."_s);
+    EXPECT_TRUE(m_defaults.boolForKey(flag));
+    m_delegate->checkBugReportFlagWhenLaunch();
+    ASSERT_EQ(m_desktop.alerts.size(), 2) << "told once";
+    EXPECT_EQ(m_desktop.alerts[1].message, u"Problem detected in last conversion."_s);
 }
 
 TEST_F(AppDelegateTest, one_log_viewer_at_a_time_until_the_end)
