@@ -25,6 +25,7 @@ FailureDetails::FailureDetails(const ConversionItem &item, QWidget *parent)
     m_form->messagesEdit->setFont(QFontDatabase::systemFont(QFontDatabase::FixedFont));
     tarnwell::setTextStyle(m_form->reasonLabel, 13, QFont::Bold, tarnwell::palette::title);
     tarnwell::setTextStyle(m_form->nameLabel, 13, QFont::Normal, tarnwell::palette::quietText);
+    m_form->closeButton->setFocus();
     connect(m_form->closeButton, &QPushButton::clicked, this, &QDialog::accept);
     connect(m_form->copyButton, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(m_form->messagesEdit->toPlainText()); });
