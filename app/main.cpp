@@ -31,6 +31,8 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
+#include <QFileInfo>
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSessionManager>
@@ -38,6 +40,7 @@
 #include <QThread>
 #include <QTranslator>
 
+#include <unistd.h>
 #include <cstdio>
 #include <cstdlib>
 
@@ -76,6 +79,17 @@ bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &file
     return role == SingleInstance::Role::First;
 }
 
+/// Where this user's one instance is known: for the login session, else in the user's own folders, else for want of
+/// both where everybody may write.
+QStringList instanceFolders()
+{
+    const QString identifier = foundation::Bundle::main().identifier();
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return {runtime.isEmpty() ? QString() : runtime + u'/' + identifier,
+            foundation::stateDirectory() + u'/' + identifier,
+            QDir::tempPath() + u'/' + identifier + u'-' + QString::number(::getuid())};
+}
+
 /// Of a module that takes the services, or has no need of them.
 template <class Controller>
 ModuleFactory factoryOf()
@@ -91,6 +105,11 @@ ModuleFactory factoryOf()
 void presentSettings(QWidget *overWindow)
 {
     JKestrelSettingController::loadDefaultWindowController().presentForWindow(overWindow);
+}
+
+void storeEdits()
+{
+    JKestrelSettingController::loadDefaultWindowController().storeProxy();
 }
 
 void presentAbout(QWidget *overWindow)
@@ -109,7 +128,7 @@ AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults, found
                     {ModuleSettingDVD, factoryOf<HeronController>()},
                     {ModuleSettingDownload, factoryOf<PetrelController>()},
                     {ModuleSettingRecord, factoryOf<PloversController>()}},
-        .windows = {.setting = presentSettings, .about = presentAbout},
+        .windows = {.setting = presentSettings, .about = presentAbout, .storeEdits = storeEdits},
         // Not quit(): that asks every window first, and a module may refuse to close.
         .terminate = [] { QCoreApplication::exit(); },
         .startProcess = [](const QString &program,
@@ -182,6 +201,8 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+    // Made before: what is made later is gone by then.
+    JKestrelSettingController::loadDefaultWindowController();
     const SavingAtExit savingAtExit(delegate);
     if (!files.isEmpty())
         delegate.appController()->openFiles(files);
@@ -202,8 +223,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
 int main(int argc, char **argv)
 {
     using namespace kestrel;
-    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' +
-                            foundation::Bundle::main().identifier());
+    SingleInstance instance(instanceFolders());
     QStringList files;
     int status = EXIT_SUCCESS;
     if (!isTheOne(instance, argc, argv, files, status))
