@@ -1,6 +1,7 @@
 #include "MarlinController.h"
 
 #include "MarlinView.h"
+#include "modules/common/LateView.h"
 #include "modules/common/OutputFolderLine.h"
 #include "modules/marlin/MediaFiles.h"
 #include "settings/JKestrelSettingDispatcher.h"
@@ -18,31 +19,36 @@ namespace kestrel {
 MarlinController::MarlinController(const ModuleConfigure &configure)
     : m_settings(configure.value(moduleSettingKey.toString())),
       m_queue(m_list),
-      m_view(std::make_unique<MarlinView>(m_list))
+      m_view(std::make_unique<LateView>([this] { return makeContents(); }))
 {
-    m_view->outputFolder()->setDispatcher(m_settings);
     connectParts();
-    showState();
 }
 
 MarlinController::~MarlinController() = default;
 
 void MarlinController::connectParts()
 {
-    MarlinView *view = m_view.get();
-    connect(view, &MarlinView::pathsChosen, this, &MarlinController::openFiles);
-    connect(view, &MarlinView::convertClicked, this, &MarlinController::convert);
-    connect(view, &MarlinView::cancelClicked, &m_queue, &ConversionQueue::cancel);
-    connect(view, &MarlinView::backClicked, this, &MarlinController::doBackAction);
-    connect(view, &MarlinView::targetChanged, this, &MarlinController::targetChanged);
-
     connect(&m_prober, &MediaProber::probed, this, &MarlinController::probed);
     connect(&m_list, &ConversionList::itemsRemoved, &m_prober, &MediaProber::forget);
     connect(&m_list, &ConversionList::itemsRemoved, this, &MarlinController::showState);
 
     connect(&m_queue, &ConversionQueue::started, this, &MarlinController::showState);
-    connect(&m_queue, &ConversionQueue::progressed, view, &MarlinView::showProgress);
     connect(&m_queue, &ConversionQueue::finished, this, &MarlinController::finished);
+}
+
+std::unique_ptr<QWidget> MarlinController::makeContents()
+{
+    auto contents = std::make_unique<MarlinView>(m_list);
+    MarlinView *view = m_contents = contents.get();
+    view->outputFolder()->setDispatcher(m_settings);
+    connect(view, &MarlinView::pathsChosen, this, &MarlinController::openFiles);
+    connect(view, &MarlinView::convertClicked, this, &MarlinController::convert);
+    connect(view, &MarlinView::cancelClicked, &m_queue, &ConversionQueue::cancel);
+    connect(view, &MarlinView::backClicked, this, &MarlinController::doBackAction);
+    connect(view, &MarlinView::targetChanged, this, &MarlinController::targetChanged);
+    connect(&m_queue, &ConversionQueue::progressed, view, &MarlinView::showProgress);
+    showState();
+    return contents;
 }
 
 void MarlinController::setCompletedHandler(CompletedHandler handler)
@@ -90,7 +96,8 @@ bool MarlinController::mayLeave()
 
 void MarlinController::showFirstOpenAppTip(bool show)
 {
-    m_view->setFirstUseTipVisible(show);
+    m_view->makeContents();
+    m_contents->setFirstUseTipVisible(show);
 }
 
 void MarlinController::openFiles(const QStringList &paths)
@@ -124,7 +131,7 @@ void MarlinController::convert()
         return;
     }
     m_queue.start({.transcoderPath = m_settings->getTranscoderPath(),
-                   .target = &m_view->target(),
+                   .target = &m_contents->target(),
                    .options = transcodeOptions(*m_settings, QThread::idealThreadCount()),
                    .folder = m_settings->getVideoDir()});
 }
@@ -158,18 +165,20 @@ void MarlinController::finished(int succeeded, bool isCancelled)
     QString summary = tarnwell::AppLocalizedString(u"Converted: %1"_s).arg(succeeded);
     if (failed > 0)
         summary += u" · "_s + tarnwell::AppLocalizedString(u"Failed: %1"_s).arg(failed);
-    m_view->setStatus(summary);
+    m_contents->setStatus(summary);
     if (succeeded > 0 && !isCancelled && m_settings->isOpenWhenDone())
         tarnwell::OpenDirectory(m_queue.plan().folder);
 }
 
 void MarlinController::showState()
 {
+    if (!m_contents)
+        return;
     const bool isReading = !m_list.idsIn({ConversionState::Probing}).isEmpty();
-    m_view->setRunning(m_queue.isRunning());
-    m_view->setConvertible(!isReading && !m_queue.convertibleIds().isEmpty());
+    m_contents->setRunning(m_queue.isRunning());
+    m_contents->setConvertible(!isReading && !m_queue.convertibleIds().isEmpty());
     if (!m_queue.isRunning())
-        m_view->setStatus(isReading ? tarnwell::AppLocalizedString(u"Reading files…"_s) : QString());
+        m_contents->setStatus(isReading ? tarnwell::AppLocalizedString(u"Reading files…"_s) : QString());
 }
 
 }  // namespace kestrel

@@ -5,9 +5,11 @@
 #include "modules/marlin/MediaProber.h"
 
 #include <QObject>
+#include <QPointer>
 
 namespace kestrel {
 
+class LateView;
 class MarlinView;
 
 /// The conversion module: reads the files that the user adds, converts them with the transcoder, one after another,
@@ -31,6 +33,7 @@ public:
 
 private:
     void connectParts();
+    std::unique_ptr<QWidget> makeContents();
     void probed(qint64 id, const std::optional<MediaInformation> &information, const QString &reason);
     void convert();
     bool canStart(QString *obstacle) const;
@@ -44,7 +47,8 @@ private:
     ConversionList m_list;
     MediaProber m_prober;
     ConversionQueue m_queue;
-    std::unique_ptr<MarlinView> m_view;
+    std::unique_ptr<LateView> m_view;
+    QPointer<MarlinView> m_contents;  ///< null before they are made
 };
 
 }  // namespace kestrel
