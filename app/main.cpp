@@ -158,7 +158,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
     tarnwell::applyTheme(application);
 
-    foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s));
+    foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s));
     AppDelegate delegate(surroundings(defaults, fetcher));
     const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(delegate);
     const foundation::TerminationSignals signalsOfTheSystem;
