@@ -23,6 +23,7 @@
 #include "tarnwell/ui/DesktopAlertPresenter.h"
 #include "tarnwell/ui/DesktopFolderPanel.h"
 #include "tarnwell/ui/DesktopWebOpener.h"
+#include "tarnwell/ui/Fonts.h"
 #include "tarnwell/ui/Theme.h"
 
 #include <QApplication>
@@ -142,7 +143,7 @@ private:
 };
 
 int run(QApplication &application, SingleInstance &instance, const QStringList &files,
-        foundation::UserDefaults &defaults)
+        foundation::UserDefaults &defaults, tarnwell::FontReading &fonts)
 {
     const QString language = defaults.stringArrayForKey(appleLanguagesKey.toString()).value(0);
     QLocale::setDefault(QLocale(language));
@@ -156,6 +157,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     const tarnwell::Installed<tarnwell::AlertPresenter> installedAlerts(alerts);
     tarnwell::DesktopFolderPanel folderPanel;
     const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
+    fonts.finish();
     tarnwell::applyTheme(application);
 
     foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s));
@@ -192,6 +194,7 @@ int main(int argc, char **argv)
     if (!isTheOne(instance, argc, argv, files, status))
         return status;
 
+    tarnwell::FontReading fonts;
     tarnwell::Log log(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName());
     const tarnwell::Installed<tarnwell::Log> installedLog(log);
     const tarnwell::QtMessageLog messageLog;
@@ -203,5 +206,5 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"Kestrel"_s);
     QApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
     QApplication::setDesktopFileName(foundation::Bundle::main().identifier());
-    return run(application, instance, files, defaults);
+    return run(application, instance, files, defaults, fonts);
 }
