@@ -43,7 +43,8 @@ std::shared_ptr<const UPParser> UPParser::initWithXMLURL(const QString &url, con
         {.address = url, .maximumBytes = descriptorLimits.bytes, .schemes = foundation::FetchSchemes::WebAndFile});
     if (!result.body)
         return fail(result.reason);
-    const foundation::PropertyListResult list = foundation::readPropertyList(*result.body, descriptorLimits);
+    const foundation::PropertyListResult list =
+        foundation::readPropertyList(*result.body, descriptorLimits, foundation::PropertyListManner::Forgiving);
     if (!list.value)
         return fail(list.error.toString());
     if (list.value->typeId() != QMetaType::QVariantMap)
