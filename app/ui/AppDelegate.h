@@ -21,6 +21,7 @@ inline constexpr QStringView keyResetProfilesNotification = u"keyResetProfilesNo
 
 class LoggerWatcherTask;
 class UPParser;
+class UpgradeWindowController;
 struct UpdateContext;
 
 /// The application's delegate: owns main window, menus and module host, adds the shell's own menu entries, and carries
@@ -111,6 +112,7 @@ private:
     void setNotSafeTerminate(bool isNotSafe);
     UpdateContext updateContext() const;
     void showWhatIsDue(const std::shared_ptr<const UPParser> &descriptor, const QString &url);
+    void runUpgradeWindow(const QString &url, const std::function<void(UpgradeWindowController &)> &show);
     void fetchPromotion(const std::shared_ptr<const UPParser> &descriptor, const QString &today);
 
     Surroundings m_surroundings;
@@ -118,6 +120,7 @@ private:
     MainMenu m_mainMenu;
     std::unique_ptr<AppController> m_appController;
     std::shared_ptr<const UPParser> m_upConfigure;
+    UpgradeWindowController *m_upgradeWindow = nullptr;      ///< the one that is shown
     std::shared_ptr<LoggerWatcherTask> m_loggerWatcherTask;  ///< the latest
     bool m_hasTerminated = false;
     QTimer m_sessionEnd;  ///< active from the announcement of the session's end until that is overdue

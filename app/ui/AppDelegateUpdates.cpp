@@ -5,10 +5,12 @@
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
 #include "remote/Promotion.h"
+#include "remote/PromotionPicture.h"
 #include "remote/ui/JAdvertisementWinController.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/Notifications.h"
 #include "tarnwell/ProductInformation.h"
+#include "tarnwell/ui/TitledWindow.h"
 #include "update/LaunchDecision.h"
 #include "update/UPParser.h"
 #include "update/ui/UpgradeWindowController.h"
@@ -77,12 +79,16 @@ void AppDelegate::showWhatIsDue(const std::shared_ptr<const UPParser> &descripto
     setUpConfigure(descriptor);
     foundation::NotificationCenter::defaultCenter().postNotificationName(tarnwell::RMTConfigureDidParse.toString(),
                                                                          descriptor.get());
+    if (m_upgradeWindow) {
+        tarnwell::DNFootLog(u"Update check: the user has asked for one in the meantime"_s);
+        return;
+    }
     const QString today = m_surroundings.updates.today().toString(u"yyyy-MM-dd"_s);
     const LaunchDecision decision =
         decideAtLaunch(descriptor.get(), promotionMemory(m_surroundings.defaults), today, m_surroundings.updates.draw);
     tarnwell::DNFootLog(u"Update check: %1"_s, QString::fromUtf8(decision.reason));
     if (decision.outcome == LaunchOutcome::NewVersion)
-        UpgradeWindowController(url, updateContext(), m_surroundings.terminate).showUpgradeWindowNoProgress(descriptor);
+        runUpgradeWindow(url, [&](UpgradeWindowController &window) { window.showUpgradeWindowNoProgress(descriptor); });
     else if (decision.outcome == LaunchOutcome::Promotion)
         fetchPromotion(descriptor, today);
 }
@@ -92,16 +98,16 @@ void AppDelegate::fetchPromotion(const std::shared_ptr<const UPParser> &descript
     m_surroundings.defaults.setObject(today, advertisementDateKey.toString());
     foundation::queue::asyncGlobal([this, descriptor] {
         const AdParser &promotion = *descriptor->rmtConfig()->adParser();
-        QByteArray picture;
+        QImage picture;
         if (!promotion.pictureURL().isEmpty()) {
             const foundation::FetchResult result =
                 m_surroundings.updates.fetch({.address = promotion.pictureURL(), .maximumBytes = maximumPictureBytes});
             if (!result.body)
                 tarnwell::DNFootLog(u"The picture of the promotion could not be fetched: %1"_s, result.reason);
-            picture = result.body.value_or(QByteArray());
+            picture = promotionPicture(result.body.value_or(QByteArray()));
         }
         foundation::queue::asyncMain([self = QPointer(this), descriptor, picture] {
-            if (self && !self->m_hasTerminated)
+            if (self && !self->m_hasTerminated && !self->m_upgradeWindow)
                 JAdvertisementWinController::ShowAdvertisement(descriptor->rmtConfig()->adParser()->full(), picture,
                                                                self->m_surroundings.defaults);
         });
@@ -110,7 +116,18 @@ void AppDelegate::fetchPromotion(const std::shared_ptr<const UPParser> &descript
 
 void AppDelegate::onCheckUpdateAction()
 {
-    UpgradeWindowController(descriptorURL(), updateContext(), m_surroundings.terminate).showUpgradeWindow();
+    if (m_upgradeWindow)
+        return m_upgradeWindow->window()->makeKeyAndOrderFront();
+    runUpgradeWindow(descriptorURL(), &UpgradeWindowController::showUpgradeWindow);
+}
+
+/// One at a time, whoever asked for it.
+void AppDelegate::runUpgradeWindow(const QString &url, const std::function<void(UpgradeWindowController &)> &show)
+{
+    UpgradeWindowController window(url, updateContext(), m_surroundings.terminate);
+    m_upgradeWindow = &window;
+    show(window);
+    m_upgradeWindow = nullptr;
 }
 
 QString AppDelegate::titleOfSupportField() const

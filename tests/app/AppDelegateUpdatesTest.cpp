@@ -19,6 +19,8 @@
 #include <QStackedWidget>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -190,6 +192,37 @@ TEST_F(AppDelegateUpdatesTest, the_configuration_is_handed_on)
                   QStringList({u"top"_s, u"http://top"_s, u"bottom"_s, u"http://bottom"_s}));
         ASSERT_TRUE(m_delegate->topRightWndBtnConfig());
         EXPECT_EQ(m_delegate->topRightWndBtnConfig()->dictionary().value(u"name"_s).toString(), button);
+    }
+}
+
+TEST_F(AppDelegateUpdatesTest, a_check_by_hand_stands_for_the_automatic_one)
+{
+    for (const QString &version : {u"9.0"_s, u"1.0.0"_s}) {  // of which the second would bring a promotion
+        SCOPED_TRACE(version.toStdString());
+        m_shown.clear();
+        make(descriptorLink);
+        m_server.documents.insert(descriptorLink, descriptor(version));
+        qsizetype mostWindows = 0;
+        QTimer::singleShot(0, &*m_delegate, [&] {
+            m_delegate->onCheckUpdateAction();  // once more, by its shortcut
+            foundation::queue::asyncGlobal([this] { m_delegate->checkUpgradesAutomatically(); });
+            m_closer.callOnTimeout(&*m_delegate, [&] {
+                mostWindows =
+                    std::max(mostWindows, std::ranges::count_if(QApplication::topLevelWidgets(), [](const QWidget *w) {
+                                 return w->isModal() && w->isVisible();
+                             }));
+            });
+        });
+        m_delegate->onCheckUpdateAction();
+        foundation::queue::finishGlobal();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(m_shown, QStringList(u"update"_s));
+        EXPECT_EQ(mostWindows, 1);
+        EXPECT_EQ(m_posts, 1) << "the automatic one is read all the same";
+        EXPECT_FALSE(m_defaults->objectForKey(u"_AdvertisementDateString"_s).isValid());
+        m_closer.disconnect();
+        m_closer.stop();
+        m_posts = 0;
     }
 }
 
