@@ -108,8 +108,8 @@ void AppDelegate::fetchPromotion(const std::shared_ptr<const UPParser> &descript
         }
         foundation::queue::asyncMain([self = QPointer(this), descriptor, picture] {
             if (self && !self->m_hasTerminated && !self->m_upgradeWindow)
-                JAdvertisementWinController::ShowAdvertisement(descriptor->rmtConfig()->adParser()->full(), picture,
-                                                               self->m_surroundings.defaults);
+                JAdvertisementWinController::ShowAdvertisementWithImage(descriptor->rmtConfig()->adParser()->full(),
+                                                                        picture, self->m_surroundings.defaults);
         });
     });
 }

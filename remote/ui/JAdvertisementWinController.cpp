@@ -67,11 +67,11 @@ QImage JAdvertisementWinController::imageFromData(const QByteArray &data)
 void JAdvertisementWinController::ShowAdvertisement(const std::optional<ADItem> &item, const QByteArray &data,
                                                     foundation::UserDefaults &defaults)
 {
-    ShowAdvertisement(item, promotionPicture(data), defaults);
+    ShowAdvertisementWithImage(item, promotionPicture(data), defaults);
 }
 
-void JAdvertisementWinController::ShowAdvertisement(const std::optional<ADItem> &item, const QImage &picture,
-                                                    foundation::UserDefaults &defaults)
+void JAdvertisementWinController::ShowAdvertisementWithImage(const std::optional<ADItem> &item, const QImage &picture,
+                                                             foundation::UserDefaults &defaults)
 {
     if (!item || !takeUpPromotion(*item, defaults))
         return;

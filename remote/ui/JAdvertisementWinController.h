@@ -31,8 +31,8 @@ public:
                                   foundation::UserDefaults &defaults);
     /// The same with the picture as it was read, which takes its time and may be done on any thread
     /// (PromotionPicture.h).
-    static void ShowAdvertisement(const std::optional<ADItem> &item, const QImage &picture,
-                                  foundation::UserDefaults &defaults);
+    static void ShowAdvertisementWithImage(const std::optional<ADItem> &item, const QImage &picture,
+                                           foundation::UserDefaults &defaults);
     /// The picture, or the application's icon where it is none that can be shown.
     static QImage imageFromData(const QByteArray &data);
 
