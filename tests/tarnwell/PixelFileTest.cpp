@@ -75,12 +75,14 @@ TEST(PixelFileTest, HasThePicturesThatAreWholeAndNoOthers)
         const QImage glass = file.image(u"glass"_s), wall = file.image(u"wall"_s);
         EXPECT_EQ(!glass.isNull(), hasGlass);
         EXPECT_EQ(!wall.isNull(), hasWall);
-        if (hasGlass)
+        if (hasGlass) {
             EXPECT_TRUE(glass.size() == QSize(2, 1) && glass.pixel(0, 0) == qRgba(255, 0, 0, 128) &&
                         glass.pixel(1, 0) == 0);
-        if (hasWall)
+        }
+        if (hasWall) {
             EXPECT_TRUE(wall.size() == QSize(1, 2) && wall.pixel(0, 0) == qRgb(0, 0, 255) &&
                         wall.pixel(0, 1) == qRgb(0, 255, 0));
+        }
         EXPECT_TRUE(file.image(u"glas"_s).isNull() && file.image({}).isNull());
     }
     EXPECT_TRUE(PixelFile(folder.filePath(u"none"_s)).image(u"glass"_s).isNull());
