@@ -74,7 +74,7 @@ TEST(StyledHtml, ReadsFragments)
         {"<a href=MailTo:a@example.com>a</a><a href='file:///etc'>b</a><a href='http://x y'>c",
          "a{MailTo:a@example.com}bc"},
         {"<del>90</del> <s>8<strike>0</s></strike> <ins>7</ins> H<sub>2</sub>O m<sup>2</sup>",
-         "90{s} 8{s}0{s} 7{u} H2{_}O m2{^}"},
+         "90{s} 80{s} 7{u} H2{_}O m2{^}"},
         {"<small>a<big>b</big></small><big><big>c</big>d</big><font size=7><big>e", "a{11}b{13}c{19}d{16}e{39}"},
         {"a<center>b<br>c</center>d<p style='text-align:center'>e", "a/b/c/{c}d//e{c}"},
         {"<b style='font-weight:normal'>a</b><i style='font-style: normal'>b</i><u style=text-decoration:none>c</u>"
