@@ -83,6 +83,7 @@ def profile(desktop, program, first_paint):
     output = os.path.join(desktop.home, 'callgrind.out')
     log = os.path.join(desktop.home, 'callgrind.log')
     environment = desktop.environment | {'LD_PRELOAD': first_paint, 'DBUS_SESSION_BUS_ADDRESS': 'disabled:'}
+    environment.pop('QT_LINUX_ACCESSIBILITY_ALWAYS_ON', None)  # as it is where nobody reads the screen aloud
     with open(log, 'wb') as file:
         status = subprocess.run(['valgrind', '--tool=callgrind', '--callgrind-out-file=' + output, program],
                                 env=environment, cwd=desktop.home, stdin=subprocess.DEVNULL, stdout=file, stderr=file,
