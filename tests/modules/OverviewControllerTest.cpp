@@ -38,6 +38,8 @@ TEST(OverviewControllerTest, ShowsItsOwnFolderAndLeadsBack)
         EXPECT_TRUE(module->view()->children().isEmpty() && module->view()->size() == QSize(900, 600)) << "at launch";
         QWidget window;  // which shows what is in it
         module->view()->setParent(&window);
+        module->view()->ensurePolished();
+        EXPECT_TRUE(module->view()->children().isEmpty()) << "the host has it in the window for a moment";
         window.show();
         const auto *label = module->view()->findChild<QLabel *>(u"folderLabel"_s);
         EXPECT_EQ(label->text(), settings.folder());
