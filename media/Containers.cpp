@@ -211,6 +211,7 @@ constexpr Container containerTable[] = {
      .name = "DV",
      .muxer = "dv",
      .extension = "dv",
+     .traits = StereoOnly,
      .video = "dvvideo",
      .sound = "pcm_s16le",
      .sampleRate = 48000,
