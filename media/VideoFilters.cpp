@@ -2,6 +2,8 @@
 
 #include "FilterText.h"
 
+#include "tarnwell/SystemInformation.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -268,7 +270,7 @@ QStringList encoderFilters(const VideoTrackPlan &video, std::optional<double> se
     if (video.encoder->is("gif"_L1))
         return {paletteFilter(video, seconds)};
     if (video.isHardware)
-        return {u"format=nv12"_s, u"hwupload"_s};
+        return {QString::fromLatin1(tarnwell::hardwareEncoderArguments.filter)};
     return {u"format="_s + video.pixelFormat};
 }
 
