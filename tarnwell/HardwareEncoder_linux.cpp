@@ -124,10 +124,11 @@ QString hardwareEncoderDevice(quint32 codec, int width, int height)
 {
     constexpr quint32 avc1 = 0x61766331;
     constexpr const char *renderNodes[] = {"/dev/dri/renderD128", "/dev/dri/renderD129"};
-    if (codec != avc1)
+    constexpr quint32 hvc1 = 0x68766331;
+    if (codec != avc1 && codec != hvc1)
         return {};
     for (const char *node : renderNodes) {
-        if (VideoDevice(node).canEncode(VAProfileH264Main, width, height))
+        if (VideoDevice(node).canEncode(codec == avc1 ? VAProfileH264Main : VAProfileHEVCMain, width, height))
             return QString::fromLatin1(node);
     }
     return {};

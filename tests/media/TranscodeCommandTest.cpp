@@ -104,7 +104,7 @@ TEST(TranscodeCommand, BeginsAndEndsAsEveryRun)
               "-hide_banner -nostdin -nostats -loglevel repeat+level+verbose -progress pipe:1 -stats_period 0.2 -y "
               "-protocol_whitelist file -i file:/films/a.mp4 -map 0:0 -c:v:0 copy -map 0:1 -c:a:0 copy "
               "-map_metadata 0 -map_chapters -1 -disposition:a:0 0 -metadata:s:a:0 language=eng -dn "
-              "-max_muxing_queue_size 4096 -movflags +faststart -f mp4 file:/out/.part");
+              "-max_muxing_queue_size 4096 -movflags +faststart -strict experimental -f mp4 file:/out/.part");
 }
 
 TEST(TranscodeCommand, KeepsATrackOnlyWhereNothingIsLostOrAsked)
