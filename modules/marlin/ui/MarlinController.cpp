@@ -98,21 +98,6 @@ std::unique_ptr<QWidget> MarlinController::makeContents()
     return page;
 }
 
-std::unique_ptr<QWidget> MarlinController::makeContents()
-{
-    auto contents = std::make_unique<MarlinView>(m_list);
-    MarlinView *view = m_contents = contents.get();
-    view->outputFolder()->setDispatcher(m_settings);
-    connect(view, &MarlinView::pathsChosen, this, &MarlinController::openFiles);
-    connect(view, &MarlinView::convertClicked, this, &MarlinController::convert);
-    connect(view, &MarlinView::cancelClicked, &m_queue, &ConversionQueue::cancel);
-    connect(view, &MarlinView::backClicked, this, &MarlinController::doBackAction);
-    connect(view, &MarlinView::targetChanged, this, &MarlinController::targetChanged);
-    connect(&m_queue, &ConversionQueue::progressed, view, &MarlinView::showProgress);
-    showState();
-    return contents;
-}
-
 void MarlinController::setCompletedHandler(CompletedHandler handler)
 {
     m_completedHandler = std::move(handler);
