@@ -87,7 +87,7 @@ TEST(SingleInstanceTest, noise_on_the_socket_is_ignored)
 TEST(SingleInstanceTest, a_long_message_comes_in_pieces_and_whole)
 {
     const QTemporaryDir folder;
-    SingleInstance first(folder.path());
+    SingleInstance first({folder.path()});
     ASSERT_EQ(first.claim({}), SingleInstance::Role::First);
     first.listen();
     QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
@@ -96,7 +96,7 @@ TEST(SingleInstanceTest, a_long_message_comes_in_pieces_and_whole)
         files.append(u"/films/%1/a name of some length.mkv"_s.arg(i));
     QLocalSocket idle;  // one who says nothing keeps nobody waiting
     idle.connectToServer(folder.filePath(u"instance.socket"_s));
-    auto second = std::async(std::launch::async, [&] { return SingleInstance(folder.path()).claim(files, 60'000); });
+    auto second = std::async(std::launch::async, [&] { return SingleInstance({folder.path()}).claim(files, 60'000); });
     ASSERT_TRUE(test::waitUntil([&] { return startedAgain.count() == 1; }, 60'000));
     EXPECT_EQ(startedAgain.at(0).at(0).toStringList(), files);
     EXPECT_EQ(second.get(), SingleInstance::Role::Second);

@@ -78,7 +78,7 @@ TEST(UPParser, ForgivesADescriptorWrittenByHand)
         "<string>4.0</string></dict></plist>"};
     const auto parser = UPParser::initWithXMLURL(u"x"_s, server.context(u"en"_s));
     ASSERT_TRUE(parser);
-    EXPECT_EQ(parser->versionFromServer() + parser->buildTimeFromServer(), u"4.0März"_s);
+    EXPECT_EQ((*parser)->versionFromServer() + (*parser)->buildTimeFromServer(), u"4.0März"_s);
 }
 
 TEST(UPParser, FallsBackToTheRootAndToTheEnglishLinks)
