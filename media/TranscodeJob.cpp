@@ -144,6 +144,9 @@ void TranscodeJob::carryOut()
     }
     for (const Sentence &note : std::as_const(m_steps.notes))
         emit noted(note);
+    const bool isWhole = m_request.information.size() == 1 && m_request.plan.pieces.isEmpty();
+    if (isWhole && m_request.plan.speedFactor == 1)
+        m_steps.expected.seconds = secondsOfKept(m_steps.expected, m_request.information.first());
     m_step = 0;
     m_doneShare = 0;
     runStep();
@@ -200,18 +203,26 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
             {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},
             *found);
         const bool isBroken = findings.isEmpty || !findings.damage.isEmpty();
-        if (m_steps.expected.decodesAll && !isBroken && !isStopping())
+        if (neededDecoding() != Decoding::None && !isBroken && !isStopping())
             decodeOutput(ending, findings);
         else
             judge(ending, findings, 0);
     });
 }
 
+/// Nothing was decoded of what was copied, and so nothing was said of its faults.
+Decoding TranscodeJob::neededDecoding() const
+{
+    if (m_steps.expected.decodesAll)
+        return Decoding::All;
+    return m_steps.work == TranscodeSteps::Work::Encode ? Decoding::None : Decoding::KeyPictures;
+}
+
 void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &findings)
 {
     m_decoding = ToolMessages({m_output->partPath()});
     const ToolProcess &tool =
-        run(decodingCommand(m_request.tools.transcoder, ToolPath(m_output->partPath()).argument()),
+        run(decodingCommand(m_request.tools.transcoder, ToolPath(m_output->partPath()).argument(), neededDecoding()),
             [this, ending, findings](const ToolEnding &decoding) {
                 judge(ending, findings, std::max(m_decoding.faults(), decoding.isGood() || isStopping() ? 0 : 1));
             });

@@ -6,6 +6,7 @@ kestrel_test(media
         MediaReportTest.cpp
         MediaSamples.cpp MediaSamples.h
         OutputCheckTest.cpp
+        PictureScanTest.cpp
         ToolMessagesTest.cpp
         TranscodeJobTest.cpp
     LINKS kestrel_media_ui)
