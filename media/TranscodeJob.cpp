@@ -210,12 +210,15 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
     });
 }
 
-/// Nothing was decoded of what was copied, and so nothing was said of its faults.
+/// Nothing was decoded of what was copied, and so nothing was said of its faults. Small files are soon decoded.
 Decoding TranscodeJob::neededDecoding() const
 {
+    constexpr qint64 smallBytes = 32 * 1024 * 1024;
     if (m_steps.expected.decodesAll)
         return Decoding::All;
-    return m_steps.work == TranscodeSteps::Work::Encode ? Decoding::None : Decoding::KeyPictures;
+    if (m_steps.work == TranscodeSteps::Work::Encode)
+        return Decoding::None;
+    return QFileInfo(m_output->partPath()).size() <= smallBytes ? Decoding::All : Decoding::KeyPictures;
 }
 
 void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &findings)
