@@ -53,13 +53,15 @@ void TranscodeJob::start()
 
 void TranscodeJob::lookAtSource()
 {
+    if (isStopping())
+        return finishStopped();
     const qsizetype number = m_request.information.size();
     if (number >= qsizetype(m_sources.size()))
         return scanPicture();
     tellStage("Reading the file…"_key);
     run(probeCommand(m_request.tools.prober, m_sources[number].argument(), lookLimit),
         [this](const ToolEnding &ending) {
-            if (isStopping())
+            if (isStopping())  // which the look may not have survived
                 return finishStopped();
             auto result = probeResult(ending);
             if (result)
