@@ -77,7 +77,7 @@ constexpr Container containerTable[] = {
      .traits = ManySounds,
      .video = "mpeg4 h264 mjpeg mpeg2video mpeg1video dvvideo ffv1 huffyuv utvideo av1 cinepak dnxhd flv1 h263 png "
               "prores theora vp8 vp9 wmv2",
-     .sound = "mp3 aac ac3 adpcm_ima_wav dts eac3 flac mp2 pcm_s16le speex vorbis wmav2",
+     .sound = "mp3 aac ac3 adpcm_ima_wav dts eac3 mp2 pcm_s16le speex vorbis wmav2",
      .keptVideo = "msmpeg4v2 msmpeg4v3 wmv1",
      .keptSound = "pcm_u8 pcm_s24le wmav1"},
     {.id = "wmv",
