@@ -38,7 +38,7 @@ constexpr Container containerTable[] = {
      .muxer = "matroska",
      .extension = "mkv",
      .traits = matroskaTraits,
-     .video = "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video ffv1 mjpeg theora prores dnxhd dvvideo flv1 gif h263 "
+     .video = "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video ffv1 mjpeg theora prores dnxhd dvvideo flv1 h263 "
               "huffyuv png utvideo wmv2",
      .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
               "wavpack wmav2",
@@ -53,7 +53,7 @@ constexpr Container containerTable[] = {
      .muxer = "mov",
      .extension = "mov",
      .traits = filmTraits,
-     .video = "h264 hevc prores dnxhd mjpeg mpeg4 mpeg2video mpeg1video dvvideo cinepak ffv1 flv1 gif h263 huffyuv png "
+     .video = "h264 hevc prores dnxhd mjpeg mpeg4 mpeg2video mpeg1video dvvideo cinepak ffv1 flv1 h263 huffyuv png "
               "theora utvideo wmv2",
      .sound = "aac ac3 adpcm_ima_wav alac dts eac3 mp2 mp3 pcm_s16be pcm_s16le speex vorbis",
      .keptSound = "pcm_s24le pcm_s24be pcm_s32le pcm_f32le",
@@ -77,7 +77,7 @@ constexpr Container containerTable[] = {
      .traits = ManySounds,
      .video = "mpeg4 h264 mjpeg mpeg2video mpeg1video dvvideo ffv1 huffyuv utvideo av1 cinepak dnxhd flv1 h263 png "
               "prores theora vp8 vp9 wmv2",
-     .sound = "mp3 aac ac3 adpcm_ima_wav dts eac3 flac mp2 pcm_s16le speex vorbis wmav2",
+     .sound = "mp3 aac ac3 adpcm_ima_wav dts eac3 mp2 pcm_s16le speex vorbis wmav2",
      .keptVideo = "msmpeg4v2 msmpeg4v3 wmv1",
      .keptSound = "pcm_u8 pcm_s24le wmav1"},
     {.id = "wmv",
@@ -189,7 +189,7 @@ constexpr Container containerTable[] = {
      .muxer = "nut",
      .extension = "nut",
      .traits = VariableRate | Chapters | ManySounds | TrackNames,
-     .video = "h264 hevc av1 cinepak dnxhd dvvideo ffv1 flv1 gif h263 huffyuv mjpeg mpeg1video mpeg2video mpeg4 png "
+     .video = "h264 hevc av1 cinepak dnxhd dvvideo ffv1 flv1 h263 huffyuv mjpeg mpeg1video mpeg2video mpeg4 png "
               "prores theora utvideo vp8 vp9 wmv2",
      .sound = "aac ac3 adpcm_ima_wav dts flac mp2 mp3 opus pcm_s16be pcm_s16le speex vorbis wavpack"},
     {.id = "wtv",

@@ -29,13 +29,20 @@ void shortenToKept(QList<SourcePiece> &pieces, const TrackPlan &tracks, const QL
     if (sources.size() != 1)
         return;
     double longest = 0;
+    const bool isWhole = pieces.size() == 1 && !pieces.first().end;
     const auto take = [&](const MediaTrack *track) {
-        longest = track->duration ? std::max(longest, track->start + *track->duration) : 1e12;
+        constexpr double unknown = 1e12;
+        longest = std::max(longest, track->duration ? track->start + *track->duration : unknown);
     };
     if (tracks.video)
         take(tracks.video->source);
     for (const SoundTrackPlan &sound : tracks.sounds)
         take(sound.source);
+    // A cut ends the last cue as well.
+    for (const SubtitleTrackPlan &subtitle : tracks.subtitles) {
+        if (subtitle.source && isWhole)
+            take(subtitle.source);
+    }
     for (SourcePiece &piece : pieces) {
         if (piece.seconds)
             piece.seconds = std::clamp(longest - piece.start.value_or(0), 0.0, *piece.seconds);
@@ -88,6 +95,7 @@ public:
         m_rate = *rate;
         m_tracks.notes = notesOn(m_plan, m_tracks, plannedSize);
         addCoverRuns();
+        addSubtitleRun();
         addInputs();
         if (m_rate.hasTwoPasses) {
             addRun(firstPass(), "First pass"_key, 0.4);
@@ -101,6 +109,10 @@ public:
 
 private:
     bool isHardware() const { return m_tracks.video && m_tracks.video->isHardware; }
+    std::optional<double> cutLength() const
+    {
+        return isOnePiece() ? std::optional(*m_pieces.first().end - *m_pieces.first().start) : std::nullopt;
+    }
     QString log() const { return m_paths.workFolder + u"/passes"_s; }
 
     QStringList threads() const
@@ -129,6 +141,34 @@ private:
         m_steps.runs.append({.arguments = arguments, .stage = {"Cover"_key}, .share = 0, .seconds = 0});
     }
 
+    bool isOnePiece() const { return !m_plan.pieces.isEmpty() && m_pieces.size() == 1; }
+
+    /// Subtitles that are both cut and made into others: what ffmpeg makes cannot be cut in the same run.
+    void addSubtitleRun()
+    {
+        const auto isMade = [](const SubtitleTrackPlan &subtitle) { return subtitle.encoder != "copy"_L1; };
+        if (!isOnePiece() || std::ranges::none_of(m_tracks.subtitles, isMade))
+            return;
+        QStringList inputs{u"-i"_s, u"file:"_s + m_plan.sources.first()}, maps;
+        int input = 0, made = 0;
+        for (SubtitleTrackPlan &subtitle : m_tracks.subtitles) {
+            if (!isMade(subtitle))
+                continue;
+            if (subtitle.file >= 0)
+                inputs << u"-i"_s << u"file:"_s + m_plan.externalSubtitles.at(subtitle.file).path;
+            maps << u"-map"_s << (subtitle.source ? u"0:%1"_s.arg(subtitle.source->index) : u"%1:s:0"_s.arg(++input))
+                 << u"-c:s:%1"_s.arg(made) << subtitle.encoder;
+            subtitle.encoder = u"copy"_s;
+            subtitle.made = made++;
+        }
+        const bool isFilm = m_tracks.container->has(Container::HandlerNames);
+        m_subtitlePath = m_paths.workFolder + (isFilm ? u"/subtitles.mp4"_s : u"/subtitles.mks"_s);
+        addRun(commonHead() + inputs + maps +
+                   QStringList{u"-map_chapters"_s, u"-1"_s, u"-f"_s, isFilm ? u"mp4"_s : u"matroska"_s,
+                               u"file:"_s + m_subtitlePath},
+               "Subtitles"_key, 0);
+    }
+
     void addInputs()
     {
         const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
@@ -136,9 +176,17 @@ private:
             m_inputs << threads()
                      << pieceInput(piece, m_sources.at(piece.source), m_plan.sources.at(piece.source), copiesPictures);
         m_inputCount = int(m_pieces.size());
-        for (SubtitleTrackPlan &subtitle : m_tracks.subtitles) {
-            if (subtitle.file >= 0)
-                m_subtitleInputs.insert(subtitle.file, addSubtitleInput(subtitle.file));
+        if (!m_subtitlePath.isEmpty()) {
+            m_inputs += pieceInput(m_pieces.first(), m_sources.first(), m_subtitlePath, false);
+            m_madeInput = m_inputCount++;
+        }
+        for (const SubtitleTrackPlan &subtitle : m_tracks.subtitles) {
+            if (subtitle.made >= 0)
+                m_subtitleMaps << u"%1:%2"_s.arg(m_madeInput).arg(subtitle.made);
+            else if (subtitle.source)
+                m_subtitleMaps << u"0:%1"_s.arg(subtitle.source->index);
+            else
+                m_subtitleMaps << u"%1:s:0"_s.arg(addSubtitleInput(subtitle.file));
         }
         const bool burnsFile =
             m_tracks.burned && m_tracks.burned->file >= 0 &&
@@ -233,7 +281,7 @@ private:
                 arguments << u"-filter:a:%1"_s.arg(number) << filters;
             arguments += soundArguments(m_plan, m_tracks.sounds.at(number), number);
         }
-        arguments += companionArguments(m_plan, m_tracks, m_sources.first(), m_subtitleInputs, m_coverPath);
+        arguments += companionArguments(m_plan, m_tracks, m_subtitleMaps, cutLength(), m_coverPath);
         arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_chapterInput);
         arguments += threads();
         return arguments + commonTail(m_tracks, m_paths.output);
@@ -271,7 +319,9 @@ private:
     RateTarget m_rate;
     QStringList m_inputs, m_firstPassInputs;
     int m_inputCount = 0;
-    QHash<int, int> m_subtitleInputs;  ///< input of a file of the plan
+    QString m_subtitlePath;  ///< of subtitles that were made before
+    int m_madeInput = -1;
+    QStringList m_subtitleMaps;
     GraphInputs m_graphInputs;
     int m_chapterInput = 0;
     qsizetype m_chapters = 0;

@@ -122,7 +122,7 @@ class Samples:
         pgs(path, [(1.0, 2.0), (2.5, 3.5)])
 
     def make_bitmaps(self, path):
-        self.ffmpeg('-i', self.path('flat'), '-i', self.path('cues'), '-map', '0', '-map', '1', '-c', 'copy', '-metadata:s:s:0', 'language=fre', path)
+        self.ffmpeg('-copyts', '-i', self.path('flat'), '-i', self.path('cues'), '-map', '0', '-map', '1', '-c', 'copy', '-metadata:s:s:0', 'language=fre', path)
 
     def make_dvdsub(self, path):
         self.ffmpeg('-fix_sub_duration', '-i', self.path('bitmaps'), '-map', '0', '-c', 'copy', '-c:s', 'dvdsub', path)
