@@ -1,9 +1,11 @@
 """The settings window: every kind of control changed, what survives a restart, search, folders that are refused."""
+import json
 import os
+import xml.etree.ElementTree as ElementTree
 
 from accessible import extents, states, wait_for, walk
 from harness import ProgramTest, main
-from material import unarchived
+from material import catalogue, unarchived
 
 DOWNLOAD_LISTS = (  # shown, picked, stored under, as
     ('5', 'Unlimited', 'concurrent', 0),
@@ -93,34 +95,51 @@ class SettingsTest(ProgramTest):
         self.click(app, 'push button', 'Details…')
         wait_for(lambda: any('libx264' in text for text in app.texts()), 'the encoders of the transcoder')
 
-    def test_search_goes_to_the_section(self):
-        app = self.launch()
-        dialog = self.open(app)
-        labels = {node.get_name(): node for node in walk(dialog) if node.get_role_name() == 'label'}
-        common, download = labels['Common'], labels['Download']
-        start = extents(common)[1]
-        self.type_into(app, 'Search Settings', 'RESOLUTION down')
-        app.find('list item', 'download resolution')
-        self.desktop.key('Return')
-        page = extents(dialog)
-        wait_for(lambda: page[1] < extents(download)[1] < page[1] + page[3], 'the download section')
-        self.type_into(app, 'Search Settings', 'notify')
-        self.desktop.key('Down', 'Return')
-        wait_for(lambda: extents(common)[1] == start, 'the common section')
-        self.desktop.key('Escape')
-        wait_for(lambda: not app.find_all('dialog'), 'Escape to close the settings')
+    def names(self, app):
+        """All that is told of what is on screen."""
+        found = [(node.get_name(), node.get_description()) for node in walk(app.node())]
+        return {text for texts in found for text in texts}
 
-    def test_folders_that_cannot_be_used_are_refused(self):
+    def archive_of_a_run(self, language, say):
+        """What is stored by a run that changes the lists whose titles are translated, and all that it showed."""
+        self.desktop.new_user()
+        self.desktop.set_defaults(self.bundle, kAppCustomizeLanguage=language)
         app = self.launch()
-        self.open(app)
-        before = os.path.join(self.desktop.home, 'Movies/Mac Video Library')
-        self.choose(app, 'Choose… (Video, Video folder)', '/proc')
-        self.click(app, 'push button', 'OK')
-        wait_for(lambda: not app.find_all('push button', 'OK'), 'the alert to close')
-        self.assertIn(before, app.texts())
-        self.assertNotIn('/proc', app.texts())
-        self.click(app, 'push button', 'Open (Video, Video folder)')
-        wait_for(lambda: [f'file://{before}'.replace(' ', '%20')] in self.desktop.calls('xdg-open'), 'the file manager')
+        shown = self.names(app)
+        self.click(app, 'push button', say('About'))
+        app.find('dialog')
+        shown |= self.names(app)
+        self.desktop.key('Escape')
+        wait_for(lambda: not app.find_all('dialog'), 'the window to close')
+        self.click(app, 'push button', say('Settings'))
+        dialog = app.find('dialog')
+        shown |= self.names(app)
+        self.click(app, 'push button', 'DVD')
+        self.pick(app, say('Default'), {'de': 'Koreanisch'}.get(language, 'Korean'))
+        self.click(app, 'push button', say('Download'))
+        for shown_title, picked in (('Highest Resolution', '720P'), ('720P', 'Highest Resolution'), ('5', 'Unlimited')):
+            self.pick(app, say(shown_title), say(picked))
+        shown |= self.names(app)
+        self.assertEqual(app.end(), 0)
+        archive = unarchived(self.defaults()['setting'])
+        return json.loads(json.dumps(archive).replace(self.desktop.home, '~')), shown
+
+    def test_in_german(self):
+        """No English sentence shows, and what is stored is what is stored in English."""
+        german = catalogue('de')
+        english_archive, english_texts = self.archive_of_a_run('Default', str)
+        archive, shown = self.archive_of_a_run('de', lambda text: german.get(text, text))
+        self.assertEqual(archive, english_archive)
+        self.assertEqual(archive['downloader']['rso'], 'Highest Resolution')
+        app = self.desktop.launch_program(os.path.join(os.path.dirname(self.bundle), 'tests/kestrel_show_prompt'), self.bundle, 'de')
+        app.find('push button')
+        shown |= self.names(app)
+        prompts = ElementTree.parse(os.path.join(self.bundle, 'Contents/Resources/prompt-mlde.xml')).getroot()
+        foreign = {element.text.strip() for element in prompts.find('en').iter() if element.text} - {
+            element.text.strip() for element in prompts.find('de').iter() if element.text}
+        foreign |= {source for source, translated in german.items() if translated and translated != source}
+        self.assertGreater(len(foreign & english_texts), 40, 'what English shows')
+        self.assertEqual({text for text in shown if text.strip() in foreign}, set())
 
 
 if __name__ == '__main__':
