@@ -5,11 +5,13 @@
 #include "MainMenu.h"
 #include "ShutdownPanel.h"
 #include "app/ProblemReports.h"
+#include "foundation/Queues.h"
 #include "tarnwell/AppWndTRButtonConfig.h"
 #include "tarnwell/WebPages.h"
 
 #include <QObject>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>

@@ -1,4 +1,4 @@
-"""The home screen: hover texts, footer, and the page that greets a new version."""
+"""The home screen of a rebranded copy: its footer, and the page that greets a new version."""
 import hashlib
 import os
 from urllib.parse import parse_qs
@@ -7,25 +7,8 @@ from accessible import wait_for
 from harness import ProgramTest, main
 from material import bundle_information, copy_bundle
 
-RESTING = 'The strongest video processing software'
-HOVER_TEXTS = (  # button, headline, beginning of the description
-    ('Video Converter', 'Convert & Process Video', 'Change video & audio formats'),
-    ('DVD Ripper', 'Convert & Backup DVD', 'Backup DVDs in 6 modes'),
-    ('Downloader', 'Download Video', 'Download ultra-high quality'),
-    ('Recorder', 'Record Video', 'Record screen/webcam/iPhone'),
-)
-
 
 class HomeTest(ProgramTest):
-    def test_hover_texts(self):
-        app = self.launch()
-        for button, headline, description in HOVER_TEXTS:
-            with self.subTest(button):
-                self.desktop.move(2, 2)
-                app.wait_for_text(RESTING)
-                self.desktop.hover(app.find('push button', button))
-                app.wait_for_text(headline)
-                app.wait_for_text(description)
 
     def test_greeting_and_footer_of_a_rebranded_copy(self):
         bundle = copy_bundle(self.bundle, self.desktop.home + '/Copy.app', CFBundleIdentifier='org.example.copy',

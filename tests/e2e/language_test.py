@@ -12,18 +12,6 @@ class LanguageTest(ProgramTest):
             self.click(app, None, item)
         self.click(app, 'push button', answer)
 
-    def test_stored_choice(self):
-        english = 'Video Converter'
-        for choice, caption in (('ja', catalogue('ja')[english]), ('de', catalogue('de')[english]),
-                                ('nonsense', english), (['de'], english)):
-            with self.subTest(choice):
-                self.desktop.new_user()
-                self.desktop.set_defaults(self.bundle, **{CHOICE: choice})
-                app = self.launch()
-                self.assertIn(caption, app.texts())
-                self.assertTrue(caption == english or english not in app.texts(), 'English shows')
-                self.assertEqual(app.end(), 0)
-
     def test_choice_with_restart(self):
         app = self.launch()
         self.choose_german(app, 'Cancel')

@@ -1,9 +1,9 @@
-"""The settings window: every kind of control changed, what survives a restart, search, folders that are refused."""
+"""The settings window: every kind of control changed, what survives a restart, and German."""
 import json
 import os
 import xml.etree.ElementTree as ElementTree
 
-from accessible import extents, states, wait_for, walk
+from accessible import states, wait_for, walk
 from harness import ProgramTest, main
 from material import catalogue, unarchived
 

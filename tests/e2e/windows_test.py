@@ -80,20 +80,9 @@ class WindowsTest(ProgramTest):
             display.terminate()
             display.wait()
         self.assertEqual(app.wait_for_end(), 1, app.output())
+        self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
         downloader = unarchived(self.defaults()['setting'])['downloader']
         self.assertEqual((downloader['proxyURL'], downloader['proxyEnable']), ('http://proxy.example', True))
-
-    def test_the_log_comes_to_the_front_again(self):
-        app = self.launch()
-        self.choose_from_menu(app, 'Help', 'App Log')
-        viewer = wait_for(lambda: next((window for window in self.desktop.windows() if window['pid'] != app.pid), None),
-                          'the log viewer')
-        self.desktop.x('xdotool', 'windowactivate', app.wait_for_window()['id'])
-        wait_for(lambda: self.desktop.windows()[-1]['pid'] == app.pid, 'the program in front')
-        self.desktop.move(2, 2)
-        self.choose_from_menu(app, 'Help', 'App Log')
-        wait_for(lambda: self.desktop.windows()[-1]['id'] == viewer['id'], 'the viewer in front')
-        self.assertEqual(len(self.desktop.windows()), 2)
 
 
 if __name__ == '__main__':
