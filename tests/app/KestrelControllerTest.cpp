@@ -145,7 +145,6 @@ TEST(RecorderGateTest, opens_by_system_version)
                 {{{10, 7, 0}}, RecorderGate::Open, 22},
                 {{{10, 13, 6}}, RecorderGate::Open, 22},
                 {{{10, 14, 0}}, RecorderGate::AskForPermission, 22},
-                {{{10, 15, 7}}, RecorderGate::AskForPermission, 22},
                 {{{10, 16, 0}}, RecorderGate::AskForPermission, 30},
                 {{{13, 0, 0}}, RecorderGate::AskForPermission, 30}};
     for (const auto &[version, expected, titleBarHeight] : rows) {

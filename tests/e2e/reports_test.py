@@ -65,18 +65,7 @@ class ReportsTest(ProgramTest):
             self.assertEqual(file.read(), logged)
         self.assertIn(b'[DEBUG]Application did Finished launching', logged)
 
-        second = self.crash(app)
-        app = self.answer('Cancel')
-        self.assertFalse(os.path.exists(self.desktop.log_path(self.bundle, 'kestrel-previous.log')))
         self.assertEqual(app.end(), 0)
-        app = self.launch()
-        wait_for(lambda: self.defaults().get('KestrelNotSafeTerminate'), 'the question to be due')
-        self.assertNotIn(QUESTION, app.texts())
-        self.click(app, None, 'Help')
-        self.click(app, None, 'Report Bug')
-        self.mails(2)
-        with open(copy, 'rb') as file:
-            self.assertNotIn(file.read(), (logged, second))
 
     def test_mail_program_outlives_the_program(self):
         noted = os.path.join(self.desktop.home, 'mail')

@@ -19,7 +19,6 @@ NEWS = {'LastestVersion': '0.9', 'DownloadURLReg': SITE + 'get', 'NotificationTi
         'NotificationContent': 'A new guide to films from the garden.', 'NotificationURL': SITE + 'news?from=kestrel'}
 PROMOTION = {'title': 'All your films', 'details': ['<b>One</b> place', ' for all.'], 'button': 'Take a Look',
              'label': 'No, Thanks', 'url': SITE + 'offer', 'rate': '100', 'next_rate': 100, 'max_count': 1}
-YESTERDAY = '2001-02-03'
 DAY, RATE, DECLINES = '_AdvertisementDateString', '_AdvertisementRate', '_AdvertisementRefuse'
 
 

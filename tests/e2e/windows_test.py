@@ -14,15 +14,6 @@ class WindowsTest(ProgramTest):
         return [int(re.search(rf'{name}:\s+(-?\d+)', place)[1])
                 for name in ('Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height')]
 
-    def test_a_module_opens_in_view_with_the_home_window_at_the_edge(self):
-        app = self.launch()
-        home = app.wait_for_window()
-        self.desktop.x('xdotool', 'windowmove', home['id'], 200, 0)
-        wait_for(lambda: self.frame(app)[1] == 0, 'the home window at the upper edge')
-        self.click(app, 'push button', 'DVD Ripper')
-        app.wait_for_window('Kestrel 4K - DVD Ripper')
-        self.assertEqual(self.frame(app), [140, 0, 900, 624])
-
     def test_dragging_keeps_up_with_the_pointer(self):
         app = self.launch()
         x, y, width, _ = self.frame(app)

@@ -1,16 +1,9 @@
 """The cases of catalogue.py: what has to arrive of each sample."""
-import json
-import subprocess
-
 from catalogue import mean_color, parse_ppm, run
 
 
 def all_cases():
     return [(name[5:], case) for name, case in globals().items() if name.startswith('case_')]
-
-
-def near(found, wanted, tolerance):
-    return all(abs(f - w) <= tolerance for f, w in zip(found, wanted))
 
 
 def texts_of(path, number=0):
@@ -221,14 +214,6 @@ def case_streams_without_length(c):
 
 # Options
 
-def case_copies_what_fits(c):
-    assert c.convert('flat', 'mp4-h264').steps['work'] == 0
-    assert c.convert('flat', 'mkv-h264').steps['work'] == 0
-    assert c.convert('surround', 'mkv-h264').steps['work'] == 1
-    assert c.convert('flat', 'mp4-h264', copies=False).steps['work'] == 2
-    assert c.convert('hdr10', 'mp4-h265').steps['work'] == 0
-    assert c.convert('topfield', 'mkv-copy').steps['work'] == 0
-
 
 def case_size(c):
     for preset, megabytes, options in (('mp4-h264', 2, {}), ('mkv-h265', 1, {}), ('webm-vp9', 1, {'speed': 2}), ('avi-mpeg4', 4, {}), ('mp4-h264', 0.4, {}), ('mp4-h264', 1, {'pieces': [[5, 20]]})):
@@ -251,13 +236,6 @@ def case_quality_and_speed(c):
     for preset in ('mkv-av1', 'mp4-h265', 'webm-vp9'):
         c.convert('second', preset, rateControl=2, videoBitRate=300000, speed=2)
         c.convert('second', preset, best=True, threads=1)
-
-
-def case_rates_and_sizes(c):
-    out = c.convert('flat', 'mp4-h264', frameRate=10)
-    assert out.packets == 40
-    out = c.convert('flat', 'mp4-h264', maximumHeight=90)
-    assert (out.video['width'], out.video['height']) == (160, 90)
 
 
 def case_sound(c):
