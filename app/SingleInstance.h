@@ -5,11 +5,9 @@
 
 #include <memory>
 
-class QDeadlineTimer;
-class QLocalServer;
-class QLocalSocket;
-
 namespace kestrel {
+
+class LocalMessageServer;
 
 /// One Kestrel a user. The first one to claim a folder holds a lock there that the system takes back when its process
 /// ends, however it ends; a later one hands over its files through a socket beside the lock.
@@ -38,12 +36,11 @@ signals:
     void startedAgain(const QStringList &files);
 
 private:
-    bool handOver(const QStringList &files, const QDeadlineTimer &deadline);
-    void receive(QLocalSocket *socket);
+    bool takeOver(const QByteArray &line);
 
     QString m_socketPath;
     int m_lockFile = -1;  ///< open as long as this object lives; none where no folder can be used
-    std::unique_ptr<QLocalServer> m_server;
+    std::unique_ptr<LocalMessageServer> m_server;
 };
 
 }  // namespace kestrel

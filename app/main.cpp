@@ -27,6 +27,7 @@
 #include "tarnwell/ui/DesktopAlertPresenter.h"
 #include "tarnwell/ui/DesktopFolderPanel.h"
 #include "tarnwell/ui/DesktopWebOpener.h"
+#include "tarnwell/ui/Fonts.h"
 #include "tarnwell/ui/Theme.h"
 
 #include <QApplication>
@@ -174,7 +175,7 @@ private:
 };
 
 int run(QApplication &application, SingleInstance &instance, const QStringList &files,
-        foundation::UserDefaults &defaults)
+        foundation::UserDefaults &defaults, tarnwell::FontReading &fonts)
 {
     const QString language = defaults.stringArrayForKey(appleLanguagesKey.toString()).value(0);
     QLocale::setDefault(QLocale(language));
@@ -188,9 +189,10 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     const tarnwell::Installed<tarnwell::AlertPresenter> installedAlerts(alerts);
     tarnwell::DesktopFolderPanel folderPanel;
     const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
+    fonts.finish();
     tarnwell::applyTheme(application);
 
-    foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s));
+    foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s));
     ProgramJobs jobs([] { return openJobStore(jobStorePath()); },
                      [](const QString &) { return wishesOf(JKestrelSetting::ShareInst()); });
     AppDelegate delegate(surroundings(defaults, fetcher, jobs));
@@ -229,6 +231,7 @@ int main(int argc, char **argv)
     if (!isTheOne(instance, argc, argv, files, status))
         return status;
 
+    tarnwell::FontReading fonts;
     tarnwell::Log log(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName());
     const tarnwell::Installed<tarnwell::Log> installedLog(log);
     const tarnwell::QtMessageLog messageLog;
@@ -240,5 +243,5 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"Kestrel"_s);
     QApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
     QApplication::setDesktopFileName(foundation::Bundle::main().identifier());
-    return run(application, instance, files, defaults);
+    return run(application, instance, files, defaults, fonts);
 }

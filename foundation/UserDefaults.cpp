@@ -162,6 +162,11 @@ void UserDefaults::registerDefaults(const QVariantMap &fallbacks)
 
 bool UserDefaults::synchronize()
 {
+    // What was changed and changed back, as at every start, is no reason to wait for a lock and the disk.
+    m_pendingKeys.removeIf([this](const QString &key) {
+        return m_domain.contains(key) == m_stored.contains(key) &&
+               isSamePropertyList(m_domain.value(key), m_stored.value(key));
+    });
     if (m_pendingKeys.isEmpty())
         return true;
     DefaultsFile file(m_domainPath);
@@ -182,7 +187,7 @@ bool UserDefaults::synchronize()
     }
     if (!isSamePropertyList(merged, file.values()) && !file.replace(merged))
         return reportFailure(file.error());
-    m_domain = merged;
+    m_domain = m_stored = merged;
     m_pendingKeys.clear();
     m_failure.clear();
     return true;
@@ -205,7 +210,7 @@ void UserDefaults::load()
         file.setAside();
     if (file.state() != DefaultsFile::State::Readable && file.state() != DefaultsFile::State::Missing)
         reportFailure(file.error());
-    m_domain = file.values();
+    m_domain = m_stored = file.values();
 }
 
 void UserDefaults::changeDomain(const QString &key, const QVariant &value)

@@ -59,6 +59,7 @@ private:
 
     QString m_domainPath;
     QVariantMap m_domain;
+    QVariantMap m_stored;  ///< the domain as it was last read or written
     QVariantMap m_systemValues;
     QVariantMap m_fallbacks;
     QSet<QString> m_pendingKeys;

@@ -31,7 +31,8 @@ constexpr Container containerTable[] = {
      .sound = "aac ac3 alac dts eac3 mp3 opus truehd vorbis",
      .text = "mov_text",
      .keptText = "mov_text",
-     .arguments = fastStart},
+     // TrueHD is young here.
+     .arguments = "-movflags +faststart -strict experimental"},
     {.id = "mkv",
      .name = "MKV",
      .muxer = "matroska",
@@ -211,6 +212,7 @@ constexpr Container containerTable[] = {
      .name = "DV",
      .muxer = "dv",
      .extension = "dv",
+     .traits = StereoOnly,
      .video = "dvvideo",
      .sound = "pcm_s16le",
      .sampleRate = 48000,

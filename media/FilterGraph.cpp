@@ -58,7 +58,7 @@ private:
             sourceFilters(m_plan, m_tracks, track, m_plan.sources.at(piece.source), piece, isJoined);
         const QString input = u"[%1:%2]"_s.arg(number).arg(track.index);
         const QString result = u"[piece%1]"_s.arg(number);
-        if (!isBitmapBurnt(m_tracks)) {
+        if (!isBitmapBurnt(m_tracks) || piece.source != 0) {
             chain(input, filters.before + filters.after, result);
             return result;
         }

@@ -53,11 +53,9 @@ QStringList trackTags(const TrackPlan &tracks, const MediaTrack &track, const QS
 
 QStringList commonHead()
 {
-    // "file:" keeps names with a colon or a leading dash from being taken for something else, and play lists of other
-    // places out.
     return tableWords(
         "-hide_banner -nostdin -nostats -loglevel repeat+level+verbose -progress pipe:1 "
-        "-stats_period 0.2 -y -protocol_whitelist file");
+        "-stats_period 0.2 -y");
 }
 
 QStringList commonTail(const TrackPlan &tracks, const QString &output)

@@ -9,6 +9,8 @@
 #include "TrackArguments.h"
 #include "TrackPlan.h"
 
+#include "tarnwell/SystemInformation.h"
+
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
@@ -189,7 +191,8 @@ private:
         if (!isHardware())
             return {};
         const bool isHevc = m_tracks.video->codec == "hevc"_L1;
-        return {u"-vaapi_device"_s, isHevc ? m_machine.hevcDevice : m_machine.hardwareDevice};
+        return {QString::fromLatin1(tarnwell::hardwareEncoderArguments.device),
+                isHevc ? m_machine.hevcDevice : m_machine.hardwareDevice};
     }
 
     QStringList pictureArguments(const FilterGraph &graph, int pass) const

@@ -32,15 +32,13 @@ std::unique_ptr<Setting> makeSetting(const std::optional<foundation::KeyedDecode
 
 }  // namespace
 
-JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults)
-    : JKestrelSetting(defaults, tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720))
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
+    : JKestrelSetting(defaults)
 {
+    m_canEncodeInHardware = canEncodeInHardware;
 }
 
-JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
-    : m_defaults(defaults),
-      m_canEncodeInHardware(canEncodeInHardware),
-      m_intelQSV(canEncodeInHardware)
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults) : m_defaults(defaults)
 {
     load();
     const QString transcoderTools = getFFmpegBundlePath() + "/Contents/Resources/"_L1;
@@ -83,10 +81,17 @@ JSettingBase *JKestrelSetting::ofModule(qint32 kind) const
     return kind >= 0 && kind < qint32(std::size(settings)) ? settings[kind] : nullptr;
 }
 
+bool JKestrelSetting::canEncodeInHardware() const
+{
+    if (!m_canEncodeInHardware)
+        m_canEncodeInHardware = tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720);
+    return *m_canEncodeInHardware;
+}
+
 void JKestrelSetting::setHardwareChoice(HardwareChoice choice)
 {
     m_hardwareChoice = choice;
-    m_intelQSV = encodesInHardware(choice, m_canEncodeInHardware);
+    m_intelQSV = encodesInHardware(choice, canEncodeInHardware());
 }
 
 void JKestrelSetting::sync()

@@ -54,6 +54,10 @@ std::atomic<QtMessageHandler> previousMessageHandler = nullptr;
 
 void logMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    // One for every script of a text that the fonts do not have, each time that it is laid out: the first will do.
+    static std::atomic<bool> isScriptMissing = false;
+    if (message.startsWith("OpenType support missing for "_L1) && isScriptMissing.exchange(true))
+        return;
     if (Log *log = Installed<Log>::current(); log && type != QtDebugMsg)
         log->append(message);
     if (const QtMessageHandler previous = previousMessageHandler)

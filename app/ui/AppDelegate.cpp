@@ -174,8 +174,8 @@ void AppDelegate::setupLanuageMenu()
     const QString stored = m_surroundings.defaults.stringForKey(customizeLanguageKey.toString());
     for (int tag = 0; tag < int(supportedLanguages.size()); ++tag) {
         const QString code = supportedLanguages[size_t(tag)].toString();
-        QAction *item =
-            languages->addAction(tag == 0 ? AppLocalizedString(u"Default"_s) : foundation::languageDisplayName(code));
+        QAction *item = languages->addAction(tag == 0 ? AppLocalizedString(u"Default"_s)
+                                                      : supportedLanguageNames[size_t(tag)].toString());
         item->setData(tag);
         item->setCheckable(true);
         item->setChecked(code == stored);

@@ -185,16 +185,18 @@ void KestrelController::makeBackgroundLayers()
 void KestrelController::paintDiscsIntoBackground()
 {
     const qreal scale = m_window->devicePixelRatioF();
-    QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, scale);
+    const QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, scale);
     if (picture.isNull())
         return;
     const QPixmap disc = discImage(picture.devicePixelRatio());
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QList<QRect> places;
     for (const ModuleButton &module : m_modules)
-        painter.drawPixmap(module.button->geometry(), disc);
-    painter.end();
-    m_ui->backgroundImage->setPixmap(picture);
+        places.append(module.button->geometry());
+    // Scaled once; all places are of one size.
+    QPixmap fitted = disc.scaled(places.constFirst().size() * disc.devicePixelRatio(), Qt::IgnoreAspectRatio,
+                                 Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(picture.devicePixelRatio());
+    m_ui->backgroundImage->setPicture(picture, fitted, places);
 }
 
 void KestrelController::showTexts(const QString &headline, const QString &description)

@@ -17,6 +17,8 @@
 #include <QStackedWidget>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -179,6 +181,37 @@ TEST_F(LaunchCheckTest, the_picture_comes_from_the_web_after_the_day_was_kept)
     EXPECT_EQ(picture.schemes, foundation::FetchSchemes::Web) << "what is fetched must never lead to a file";
     EXPECT_EQ(picture.maximumBytes, 16 * 1024 * 1024);
     EXPECT_EQ(day, u"2026-01-02"_s);
+}
+
+TEST_F(LaunchCheckTest, a_check_by_hand_stands_for_the_automatic_one)
+{
+    for (const QString &version : {u"9.0"_s, u"1.0.0"_s}) {  // of which the second would bring a promotion
+        SCOPED_TRACE(version.toStdString());
+        m_shown.clear();
+        make(descriptorLink);
+        m_server.documents.insert(descriptorLink, descriptor(version));
+        qsizetype mostWindows = 0;
+        QTimer::singleShot(0, &*m_check, [&] {
+            m_check->showUpdateWindow();  // once more, by its shortcut
+            foundation::queue::asyncGlobal([this] { m_check->run(); });
+            m_closer.callOnTimeout(&*m_check, [&] {
+                mostWindows =
+                    std::max(mostWindows, std::ranges::count_if(QApplication::topLevelWidgets(), [](const QWidget *w) {
+                                 return w->isModal() && w->isVisible();
+                             }));
+            });
+        });
+        m_check->showUpdateWindow();
+        foundation::queue::finishGlobal();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(m_shown, QStringList(u"update"_s));
+        EXPECT_EQ(mostWindows, 1);
+        EXPECT_EQ(m_posts, 1) << "the automatic one is read all the same";
+        EXPECT_FALSE(m_defaults->objectForKey(u"_AdvertisementDateString"_s).isValid());
+        m_closer.disconnect();
+        m_closer.stop();
+        m_posts = 0;
+    }
 }
 
 TEST_F(LaunchCheckTest, the_check_by_hand_only_shows_its_window)

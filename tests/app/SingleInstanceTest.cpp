@@ -72,14 +72,34 @@ TEST(SingleInstanceTest, noise_on_the_socket_is_ignored)
     ASSERT_EQ(first.claim({}), SingleInstance::Role::First);
     first.listen();
     QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
+    const QString path = folder.filePath(u"instance.socket"_s);
+    EXPECT_EQ(QFile::permissions(path) & ~(QFile::ReadUser | QFile::WriteUser), QFile::ReadOwner | QFile::WriteOwner);
     for (const QByteArray &noise : {QByteArray(9 * 1024 * 1024, '\xff'), QByteArray("{\"files\": 12}\n")}) {
         QLocalSocket socket;
-        socket.connectToServer(folder.filePath(u"instance.socket"_s));
+        socket.connectToServer(path);
         ASSERT_TRUE(socket.waitForConnected(1000));
         socket.write(noise);
         EXPECT_TRUE(test::waitUntil([&] { return socket.state() == QLocalSocket::UnconnectedState; }));
     }
     EXPECT_EQ(startedAgain.count(), 0);
+}
+
+TEST(SingleInstanceTest, a_long_message_comes_in_pieces_and_whole)
+{
+    const QTemporaryDir folder;
+    SingleInstance first(folder.path());
+    ASSERT_EQ(first.claim({}), SingleInstance::Role::First);
+    first.listen();
+    QSignalSpy startedAgain(&first, &SingleInstance::startedAgain);
+    QStringList files;
+    for (int i = 0; i < 20'000; ++i)
+        files.append(u"/films/%1/a name of some length.mkv"_s.arg(i));
+    QLocalSocket idle;  // one who says nothing keeps nobody waiting
+    idle.connectToServer(folder.filePath(u"instance.socket"_s));
+    auto second = std::async(std::launch::async, [&] { return SingleInstance(folder.path()).claim(files, 60'000); });
+    ASSERT_TRUE(test::waitUntil([&] { return startedAgain.count() == 1; }, 60'000));
+    EXPECT_EQ(startedAgain.at(0).at(0).toStringList(), files);
+    EXPECT_EQ(second.get(), SingleInstance::Role::Second);
 }
 
 }  // namespace kestrel

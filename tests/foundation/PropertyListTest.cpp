@@ -116,6 +116,40 @@ TEST(PropertyList, RefusesBrokenFiles)
     }
 }
 
+TEST(PropertyList, ForgivesWhatCanBeUnderstoodWhereThatIsWanted)
+{
+    const QByteArray dictionary =
+        "<plist><dict><key>a</key><string>\x80 \xFC\x81</string><key>a</key><integer>2</integer>"
+        "<key>b</key><string>\x84</string></dict></plist>";
+    const struct {
+        const char *name;
+        QByteArray bytes;
+        QVariant value;  ///< invalid where it is refused
+    } rows[] = {
+        {"a key twice", "<plist><dict><key>a</key><true/><key>a</key><integer>2</integer></dict></plist>",
+         QVariantMap{{u"a"_s, 2}}},
+        {"blanks before the declaration", " \n\t<?xml version=\"1.0\"?><plist><true/></plist>", true},
+        {"windows-1252",
+         "<?xml version=\"1.0\" encoding=\"Windows-1252\"?><plist><string>\x80 \xFC\x84</string></plist>", u"€ ü„"_s},
+        {"all of it", "\n<?xml version=\"1.0\" encoding=\"cp1252\"?>" + dictionary,
+         QVariantMap{{u"a"_s, 2}, {u"b"_s, u"„"_s}}},
+        {"another encoding", plistFile(u"broken_plists/unknown_encoding.plist"_s), {}},
+        {"a key without a value", plistFile(u"broken_plists/key_without_value.plist"_s), {}},
+        {"text before the declaration", "x<?xml version=\"1.0\"?><plist><true/></plist>", {}},
+        {"nothing but blanks", " \n ", {}},
+    };
+    for (const auto &[name, bytes, value] : rows) {
+        SCOPED_TRACE(name);
+        const PropertyListResult result = readPropertyList(bytes, {}, PropertyListManner::Forgiving);
+        EXPECT_EQ(result.value.has_value(), value.isValid()) << result.error.toString().toStdString();
+        EXPECT_TRUE(isSamePropertyList(result.value.value_or(QVariant()), value));
+        EXPECT_FALSE(readPropertyList(bytes).value) << "strictly";
+    }
+    const PropertyListError error = readPropertyList("\n\n<plist>\n<x/>", {}, PropertyListManner::Forgiving).error;
+    EXPECT_EQ(error.line, 4);
+    EXPECT_EQ(error.offset, 10);
+}
+
 TEST(PropertyList, RefusesBrokenBinaryOnes)
 {
     QList<QByteArray> chain, multiplying;

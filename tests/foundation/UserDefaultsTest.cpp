@@ -200,6 +200,26 @@ TEST_F(UserDefaultsTest, MergesTheSavesOfTwoProcesses)
     EXPECT_EQ(fileValues().size(), 300);
 }
 
+TEST_F(UserDefaultsTest, WhatIsChangedBackIsNotWritten)
+{
+    putValues({{u"a"_s, 1}, {u"b"_s, 2}});
+    UserDefaults defaults(m_path);
+    const auto changeAndBack = [&] {
+        defaults.removeObjectForKey(u"a"_s);
+        defaults.setObject(1, u"a"_s);
+        defaults.setObject(3, u"c"_s);
+        defaults.removeObjectForKey(u"c"_s);
+    };
+    changeAndBack();
+    ASSERT_TRUE(QFile::remove(m_path) && defaults.synchronize());
+    EXPECT_FALSE(QFile::exists(m_path));
+    changeAndBack();
+    defaults.setObject(4, u"b"_s);
+    putValues({{u"a"_s, 5}, {u"c"_s, 6}});  // by another process, which holds for what stayed the same here
+    ASSERT_TRUE(defaults.synchronize());
+    EXPECT_EQ(fileValues(), (QVariantMap{{u"a"_s, 5}, {u"b"_s, 4}, {u"c"_s, 6}}));
+}
+
 TEST_F(UserDefaultsTest, ACrashLeavesOneWholeValue)
 {
     int values[2] = {};

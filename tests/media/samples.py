@@ -114,7 +114,7 @@ class Samples:
         """The same in MP4."""
         cover = self.folder / 'cover.jpg'
         source = self.path('languages')
-        self.ffmpeg('-i', source, '-i', cover, '-map', '0:V', '-map', '0:a', '-map', '0:s', '-map', '1', '-c', 'copy', '-c:s', 'mov_text',
+        self.ffmpeg('-i', source, '-i', cover, '-map', '0:V', '-map', '0:a', '-map', '0:s', '-map', '1', '-map_metadata', '0', '-c', 'copy', '-c:s', 'mov_text',
                     '-disposition:v:1', 'attached_pic', path)
 
     def make_cues(self, path):
@@ -124,7 +124,7 @@ class Samples:
         self.ffmpeg('-i', self.path('flat'), '-i', self.path('cues'), '-map', '0', '-map', '1', '-c', 'copy', '-metadata:s:s:0', 'language=fre', path)
 
     def make_dvdsub(self, path):
-        self.ffmpeg('-i', self.path('bitmaps'), '-map', '0', '-c', 'copy', '-c:s', 'dvdsub', path)
+        self.ffmpeg('-fix_sub_duration', '-i', self.path('bitmaps'), '-map', '0', '-c', 'copy', '-c:s', 'dvdsub', path)
 
     def make_song(self, path):
         cover = self.folder / 'songcover.jpg'
