@@ -93,18 +93,6 @@ class ReportsTest(ProgramTest):
                 self.assertEqual(app.end(number), status)
                 wait_for(lambda: not log_viewers(self.desktop.log_path(self.bundle)), 'the log viewer to end')
 
-    def test_about_window(self):
-        app = self.launch()
-        self.click(app, 'push button', 'About')
-        app.find('dialog', 'About ' + self.info['CFBundleName'])
-        self.click(app, 'push button', 'Send Feedback')
-        self.assertEqual(self.mails(1)[0], ['--utf8', '--subject', self.subject, self.info['TWSupportEmail']])
-        self.click(app, 'push button', self.info['TWReadableHomeLink'])
-        wait_for(lambda: [address for address, in self.desktop.calls('xdg-open')
-                          if address.startswith(self.info['TWAboutHomeLink'] + '?')], 'the home page')
-        self.desktop.key('Escape')
-        wait_for(lambda: not app.find_all('dialog'), 'the window to close')
-
 
 if __name__ == '__main__':
     main()
