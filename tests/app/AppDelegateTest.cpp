@@ -77,8 +77,8 @@ protected:
     QMenu *languageMenu() { return help()->actions().constLast()->menu(); }
 
     QTemporaryDir m_folder;
-    test::ProductFolder m_product{test::productInformation({{u"TWUpdateXMLLink"_s, u"http://127.0.0.1/a"_s},
-                                                            {u"TWHelpLink"_s, u"https://kite.example/?a=1"_s}})};
+    test::ProductFolder m_product{test::productInformation(
+        {{u"TWUpdateXMLLink"_s, u"http://127.0.0.1/a"_s}, {u"TWHelpLink"_s, u"https://kite.example/?a=1"_s}})};
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults};
     QStringList m_events;

@@ -120,8 +120,7 @@ TEST_F(TranscodeJobTest, ToolsThatDoNotDoAsTheySay)
     } rows[] = {
         {"does as it says", "exec \"$real\" \"$@\"", JobState::Done, ""},
         {"success and nothing", "exit 0", JobState::Failed, "The finished file could not be read back."},
-        {"half of the film", "exec \"$real\" -t 0.5 \"$@\"", JobState::DoneWithProblems,
-         "0."},
+        {"half of the film", "exec \"$real\" -t 0.5 \"$@\"", JobState::DoneWithProblems, "0."},
         {"a byte too many", QByteArray(finish) + "echo >> \"$part\"; exit $status", JobState::Failed,
          "The finished file has"},
         {"the end is missing", QByteArray(finish) + "truncate -s -2000 \"$part\"; exit $status", JobState::Failed,

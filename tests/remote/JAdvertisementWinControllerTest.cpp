@@ -95,7 +95,8 @@ TEST_F(JAdvertisementWinControllerTest, ButtonsKeepTheirPlaces)
     for (const qsizetype length : {0, 5, 40, 3000}) {
         JAdvertisementWinController controller(m_defaults);
         const QString title(length, u'M');
-        controller.setMyItem(ADItem::initWithDictionary({{u"button"_s, title}, {u"label"_s, u"R&D"_s}, {u"title"_s, u"Spring"_s}}));
+        controller.setMyItem(
+            ADItem::initWithDictionary({{u"button"_s, title}, {u"label"_s, u"R&D"_s}, {u"title"_s, u"Spring"_s}}));
         tarnwell::TitledWindow *window = controller.window();
         const auto *left = window->findChild<QPushButton *>(u"myLeftButton"_s);
         const auto *right = window->findChild<QPushButton *>(u"myRightButton"_s);

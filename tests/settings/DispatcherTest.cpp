@@ -153,9 +153,8 @@ TEST_F(DispatcherTest, each_forward_reaches_its_own_property_and_no_other)
                                                       {subject.getDisc2ISOPath(), "heron.bundle disc2iso"},
                                                       {subject.getDiscCoverPath(), "heron.bundle disccover"}};
     for (const auto &[path, names] : tools)
-        EXPECT_EQ(path, m_product.contentsPath(
-                            u"Resources/"_s +
-                            QString::fromLatin1(names).replace(u' ', "/Contents/Resources/"_L1)));
+        EXPECT_EQ(path, m_product.contentsPath(u"Resources/"_s +
+                                               QString::fromLatin1(names).replace(u' ', "/Contents/Resources/"_L1)));
 }
 
 TEST_F(DispatcherTest, one_of_an_unknown_kind_has_no_module_but_the_shared_preferences)
