@@ -109,11 +109,11 @@ void AppDelegate::applicationDidFinishLaunching()
     tarnwell::DNFootLog(u"[DEBUG]Application did Finished launching"_s);
     m_appController->applicationDidFinishLaunching();
     m_appController->showMenuWindow();
-    foundation::queue::afterMain(250ms, [self = QPointer(this)] {
+    m_surroundings.later(250ms, [self = QPointer(this)] {
         if (self)
             self->checkBugReportFlagWhenLaunch();
     });
-    foundation::queue::afterMain(500ms, [self = QPointer(this)] {
+    m_surroundings.later(500ms, [self = QPointer(this)] {
         if (self)
             foundation::queue::asyncGlobal([self] { self->checkUpgradesAutomatically(); });
     });

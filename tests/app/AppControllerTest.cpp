@@ -151,12 +151,6 @@ TEST_F(LaunchedHostTest, opening_swaps_the_view_into_a_window_around_it)
     EXPECT_EQ(view->parentWidget(), nullptr);
 }
 
-TEST(MainWindowFrameTest, is_centred_by_the_view_with_the_title_bar_on_top)
-{
-    EXPECT_EQ(mainWindowFrame({100, 100, 800, 500}, {900, 600}), foundation::Rect(50, 50, 900, 624));
-    EXPECT_EQ(mainWindowFrame({0, 0, 780, 460}, {}), foundation::Rect(390, 230, 0, 24));
-}
-
 TEST_F(LaunchedHostTest, a_window_comes_fully_into_view_and_its_content_is_as_large)
 {
     ASSERT_EQ(home().screen()->availableGeometry(), QRect(0, 0, 800, 800));

@@ -90,16 +90,25 @@ TEST_F(KestrelControllerTest, the_keyboard_shows_and_presses_as_the_pointer_does
     const QList<tarnwell::ImageLayer *> layers = m_controller.window()->findChildren<tarnwell::ImageLayer *>();
     auto *headline = find<TextField>("introduceMain");
     EXPECT_TRUE(headline->draw4K());
+    const QString resting = u"The strongest video processing software"_s;
     const struct {
-        const char *button, *headline;
-    } rows[] = {{"convertButton", "Convert & Process Video"}, {"ripButton", "Convert & Backup DVD"},
-                {"downloadButton", "Download Video"},         {"recordButton", "Record Video"},
-                {"aboutButton", "Kestrel Converter 4K"},      {"settingButton", "Kestrel Converter 4K"}};
+        const char *button, *name, *headline;
+        QString description;
+    } rows[] = {{"convertButton", "Video Converter", "Convert & Process Video", u"Change video & audio formats"_s},
+                {"ripButton", "DVD Ripper", "Convert & Backup DVD", u"Backup DVDs in 6 modes"_s},
+                {"downloadButton", "Downloader", "Download Video", u"Download ultra-high quality"_s},
+                {"recordButton", "Recorder", "Record Video", u"Record screen/webcam/iPhone"_s},
+                {"aboutButton", "About", "Kestrel Converter 4K", resting},
+                {"settingButton", "Settings", "Kestrel Converter 4K", resting}};
     for (size_t i = 0; i < std::size(rows); ++i) {
         SCOPED_TRACE(rows[i].button);
         auto *button = find<QAbstractButton>(rows[i].button);
         button->setFocus(Qt::TabFocusReason);
         EXPECT_EQ(headline->text(), QLatin1StringView(rows[i].headline));
+        EXPECT_TRUE(find<QLabel>("introduceSub")->text().startsWith(rows[i].description));
+        EXPECT_EQ(button->accessibleName(), QLatin1StringView(rows[i].name));
+        auto *caption = find<QLabel>(QByteArray(rows[i].button).replace("Button", "Label").constData());
+        EXPECT_TRUE(!caption || caption->text() == button->accessibleName());
         for (size_t disc = 0; disc < 4; ++disc)
             EXPECT_EQ(layers.at(disc)->frame().size.width > 100, disc == i);
         QTest::keyClick(button, Qt::Key_Return);
@@ -136,7 +145,6 @@ TEST(RecorderGateTest, opens_by_system_version)
                 {{{10, 7, 0}}, RecorderGate::Open, 22},
                 {{{10, 13, 6}}, RecorderGate::Open, 22},
                 {{{10, 14, 0}}, RecorderGate::AskForPermission, 22},
-                {{{10, 15, 7}}, RecorderGate::AskForPermission, 22},
                 {{{10, 16, 0}}, RecorderGate::AskForPermission, 30},
                 {{{13, 0, 0}}, RecorderGate::AskForPermission, 30}};
     for (const auto &[version, expected, titleBarHeight] : rows) {

@@ -14,15 +14,6 @@ class WindowsTest(ProgramTest):
         return [int(re.search(rf'{name}:\s+(-?\d+)', place)[1])
                 for name in ('Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height')]
 
-    def test_a_module_opens_in_view_with_the_home_window_at_the_edge(self):
-        app = self.launch()
-        home = app.wait_for_window()
-        self.desktop.x('xdotool', 'windowmove', home['id'], 200, 0)
-        wait_for(lambda: self.frame(app)[1] == 0, 'the home window at the upper edge')
-        self.click(app, 'push button', 'DVD Ripper')
-        app.wait_for_window('Kestrel 4K - DVD Ripper')
-        self.assertEqual(self.frame(app), [140, 0, 900, 624])
-
     def test_dragging_keeps_up_with_the_pointer(self):
         app = self.launch()
         x, y, width, _ = self.frame(app)
@@ -80,20 +71,9 @@ class WindowsTest(ProgramTest):
             display.terminate()
             display.wait()
         self.assertEqual(app.wait_for_end(), 1, app.output())
+        self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
         downloader = unarchived(self.defaults()['setting'])['downloader']
         self.assertEqual((downloader['proxyURL'], downloader['proxyEnable']), ('http://proxy.example', True))
-
-    def test_the_log_comes_to_the_front_again(self):
-        app = self.launch()
-        self.choose_from_menu(app, 'Help', 'App Log')
-        viewer = wait_for(lambda: next((window for window in self.desktop.windows() if window['pid'] != app.pid), None),
-                          'the log viewer')
-        self.desktop.x('xdotool', 'windowactivate', app.wait_for_window()['id'])
-        wait_for(lambda: self.desktop.windows()[-1]['pid'] == app.pid, 'the program in front')
-        self.desktop.move(2, 2)
-        self.choose_from_menu(app, 'Help', 'App Log')
-        wait_for(lambda: self.desktop.windows()[-1]['id'] == viewer['id'], 'the viewer in front')
-        self.assertEqual(len(self.desktop.windows()), 2)
 
 
 if __name__ == '__main__':

@@ -260,39 +260,4 @@ plistlib.dump(xml, open('theirs.xml', 'wb'), fmt=plistlib.FMT_XML)
     }
 }
 
-// Whatever is still accepted after random damage can be written and comes back the same.
-TEST(PropertyList, SurvivesRandomDamage)
-{
-    std::mt19937 random(20240229);
-    const auto below = [&](qsizetype limit) { return qsizetype(random() % quint64(qMax<qsizetype>(1, limit))); };
-    const QByteArray seeds[] = {writePropertyList(richPlist(), PropertyListFormat::Xml),
-                                writePropertyList(richPlist(), PropertyListFormat::Binary),
-                                plistFile(u"settings-foreign.archive"_s)};
-    int accepted = 0, readable = 0;
-    for (int round = 0; round < 4000; ++round) {
-        QByteArray bytes = seeds[round % std::size(seeds)];
-        for (qsizetype change = below(3); change >= 0; --change) {
-            const qsizetype at = below(bytes.size());
-            if (below(2))
-                bytes[at] = char(bytes[at] ^ (1 << below(8)));
-            else
-                bytes.replace(at, below(8), bytes.mid(below(bytes.size()), below(40)));
-        }
-        const auto value = readPropertyList(bytes).value;
-        if (!value)
-            continue;
-        ++accepted;
-        const auto root = KeyedDecoder::unarchive(bytes);
-        const auto object = root ? root->decodeObject(u"recorder"_s) : std::nullopt;
-        readable += object && object->decodeInteger(u"quality"_s) == 2;
-        const auto again = readPropertyList(writePropertyList(*value, PropertyListFormat::Binary)).value;
-        ASSERT_TRUE(again && isSamePropertyList(*again, *value)) << "round " << round;
-        // XML cannot carry every text, nor a date's fraction.
-        const QByteArray xml = writePropertyList(*value, PropertyListFormat::Xml);
-        const auto fromXml = readPropertyList(xml).value;
-        ASSERT_TRUE(xml.isNull() || (fromXml && writePropertyList(*fromXml, PropertyListFormat::Xml) == xml)) << round;
-    }
-    EXPECT_TRUE(accepted > 100 && readable > 10) << accepted << ", " << readable;
-}
-
 }  // namespace kestrel::foundation

@@ -3,7 +3,6 @@
 
 Each case converts a generated sample and looks at what arrived with ffprobe. With patterns only the cases run whose
 names contain one of them; `presets` writes and reads back every preset. The exit status is the number of failures."""
-import base64
 import json
 import os
 import pathlib
@@ -100,10 +99,6 @@ def mean_color(picture, x0, y0, x1, y1):
             sums[channel] += sum(row[channel::3])
         count += len(row) // 3
     return [s / max(count, 1) for s in sums]
-
-
-def kinds_told(steps):
-    return [(kind, codec) for kind, codec in steps['tracks']]
 
 
 def check_expectation(steps, output):

@@ -1,5 +1,4 @@
 """The samples of catalogue.py, each made by ffmpeg when it is first asked for."""
-import pathlib
 import struct
 import subprocess
 

@@ -49,7 +49,10 @@ protected:
     JKestrelSettingControllerTest()
     {
         foundation::NotificationCenter::defaultCenter().addObserver(
-            &m_parent, keyKestrelSettingDidChangedNotification.toString(), [this](const QObject *) { ++m_posted; });
+            &m_parent, keyKestrelSettingDidChangedNotification.toString(), [this](const QObject *) {
+                ++m_posted;
+                m_atPost = m_stored();
+            });
     }
     void present()
     {
@@ -93,6 +96,8 @@ protected:
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults, true};
     int m_posted = 0;
+    std::function<QVariant()> m_stored = [] { return QVariant(); };
+    QVariant m_atPost;  ///< what `m_stored` said when it was posted last
     QWidget m_parent;
     JKestrelSettingController m_controller{m_setting, m_defaults};
 };
@@ -201,9 +206,11 @@ TEST_F(JKestrelSettingControllerTest, bound_controls_store_edits_and_reload)
 TEST_F(JKestrelSettingControllerTest, hardware_choices)
 {
     present();
+    m_stored = [this] { return QVariant(m_setting.intelQSV()); };
     for (const int button : {3, 1, 3, 2}) {
         find<QAbstractButton>(u"hardwareButton%1"_s.arg(button))->click();
         EXPECT_EQ(m_setting.intelQSV(), button != 3);
+        EXPECT_EQ(m_atPost, m_setting.intelQSV()) << "announced before it held";
     }
     EXPECT_EQ(m_posted, 4);
     m_setting.setIntelQSV(false);
@@ -229,6 +236,7 @@ TEST_F(JKestrelSettingControllerTest, choosing_folders)
         const JSettingBase *setting = m_controller.getSettingObjectWithID(index / 3 + 1);
         const auto stored = [&] { return setting->property((kind.toLower() + u"OutputPath"_s).toLatin1()).toString(); };
         const QString before = stored();
+        m_stored = stored;
         for (const QString &answer : {QString(), m_folder.filePath(u"missing"_s)}) {  // cancelled, not writable
             m_desktop.folder = answer;
             row->chooseButton()->click();
@@ -240,6 +248,7 @@ TEST_F(JKestrelSettingControllerTest, choosing_folders)
         QDir().mkpath(m_desktop.folder);
         row->chooseButton()->click();
         EXPECT_EQ(stored(), m_desktop.folder);
+        EXPECT_EQ(m_atPost, m_desktop.folder) << "announced before it held";
         EXPECT_EQ(row->path(), m_desktop.folder);
         EXPECT_EQ(m_posted, index + 1);
         row->openButton()->click();

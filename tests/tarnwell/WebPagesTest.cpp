@@ -38,6 +38,7 @@ TEST(WebPages, JoinOrRefuseLinks)
     const Installed<WebLinkDelegate> installedDelegate(delegate);
     const QMap<QString, QString> rows = {{u"https://a.example/x"_s, u"https://a.example/x?from=menu"_s},
                                          {u"http://a.example/x?a=1"_s, u"http://a.example/x?a=1&from=menu"_s},
+                                         {u"http://a.example/?a=?&b"_s, u"http://a.example/?a=?&b&from=menu"_s},
                                          {u"http://a.example/x#a?b"_s, u"http://a.example/x?from=menu#a?b"_s},
                                          {u"file:///etc/passwd"_s, {}},
                                          {u"javascript:alert(1)"_s, {}},
