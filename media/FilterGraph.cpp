@@ -65,7 +65,7 @@ private:
         const QString bare = u"[bare%1]"_s.arg(number);
         const MediaTrack *subtitle = m_tracks.burned->source;
         const QString cues =
-            subtitle ? u"[%1:%2]"_s.arg(number).arg(subtitle->index) : u"[%1:0]"_s.arg(m_inputs.subtitles);
+            subtitle ? u"[%1:%2]"_s.arg(number).arg(subtitle->index) : u"[%1:0]"_s.arg(m_inputs.subtitles + number);
         chain(input, filters.before, bare);
         // Cues for a picture with its bars stand at the foot of one without.
         QString overlay = cues + bare;

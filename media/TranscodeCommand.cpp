@@ -1,7 +1,7 @@
 #include "TranscodeCommand.h"
 
 #include "AudioFilters.h"
-#include "ChapterFile.h"
+#include "CommandInputs.h"
 #include "FilterGraph.h"
 #include "FilterText.h"
 #include "JoinCommand.h"
@@ -94,9 +94,9 @@ public:
             return foundation::Failure{rate.reason()};
         m_rate = *rate;
         m_tracks.notes = notesOn(m_plan, m_tracks, plannedSize);
-        addCoverRuns();
-        addSubtitleRun();
-        addInputs();
+        m_inputs = commandInputs(m_plan, m_sources, m_tracks, m_pieces, m_paths);
+        m_steps.runs = m_inputs.runs;
+        m_steps.files = m_inputs.files;
         if (m_rate.hasTwoPasses) {
             addRun(firstPass(), "First pass"_key, 0.4);
             addRun(lastPass(2), "Second pass"_key, 0.6);
@@ -109,16 +109,7 @@ public:
 
 private:
     bool isHardware() const { return m_tracks.video && m_tracks.video->isHardware; }
-    std::optional<double> cutLength() const
-    {
-        return isOnePiece() ? std::optional(*m_pieces.first().end - *m_pieces.first().start) : std::nullopt;
-    }
     QString log() const { return m_paths.workFolder + u"/passes"_s; }
-
-    QStringList threads() const
-    {
-        return m_plan.threads > 0 ? QStringList{u"-threads"_s, QString::number(m_plan.threads)} : QStringList();
-    }
 
     void addRun(const QStringList &arguments, tarnwell::TextKey stage, double share)
     {
@@ -126,112 +117,6 @@ private:
                              .stage = stage.isEmpty() ? tarnwell::Sentence() : tarnwell::Sentence(stage),
                              .share = share,
                              .seconds = m_seconds.value_or(0)});
-    }
-
-    /// Covers are attached from files of their own where the container has no other way.
-    void addCoverRuns()
-    {
-        if (m_tracks.covers.isEmpty() || !m_tracks.container->has(Container::AttachedCovers))
-            return;
-        const MediaTrack &cover = *m_tracks.covers.first();
-        m_coverPath = m_paths.workFolder + (cover.codec == "png"_L1 ? u"/cover.png"_s : u"/cover.jpg"_s);
-        QStringList arguments = commonHead() + QStringList{u"-i"_s, u"file:"_s + m_plan.sources.first()};
-        arguments << u"-map"_s << u"0:%1"_s.arg(cover.index) << u"-c"_s << u"copy"_s << u"-frames:v"_s << u"1"_s
-                  << u"-f"_s << u"image2pipe"_s << u"file:"_s + m_coverPath;
-        m_steps.runs.append({.arguments = arguments, .stage = {"Cover"_key}, .share = 0, .seconds = 0});
-    }
-
-    bool isOnePiece() const { return !m_plan.pieces.isEmpty() && m_pieces.size() == 1; }
-
-    /// Subtitles that are both cut and made into others: what ffmpeg makes cannot be cut in the same run.
-    void addSubtitleRun()
-    {
-        const auto isMade = [](const SubtitleTrackPlan &subtitle) { return subtitle.encoder != "copy"_L1; };
-        if (!isOnePiece() || std::ranges::none_of(m_tracks.subtitles, isMade))
-            return;
-        QStringList inputs{u"-i"_s, u"file:"_s + m_plan.sources.first()}, maps;
-        int input = 0, made = 0;
-        for (SubtitleTrackPlan &subtitle : m_tracks.subtitles) {
-            if (!isMade(subtitle))
-                continue;
-            if (subtitle.file >= 0)
-                inputs << u"-i"_s << u"file:"_s + m_plan.externalSubtitles.at(subtitle.file).path;
-            maps << u"-map"_s << (subtitle.source ? u"0:%1"_s.arg(subtitle.source->index) : u"%1:s:0"_s.arg(++input))
-                 << u"-c:s:%1"_s.arg(made) << subtitle.encoder;
-            subtitle.encoder = u"copy"_s;
-            subtitle.made = made++;
-        }
-        const bool isFilm = m_tracks.container->has(Container::HandlerNames);
-        m_subtitlePath = m_paths.workFolder + (isFilm ? u"/subtitles.mp4"_s : u"/subtitles.mks"_s);
-        addRun(commonHead() + inputs + maps +
-                   QStringList{u"-map_chapters"_s, u"-1"_s, u"-f"_s, isFilm ? u"mp4"_s : u"matroska"_s,
-                               u"file:"_s + m_subtitlePath},
-               "Subtitles"_key, 0);
-    }
-
-    void addInputs()
-    {
-        const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
-        for (const SourcePiece &piece : m_pieces)
-            m_inputs << threads()
-                     << pieceInput(piece, m_sources.at(piece.source), m_plan.sources.at(piece.source), copiesPictures);
-        m_inputCount = int(m_pieces.size());
-        if (!m_subtitlePath.isEmpty()) {
-            m_inputs += pieceInput(m_pieces.first(), m_sources.first(), m_subtitlePath, false);
-            m_madeInput = m_inputCount++;
-        }
-        for (const SubtitleTrackPlan &subtitle : m_tracks.subtitles) {
-            if (subtitle.made >= 0)
-                m_subtitleMaps << u"%1:%2"_s.arg(m_madeInput).arg(subtitle.made);
-            else if (subtitle.source)
-                m_subtitleMaps << u"0:%1"_s.arg(subtitle.source->index);
-            else
-                m_subtitleMaps << u"%1:s:0"_s.arg(addSubtitleInput(subtitle.file));
-        }
-        const bool burnsFile =
-            m_tracks.burned && m_tracks.burned->file >= 0 &&
-            (m_tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || m_tracks.burned->codec == "dvd_subtitle"_L1);
-        m_graphInputs = {.pieces = m_pieces, .sources = m_sources};
-        if (burnsFile)
-            m_graphInputs.subtitles = addSubtitleInput(m_tracks.burned->file);
-        const bool hasMark = m_plan.watermark && !m_plan.watermark->imagePath.isEmpty();
-        if (hasMark && m_tracks.video && m_tracks.video->encoder) {
-            m_inputs << u"-i"_s << u"file:"_s + m_plan.watermark->imagePath;
-            m_graphInputs.watermark = m_inputCount++;
-        }
-        m_firstPassInputs = m_inputs;
-        addChapterInput();
-    }
-
-    int addSubtitleInput(int file)
-    {
-        // Without this the first cue would come at the beginning.
-        m_inputs << u"-seek_timestamp"_s << u"1"_s;
-        if (const SourcePiece &piece = m_pieces.first(); piece.start && *piece.start > 0)
-            m_inputs << u"-ss"_s << numberText(*piece.start);
-        m_inputs << u"-i"_s << u"file:"_s + m_plan.externalSubtitles.at(file).path;
-        return m_inputCount++;
-    }
-
-    void addChapterInput()
-    {
-        m_chapters = m_sources.first().chapters.size();
-        m_chapterInput = 0;
-        const bool isChanged = !m_plan.pieces.isEmpty() || m_sources.size() > 1 || m_plan.speedFactor != 1;
-        if (!m_tracks.keepsChapters) {
-            m_chapters = 0;
-            m_chapterInput = -1;
-        } else if (isChanged) {
-            const QList<MediaChapter> chapters = resultChapters(m_plan, m_sources, m_pieces);
-            const QString path = m_paths.workFolder + u"/chapters.txt"_s;
-            m_chapters = chapters.size();
-            m_chapterInput = -1;
-            if (chapters.isEmpty())
-                return;
-            m_steps.files.insert(path, chapterFile(chapters));
-            m_inputs << u"-f"_s << u"ffmetadata"_s << u"-i"_s << u"file:"_s + path;
-            m_chapterInput = m_inputCount++;
-        }
     }
 
     QStringList device() const
@@ -259,18 +144,19 @@ private:
 
     QStringList firstPass() const
     {
-        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_graphInputs, m_seconds, false);
-        QStringList arguments = commonHead() + device() + m_firstPassInputs;
+        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_inputs.graph, m_seconds, false);
+        QStringList arguments = commonHead() + device() + m_inputs.firstPassArguments;
         if (!graph.graph.isEmpty())
             arguments << u"-filter_complex"_s << graph.graph;
         arguments += pictureArguments(graph, 1);
-        return arguments + threads() + QStringList{u"-an"_s, u"-sn"_s, u"-dn"_s, u"-f"_s, u"null"_s, u"-"_s};
+        return arguments + threadArguments(m_plan) +
+               QStringList{u"-an"_s, u"-sn"_s, u"-dn"_s, u"-f"_s, u"null"_s, u"-"_s};
     }
 
     QStringList lastPass(int pass) const
     {
-        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_graphInputs, m_seconds);
-        QStringList arguments = commonHead() + device() + m_inputs;
+        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_inputs.graph, m_seconds);
+        QStringList arguments = commonHead() + device() + m_inputs.arguments;
         if (!graph.graph.isEmpty())
             arguments << u"-filter_complex"_s << graph.graph;
         if (m_tracks.video)
@@ -281,9 +167,10 @@ private:
                 arguments << u"-filter:a:%1"_s.arg(number) << filters;
             arguments += soundArguments(m_plan, m_tracks.sounds.at(number), number);
         }
-        arguments += companionArguments(m_plan, m_tracks, m_subtitleMaps, cutLength(), m_coverPath);
-        arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_chapterInput);
-        arguments += threads();
+        arguments += companionArguments(m_plan, m_tracks, m_inputs.subtitleMaps, cutLength(m_plan, m_pieces),
+                                        m_inputs.coverPath);
+        arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_inputs.chapterInput);
+        arguments += threadArguments(m_plan);
         return arguments + commonTail(m_tracks, m_paths.output);
     }
 
@@ -293,7 +180,7 @@ private:
         m_steps.notes = m_tracks.notes;
         m_steps.expected.tracks = expectedTracks(m_tracks);
         m_steps.expected.seconds = m_seconds;
-        m_steps.expected.chapters = m_chapters;
+        m_steps.expected.chapters = m_inputs.chapters;
         const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
         if (copiesPictures)
             m_steps.expected.rotation = m_tracks.video->source->rotation;
@@ -317,15 +204,7 @@ private:
     QList<SourcePiece> m_pieces;
     std::optional<double> m_seconds;  ///< of the result
     RateTarget m_rate;
-    QStringList m_inputs, m_firstPassInputs;
-    int m_inputCount = 0;
-    QString m_subtitlePath;  ///< of subtitles that were made before
-    int m_madeInput = -1;
-    QStringList m_subtitleMaps;
-    GraphInputs m_graphInputs;
-    int m_chapterInput = 0;
-    qsizetype m_chapters = 0;
-    QString m_coverPath;
+    CommandInputs m_inputs;
     TranscodeSteps m_steps;
 };
 

@@ -263,6 +263,8 @@ def case_burning(c):
         out = c.convert(sample, 'mp4-h264', **options)
         shown = [white(out, t - shift) for t in (0.8, 1.2, 1.8, 2.2, 3.0, 3.7)]
         assert shown == [False, True, True, False, True, False], f'{sample} {options}: {shown}'
+    out = c.convert('grey', 'mp4-h264', externalSubtitles=[{'path': cues, 'use': 1}], pieces=[[0, 1.5], [2, 4]])
+    assert [white(out, t) for t in (0.8, 1.2, 1.7, 2.2)] == [False, True, False, True]
     plain = c.convert('grey', 'mp4-h264', copies=False)
     for options, shift in (({}, 0), ({'pieces': [[1, 4]]}, 1), ({'pieces': [[0, 0.4], [1, 4]]}, 0.6)):
         out = c.convert('grey', 'mp4-h264', externalSubtitles=[{'path': words, 'use': 1}], **options)
