@@ -1,6 +1,6 @@
 #include "ModuleSettings.h"
 #include "foundation/NotificationCenter.h"
-#include "modules/heron/HeronController.h"
+#include "modules/heron/ui/HeronController.h"
 #include "modules/petrel/PetrelController.h"
 #include "modules/plover/PloversController.h"
 
