@@ -13,7 +13,7 @@
 #include "foundation/UserDefaults.h"
 #include "jobs/JobStore.h"
 #include "jobs/OutputFile.h"
-#include "modules/heron/HeronController.h"
+#include "modules/heron/ui/HeronController.h"
 #include "modules/marlin/ui/MarlinController.h"
 #include "modules/petrel/PetrelController.h"
 #include "modules/plover/PloversController.h"

@@ -136,6 +136,11 @@ void JobPage::addChoice(QWidget *control, int stretch)
     m_form->choiceLayout->addWidget(control, stretch);
 }
 
+void JobPage::setListVisible(bool visible)
+{
+    m_form->pages->setVisible(visible);
+}
+
 void JobPage::setStartEnabled(bool enabled)
 {
     m_form->startButton->setEnabled(enabled);

@@ -1,6 +1,5 @@
 #include "ModuleSettings.h"
 #include "foundation/NotificationCenter.h"
-#include "modules/heron/HeronController.h"
 #include "modules/petrel/PetrelController.h"
 #include "modules/plover/PloversController.h"
 
@@ -29,8 +28,7 @@ TEST(OverviewControllerTest, ShowsItsOwnFolderAndLeadsBack)
     const struct {
         qint32 kind;
         std::unique_ptr<ModuleController> (*make)(const ModuleConfigure &);
-    } rows[] = {{ModuleSettingDVD, made<HeronController>},
-                {ModuleSettingDownload, made<PetrelController>},
+    } rows[] = {{ModuleSettingDownload, made<PetrelController>},
                 {ModuleSettingRecord, made<PloversController>}};
     for (const auto &[kind, make] : rows) {
         test::ModuleSettings settings(kind);
