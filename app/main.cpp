@@ -15,7 +15,7 @@
 #include "jobs/OutputFile.h"
 #include "modules/heron/ui/HeronController.h"
 #include "modules/marlin/ui/MarlinController.h"
-#include "modules/petrel/PetrelController.h"
+#include "modules/petrel/ui/PetrelController.h"
 #include "modules/plover/PloversController.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/ui/JKestrelSettingController.h"

@@ -1,6 +1,6 @@
 #include "ModuleSettings.h"
 #include "foundation/NotificationCenter.h"
-#include "modules/petrel/PetrelController.h"
+#include "modules/petrel/ui/PetrelController.h"
 #include "modules/plover/PloversController.h"
 
 #include <gtest/gtest.h>
