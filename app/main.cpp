@@ -16,7 +16,7 @@
 #include "modules/heron/ui/HeronController.h"
 #include "modules/marlin/ui/MarlinController.h"
 #include "modules/petrel/ui/PetrelController.h"
-#include "modules/plover/PloversController.h"
+#include "modules/plover/ui/PloversController.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/ui/JKestrelSettingController.h"
 #include "tarnwell/Installed.h"

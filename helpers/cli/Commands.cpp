@@ -5,6 +5,7 @@
 #include "EngineCommand.h"
 #include "JobsCommand.h"
 #include "PresetsCommand.h"
+#include "RecordCommand.h"
 
 namespace kestrel::cli {
 
@@ -18,6 +19,8 @@ constexpr Command commandTable[] = {
      "downloads films or their sound", runDownload},
     {"engine", "[--update]", "tells the version of the download engine, or looks for a newer one", runEngine},
     {"presets", "[--all]", "lists what files can be converted to", runPresets},
+    {"record", "[--seconds N] [--screen NAME|--window ID|--area X,Y,W,H] [OPTION…]",
+     "records the screen until it is interrupted", runRecord},
     {"jobs", "", "lists the jobs of all modules, also of the window", runJobsCommand},
 };
 

@@ -1,7 +1,7 @@
 #include "ModuleSettings.h"
 #include "foundation/NotificationCenter.h"
 #include "modules/petrel/ui/PetrelController.h"
-#include "modules/plover/PloversController.h"
+#include "modules/plover/ui/PloversController.h"
 
 #include <gtest/gtest.h>
 

@@ -2,4 +2,4 @@ kestrel_test(modules
     SOURCES
         ModuleSettings.cpp ModuleSettings.h
         OverviewControllerTest.cpp
-    LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover kestrel_test_product)
+    LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover_ui kestrel_test_product)
