@@ -1,7 +1,8 @@
 #include "SingleInstance.h"
 
+#include "foundation/StandardFolders.h"
+
 #include <QDeadlineTimer>
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -11,6 +12,7 @@
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
 
@@ -23,15 +25,32 @@ namespace {
 constexpr qint64 maximumMessageBytes = 8 * 1024 * 1024;  // more than a command line holds
 constexpr char acknowledgement = 'k';
 
+int openLock(const QString &path)
+{
+    return open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+}
+
+/// Makes the folder where it is missing. False where it is not the user's alone: others could hold the lock, or answer.
+bool isPrivateFolder(const QString &path)
+{
+    struct stat status = {};
+    return foundation::makePrivateFolder(path) && ::lstat(QFile::encodeName(path).constData(), &status) == 0 &&
+           S_ISDIR(status.st_mode) && status.st_uid == ::geteuid() &&
+           QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
+
 }  // namespace
 
-SingleInstance::SingleInstance(const QString &folder, QObject *parent)
-    : QObject(parent),
-      m_lockPath(folder + "/instance.lock"_L1),
-      m_socketPath(folder + "/instance.socket"_L1)
+SingleInstance::SingleInstance(const QStringList &folders, QObject *parent) : QObject(parent)
 {
-    QDir().mkpath(folder);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    for (const QString &folder : folders) {
+        if (folder.isEmpty())
+            continue;
+        m_lockFile = isPrivateFolder(folder) ? openLock(folder + "/instance.lock"_L1) : -1;
+        m_socketPath = folder + "/instance.socket"_L1;
+        if (m_lockFile >= 0)
+            return;
+    }
 }
 
 SingleInstance::~SingleInstance()
@@ -46,7 +65,8 @@ SingleInstance::Role SingleInstance::claim(const QStringList &files, int patienc
     // Either may change at any moment: the other one may just have begun, or be about to end.
     const QDeadlineTimer deadline(patienceMs);
     while (true) {
-        if (lock())
+        // No folder that can be written is no reason not to start, nor is a file system without locks.
+        if (m_lockFile < 0 || flock(m_lockFile, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK)
             return Role::First;
         if (handOver(files, deadline))
             return Role::Second;
@@ -54,20 +74,6 @@ SingleInstance::Role SingleInstance::claim(const QStringList &files, int patienc
             return Role::Unanswered;
         QThread::msleep(20);
     }
-}
-
-bool SingleInstance::lock()
-{
-    const int file = open(QFile::encodeName(m_lockPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (file < 0)
-        return true;  // a folder that cannot be written is no reason not to start
-    if (flock(file, LOCK_EX | LOCK_NB) != 0) {
-        const bool isTaken = errno == EWOULDBLOCK;
-        close(file);
-        return !isTaken;  // nor is a file system without locks
-    }
-    m_lockFile = file;
-    return true;
 }
 
 bool SingleInstance::handOver(const QStringList &files, const QDeadlineTimer &deadline)

@@ -22,8 +22,9 @@ public:
         Unanswered,  ///< another one holds the lock but does not answer
     };
 
-    /// `folder` is private to the user and is created where it is missing.
-    explicit SingleInstance(const QString &folder, QObject *parent = nullptr);
+    /// The first of the folders that is the user's own and takes a lock file is the one; each is created where it is
+    /// missing. An empty path stands for a folder that this session does not have.
+    explicit SingleInstance(const QStringList &folders, QObject *parent = nullptr);
     ~SingleInstance() override;
 
     /// `files` are absolute paths. Takes up to `patienceMs` where another instance is slow to answer. Needs an
@@ -37,13 +38,11 @@ signals:
     void startedAgain(const QStringList &files);
 
 private:
-    bool lock();
     bool handOver(const QStringList &files, const QDeadlineTimer &deadline);
     void receive(QLocalSocket *socket);
 
-    QString m_lockPath;
     QString m_socketPath;
-    int m_lockFile = -1;
+    int m_lockFile = -1;  ///< open as long as this object lives; none where no folder can be used
     std::unique_ptr<QLocalServer> m_server;
 };
 

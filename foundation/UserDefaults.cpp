@@ -166,7 +166,7 @@ bool UserDefaults::synchronize()
         return true;
     DefaultsFile file(m_domainPath);
     // Whoever keeps the lock for so long may keep it for ever: after one failure nobody waits for it again.
-    if (!file.lock(m_failureReported ? std::chrono::milliseconds(0) : lockPatience))
+    if (!file.lock(m_failure.isNull() ? lockPatience : std::chrono::milliseconds(0)))
         return reportFailure(file.error());
     if (file.read() == DefaultsFile::State::Damaged)
         file.setAside();
@@ -184,8 +184,16 @@ bool UserDefaults::synchronize()
         return reportFailure(file.error());
     m_domain = merged;
     m_pendingKeys.clear();
-    m_failureReported = false;
+    m_failure.clear();
     return true;
+}
+
+void UserDefaults::keepAside(const QString &key)
+{
+    const QByteArray bytes = dataForKey(key);
+    DefaultsFile file(m_domainPath);
+    if (!bytes.isEmpty() && (!file.lock(lockPatience) || !file.keepAside(bytes, key)))
+        reportFailure(file.error());
 }
 
 void UserDefaults::load()
@@ -224,9 +232,9 @@ void UserDefaults::changeDomain(const QString &key, const QVariant &value)
 
 bool UserDefaults::reportFailure(const QString &reason)
 {
-    if (!m_failureReported)
+    if (m_failure.isNull())
         qWarning("Defaults: \"%ls\" cannot be used: %ls", qUtf16Printable(m_domainPath), qUtf16Printable(reason));
-    m_failureReported = true;
+    m_failure = reason.isEmpty() ? u"unknown"_s : reason;
     return false;
 }
 

@@ -1,5 +1,7 @@
 #include "TrackArguments.h"
 
+#include "MediaProber.h"
+
 #include "FilterText.h"
 
 using namespace Qt::StringLiterals;
@@ -68,7 +70,7 @@ QStringList commonTail(const TrackPlan &tracks, const QString &output)
 QStringList pieceInput(const SourcePiece &piece, const MediaInformation &source, const QString &path,
                        bool copiesPictures)
 {
-    QStringList arguments;
+    QStringList arguments = inputOptions();  // so that tracks have the numbers by which the plan calls them
     if (copiesPictures && mayLackTimes(source.format))
         arguments << u"-fflags"_s << u"+genpts"_s;
     if (piece.start && *piece.start > 0)

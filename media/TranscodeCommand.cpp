@@ -40,6 +40,27 @@ void shortenToKept(QList<SourcePiece> &pieces, const TrackPlan &tracks, const QL
     }
 }
 
+/// What the user should know before: where the result is not simply what the source is.
+QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSize plannedSize)
+{
+    QList<tarnwell::Sentence> notes;
+    if (!tracks.video)
+        return notes;
+    const VideoTrackPlan &video = *tracks.video;
+    const bool isCutAtKeyframe = !video.encoder && !plan.pieces.isEmpty() && plan.pieces.first().start > 0;
+    if (isCutAtKeyframe)
+        notes.append({"Cut without encoding: it begins at the last key picture before %1 s."_key,
+                      {numberText(plan.pieces.first().start)}});
+    if (video.encoder && plan.preset.videoCodec == "copy"_L1)
+        notes.append({"The picture has to be encoded (%1)."_key, {codecLabel(video.codec)}});
+    if (video.mapsTones)
+        notes.append(tarnwell::Sentence("High dynamic range becomes standard range."_key));
+    if (video.size != plannedSize)
+        notes.append({"The picture is made smaller, %1 × %2, so that it fits the size."_key,
+                      {QString::number(video.size.width()), QString::number(video.size.height())}});
+    return notes;
+}
+
 class Builder {
 public:
     Builder(const Plan &plan, const QList<MediaInformation> &sources, const TranscodeMachine &machine,
@@ -58,10 +79,12 @@ public:
 
     foundation::Result<TranscodeSteps, tarnwell::Sentence> steps()
     {
+        const QSize plannedSize = m_tracks.video ? m_tracks.video->size : QSize();
         auto rate = planRates(m_plan, m_tracks, m_seconds);
         if (!rate)
             return foundation::Failure{rate.reason()};
         m_rate = *rate;
+        m_tracks.notes = notesOn(m_plan, m_tracks, plannedSize);
         addCoverRuns();
         addInputs();
         if (m_rate.hasTwoPasses) {

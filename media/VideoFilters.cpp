@@ -17,19 +17,24 @@ QStringList fieldFilters(const Plan &plan, const VideoTrackPlan &video)
 {
     if (!video.deinterlaces)
         return {};
+    // Only flagged pictures are touched, so those without a flag get one.
+    QStringList flagged;
+    if (video.source->fieldsAreSeen)
+        flagged << (video.source->fieldOrder == MediaTrack::FieldOrder::BottomFirst ? u"setfield=bff"_s
+                                                                                    : u"setfield=tff"_s);
     switch (plan.deinterlace) {
         case Plan::Deinterlace::Film:
             // Without the first one the stream claims its fields for pictures and comes out at twice the speed.
             return {u"fps=30000/1001"_s, u"fieldmatch"_s, u"decimate"_s};
         case Plan::Deinterlace::DoubleRate:
-            return {u"bwdif=mode=send_field:deint=interlaced"_s};
+            return flagged << u"bwdif=mode=send_field:deint=interlaced"_s;
         case Plan::Deinterlace::On:
-            return {u"bwdif=mode=send_frame:deint=all"_s};
+            return flagged << u"bwdif=mode=send_frame:deint=all"_s;
         case Plan::Deinterlace::Auto:
         case Plan::Deinterlace::Off:
             break;
     }
-    return {u"bwdif=mode=send_frame:deint=interlaced"_s};
+    return flagged << u"bwdif=mode=send_frame:deint=interlaced"_s;
 }
 
 QStringList toneFilters(const VideoTrackPlan &video, const MediaTrack &track)

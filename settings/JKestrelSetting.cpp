@@ -9,6 +9,8 @@
 #include <QCryptographicHash>
 #include <QUrl>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -61,7 +63,9 @@ JKestrelSetting &JKestrelSetting::ShareInst()
 
 void JKestrelSetting::load()
 {
-    const auto root = foundation::KeyedDecoder::unarchive(m_defaults.dataForKey(settingKey));
+    const QByteArray archive = m_defaults.dataForKey(settingKey);
+    const auto root = foundation::KeyedDecoder::unarchive(archive);
+    m_isStoredUnreadable = !archive.isEmpty() && !root;
     m_video = makeSetting<JVideoSetting>(root, u"JVideoSetting"_s, moduleKey(ModuleSettingVideo));
     m_dvd = makeSetting<JDVDSetting>(root, u"JDVDSetting"_s, moduleKey(ModuleSettingDVD));
     m_downloader = makeSetting<JDownloaderSetting>(root, u"JDownloaderSetting"_s, moduleKey(ModuleSettingDownload));
@@ -100,6 +104,8 @@ void JKestrelSetting::sync()
         tarnwell::DNFootLog(u"The settings could not be archived"_s);
         return;
     }
+    if (std::exchange(m_isStoredUnreadable, false))
+        m_defaults.keepAside(settingKey);
     m_defaults.setObject(archive, settingKey);
     m_defaults.synchronize();
 }

@@ -40,7 +40,7 @@ public:
     static JKestrelSetting &ShareInst();
 
     /// Writes the model to the defaults and the defaults to the disk. Where it cannot be archived, the stored value
-    /// stays.
+    /// stays; a stored one that could not be read is kept beside the defaults.
     void sync();
 
     JVideoSetting *video() const { return m_video.get(); }
@@ -100,6 +100,7 @@ private:
     QObject *recorderObject() const { return m_recorder.get(); }
 
     foundation::UserDefaults &m_defaults;
+    bool m_isStoredUnreadable = false;
     std::unique_ptr<JVideoSetting> m_video;
     std::unique_ptr<JDVDSetting> m_dvd;
     std::unique_ptr<JDownloaderSetting> m_downloader;

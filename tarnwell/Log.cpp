@@ -1,6 +1,7 @@
 #include "Log.h"
 
 #include "Installed.h"
+#include "foundation/StandardFolders.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -86,7 +87,7 @@ Log::Log(const QString &folder, qint64 maximumBytes)
       m_maximumBytes(maximumBytes)
 {
     threadName();
-    QDir().mkpath(folder);
+    foundation::makePrivateFolder(folder);
     discardPrevious();
     QFile::rename(m_file.fileName(), m_previousPath);
     if (!m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered,

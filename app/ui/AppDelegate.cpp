@@ -7,6 +7,7 @@
 #include "foundation/LanguageTags.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "settings/JKestrelSetting.h"
 #include "tarnwell/Alerts.h"
@@ -20,6 +21,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -94,7 +96,7 @@ void AppDelegate::applicationWillFinishLaunching()
     setupLanuageMenu();
     const QString dataFolder = tarnwell::GetApplicationSupportDir() + u'/' + tarnwell::GetApplicationName();
     if (!QFileInfo::exists(dataFolder))
-        tarnwell::CreateDirectory(dataFolder);
+        foundation::makePrivateFolder(dataFolder);
     tarnwell::JTooltipController::Instance().addWindow(m_window.get());
     m_window->makeInitWithImageName(u"window_titlebarbg"_s, u"window_title_bg"_s);
     m_appController->applicationWillFinishLaunching();
@@ -134,7 +136,7 @@ void AppDelegate::save()
     m_surroundings.jobs.interrupt();
     m_appController->applicationWillTerminate();
     m_reports.markEnded();
-    m_surroundings.defaults.synchronize();
+    m_reports.noteSaved(m_surroundings.defaults.synchronize());
 }
 
 void AppDelegate::sessionWillEnd()

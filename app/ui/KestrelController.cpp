@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 
 #include <algorithm>
@@ -127,6 +128,10 @@ void KestrelController::windowDidLoad()
         button->setIcon(tarnwell::namedIcon(QString::fromUtf16(image)));
         connect(button, &QAbstractButton::clicked, this, action);
     }
+    for (QAbstractButton *button : {m_ui->settingButton, m_ui->aboutButton}) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+            new QShortcut(key, button, button, &QAbstractButton::click, Qt::WidgetShortcut);
+    }
 
     const struct {
         QWidget *view;
@@ -228,6 +233,11 @@ void KestrelController::onButtonMouseExit(JFeedbackButton *sender)
         return;
     makeZoomOutAnimation(module->backgroundLayer, module->button);
     setCaptionColor(*module, restingCaptionColor);
+    // What the pointer has left shows again what the keyboard is at.
+    for (const ModuleButton &other : m_modules) {
+        if (other.button->hasFocus())
+            onButtonMouseEntered(other.button);
+    }
 }
 
 void KestrelController::makeZoomInAnimation(tarnwell::ImageLayer *layer, const QWidget *related)

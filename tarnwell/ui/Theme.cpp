@@ -59,6 +59,7 @@ constexpr NamedColor namedColors[] = {
     {"<accent>"_L1, palette::accent},
     {"<accentPressed>"_L1, palette::accentPressed},
     {"<accentTint>"_L1, palette::accentTint},
+    {"<error>"_L1, palette::error},
     {"<surface>"_L1, palette::surface},
     {"<quietSurface>"_L1, palette::quietSurface},
     {"<line>"_L1, palette::line},
@@ -88,6 +89,7 @@ QPushButton[quiet="true"]:disabled { color: <disabledText> }
 QLineEdit, QComboBox { background: <surface>; border: 1px solid <strongLine>; border-radius: 6px; padding: 0 8px;
     min-height: 26px }
 QLineEdit:focus, QComboBox:focus { border: 2px solid <accent>; padding: 0 7px; min-height: 24px }
+QLineEdit[refused="true"] { border-color: <error> }
 QLineEdit:disabled, QComboBox:disabled { background: <quietSurface>; border-color: <line>; color: <disabledText> }
 QComboBox { combobox-popup: 0; padding-right: 4px }
 QComboBox:hover { border-color: <accent> }

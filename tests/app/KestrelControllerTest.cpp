@@ -4,6 +4,7 @@
 #include "app/ui/TextField.h"
 #include "app/ui/_JKestrelWindow.h"
 #include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
 #include "tests/support/ProductFolder.h"
 #include "tests/support/TestDesktop.h"
 #include "tests/support/TestEnvironment.h"
@@ -12,6 +13,7 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -78,6 +80,39 @@ TEST_F(KestrelControllerTest, hovering_shows_the_modules_texts_and_grows_its_dis
     JFeedbackButton stranger;
     m_controller.onButtonMouseEntered(&stranger);
     EXPECT_TRUE(headline->draw4K());
+}
+
+TEST_F(KestrelControllerTest, the_keyboard_shows_and_presses_as_the_pointer_does)
+{
+    m_controller.setSettingAndAboutEnabled(true, true);
+    m_controller.showWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_controller.window()));
+    const QList<tarnwell::ImageLayer *> layers = m_controller.window()->findChildren<tarnwell::ImageLayer *>();
+    auto *headline = find<TextField>("introduceMain");
+    EXPECT_TRUE(headline->draw4K());
+    const struct {
+        const char *button, *headline;
+    } rows[] = {{"convertButton", "Convert & Process Video"}, {"ripButton", "Convert & Backup DVD"},
+                {"downloadButton", "Download Video"},         {"recordButton", "Record Video"},
+                {"aboutButton", "Kestrel Converter 4K"},      {"settingButton", "Kestrel Converter 4K"}};
+    for (size_t i = 0; i < std::size(rows); ++i) {
+        SCOPED_TRACE(rows[i].button);
+        auto *button = find<QAbstractButton>(rows[i].button);
+        button->setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(headline->text(), QLatin1StringView(rows[i].headline));
+        for (size_t disc = 0; disc < 4; ++disc)
+            EXPECT_EQ(layers.at(disc)->frame().size.width > 100, disc == i);
+        QTest::keyClick(button, Qt::Key_Return);
+    }
+    EXPECT_EQ(m_host.messages,
+              (QStringList{u"marlin"_s, u"heron"_s, u"petrel"_s, u"recorder"_s, u"about"_s, u"setting"_s}));
+    // What the pointer shows meanwhile goes again with the pointer.
+    find<QAbstractButton>("ripButton")->setFocus(Qt::TabFocusReason);
+    find<JFeedbackButton>("convertButton")->onMouseEnterExit(true);
+    EXPECT_EQ(headline->text(), u"Convert & Process Video"_s);
+    find<JFeedbackButton>("convertButton")->onMouseEnterExit(false);
+    EXPECT_EQ(headline->text(), u"Convert & Backup DVD"_s);
+    EXPECT_EQ(m_controller.window()->accessibleName(), tarnwell::GetApplicationName());
 }
 
 TEST_F(KestrelControllerTest, buttons_reach_the_host)

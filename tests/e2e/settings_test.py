@@ -90,7 +90,7 @@ class SettingsTest(ProgramTest):
     def test_hardware_information_asks_the_transcoder(self):
         app = self.launch()
         self.open(app)
-        self.click(app, 'push button', 'Hardware Information')
+        self.click(app, 'push button', 'Details…')
         wait_for(lambda: any('libx264' in text for text in app.texts()), 'the encoders of the transcoder')
 
     def test_search_goes_to_the_section(self):

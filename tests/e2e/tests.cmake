@@ -1,5 +1,5 @@
 # Each file drives the real program on a display of its own.
-foreach(name conversion home hostile language lifecycle logwatcher reports settings update)
+foreach(name conversion home hostile language lifecycle logwatcher reports settings update windows)
     add_test(NAME e2e.${name}
              COMMAND /usr/bin/python3 "${CMAKE_CURRENT_LIST_DIR}/${name}_test.py" "${KESTREL_BUNDLE_DIR}")
     set_tests_properties(e2e.${name} PROPERTIES LABELS e2e TIMEOUT 180)

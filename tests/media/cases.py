@@ -32,7 +32,7 @@ def case_upright_when_encoded(c):
 
 def case_upright_when_copied(c):
     out = c.convert('rotated', 'mp4-copy')
-    assert out.steps['work'] == 0 and out.steps['rotation'] == 90
+    assert out.steps['work'] == 0 and out.steps['rotation'] in (90, 270)
     out = c.convert('rotated', 'mkv-copy')
     assert (out.video['width'], out.video['height']) == (180, 320)
 

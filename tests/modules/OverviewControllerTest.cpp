@@ -28,7 +28,7 @@ TEST(OverviewControllerTest, ShowsItsOwnFolderAndLeadsBack)
 {
     const struct {
         qint32 kind;
-        ModuleFactory make;
+        std::unique_ptr<ModuleController> (*make)(const ModuleConfigure &);
     } rows[] = {{ModuleSettingDVD, made<HeronController>},
                 {ModuleSettingDownload, made<PetrelController>},
                 {ModuleSettingRecord, made<PloversController>}};

@@ -163,4 +163,21 @@ TEST_F(JKestrelSettingTest, damaged_or_foreign_values_read_as_defaults_object_by
     }
 }
 
+TEST_F(JKestrelSettingTest, an_archive_that_cannot_be_read_is_kept_beside_the_file)
+{
+    const QDir folder(m_folder.path());
+    const auto keptNames = [&] { return folder.entryList({u"defaults.plist.setting.corrupt-*"_s}, QDir::Files); };
+    const QByteArray unreadable = "archived by a later version";
+    for (const QByteArray &stored : {foreignArchive(), unreadable}) {
+        m_defaults.setObject(stored, u"setting"_s);
+        JKestrelSetting setting(m_defaults);
+        EXPECT_TRUE(keptNames().isEmpty()) << "kept before anything replaced it";
+        setting.sync();
+        setting.sync();
+    }
+    ASSERT_EQ(keptNames().size(), 1);
+    QFile kept(folder.filePath(keptNames().constFirst()));
+    EXPECT_TRUE(kept.open(QIODevice::ReadOnly) && kept.readAll() == unreadable);
+}
+
 }  // namespace kestrel

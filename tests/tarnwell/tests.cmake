@@ -1,6 +1,6 @@
 kestrel_test(tarnwell
     SOURCES
-        FoldersTest.cpp HardwareInformationTest.cpp JPresentWindowControllerTest.cpp JSuggestionsSearchFieldTest.cpp
+        FoldersTest.cpp JPresentWindowControllerTest.cpp JSuggestionsSearchFieldTest.cpp
         AlertPanelTest.cpp ImagesTest.cpp TitledWindowTest.cpp LWindowTransitionAnimatorTest.cpp LogTest.cpp
         JAppleScriptHelperTest.cpp
         StyledTextViewTest.cpp WebPagesTest.cpp

@@ -4,7 +4,7 @@
 #include <QString>
 #include <QStringList>
 
-namespace kestrel::tarnwell {
+namespace kestrel {
 
 struct TranscoderCodecs;
 
@@ -32,4 +32,4 @@ QList<HardwareRow> hardwareRows(const HardwareInformation &hardware, const Trans
 /// The rows as text, one a line, for the clipboard.
 QString hardwareText(const QList<HardwareRow> &rows);
 
-}  // namespace kestrel::tarnwell
+}  // namespace kestrel

@@ -1,13 +1,16 @@
 #include "HardwareInformation.h"
 
-#include "Localization.h"
 #include "TranscoderCodecs.h"
+
+#include "tarnwell/Localization.h"
 
 #include <QLocale>
 
 using namespace Qt::StringLiterals;
 
-namespace kestrel::tarnwell {
+namespace kestrel {
+
+using tarnwell::AppLocalizedString;
 
 namespace {
 
@@ -46,8 +49,8 @@ QList<HardwareRow> hardwareRows(const HardwareInformation &hardware, const Trans
         {AppLocalizedString(u"Memory"_s), orElse(memoryText(hardware.memoryBytes), unknown)},
         {AppLocalizedString(u"Graphics"_s), orElse(hardware.graphicsDevices.join(u'\n'), u"None found"_s)},
     };
-    if (!codecs.failure.isNull()) {
-        rows.append({AppLocalizedString(u"Transcoder"_s), AppLocalizedString(codecs.failure)});
+    if (!codecs.failure.isEmpty()) {
+        rows.append({AppLocalizedString(u"Transcoder"_s), codecs.failure.localized()});
         return rows;
     }
     rows += {{AppLocalizedString(u"H.264 encoders"_s), namesText(codecs.encoders.h264)},
@@ -65,4 +68,4 @@ QString hardwareText(const QList<HardwareRow> &rows)
     return text;
 }
 
-}  // namespace kestrel::tarnwell
+}  // namespace kestrel

@@ -11,7 +11,7 @@
 
 using namespace Qt::StringLiterals;
 
-namespace kestrel::tarnwell {
+namespace kestrel {
 
 namespace {
 
@@ -106,4 +106,4 @@ HardwareInformation hardwareInformation()
     return hardware;
 }
 
-}  // namespace kestrel::tarnwell
+}  // namespace kestrel

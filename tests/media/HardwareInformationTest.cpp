@@ -1,11 +1,10 @@
-#include "tarnwell/HardwareInformation_linux.h"
-#include "tarnwell/TranscoderCodecs.h"
-#include "tarnwell/ui/NXHardwareInfoController.h"
+#include "media/HardwareInformation_linux.h"
+#include "media/TranscoderCodecs.h"
+#include "media/ui/NXHardwareInfoController.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <QDialog>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QLabel>
 #include <QProgressBar>
 #include <QTemporaryDir>
@@ -14,7 +13,6 @@
 
 using namespace Qt::StringLiterals;
 using namespace kestrel;
-using namespace kestrel::tarnwell;
 
 namespace {
 
@@ -64,7 +62,8 @@ TEST(HardwareInformation, GraphicsDevices)
 
 TEST(HardwareInformation, CodecTables)
 {
-    EXPECT_EQ(parseCodecTable(encoderTable), (CodecNames{{u"libx264"_s}, {u"hevc_vaapi"_s}}));
+    EXPECT_EQ(parseCodecTable(encoderTable),
+              (CodecNames{{u"libx264"_s, u"aac"_s, u"hevc_vaapi"_s}, {u"libx264"_s}, {u"hevc_vaapi"_s}}));
     EXPECT_EQ(parseCodecTable(" V....D libx264 (codec h264)"), std::nullopt) << "no dashes";
 }
 
@@ -77,16 +76,24 @@ QString makeTool(const QTemporaryDir &folder, const QByteArray &script)
     return path;
 }
 
+QString failureOf(const QString &path)
+{
+    CodecQuery query(path, std::chrono::milliseconds(300));
+    std::optional<QString> failure;
+    QObject::connect(&query, &CodecQuery::answered, &query,
+                     [&failure](const TranscoderCodecs &codecs) { failure = codecs.failure.english(); });
+    query.start();
+    EXPECT_FALSE(failure) << "later than it returns";
+    EXPECT_TRUE(test::waitUntil([&failure] { return failure.has_value(); }));
+    return failure.value_or(QString());
+}
+
 TEST(HardwareInformation, TranscodersThatDoNotAnswer)
 {
     const QTemporaryDir folder;
-    EXPECT_TRUE(askTranscoder(folder.path()).failure.contains(u"is missing"_s));
-    QElapsedTimer clock;
-    clock.start();
+    EXPECT_TRUE(failureOf(folder.path()).contains(u"is missing"_s));
     for (const char *script : {"exec sleep 60", "exec yes", "exit 3", "echo '------' >&2"})
-        EXPECT_EQ(askTranscoder(makeTool(folder, script), std::chrono::milliseconds(300)).failure,
-                  u"The transcoder did not answer as it should."_s);
-    EXPECT_LT(clock.elapsed(), 5000);
+        EXPECT_EQ(failureOf(makeTool(folder, script)), u"The transcoder did not answer as it should."_s) << script;
 }
 
 TEST(HardwareInformation, WindowLooksAnewEachTime)

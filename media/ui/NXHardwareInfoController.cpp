@@ -1,16 +1,19 @@
 #include "NXHardwareInfoController.h"
 
-#include "TextStyles.h"
-#include "TranslateControls.h"
 #include "foundation/Queues.h"
-#include "tarnwell/TranscoderCodecs.h"
+#include "media/TranscoderCodecs.h"
+#include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_NXHardwareInfoController.h"
 
 #include <QClipboard>
 #include <QGridLayout>
 #include <QGuiApplication>
 
-namespace kestrel::tarnwell {
+namespace kestrel {
+
+namespace palette = tarnwell::palette;
+using tarnwell::setTextStyle;
 
 namespace {
 
@@ -45,11 +48,12 @@ void NXHardwareInfoController::windowDidLoad(QDialog *window)
 {
     m_form = std::make_unique<Ui::NXHardwareInfoController>();
     m_form->setupUi(window);
-    TranslateControls(window);
+    tarnwell::TranslateControls(window);
     setTextStyle(m_form->titleLabel, 18, QFont::Bold, palette::title);
     QSizePolicy policy = m_form->progressBar->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_form->progressBar->setSizePolicy(policy);
+    m_form->closeButton->setFocus();
     connect(m_form->copyButton, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(hardwareText(m_rows)); });
     connect(m_form->closeButton, &QPushButton::clicked, this, &NXHardwareInfoController::onCloseAction);
@@ -64,14 +68,21 @@ void NXHardwareInfoController::gather()
 {
     m_form->progressBar->show();
     m_form->copyButton->setEnabled(!m_rows.isEmpty());
-    foundation::queue::asyncGlobal([self = QPointer(this), path = m_encoderPath, number = ++m_gathering] {
+    foundation::queue::asyncGlobal([self = QPointer(this), number = ++m_gathering] {
         const HardwareInformation hardware = hardwareInformation();
-        const TranscoderCodecs codecs = askTranscoder(path);
-        foundation::queue::asyncMain([self, hardware, codecs, number] {
+        foundation::queue::asyncMain([self, hardware, number] {
             if (self && self->m_gathering == number)
-                self->showRows(hardwareRows(hardware, codecs));
+                self->askTranscoder(hardware);
         });
     });
+}
+
+void NXHardwareInfoController::askTranscoder(const HardwareInformation &hardware)
+{
+    m_query = std::make_unique<CodecQuery>(m_encoderPath);
+    connect(m_query.get(), &CodecQuery::answered, this,
+            [this, hardware](const TranscoderCodecs &codecs) { showRows(hardwareRows(hardware, codecs)); });
+    m_query->start();
 }
 
 void NXHardwareInfoController::showRows(const QList<HardwareRow> &rows)
@@ -90,4 +101,4 @@ void NXHardwareInfoController::showRows(const QList<HardwareRow> &rows)
     }
 }
 
-}  // namespace kestrel::tarnwell
+}  // namespace kestrel
