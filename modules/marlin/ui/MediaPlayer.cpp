@@ -28,10 +28,20 @@ bool MediaPlayer::play(const QString &player, const QString &path, const QString
     auto showing = std::make_unique<Showing>();
     showing->path = std::make_unique<ToolPath>(path);
     // Its own idea of a size is that of the film, which may be larger than the screen.
-    const QStringList arguments = {u"-hide_banner"_s,         u"-loglevel"_s, u"error"_s,          u"-autoexit"_s,
-                                   u"-protocol_whitelist"_s,  u"file"_s,      u"-window_title"_s,  title,
-                                   u"-x"_s,                   u"960"_s,       u"-y"_s,             u"540"_s,
-                                   u"-i"_s,                   showing->path->argument()};
+    const QStringList arguments = {u"-hide_banner"_s,
+                                   u"-loglevel"_s,
+                                   u"error"_s,
+                                   u"-autoexit"_s,
+                                   u"-protocol_whitelist"_s,
+                                   u"file"_s,
+                                   u"-window_title"_s,
+                                   title,
+                                   u"-x"_s,
+                                   u"960"_s,
+                                   u"-y"_s,
+                                   u"540"_s,
+                                   u"-i"_s,
+                                   showing->path->argument()};
     showing->process = std::make_unique<ToolProcess>(ToolCommand{.program = player, .arguments = arguments});
     Showing *started = showing.get();
     connect(started->process.get(), &ToolProcess::ended, this, [this, started, title](const ToolEnding &ending) {

@@ -127,9 +127,8 @@ void OptionsPanel::addOutputPage(QFormLayout *form, QVBoxLayout *below)
     m_nameEdit->setAccessibleName("Name"_key.localized());
     m_nameEdit->setPlaceholderText(u"{name}"_s);
     m_nameEdit->setToolTip("{name}, {preset}, {folder} and {date} are filled in."_key.localized());
-    connect(m_nameEdit, &QLineEdit::textEdited, this, [this](const QString &text) {
-        edit([text](TranscodePlan &plan) { plan.namePattern = text; });
-    });
+    connect(m_nameEdit, &QLineEdit::textEdited, this,
+            [this](const QString &text) { edit([text](TranscodePlan &plan) { plan.namePattern = text; }); });
     m_exampleLabel = new QLabel;
     makeQuiet(m_exampleLabel);
     form->insertRow(0, "Folder"_key.localized(), m_folderBox);
@@ -137,8 +136,7 @@ void OptionsPanel::addOutputPage(QFormLayout *form, QVBoxLayout *below)
     form->insertRow(2, m_exampleLabel);
     m_mergeBox = new QCheckBox("Join all files into one"_key.localized());
     m_mergeBox->setObjectName(u"mergeMedia"_s);
-    connect(m_mergeBox, &QCheckBox::toggled, this,
-            [this](bool isOn) { m_conversions.settings().setMergeMedia(isOn); });
+    connect(m_mergeBox, &QCheckBox::toggled, this, [this](bool isOn) { m_conversions.settings().setMergeMedia(isOn); });
     below->addWidget(m_mergeBox);
 }
 
@@ -187,11 +185,12 @@ void OptionsPanel::show()
     const JobId first = m_ids.value(0);
     const TranscodePlan plan = first > 0 ? m_conversions.plan(first).value_or(TranscodePlan()) : m_conversions.draft();
     m_form->subjectLabel->setText(
-        m_ids.isEmpty()      ? "For all files"_key.localized()
+        m_ids.isEmpty()     ? "For all files"_key.localized()
         : m_ids.size() == 1 ? m_conversions.queue().record(first)->title
                             : tarnwell::Sentence("%1 files selected"_key, {QString::number(m_ids.size())}).localized());
     m_controls->show(plan);
-    const QList<MediaInformation> sources = m_ids.size() == 1 ? m_conversions.information(first) : QList<MediaInformation>();
+    const QList<MediaInformation> sources =
+        m_ids.size() == 1 ? m_conversions.information(first) : QList<MediaInformation>();
     m_tracks->show(plan, sources.isEmpty() ? nullptr : &sources.first(), m_conversions.tools().machine.language);
     if (!m_nameEdit->hasFocus())
         m_nameEdit->setText(plan.namePattern);
@@ -214,10 +213,9 @@ void OptionsPanel::showFolder()
     TranscodePlan example = plan;
     if (example.sources.isEmpty())
         example.sources = {u"/Videos/Holiday.mov"_s};
-    m_exampleLabel->setText(
-        tarnwell::Sentence("For example: %1"_key,
-                           {outputBaseName(example, QDate::currentDate()) + u'.' + plan.preset.extension})
-            .localized());
+    m_exampleLabel->setText(tarnwell::Sentence("For example: %1"_key, {outputBaseName(example, QDate::currentDate()) +
+                                                                       u'.' + plan.preset.extension})
+                                .localized());
 }
 
 void OptionsPanel::showEstimate(const TranscodePlan &plan)

@@ -63,25 +63,47 @@ void Thumbnails::start(const Request &request)
     run->request = request;
     run->path = std::make_unique<ToolPath>(request.path);
     const QSize pixels = m_size * m_scale;
-    const QString filter = u"scale=w='min(%1,iw*sar)':h='min(%2,ih)':force_original_aspect_ratio=decrease,setsar=1"_s
-                               .arg(pixels.width())
-                               .arg(pixels.height());
-    run->process = std::make_unique<ToolProcess>(ToolCommand{
-        .program = m_transcoder,
-        .arguments = {u"-hide_banner"_s, u"-nostdin"_s,        u"-loglevel"_s,        u"error"_s,
-                      u"-threads"_s,     u"1"_s,               u"-filter_threads"_s,  u"1"_s,
-                      u"-skip_frame"_s,  u"nokey"_s,           u"-noaccurate_seek"_s, u"-protocol_whitelist"_s,
-                      u"file"_s,         u"-ss"_s,             QString::number(request.seconds, 'f', 3),
-                      u"-i"_s,           run->path->argument(), u"-map"_s,            u"0:v:0"_s,
-                      u"-vf"_s,          filter,               u"-frames:v"_s,        u"1"_s,
-                      u"-c:v"_s,         u"ppm"_s,             u"-pix_fmt"_s,         u"rgb24"_s,
-                      u"-f"_s,           u"image2pipe"_s,      u"pipe:1"_s},
-        .timeLimit = patience,
-        .outputLimit = largestPicture,
-        .collectsOutput = true});
+    const QString filter =
+        u"scale=w='min(%1,iw*sar)':h='min(%2,ih)':force_original_aspect_ratio=decrease,setsar=1"_s.arg(pixels.width())
+            .arg(pixels.height());
+    run->process = std::make_unique<ToolProcess>(ToolCommand{.program = m_transcoder,
+                                                             .arguments = {u"-hide_banner"_s,
+                                                                           u"-nostdin"_s,
+                                                                           u"-loglevel"_s,
+                                                                           u"error"_s,
+                                                                           u"-threads"_s,
+                                                                           u"1"_s,
+                                                                           u"-filter_threads"_s,
+                                                                           u"1"_s,
+                                                                           u"-skip_frame"_s,
+                                                                           u"nokey"_s,
+                                                                           u"-noaccurate_seek"_s,
+                                                                           u"-protocol_whitelist"_s,
+                                                                           u"file"_s,
+                                                                           u"-ss"_s,
+                                                                           QString::number(request.seconds, 'f', 3),
+                                                                           u"-i"_s,
+                                                                           run->path->argument(),
+                                                                           u"-map"_s,
+                                                                           u"0:v:0"_s,
+                                                                           u"-vf"_s,
+                                                                           filter,
+                                                                           u"-frames:v"_s,
+                                                                           u"1"_s,
+                                                                           u"-c:v"_s,
+                                                                           u"ppm"_s,
+                                                                           u"-pix_fmt"_s,
+                                                                           u"rgb24"_s,
+                                                                           u"-f"_s,
+                                                                           u"image2pipe"_s,
+                                                                           u"pipe:1"_s},
+                                                             .timeLimit = patience,
+                                                             .outputLimit = largestPicture,
+                                                             .collectsOutput = true});
     Run *started = run.get();
-    connect(run->process.get(), &ToolProcess::ended, this,
-            [this, started](const ToolEnding &ending) { take(started, ending.isGood() ? ending.output : QByteArray()); });
+    connect(run->process.get(), &ToolProcess::ended, this, [this, started](const ToolEnding &ending) {
+        take(started, ending.isGood() ? ending.output : QByteArray());
+    });
     m_running.push_back(std::move(run));
     started->process->start();
 }

@@ -115,8 +115,8 @@ QWidget *TrackOptions::line(const QString &text, Plan::SubtitleUse use,
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     auto *box = new QComboBox;
-    box->addItems({"Kept as a track"_key.localized(), "Burnt into the picture"_key.localized(),
-                   "Left out"_key.localized()});
+    box->addItems(
+        {"Kept as a track"_key.localized(), "Burnt into the picture"_key.localized(), "Left out"_key.localized()});
     box->setCurrentIndex(int(use));
     box->setAccessibleName(text);
     connect(box, &QComboBox::activated, this, [this, set](int index) {
@@ -140,7 +140,8 @@ void TrackOptions::showSubtitles(const TranscodePlan &plan, const MediaInformati
              [index = track.index](TranscodePlan &changing, Plan::SubtitleUse use) {
                  // Only one can be burnt in.
                  if (use == Plan::SubtitleUse::Burn)
-                     changing.subtitles.removeIf([](const auto &each) { return each.value() == Plan::SubtitleUse::Burn; });
+                     changing.subtitles.removeIf(
+                         [](const auto &each) { return each.value() == Plan::SubtitleUse::Burn; });
                  changing.subtitles.insert(index, use);
              });
     }
@@ -163,9 +164,9 @@ void TrackOptions::showFiles(const TranscodePlan &plan)
 
 void TrackOptions::chooseFile()
 {
-    const QString path = QFileDialog::getOpenFileName(
-        m_made.last(), "Add Subtitle File…"_key.localized(), QString(),
-        "Subtitles"_key.localized() + u" (*.srt *.ass *.ssa *.vtt *.sub *.idx *.sup)"_s);
+    const QString path =
+        QFileDialog::getOpenFileName(m_made.last(), "Add Subtitle File…"_key.localized(), QString(),
+                                     "Subtitles"_key.localized() + u" (*.srt *.ass *.ssa *.vtt *.sub *.idx *.sup)"_s);
     if (!path.isEmpty())
         emit changed([path](TranscodePlan &plan) { plan.externalSubtitles.append({.path = path, .language = {}}); });
 }
