@@ -35,9 +35,9 @@ void Conversions::probed(qint64 look, const MediaProber::Answer &answer)
     const bool isOpen = record->state == JobState::Checking || record->state == JobState::Ready;
     if (!answer) {
         if (isOpen)
-            m_queue.change(id, [&](JobRecord &record) {
-                record.state = JobState::Unusable;
-                record.outcome.sentence = answer.reason();
+            m_queue.change(id, [&](JobRecord &changing) {
+                changing.state = JobState::Unusable;
+                changing.outcome.sentence = answer.reason();
             });
         return;
     }

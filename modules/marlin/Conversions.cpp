@@ -170,10 +170,10 @@ void Conversions::changeJob(JobId id, const std::function<void(JobRecord &)> &ch
     if (!record || isActive(record->state) || record->state == JobState::Waiting)
         return;
     m_known[id].warnings.reset();
-    m_queue.change(id, [&](JobRecord &record) {
-        change(record);
-        if (isEnded(record.state))
-            record.state = JobState::Ready;
+    m_queue.change(id, [&](JobRecord &changing) {
+        change(changing);
+        if (isEnded(changing.state))
+            changing.state = JobState::Ready;
     });
 }
 

@@ -64,6 +64,7 @@ private:
     void playSource(JobId id);
     void play(const QString &path);
     void showState();
+    static void warn(const QString &message);
 
     ModuleServices &m_services;
     foundation::UserDefaults &m_defaults;

@@ -16,6 +16,7 @@
 #include <QCheckBox>
 #include <QDate>
 #include <QFormLayout>
+#include <QLineEdit>
 #include <QLocale>
 #include <QPointer>
 #include <QPushButton>
