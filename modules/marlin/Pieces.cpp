@@ -19,7 +19,8 @@ QString timeText(double seconds)
 {
     const qint64 milliseconds = std::llround(std::max(0.0, seconds) * 1000);
     const qint64 whole = milliseconds / 1000;
-    QString text = u"%1:%2:%3"_s.arg(whole / 3600).arg(whole / 60 % 60, 2, 10, QChar(u'0')).arg(whole % 60, 2, 10, QChar(u'0'));
+    QString text =
+        u"%1:%2:%3"_s.arg(whole / 3600).arg(whole / 60 % 60, 2, 10, QChar(u'0')).arg(whole % 60, 2, 10, QChar(u'0'));
     if (milliseconds % 1000 == 0)
         return text;
     text += u".%1"_s.arg(milliseconds % 1000, 3, 10, QChar(u'0'));

@@ -1,6 +1,7 @@
 #include "modules/marlin/Conversion.h"
 
 #include "ModuleSettings.h"
+#include "modules/marlin/Cropping.h"
 #include "modules/marlin/Pieces.h"
 #include "modules/marlin/PlanOptions.h"
 
@@ -134,6 +135,28 @@ TEST(ConversionTest, TheRestOfAFilm)
     EXPECT_EQ(text(otherPieces({{2, 3}}, 10)), "0-2 3-10");
     EXPECT_EQ(text(soundPieces({{-1, 4}, {4, 4}, {8, 99}}, 10)), "0-4 8-10");
     EXPECT_EQ(text(soundPieces({{0, 10}}, 10)), "");
+}
+
+TEST(ConversionTest, BlackBarsAreCutOffTheUprightPicture)
+{
+    MediaTrack video;
+    video.width = 200;
+    video.height = 100;
+    const QRect part(20, 10, 160, 70);  // bars: left 20, top 10, right 20, bottom 20
+    const std::pair<int, QRectF> rows[] = {{0, {0.1, 0.1, 0.8, 0.7}},
+                                           {90, {0.2, 0.1, 0.7, 0.8}},
+                                           {180, {0.1, 0.2, 0.8, 0.7}},
+                                           {270, {0.1, 0.1, 0.7, 0.8}}};
+    for (const auto &[rotation, crop] : rows) {
+        video.rotation = rotation;
+        const QRectF found = cropOf(part, video);
+        EXPECT_NEAR(found.x(), crop.x(), 1e-9) << rotation;
+        EXPECT_NEAR(found.y(), crop.y(), 1e-9) << rotation;
+        EXPECT_NEAR(found.width(), crop.width(), 1e-9) << rotation;
+        EXPECT_NEAR(found.height(), crop.height(), 1e-9) << rotation;
+    }
+    EXPECT_TRUE(cropOf({2, 2, 196, 96}, video).isEmpty());
+    EXPECT_TRUE(cropOf({}, video).isEmpty());
 }
 
 }  // namespace kestrel

@@ -12,6 +12,7 @@
 #include "jobs/ToolProcess.h"
 #include "media/PictureScan.h"
 #include "media/ToolPath.h"
+#include "modules/marlin/Cropping.h"
 #include "modules/marlin/Pieces.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/ui/TextStyles.h"
@@ -31,23 +32,6 @@ namespace {
 using tarnwell::operator""_key;
 
 constexpr QSize framePoints{420, 260};
-
-/// Of the upright picture, what a rectangle of the coded one is.
-QRectF uprightPart(const QRect &part, const MediaTrack &video)
-{
-    const double width = video.width, height = video.height;
-    const QRectF coded(part.x() / width, part.y() / height, part.width() / width, part.height() / height);
-    switch (video.rotation) {
-        case 90:
-            return {1 - coded.bottom(), coded.x(), coded.height(), coded.width()};
-        case 180:
-            return {1 - coded.right(), 1 - coded.bottom(), coded.width(), coded.height()};
-        case 270:
-            return {coded.y(), 1 - coded.right(), coded.height(), coded.width()};
-        default:
-            return coded;
-    }
-}
 
 }  // namespace
 
@@ -260,16 +244,10 @@ void EditWindow::findBars()
 
 void EditWindow::takeBars(const PictureScan &scan)
 {
-    const MediaTrack &video = *m_subject.source.firstOf(MediaTrack::Kind::Video);
-    const QRect whole(0, 0, video.width, video.height), picture = scan.picture().intersected(whole);
-    // A few lines at the edge are no bars.
-    constexpr int least = 8;
-    if (picture.isEmpty() || (whole.width() - picture.width() < least && whole.height() - picture.height() < least)) {
-        showMessage("There are no black bars."_key.localized());
-        return;
-    }
-    showMessage({});
-    setCrop(uprightPart(picture, video));
+    const QRectF crop = cropOf(scan.picture(), *m_subject.source.firstOf(MediaTrack::Kind::Video));
+    showMessage(crop.isEmpty() ? "There are no black bars."_key.localized() : QString());
+    if (!crop.isEmpty())
+        setCrop(crop);
 }
 
 void EditWindow::toggleTrial()

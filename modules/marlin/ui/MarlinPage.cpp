@@ -15,6 +15,7 @@
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/ui/Images.h"
 
+#include <QMenu>
 #include <QPushButton>
 #include <QShortcut>
 

@@ -3,6 +3,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QFormLayout>
 #include <QLabel>
 
@@ -34,6 +35,8 @@ void OptionControls::add(const PlanOption &option, QFormLayout *form)
                                                                   : makeNumber(option);
     bound.control->setObjectName(QString::fromLatin1(option.id));
     bound.control->setAccessibleName(option.label.localized());
+    bound.control->setFocusPolicy(Qt::StrongFocus);
+    bound.control->installEventFilter(this);
     if (option.kind == PlanOption::Kind::Switch) {
         form->addRow(bound.control);
     } else {
@@ -79,8 +82,6 @@ OptionControls::Bound OptionControls::makeNumber(const PlanOption &option)
     box->setPrefix(around.value(0));
     box->setSuffix(around.value(1));
     box->setKeyboardTracking(false);
-    // A wheel that scrolls the panel must not change what it passes over.
-    box->setFocusPolicy(Qt::StrongFocus);
     connect(box, &QDoubleSpinBox::valueChanged, this, [this, &option](double value) { tell(option, value); });
     return {&option, box, [box](double value) { box->setValue(value); }};
 }
@@ -89,6 +90,15 @@ void OptionControls::tell(const PlanOption &option, double value)
 {
     if (!m_isShowing)
         emit changed([&option, value](TranscodePlan &plan) { option.set(plan, value); });
+}
+
+/// A wheel that scrolls the panel must not change what it passes over.
+bool OptionControls::eventFilter(QObject *watched, QEvent *event)
+{
+    if (event->type() != QEvent::Wheel || static_cast<QWidget *>(watched)->hasFocus())
+        return QObject::eventFilter(watched, event);
+    event->ignore();
+    return true;
 }
 
 void OptionControls::show(const TranscodePlan &plan)

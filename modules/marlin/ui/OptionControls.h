@@ -29,6 +29,9 @@ public:
 signals:
     void changed(const std::function<void(kestrel::TranscodePlan &)> &change);
 
+protected:
+    bool eventFilter(QObject *watched, QEvent *event) override;
+
 private:
     struct Bound {
         const PlanOption *option;
