@@ -22,6 +22,9 @@ class JobQueue;
 using ModuleConfigure = QHash<QString, std::shared_ptr<JKestrelSettingDispatcher>>;
 inline constexpr QStringView moduleSettingKey = u"setting";
 
+/// Broadcast, without an object, when the user has confirmed to reset the conversion profiles; the modules own them.
+inline constexpr QStringView keyResetProfilesNotification = u"keyResetProfilesNotification";
+
 /// What the modules share; it outlives them.
 class ModuleServices {
 public:

@@ -18,9 +18,6 @@
 
 namespace kestrel {
 
-/// Broadcast, without an object, when the user has confirmed to reset the conversion profiles; the modules own them.
-inline constexpr QStringView keyResetProfilesNotification = u"keyResetProfilesNotification";
-
 /// The application's delegate: owns main window, menus and module host, adds the shell's own menu entries, and carries
 /// launch and termination. Main thread only.
 class AppDelegate : public QObject, public tarnwell::WebLinkDelegate {

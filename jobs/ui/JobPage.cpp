@@ -12,6 +12,7 @@
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QShortcut>
 
@@ -217,6 +218,16 @@ void JobPage::dropEvent(QDropEvent *event)
 {
     take(*event->mimeData());
     event->acceptProposedAction();
+}
+
+/// The menu's "Paste" would take the key for itself; fields that it is meant for have been asked before.
+bool JobPage::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void JobPage::keyPressEvent(QKeyEvent *event)
