@@ -7,6 +7,10 @@
 #include <gtest/gtest.h>
 
 #include <QMetaProperty>
+#include <QTemporaryDir>
+
+#include <functional>
+#include <span>
 
 using namespace Qt::StringLiterals;
 

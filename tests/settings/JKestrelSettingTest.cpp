@@ -32,6 +32,13 @@ QByteArray foreignArchive()
     return file.readAll();
 }
 
+QVariant storedAs(const foundation::KeyedDecoder &coder, const QString &key, int type)
+{
+    if (type == QMetaType::QString)
+        return coder.decodeString(key);
+    return type == QMetaType::Bool ? QVariant(coder.decodeBool(key)) : QVariant(coder.decodeDouble(key));
+}
+
 /// An object of any class name with any fields.
 struct ArchivedObject final : foundation::KeyedArchivable {
     ArchivedObject(const QString &name_, const QVariantMap &fields_ = {}) : name(name_), fields(fields_) {}
@@ -103,33 +110,30 @@ TEST_F(JKestrelSettingTest, every_archived_field_has_its_own_name)
     const auto moduleOf = [](const JKestrelSetting &setting, const char *name) {
         return setting.property(name).value<QObject *>();
     };
-    const QByteArray switches[][2] = {
+    const std::pair<const char *, const char *> switches[] = {
         {"openFolderWhenDone", "openFolder"}, {"shutdownWhenDone", "shutdown"}, {"notifyWhenAvailable", "notify"}};
     for (const auto &on : switches) {  // alone, so that none can stand for another
         JKestrelSetting setting(m_defaults);
         for (const auto &row : rows)
             ASSERT_TRUE(moduleOf(setting, row.module)->setProperty(row.property, row.value)) << row.property;
         for (const auto &each : switches)
-            ASSERT_TRUE(setting.setProperty(each[0], each == on));
+            ASSERT_TRUE(setting.setProperty(each.first, &each == &on));
         setting.sync();
         const auto root = foundation::KeyedDecoder::unarchive(m_defaults.dataForKey(u"setting"_s));
         ASSERT_TRUE(root);
         foundation::UserDefaults file(m_folder.filePath(u"defaults.plist"_s));
         const JKestrelSetting read(file);
         for (const auto &[module, property, name, value] : rows) {
-            SCOPED_TRACE(QByteArray(module) + '.' + name);
+            SCOPED_TRACE(std::string(module) + '.' + name);
             const auto stored = root->decodeObject(QString::fromLatin1(module));
             const QString key = QString::fromLatin1(name);
             ASSERT_TRUE(stored && stored->contains(key));
-            if (value.typeId() == QMetaType::QString)
-                EXPECT_EQ(stored->decodeString(key), value.toString());
-            else
-                EXPECT_EQ(stored->decodeDouble(key), value.toDouble());
+            EXPECT_EQ(storedAs(*stored, key, value.typeId()), value);
             EXPECT_EQ(moduleOf(read, module)->property(property), value);
         }
         for (const auto &each : switches) {
-            EXPECT_EQ(root->decodeObject(u"vars"_s)->decodeBool(QString::fromLatin1(each[1])), each == on) << on[1];
-            EXPECT_EQ(read.property(each[0]).toBool(), each == on) << on[1];
+            EXPECT_EQ(root->decodeObject(u"vars"_s)->decodeBool(QString::fromLatin1(each.second)), &each == &on);
+            EXPECT_EQ(read.property(each.first).toBool(), &each == &on) << on.second;
         }
     }
 }
