@@ -25,7 +25,6 @@ void LoggerWatcherTask::run(const QString &program, const QStringList &arguments
         untilExit.quit();
     });
     process.setProcessChannelMode(QProcess::ForwardedChannels);
-    process.setStandardInputFile(QProcess::nullDevice());
     process.setChildProcessModifier(foundation::endWithParent());
     bool isWanted = false;
     {
@@ -40,6 +39,14 @@ void LoggerWatcherTask::run(const QString &program, const QStringList &arguments
     const QMutexLocker locker(&m_mutex);
     m_process = nullptr;
     m_hasEnded = true;
+}
+
+void LoggerWatcherTask::raise()
+{
+    const QMutexLocker locker(&m_mutex);
+    if (m_process)
+        QMetaObject::invokeMethod(
+            m_process, [process = m_process] { process->write("raise\n"); }, Qt::QueuedConnection);
 }
 
 void LoggerWatcherTask::terminate()

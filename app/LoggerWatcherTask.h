@@ -18,6 +18,9 @@ public:
     /// started is logged.
     void run(const QString &program, const QStringList &arguments);
 
+    /// Asks the viewer to come to the front; nothing where none runs.
+    void raise();
+
     /// Ends the viewer, or keeps it from starting; one that does not heed this is killed a second later.
     void terminate();
 

@@ -11,12 +11,15 @@ namespace kestrel::foundation {
 
 namespace {
 
-/// The bundle around `Name.app/Contents/MacOS/Name`, or an empty path.
+/// The bundle around `Name.app/Contents/MacOS/Name`, or one of its helpers, or an empty path.
 QString bundlePathOf(const QString &executable)
 {
     const QString folder = QFileInfo(executable).path();
-    const auto end = "/Contents/MacOS"_L1;
-    return folder.endsWith(end) ? folder.chopped(end.size()) : QString();
+    for (const auto end : {"/Contents/MacOS"_L1, "/Contents/Helpers"_L1}) {
+        if (folder.endsWith(end))
+            return folder.chopped(end.size());
+    }
+    return {};
 }
 
 }  // namespace

@@ -2,12 +2,17 @@
 
 #include "JobRecord.h"
 
+#include <QHash>
 #include <QObject>
 
+#include <chrono>
 #include <functional>
+#include <map>
+#include <optional>
 
 namespace kestrel {
 
+class DesktopServices;
 class JobQueue;
 
 /// What the program does around runs of jobs: keeps the machine from sleeping while any job runs; shows the progress of
@@ -27,8 +32,9 @@ public:
         bool shutDown = false;
     };
 
-    /// `wishes` is asked when a module has become idle.
-    AfterRun(JobQueue &queue, std::function<Wishes(const QString &module)> wishes, QObject *parent = nullptr);
+    /// `wishes` is asked when a module has become idle. `second` is what the countdown counts.
+    AfterRun(JobQueue &queue, std::function<Wishes(const QString &module)> wishes, QObject *parent = nullptr,
+             std::chrono::milliseconds second = std::chrono::seconds(1));
     ~AfterRun() override;
 
     void stopShutdown();
@@ -38,6 +44,36 @@ signals:
     void shutdownIn(int seconds);
     /// The notification's "Show" was clicked.
     void showRequested(const QString &module);
+
+private:
+    /// What ended since the module was last idle.
+    struct Run {
+        std::map<JobState, int> ended;
+        JobId last = 0;
+        QString folder;  ///< of the last one that is done
+
+        int count(JobState state) const;
+        int count() const;
+    };
+
+    void jobChanged();
+    void jobEnded(JobId id);
+    void showState();
+    void moduleIsIdle(const QString &module);
+    void notify(const QString &module, const Run &run);
+    void offerShutdown();
+    void countDown(int seconds, int countdown);
+
+    JobQueue &m_queue;
+    std::function<Wishes(const QString &module)> m_wishes;
+    std::chrono::milliseconds m_second;
+    DesktopServices *m_services;
+    QHash<QString, Run> m_runs;
+    bool m_hasAllDone = true;  ///< of what ended since all modules were last idle
+    bool m_isShowingSoon = false;
+    std::optional<double> m_shownFraction;
+    int m_countdown = 0;  ///< the number of the present one; none where it is not counting
+    bool m_isCountingDown = false;
 };
 
 }  // namespace kestrel

@@ -22,9 +22,10 @@ public:
     virtual void cancel() = 0;
     virtual bool canPause() const { return false; }
     /// Only where it can.
-    virtual void setPaused(bool paused){Q_UNUSED(paused)}
+    virtual void setPaused(bool paused) { Q_UNUSED(paused); }
 
-    signals : void progressed(const kestrel::JobProgress &progress);
+signals:
+    void progressed(const kestrel::JobProgress &progress);
     /// Something that the user should know while it runs; told in the row.
     void noted(const kestrel::tarnwell::Sentence &note);
     /// Once, later than `start` returns. Nothing follows.
@@ -39,6 +40,13 @@ public:
     virtual Lane lane(const JobRecord &record) const = 0;
     /// Bytes that the output will take in the record's folder, or an upper guess; 0 where nothing is known.
     virtual qint64 expectedBytes(const JobRecord &record) const = 0;
+    /// How much of a run's work this job is, in whatever measure the module's jobs share: seconds of film, bytes.
+    virtual double weight(const JobRecord &record) const
+    {
+        Q_UNUSED(record);
+        return 1;
+    }
+    /// Null where it cannot be run; it has failed then.
     virtual std::unique_ptr<Job> makeJob(const JobRecord &record) = 0;
 };
 

@@ -26,10 +26,13 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
     QVariant headerData(int section, Qt::Orientation orientation, int role) const override;
     Qt::ItemFlags flags(const QModelIndex &index) const override;
-    // Rows are dragged within the list to change their order, and results out of it as files.
+    // Rows are dragged within the list to change their order, and results out of it as files. Always as copies: who
+    // takes a result must not take it away.
     Qt::DropActions supportedDropActions() const override;
     QStringList mimeTypes() const override;
     QMimeData *mimeData(const QModelIndexList &indexes) const override;
+    bool canDropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
+                         const QModelIndex &parent) const override;
     bool dropMimeData(const QMimeData *data, Qt::DropAction action, int row, int column,
                       const QModelIndex &parent) override;
 
@@ -38,8 +41,13 @@ protected:
     JobQueue &queue() const { return m_queue; }
 
 private:
+    void followChanges();
+    void followReordering();
+    QByteArray listIdentity() const;
+
     JobQueue &m_queue;
     QString m_module;
+    QList<JobId> m_idsOfIndexes;  ///< of the persistent ones, while rows are reordered
 };
 
 }  // namespace kestrel

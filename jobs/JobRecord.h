@@ -31,6 +31,10 @@ enum class JobState {
 bool isEnded(JobState state);   ///< from Done on
 bool isActive(JobState state);  ///< has a `Job`: Running, Paused, Stopping
 
+/// The name in files and for programs: "done-with-problems".
+QString jobStateName(JobState state);
+std::optional<JobState> jobStateNamed(const QString &name);
+
 /// What jobs share and must not fight over. Each lane runs so many of its jobs at once.
 enum class Lane { Encode, Copy, Sound, Net, Disc, Capture };
 inline constexpr int laneCount = 6;
@@ -48,6 +52,9 @@ struct JobOutcome {
     bool operator==(const JobOutcome &) const = default;
 };
 
+/// Of a job whose outputs are not where they were made.
+extern const tarnwell::TextKey outputIsGone;
+
 struct JobProgress {
     std::optional<double> fraction = {};  ///< 0 to 1; only grows; nothing where the end is not known
     double seconds = 0;                   ///< of the film that are done
@@ -58,20 +65,25 @@ struct JobProgress {
 };
 
 struct JobRecord {
-    JobId id = 0;    ///< given by the queue
-    QString module;  ///< "marlin", "heron", "petrel", "plover": whose recipe reads `plan`
+    JobId id = 0;         ///< given by the queue
+    QString module = {};  ///< "marlin", "heron", "petrel", "plover": whose recipe reads `plan`
     JobState state = JobState::Ready;
-    QString title;       ///< what the row is called: a file's name
-    QString source;      ///< absolute path or address
-    QJsonObject plan;    ///< the module's own values, with their "version"
-    QString folder;      ///< absolute; where the output goes
-    JobOutcome outcome;  ///< since it ended, or became unusable
-    QDateTime added, started, ended;
+    QString title = {};       ///< what the row is called: a file's name
+    QString source = {};      ///< absolute path or address
+    QJsonObject plan = {};    ///< the module's own values, with their "version"
+    QString folder = {};      ///< absolute; where the output goes
+    JobOutcome outcome = {};  ///< since it ended, or became unusable
+    QDateTime added = {}, started = {}, ended = {};
 
     // Not stored
     JobProgress progress = {};
     tarnwell::Sentence blocked = {};  ///< why it waits, where that is not its turn
     tarnwell::Sentence note = {};     ///< what the user should know of the run: "Encoding in software"
 };
+
+/// What is stored of a record besides its id, module and state.
+QJsonObject jobRecordToJson(const JobRecord &record);
+/// Puts it back; members of a wrong type read as absent. False where it is no job: it needs a title and a plan.
+bool readJobRecord(const QJsonObject &json, JobRecord &record);
 
 }  // namespace kestrel

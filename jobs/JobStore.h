@@ -2,7 +2,7 @@
 
 #include "JobRecord.h"
 
-#include <functional>
+#include <chrono>
 #include <memory>
 
 namespace kestrel {
@@ -15,21 +15,28 @@ class JobStore {
 public:
     virtual ~JobStore() = default;
 
+    struct Row {
+        JobRecord record;
+        double position = 0;  ///< orders the jobs of a module
+    };
+
     /// All jobs, in their order. What ran and whose owner has ended is Interrupted; what another process runs now is
     /// left out. Jobs that are done but whose outputs are gone say so.
-    virtual QList<JobRecord> load() = 0;
+    virtual QList<Row> load() = 0;
     /// An identifier that was never used, also by another process that has the store open.
     virtual JobId nextId() = 0;
-    /// Writes a new or a changed job, in the background; the order of calls is kept. `position` orders the jobs of a
-    /// module.
+    /// Writes a new or a changed job, in the background; the order of calls is kept. What could not be written is tried
+    /// again with the next.
     virtual void put(const JobRecord &record, double position) = 0;
     virtual void remove(const QList<JobId> &ids) = 0;
-    /// Waits until everything so far is on the disk. False where it could not be written.
-    virtual bool flush() = 0;
+    /// Waits until everything so far is on the disk. False where it could not be written, or not in that time.
+    virtual bool flush(std::chrono::milliseconds patience = std::chrono::seconds(10)) = 0;
 };
 
-/// The store of this user. Null only where not even a new file can be made; jobs are not kept then.
-std::unique_ptr<JobStore> openJobStore(const QString &path);
-QString jobStorePath();
+/// Opens the store, or begins one; its folder is the user's alone. Null only where not even a new file can be made, or
+/// another process does not let it go for seconds; jobs are not kept then. What serves the file is a library of the
+/// bundle, loaded here, so that the program's start does not pay for it.
+std::unique_ptr<JobStore> openJobStore(const QString &path, const QString &libraryPath = {});
+QString jobStorePath();  ///< of this user
 
 }  // namespace kestrel

@@ -13,15 +13,6 @@ namespace {
 using Plan = TranscodePlan;
 using Kind = MediaTrack::Kind;
 
-bool isBitmapBurnt(const TrackPlan &tracks)
-{
-    if (!tracks.burned)
-        return false;
-    return tracks.burned->source
-               ? tracks.burned->source->isBitmap
-               : tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || tracks.burned->codec == "dvd_subtitle"_L1;
-}
-
 /// Chains of a graph, separated by semicolons; an empty list of filters still needs one.
 class Graph {
 public:
@@ -67,14 +58,14 @@ private:
             sourceFilters(m_plan, m_tracks, track, m_plan.sources.at(piece.source), piece, isJoined);
         const QString input = u"[%1:%2]"_s.arg(number).arg(track.index);
         const QString result = u"[piece%1]"_s.arg(number);
-        if (!isBitmapBurnt(m_tracks)) {
+        if (!isBitmapBurnt(m_tracks) || piece.source != 0) {
             chain(input, filters.before + filters.after, result);
             return result;
         }
         const QString bare = u"[bare%1]"_s.arg(number);
         const MediaTrack *subtitle = m_tracks.burned->source;
         const QString cues =
-            subtitle ? u"[%1:%2]"_s.arg(number).arg(subtitle->index) : u"[%1:0]"_s.arg(m_inputs.subtitles);
+            subtitle ? u"[%1:%2]"_s.arg(number).arg(subtitle->index) : u"[%1:0]"_s.arg(m_inputs.subtitles + number);
         chain(input, filters.before, bare);
         // Cues for a picture with its bars stand at the foot of one without.
         QString overlay = cues + bare;
@@ -147,6 +138,15 @@ private:
 };
 
 }  // namespace
+
+bool isBitmapBurnt(const TrackPlan &tracks)
+{
+    if (!tracks.burned)
+        return false;
+    return tracks.burned->source
+               ? tracks.burned->source->isBitmap
+               : tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || tracks.burned->codec == "dvd_subtitle"_L1;
+}
 
 FilterGraph filterGraph(const Plan &plan, const TrackPlan &tracks, const GraphInputs &inputs,
                         std::optional<double> seconds, bool withSound)

@@ -95,7 +95,9 @@ void TranscodeJob::scanPicture()
         if (isStopping())
             return finishStopped();
         MediaInformation &film = m_request.information.first();
-        film.tracks[film.firstOf(MediaTrack::Kind::Video) - film.tracks.constData()].fieldOrder = m_scan.fieldOrder();
+        MediaTrack &track = film.tracks[film.firstOf(MediaTrack::Kind::Video) - film.tracks.constData()];
+        track.fieldOrder = m_scan.fieldOrder();
+        track.fieldsAreSeen = true;
         prepare();
     });
     connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_scan.readLine(line); });

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "settings/ModuleKind.h"
+
 #include <QHash>
 #include <QString>
 #include <QStringList>
 
 #include <functional>
+#include <map>
 #include <memory>
 
 class QWidget;
@@ -12,18 +15,28 @@ class QWidget;
 namespace kestrel {
 
 class JKestrelSettingDispatcher;
+class JobQueue;
 
 /// What the host hands to a new module: one entry, "setting", the module's dispatcher. A module keeps it as long as it
 /// reads settings.
 using ModuleConfigure = QHash<QString, std::shared_ptr<JKestrelSettingDispatcher>>;
 inline constexpr QStringView moduleSettingKey = u"setting";
 
+/// What the modules share; it outlives them.
+class ModuleServices {
+public:
+    virtual ~ModuleServices() = default;
+    /// The jobs of the whole program. The first call opens their store, so it is not for a module's constructor.
+    virtual JobQueue &queue() = 0;
+};
+
 /// A module as the host sees it: this header is all that a module's author has to read.
 ///
-/// The host makes each module once at launch (its constructor takes the configuration) and keeps it until the
-/// application ends. It asks for the view at once, to remember its size, and then on every switch: the view comes into
-/// the main window, at exactly that size, when the module is opened and goes out when it is left or another module is
-/// opened. Building the view is on the way to the first window, so it must be quick. All calls come on the main thread.
+/// The host makes each module once at launch (its constructor takes the configuration and, where it wants them, the
+/// services) and keeps it until the application ends. It asks for the view at once, to remember its size, and then on
+/// every switch: the view comes into the main window, at exactly that size, when the module is opened and goes out when
+/// it is left or another module is opened. The first question is on the way to the
+/// first window, so `LateView` makes what is in the view later. All calls come on the main thread.
 class ModuleController {
 public:
     using CompletedHandler = std::function<void(ModuleController *)>;
@@ -89,14 +102,9 @@ public:
     virtual void openFiles(const QStringList &paths) = 0;
 };
 
-using ModuleFactory = std::function<std::unique_ptr<ModuleController>(const ModuleConfigure &)>;
+using ModuleFactory = std::function<std::unique_ptr<ModuleController>(const ModuleConfigure &, ModuleServices &)>;
 
-/// One factory a module; an empty one, or one that answers null, leaves that module out.
-struct ModuleFactories {
-    ModuleFactory converter = {};
-    ModuleFactory ripper = {};
-    ModuleFactory downloader = {};
-    ModuleFactory recorder = {};
-};
+/// A kind that is missing, or whose factory answers null, leaves that module out.
+using ModuleFactories = std::map<ModuleSettingKind, ModuleFactory>;
 
 }  // namespace kestrel

@@ -9,6 +9,8 @@
 #include <QCryptographicHash>
 #include <QUrl>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -30,15 +32,13 @@ std::unique_ptr<Setting> makeSetting(const std::optional<foundation::KeyedDecode
 
 }  // namespace
 
-JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults)
-    : JKestrelSetting(defaults, tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720))
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
+    : JKestrelSetting(defaults)
 {
+    m_canEncodeInHardware = canEncodeInHardware;
 }
 
-JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
-    : m_defaults(defaults),
-      m_canEncodeInHardware(canEncodeInHardware),
-      m_intelQSV(canEncodeInHardware)
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults) : m_defaults(defaults)
 {
     load();
     const QString transcoderTools = getFFmpegBundlePath() + "/Contents/Resources/"_L1;
@@ -61,11 +61,13 @@ JKestrelSetting &JKestrelSetting::ShareInst()
 
 void JKestrelSetting::load()
 {
-    const auto root = foundation::KeyedDecoder::unarchive(m_defaults.dataForKey(settingKey));
-    m_video = makeSetting<JVideoSetting>(root, u"JVideoSetting"_s, u"video"_s);
-    m_dvd = makeSetting<JDVDSetting>(root, u"JDVDSetting"_s, u"dvd"_s);
-    m_downloader = makeSetting<JDownloaderSetting>(root, u"JDownloaderSetting"_s, u"downloader"_s);
-    m_recorder = makeSetting<JRecorderSetting>(root, u"JRecorderSetting"_s, u"recorder"_s);
+    const QByteArray archive = m_defaults.dataForKey(settingKey);
+    const auto root = foundation::KeyedDecoder::unarchive(archive);
+    m_isStoredUnreadable = !archive.isEmpty() && !root;
+    m_video = makeSetting<JVideoSetting>(root, u"JVideoSetting"_s, moduleKey(ModuleSettingVideo));
+    m_dvd = makeSetting<JDVDSetting>(root, u"JDVDSetting"_s, moduleKey(ModuleSettingDVD));
+    m_downloader = makeSetting<JDownloaderSetting>(root, u"JDownloaderSetting"_s, moduleKey(ModuleSettingDownload));
+    m_recorder = makeSetting<JRecorderSetting>(root, u"JRecorderSetting"_s, moduleKey(ModuleSettingRecord));
     if (const auto switches = root ? root->decodeObject(u"vars"_s) : std::nullopt) {
         m_openFolderWhenDone = switches->decodeBool(u"openFolder"_s);
         m_shutdownWhenDone = switches->decodeBool(u"shutdown"_s);
@@ -73,19 +75,32 @@ void JKestrelSetting::load()
     }
 }
 
+JSettingBase *JKestrelSetting::ofModule(qint32 kind) const
+{
+    JSettingBase *const settings[] = {m_video.get(), m_dvd.get(), m_downloader.get(), m_recorder.get()};
+    return kind >= 0 && kind < qint32(std::size(settings)) ? settings[kind] : nullptr;
+}
+
+bool JKestrelSetting::canEncodeInHardware() const
+{
+    if (!m_canEncodeInHardware)
+        m_canEncodeInHardware = tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720);
+    return *m_canEncodeInHardware;
+}
+
 void JKestrelSetting::setHardwareChoice(HardwareChoice choice)
 {
     m_hardwareChoice = choice;
-    m_intelQSV = encodesInHardware(choice, m_canEncodeInHardware);
+    m_intelQSV = encodesInHardware(choice, canEncodeInHardware());
 }
 
 void JKestrelSetting::sync()
 {
     foundation::KeyedArchiver archiver;
-    archiver.setObject(u"video"_s, *m_video);
-    archiver.setObject(u"dvd"_s, *m_dvd);
-    archiver.setObject(u"downloader"_s, *m_downloader);
-    archiver.setObject(u"recorder"_s, *m_recorder);
+    archiver.setObject(moduleKey(ModuleSettingVideo), *m_video);
+    archiver.setObject(moduleKey(ModuleSettingDVD), *m_dvd);
+    archiver.setObject(moduleKey(ModuleSettingDownload), *m_downloader);
+    archiver.setObject(moduleKey(ModuleSettingRecord), *m_recorder);
     archiver.setNumbers(u"vars"_s, {{u"openFolder"_s, m_openFolderWhenDone},
                                     {u"shutdown"_s, m_shutdownWhenDone},
                                     {u"notify"_s, m_notifyWhenAvailable}});
@@ -94,6 +109,8 @@ void JKestrelSetting::sync()
         tarnwell::DNFootLog(u"The settings could not be archived"_s);
         return;
     }
+    if (std::exchange(m_isStoredUnreadable, false))
+        m_defaults.keepAside(settingKey);
     m_defaults.setObject(archive, settingKey);
     m_defaults.synchronize();
 }

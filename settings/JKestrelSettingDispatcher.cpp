@@ -6,25 +6,6 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
-namespace {
-
-JSettingBase *settingOfKind(qint32 kind, const JKestrelSetting &setting)
-{
-    switch (kind) {
-        case ModuleSettingVideo:
-            return setting.video();
-        case ModuleSettingDVD:
-            return setting.dvd();
-        case ModuleSettingDownload:
-            return setting.downloader();
-        case ModuleSettingRecord:
-            return setting.recorder();
-    }
-    return nullptr;
-}
-
-}  // namespace
-
 std::shared_ptr<JKestrelSettingDispatcher> JKestrelSettingDispatcher::SettingDispatcherWithType(qint32 kind)
 {
     return std::make_shared<JKestrelSettingDispatcher>(kind, JKestrelSetting::ShareInst());
@@ -33,7 +14,7 @@ std::shared_ptr<JKestrelSettingDispatcher> JKestrelSettingDispatcher::SettingDis
 JKestrelSettingDispatcher::JKestrelSettingDispatcher(qint32 kind, JKestrelSetting &setting)
     : m_dispatchType(kind),
       m_setting(&setting),
-      m_currentSetting(settingOfKind(kind, setting))
+      m_currentSetting(setting.ofModule(kind))
 {
 }
 

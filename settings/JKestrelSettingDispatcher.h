@@ -1,6 +1,6 @@
 #pragma once
 
-#include <QString>
+#include "ModuleKind.h"
 
 #include <memory>
 
@@ -8,13 +8,6 @@ namespace kestrel {
 
 class JKestrelSetting;
 class JSettingBase;
-
-enum ModuleSettingKind : qint32 {
-    ModuleSettingVideo = 0,
-    ModuleSettingDVD = 1,
-    ModuleSettingDownload = 2,
-    ModuleSettingRecord = 3,
-};
 
 /// Posted on the default notification centre, without an object, after an output folder or the hardware choice was
 /// changed in the settings window: what a module has read before is to be read again.

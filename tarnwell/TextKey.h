@@ -8,7 +8,7 @@
 
 namespace kestrel::tarnwell {
 
-/// A text of the catalogues, to be localised when it is shown. Only a marked literal makes one, "Ready"_key, so that no
+/// A text of the catalogues, to be localised when it is shown. Only a literal marked with _key makes one, so that no
 /// other text is ever taken for a key.
 class TextKey {
 public:

@@ -12,7 +12,8 @@ namespace kestrel {
 
 namespace {
 
-constexpr foundation::PropertyListLimits descriptorLimits{.bytes = 1 << 20, .depth = 500, .items = 200'000};
+constexpr foundation::PropertyListLimits descriptorLimits{
+    .bytes = UPParser::maximumBytes, .depth = 500, .items = 200'000};
 constexpr qsizetype shortestConfigurationAddress = 2;
 
 QString textIn(const QVariantMap &dictionary, const QString &key)
@@ -31,35 +32,38 @@ QVariantMap linkIn(const QVariantMap &root, const QString &key, const QString &l
 
 }  // namespace
 
-std::shared_ptr<const UPParser> UPParser::initWithXMLURL(const QString &url, const UpdateContext &context,
-                                                         QString *reason)
+UPParser::Parsed UPParser::initWithXMLURL(const QString &url, const UpdateContext &context)
 {
-    const auto fail = [reason](const QString &why) {
-        if (reason)
-            *reason = why;
-        return nullptr;
-    };
-    const foundation::FetchResult result = context.fetch(
-        {.address = url, .maximumBytes = descriptorLimits.bytes, .schemes = foundation::FetchSchemes::WebAndFile});
+    const foundation::FetchResult result =
+        context.fetch({.address = url, .maximumBytes = maximumBytes, .schemes = foundation::FetchSchemes::WebAndFile});
     if (!result.body)
-        return fail(result.reason);
-    const foundation::PropertyListResult list = foundation::readPropertyList(*result.body, descriptorLimits);
-    if (!list.value)
-        return fail(list.error.toString());
-    if (list.value->typeId() != QMetaType::QVariantMap)
-        return fail(u"the property list is no dictionary"_s);
-    auto parser = std::make_shared<UPParser>(context);
-    parser->parseUpgradeConfig(list.value->toMap());
-    return parser;
+        return foundation::Failure{result.reason};
+    return initWithData(*result.body, context.reading, [&context](const QString &configuration) {
+        return AppRMConfig::remoteConfigWithURL(configuration, context.fetch);
+    });
 }
 
-void UPParser::parseUpgradeConfig(const QVariantMap &root)
+UPParser::Parsed UPParser::initWithData(const QByteArray &bytes, const UpdateReading &reading,
+                                        const RemoteConfigSource &remoteConfig)
+{
+    const foundation::PropertyListResult list =
+        foundation::readPropertyList(bytes, descriptorLimits, foundation::PropertyListManner::Forgiving);
+    if (!list.value)
+        return foundation::Failure{list.error.toString()};
+    if (list.value->typeId() != QMetaType::QVariantMap)
+        return foundation::Failure{u"the property list is no dictionary"_s};
+    auto parser = std::make_shared<UPParser>(reading);
+    parser->parseUpgradeConfig(list.value->toMap(), remoteConfig);
+    return std::shared_ptr<const UPParser>(std::move(parser));
+}
+
+void UPParser::parseUpgradeConfig(const QVariantMap &root, const RemoteConfigSource &remoteConfig)
 {
     m_forceUpgrade = foundation::booleanValue(root.value(u"ForceAppUpgrade"_s));
     m_versionFromServer = textIn(root, u"LastestVersion"_s);
     m_buildTimeFromServer = textIn(root, u"BuildDate"_s);
 
-    const QVariant ofLanguage = root.value(m_context.language);
+    const QVariant ofLanguage = root.value(m_reading.language);
     const QVariantMap section = ofLanguage.typeId() == QMetaType::QVariantMap ? ofLanguage.toMap() : root;
     // A text would read as a list of its characters.
     const QVariant log = section.value(u"UpdateLog"_s);
@@ -69,21 +73,21 @@ void UPParser::parseUpgradeConfig(const QVariantMap &root)
     m_promotionRegitsteredNotes = textIn(section, u"NotificationContent"_s);
     m_promotionRegitsteredURL = textIn(section, u"NotificationURL"_s);
 
-    const QVariantMap top = linkIn(root, u"DownloaderUISupportURLTop"_s, m_context.language);
+    const QVariantMap top = linkIn(root, u"DownloaderUISupportURLTop"_s, m_reading.language);
     m_dlSupportLinkTitleReg = textIn(top, u"Title"_s);
     m_dlSupportLinkURLReg = textIn(top, u"URL"_s);
-    const QVariantMap bottom = linkIn(root, u"DownloaderUISupportURLBottom"_s, m_context.language);
+    const QVariantMap bottom = linkIn(root, u"DownloaderUISupportURLBottom"_s, m_reading.language);
     m_dl300PlusTitleReg = textIn(bottom, u"Title"_s);
     m_dl300PlusURLReg = textIn(bottom, u"URL"_s);
 
     const QString configuration = textIn(section, u"ADConfigURL"_s);
-    if (configuration.size() >= shortestConfigurationAddress)
-        m_rmtConfig = AppRMConfig::remoteConfigWithURL(configuration, m_context.fetch);
+    if (remoteConfig && configuration.size() >= shortestConfigurationAddress)
+        m_rmtConfig = remoteConfig(configuration);
 }
 
 bool UPParser::foundNewVerion() const
 {
-    return !m_versionFromServer.isNull() && compareVersions(m_versionFromServer, m_context.localVersion) > 0;
+    return !m_versionFromServer.isNull() && compareVersions(m_versionFromServer, m_reading.localVersion) > 0;
 }
 
 foundation::StyledText UPParser::updateLog() const

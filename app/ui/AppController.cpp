@@ -3,6 +3,7 @@
 #include "_JKestrelWindow.h"
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
+#include "modules/ModuleRow.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/ProductInformation.h"
@@ -12,6 +13,7 @@
 #include "tarnwell/ui/TitledWindow.h"
 
 #include <QPointer>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -20,7 +22,6 @@ namespace kestrel {
 namespace {
 
 const QString menuMode = u"menu"_s;
-const QString moduleModes[] = {u"video"_s, u"dvd"_s, u"downloader"_s, u"recorder"_s};
 const QString installedVersionKey = u"InstalledVersion"_s;
 
 foundation::Size sizeOf(const QWidget *view)
@@ -52,7 +53,8 @@ foundation::Rect mainWindowFrame(const foundation::Rect &homeFrame, const founda
 
 AppController::AppController(Surroundings surroundings, QObject *parent)
     : QObject(parent),
-      m_surroundings(std::move(surroundings))
+      m_surroundings(std::move(surroundings)),
+      m_modules(moduleRows().size())
 {
 }
 
@@ -80,6 +82,8 @@ void AppController::applicationWillFinishLaunching()
 void AppController::applicationDidFinishLaunching()
 {
     m_menuController->setMenuDelegate(this);
+    // Closing it ends the application.
+    m_menuController->window()->setShouldClose(m_surroundings.stopJobs);
     m_menuController->window()->center();
     m_menuController->showWindow();
     m_surroundings.mainWindow.setCloseAction([this] { closeSubWindowAction(); });
@@ -105,21 +109,19 @@ void AppController::recordInstalledVersion()
 
 void AppController::applicationWillTerminate()
 {
-    for (const ModuleIndex index : {Converter, Ripper})
-        sendIfImplemented(m_modules[index].controller.get(), &ModuleSettingSync::syncSetting);
+    if (m_surroundings.windows.storeEdits)
+        m_surroundings.windows.storeEdits();
+    for (const ModuleSettingKind kind : {ModuleSettingVideo, ModuleSettingDVD})
+        sendIfImplemented(m_modules[kind].controller.get(), &ModuleSettingSync::syncSetting);
     m_surroundings.setting.sync();
 }
 
 void AppController::loadEachSubController()
 {
-    const ModuleFactories &factories = m_surroundings.modules;
-    const ModuleFactory *inOrder[] = {&factories.converter, &factories.ripper, &factories.downloader,
-                                      &factories.recorder};
-    for (int i = Converter; i < ModuleCount; ++i) {
-        if (!*inOrder[i])
-            continue;
-        auto dispatcher = std::make_shared<JKestrelSettingDispatcher>(i, m_surroundings.setting);
-        m_modules[i].controller = (*inOrder[i])({{moduleSettingKey.toString(), std::move(dispatcher)}});
+    for (const auto &[kind, make] : m_surroundings.modules) {
+        auto dispatcher = std::make_shared<JKestrelSettingDispatcher>(kind, m_surroundings.setting);
+        m_modules[kind].controller =
+            make({{moduleSettingKey.toString(), std::move(dispatcher)}}, m_surroundings.services);
     }
     const auto completed = [this](ModuleController *controller) { completeModule(controller); };
     for (HostedModule &module : m_modules) {
@@ -164,36 +166,37 @@ void AppController::showMenuWindow()
 
 void AppController::onShowMarlin()
 {
-    openModule(Converter);
+    onShowModule(ModuleSettingVideo);
 }
 
 void AppController::onShowHeron()
 {
-    openModule(Ripper);
+    onShowModule(ModuleSettingDVD);
 }
 
 void AppController::onShowPetrel()
 {
-    openModule(Downloader);
-    sendIfImplemented(downloaderController(), &ModuleCoreUpdate::checkCoreUpdateInBackground);
+    onShowModule(ModuleSettingDownload);
 }
 
 void AppController::onShowRecorder()
 {
-    openModule(Recorder);
+    onShowModule(ModuleSettingRecord);
 }
 
-void AppController::openModule(ModuleIndex index)
+void AppController::onShowModule(ModuleSettingKind kind)
 {
-    const HostedModule &module = m_modules[index];
+    const HostedModule &module = m_modules[kind];
     if (!module.controller)
         return;
     // A way home that is still under way would set its own mode at its end.
     tarnwell::LWindowTransitionAnimator::sharedAnimator().finishRunning();
-    m_surroundings.setting.setCurrMode(moduleModes[index]);
+    m_surroundings.setting.setCurrMode(moduleKey(kind));
     if (QWidget *view = module.controller->view())
         view->resize(qRound(module.originalSize.width), qRound(module.originalSize.height));
     showSubModeHelper(module.controller.get());
+    if (kind == ModuleSettingDownload)
+        sendIfImplemented(downloaderController(), &ModuleCoreUpdate::checkCoreUpdateInBackground);
 }
 
 void AppController::showSubModeHelper(ModuleController *controller)
@@ -210,11 +213,16 @@ void AppController::showSubModeHelper(ModuleController *controller)
         view->setParent(window.contentView());
         setWindowTitle(controller->windowTitle());
     }
+    const QSize titleBar(0, int(tarnwell::TitledWindow::defaultTitleBarHeight));
+    const QScreen &screen = *m_menuController->window()->screen();
+    const QSize leastContent = view ? view->minimumSizeHint().expandedTo({0, 0}).boundedTo(view->size()) : QSize(0, 0);
+    window.setMinimumSize((leastContent + titleBar).boundedTo(screen.availableGeometry().size()));
     window.setFrame(mainWindowFrame(m_menuController->window()->frame(), sizeOf(view)));
+    window.comeIntoView(screen);
+    window.setFillingView(view);
     if (view) {
-        const foundation::Size size = sizeOf(view);
-        tarnwell::setViewFrame(view, {0, 0, size.width, size.height});
         view->show();
+        view->setFocus();  // its shortcuts work from the first moment on
     }
     tarnwell::LWindowTransitionAnimator::sharedAnimator().zoomFromWindow(
         m_menuController->window(), &window, false, [self = QPointer(this)] {
@@ -249,10 +257,21 @@ tarnwell::TitledWindow *AppController::visibleWindow() const
 
 void AppController::openFiles(const QStringList &paths)
 {
-    if (m_surroundings.setting.currMode() != moduleModes[Converter])
-        onShowMarlin();
+    openUnlessOnScreen(ModuleSettingVideo);
     if (auto *receiver = dynamic_cast<ModuleFileOpening *>(converterController()))
         receiver->openFiles(paths);
+}
+
+void AppController::openUnlessOnScreen(ModuleSettingKind kind)
+{
+    if (m_surroundings.setting.currMode() != moduleKey(kind))
+        onShowModule(kind);
+}
+
+void AppController::bringUpModule(ModuleSettingKind kind)
+{
+    openUnlessOnScreen(kind);
+    raiseVisibleWindow();
 }
 
 void AppController::raiseVisibleWindow()
@@ -279,7 +298,7 @@ void AppController::closeSubWindowAction()
 
 bool AppController::windowShouldClose()
 {
-    return m_currentController && m_currentController->shouldTerminate();
+    return m_currentController && m_currentController->shouldTerminate() && m_surroundings.stopJobs();
 }
 
 void AppController::subModeWindowWillCloseNotification(const tarnwell::TitledWindow *window)

@@ -6,9 +6,9 @@
 
 #include <QObject>
 
-#include <array>
 #include <functional>
 #include <memory>
+#include <vector>
 
 namespace kestrel::foundation {
 class UserDefaults;
@@ -27,6 +27,8 @@ struct PresentedWindows {
     using Presenter = std::function<void(QWidget *overWindow)>;
     Presenter setting = {};
     Presenter about = {};
+    /// Stores what is typed into a window that is open, and would be stored when it closes.
+    std::function<void()> storeEdits = {};
 };
 
 /// Where the main window stands for a module view of `viewSize`, given the home window's frame: centred by the view,
@@ -43,8 +45,11 @@ public:
         JKestrelSetting &setting;
         foundation::UserDefaults &defaults;
         ModuleFactories modules;
+        ModuleServices &services;
         PresentedWindows windows;
         std::function<void()> terminate;  ///< ends the application
+        /// Whether no job runs, after the user was asked where one did.
+        std::function<bool()> stopJobs;
     };
 
     /// What is referred to in `surroundings` outlives the host.
@@ -59,6 +64,7 @@ public:
     void showMainMenuWindows() { showMenuWindow(); }
     void switchToMenuWindow() { showMenuWindow(); }
 
+    void onShowModule(ModuleSettingKind kind) override;
     void onShowMarlin() override;
     void onShowHeron() override;
     void onShowPetrel() override;
@@ -69,6 +75,8 @@ public:
     void showSetting() { onShowSetting(); }
     /// Opens the conversion module, unless it is on screen, and hands it the files.
     void openFiles(const QStringList &paths);
+    /// Opens a module, unless it is on screen, and brings it to the front.
+    void bringUpModule(ModuleSettingKind kind);
     /// Brings the window that the user works in to the front.
     void raiseVisibleWindow();
 
@@ -79,25 +87,23 @@ public:
 
     tarnwell::TitledWindow *mainWindow() const { return &m_surroundings.mainWindow; }
     KestrelController *menuController() const { return m_menuController.get(); }
-    ModuleController *converterController() const { return m_modules[Converter].controller.get(); }
-    ModuleController *ripperController() const { return m_modules[Ripper].controller.get(); }
-    ModuleController *downloaderController() const { return m_modules[Downloader].controller.get(); }
-    ModuleController *recorderController() const { return m_modules[Recorder].controller.get(); }
+    ModuleController *converterController() const { return m_modules[ModuleSettingVideo].controller.get(); }
+    ModuleController *ripperController() const { return m_modules[ModuleSettingDVD].controller.get(); }
+    ModuleController *downloaderController() const { return m_modules[ModuleSettingDownload].controller.get(); }
+    ModuleController *recorderController() const { return m_modules[ModuleSettingRecord].controller.get(); }
     ModuleController *currentController() const { return m_currentController; }
 
     /// The view's size at launch, at which it is shown every time.
-    foundation::Size convertControllerOriginalSize() const { return m_modules[Converter].originalSize; }
-    foundation::Size ripperControllerOriginalSize() const { return m_modules[Ripper].originalSize; }
-    foundation::Size downloaderControllerOriginalSize() const { return m_modules[Downloader].originalSize; }
-    foundation::Size recorderControllerOriginalSize() const { return m_modules[Recorder].originalSize; }
+    foundation::Size convertControllerOriginalSize() const { return m_modules[ModuleSettingVideo].originalSize; }
+    foundation::Size ripperControllerOriginalSize() const { return m_modules[ModuleSettingDVD].originalSize; }
+    foundation::Size downloaderControllerOriginalSize() const { return m_modules[ModuleSettingDownload].originalSize; }
+    foundation::Size recorderControllerOriginalSize() const { return m_modules[ModuleSettingRecord].originalSize; }
     foundation::Size airPlayControllerOriginalSize() const
     {
         return {};
     }  ///< of a module that this build does not have
 
 private:
-    /// The index is the dispatcher's kind.
-    enum ModuleIndex { Converter, Ripper, Downloader, Recorder, ModuleCount };
     struct HostedModule {
         std::unique_ptr<ModuleController> controller;
         foundation::Size originalSize;
@@ -106,7 +112,7 @@ private:
     void loadEachSubController();
     foundation::Size realLoadSubController(ModuleController *controller);
     void completeModule(ModuleController *controller);
-    void openModule(ModuleIndex index);
+    void openUnlessOnScreen(ModuleSettingKind kind);
     void showSubModeHelper(ModuleController *controller);
     void setWindowTitle(const QString &text);
     void recordInstalledVersion();
@@ -114,7 +120,7 @@ private:
 
     Surroundings m_surroundings;
     std::unique_ptr<KestrelController> m_menuController;
-    std::array<HostedModule, ModuleCount> m_modules;
+    std::vector<HostedModule> m_modules;  ///< by kind
     ModuleController *m_currentController = nullptr;
 };
 

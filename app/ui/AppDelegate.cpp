@@ -2,11 +2,12 @@
 
 #include "_JKestrelWindow.h"
 #include "app/InterfaceLanguage.h"
-#include "app/LoggerWatcherTask.h"
+#include "app/ProgramJobs.h"
 #include "foundation/Bundle.h"
 #include "foundation/LanguageTags.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "settings/JKestrelSetting.h"
 #include "tarnwell/Alerts.h"
@@ -16,9 +17,11 @@
 #include "tarnwell/SystemInformation.h"
 #include "tarnwell/ui/JTooltipController.h"
 #include "tarnwell/ui/TitledWindow.h"
+#include "update/UPParser.h"
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -55,13 +58,14 @@ AppDelegate::AppDelegate(Surroundings surroundings)
       m_window(std::make_unique<tarnwell::TitledWindow>()),
       m_appController(std::make_unique<AppController>(AppController::Surroundings{
           *m_window, m_surroundings.setting, m_surroundings.defaults, std::move(m_surroundings.modules),
-          m_surroundings.windows, m_surroundings.terminate}))
+          m_surroundings.jobs, m_surroundings.windows, m_surroundings.terminate,
+          [this] { return stopJobs(AppLocalizedString(u"Stop and Quit"_s)); }})),
+      m_reports(m_surroundings.defaults),
+      m_launchCheck(m_surroundings.defaults, std::move(m_surroundings.updates), m_surroundings.terminate),
+      m_shutdownPanel(m_surroundings.jobs)
 {
     makeStandardMenus();
-    // Nobody tells that a session goes on, only that it ends.
-    m_sessionEnd.setSingleShot(true);
-    m_sessionEnd.setInterval(30s);
-    connect(&m_sessionEnd, &QTimer::timeout, this, [this] { setNotSafeTerminate(true); });
+    connect(&m_surroundings.jobs, &ProgramJobs::showRequested, this, &AppDelegate::showModuleOfJobs);
 }
 
 AppDelegate::~AppDelegate() = default;
@@ -92,7 +96,7 @@ void AppDelegate::applicationWillFinishLaunching()
     setupLanuageMenu();
     const QString dataFolder = tarnwell::GetApplicationSupportDir() + u'/' + tarnwell::GetApplicationName();
     if (!QFileInfo::exists(dataFolder))
-        tarnwell::CreateDirectory(dataFolder);
+        foundation::makePrivateFolder(dataFolder);
     tarnwell::JTooltipController::Instance().addWindow(m_window.get());
     m_window->makeInitWithImageName(u"window_titlebarbg"_s, u"window_title_bg"_s);
     m_appController->applicationWillFinishLaunching();
@@ -105,11 +109,11 @@ void AppDelegate::applicationDidFinishLaunching()
     tarnwell::DNFootLog(u"[DEBUG]Application did Finished launching"_s);
     m_appController->applicationDidFinishLaunching();
     m_appController->showMenuWindow();
-    foundation::queue::afterMain(250ms, [self = QPointer(this)] {
+    m_surroundings.later(250ms, [self = QPointer(this)] {
         if (self)
             self->checkBugReportFlagWhenLaunch();
     });
-    foundation::queue::afterMain(500ms, [self = QPointer(this)] {
+    m_surroundings.later(500ms, [self = QPointer(this)] {
         if (self)
             foundation::queue::asyncGlobal([self] { self->checkUpgradesAutomatically(); });
     });
@@ -118,8 +122,8 @@ void AppDelegate::applicationDidFinishLaunching()
 void AppDelegate::applicationWillTerminate()
 {
     m_hasTerminated = true;
-    if (const auto viewer = loggerWatcherTask())
-        viewer->terminate();
+    m_reports.runWillEnd();
+    m_launchCheck.runWillEnd();
     // A window that is presented over these closes with them, and stores what was typed into it.
     m_window->hide();
     if (KestrelController *home = m_appController->menuController())
@@ -129,14 +133,15 @@ void AppDelegate::applicationWillTerminate()
 
 void AppDelegate::save()
 {
+    m_surroundings.jobs.interrupt();
     m_appController->applicationWillTerminate();
-    setNotSafeTerminate(false);
-    m_surroundings.defaults.synchronize();
+    m_reports.markEnded();
+    m_reports.noteSaved(m_surroundings.defaults.synchronize());
 }
 
 void AppDelegate::sessionWillEnd()
 {
-    m_sessionEnd.start();
+    m_reports.sessionWillEnd();
     save();
 }
 
@@ -169,8 +174,8 @@ void AppDelegate::setupLanuageMenu()
     const QString stored = m_surroundings.defaults.stringForKey(customizeLanguageKey.toString());
     for (int tag = 0; tag < int(supportedLanguages.size()); ++tag) {
         const QString code = supportedLanguages[size_t(tag)].toString();
-        QAction *item =
-            languages->addAction(tag == 0 ? AppLocalizedString(u"Default"_s) : foundation::languageDisplayName(code));
+        QAction *item = languages->addAction(tag == 0 ? AppLocalizedString(u"Default"_s)
+                                                      : supportedLanguageNames[size_t(tag)].toString());
         item->setData(tag);
         item->setCheckable(true);
         item->setChecked(code == stored);
@@ -186,7 +191,7 @@ void AppDelegate::onAppLanguageChanged(int tag)
                           tarnwell::AlertAnswer::Default;
     // Stored whatever the answer: the choice holds from the next start on.
     m_surroundings.defaults.setObject(supportedLanguages.at(size_t(tag)).toString(), customizeLanguageKey.toString());
-    if (restarts)
+    if (restarts && stopJobs(AppLocalizedString(u"Stop and Restart"_s)))
         restartApplication();
 }
 
@@ -237,8 +242,32 @@ void AppDelegate::showHelp()
 
 void AppDelegate::onQuitAction()
 {
-    if (QApplication::activeModalWidget() != m_window.get())
+    if (QApplication::activeModalWidget() != m_window.get() && stopJobs(AppLocalizedString(u"Stop and Quit"_s)))
         m_surroundings.terminate();
+}
+
+/// Whether no job runs, after asking where one does: for all modules at once. Who answers nothing goes on.
+bool AppDelegate::stopJobs(const QString &stopTitle)
+{
+    if (!m_surroundings.jobs.hasWork())
+        return true;
+    const tarnwell::AlertAnswer answer = tarnwell::runAlert(
+        {.message = AppLocalizedString(u"Jobs are still running."_s),
+         .defaultButton = AppLocalizedString(u"Keep Running"_s),
+         .alternateButton = stopTitle,
+         .informativeText = AppLocalizedString(u"What you stop now is offered to you again at the next start."_s),
+         .style = tarnwell::AlertStyle::Warning,
+         .answerToEscape = tarnwell::AlertAnswer::Default});
+    if (answer != tarnwell::AlertAnswer::Alternate)
+        return false;
+    m_surroundings.jobs.interrupt();
+    return true;
+}
+
+void AppDelegate::showModuleOfJobs(const QString &jobs)
+{
+    if (const ModuleRow *module = moduleRowOfJobs(jobs))
+        m_appController->bringUpModule(module->kind);
 }
 
 QString AppDelegate::traceSuffix(const QString &tag) const
@@ -249,6 +278,35 @@ QString AppDelegate::traceSuffix(const QString &tag) const
 QString AppDelegate::phpRedirectLink(const QString &fui, const QString &jump) const
 {
     return m_surroundings.setting.makePHPParams(fui, jump);
+}
+
+QString AppDelegate::titleOfSupportField() const
+{
+    return upConfigure() ? upConfigure()->dlSupportLinkTitleReg() : QString();
+}
+
+QString AppDelegate::URLOfSupportField() const
+{
+    return upConfigure() ? upConfigure()->dlSupportLinkURLReg() : QString();
+}
+
+QString AppDelegate::titleOf300PlusSupportField() const
+{
+    return upConfigure() ? upConfigure()->dl300PlusTitleReg() : QString();
+}
+
+QString AppDelegate::URLOf300PlusSupportField() const
+{
+    return upConfigure() ? upConfigure()->dl300PlusURLReg() : QString();
+}
+
+std::optional<tarnwell::AppWndTRButtonConfig> AppDelegate::topRightWndBtnConfig() const
+{
+    if (!upConfigure() || !upConfigure()->rmtConfig())
+        return {};
+    const AppRMConfig &configuration = *upConfigure()->rmtConfig();
+    return configuration.topRightBtnConfig_full() ? configuration.topRightBtnConfig_full()
+                                                  : configuration.topRightBtnConfig();
 }
 
 }  // namespace kestrel

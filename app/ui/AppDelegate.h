@@ -1,15 +1,17 @@
 #pragma once
 
 #include "AppController.h"
+#include "LaunchCheck.h"
 #include "MainMenu.h"
-#include "foundation/Fetch.h"
+#include "ShutdownPanel.h"
+#include "app/ProblemReports.h"
+#include "foundation/Queues.h"
 #include "tarnwell/AppWndTRButtonConfig.h"
 #include "tarnwell/WebPages.h"
 
-#include <QDate>
 #include <QObject>
-#include <QTimer>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -19,31 +21,23 @@ namespace kestrel {
 /// Broadcast, without an object, when the user has confirmed to reset the conversion profiles; the modules own them.
 inline constexpr QStringView keyResetProfilesNotification = u"keyResetProfilesNotification";
 
-class LoggerWatcherTask;
-class UPParser;
-struct UpdateContext;
-
 /// The application's delegate: owns main window, menus and module host, adds the shell's own menu entries, and carries
 /// launch and termination. Main thread only.
 class AppDelegate : public QObject, public tarnwell::WebLinkDelegate {
     Q_OBJECT
 public:
-    /// What the update check gets from outside. `fetch` is called on background threads.
-    struct UpdateSources {
-        foundation::Fetch fetch;
-        std::function<QDate()> today;
-        std::function<quint32()> draw;  ///< a random number, uniform over its 32 bits
-    };
-
     struct Surroundings {
         JKestrelSetting &setting;
         foundation::UserDefaults &defaults;
+        ProgramJobs &jobs;
         ModuleFactories modules;
         PresentedWindows windows;
         std::function<void()> terminate;  ///< ends the application after the present event
         /// Starts a program that lives on by itself; false where it cannot be started.
         std::function<bool(const QString &program, const QStringList &arguments)> startProcess;
-        UpdateSources updates;
+        LaunchCheck::Sources updates;
+        /// Runs a job on the main thread, no sooner than the delay from now.
+        std::function<void(std::chrono::milliseconds, std::function<void()>)> later = foundation::queue::afterMain;
     };
 
     /// What is referred to in `surroundings` outlives the delegate. The delegate itself outlives its background jobs:
@@ -54,9 +48,13 @@ public:
     tarnwell::TitledWindow *window() const { return m_window.get(); }
     AppController *appController() const { return m_appController.get(); }
     MainMenu &mainMenu() { return m_mainMenu; }
+    const ShutdownPanel &shutdownPanel() const { return m_shutdownPanel; }
     /// The update descriptor of this run; null until it has been fetched, and where that failed.
-    const std::shared_ptr<const UPParser> &upConfigure() const { return m_upConfigure; }
-    void setUpConfigure(std::shared_ptr<const UPParser> descriptor) { m_upConfigure = std::move(descriptor); }
+    const std::shared_ptr<const UPParser> &upConfigure() const { return m_launchCheck.descriptor(); }
+    void setUpConfigure(std::shared_ptr<const UPParser> descriptor)
+    {
+        m_launchCheck.setDescriptor(std::move(descriptor));
+    }
 
     void applicationWillFinishLaunching();
     void applicationDidFinishLaunching();
@@ -77,23 +75,16 @@ public:
     void onPreferencesAction();
     void showHelp();
 
-    /// Shows this run's log in the log viewer, unless one is open already.
-    void showApplicationLog();
-    /// Null unless the log viewer runs, or is being started.
-    std::shared_ptr<LoggerWatcherTask> loggerWatcherTask() const;
-    /// Opens a message to the support with a copy of the previous run's log.
-    void sendBugTypeEmail();
-    /// Offers that after a run that did not end in order, and marks this one as under way.
-    void checkBugReportFlagWhenLaunch();
+    void showApplicationLog() { m_reports.showLog(); }
+    std::shared_ptr<LoggerWatcherTask> loggerWatcherTask() const { return m_reports.viewer(); }
+    void sendBugTypeEmail() { m_reports.sendPreviousLog(); }
+    void checkBugReportFlagWhenLaunch() { m_reports.checkAtLaunch(); }
 
     QString traceSuffix(const QString &tag) const override;
     QString phpRedirectLink(const QString &fui, const QString &jump) const override;
 
-    /// Fetches the descriptor and shows the update window, a promotion, or nothing. Called once a launch, on a
-    /// background thread.
-    void checkUpgradesAutomatically();
-    /// Opens the update window, which makes a check of its own.
-    void onCheckUpdateAction();
+    void checkUpgradesAutomatically() { m_launchCheck.run(); }  ///< on a background thread
+    void onCheckUpdateAction() { m_launchCheck.showUpdateWindow(); }
 
     // Null while there is no descriptor.
     QString titleOfSupportField() const;
@@ -107,20 +98,18 @@ private:
     void appendNewMenuItems();
     void setupLanuageMenu();
     void restartApplication();
+    bool stopJobs(const QString &stopTitle);
+    void showModuleOfJobs(const QString &jobs);
     void save();
-    void setNotSafeTerminate(bool isNotSafe);
-    UpdateContext updateContext() const;
-    void showWhatIsDue(const std::shared_ptr<const UPParser> &descriptor, const QString &url);
-    void fetchPromotion(const std::shared_ptr<const UPParser> &descriptor, const QString &today);
 
     Surroundings m_surroundings;
     std::unique_ptr<tarnwell::TitledWindow> m_window;
     MainMenu m_mainMenu;
     std::unique_ptr<AppController> m_appController;
-    std::shared_ptr<const UPParser> m_upConfigure;
-    std::shared_ptr<LoggerWatcherTask> m_loggerWatcherTask;  ///< the latest
+    ProblemReports m_reports;
+    LaunchCheck m_launchCheck;
+    ShutdownPanel m_shutdownPanel;
     bool m_hasTerminated = false;
-    QTimer m_sessionEnd;  ///< active from the announcement of the session's end until that is overdue
 };
 
 }  // namespace kestrel

@@ -16,23 +16,26 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 using kestrel::tarnwell::AppLocalizedString;
+using kestrel::tarnwell::operator""_key;
 
 namespace kestrel {
 
 namespace {
 
+constexpr auto homeRestingDescription =
+    "The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust "
+    "video files; download online media content; record screen and webcam."_key;
+
 const QString hoveredCaptionColor = u"0074CC"_s;
 const QString restingCaptionColor = u"343641"_s;
 const QString smallButtonTitleColor = u"434652"_s;
-
-constexpr foundation::Rect initialLayerFrames[] = {
-    {91, 262, 94, 94}, {260, 262, 94, 94}, {427, 262, 94, 94}, {596, 262, 94, 94}};
 
 void setTextColor(QWidget *widget, const QString &hex)
 {
@@ -82,11 +85,20 @@ void KestrelController::makeInit()
     const QSize content = m_window->contentView()->maximumSize();
     const double titleBarHeight = _JKestrelWindow::titleBarHeightFor(tarnwell::GetSystemVersion2());
     m_window->setFrame({0, 0, double(content.width()), content.height() + titleBarHeight});
-    m_modules = {{{m_ui->convertButton, m_ui->convertLabel},
-                  {m_ui->ripButton, m_ui->ripLabel},
-                  {m_ui->downloadButton, m_ui->downloadLabel},
-                  {m_ui->recordButton, m_ui->recordLabel}}};
+    findModuleButtons();
     windowDidLoad();
+}
+
+void KestrelController::findModuleButtons()
+{
+    const QWidget *content = m_window->contentView();
+    for (const ModuleRow &row : moduleRows()) {
+        auto *button = content->findChild<JFeedbackButton *>(row.homeControls.toString() + "Button"_L1);
+        m_modules.push_back({&row, button, content->findChild<QLabel *>(row.homeControls.toString() + "Label"_L1)});
+        button->setIcon(tarnwell::namedIcon(row.homeImage.toString()));
+        button->setTarget(this);
+        connect(button, &QAbstractButton::clicked, this, [this, kind = row.kind] { onModuleButtonAction(kind); });
+    }
 }
 
 void KestrelController::showWindow()
@@ -110,18 +122,16 @@ void KestrelController::windowDidLoad()
         QAbstractButton *button;
         const char16_t *image;
         Action action;
-    } buttons[] = {{m_ui->convertButton, u"kestrel_convert", &KestrelController::onConvertButtonAction},
-                   {m_ui->ripButton, u"kestrel_dvd", &KestrelController::onRipButtonAction},
-                   {m_ui->downloadButton, u"kestrel_download", &KestrelController::onDownloadButtonAction},
-                   {m_ui->recordButton, u"kestrel_record", &KestrelController::onRecordButtonAction},
-                   {m_ui->settingButton, u"kestrel_setting", &KestrelController::onSettingAction},
+    } buttons[] = {{m_ui->settingButton, u"kestrel_setting", &KestrelController::onSettingAction},
                    {m_ui->aboutButton, u"kestrel_about", &KestrelController::onAboutAction}};
     for (const auto &[button, image, action] : buttons) {
         button->setIcon(tarnwell::namedIcon(QString::fromUtf16(image)));
         connect(button, &QAbstractButton::clicked, this, action);
     }
-    for (const ModuleButton &module : m_modules)
-        module.button->setTarget(this);
+    for (QAbstractButton *button : {m_ui->settingButton, m_ui->aboutButton}) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+            new QShortcut(key, button, button, &QAbstractButton::click, Qt::WidgetShortcut);
+    }
 
     const struct {
         QWidget *view;
@@ -162,11 +172,11 @@ void KestrelController::windowDidLoad()
 
 void KestrelController::makeBackgroundLayers()
 {
-    for (size_t i = 0; i < m_modules.size(); ++i) {
+    for (ModuleButton &module : m_modules) {
         auto *layer = new tarnwell::ImageLayer(u"kestrel_button_animation"_s, m_window->contentView());
-        layer->setFrame(initialLayerFrames[i]);
-        layer->stackUnder(m_ui->convertButton);
-        m_modules[i].backgroundLayer = layer;
+        layer->setFrame(tarnwell::viewFrame(module.button).inset(1, 1));
+        layer->stackUnder(m_modules.front().button);
+        module.backgroundLayer = layer;
     }
     // Beneath the layers there is only the picture, which the platform would draw as the view's own background.
     m_ui->backgroundImage->lower();
@@ -175,16 +185,18 @@ void KestrelController::makeBackgroundLayers()
 void KestrelController::paintDiscsIntoBackground()
 {
     const qreal scale = m_window->devicePixelRatioF();
-    QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, scale);
+    const QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, scale);
     if (picture.isNull())
         return;
     const QPixmap disc = discImage(picture.devicePixelRatio());
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QList<QRect> places;
     for (const ModuleButton &module : m_modules)
-        painter.drawPixmap(module.button->geometry(), disc);
-    painter.end();
-    m_ui->backgroundImage->setPixmap(picture);
+        places.append(module.button->geometry());
+    // Scaled once; all places are of one size.
+    QPixmap fitted = disc.scaled(places.constFirst().size() * disc.devicePixelRatio(), Qt::IgnoreAspectRatio,
+                                 Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(picture.devicePixelRatio());
+    m_ui->backgroundImage->setPicture(picture, fitted, places);
 }
 
 void KestrelController::showTexts(const QString &headline, const QString &description)
@@ -210,20 +222,24 @@ void KestrelController::onButtonMouseEntered(JFeedbackButton *sender)
     const ModuleButton *module = moduleOf(sender);
     if (!module)
         return;
-    const HomeHoverText &texts = homeHoverTexts[size_t(module - m_modules.data())];
-    showTexts(AppLocalizedString(texts.headline), AppLocalizedString(texts.description));
+    showTexts(module->row->headline.localized(), module->row->description.localized());
     setCaptionColor(*module, hoveredCaptionColor);
     makeZoomInAnimation(module->backgroundLayer, module->button);
 }
 
 void KestrelController::onButtonMouseExit(JFeedbackButton *sender)
 {
-    showTexts(homeRestingHeadline.toString(), AppLocalizedString(homeRestingDescription));
+    showTexts(homeRestingHeadline.toString(), homeRestingDescription.localized());
     const ModuleButton *module = moduleOf(sender);
     if (!module)
         return;
     makeZoomOutAnimation(module->backgroundLayer, module->button);
     setCaptionColor(*module, restingCaptionColor);
+    // What the pointer has left shows again what the keyboard is at.
+    for (const ModuleButton &other : m_modules) {
+        if (other.button->hasFocus())
+            onButtonMouseEntered(other.button);
+    }
 }
 
 void KestrelController::makeZoomInAnimation(tarnwell::ImageLayer *layer, const QWidget *related)
@@ -236,6 +252,17 @@ void KestrelController::makeZoomOutAnimation(tarnwell::ImageLayer *layer, const 
     constexpr double restingSize = 96;
     const foundation::Rect frame = tarnwell::viewFrame(related);
     layer->setFrame(frame.inset((frame.size.width - restingSize) / 2, (frame.size.height - restingSize) / 2));
+}
+
+void KestrelController::onModuleButtonAction(ModuleSettingKind kind)
+{
+    using Action = void (KestrelController::*)();
+    constexpr Action actions[] = {&KestrelController::onConvertButtonAction, &KestrelController::onRipButtonAction,
+                                  &KestrelController::onDownloadButtonAction, &KestrelController::onRecordButtonAction};
+    if (size_t(kind) < std::size(actions))
+        (this->*actions[kind])();
+    else
+        m_menuDelegate->onShowModule(kind);
 }
 
 void KestrelController::onConvertButtonAction()

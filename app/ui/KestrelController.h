@@ -1,12 +1,13 @@
 #pragma once
 
 #include "JFeedbackButton.h"
+#include "modules/ModuleRow.h"
 #include "tarnwell/ui/ImageLayer.h"
 
 #include <QObject>
 
-#include <array>
 #include <memory>
+#include <vector>
 
 class QLabel;
 class QMenu;
@@ -23,6 +24,8 @@ class _JKestrelWindow;
 class AppMainMenuControllerDelegate {
 public:
     virtual ~AppMainMenuControllerDelegate() = default;
+    /// Of a module that has no message of its own.
+    virtual void onShowModule(ModuleSettingKind kind) = 0;
     virtual void onShowMarlin() = 0;
     virtual void onShowHeron() = 0;
     virtual void onShowPetrel() = 0;
@@ -31,7 +34,7 @@ public:
     virtual void onShowAbout() = 0;
 };
 
-/// The home screen: four module buttons with their hover texts and discs, settings and about buttons, footer.
+/// The home screen: a button for each module with their hover texts and discs, settings and about buttons, footer.
 class KestrelController : public QObject, public FeedbackButtonTarget {
     Q_OBJECT
 public:
@@ -62,12 +65,15 @@ public:
 
 private:
     struct ModuleButton {
+        const ModuleRow *row;
         JFeedbackButton *button = nullptr;
         QLabel *label = nullptr;
         tarnwell::ImageLayer *backgroundLayer = nullptr;
     };
 
     void windowDidLoad();
+    void findModuleButtons();
+    void onModuleButtonAction(ModuleSettingKind kind);
     void makeBackgroundLayers();
     void paintDiscsIntoBackground();
     void showTexts(const QString &headline, const QString &description);
@@ -78,7 +84,7 @@ private:
 
     std::unique_ptr<_JKestrelWindow> m_window;
     std::unique_ptr<Ui::KestrelController> m_ui;
-    std::array<ModuleButton, 4> m_modules;  ///< convert, DVD, download, record
+    std::vector<ModuleButton> m_modules;  ///< convert, DVD, download, record
     AppMainMenuControllerDelegate *m_menuDelegate = nullptr;
 };
 

@@ -1,6 +1,7 @@
 #include "OverviewView.h"
 
 #include "OverviewController.h"
+#include "modules/ModuleRow.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/TextStyles.h"
@@ -17,7 +18,7 @@ OverviewView::OverviewView(const ModuleOverview &overview, std::shared_ptr<JKest
     namespace palette = tarnwell::palette;
     m_form->setupUi(this);
     tarnwell::TranslateControls(this);
-    m_form->titleLabel->setText(tarnwell::AppLocalizedString(overview.title));
+    m_form->titleLabel->setText(moduleRows()[overview.kind].title.localized());
     m_form->headlineLabel->setText(tarnwell::AppLocalizedString(overview.headline));
     QLabel *planLabels[] = {m_form->firstPlanLabel, m_form->secondPlanLabel, m_form->thirdPlanLabel};
     for (size_t index = 0; index < std::size(planLabels); ++index) {

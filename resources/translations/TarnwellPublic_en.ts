@@ -8,12 +8,20 @@
         <translation>%1 (%2 threads)</translation>
     </message>
     <message>
-        <source>%1 converted</source>
-        <translation>%1 converted</translation>
+        <source>%1 MB are too few for a file of this length.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 of %2</source>
-        <translation>%1 of %2</translation>
+        <source>%1 of %2 s could be read, %3 faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s could be read, %2 faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to go</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -24,8 +32,32 @@
         <translation>%@ %@ is now available -- you're running %@. Would you like to update now?</translation>
     </message>
     <message>
+        <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A new version of %@ is available!</source>
         <translation>A new version of %@ is available!</translation>
+    </message>
+    <message>
+        <source>AC-3 Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AIFF Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APNG Animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AVI Video (MPEG-4, MP3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AVI Video (Motion JPEG, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About</source>
@@ -44,10 +76,6 @@
         <translation>About Our Company Tarnwell Software, Inc.</translation>
     </message>
     <message>
-        <source>Add Files</source>
-        <translation>Add Files</translation>
-    </message>
-    <message>
         <source>Add Files…</source>
         <translation>Add Files…</translation>
     </message>
@@ -56,8 +84,20 @@
         <translation>Address</translation>
     </message>
     <message>
+        <source>All Formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>All files</translation>
+    </message>
+    <message>
+        <source>All jobs are done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All jobs have ended.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -66,6 +106,10 @@
     <message>
         <source>App Log</source>
         <translation>App Log</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -92,8 +136,24 @@
         <translation>Build on: %@</translation>
     </message>
     <message>
+        <source>CAF Audio (ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>Cancel</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelled: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be used</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -104,12 +164,20 @@
         <translation>Changes to the languages take effect upon relaunch.</translation>
     </message>
     <message>
+        <source>Chapters are missing in the finished file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Check for Updates…</source>
         <translation>Check for Updates…</translation>
     </message>
     <message>
         <source>Checking for updates.. </source>
         <translation>Checking for updates.. </translation>
+    </message>
+    <message>
+        <source>Checking the finished file…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -144,10 +212,6 @@
         <translation>Continue</translation>
     </message>
     <message>
-        <source>Conversions are running.</source>
-        <translation>Conversions are running.</translation>
-    </message>
-    <message>
         <source>Convert</source>
         <translation>Convert</translation>
     </message>
@@ -158,14 +222,6 @@
     <message>
         <source>Convert &amp; Process Video</source>
         <translation>Convert &amp; Process Video</translation>
-    </message>
-    <message>
-        <source>Convert to:</source>
-        <translation>Convert to:</translation>
-    </message>
-    <message>
-        <source>Converted: %1</source>
-        <translation>Converted: %1</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -184,8 +240,20 @@
         <translation>Cores</translation>
     </message>
     <message>
+        <source>Cover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>Cut</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DV Video</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>DVD</source>
@@ -194,6 +262,10 @@
     <message>
         <source>DVD Ripper</source>
         <translation>DVD Ripper</translation>
+    </message>
+    <message>
+        <source>Data of the camera, such as time code.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Default</source>
@@ -208,8 +280,32 @@
         <translation>Details…</translation>
     </message>
     <message>
+        <source>Devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc Player (VOB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Don't Shut Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Done</source>
         <translation>Done</translation>
+    </message>
+    <message>
+        <source>Done with problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done with problems: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Download</source>
@@ -252,24 +348,48 @@
         <translation>Drop videos or folders here</translation>
     </message>
     <message>
-        <source>Duration</source>
-        <translation>Duration</translation>
+        <source>E-AC-3 Audio</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>Edit</translation>
     </message>
     <message>
+        <source>Editing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding in software</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding, because the tracks could not be copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLV Video (H.264, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Failed: %1</source>
         <translation>Failed: %1</translation>
     </message>
     <message>
-        <source>Files</source>
-        <translation>Files</translation>
+        <source>Files can be cut or joined, but not both at once.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Files that are not finished would have to be converted again.</source>
-        <translation>Files that are not finished would have to be converted again.</translation>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Find</source>
@@ -284,8 +404,24 @@
         <translation>Find Previous</translation>
     </message>
     <message>
+        <source>Finishing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Follow</source>
         <translation>Follow</translation>
+    </message>
+    <message>
+        <source>For the DVD ripper, which is still being made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the downloader, which is still being made.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Format</source>
@@ -294,6 +430,22 @@
     <message>
         <source>Found after going around the end of the log.</source>
         <translation>Found after going around the end of the log.</translation>
+    </message>
+    <message>
+        <source>Further pictures beside the first (other angles or previews).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GIF Animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Got It</source>
@@ -332,12 +484,20 @@
         <translation>Help</translation>
     </message>
     <message>
+        <source>High dynamic range becomes standard range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Highest Resolution</source>
         <translation>Highest Resolution</translation>
     </message>
     <message>
         <source>Intel</source>
         <translation>Intel</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
@@ -380,8 +540,24 @@
         <translation>It will show mouse clicks where you want them seen.</translation>
     </message>
     <message>
-        <source>Keep Converting</source>
-        <translation>Keep Converting</translation>
+        <source>Jobs are running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jobs are still running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Joining</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept until you quit</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -396,12 +572,24 @@
         <translation>Kestrel Log — %1</translation>
     </message>
     <message>
+        <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kestrel does not know the kind of file “%1” of this preset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>Language</translation>
     </message>
     <message>
         <source>Learn More</source>
         <translation>Learn More</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -420,16 +608,84 @@
         <translation>Looking at the hardware</translation>
     </message>
     <message>
+        <source>M4A Audio (AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M4A Audio, Lossless (ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKA Audio (Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKV Video (H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>MKV Video (H.265, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video (VP9, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video, High Quality (H.265, FLAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video, Lossless (FFV1, FLAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (DNxHR, PCM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (H.264, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (ProRes, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>MP3 Audio</source>
         <translation>MP3 Audio</translation>
     </message>
     <message>
+        <source>MP4 Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>MP4 Video (H.264, AAC)</source>
         <translation>MP4 Video (H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>MP4 Video (H.265, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MP4 Video for Web Pages (1080p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG Video (MPEG-2, MP2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MXF Video (DNxHR, PCM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MXF Video (MPEG-2, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Media files</source>
@@ -440,8 +696,8 @@
         <translation>Memory</translation>
     </message>
     <message>
-        <source>Messages of the converter</source>
-        <translation>Messages of the converter</translation>
+        <source>Messages of the tools</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -450,6 +706,10 @@
     <message>
         <source>Music folder</source>
         <translation>Music folder</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Name</source>
@@ -464,8 +724,32 @@
         <translation>Not chosen yet</translation>
     </message>
     <message>
+        <source>Not used yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not used yet, kept until you quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Nothing found.</source>
         <translation>Nothing found.</translation>
+    </message>
+    <message>
+        <source>Nothing of the file could be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of this file would be kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OGG Audio (Vorbis)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OGV Video (Theora, Vorbis)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>OK</source>
@@ -474,6 +758,18 @@
     <message>
         <source>Off</source>
         <translation>Off</translation>
+    </message>
+    <message>
+        <source>Old Phone (3GP)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only files that all have a picture, or all have sound, can be joined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Open</source>
@@ -492,6 +788,30 @@
         <translation>Open the output folder when done</translation>
     </message>
     <message>
+        <source>Opus Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Sound, in an MKA File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in a MOV File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in a TS File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in an MKV File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in an MP4 File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Output folder:</source>
         <translation>Output folder:</translation>
     </message>
@@ -500,8 +820,44 @@
         <translation>Output format</translation>
     </message>
     <message>
+        <source>Parts of the finished file are missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Paste</source>
         <translation>Paste</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone (H.265)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Piece %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays Everywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please check that the disk has room and that this folder can be written: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -552,12 +908,12 @@
         <translation>Quit Kestrel</translation>
     </message>
     <message>
-        <source>Reading files…</source>
-        <translation>Reading files…</translation>
-    </message>
-    <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
         <translation>Reading the file or writing to the output folder is not allowed. Check their permissions.</translation>
+    </message>
+    <message>
+        <source>Reading the file…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -604,12 +960,20 @@
         <translation>Resolution</translation>
     </message>
     <message>
+        <source>Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>Save a Copy</translation>
     </message>
     <message>
         <source>Save a Copy…</source>
         <translation>Save a Copy…</translation>
+    </message>
+    <message>
+        <source>Saving…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
@@ -636,6 +1000,10 @@
         <translation>Searching… %1 % (Esc stops)</translation>
     </message>
     <message>
+        <source>Second pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>Select All</translation>
     </message>
@@ -652,8 +1020,16 @@
         <translation>Settings</translation>
     </message>
     <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Show File</source>
         <translation>Show File</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -668,8 +1044,32 @@
         <translation>Shut down the computer when done</translation>
     </message>
     <message>
+        <source>Small Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small MP4 Video (720p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Snapshot folder</source>
         <translation>Snapshot folder</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound: %1. %2 holds only one track of sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Status</source>
@@ -680,24 +1080,76 @@
         <translation>Stay at the end while the log grows</translation>
     </message>
     <message>
-        <source>Stop and Leave</source>
-        <translation>Stop and Leave</translation>
+        <source>Stop and Quit</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Stopped</source>
-        <translation>Stopped</translation>
+        <source>Stop and Restart</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Stopped.</source>
         <translation>Stopped.</translation>
     </message>
     <message>
+        <source>Stopping…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. %2 cannot hold them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>Suggestions</translation>
     </message>
     <message>
+        <source>TS Video (H.264, AC-3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TV (1080p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TV (4K, HDR)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>That is the log itself. Choose another name.</source>
         <translation>That is the log itself. Choose another name.</translation>
+    </message>
+    <message>
+        <source>The attached file %1. %2 cannot hold it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chapters. %1 cannot hold them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The computer will shut down in %1 seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The conversion was stopped before the end.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -712,6 +1164,10 @@
         <translation>The converter could not convert this file.</translation>
     </message>
     <message>
+        <source>The converter did not answer any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>The converter is missing. Please install the application again.</translation>
     </message>
@@ -724,12 +1180,20 @@
         <translation>The copy was saved.</translation>
     </message>
     <message>
+        <source>The cover picture. %1 cannot hold it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The disk could not be read or written.</source>
         <translation>The disk could not be read or written.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>The disk of the output folder cannot hold a file of this size.</translation>
+    </message>
+    <message>
+        <source>The encoder for %1 is not installed.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -748,12 +1212,40 @@
         <translation>The file was deleted. What it held is still shown.</translation>
     </message>
     <message>
+        <source>The finished file could not be read back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file has %1 bytes instead of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is %1 s long instead of %2 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is damaged: %1 faults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is larger than wanted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
         <translation>The first %1 were copied. Save a copy to have all of it.</translation>
     </message>
     <message>
         <source>The folder could not be opened.</source>
         <translation>The folder could not be opened.</translation>
+    </message>
+    <message>
+        <source>The folder for temporary files cannot be written.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -764,6 +1256,14 @@
         <translation>The log was cut short meanwhile. Try again.</translation>
     </message>
     <message>
+        <source>The options of this job could not be read. Add the file again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output could not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The output directory does not exist. Please check the setting.</source>
         <translation>The output directory does not exist. Please check the setting.</translation>
     </message>
@@ -772,8 +1272,28 @@
         <translation>The output folder is read-only. Choose another one in the settings.</translation>
     </message>
     <message>
+        <source>The picture has to be encoded (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture of the finished file does not stand upright.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pieces to be kept lie behind the end of the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
         <translation>The screen recorder is only supported on Mac OS Lion and later.</translation>
+    </message>
+    <message>
+        <source>The sound. %1 holds only pictures.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -808,8 +1328,16 @@
         <translation>There is not enough memory to convert this file.</translation>
     </message>
     <message>
+        <source>There is nothing to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
         <translation>They become MP4, MKV, WebM or MP3, as you choose.</translation>
+    </message>
+    <message>
+        <source>This choice is kept until you quit.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -818,6 +1346,14 @@
     <message>
         <source>This file could not be read.</source>
         <translation>This file could not be read.</translation>
+    </message>
+    <message>
+        <source>This file has neither picture nor sound to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file has no picture to convert.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -832,6 +1368,10 @@
         <translation>This folder cannot be written to.</translation>
     </message>
     <message>
+        <source>This is no preset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This is no text file</source>
         <translation>This is no text file</translation>
     </message>
@@ -842,6 +1382,18 @@
     <message>
         <source>This part is still being made and comes with an update.</source>
         <translation>This part is still being made and comes with an update.</translation>
+    </message>
+    <message>
+        <source>This preset has no name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This preset keeps neither picture nor sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This preset was made by a newer version of Kestrel.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -864,12 +1416,20 @@
         <translation>Unlimited</translation>
     </message>
     <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Use a proxy</source>
         <translation>Use a proxy</translation>
     </message>
     <message>
         <source>Version: %@</source>
         <translation>Version: %@</translation>
+    </message>
+    <message>
+        <source>Very Small MP4 Video (480p)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Video</source>
@@ -896,12 +1456,52 @@
         <translation>Visit website</translation>
     </message>
     <message>
+        <source>WAV Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMA Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>Waiting</translation>
     </message>
     <message>
+        <source>Waiting for space on the disk: %1 needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM Video (VP8, Vorbis)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebM Video (VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What this preset makes cannot be fitted to a size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you stop now is offered to you again at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Window</source>
@@ -930,6 +1530,14 @@
     <message>
         <source>Your screen, as a video</source>
         <translation>Your screen, as a video</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your settings could not be saved when Kestrel was last quit.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zoom</source>

@@ -8,12 +8,20 @@
         <translation>%1（%2スレッド）</translation>
     </message>
     <message>
-        <source>%1 converted</source>
-        <translation>%1まで変換済み</translation>
+        <source>%1 MB are too few for a file of this length.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 of %2</source>
-        <translation>%2件中%1件目</translation>
+        <source>%1 of %2 s could be read, %3 faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s could be read, %2 faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to go</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -24,8 +32,32 @@
         <translation>%@ %@が利用できるようになりました。現在お使いのバージョンは%@です。今すぐアップデートしますか？</translation>
     </message>
     <message>
+        <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A new version of %@ is available!</source>
         <translation>%@の新しいバージョンがあります</translation>
+    </message>
+    <message>
+        <source>AC-3 Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AIFF Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APNG Animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AVI Video (MPEG-4, MP3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AVI Video (Motion JPEG, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About</source>
@@ -44,10 +76,6 @@
         <translation>会社について: Tarnwell Software, Inc.</translation>
     </message>
     <message>
-        <source>Add Files</source>
-        <translation>ファイルを追加</translation>
-    </message>
-    <message>
         <source>Add Files…</source>
         <translation>ファイルを追加…</translation>
     </message>
@@ -56,8 +84,20 @@
         <translation>アドレス</translation>
     </message>
     <message>
+        <source>All Formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>All jobs are done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All jobs have ended.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -66,6 +106,10 @@
     <message>
         <source>App Log</source>
         <translation>アプリのログ</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -92,8 +136,24 @@
         <translation>ビルド日: %@</translation>
     </message>
     <message>
+        <source>CAF Audio (ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelled: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be used</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -104,12 +164,20 @@
         <translation>言語の変更は再起動後に反映されます。</translation>
     </message>
     <message>
+        <source>Chapters are missing in the finished file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Check for Updates…</source>
         <translation>アップデートを確認…</translation>
     </message>
     <message>
         <source>Checking for updates.. </source>
         <translation>アップデートを確認中… </translation>
+    </message>
+    <message>
+        <source>Checking the finished file…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -144,10 +212,6 @@
         <translation>続ける</translation>
     </message>
     <message>
-        <source>Conversions are running.</source>
-        <translation>変換を実行中です。</translation>
-    </message>
-    <message>
         <source>Convert</source>
         <translation>変換</translation>
     </message>
@@ -158,14 +222,6 @@
     <message>
         <source>Convert &amp; Process Video</source>
         <translation>ビデオの変換と加工</translation>
-    </message>
-    <message>
-        <source>Convert to:</source>
-        <translation>変換形式:</translation>
-    </message>
-    <message>
-        <source>Converted: %1</source>
-        <translation>変換済み: %1</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -184,8 +240,20 @@
         <translation>コア</translation>
     </message>
     <message>
+        <source>Cover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>カット</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DV Video</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>DVD</source>
@@ -194,6 +262,10 @@
     <message>
         <source>DVD Ripper</source>
         <translation>DVDリッピング</translation>
+    </message>
+    <message>
+        <source>Data of the camera, such as time code.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Default</source>
@@ -208,8 +280,32 @@
         <translation>詳細…</translation>
     </message>
     <message>
+        <source>Devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc Player (VOB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Don't Shut Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Done</source>
         <translation>完了</translation>
+    </message>
+    <message>
+        <source>Done with problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done with problems: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Download</source>
@@ -252,24 +348,48 @@
         <translation>ここにビデオまたはフォルダをドロップ</translation>
     </message>
     <message>
-        <source>Duration</source>
-        <translation>長さ</translation>
+        <source>E-AC-3 Audio</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>編集</translation>
     </message>
     <message>
+        <source>Editing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding in software</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding, because the tracks could not be copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLV Video (H.264, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Failed: %1</source>
         <translation>失敗: %1</translation>
     </message>
     <message>
-        <source>Files</source>
-        <translation>ファイル</translation>
+        <source>Files can be cut or joined, but not both at once.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Files that are not finished would have to be converted again.</source>
-        <translation>完了していないファイルは、もう一度変換する必要があります。</translation>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Find</source>
@@ -284,8 +404,24 @@
         <translation>前を検索</translation>
     </message>
     <message>
+        <source>Finishing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Follow</source>
         <translation>自動スクロール</translation>
+    </message>
+    <message>
+        <source>For the DVD ripper, which is still being made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the downloader, which is still being made.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Format</source>
@@ -294,6 +430,22 @@
     <message>
         <source>Found after going around the end of the log.</source>
         <translation>ログの端から反対側へ折り返して見つかりました。</translation>
+    </message>
+    <message>
+        <source>Further pictures beside the first (other angles or previews).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GIF Animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Got It</source>
@@ -332,12 +484,20 @@
         <translation>ヘルプ</translation>
     </message>
     <message>
+        <source>High dynamic range becomes standard range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Highest Resolution</source>
         <translation>最高解像度</translation>
     </message>
     <message>
         <source>Intel</source>
         <translation>Intel</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
@@ -380,8 +540,24 @@
         <translation>必要な場面でマウスのクリックを表示できるようになります。</translation>
     </message>
     <message>
-        <source>Keep Converting</source>
-        <translation>変換を続ける</translation>
+        <source>Jobs are running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jobs are still running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Joining</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept until you quit</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -396,12 +572,24 @@
         <translation>Kestrelログ — %1</translation>
     </message>
     <message>
+        <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kestrel does not know the kind of file “%1” of this preset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>言語</translation>
     </message>
     <message>
         <source>Learn More</source>
         <translation>詳しい情報</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -420,16 +608,84 @@
         <translation>ハードウェアを確認しています</translation>
     </message>
     <message>
+        <source>M4A Audio (AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M4A Audio, Lossless (ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKA Audio (Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKVビデオ（H.264、AAC）</translation>
+    </message>
+    <message>
+        <source>MKV Video (H.265, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video (VP9, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video, High Quality (H.265, FLAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video, Lossless (FFV1, FLAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (DNxHR, PCM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (H.264, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (ProRes, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>MP3 Audio</source>
         <translation>MP3オーディオ</translation>
     </message>
     <message>
+        <source>MP4 Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>MP4 Video (H.264, AAC)</source>
         <translation>MP4ビデオ（H.264、AAC）</translation>
+    </message>
+    <message>
+        <source>MP4 Video (H.265, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MP4 Video for Web Pages (1080p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG Video (MPEG-2, MP2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MXF Video (DNxHR, PCM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MXF Video (MPEG-2, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Media files</source>
@@ -440,8 +696,8 @@
         <translation>メモリ</translation>
     </message>
     <message>
-        <source>Messages of the converter</source>
-        <translation>変換プログラムのメッセージ</translation>
+        <source>Messages of the tools</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -450,6 +706,10 @@
     <message>
         <source>Music folder</source>
         <translation>ミュージックフォルダー</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Name</source>
@@ -464,8 +724,32 @@
         <translation>未選択</translation>
     </message>
     <message>
+        <source>Not used yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not used yet, kept until you quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Nothing found.</source>
         <translation>見つかりませんでした。</translation>
+    </message>
+    <message>
+        <source>Nothing of the file could be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of this file would be kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OGG Audio (Vorbis)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OGV Video (Theora, Vorbis)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>OK</source>
@@ -474,6 +758,18 @@
     <message>
         <source>Off</source>
         <translation>オフ</translation>
+    </message>
+    <message>
+        <source>Old Phone (3GP)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only files that all have a picture, or all have sound, can be joined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Open</source>
@@ -492,6 +788,30 @@
         <translation>完了後に出力フォルダーを開く</translation>
     </message>
     <message>
+        <source>Opus Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Sound, in an MKA File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in a MOV File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in a TS File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in an MKV File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in an MP4 File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Output folder:</source>
         <translation>出力フォルダ:</translation>
     </message>
@@ -500,8 +820,44 @@
         <translation>出力形式</translation>
     </message>
     <message>
+        <source>Parts of the finished file are missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Paste</source>
         <translation>ペースト</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone (H.265)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Piece %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays Everywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please check that the disk has room and that this folder can be written: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -552,12 +908,12 @@
         <translation>Kestrelを終了</translation>
     </message>
     <message>
-        <source>Reading files…</source>
-        <translation>ファイルを読み込み中…</translation>
-    </message>
-    <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
         <translation>ファイルの読み込みまたは出力フォルダへの書き込みが許可されていません。アクセス権を確認してください。</translation>
+    </message>
+    <message>
+        <source>Reading the file…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -604,12 +960,20 @@
         <translation>解像度</translation>
     </message>
     <message>
+        <source>Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>コピーを保存</translation>
     </message>
     <message>
         <source>Save a Copy…</source>
         <translation>コピーを保存…</translation>
+    </message>
+    <message>
+        <source>Saving…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
@@ -636,6 +1000,10 @@
         <translation>検索中… %1%（Escで中止）</translation>
     </message>
     <message>
+        <source>Second pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>すべてを選択</translation>
     </message>
@@ -652,8 +1020,16 @@
         <translation>設定</translation>
     </message>
     <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Show File</source>
         <translation>ファイルを表示</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -668,8 +1044,32 @@
         <translation>完了後にコンピューターをシャットダウン</translation>
     </message>
     <message>
+        <source>Small Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small MP4 Video (720p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Snapshot folder</source>
         <translation>スナップショットフォルダー</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound: %1. %2 holds only one track of sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Status</source>
@@ -680,24 +1080,76 @@
         <translation>ログが増えても末尾を表示し続ける</translation>
     </message>
     <message>
-        <source>Stop and Leave</source>
-        <translation>中止して戻る</translation>
+        <source>Stop and Quit</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Stopped</source>
-        <translation>中止</translation>
+        <source>Stop and Restart</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Stopped.</source>
         <translation>中止しました。</translation>
     </message>
     <message>
+        <source>Stopping…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. %2 cannot hold them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>候補</translation>
     </message>
     <message>
+        <source>TS Video (H.264, AC-3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TV (1080p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TV (4K, HDR)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>That is the log itself. Choose another name.</source>
         <translation>これはログそのものです。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>The attached file %1. %2 cannot hold it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chapters. %1 cannot hold them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The computer will shut down in %1 seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The conversion was stopped before the end.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -712,6 +1164,10 @@
         <translation>このファイルを変換できませんでした。</translation>
     </message>
     <message>
+        <source>The converter did not answer any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>変換プログラムが見つかりません。アプリケーションをインストールし直してください。</translation>
     </message>
@@ -724,12 +1180,20 @@
         <translation>コピーを保存しました。</translation>
     </message>
     <message>
+        <source>The cover picture. %1 cannot hold it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The disk could not be read or written.</source>
         <translation>ディスクを読み書きできませんでした。</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>出力フォルダのディスクには、このサイズのファイルを保存できません。</translation>
+    </message>
+    <message>
+        <source>The encoder for %1 is not installed.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -748,12 +1212,40 @@
         <translation>ファイルは削除されましたが、内容は引き続き表示されています。</translation>
     </message>
     <message>
+        <source>The finished file could not be read back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file has %1 bytes instead of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is %1 s long instead of %2 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is damaged: %1 faults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is larger than wanted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
         <translation>先頭の%1をコピーしました。すべてが必要な場合はコピーを保存してください。</translation>
     </message>
     <message>
         <source>The folder could not be opened.</source>
         <translation>フォルダを開けませんでした。</translation>
+    </message>
+    <message>
+        <source>The folder for temporary files cannot be written.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -764,6 +1256,14 @@
         <translation>途中でログが短くなりました。もう一度お試しください。</translation>
     </message>
     <message>
+        <source>The options of this job could not be read. Add the file again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output could not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The output directory does not exist. Please check the setting.</source>
         <translation>出力フォルダがありません。設定を確認してください。</translation>
     </message>
@@ -772,8 +1272,28 @@
         <translation>出力フォルダは読み出し専用です。設定で別のフォルダを選んでください。</translation>
     </message>
     <message>
+        <source>The picture has to be encoded (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture of the finished file does not stand upright.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pieces to be kept lie behind the end of the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
         <translation>画面収録はMac OS Lion以降でのみ利用できます。</translation>
+    </message>
+    <message>
+        <source>The sound. %1 holds only pictures.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -808,8 +1328,16 @@
         <translation>メモリが不足しているため、このファイルを変換できません。</translation>
     </message>
     <message>
+        <source>There is nothing to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
         <translation>選んだ形式（MP4、MKV、WebM、MP3）に変換されます。</translation>
+    </message>
+    <message>
+        <source>This choice is kept until you quit.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -818,6 +1346,14 @@
     <message>
         <source>This file could not be read.</source>
         <translation>このファイルを読み込めませんでした。</translation>
+    </message>
+    <message>
+        <source>This file has neither picture nor sound to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file has no picture to convert.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -832,6 +1368,10 @@
         <translation>このフォルダーには書き込めません。</translation>
     </message>
     <message>
+        <source>This is no preset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This is no text file</source>
         <translation>これはテキストファイルではありません</translation>
     </message>
@@ -842,6 +1382,18 @@
     <message>
         <source>This part is still being made and comes with an update.</source>
         <translation>この機能は開発中です。アップデートで提供されます。</translation>
+    </message>
+    <message>
+        <source>This preset has no name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This preset keeps neither picture nor sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This preset was made by a newer version of Kestrel.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -864,12 +1416,20 @@
         <translation>無制限</translation>
     </message>
     <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Use a proxy</source>
         <translation>プロキシを使用</translation>
     </message>
     <message>
         <source>Version: %@</source>
         <translation>バージョン: %@</translation>
+    </message>
+    <message>
+        <source>Very Small MP4 Video (480p)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Video</source>
@@ -896,12 +1456,52 @@
         <translation>Webサイトを見る</translation>
     </message>
     <message>
+        <source>WAV Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMA Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>待機中</translation>
     </message>
     <message>
+        <source>Waiting for space on the disk: %1 needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM Video (VP8, Vorbis)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebMビデオ（VP9、Opus）</translation>
+    </message>
+    <message>
+        <source>What this preset makes cannot be fitted to a size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you stop now is offered to you again at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Window</source>
@@ -930,6 +1530,14 @@
     <message>
         <source>Your screen, as a video</source>
         <translation>画面をビデオに</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your settings could not be saved when Kestrel was last quit.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zoom</source>

@@ -8,12 +8,20 @@
         <translation>%1(스레드 %2개)</translation>
     </message>
     <message>
-        <source>%1 converted</source>
-        <translation>%1 변환됨</translation>
+        <source>%1 MB are too few for a file of this length.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>%1 of %2</source>
-        <translation>%2개 중 %1번째</translation>
+        <source>%1 of %2 s could be read, %3 faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s could be read, %2 faults</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 to go</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -24,8 +32,32 @@
         <translation>%@ %@ 버전을 사용할 수 있습니다. 현재 버전은 %@입니다. 지금 업데이트하겠습니까?</translation>
     </message>
     <message>
+        <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A new version of %@ is available!</source>
         <translation>%@의 새로운 버전이 있습니다</translation>
+    </message>
+    <message>
+        <source>AC-3 Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AIFF Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>APNG Animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AVI Video (MPEG-4, MP3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>AVI Video (Motion JPEG, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>About</source>
@@ -44,10 +76,6 @@
         <translation>회사 소개: Tarnwell Software, Inc.</translation>
     </message>
     <message>
-        <source>Add Files</source>
-        <translation>파일 추가</translation>
-    </message>
-    <message>
         <source>Add Files…</source>
         <translation>파일 추가…</translation>
     </message>
@@ -56,8 +84,20 @@
         <translation>주소</translation>
     </message>
     <message>
+        <source>All Formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>모든 파일</translation>
+    </message>
+    <message>
+        <source>All jobs are done.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All jobs have ended.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -66,6 +106,10 @@
     <message>
         <source>App Log</source>
         <translation>앱 로그</translation>
+    </message>
+    <message>
+        <source>Archive</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -92,8 +136,24 @@
         <translation>빌드 날짜: %@</translation>
     </message>
     <message>
+        <source>CAF Audio (ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cancel</source>
         <translation>취소</translation>
+    </message>
+    <message>
+        <source>Cancelled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancelled: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cannot be used</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -104,12 +164,20 @@
         <translation>변경한 언어는 다시 시작하면 적용됩니다.</translation>
     </message>
     <message>
+        <source>Chapters are missing in the finished file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Check for Updates…</source>
         <translation>업데이트 확인…</translation>
     </message>
     <message>
         <source>Checking for updates.. </source>
         <translation>업데이트 확인 중… </translation>
+    </message>
+    <message>
+        <source>Checking the finished file…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Choose a Folder</source>
@@ -144,10 +212,6 @@
         <translation>계속</translation>
     </message>
     <message>
-        <source>Conversions are running.</source>
-        <translation>변환이 진행 중입니다.</translation>
-    </message>
-    <message>
         <source>Convert</source>
         <translation>변환</translation>
     </message>
@@ -158,14 +222,6 @@
     <message>
         <source>Convert &amp; Process Video</source>
         <translation>비디오 변환 및 처리</translation>
-    </message>
-    <message>
-        <source>Convert to:</source>
-        <translation>변환 포맷:</translation>
-    </message>
-    <message>
-        <source>Converted: %1</source>
-        <translation>변환됨: %1</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -184,8 +240,20 @@
         <translation>코어</translation>
     </message>
     <message>
+        <source>Cover</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cut</source>
         <translation>오려두기</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DV Video</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>DVD</source>
@@ -194,6 +262,10 @@
     <message>
         <source>DVD Ripper</source>
         <translation>DVD 리퍼</translation>
+    </message>
+    <message>
+        <source>Data of the camera, such as time code.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Default</source>
@@ -208,8 +280,32 @@
         <translation>세부사항…</translation>
     </message>
     <message>
+        <source>Devices</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc Player (VOB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Don't Shut Down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Done</source>
         <translation>완료</translation>
+    </message>
+    <message>
+        <source>Done with problems</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done with problems: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Done: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Download</source>
@@ -252,24 +348,48 @@
         <translation>여기에 비디오나 폴더를 드래그하십시오</translation>
     </message>
     <message>
-        <source>Duration</source>
-        <translation>길이</translation>
+        <source>E-AC-3 Audio</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Edit</source>
         <translation>편집</translation>
     </message>
     <message>
+        <source>Editing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding in software</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Encoding, because the tracks could not be copied</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLAC Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>FLV Video (H.264, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Failed: %1</source>
         <translation>실패: %1</translation>
     </message>
     <message>
-        <source>Files</source>
-        <translation>파일</translation>
+        <source>Files can be cut or joined, but not both at once.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Files that are not finished would have to be converted again.</source>
-        <translation>완료되지 않은 파일은 다시 변환해야 합니다.</translation>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Find</source>
@@ -284,8 +404,24 @@
         <translation>이전 찾기</translation>
     </message>
     <message>
+        <source>Finishing…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>First pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Follow</source>
         <translation>자동 스크롤</translation>
+    </message>
+    <message>
+        <source>For the DVD ripper, which is still being made.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For the downloader, which is still being made.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Format</source>
@@ -294,6 +430,22 @@
     <message>
         <source>Found after going around the end of the log.</source>
         <translation>로그의 반대쪽 끝에서 계속하여 찾았습니다.</translation>
+    </message>
+    <message>
+        <source>Further pictures beside the first (other angles or previews).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GIF Animation</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Game Console</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Go On</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Got It</source>
@@ -332,12 +484,20 @@
         <translation>도움말</translation>
     </message>
     <message>
+        <source>High dynamic range becomes standard range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Highest Resolution</source>
         <translation>최고 해상도</translation>
     </message>
     <message>
         <source>Intel</source>
         <translation>Intel</translation>
+    </message>
+    <message>
+        <source>Interrupted</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
@@ -380,8 +540,24 @@
         <translation>원하는 곳에 마우스 클릭을 표시할 수 있게 됩니다.</translation>
     </message>
     <message>
-        <source>Keep Converting</source>
-        <translation>계속 변환</translation>
+        <source>Jobs are running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Jobs are still running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Joining</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept until you quit</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -396,12 +572,24 @@
         <translation>Kestrel 로그 — %1</translation>
     </message>
     <message>
+        <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kestrel does not know the kind of file “%1” of this preset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Language</source>
         <translation>언어</translation>
     </message>
     <message>
         <source>Learn More</source>
         <translation>더 알아보기</translation>
+    </message>
+    <message>
+        <source>Left out: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -420,16 +608,84 @@
         <translation>하드웨어 확인 중</translation>
     </message>
     <message>
+        <source>M4A Audio (AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>M4A Audio, Lossless (ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKA Audio (Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>MKV Video (H.264, AAC)</source>
         <translation>MKV 비디오(H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>MKV Video (H.265, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video (VP9, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video, High Quality (H.265, FLAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MKV Video, Lossless (FFV1, FLAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (DNxHR, PCM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (H.264, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MOV Video (ProRes, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>MP3 Audio</source>
         <translation>MP3 오디오</translation>
     </message>
     <message>
+        <source>MP4 Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>MP4 Video (H.264, AAC)</source>
         <translation>MP4 비디오(H.264, AAC)</translation>
+    </message>
+    <message>
+        <source>MP4 Video (H.265, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MP4 Video for Web Pages (1080p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MPEG Video (MPEG-2, MP2)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MXF Video (DNxHR, PCM)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>MXF Video (MPEG-2, PCM)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Media files</source>
@@ -440,8 +696,8 @@
         <translation>메모리</translation>
     </message>
     <message>
-        <source>Messages of the converter</source>
-        <translation>변환기 메시지</translation>
+        <source>Messages of the tools</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -450,6 +706,10 @@
     <message>
         <source>Music folder</source>
         <translation>음악 폴더</translation>
+    </message>
+    <message>
+        <source>My Presets</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Name</source>
@@ -464,8 +724,32 @@
         <translation>아직 선택하지 않음</translation>
     </message>
     <message>
+        <source>Not used yet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not used yet, kept until you quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Nothing found.</source>
         <translation>찾은 결과가 없습니다.</translation>
+    </message>
+    <message>
+        <source>Nothing of the file could be converted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of this file would be kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OGG Audio (Vorbis)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>OGV Video (Theora, Vorbis)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>OK</source>
@@ -474,6 +758,18 @@
     <message>
         <source>Off</source>
         <translation>끔</translation>
+    </message>
+    <message>
+        <source>Old Phone (3GP)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only files that all have a picture, or all have sound, can be joined.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Open</source>
@@ -492,6 +788,30 @@
         <translation>완료되면 출력 폴더 열기</translation>
     </message>
     <message>
+        <source>Opus Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original Sound, in an MKA File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in a MOV File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in a TS File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in an MKV File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Original, in an MP4 File</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Output folder:</source>
         <translation>출력 폴더:</translation>
     </message>
@@ -500,8 +820,44 @@
         <translation>출력 포맷</translation>
     </message>
     <message>
+        <source>Parts of the finished file are missing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Paste</source>
         <translation>붙여넣기</translation>
+    </message>
+    <message>
+        <source>Pause</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paused</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Phone (H.265)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Piece %1 of %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plays Everywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Please check that the disk has room and that this folder can be written: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -552,12 +908,12 @@
         <translation>Kestrel 종료</translation>
     </message>
     <message>
-        <source>Reading files…</source>
-        <translation>파일을 읽는 중…</translation>
-    </message>
-    <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
         <translation>파일을 읽거나 출력 폴더에 쓸 권한이 없습니다. 권한을 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>Reading the file…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -604,12 +960,20 @@
         <translation>해상도</translation>
     </message>
     <message>
+        <source>Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>사본 저장</translation>
     </message>
     <message>
         <source>Save a Copy…</source>
         <translation>사본 저장…</translation>
+    </message>
+    <message>
+        <source>Saving…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
@@ -636,6 +1000,10 @@
         <translation>찾는 중… %1%(Esc로 중단)</translation>
     </message>
     <message>
+        <source>Second pass</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Select All</source>
         <translation>모두 선택</translation>
     </message>
@@ -652,8 +1020,16 @@
         <translation>설정</translation>
     </message>
     <message>
+        <source>Show</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Show File</source>
         <translation>파일 보기</translation>
+    </message>
+    <message>
+        <source>Show in Folder</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -668,8 +1044,32 @@
         <translation>완료되면 컴퓨터 종료</translation>
     </message>
     <message>
+        <source>Small Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small MP4 Video (720p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Snapshot folder</source>
         <translation>스냅샷 폴더</translation>
+    </message>
+    <message>
+        <source>Sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound: %1. %2 holds only one track of sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Status</source>
@@ -680,24 +1080,76 @@
         <translation>로그가 늘어나는 동안 끝에 머무르기</translation>
     </message>
     <message>
-        <source>Stop and Leave</source>
-        <translation>중단하고 나가기</translation>
+        <source>Stop and Quit</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Stopped</source>
-        <translation>중단됨</translation>
+        <source>Stop and Restart</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Stopped.</source>
         <translation>중단했습니다.</translation>
     </message>
     <message>
+        <source>Stopping…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. %2 cannot hold them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Suggestions</source>
         <translation>추천</translation>
     </message>
     <message>
+        <source>TS Video (H.264, AC-3)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TV (1080p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>TV (4K, HDR)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Tablet</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>That is the log itself. Choose another name.</source>
         <translation>이 파일은 로그 자체입니다. 다른 이름을 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>The attached file %1. %2 cannot hold it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chapters. %1 cannot hold them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The computer will shut down in %1 seconds.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The conversion was stopped before the end.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -712,6 +1164,10 @@
         <translation>변환기가 이 파일을 변환할 수 없습니다.</translation>
     </message>
     <message>
+        <source>The converter did not answer any more.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The converter is missing. Please install the application again.</source>
         <translation>변환기가 없습니다. 응용 프로그램을 다시 설치하십시오.</translation>
     </message>
@@ -724,12 +1180,20 @@
         <translation>사본을 저장했습니다.</translation>
     </message>
     <message>
+        <source>The cover picture. %1 cannot hold it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The disk could not be read or written.</source>
         <translation>디스크를 읽거나 쓸 수 없습니다.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>출력 폴더의 디스크에 이 크기의 파일을 저장할 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The encoder for %1 is not installed.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -748,12 +1212,40 @@
         <translation>파일이 삭제되었습니다. 내용은 계속 표시됩니다.</translation>
     </message>
     <message>
+        <source>The finished file could not be read back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file has %1 bytes instead of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is %1 s long instead of %2 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is damaged: %1 faults.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The finished file is larger than wanted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
         <translation>처음 %1만 복사했습니다. 전체가 필요하면 사본을 저장하십시오.</translation>
     </message>
     <message>
         <source>The folder could not be opened.</source>
         <translation>폴더를 열 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The folder for temporary files cannot be written.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -764,6 +1256,14 @@
         <translation>그 사이에 로그가 짧아졌습니다. 다시 시도하십시오.</translation>
     </message>
     <message>
+        <source>The options of this job could not be read. Add the file again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The output could not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The output directory does not exist. Please check the setting.</source>
         <translation>출력 폴더가 없습니다. 설정을 확인하십시오.</translation>
     </message>
@@ -772,8 +1272,28 @@
         <translation>출력 폴더가 읽기 전용입니다. 설정에서 다른 폴더를 선택하십시오.</translation>
     </message>
     <message>
+        <source>The picture has to be encoded (%1).</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The picture of the finished file does not stand upright.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The pieces to be kept lie behind the end of the file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
         <translation>화면 기록은 Mac OS Lion 이상에서만 지원됩니다.</translation>
+    </message>
+    <message>
+        <source>The sound. %1 holds only pictures.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -808,8 +1328,16 @@
         <translation>메모리가 부족하여 이 파일을 변환할 수 없습니다.</translation>
     </message>
     <message>
+        <source>There is nothing to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
         <translation>선택에 따라 MP4, MKV, WebM 또는 MP3로 변환됩니다.</translation>
+    </message>
+    <message>
+        <source>This choice is kept until you quit.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -818,6 +1346,14 @@
     <message>
         <source>This file could not be read.</source>
         <translation>이 파일을 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This file has neither picture nor sound to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This file has no picture to convert.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -832,6 +1368,10 @@
         <translation>이 폴더에는 쓸 수 없습니다.</translation>
     </message>
     <message>
+        <source>This is no preset.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This is no text file</source>
         <translation>텍스트 파일이 아닙니다</translation>
     </message>
@@ -842,6 +1382,18 @@
     <message>
         <source>This part is still being made and comes with an update.</source>
         <translation>이 기능은 아직 제작 중이며 업데이트로 제공됩니다.</translation>
+    </message>
+    <message>
+        <source>This preset has no name.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This preset keeps neither picture nor sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This preset was made by a newer version of Kestrel.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -864,12 +1416,20 @@
         <translation>무제한</translation>
     </message>
     <message>
+        <source>Untitled</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Use a proxy</source>
         <translation>프록시 사용</translation>
     </message>
     <message>
         <source>Version: %@</source>
         <translation>버전: %@</translation>
+    </message>
+    <message>
+        <source>Very Small MP4 Video (480p)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Video</source>
@@ -896,12 +1456,52 @@
         <translation>웹사이트 방문</translation>
     </message>
     <message>
+        <source>WAV Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMA Audio</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WMV Video</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Waiting</source>
         <translation>대기 중</translation>
     </message>
     <message>
+        <source>Waiting for space on the disk: %1 needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Web</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM Video (AV1, Opus)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>WebM Video (VP8, Vorbis)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebM 비디오(VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What this preset makes cannot be fitted to a size.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What you stop now is offered to you again at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Window</source>
@@ -930,6 +1530,14 @@
     <message>
         <source>Your screen, as a video</source>
         <translation>화면을 비디오로</translation>
+    </message>
+    <message>
+        <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Your settings could not be saved when Kestrel was last quit.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Zoom</source>

@@ -10,16 +10,23 @@
 #include "tarnwell/Folders.h"
 #include "ui_JKestrelSettingController.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
 namespace {
 
-enum ModuleTag { VideoModule = 1, DVDModule, DownloadModule };
 enum FolderTag { VideoFolder = 1, MusicFolder, SnapshotFolder };
 constexpr auto tagProperty = "tag";
-const QString moduleKeys[] = {u"video"_s, u"dvd"_s, u"downloader"_s};
+constexpr ModuleSettingKind shownModules[] = {ModuleSettingVideo, ModuleSettingDVD, ModuleSettingDownload};
+
+/// Of a module's section; the first is that of the whole application.
+int idOf(ModuleSettingKind module)
+{
+    return module + 1;
+}
 
 int tagOf(const QWidget *sender)
 {
@@ -32,18 +39,18 @@ void JKestrelSettingController::setUpFolderRows()
 {
     const struct {
         FolderRow *row;
-        int module;
+        ModuleSettingKind module;
         int folder;
     } rows[] = {
-        {m_form->videoVideoFolderRow, VideoModule, VideoFolder},
-        {m_form->videoMusicFolderRow, VideoModule, MusicFolder},
-        {m_form->videoSnapshotFolderRow, VideoModule, SnapshotFolder},
-        {m_form->dvdVideoFolderRow, DVDModule, VideoFolder},
-        {m_form->dvdMusicFolderRow, DVDModule, MusicFolder},
-        {m_form->dvdSnapshotFolderRow, DVDModule, SnapshotFolder},
-        {m_form->downloaderVideoFolderRow, DownloadModule, VideoFolder},
-        {m_form->downloaderMusicFolderRow, DownloadModule, MusicFolder},
-        {m_form->downloaderSnapshotFolderRow, DownloadModule, SnapshotFolder},
+        {m_form->videoVideoFolderRow, ModuleSettingVideo, VideoFolder},
+        {m_form->videoMusicFolderRow, ModuleSettingVideo, MusicFolder},
+        {m_form->videoSnapshotFolderRow, ModuleSettingVideo, SnapshotFolder},
+        {m_form->dvdVideoFolderRow, ModuleSettingDVD, VideoFolder},
+        {m_form->dvdMusicFolderRow, ModuleSettingDVD, MusicFolder},
+        {m_form->dvdSnapshotFolderRow, ModuleSettingDVD, SnapshotFolder},
+        {m_form->downloaderVideoFolderRow, ModuleSettingDownload, VideoFolder},
+        {m_form->downloaderMusicFolderRow, ModuleSettingDownload, MusicFolder},
+        {m_form->downloaderSnapshotFolderRow, ModuleSettingDownload, SnapshotFolder},
     };
     using Action = void (JKestrelSettingController::*)(const QWidget *);
     constexpr Action selectActions[] = {&JKestrelSettingController::onVideoSelectFolderAction,
@@ -57,31 +64,31 @@ void JKestrelSettingController::setUpFolderRows()
         connect(button, &QAbstractButton::clicked, this, [this, button, action] { (this->*action)(button); });
     };
     for (const auto &[row, module, folder] : rows) {
-        row->setSectionTitle(sections()[size_t(module)].heading->text());
-        connectButton(row->chooseButton(), folder, selectActions[module - 1]);
-        connectButton(row->openButton(), module, openActions[folder - 1]);
+        row->setSectionTitle(sections()[size_t(idOf(module))].heading->text());
+        connectButton(row->chooseButton(), folder, selectActions[module]);
+        connectButton(row->openButton(), idOf(module), openActions[folder - 1]);
     }
 }
 
 void JKestrelSettingController::onVideoSelectFolderAction(const QWidget *sender)
 {
-    selectFolder(VideoModule, sender);
+    selectFolder(ModuleSettingVideo, sender);
 }
 
 void JKestrelSettingController::onDVDSelectFolderAction(const QWidget *sender)
 {
-    selectFolder(DVDModule, sender);
+    selectFolder(ModuleSettingDVD, sender);
 }
 
 void JKestrelSettingController::onDownloaderSelectFolderAction(const QWidget *sender)
 {
-    selectFolder(DownloadModule, sender);
+    selectFolder(ModuleSettingDownload, sender);
 }
 
-void JKestrelSettingController::selectFolder(int module, const QWidget *sender)
+void JKestrelSettingController::selectFolder(ModuleSettingKind module, const QWidget *sender)
 {
     const QString property = folderProperty(tagOf(sender));
-    const QString keyPath = m_binder->key() + u'.' + moduleKeys[module - 1] + u'.' + property;
+    const QString keyPath = m_binder->key() + u'.' + moduleKey(module) + u'.' + property;
     const auto store = [this, property, keyPath](const QString &path) {
         if (property.isNull())
             return;
@@ -103,15 +110,9 @@ void JKestrelSettingController::browseSelectFolderWithBlock(const std::function<
 
 JSettingBase *JKestrelSettingController::getSettingObjectWithID(int id) const
 {
-    switch (id) {
-        case VideoModule:
-            return m_setting.video();
-        case DVDModule:
-            return m_setting.dvd();
-        case DownloadModule:
-            return m_setting.downloader();
-    }
-    return nullptr;
+    const auto found = std::find_if(std::begin(shownModules), std::end(shownModules),
+                                    [id](ModuleSettingKind module) { return idOf(module) == id; });
+    return found == std::end(shownModules) ? nullptr : m_setting.ofModule(*found);
 }
 
 void JKestrelSettingController::onOpenVideoFolderAction(const QWidget *sender)
@@ -162,6 +163,7 @@ void JKestrelSettingController::onDownloadProxyEnableStateChanged()
     const bool isOn = m_form->downloaderProxyEnableButton->isChecked();
     m_form->downloaderProxyURLField->setEnabled(isOn);
     m_form->downloaderProxyPortField->setEnabled(isOn);
+    showProxyVerdict();
 }
 
 void JKestrelSettingController::showHardwareSettings()

@@ -7,6 +7,7 @@
 #include "ui_AlertPanel.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -22,6 +23,8 @@ namespace {
 
 constexpr int minimumPanelWidth = 360;
 constexpr int maximumPanelWidth = 520;
+constexpr int alternateCode = QDialog::Accepted + 1;
+constexpr int closedCode = alternateCode + 1;
 constexpr int longestRun = 40;  ///< paths and addresses have no blanks to wrap at
 
 QString alertImageName(AlertStyle style)
@@ -49,14 +52,14 @@ int naturalWidth(const QLabel *label)
 AlertPanel::AlertPanel(const Alert &alert)
     : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint),
       m_ui(std::make_unique<Ui::AlertPanel>()),
-      m_answerToEscape(alert.alternateButton.isNull() ? AlertAnswer::Default : AlertAnswer::Alternate)
+      m_answerToEscape(alert.alternateButton.isNull() ? AlertAnswer::Default : alert.answerToEscape)
 {
     m_ui->setupUi(this);
     setTexts(alert);
     const QPixmap icon = namedImage(alertImageName(alert.style), devicePixelRatioF());
     m_ui->iconLabel->setPixmap(icon);
     connect(m_ui->defaultButton, &QPushButton::clicked, this, &QDialog::accept);
-    connect(m_ui->alternateButton, &QPushButton::clicked, this, &QDialog::reject);
+    connect(m_ui->alternateButton, &QPushButton::clicked, this, [this] { done(alternateCode); });
     m_ui->defaultButton->setFocus();
     fitWidth();
 }
@@ -65,14 +68,13 @@ AlertPanel::~AlertPanel() = default;
 
 void AlertPanel::setTexts(const Alert &alert)
 {
-    m_ui->messageLabel->setText(wrappable(alert.message, longestRun));
+    setMessage(alert.message);
     m_ui->informativeLabel->setText(wrappable(alert.informativeText, longestRun));
     m_ui->informativeLabel->setVisible(!alert.informativeText.isEmpty());
     m_ui->defaultButton->setText(alert.defaultButton);
     m_ui->alternateButton->setText(alert.alternateButton);
     m_ui->alternateButton->setVisible(!alert.alternateButton.isNull());
     setWindowTitle(QApplication::applicationDisplayName());
-    setAccessibleName(alert.message);
     setAccessibleDescription(alert.informativeText);
 }
 
@@ -91,20 +93,42 @@ void AlertPanel::fitWidth()
 
 AlertAnswer AlertPanel::runModal()
 {
-    QWidget *window = QApplication::activeWindow();
-    placeOver(window);
+    placeOver(QApplication::activeWindow());
+    const int result = exec();
+    if (isVisible() || result == closedCode)  // any answer closes it
+        return AlertAnswer::None;
+    if (result == alternateCode)
+        return AlertAnswer::Alternate;
+    return result == QDialog::Accepted ? AlertAnswer::Default : m_answerToEscape;
+}
+
+void AlertPanel::showBeside()
+{
+    placeOver(QApplication::activeWindow());
+    show();
+    raise();
+    activateWindow();
+}
+
+void AlertPanel::setMessage(const QString &message)
+{
+    m_ui->messageLabel->setText(wrappable(message, longestRun));
+    setAccessibleName(message);
+}
+
+void AlertPanel::closeEvent(QCloseEvent *event)
+{
+    // By the desktop, not by a button: to a question that is no answer.
+    done(m_ui->alternateButton->isHidden() ? int(Accepted) : closedCode);
+    event->accept();
+}
+
+void AlertPanel::placeOver(QWidget *window)
+{
     if (window && window->windowHandle()) {
         winId();  // makes the native window
         windowHandle()->setTransientParent(window->windowHandle());
     }
-    const int result = exec();
-    if (isVisible())  // any answer closes it
-        return AlertAnswer::None;
-    return result == QDialog::Accepted ? AlertAnswer::Default : m_answerToEscape;
-}
-
-void AlertPanel::placeOver(const QWidget *window)
-{
     const QScreen *screen = window ? window->screen() : QGuiApplication::primaryScreen();
     if (!screen)
         return;

@@ -21,15 +21,19 @@ public:
     ~AlertPanel() override;
 
     AlertAnswer runModal();
+    /// Shows it without holding up the other windows; any answer closes it.
+    void showBeside();
+    void setMessage(const QString &message);
 
 protected:
+    void closeEvent(QCloseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
 
 private:
     void setTexts(const Alert &alert);
     void fitWidth();
-    void placeOver(const QWidget *window);
+    void placeOver(QWidget *window);
 
     std::unique_ptr<Ui::AlertPanel> m_ui;
     AlertAnswer m_answerToEscape;

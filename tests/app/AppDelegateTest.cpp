@@ -1,22 +1,28 @@
 #include "app/ui/AppDelegate.h"
 
+#include "../jobs/ScriptedJobs.h"
 #include "RecordingModule.h"
-#include "app/LoggerWatcherTask.h"
+#include "app/ProgramJobs.h"
+#include "app/ui/_JKestrelWindow.h"
 #include "foundation/NotificationCenter.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
+#include "jobs/JobStore.h"
 #include "settings/JKestrelSetting.h"
 #include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/ui/AlertPanel.h"
 #include "tarnwell/ui/TitledWindow.h"
 #include "tests/support/ProductFolder.h"
-#include "tests/support/RecordingMailProgram.h"
 #include "tests/support/TestDesktop.h"
 #include "tests/support/TestEnvironment.h"
+#include "update/UPParser.h"
 
 #include <gtest/gtest.h>
 
 #include <QCoreApplication>
 #include <QDir>
-#include <QScopeGuard>
+#include <QPushButton>
 
 using namespace Qt::StringLiterals;
 
@@ -29,7 +35,7 @@ protected:
     AppDelegateTest()
     {
         m_defaults.registerDefaults({{u"kAppCustomizeLanguage"_s, u"Default"_s}});
-        const auto converter = [this](const ModuleConfigure &) {
+        const auto converter = [this](const ModuleConfigure &, ModuleServices &) {
             return std::make_unique<test::EagerModule>(u"video"_s, QSize(300, 200), m_events);
         };
         const auto startProcess = [this](const QString &program, const QStringList &arguments) {
@@ -39,13 +45,26 @@ protected:
         m_delegate = std::make_unique<AppDelegate>(
             AppDelegate::Surroundings{.setting = m_setting,
                                       .defaults = m_defaults,
-                                      .modules = {.converter = converter},
+                                      .jobs = m_jobs,
+                                      .modules = {{ModuleSettingVideo, converter}},
                                       .windows = {},
                                       .terminate = [this] { m_events.append(u"terminate"_s); },
                                       .startProcess = startProcess,
-                                      .updates = {.fetch = [](const auto &) { return foundation::FetchResult(); },
+                                      .updates = {.fetch =
+                                                      [this](const auto &) {
+                                                          ++m_fetches;
+                                                          return foundation::FetchResult();
+                                                      },
                                                   .today = QDate::currentDate,
-                                                  .draw = [] { return 0; }}});
+                                                  .draw = [] { return 0; }},
+                                      .later = [this](auto delay, const auto &job) { m_later[delay] = job; }});
+    }
+    JobId startJob()
+    {
+        m_jobs.queue().setRecipe(u"marlin"_s, &m_recipe);
+        const JobId job = m_jobs.queue().add(test::scriptedRecord(u"film.mov"_s));
+        m_jobs.queue().start({job});
+        return job;
     }
     QMenu *help() { return m_delegate->mainMenu().helpMenu(); }
     QStringList helpTitles()
@@ -58,11 +77,16 @@ protected:
     QMenu *languageMenu() { return help()->actions().constLast()->menu(); }
 
     QTemporaryDir m_folder;
-    test::ProductFolder m_product{test::productInformation({{u"TWSupportEmail"_s, u"help@kite.example"_s}})};
+    test::ProductFolder m_product{test::productInformation(
+        {{u"TWUpdateXMLLink"_s, u"http://127.0.0.1/a"_s}, {u"TWHelpLink"_s, u"https://kite.example/?a=1"_s}})};
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults};
     QStringList m_events;
+    std::atomic<int> m_fetches = 0;
+    std::map<std::chrono::milliseconds, std::function<void()>> m_later;
     test::TestDesktop m_desktop;
+    test::ScriptedRecipe m_recipe;
+    ProgramJobs m_jobs{[] { return nullptr; }, [](const QString &) { return AfterRun::Wishes(); }};
     std::unique_ptr<AppDelegate> m_delegate;
 };
 
@@ -114,122 +138,102 @@ TEST_F(AppDelegateTest, profiles_are_reset_on_ok_only)
     EXPECT_EQ(resets, 1);
 }
 
-TEST_F(AppDelegateTest, the_unclean_exit_flag_is_armed_after_launch_and_cleared_at_the_end)
+TEST_F(AppDelegateTest, the_help_page_is_asked_for_by_its_tag)
+{
+    const tarnwell::Installed<tarnwell::WebLinkDelegate> links(*m_delegate);
+    help()->actions().constFirst()->trigger();
+    EXPECT_EQ(m_desktop.opened, QList{QUrl(u"https://kite.example/?a=1&ttsoft=kt4kmac-6.2.1-help"_s)});
+}
+
+TEST_F(AppDelegateTest, after_the_launch_the_flag_is_armed_and_the_server_asked)
 {
     const QString flag = u"KestrelNotSafeTerminate"_s;
     m_delegate->applicationWillFinishLaunching();
     m_delegate->applicationDidFinishLaunching();
+    EXPECT_EQ(m_later.size(), 2);
     EXPECT_FALSE(m_defaults.boolForKey(flag));
-    EXPECT_TRUE(test::waitUntil([&] { return m_defaults.boolForKey(flag); }));
+    m_later.at(250ms)();
+    EXPECT_TRUE(m_defaults.boolForKey(flag) && m_fetches == 0);
+    m_later.at(500ms)();
+    foundation::queue::finishGlobal();
+    EXPECT_EQ(m_fetches, 1);
     m_delegate->applicationWillTerminate();
     foundation::UserDefaults read(m_folder.filePath(u"defaults.plist"_s));
     EXPECT_EQ(read.objectForKey(flag), QVariant(false));
     EXPECT_TRUE(m_events.contains(u"video syncSetting"_s));
 }
 
-TEST_F(AppDelegateTest, a_report_is_offered_after_an_unclean_exit_only)
+TEST_F(AppDelegateTest, running_jobs_are_asked_about_once_whatever_ends_the_program)
 {
-    const QString flag = u"KestrelNotSafeTerminate"_s;
-    const QByteArray formerFolder = qgetenv("TMPDIR");
-    const auto restored =
-        qScopeGuard([&] { formerFolder.isNull() ? qunsetenv("TMPDIR") : qputenv("TMPDIR", formerFolder); });
-    qputenv("TMPDIR", m_folder.path().toUtf8());
-    QFile precious(m_folder.filePath(u"precious"_s));
-    ASSERT_TRUE(precious.open(QIODevice::WriteOnly));
-    const QString copy = m_folder.filePath(u"kestrel-previous.log"_s);
+    m_delegate->applicationWillFinishLaunching();
+    m_delegate->applicationDidFinishLaunching();
     const struct {
-        const char *name;
-        bool wasUnclean;
-        tarnwell::AlertAnswer answer;
-        qsizetype alerts;
-        bool sends, keepsLog;
-    } rows[] = {{"orderly", false, tarnwell::AlertAnswer::Default, 0, false, true},
-                {"send", true, tarnwell::AlertAnswer::Default, 1, true, true},
-                {"cancel", true, tarnwell::AlertAnswer::Alternate, 1, false, false},
-                {"end of the application", true, tarnwell::AlertAnswer::None, 1, false, true}};
-    for (const auto &[name, wasUnclean, answer, alerts, sends, keepsLog] : rows) {
+        const char *name, *stopTitle;
+        std::function<void()> end;
+    } rows[] = {
+        {"quit", "Stop and Quit", [this] { m_delegate->onQuitAction(); }},
+        {"close", "Stop and Quit", [this] { m_delegate->appController()->menuController()->window()->close(); }},
+        {"language", "Stop and Restart", [this] { m_delegate->onAppLanguageChanged(1); }}};
+    for (const auto &[name, stopTitle, end] : rows) {
         SCOPED_TRACE(name);
-        const QTemporaryDir logs;
-        tarnwell::Log(logs.path()).append(u"the run before"_s);
-        tarnwell::Log log(logs.path());
-        const tarnwell::Installed<tarnwell::Log> installed(log);
-        QFile::remove(copy);
-        QFile::link(precious.fileName(), copy);
-        test::RecordingMailProgram mail;
+        const JobId job = startJob();
         m_desktop.alerts.clear();
-        m_desktop.answer = answer;
-        m_defaults.setObject(wasUnclean, flag);
-        m_delegate->checkBugReportFlagWhenLaunch();
-        EXPECT_EQ(m_desktop.alerts.size(), alerts);
-        EXPECT_TRUE(m_defaults.boolForKey(flag));
-        EXPECT_EQ(QFile::exists(log.previousPath()), keepsLog);
-        EXPECT_EQ(QFileInfo(copy).isSymLink(), !sends);
-        if (!sends)
-            continue;
-        EXPECT_EQ(m_desktop.alerts[0],
-                  (tarnwell::Alert{u"Problem detected in last conversion."_s, u"Send Report"_s, u"Cancel"_s,
-                                   u"Would you please send us the Log File to help us fix the issue?"_s}));
-        EXPECT_EQ(mail.arguments(), (QStringList{u"--utf8"_s, u"--subject"_s, u"Kestrel Converter 4K (6.2.1)"_s,
-                                                 u"--attach"_s, copy, u"help@kite.example"_s}));
-        QFile sent(copy);
-        EXPECT_TRUE(sent.open(QIODevice::ReadOnly) && sent.readAll().endsWith("the run before\n"));
+        m_desktop.answer = tarnwell::AlertAnswer::Default;
+        end();
+        const tarnwell::Alert alert = m_desktop.alerts.constLast();
+        EXPECT_EQ(alert.alternateButton, QString::fromLatin1(stopTitle));
+        EXPECT_EQ(alert.answerToEscape, tarnwell::AlertAnswer::Default);
+        EXPECT_FALSE(m_events.contains(u"terminate"_s));
+        EXPECT_TRUE(m_jobs.hasWork());
+
+        // "OK" to the language's own question, then "Stop …"
+        m_desktop.answers = {tarnwell::AlertAnswer::Alternate};
+        if (QByteArrayView(name) == "language")
+            m_desktop.answers.prepend(tarnwell::AlertAnswer::Default);
+        m_desktop.alerts.clear();
+        end();
+        EXPECT_TRUE(m_events.contains(u"terminate"_s));
+        EXPECT_TRUE(m_desktop.answers.isEmpty());
+        EXPECT_TRUE(test::waitUntil([&] { return m_jobs.queue().record(job)->state == JobState::Interrupted; }));
+        m_events.clear();
     }
-    EXPECT_EQ(precious.size(), 0) << "a link in the temporary folder was followed";
-
-    // Without a log nothing is attached, and the temporary folder stays as it is.
-    test::RecordingMailProgram mail;
-    m_delegate->sendBugTypeEmail();
-    EXPECT_FALSE(mail.arguments().contains(u"--attach"_s));
-    EXPECT_TRUE(precious.exists());
-    // A copy that cannot be replaced is somebody else's.
-    const QTemporaryDir logs;
-    tarnwell::Log(logs.path()).append(u"the run before"_s);
-    tarnwell::Log log(logs.path());
-    const tarnwell::Installed<tarnwell::Log> installed(log);
-    QFile::remove(copy);
-    ASSERT_TRUE(QDir(m_folder.path()).mkpath(copy + u"/kept"_s));
-    m_delegate->sendBugTypeEmail();
-    EXPECT_TRUE(mail.arguments().contains(log.previousPath()));
-    EXPECT_TRUE(QFile::exists(copy + u"/kept"_s));
-
-    m_delegate->sessionWillEnd();
-    m_defaults.setObject(true, flag);
-    m_desktop.answer = tarnwell::AlertAnswer::Alternate;
-    m_delegate->checkBugReportFlagWhenLaunch();
-    EXPECT_TRUE(QFile::exists(log.previousPath())) << "taken for an answer of the user";
-    EXPECT_FALSE(m_defaults.boolForKey(flag)) << "armed while the session ends";
 }
 
-TEST_F(AppDelegateTest, one_log_viewer_at_a_time_until_the_end)
+TEST_F(AppDelegateTest, ends_that_come_from_outside_stop_jobs_unasked)
 {
-    const auto isOver = [this] { return !m_delegate->loggerWatcherTask(); };
-    m_delegate->showApplicationLog();
-    EXPECT_TRUE(test::waitUntil(isOver)) << "a viewer that is not there";
+    m_delegate->applicationWillFinishLaunching();
+    for (const auto end :
+         {&AppDelegate::sessionWillEnd, &AppDelegate::displayWasLost, &AppDelegate::applicationWillTerminate}) {
+        const JobId job = startJob();
+        ((*m_delegate).*end)();
+        EXPECT_TRUE(test::waitUntil([&] { return m_jobs.queue().record(job)->state == JobState::Interrupted; }));
+    }
+    EXPECT_TRUE(m_desktop.alerts.isEmpty());
+}
 
-    QFile viewer(m_product.contentsPath(u"Resources/KestrelLogWatcher.app/Contents/MacOS/KestrelLogWatcher"_s));
-    ASSERT_TRUE(viewer.open(QIODevice::WriteOnly));
-    viewer.write("#!/bin/sh\ntrap '' TERM\necho started >>\"$0.log\"\nwhile :; do sleep 0.1; done\n");
-    viewer.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
-    viewer.close();
-    const auto starts = [&viewer] {
-        return QFileInfo(viewer.fileName() + u".log"_s).size() / qint64(sizeof "started");
-    };
-    m_delegate->showApplicationLog();
-    m_delegate->showApplicationLog();
-    ASSERT_TRUE(test::waitUntil([&] { return starts() == 1; }));
-    m_delegate->showApplicationLog();
-    EXPECT_FALSE(isOver());
-    m_delegate->applicationWillTerminate();
-    EXPECT_TRUE(test::waitUntil(isOver)) << "a viewer that does not heed SIGTERM holds the end";
-    m_delegate->showApplicationLog();
-    EXPECT_TRUE(isOver());
-    EXPECT_EQ(starts(), 1);
+TEST_F(AppDelegateTest, what_follows_the_jobs_is_read_from_the_settings)
+{
+    m_setting.setOpenFolderWhenDone(false);
+    EXPECT_FALSE(wishesOf(m_setting).openFolder || wishesOf(m_setting).shutDown);
+    EXPECT_TRUE(wishesOf(m_setting).notify);
+    m_setting.setShutdownWhenDone(true);
+    m_setting.setNotifyWhenAvailable(false);
+    EXPECT_TRUE(wishesOf(m_setting).shutDown);
+    EXPECT_FALSE(wishesOf(m_setting).openFolder || wishesOf(m_setting).notify);
+}
 
-    LoggerWatcherTask early;
-    early.terminate();
-    early.run(viewer.fileName(), {});
-    EXPECT_TRUE(early.hasEnded());
-    EXPECT_EQ(starts(), 1) << "started after the end";
+TEST_F(AppDelegateTest, the_countdown_to_the_end_of_the_machine_is_shown_and_stopped_by_its_button)
+{
+    m_jobs.queue();
+    emit m_jobs.shutdownIn(60);
+    const auto *shutdown = m_delegate->shutdownPanel().panel();
+    ASSERT_TRUE(shutdown && shutdown->isVisible() && !shutdown->isModal());
+    emit m_jobs.shutdownIn(59);
+    EXPECT_EQ(shutdown->accessibleName(), u"The computer will shut down in 59 seconds."_s);
+    auto *button = shutdown->findChild<QPushButton *>(u"defaultButton"_s);
+    EXPECT_TRUE(button->isDefault() && button->text() == u"Don't Shut Down"_s);
+    emit m_jobs.shutdownIn(-1);
+    EXPECT_EQ(m_delegate->shutdownPanel().panel(), nullptr);
 }
 
 TEST_F(AppDelegateTest, quit_waits_while_the_main_window_is_modal)
@@ -241,6 +245,30 @@ TEST_F(AppDelegateTest, quit_waits_while_the_main_window_is_modal)
     m_delegate->window()->hide();
     m_delegate->onQuitAction();
     EXPECT_EQ(m_events, QStringList(u"terminate"_s));
+}
+
+TEST_F(AppDelegateTest, the_descriptor_is_handed_on)
+{
+    EXPECT_TRUE(m_delegate->titleOfSupportField().isNull() && !m_delegate->topRightWndBtnConfig());
+    const auto link = [](const QString &title) {
+        return QVariantMap{{u"en"_s, QVariantMap{{u"Title"_s, title}, {u"URL"_s, u"http://"_s + title}}}};
+    };
+    const std::pair<QByteArray, QString> rows[] = {
+        {R"({"top-right-button": {"name": "plain"}, "top-right-button-v2": {"full": {"name": "full"}}})", u"full"_s},
+        {R"({"top-right-button": {"name": "plain"}})", u"plain"_s}};
+    for (const auto &[configuration, button] : rows) {
+        auto parser = std::make_shared<UPParser>(UpdateReading{u"en"_s, u"1.0"_s});
+        parser->parseUpgradeConfig({{u"ADConfigURL"_s, u"http://x"_s},
+                                    {u"DownloaderUISupportURLTop"_s, link(u"top"_s)},
+                                    {u"DownloaderUISupportURLBottom"_s, link(u"bottom"_s)}},
+                                   [&](const QString &) { return AppRMConfig::initWithData(configuration); });
+        m_delegate->setUpConfigure(parser);
+        EXPECT_EQ(QStringList({m_delegate->titleOfSupportField(), m_delegate->URLOfSupportField(),
+                               m_delegate->titleOf300PlusSupportField(), m_delegate->URLOf300PlusSupportField()}),
+                  QStringList({u"top"_s, u"http://top"_s, u"bottom"_s, u"http://bottom"_s}));
+        ASSERT_TRUE(m_delegate->topRightWndBtnConfig());
+        EXPECT_EQ(m_delegate->topRightWndBtnConfig()->dictionary().value(u"name"_s).toString(), button);
+    }
 }
 
 }  // namespace kestrel

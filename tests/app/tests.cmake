@@ -1,7 +1,7 @@
 kestrel_test(app
     SOURCES
-        AppControllerTest.cpp AppDelegateTest.cpp AppDelegateUpdatesTest.cpp InterfaceLanguageTest.cpp
-        KestrelControllerTest.cpp RecordingModule.h SingleInstanceTest.cpp
+        AppControllerTest.cpp AppDelegateTest.cpp InterfaceLanguageTest.cpp KestrelControllerTest.cpp
+        LaunchCheckTest.cpp ProblemReportsTest.cpp RecordingModule.h SingleInstanceTest.cpp
     LINKS kestrel_app_ui kestrel_test_product kestrel_update Qt6::Network)
 
 # Permission libraries that answer as the test says

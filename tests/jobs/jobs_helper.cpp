@@ -1,73 +1,70 @@
-// What the tests need another process for, to be killed in the midst of it. The first argument names the task.
+// What the tests of the store need another process for: to write at the same time, to be killed, to hold jobs. The
+// arguments: the task, the store's file, its library, and what the task takes.
 
-#include "jobs/OutputFile.h"
-#include "jobs/ToolGuardian.h"
-#include "jobs/ToolProcess.h"
+#include "jobs/JobStore.h"
 
 #include <QCoreApplication>
 #include <QTextStream>
-
-#include <linux/filter.h>
-#include <linux/seccomp.h>
-#include <sys/prctl.h>
-#include <sys/syscall.h>
-#include <cerrno>
-#include <cstddef>
 
 using namespace Qt::StringLiterals;
 using namespace kestrel;
 
 namespace {
 
-/// <guardian> <script>: runs it as a tool and passes its lines on.
-int runTool(const QStringList &arguments)
+JobRecord record(JobStore &store, JobState state)
 {
-    ToolGuardian::main().setProgram(arguments.at(2));
-    ToolProcess tool({.program = u"/bin/sh"_s, .arguments = {u"-c"_s, arguments.at(3)}});
-    QObject::connect(&tool, &ToolProcess::outputLine, &tool,
-                     [](const QByteArray &line) { QTextStream(stdout) << line << Qt::endl; });
-    QObject::connect(&tool, &ToolProcess::ended, qApp, &QCoreApplication::quit);
-    tool.start();
-    return QCoreApplication::exec();
+    JobRecord record;
+    record.id = store.nextId();
+    record.module = u"marlin"_s;
+    record.title = u"film %1"_s.arg(record.id);
+    record.plan = {{u"version"_s, 1}, {u"preset"_s, u"mp4"_s}};
+    record.state = state;
+    return record;
 }
 
-/// <folder>: begins a file and a folder with something in it, and waits.
-int begin(const QStringList &arguments)
+void say(const QString &text)
 {
-    const OutputFile file(arguments.at(2), u"film"_s, u"mkv"_s);
-    const OutputFile folder(arguments.at(2), u"disc"_s, {}, OutputFile::Kind::Folder);
-    QFile inside(folder.partPath() + u"/VIDEO_TS.IFO"_s);
-    if (!file.isValid() || !folder.isValid() || !inside.open(QIODevice::WriteOnly))
-        return 1;
-    QTextStream(stdout) << "begun" << Qt::endl;
-    return QCoreApplication::exec();
+    QTextStream(stdout) << text << Qt::endl;
 }
 
-/// <folder>: places a file and a folder where the system refuses to rename without writing over.
-int placeOldStyle(const QStringList &arguments)
+/// Changes jobs until it is killed, and says which of them are on the disk: "id round" for each flush.
+int change(JobStore &store)
 {
-    sock_filter rules[] = {
-        BPF_STMT(BPF_LD | BPF_W | BPF_ABS, offsetof(seccomp_data, nr)),
-        BPF_JUMP(BPF_JMP | BPF_JEQ | BPF_K, SYS_renameat2, 0, 1),
-        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ERRNO | EINVAL),
-        BPF_STMT(BPF_RET | BPF_K, SECCOMP_RET_ALLOW),
-    };
-    const sock_fprog program = {std::size(rules), rules};
-    if (prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) != 0 || prctl(PR_SET_SECCOMP, SECCOMP_MODE_FILTER, &program) != 0)
-        return 2;
-    for (const auto kind : {OutputFile::Kind::File, OutputFile::Kind::Folder}) {
-        OutputFile output(arguments.at(2), u"film"_s, u"mkv"_s, kind);
-        const auto placed = output.publish();
-        if (!placed)
-            return 1;
-        QTextStream(stdout) << *placed << Qt::endl;
+    QList<JobRecord> records;
+    for (int round = 0;; ++round) {
+        if (round % 4 == 0)
+            records.append(record(store, JobState::Running));
+        JobRecord &next = records[round % records.size()];
+        next.plan[u"round"_s] = round;
+        next.state = round % 3 == 0 ? JobState::Running : JobState::Cancelled;
+        next.outcome.state = JobState::Cancelled;
+        store.put(next, double(next.id));
+        if (store.flush())
+            say(u"%1 %2"_s.arg(next.id).arg(round));
     }
-    // A part that went away must not leave the empty name that was taken for it.
-    OutputFile lost(arguments.at(2), u"lost"_s, u"mkv"_s);
-    const QString part = lost.partPath();
-    QFile::remove(part);
-    QFile::link(u"/nowhere"_s, part);
-    return lost.publish() ? 1 : 0;
+}
+
+/// <count>: adds so many and says their ids.
+int add(JobStore &store, int count)
+{
+    for (int i = 0; i < count; ++i) {
+        const JobRecord added = record(store, JobState::Ready);
+        store.put(added, double(added.id));
+        say(QString::number(added.id));
+    }
+    return store.flush() ? 0 : 1;
+}
+
+/// Has one that runs, one that waits and one that is ready, until its input ends.
+int hold(JobStore &store)
+{
+    for (const JobState state : {JobState::Running, JobState::Waiting, JobState::Ready}) {
+        const JobRecord held = record(store, state);
+        store.put(held, double(held.id));
+    }
+    say(store.flush() ? u"held"_s : u"failed"_s);
+    QTextStream(stdin).readLine();
+    return 0;
 }
 
 }  // namespace
@@ -76,6 +73,11 @@ int main(int argc, char **argv)
 {
     const QCoreApplication application(argc, argv);
     const QStringList arguments = QCoreApplication::arguments();
-    const QString task = arguments.at(1);
-    return task == "tool"_L1 ? runTool(arguments) : task == "begin"_L1 ? begin(arguments) : placeOldStyle(arguments);
+    const std::unique_ptr<JobStore> store = openJobStore(arguments.value(2), arguments.value(3));
+    if (!store)
+        return 2;
+    const QString task = arguments.value(1);
+    if (task == "change"_L1)
+        return change(*store);
+    return task == "add"_L1 ? add(*store, arguments.value(4).toInt()) : hold(*store);
 }

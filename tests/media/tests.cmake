@@ -6,10 +6,19 @@ kestrel_test(media
         MediaReportTest.cpp
         MediaSamples.cpp MediaSamples.h
         OutputCheckTest.cpp
+        PresetTest.cpp
         PictureScanTest.cpp
         ToolMessagesTest.cpp
+        TranscodeCommandTest.cpp
         TranscodeJobTest.cpp
+        TranscodePlanTest.cpp
     LINKS kestrel_media_ui)
+
+# What the transcoder is run with, for samples of every kind and through every preset.
+add_executable(kestrel_transcode_runs media/transcodeRuns.cpp)
+target_link_libraries(kestrel_transcode_runs PRIVATE kestrel_media)
+add_test(NAME media.catalogue COMMAND "${CMAKE_CURRENT_SOURCE_DIR}/media/catalogue.py" "$<TARGET_FILE:kestrel_transcode_runs>")
+set_tests_properties(media.catalogue PROPERTIES LABELS long TIMEOUT 1800)
 
 # Damage of every kind, which takes minutes: ctest -L long
 add_executable(kestrel_media_helper media/media_helper.cpp)

@@ -1,11 +1,5 @@
 kestrel_test(modules
     SOURCES
-        ConversionQueueTest.cpp
-        MarlinControllerTest.cpp
-        MediaInformationTest.cpp
         ModuleSettings.cpp ModuleSettings.h
-        OutputFileTest.cpp
         OverviewControllerTest.cpp
-        TranscodeCommandTest.cpp
-        TranscodeReportsTest.cpp
-    LINKS kestrel_marlin_ui kestrel_heron kestrel_petrel kestrel_plover)
+    LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover_ui kestrel_test_product)

@@ -15,7 +15,7 @@ public:
     tarnwell::AlertAnswer runModal(const tarnwell::Alert &alert) override
     {
         alerts.append(alert);
-        return answer;
+        return answers.isEmpty() ? answer : answers.takeFirst();
     }
     QString chooseFolder(QWidget *, const QString &startFolder) override
     {
@@ -29,6 +29,7 @@ public:
     }
 
     tarnwell::AlertAnswer answer = tarnwell::AlertAnswer::Default;
+    QList<tarnwell::AlertAnswer> answers;  ///< of the next alerts, before `answer`
     QString folder;
     QList<tarnwell::Alert> alerts;
     QStringList startFolders;

@@ -12,11 +12,9 @@ namespace {
 
 std::unique_ptr<const UPParser> descriptor(const QString &version, const QByteArray &configuration)
 {
-    const auto fetch = [configuration](const foundation::FetchRequest &) {
-        return foundation::FetchResult{configuration, {}};
-    };
-    auto parser = std::make_unique<UPParser>(UpdateContext{u"en"_s, u"1.0"_s, fetch});
-    parser->parseUpgradeConfig({{u"LastestVersion"_s, version}, {u"ADConfigURL"_s, u"http://x"_s}});
+    auto parser = std::make_unique<UPParser>(UpdateReading{u"en"_s, u"1.0"_s});
+    parser->parseUpgradeConfig({{u"LastestVersion"_s, version}, {u"ADConfigURL"_s, u"http://x"_s}},
+                               [&](const QString &) { return AppRMConfig::initWithData(configuration); });
     return parser;
 }
 

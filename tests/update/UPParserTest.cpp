@@ -28,7 +28,7 @@ struct Server {
 
     UpdateContext context(const QString &language)
     {
-        return {language, u"3.4"_s, [this](const foundation::FetchRequest &request) {
+        return {{language, u"3.4"_s}, [this](const foundation::FetchRequest &request) {
                     addresses += request.address;
                     schemes += request.schemes;
                     return foundation::FetchResult{body, u"no answer"_s};
@@ -38,7 +38,7 @@ struct Server {
 
 std::unique_ptr<const UPParser> parsed(const QVariantMap &root)
 {
-    auto parser = std::make_unique<UPParser>(UpdateContext{u"en"_s, u"3.4"_s, {}});
+    auto parser = std::make_unique<UPParser>(UpdateReading{u"en"_s, u"3.4"_s});
     parser->parseUpgradeConfig(root);
     return parser;
 }
@@ -52,8 +52,9 @@ TEST(UPParser, ReadsEveryFieldInBothForms)
     ASSERT_TRUE(root);
     for (const QByteArray &body : {xml, writePropertyList(*root, foundation::PropertyListFormat::Binary)}) {
         Server server{body};
-        const auto parser = UPParser::initWithXMLURL(u"file:///descriptor"_s, server.context(u"de"_s));
-        ASSERT_TRUE(parser);
+        const auto fetched = UPParser::initWithXMLURL(u"file:///descriptor"_s, server.context(u"de"_s));
+        ASSERT_TRUE(fetched);
+        const auto &parser = *fetched;
         EXPECT_TRUE(parser->forceUpgrade() && parser->foundNewVerion() && parser->rmtConfig());
         EXPECT_EQ(
             QStringList({parser->versionFromServer(), parser->buildTimeFromServer(), parser->productDownloadURLReg(),
@@ -69,12 +70,24 @@ TEST(UPParser, ReadsEveryFieldInBothForms)
     }
 }
 
+TEST(UPParser, ForgivesADescriptorWrittenByHand)
+{
+    Server server{
+        "\n<?xml version=\"1.0\" encoding=\"windows-1252\"?><plist><dict><key>LastestVersion</key>"
+        "<string>1.0</string><key>BuildDate</key><string>M\xE4rz</string><key>LastestVersion</key>"
+        "<string>4.0</string></dict></plist>"};
+    const auto parser = UPParser::initWithXMLURL(u"x"_s, server.context(u"en"_s));
+    ASSERT_TRUE(parser);
+    EXPECT_EQ((*parser)->versionFromServer() + (*parser)->buildTimeFromServer(), u"4.0März"_s);
+}
+
 TEST(UPParser, FallsBackToTheRootAndToTheEnglishLinks)
 {
     for (const QString &language : {u"ja"_s, u"fr"_s, QString()}) {
         Server server{descriptorFile(u"descriptor.plist"_s)};
-        const auto parser = UPParser::initWithXMLURL(u"x"_s, server.context(language));
-        ASSERT_TRUE(parser);
+        const auto fetched = UPParser::initWithXMLURL(u"x"_s, server.context(language));
+        ASSERT_TRUE(fetched);
+        const auto &parser = *fetched;
         EXPECT_EQ(parser->promotionRegitsteredTitle(), u"Root title"_s) << qPrintable(language);
         EXPECT_TRUE(parser->productDownloadURLReg().isNull()) << qPrintable(language);
         EXPECT_EQ(parser->dlSupportLinkTitleReg(), u"Help"_s) << qPrintable(language);
@@ -123,15 +136,14 @@ TEST(UPParser, RefusesDamagedDescriptors)
     QStringList names = QDir(QStringLiteral(KESTREL_TEST_DATA)).entryList({u"broken_*.plist"_s});
     ASSERT_FALSE(names.isEmpty());
     for (const QString &name : names) {
-        Server server{descriptorFile(name)};
-        QString reason;
-        EXPECT_FALSE(UPParser::initWithXMLURL(u"x"_s, server.context(u"en"_s), &reason)) << qPrintable(name);
-        EXPECT_FALSE(reason.isEmpty()) << qPrintable(name);
+        const auto parsed = UPParser::initWithData(descriptorFile(name), {u"en"_s, u"3.4"_s});
+        ASSERT_FALSE(parsed) << qPrintable(name);
+        EXPECT_FALSE(parsed.reason().isEmpty()) << qPrintable(name);
     }
-    QString reason;
     Server silent;
-    EXPECT_FALSE(UPParser::initWithXMLURL(u"x"_s, silent.context(u"en"_s), &reason));
-    EXPECT_EQ(reason, u"no answer"_s);
+    const auto unfetched = UPParser::initWithXMLURL(u"x"_s, silent.context(u"en"_s));
+    ASSERT_FALSE(unfetched);
+    EXPECT_EQ(unfetched.reason(), u"no answer"_s);
 }
 
 TEST(UPParser, ReadsHostileDescriptorsQuickly)
@@ -148,13 +160,13 @@ TEST(UPParser, ReadsHostileDescriptorsQuickly)
                  {"deepest", nested(498), true},
                  {"too deep", nested(499), false}};
     for (const auto &row : table) {
-        Server server{"<plist><dict><key>UpdateLog</key><array>" +
-                      row.repeated.repeated(1'000'000 / row.repeated.size()) + "</array></dict></plist>"};
+        const QByteArray bytes = "<plist><dict><key>UpdateLog</key><array>" +
+                                 row.repeated.repeated(1'000'000 / row.repeated.size()) + "</array></dict></plist>";
         const std::clock_t start = std::clock();
-        const auto parser = UPParser::initWithXMLURL(u"x"_s, server.context(u"en"_s));
-        EXPECT_TRUE(!parser || plainText(parser->updateLog()).size() > 500) << row.name;
+        const auto parser = UPParser::initWithData(bytes, {u"en"_s, u"3.4"_s});
+        EXPECT_TRUE(!parser || plainText((*parser)->updateLog()).size() > 500) << row.name;
         EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 2) << row.name;
-        EXPECT_EQ(parser != nullptr, row.isRead) << row.name;
+        EXPECT_EQ(bool(parser), row.isRead) << row.name;
     }
 }
 

@@ -63,10 +63,9 @@ void UpgradeWindowController::Check::run() const
 {
     if (!advance(0, stepsBeforeFetch))
         return;
-    QString reason;
-    const std::shared_ptr<const UPParser> parser = UPParser::initWithXMLURL(url, context, &reason);
+    const auto parser = UPParser::initWithXMLURL(url, context);
     if (!parser) {
-        tarnwell::DNFootLog(u"The update descriptor could not be read: %1"_s, reason);
+        tarnwell::DNFootLog(u"The update descriptor could not be read: %1"_s, parser.reason());
         onMain([](UpgradeWindowController &window) {
             QLabel *field = window.m_form->hintWaitField;
             field->setText(AppLocalizedString(u"Unable to connect to update server."_s));
@@ -74,7 +73,7 @@ void UpgradeWindowController::Check::run() const
         });
         return;
     }
-    onMain([parser](UpgradeWindowController &window) { window.m_upgradeInfo = parser; });
+    onMain([info = *parser](UpgradeWindowController &window) { window.m_upgradeInfo = info; });
     if (advance(stepsBeforeFetch, stepsOfBar))
         onMain([](UpgradeWindowController &window) { window.showResult(loweringAfterCheck); });
 }

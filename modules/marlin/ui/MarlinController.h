@@ -1,24 +1,29 @@
 #pragma once
 
+#include "media/MediaProber.h"
+#include "media/TranscodeRecipe.h"
 #include "modules/Module.h"
-#include "modules/marlin/ConversionQueue.h"
-#include "modules/marlin/MediaProber.h"
 
 #include <QObject>
+#include <QPointer>
+
+class QComboBox;
 
 namespace kestrel {
 
-class MarlinView;
+class ConversionList;
+class JobPage;
+class JobQueue;
+class LateView;
 
-/// The conversion module: reads the files that the user adds, converts them with the transcoder, one after another,
-/// into the output folder, and keeps its list as long as the application runs.
+/// The conversion module: files that are added become jobs, looked at at once and converted when the user says so.
 class MarlinController final : public QObject,
                                public ModuleController,
                                public ModuleFirstOpenTip,
                                public ModuleFileOpening {
     Q_OBJECT
 public:
-    explicit MarlinController(const ModuleConfigure &configure);
+    MarlinController(const ModuleConfigure &configure, ModuleServices &services);
     ~MarlinController() override;
 
     void setCompletedHandler(CompletedHandler handler) override;
@@ -30,21 +35,27 @@ public:
     void openFiles(const QStringList &paths) override;
 
 private:
-    void connectParts();
-    void probed(qint64 id, const std::optional<MediaInformation> &information, const QString &reason);
+    std::unique_ptr<QWidget> makeContents();
+    JobQueue &queue();
+    void add(const QString &path);
+    void lookAt(JobId id);
+    void probed(JobId id, const MediaProber::Answer &answer);
+    void chooseFiles();
+    void choosePreset();
     void convert();
     bool canStart(QString *obstacle) const;
-    bool mayLeave();
-    void targetChanged();
-    void finished(int succeeded, bool isCancelled);
     void showState();
 
+    ModuleServices &m_services;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;
     CompletedHandler m_completedHandler;
-    ConversionList m_list;
+    TranscodeRecipe m_recipe;
     MediaProber m_prober;
-    ConversionQueue m_queue;
-    std::unique_ptr<MarlinView> m_view;
+    std::unique_ptr<LateView> m_view;
+    // From the making of the view's contents on
+    std::unique_ptr<ConversionList> m_list;
+    QPointer<JobPage> m_page;
+    QPointer<QComboBox> m_presets;
 };
 
 }  // namespace kestrel

@@ -1,0 +1,283 @@
+#include "ConvertOptions.h"
+
+#include "foundation/FileNames.h"
+#include "media/Preset.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QJsonDocument>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::cli {
+
+namespace {
+
+using Request = ConvertRequest;
+
+QString absolutePath(const QString &path)
+{
+    return foundation::absoluteFileName(path);
+}
+
+bool readSize(const QString &text, int &width, int &height)
+{
+    const QStringList parts = text.split(u'x');
+    return parts.size() == 2 && readNumber(parts[0], 2, 16384, width) && readNumber(parts[1], 2, 16384, height);
+}
+
+/// "0.1,0.1,0.8,0.8": parts of the picture's width and height.
+bool readArea(const QString &text, QRectF &area)
+{
+    const QStringList parts = text.split(u',');
+    double x = 0, y = 0, width = 0, height = 0;
+    if (parts.size() != 4 || !readNumber(parts[0], 0, 1, x) || !readNumber(parts[1], 0, 1, y) ||
+        !readNumber(parts[2], 0.01, 1, width) || !readNumber(parts[3], 0.01, 1, height))
+        return false;
+    area = {x, y, width, height};
+    return x + width <= 1.0001 && y + height <= 1.0001;
+}
+
+/// "1:00-2:30".
+bool readPiece(const QString &text, TranscodePlan::Piece &piece)
+{
+    const QStringList parts = text.split(u'-');
+    return parts.size() == 2 && readTime(parts[0], piece.start) && readTime(parts[1], piece.end) &&
+           piece.end > piece.start;
+}
+
+bool readNumbers(const QString &text, std::optional<QList<int>> &numbers)
+{
+    numbers.emplace();
+    if (text == "none"_L1)
+        return true;
+    if (text == "all"_L1) {
+        numbers.reset();
+        return true;
+    }
+    for (const QString &part : text.split(u',')) {
+        int number = 0;
+        if (!readNumber(part, 1, 256, number))
+            return false;
+        numbers->append(number);
+    }
+    return true;
+}
+
+/// "film.fr.srt" or "film.srt:fr".
+bool addSubtitleFile(const QString &text, TranscodePlan::SubtitleUse use, TranscodePlan &plan)
+{
+    QString path = text, language;
+    if (!QFileInfo::exists(path) && path.contains(u':')) {
+        language = path.section(u':', -1);
+        path = path.section(u':', 0, -2);
+    }
+    if (!QFileInfo(path).isFile())
+        return false;
+    plan.externalSubtitles.append({absolutePath(path), language, use});
+    return true;
+}
+
+bool readPresetFile(const QString &path, Request &request)
+{
+    constexpr qint64 maximumBytes = 64 * 1024;
+    QFile file(path);
+    if (!file.open(QIODevice::ReadOnly))
+        return false;
+    const auto preset = Preset::fromJson(QJsonDocument::fromJson(file.read(maximumBytes)).object());
+    if (!preset)
+        return false;
+    request.plan.preset = *preset;
+    request.presetId = preset->id;
+    return true;
+}
+
+TranscodePlan::Watermark &watermark(Request &request)
+{
+    if (!request.plan.watermark)
+        request.plan.watermark.emplace();
+    return *request.plan.watermark;
+}
+
+constexpr Option<Request> options[] = {
+    {"preset", "ID", "what to make, as \"presets\" lists it (mp4-h264)",
+     [](const QString &value, Request &request) {
+         const Preset *preset = presetOfId(value);
+         if (preset)
+             request.plan.preset = *preset;
+         request.presetId = value;
+         return preset != nullptr;
+     }},
+    {"preset-file", "FILE", "a preset that was exported", &readPresetFile},
+    {"to", "FOLDER", "where the results go (the settings' folder)",
+     [](const QString &value, Request &request) {
+         request.folder = absolutePath(value);
+         return QFileInfo(request.folder).isDir();
+     }},
+    {"beside-source", nullptr, "results go beside their sources",
+     [](const QString &, Request &request) {
+         request.plan.besideSource = true;
+         return true;
+     }},
+    {"name", "PATTERN", "of the results: {name}, {preset}, {date}",
+     [](const QString &value, Request &request) {
+         request.plan.namePattern = value;
+         return !value.isEmpty() && !value.contains(u'/');
+     }},
+    {"join", nullptr, "make one file of all sources, in their order",
+     [](const QString &, Request &request) {
+         request.joins = true;
+         return true;
+     }},
+    {"chapter-per-source", nullptr, "with --join: a chapter for each",
+     [](const QString &, Request &request) {
+         request.plan.chapterPerSource = true;
+         return true;
+     }},
+
+    {"quality", "NUMBER", "constant quality of the encoder",
+     [](const QString &value, Request &request) {
+         request.plan.rateControl = TranscodePlan::RateControl::Quality;
+         return readNumber(value, 0, 63, request.plan.quality);
+     }},
+    {"video-rate", "BITS", "bits a second: 2M, 800k",
+     [](const QString &value, Request &request) {
+         request.plan.rateControl = TranscodePlan::RateControl::BitRate;
+         return readBytes(value, request.plan.videoBitRate);
+     }},
+    {"size", "BYTES", "at most so large, in two passes: 25M",
+     [](const QString &value, Request &request) {
+         request.plan.rateControl = TranscodePlan::RateControl::Size;
+         return readBytes(value, request.plan.maximumBytes);
+     }},
+    {"best", nullptr, "slower and better",
+     [](const QString &, Request &request) {
+         request.plan.best = true;
+         return true;
+     }},
+    {"speed", "STEP", "-2 (smaller, slower) to 2 (larger, faster)",
+     [](const QString &value, Request &request) { return readNumber(value, -2, 2, request.plan.speed); }},
+    {"no-hardware", nullptr, "encode in software",
+     [](const QString &, Request &request) {
+         request.plan.hardware = false;
+         return true;
+     }},
+    {"no-copy", nullptr, "encode also what would fit as it is",
+     [](const QString &, Request &request) {
+         request.plan.copies = false;
+         return true;
+     }},
+    {"threads", "NUMBER", "processors to use (all)",
+     [](const QString &value, Request &request) { return readNumber(value, 0, 256, request.plan.threads); }},
+
+    {"resolution", "WxH", "at most so large: 1280x720",
+     [](const QString &value, Request &request) {
+         return readSize(value, request.plan.maximumWidth, request.plan.maximumHeight);
+     }},
+    {"rate", "NUMBER", "pictures a second",
+     [](const QString &value, Request &request) { return readNumber(value, 1, 240, request.plan.frameRate); }},
+    {"deinterlace", "HOW", "auto, off, on or double",
+     [](const QString &value, Request &request) {
+         return readChoice(value, {"auto", "off", "on", "double"}, request.plan.deinterlace);
+     }},
+    {"hdr", "HOW", "auto, keep or sdr",
+     [](const QString &value, Request &request) {
+         return readChoice(value, {"auto", "keep", "sdr"}, request.plan.dynamicRange);
+     }},
+    {"crop", "X,Y,W,H", "in parts of the picture: 0,0.1,1,0.8",
+     [](const QString &value, Request &request) { return readArea(value, request.plan.crop); }},
+    {"turn", "HOW", "none, right, left or around",
+     [](const QString &value, Request &request) {
+         return readChoice(value, {"none", "right", "left", "around"}, request.plan.turn);
+     }},
+    {"mirror", nullptr, "left and right change places",
+     [](const QString &, Request &request) {
+         request.plan.mirrored = true;
+         return true;
+     }},
+    {"brightness", "NUMBER", "-1 to 1",
+     [](const QString &value, Request &request) { return readNumber(value, -1, 1, request.plan.brightness); }},
+    {"contrast", "NUMBER", "0 to 2",
+     [](const QString &value, Request &request) { return readNumber(value, 0, 2, request.plan.contrast); }},
+    {"saturation", "NUMBER", "0 to 3",
+     [](const QString &value, Request &request) { return readNumber(value, 0, 3, request.plan.saturation); }},
+    {"watermark", "TEXT", "a text over the picture",
+     [](const QString &value, Request &request) {
+         watermark(request).text = value;
+         return !value.isEmpty();
+     }},
+    {"watermark-picture", "FILE", "a picture over the picture",
+     [](const QString &value, Request &request) {
+         watermark(request).imagePath = absolutePath(value);
+         return QFileInfo(value).isFile();
+     }},
+    {"watermark-opacity", "NUMBER", "0 to 1",
+     [](const QString &value, Request &request) { return readNumber(value, 0, 1, watermark(request).opacity); }},
+
+    {"cut", "FROM-TO", "keep this piece; may be given again: 1:00-2:30",
+     [](const QString &value, Request &request) {
+         TranscodePlan::Piece piece;
+         const bool isPiece = readPiece(value, piece);
+         request.plan.pieces.append(piece);
+         return isPiece;
+     }},
+    {"keyframe-cuts", nullptr, "cut at keyframes, without encoding",
+     [](const QString &, Request &request) {
+         request.plan.exactCuts = false;
+         return true;
+     }},
+    {"tempo", "FACTOR", "0.25 to 4: 2 is twice as fast",
+     [](const QString &value, Request &request) { return readNumber(value, 0.25, 4, request.plan.speedFactor); }},
+    {"fade-in", "SECONDS", "of picture and sound",
+     [](const QString &value, Request &request) { return readNumber(value, 0, 60, request.plan.fadeIn); }},
+    {"fade-out", "SECONDS", "of picture and sound",
+     [](const QString &value, Request &request) { return readNumber(value, 0, 60, request.plan.fadeOut); }},
+
+    {"audio", "TRACKS", "all, none, or by number: 1,3",
+     [](const QString &value, Request &request) { return readNumbers(value, request.audioNumbers); }},
+    {"mix", "HOW", "source, mono, stereo or 5.1",
+     [](const QString &value, Request &request) {
+         return readChoice(value, {"source", "mono", "stereo", "5.1"}, request.plan.mix);
+     }},
+    {"normalize", nullptr, "even the loudness out",
+     [](const QString &, Request &request) {
+         request.plan.normalizes = true;
+         return true;
+     }},
+    {"volume", "DECIBELS", "-30 to 30",
+     [](const QString &value, Request &request) { return readNumber(value, -30, 30, request.plan.volume); }},
+    {"audio-rate", "BITS", "bits a second and track: 192k",
+     [](const QString &value, Request &request) { return readBytes(value, request.plan.audioBitRate); }},
+    {"subtitles", "TRACKS", "all, none, or by number: 1,3",
+     [](const QString &value, Request &request) { return readNumbers(value, request.subtitleNumbers); }},
+    {"burn", "TRACK", "draw this subtitle into the picture",
+     [](const QString &value, Request &request) { return readNumber(value, 1, 256, request.burnedSubtitle); }},
+    {"subtitle-file", "FILE[:LANGUAGE]", "add these subtitles",
+     [](const QString &value, Request &request) {
+         return addSubtitleFile(value, TranscodePlan::SubtitleUse::Keep, request.plan);
+     }},
+    {"burn-file", "FILE", "draw these subtitles into the picture",
+     [](const QString &value, Request &request) {
+         return addSubtitleFile(value, TranscodePlan::SubtitleUse::Burn, request.plan);
+     }},
+
+    {"safe", nullptr, "decode the whole result before it counts as done",
+     [](const QString &, Request &request) {
+         request.plan.safeMode = true;
+         return true;
+     }},
+    {"keep-date", nullptr, "give the results their sources' dates",
+     [](const QString &, Request &request) {
+         request.plan.keepsDate = true;
+         return true;
+     }},
+};
+
+}  // namespace
+
+std::span<const Option<ConvertRequest>> convertOptions()
+{
+    return options;
+}
+
+}  // namespace kestrel::cli

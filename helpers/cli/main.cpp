@@ -1,0 +1,99 @@
+#include "Command.h"
+#include "foundation/Bundle.h"
+#include "foundation/FileNames.h"
+#include "foundation/LanguageTags.h"
+#include "foundation/StandardFolders.h"
+#include "foundation/UserDefaults.h"
+#include "jobs/OutputFile.h"
+#include "tarnwell/Installed.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::cli {
+
+namespace {
+
+QByteArray overview()
+{
+    QByteArray text = "Usage: kestrel-cli [--json] COMMAND [ARGUMENT…]\n\n";
+    for (const Command &command : commands())
+        text += QByteArray("  ") + command.name + ' ' + command.synopsis + "\n      " + command.summary + '\n';
+    return text +
+           "\nkestrel-cli COMMAND --help tells its options. Exit status: 0 all done, 3 some with problems, 1 some "
+           "failed,\n"
+           "2 wrong usage, 130 interrupted.";
+}
+
+ExitStatus runCommand(QStringList arguments)
+{
+    Surroundings surroundings;
+    while (!arguments.isEmpty() && arguments.first() == "--json"_L1) {
+        surroundings.json = true;
+        arguments.removeFirst();
+    }
+    const QString name = arguments.isEmpty() ? QString() : arguments.takeFirst();
+    if (name == "--help"_L1 || name == "-h"_L1 || name == "--version"_L1) {
+        printLine(name == "--version"_L1 ? "kestrel-cli " + tarnwell::GetAppCurrentVersion().toUtf8() : overview());
+        return AllDone;
+    }
+    const auto found = std::find_if(commands().begin(), commands().end(),
+                                    [&](const Command &command) { return name == QLatin1StringView(command.name); });
+    if (found == commands().end())
+        return wrongUsage(name.isEmpty()
+                              ? u"Name a command; \"kestrel-cli --help\" lists them."_s
+                              : u"There is no command \"%1\"; \"kestrel-cli --help\" lists them."_s.arg(name));
+    return found->run(surroundings, arguments);
+}
+
+QString interfaceLanguage()
+{
+    const QStringList chosen = foundation::UserDefaults::standardUserDefaults().stringArrayForKey(u"AppleLanguages"_s);
+    return chosen.isEmpty() ? u"en"_s : chosen.first();
+}
+
+}  // namespace
+
+ExitStatus wrongUsage(const QString &sentence)
+{
+    std::fprintf(stderr, "kestrel-cli: %s\n", qUtf8Printable(sentence));
+    return WrongUsage;
+}
+
+void printLine(const QByteArray &line)
+{
+    std::fwrite(line.constData(), 1, size_t(line.size()), stdout);
+    std::fputc('\n', stdout);
+    std::fflush(stdout);
+}
+
+}  // namespace kestrel::cli
+
+int main(int argc, char **argv)
+{
+    using namespace kestrel;
+    QCoreApplication application(argc, argv);
+    QCoreApplication::setApplicationName(u"kestrel-cli"_s);
+    QCoreApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
+
+    // The window keeps the log of its own runs in its file: this one is a program of its own.
+    tarnwell::Log log(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName() + u"/command line"_s);
+    const tarnwell::Installed<tarnwell::Log> installedLog(log);
+    const tarnwell::QtMessageLog messageLog;
+    tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s),
+                                        cli::interfaceLanguage());
+    const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
+    OutputFile::sweepDeadOwners();
+
+    QStringList arguments;
+    for (int index = 1; index < argc; ++index)
+        arguments.append(foundation::decodedFileName(argv[index]));
+    return cli::runCommand(arguments);
+}

@@ -1,0 +1,76 @@
+#include "TitleReading.h"
+
+#include <algorithm>
+
+namespace kestrel::disc {
+
+namespace {
+
+constexpr int sectorsAtOnce = 256;
+constexpr int sectorsOfBlock = 16;  // a drive corrects errors in blocks of these: if one is gone, all are
+constexpr int attempts = 2;
+constexpr int hopelessBlocks = 2000;
+
+}  // namespace
+
+bool TitleReading::read(const TitleCell &cell, const Visit &visit)
+{
+    m_buffer.resize(sectorsAtOnce * sectorBytes);
+    if (cell.isInterleaved)
+        return readInterleaved(cell, visit);
+    return readRun(cell.firstSector, cell.lastSector, visit);
+}
+
+bool TitleReading::readRun(qint64 first, qint64 last, const Visit &visit)
+{
+    int lostBlocks = 0;
+    int failures = 0;
+    for (qint64 at = first; at <= last;) {
+        const int size = failures ? sectorsOfBlock : sectorsAtOnce;
+        const int wanted = static_cast<int>(std::min<qint64>(size, last - at + 1));
+        const int came = m_film.read(static_cast<quint32>(at), wanted, m_buffer.data());
+        if (came == 0 && ++failures <= attempts)
+            continue;
+        if (came == 0) {
+            const bool isHopeless = at >= m_film.sectors() || ++lostBlocks >= hopelessBlocks;
+            const qint64 lost = isHopeless ? last - at + 1 : wanted;
+            m_lost += lost;
+            m_afterLoss = true;
+            failures = 1;
+            at += lost;
+            continue;
+        }
+        for (int i = 0; i < came; ++i) {
+            if (!visit(Sector(&m_buffer[i * sectorBytes], sectorBytes), m_afterLoss))
+                return false;
+            m_afterLoss = false;
+        }
+        lostBlocks = 0;
+        failures = came == wanted && failures == 0 ? 0 : std::max(0, failures - 1);
+        at += came;
+    }
+    return true;
+}
+
+// From unit to unit of the same angle. What stands between belongs to the others.
+bool TitleReading::readInterleaved(const TitleCell &cell, const Visit &visit)
+{
+    for (qint64 at = cell.firstSector; at <= cell.lastSector;) {
+        const int came = m_film.read(static_cast<quint32>(at), 1, m_buffer.data());
+        const auto unit = came ? navigationOf(Sector(m_buffer.data(), sectorBytes)) : std::nullopt;
+        if (!unit) {
+            m_lost += 1;
+            m_afterLoss = true;
+            ++at;  // until the next unit begins
+            continue;
+        }
+        if (!readRun(at, std::min<qint64>(at + unit->lastSector, cell.lastSector), visit))
+            return false;
+        if (!unit->next || *unit->next == 0)
+            break;
+        at += *unit->next;
+    }
+    return true;
+}
+
+}  // namespace kestrel::disc

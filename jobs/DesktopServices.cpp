@@ -1,0 +1,207 @@
+#include "DesktopServices.h"
+
+#include "foundation/Queues.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/Log.h"
+
+#include <QCoreApplication>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QDBusUnixFileDescriptor>
+#include <QPointer>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+const QString notificationPath = u"/org/freedesktop/Notifications"_s;
+const QString notificationInterface = u"org.freedesktop.Notifications"_s;
+
+QDBusMessage loginCall(const QString &method, const QVariantList &arguments)
+{
+    QDBusMessage call = QDBusMessage::createMethodCall(u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s,
+                                                       u"org.freedesktop.login1.Manager"_s, method);
+    call.setArguments(arguments);
+    return call;
+}
+
+}  // namespace
+
+/// One bus, connected by its first use.
+class DesktopServices::Bus {
+public:
+    using Use = std::function<void(QDBusConnection &connection)>;
+    using Answered = std::function<void(const QDBusMessage &reply)>;
+
+    Bus(QDBusConnection::BusType type, QObject *owner) : m_type(type), m_owner(owner) {}
+    ~Bus()
+    {
+        if (m_connection)
+            QDBusConnection::disconnectFromBus(m_connection->name());
+    }
+    Bus(const Bus &) = delete;
+    Bus &operator=(const Bus &) = delete;
+
+    /// Now or when it is connected; never where that fails.
+    void use(Use use)
+    {
+        if (m_connection)
+            return use(*m_connection);
+        m_waiting.push_back(std::move(use));
+        if (!std::exchange(m_isConnecting, true))
+            connectInBackground();
+    }
+
+    /// `answered` gets the reply, or an error; it is not called once the owner has gone.
+    void call(const QDBusMessage &message, Answered answered = {})
+    {
+        use([message, answered = std::move(answered), owner = m_owner](QDBusConnection &connection) {
+            auto *watcher = new QDBusPendingCallWatcher(connection.asyncCall(message), owner);
+            QObject::connect(watcher, &QDBusPendingCallWatcher::finished, owner, [watcher, message, answered] {
+                watcher->deleteLater();
+                const QDBusMessage reply = watcher->reply();
+                if (reply.type() == QDBusMessage::ErrorMessage)
+                    tarnwell::DNFootLog(u"%1 of the desktop: %2"_s, message.member(), reply.errorMessage());
+                if (answered)
+                    answered(reply);
+            });
+        });
+    }
+
+private:
+    /// Greeting a bus waits for its answer.
+    void connectInBackground()
+    {
+        static int connections = 0;
+        const QString name = u"kestrel-jobs-%1"_s.arg(++connections);
+        foundation::queue::asyncGlobal([this, owner = QPointer(m_owner), type = m_type, name] {
+            const QDBusConnection connection = QDBusConnection::connectToBus(type, name);
+            foundation::queue::asyncMain([this, owner, connection] {
+                if (owner)
+                    connected(connection);
+                else
+                    QDBusConnection::disconnectFromBus(connection.name());
+            });
+        });
+    }
+
+    void connected(const QDBusConnection &connection)
+    {
+        if (!connection.isConnected()) {
+            m_waiting.clear();
+            return;
+        }
+        m_connection = connection;
+        for (const Use &use : std::exchange(m_waiting, {}))
+            use(*m_connection);
+    }
+
+    QDBusConnection::BusType m_type;
+    QObject *m_owner;
+    bool m_isConnecting = false;
+    std::optional<QDBusConnection> m_connection;
+    std::vector<Use> m_waiting;
+};
+
+/// Holds as long as its descriptor is open; one that is no longer wanted when the answer comes closes it at once.
+struct DesktopServices::Inhibition {
+    QDBusUnixFileDescriptor descriptor;
+};
+
+DesktopServices::DesktopServices(const QString &desktopName, QObject *parent)
+    : QObject(parent),
+      m_desktopName(desktopName),
+      m_system(std::make_unique<Bus>(QDBusConnection::SystemBus, this)),
+      m_session(std::make_unique<Bus>(QDBusConnection::SessionBus, this))
+{
+}
+
+DesktopServices::~DesktopServices() = default;
+
+void DesktopServices::setAwake(bool awake, const QString &why)
+{
+    if (awake == bool(m_inhibition))
+        return;
+    if (!awake) {
+        m_inhibition.reset();
+        return;
+    }
+    m_inhibition = std::make_shared<Inhibition>();
+    m_system->call(loginCall(u"Inhibit"_s, {u"sleep:idle"_s, QCoreApplication::applicationName(), why, u"block"_s}),
+                   [inhibition = std::weak_ptr(m_inhibition)](const QDBusMessage &message) {
+                       const QDBusPendingReply<QDBusUnixFileDescriptor> reply(message);
+                       if (const auto wanted = inhibition.lock(); wanted && reply.isValid())
+                           wanted->descriptor = reply.value();
+                   });
+}
+
+void DesktopServices::showProgress(std::optional<double> fraction)
+{
+    QDBusMessage signal =
+        QDBusMessage::createSignal(u"/com/tarnwell/kestrel"_s, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s);
+    signal.setArguments({u"application://%1.desktop"_s.arg(m_desktopName),
+                         QVariantMap{{u"progress"_s, fraction.value_or(0)}, {u"progress-visible"_s, bool(fraction)}}});
+    m_session->use([signal](QDBusConnection &connection) { connection.send(signal); });
+}
+
+void DesktopServices::notify(const QString &tag, const QString &summary, const QString &body)
+{
+    listenToNotifications();
+    const QString show = tarnwell::AppLocalizedString(u"Show"_s);
+    QDBusMessage call =
+        QDBusMessage::createMethodCall(notificationInterface, notificationPath, notificationInterface, u"Notify"_s);
+    call.setArguments({QCoreApplication::applicationName(), 0U, m_desktopName, summary, body,
+                       QStringList{u"default"_s, show, u"show"_s, show},
+                       QVariantMap{{u"desktop-entry"_s, m_desktopName}}, -1});
+    m_session->call(call, [this, tag](const QDBusMessage &message) {
+        if (const QDBusPendingReply<uint> reply(message); reply.isValid())
+            m_notifications.insert(reply.value(), tag);
+    });
+}
+
+void DesktopServices::listenToNotifications()
+{
+    if (std::exchange(m_listensToNotifications, true))
+        return;
+    // Whoever the service is: its name would have to be looked up, which waits.
+    m_session->use([this](QDBusConnection &connection) {
+        connection.connect({}, notificationPath, notificationInterface, u"ActionInvoked"_s, this,
+                           SLOT(notificationActionInvoked(uint, QString)));
+        connection.connect({}, notificationPath, notificationInterface, u"NotificationClosed"_s, this,
+                           SLOT(notificationClosed(uint)));
+    });
+}
+
+void DesktopServices::notificationActionInvoked(uint id, const QString &action)
+{
+    const auto notification = m_notifications.constFind(id);
+    if (notification != m_notifications.cend() && (action == "show"_L1 || action == "default"_L1))
+        emit notificationChosen(*notification);
+}
+
+void DesktopServices::notificationClosed(uint id)
+{
+    m_notifications.remove(id);
+}
+
+void DesktopServices::askCanPowerOff(std::function<void(bool)> answer)
+{
+    m_system->call(loginCall(u"CanPowerOff"_s, {}), [answer = std::move(answer)](const QDBusMessage &message) {
+        const QDBusPendingReply<QString> reply(message);
+        answer(reply.isValid() && reply.value() == "yes"_L1);
+    });
+}
+
+void DesktopServices::powerOff(std::function<void()> failed)
+{
+    m_system->call(loginCall(u"PowerOff"_s, {false}), [failed = std::move(failed)](const QDBusMessage &reply) {
+        if (reply.type() == QDBusMessage::ErrorMessage)
+            failed();
+    });
+}
+
+}  // namespace kestrel

@@ -1,0 +1,75 @@
+#include "StoredJob.h"
+
+#include "PartOwner.h"
+
+#include <QFileInfo>
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <cmath>
+
+namespace kestrel {
+
+namespace {
+
+bool isHeld(JobState state)
+{
+    return state == JobState::Waiting || isActive(state);
+}
+
+/// Asked again at each load: a disk may be there again.
+void lookForOutputs(JobRecord &record)
+{
+    JobOutcome &outcome = record.outcome;
+    const tarnwell::Sentence gone(outputIsGone);
+    outcome.problems.removeAll(gone);
+    record.state = outcome.state;
+    const bool isThere = std::all_of(outcome.outputs.begin(), outcome.outputs.end(),
+                                     [](const QString &path) { return QFileInfo::exists(path); });
+    if (isThere)
+        return;
+    outcome.problems.prepend(gone);
+    record.state = JobState::DoneWithProblems;
+}
+
+}  // namespace
+
+JobRow storedJob(const JobRecord &record, double position)
+{
+    return {.id = record.id,
+            .module = record.module,
+            .position = position,
+            .state = jobStateName(record.state),
+            .owner = isHeld(record.state) ? PartOwner::self().tag() : QStringLiteral(""),
+            .value = QJsonDocument(jobRecordToJson(record)).toJson(QJsonDocument::Compact)};
+}
+
+std::optional<LoadedJob> loadedJob(const JobRow &row)
+{
+    LoadedJob loaded{.row = {.record = {}, .position = row.position}};
+    JobRecord &record = loaded.row.record;
+    const std::optional<JobState> state = jobStateNamed(row.state);
+    if (!state || row.module.isEmpty() || !std::isfinite(row.position) ||
+        !readJobRecord(QJsonDocument::fromJson(row.value).object(), record))
+        return std::nullopt;
+    record.id = row.id;
+    record.module = row.module;
+    record.state = *state;
+    if (isHeld(*state)) {
+        const std::optional<PartOwner> owner = PartOwner::fromTag(row.owner);
+        if (owner && *owner != PartOwner::self() && !owner->hasEnded())
+            return std::nullopt;
+        const bool isInterrupted = isActive(*state);
+        record.state = isInterrupted ? JobState::Interrupted : JobState::Ready;
+        if (isInterrupted)
+            record.outcome = {.state = JobState::Interrupted};
+        loaded.isToBeStored = true;
+    } else if (*state == JobState::Done || *state == JobState::DoneWithProblems) {
+        if (record.outcome.state != JobState::DoneWithProblems)
+            record.outcome.state = JobState::Done;
+        lookForOutputs(record);
+    }
+    return loaded;
+}
+
+}  // namespace kestrel

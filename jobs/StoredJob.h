@@ -1,0 +1,22 @@
+#pragma once
+
+#include "JobDatabase.h"
+#include "JobStore.h"
+
+namespace kestrel {
+
+/// A job as a row of the store, and back. Whoever waits or runs is held by its process, so that another one leaves it
+/// alone.
+JobRow storedJob(const JobRecord &record, double position);
+
+struct LoadedJob {
+    JobStore::Row row;
+    bool isToBeStored = false;  ///< it is not what was stored any more
+};
+
+/// The job as it is now: interrupted where the process that ran it has ended, Ready where it waited in such a one. One
+/// that is done but whose outputs are gone is DoneWithProblems, `outputIsGone`, for as long as they are: the store
+/// still has it as it ended. Nothing for rows that are no job and for those that a living process holds.
+std::optional<LoadedJob> loadedJob(const JobRow &row);
+
+}  // namespace kestrel

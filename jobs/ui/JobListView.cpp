@@ -1,0 +1,269 @@
+#include "JobListView.h"
+
+#include "JobDetails.h"
+#include "JobRowDelegate.h"
+#include "jobs/JobList.h"
+#include "jobs/JobQueue.h"
+#include "tarnwell/TextKey.h"
+#include "tarnwell/WebPages.h"
+
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFileInfo>
+#include <QGuiApplication>
+#include <QMenu>
+#include <QMimeData>
+#include <QShortcut>
+#include <QSortFilterProxyModel>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using tarnwell::operator""_key;
+
+}  // namespace
+
+/// Rows that contain a text in their title or details.
+class JobListView::Filter : public QSortFilterProxyModel {
+public:
+    using QSortFilterProxyModel::QSortFilterProxyModel;
+
+    void setText(const QString &text)
+    {
+        m_text = text;
+        invalidateFilter();
+    }
+
+protected:
+    bool filterAcceptsRow(int row, const QModelIndex &parent) const override
+    {
+        const auto contains = [&](int column) {
+            return sourceModel()->index(row, column, parent).data().toString().contains(m_text, Qt::CaseInsensitive);
+        };
+        return m_text.isEmpty() || contains(JobList::TitleColumn) || contains(JobList::DetailColumn);
+    }
+
+private:
+    QString m_text;
+};
+
+JobListView::JobListView(JobQueue &queue, JobList &list, QWidget *parent)
+    : QListView(parent),
+      m_queue(queue),
+      m_list(list),
+      m_filter(new Filter(this))
+{
+    m_filter->setSourceModel(&list);
+    setModel(m_filter);
+    setItemDelegate(new JobRowDelegate(this));
+    setSelectionMode(ExtendedSelection);
+    setUniformItemSizes(true);
+    setEditTriggers(NoEditTriggers);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollMode(ScrollPerPixel);
+    setMouseTracking(true);
+    setTabKeyNavigation(false);
+    setDragEnabled(true);
+    setDropIndicatorShown(true);
+    setDragDropMode(DragDrop);
+    setDefaultDropAction(Qt::MoveAction);
+    connect(this, &QListView::activated, this, &JobListView::activate);
+    setUpKeys();
+}
+
+void JobListView::setUpKeys()
+{
+    const struct {
+        QKeySequence keys;
+        std::function<void()> action;
+    } rows[] = {{QKeySequence::Delete, [this] { removeSelected(); }},
+                {Qt::Key_Backspace, [this] { removeSelected(); }},
+                {Qt::ALT | Qt::Key_Up, [this] { moveSelected(-1); }},
+                {Qt::ALT | Qt::Key_Down, [this] { moveSelected(1); }},
+                {QKeySequence::Copy, [this] { copyResults(selectedIds()); }},
+                {Qt::CTRL | Qt::Key_I, [this] { showDetails(currentId()); }}};
+    for (const auto &[keys, action] : rows) {
+        auto *shortcut = new QShortcut(keys, this);
+        shortcut->setContext(Qt::WidgetShortcut);
+        connect(shortcut, &QShortcut::activated, this, action);
+    }
+}
+
+QList<JobId> JobListView::selectedIds() const
+{
+    QModelIndexList rows = selectionModel()->selectedRows();
+    std::sort(rows.begin(), rows.end());
+    QList<JobId> ids;
+    for (const QModelIndex &row : rows)
+        ids.append(row.data(JobList::IdRole).toLongLong());
+    return ids;
+}
+
+JobId JobListView::currentId() const
+{
+    return currentIndex().data(JobList::IdRole).toLongLong();
+}
+
+void JobListView::select(JobId id)
+{
+    const QModelIndex index = m_filter->mapFromSource(m_list.index(m_list.rowOf(id), 0));
+    if (!index.isValid())
+        return;
+    setCurrentIndex(index);
+    scrollTo(index);
+}
+
+void JobListView::setFilterText(const QString &text)
+{
+    m_filter->setText(text);
+    // Rows between hidden ones have no place to be dragged to.
+    setDragDropMode(text.isEmpty() ? DragDrop : DragOnly);
+}
+
+void JobListView::removeSelected()
+{
+    const QList<JobId> ids = selectedIds();
+    const int row = ids.isEmpty() ? -1 : m_filter->mapFromSource(m_list.index(m_list.rowOf(ids.first()), 0)).row();
+    m_queue.remove(ids);
+    if (const QModelIndex next = m_filter->index(std::min(row, m_filter->rowCount() - 1), 0); next.isValid())
+        setCurrentIndex(next);
+}
+
+void JobListView::removeEnded()
+{
+    QList<JobId> ids;
+    for (int row = 0; row < m_list.rowCount(); ++row) {
+        const JobRecord *record = m_queue.record(m_list.idAt(row));
+        if (record && (record->state == JobState::Done || record->state == JobState::DoneWithProblems ||
+                       record->state == JobState::Cancelled || record->state == JobState::Unusable))
+            ids.append(record->id);
+    }
+    m_queue.remove(ids);
+}
+
+void JobListView::showDetails(JobId id)
+{
+    if (const JobRecord *record = m_queue.record(id))
+        (new JobDetails(*record, window()))->open();
+}
+
+void JobListView::activate(const QModelIndex &index)
+{
+    const JobId id = index.data(JobList::IdRole).toLongLong();
+    const JobRecord *record = m_queue.record(id);
+    if (!record)
+        return;
+    if (!record->outcome.outputs.isEmpty())
+        emit playRequested(record->outcome.outputs.first());
+    else if (record->state == JobState::Failed || record->state == JobState::Unusable)
+        showDetails(id);
+    else
+        emit editRequested(id);
+}
+
+/// Up or down by one, together.
+void JobListView::moveSelected(int rows)
+{
+    const QList<JobId> ids = selectedIds();
+    if (ids.isEmpty() || m_filter->rowCount() != m_list.rowCount())
+        return;
+    if (rows < 0) {
+        if (const int first = m_list.rowOf(ids.first()); first > 0)
+            m_queue.move(ids, m_list.idAt(first - 1));
+    } else if (const int last = m_list.rowOf(ids.last()); last + 1 < m_list.rowCount()) {
+        m_queue.move(ids, m_list.idAt(last + 2));
+    }
+}
+
+QStringList JobListView::outputsOf(const QList<JobId> &ids) const
+{
+    QStringList outputs;
+    for (const JobId id : ids) {
+        if (const JobRecord *record = m_queue.record(id))
+            outputs += record->outcome.outputs;
+    }
+    return outputs;
+}
+
+void JobListView::showInFolder(JobId id)
+{
+    const QStringList outputs = outputsOf({id});
+    if (!outputs.isEmpty())
+        tarnwell::OpenDirectory(QFileInfo(outputs.first()).absolutePath());
+}
+
+void JobListView::copyResults(const QList<JobId> &ids)
+{
+    QList<QUrl> urls;
+    for (const QString &path : outputsOf(ids))
+        urls.append(QUrl::fromLocalFile(path));
+    if (urls.isEmpty())
+        return;
+    auto *files = new QMimeData;
+    files->setUrls(urls);
+    files->setText(outputsOf(ids).join(u'\n'));
+    QGuiApplication::clipboard()->setMimeData(files);
+}
+
+void JobListView::contextMenuEvent(QContextMenuEvent *event)
+{
+    const QList<JobId> ids = selectedIds();
+    if (ids.isEmpty())
+        return;
+    const JobId current = currentId() > 0 ? currentId() : ids.first();
+    const JobRecord *record = m_queue.record(current);
+    const bool hasResult = !outputsOf({current}).isEmpty();
+    QList<JobId> active, paused, again;
+    for (const JobId id : ids) {
+        const JobState state = m_queue.record(id)->state;
+        if (state == JobState::Running || state == JobState::Waiting)
+            active.append(id);
+        if (state == JobState::Paused)
+            paused.append(id);
+        if (state == JobState::Ready || isEnded(state))
+            again.append(id);
+    }
+    auto *menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    const struct {
+        tarnwell::TextKey text;
+        bool isEnabled;
+        std::function<void()> action;
+    } rows[] = {
+        {"Play"_key, hasResult, [this, current] { emit playRequested(outputsOf({current}).first()); }},
+        {"Show in Folder"_key, hasResult, [this, current] { showInFolder(current); }},
+        {"Copy"_key, hasResult, [this, ids] { copyResults(ids); }},
+        {},
+        {"Start"_key, !again.isEmpty(), [this, again] { m_queue.start(again); }},
+        {"Pause"_key, !active.isEmpty(), [this, active] { m_queue.setPaused(active, true); }},
+        {"Go On"_key, !paused.isEmpty(), [this, paused] { m_queue.setPaused(paused, false); }},
+        {"Cancel"_key, !active.isEmpty() || !paused.isEmpty(),
+         [this, active, paused] { m_queue.cancel(active + paused); }},
+        {},
+        {"Details…"_key, record != nullptr, [this, current] { showDetails(current); }},
+        {"Remove"_key, true, [this] { removeSelected(); }},
+    };
+    for (const auto &[text, isEnabled, action] : rows) {
+        if (text.isEmpty())
+            menu->addSeparator();
+        else
+            menu->addAction(text.localized(), this, action)->setEnabled(isEnabled);
+    }
+    emit menuRequested(menu, ids);
+    menu->popup(event->reason() == QContextMenuEvent::Keyboard
+                    ? viewport()->mapToGlobal(visualRect(currentIndex()).center())
+                    : event->globalPos());
+}
+
+void JobListView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
+{
+    QListView::selectionChanged(selected, deselected);
+    emit selectedChanged();
+}
+
+}  // namespace kestrel

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "jobs/JobRecord.h"
+
+#include <QListView>
+
+class QMenu;
+
+namespace kestrel {
+
+class JobList;
+class JobQueue;
+
+/// The rows of a `JobList` with what every module does with them, by mouse and by keys: dragging to another place
+/// (Alt+Up, Alt+Down), retrying, removing (Del), details, and of results playing (Return), showing in their folder,
+/// copying (Ctrl+C), dragging out. Modules add their own entries to its menu.
+class JobListView : public QListView {
+    Q_OBJECT
+public:
+    JobListView(JobQueue &queue, JobList &list, QWidget *parent = nullptr);
+
+    QList<JobId> selectedIds() const;
+    JobId currentId() const;  ///< 0 where there is none
+    void select(JobId id);
+    /// Only rows whose title or details contain the text are shown; all for an empty one.
+    void setFilterText(const QString &text);
+
+    void removeSelected();
+    void removeEnded();
+    void showDetails(JobId id);
+
+signals:
+    /// Return or a double click on a row without a result.
+    void editRequested(kestrel::JobId id);
+    /// The same on one with a result, which should be played.
+    void playRequested(const QString &path);
+    void selectedChanged();
+    /// The context menu is about to be shown for these; add to it.
+    void menuRequested(QMenu *menu, const QList<kestrel::JobId> &ids);
+
+protected:
+    void contextMenuEvent(QContextMenuEvent *event) override;
+    void selectionChanged(const QItemSelection &selected, const QItemSelection &deselected) override;
+
+private:
+    class Filter;
+
+    void setUpKeys();
+    void activate(const QModelIndex &index);
+    void moveSelected(int rows);
+    void showInFolder(JobId id);
+    void copyResults(const QList<JobId> &ids);
+    QStringList outputsOf(const QList<JobId> &ids) const;
+
+    JobQueue &m_queue;
+    JobList &m_list;
+    Filter *m_filter;
+};
+
+}  // namespace kestrel

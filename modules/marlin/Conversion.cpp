@@ -1,0 +1,88 @@
+#include "Conversion.h"
+
+#include "foundation/FileNames.h"
+#include "media/MediaProber.h"
+#include "media/OutputName.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/SystemInformation.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+const QString sourceKey = u"source"_s;  // beside the members of the plan
+
+}  // namespace
+
+TranscodePlan conversionPlan(const JKestrelSettingDispatcher &settings, const Preset &preset, int processors)
+{
+    const qint64 cores = settings.getCpuCore();
+    TranscodePlan plan;
+    plan.preset = preset;
+    plan.best = settings.getHQE();
+    plan.hardware = settings.getQSV();
+    plan.copies = settings.autoCopy();
+    plan.threads = cores < 1 || cores >= processors ? 0 : int(cores);
+    plan.deinterlace = settings.getDeinterlacing() ? TranscodePlan::Deinterlace::On : TranscodePlan::Deinterlace::Auto;
+    plan.safeMode = settings.getSafeMode();
+    plan.chapterPerSource = settings.mergeMKV();
+    return plan;
+}
+
+QString conversionFolder(const JKestrelSettingDispatcher &settings, const TranscodePlan &plan)
+{
+    if (plan.besideSource && !plan.sources.isEmpty())
+        return outputFolder(plan, {});
+    const QString music = settings.getMusicDir();
+    return plan.preset.takesVideo() || music.isEmpty() ? settings.getVideoDir() : music;
+}
+
+TranscodeTools transcodeTools(const JKestrelSettingDispatcher &settings, int processors)
+{
+    constexpr quint32 avc1 = 0x61766331;
+    TranscodeTools tools;
+    tools.transcoder = settings.getTranscoderPath();
+    tools.prober = proberBeside(tools.transcoder);
+    tools.machine.processors = processors;
+    if (settings.getQSV())
+        tools.machine.hardwareDevice = tarnwell::hardwareEncoderDevice(avc1, 1280, 720);
+    return tools;
+}
+
+JobRecord conversionJob(const TranscodePlan &plan, const QString &folder)
+{
+    JobRecord record;
+    record.module = marlinJobs.toString();
+    record.state = JobState::Ready;
+    record.source = plan.sources.value(0);
+    record.title = foundation::readableFileName(record.source.section(u'/', -1));
+    record.plan = plan.toJson();
+    record.folder = folder;
+    return record;
+}
+
+void setPlan(JobRecord &record, const TranscodePlan &plan)
+{
+    const QJsonValue source = record.plan[sourceKey];
+    record.plan = plan.toJson();
+    record.plan[sourceKey] = source;
+}
+
+void setSourceSummary(JobRecord &record, const MediaInformation &information)
+{
+    QJsonObject source{{u"text"_s, information.summary()}};
+    if (information.duration)
+        source[u"seconds"_s] = *information.duration;
+    record.plan[sourceKey] = source;
+}
+
+SourceSummary sourceSummary(const JobRecord &record)
+{
+    const QJsonObject source = record.plan[sourceKey].toObject();
+    const double seconds = source[u"seconds"_s].toDouble();
+    return {source[u"text"_s].toString(), seconds > 0 ? std::optional(seconds) : std::nullopt};
+}
+
+}  // namespace kestrel

@@ -1,0 +1,526 @@
+#include "media/FilterText.h"
+#include "media/FramePreview.h"
+#include "media/TranscodeCommand.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using Plan = TranscodePlan;
+using Kind = MediaTrack::Kind;
+
+MediaTrack track(int index, Kind kind, const QString &codec, const QString &language = {})
+{
+    MediaTrack made;
+    made.index = index;
+    made.kind = kind;
+    made.codec = codec;
+    made.language = language;
+    return made;
+}
+
+MediaTrack changed(MediaTrack made, const std::function<void(MediaTrack &)> &change)
+{
+    change(made);
+    return made;
+}
+
+MediaTrack video(const QString &codec = u"h264"_s)
+{
+    return changed(track(0, Kind::Video, codec), [](MediaTrack &made) {
+        made.isDefault = true;
+        made.width = 1920;
+        made.height = 1080;
+        made.frameRate = 25;
+        made.pixelFormat = u"yuv420p"_s;
+    });
+}
+
+MediaTrack sound(int index, const QString &language = u"eng"_s, const QString &codec = u"aac"_s)
+{
+    return changed(track(index, Kind::Audio, codec, language), [](MediaTrack &made) {
+        made.bitRate = 128'000;
+        made.channels = 2;
+        made.channelLayout = u"stereo"_s;
+        made.sampleRate = 48000;
+    });
+}
+
+MediaTrack subtitle(int index, const QString &codec, bool isBitmap = false)
+{
+    return changed(track(index, Kind::Subtitle, codec, u"fre"_s), [&](MediaTrack &made) { made.isBitmap = isBitmap; });
+}
+
+MediaInformation film(QList<MediaTrack> tracks = {video(), sound(1)})
+{
+    MediaInformation made;
+    made.format = u"mov,mp4,m4a,3gp,3g2,mj2"_s;
+    made.duration = 60;
+    made.bytes = 10'000'000;
+    made.tracks = std::move(tracks);
+    return made;
+}
+
+Plan planFor(const QString &preset, const std::function<void(Plan &)> &change = {})
+{
+    Plan plan;
+    plan.sources = {u"/films/a.mp4"_s};
+    plan.preset = *presetOfId(preset);
+    if (change)
+        change(plan);
+    return plan;
+}
+
+const TranscodePaths paths{.output = u"/out/.part"_s, .workFolder = u"/work"_s};
+
+foundation::Result<TranscodeSteps, tarnwell::Sentence> stepsFor(const Plan &plan,
+                                                                const MediaInformation &source = film(),
+                                                                const TranscodeMachine &machine = {})
+{
+    return transcodeSteps(plan, {source}, machine, paths);
+}
+
+std::string lineOf(const TranscodeSteps &steps, qsizetype run = -1)
+{
+    return steps.runs.at(run < 0 ? steps.runs.size() - 1 : run).arguments.join(u' ').toStdString();
+}
+
+/// The last run's arguments; the reason where there is none.
+std::string lineFor(const Plan &plan, const MediaInformation &source = film(), const TranscodeMachine &machine = {})
+{
+    const auto steps = stepsFor(plan, source, machine);
+    return steps ? lineOf(*steps) : "refused: " + steps.reason().english().toStdString();
+}
+
+}  // namespace
+
+TEST(TranscodeCommand, BeginsAndEndsAsEveryRun)
+{
+    EXPECT_EQ(lineFor(planFor(u"mp4-h264"_s)),
+              "-hide_banner -nostdin -nostats -loglevel repeat+level+verbose -progress pipe:1 -stats_period 0.2 -y "
+              "-protocol_whitelist file -probesize 50M -analyzeduration 100M -i file:/films/a.mp4 -map 0:0 -c:v:0 copy "
+              "-map 0:1 -c:a:0 copy "
+              "-map_metadata 0 -map_chapters -1 -disposition:a:0 0 -metadata:s:a:0 language=eng -dn "
+              "-max_muxing_queue_size 4096 -movflags +faststart -strict experimental -f mp4 file:/out/.part");
+}
+
+TEST(TranscodeCommand, KeepsATrackOnlyWhereNothingIsLostOrAsked)
+{
+    struct Case {
+        const char *name;
+        QString preset;
+        MediaTrack track;
+        std::function<void(Plan &)> change;
+        bool isKept;
+    };
+    const auto with = [](const std::function<void(MediaTrack &)> &change) { return changed(video(), change); };
+    const Case cases[] = {
+        {"the preset's own codec", u"mp4-h264"_s, video(), {}, true},
+        {"copying is off", u"mp4-h264"_s, video(), [](Plan &plan) { plan.copies = false; }, false},
+        {"another codec", u"mp4-h265"_s, video(), {}, false},
+        {"original", u"mkv-copy"_s, video(u"vc1"_s), {}, true},
+        {"original that the container cannot hold", u"mp4-copy"_s, video(u"theora"_s), {}, false},
+        {"lying, into a container that tells", u"mov-copy"_s, with([](auto &t) { t.rotation = 90; }), {}, true},
+        {"lying, into one that does not", u"mkv-copy"_s, with([](auto &t) { t.rotation = 90; }), {}, false},
+        {"ten bits where plain is promised",
+         u"mp4-h264"_s,
+         with([](auto &t) {
+             t.pixelFormat = u"yuv420p10le"_s;
+             t.bitDepth = 10;
+         }),
+         {},
+         false},
+        {"ten bits where not",
+         u"mkv-h264"_s,
+         with([](auto &t) {
+             t.pixelFormat = u"yuv420p10le"_s;
+             t.bitDepth = 10;
+         }),
+         {},
+         true},
+        {"interlaced",
+         u"mp4-h264"_s,
+         with([](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::TopFirst; }),
+         {},
+         false},
+        {"interlaced, to stay so", u"mp4-h264"_s,
+         with([](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::TopFirst; }),
+         [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::Off; }, true},
+        {"interlaced original",
+         u"mkv-copy"_s,
+         with([](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::TopFirst; }),
+         {},
+         true},
+        {"irregular times into AVI", u"avi-h264"_s, with([](auto &t) { t.isVariableRate = true; }), {}, false},
+        {"HDR original", u"mkv-copy"_s, with([](auto &t) { t.colorTransfer = u"smpte2084"_s; }), {}, true},
+        {"HDR that is to become standard", u"mkv-copy"_s, with([](auto &t) { t.colorTransfer = u"smpte2084"_s; }),
+         [](Plan &plan) { plan.dynamicRange = Plan::HighDynamicRange::ToStandard; }, false},
+        {"too large", u"mp4-720p"_s, video(), {}, false},
+        {"a size is asked for", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.rateControl = Plan::RateControl::Size;
+             plan.maximumBytes = 10'000'000;
+         },
+         false},
+        {"an exact cut", u"mp4-h264"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 1, .end = 5}}; }, false},
+        {"a cut at a keyframe", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.pieces = {{.start = 1, .end = 5}};
+             plan.exactCuts = false;
+         },
+         true},
+        {"cropped", u"mkv-copy"_s, video(),
+         [](Plan &plan) {
+             plan.crop = {0, 0, 1, 0.5};
+         },
+         false},
+        {"subtitles burnt in", u"mkv-copy"_s, video(),
+         [](Plan &plan) {
+             plan.subtitles = {{2, Plan::SubtitleUse::Burn}};
+         },
+         false},
+        {"faster", u"mkv-copy"_s, video(), [](Plan &plan) { plan.speedFactor = 2; }, false},
+    };
+    for (const Case &each : cases) {
+        const std::string line =
+            lineFor(planFor(each.preset, each.change), film({each.track, sound(1), subtitle(2, u"subrip"_s)}));
+        EXPECT_EQ(line.find("-c:v:0 copy") != std::string::npos, each.isKept) << each.name << ": " << line;
+        EXPECT_TRUE(each.isKept || line.find("-c:v:0 lib") != std::string::npos) << each.name << ": " << line;
+    }
+}
+
+TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
+{
+    struct Case {
+        const char *name;
+        QString preset;
+        MediaTrack track;
+        std::function<void(Plan &)> change;
+        const char *wanted;
+        const char *unwanted = nullptr;
+    };
+    const auto encoding = [](const std::function<void(Plan &)> &change = {}) {
+        return [change](Plan &plan) {
+            plan.copies = false;
+            if (change)
+                change(plan);
+        };
+    };
+    const auto hdr = changed(video(u"hevc"_s), [](auto &t) {
+        t.colorTransfer = u"smpte2084"_s;
+        t.pixelFormat = u"yuv420p10le"_s;
+        t.bitDepth = 10;
+        t.masteringDisplay = u"G(13250,34500)B(7500,3000)R(34000,16000)WP(15635,16450)L(10000000,1)"_s;
+        t.lightLevel = u"1000,400"_s;
+    });
+    const Case cases[] = {
+        {"usual quality", u"mp4-h264"_s, video(), encoding(), "-c:v:0 libx264 -preset medium -crf 21 "},
+        {"best quality", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.best = true; }),
+         "-preset slow -crf 18 "},
+        {"faster", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.speed = 2; }), "-preset veryfast"},
+        {"a preset's own quality at its best", u"mp4-web-1080p"_s, video(),
+         encoding([](Plan &plan) { plan.best = true; }), "-crf 19 "},
+        {"asked quality, within the encoder's range", u"webm-vp9"_s, video(), encoding([](Plan &plan) {
+             plan.rateControl = Plan::RateControl::Quality;
+             plan.quality = 99;
+         }),
+         "-crf 63 -b:v 0"},
+        {"no constant rate", u"mp4-h264"_s, video(), encoding(), "-fps_mode:v:0 vfr"},
+        {"constant where it must be", u"avi-mpeg4"_s,
+         changed(video(),
+                 [](auto &t) {
+                     t.isVariableRate = true;
+                     t.frameRate = 23;
+                 }),
+         encoding(), "fps=24000/1001"},
+        {"HDR is kept whole", u"mkv-h265"_s, hdr, encoding(),
+         "hdr10=1:repeat-headers=1:master-display=G(13250,34500)B(7500,3000)R(34000,16000)WP(15635,16450)L(10000000,1):"
+         "max-cll=1000,400",
+         "tonemap"},
+        {"HDR in units of another encoder", u"mkv-av1"_s, hdr, encoding(),
+         "mastering-display=G(0.2650,0.6900)B(0.1500,0.0600)R(0.6800,0.3200)WP(0.3127,0.3290)L(1000.0000,0.0001):"
+         "content-light=1000,400"},
+        {"HDR becomes standard", u"mp4-h264"_s, hdr, encoding(),
+         "setparams=color_primaries=bt2020:color_trc=smpte2084:colorspace=bt2020nc,zscale=t=linear:npl=100,"},
+        {"fields",
+         u"mp4-h264"_s,
+         changed(video(), [](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::TopFirst; }),
+         {},
+         "bwdif=mode=send_frame:deint=interlaced"},
+        {"fields that stay", u"mpg-mpeg2"_s,
+         changed(video(), [](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::BottomFirst; }),
+         [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::Off; }, "-flags:v +ilme+ildct -top 0", "bwdif"},
+        {"film", u"mp4-h264"_s, video(), [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::Film; },
+         "fps=30000/1001,fieldmatch,decimate"},
+        {"never larger", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.maximumWidth = 4000; }), "", "scale="},
+        {"smaller, both sides alike", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.maximumHeight = 500; }),
+         "scale=888:500,setsar=1"},
+        {"turned on its side by the camera",
+         u"mp4-720p"_s,
+         changed(video(), [](auto &t) { t.rotation = 90; }),
+         {},
+         "scale=404:720,setsar=1"},
+        {"cropped upright", u"mp4-h264"_s, changed(video(), [](auto &t) { t.rotation = 270; }),
+         encoding([](Plan &plan) {
+             plan.crop = {0.5, 0.25, 0.5, 0.5};
+         }),
+         "crop=540:960:540:480"},
+        {"full range", u"mp4-h264"_s, changed(video(), [](auto &t) { t.colorRange = u"pc"_s; }), encoding(),
+         "out_range=tv"},
+        {"4:2:2 stays", u"mkv-h264"_s,
+         changed(video(),
+                 [](auto &t) {
+                     t.pixelFormat = u"yuv422p10le"_s;
+                     t.bitDepth = 10;
+                 }),
+         encoding(), "format=yuv422p10le"},
+        {"4:2:2 where plain is promised", u"mp4-h264"_s,
+         changed(video(),
+                 [](auto &t) {
+                     t.pixelFormat = u"yuv422p10le"_s;
+                     t.bitDepth = 10;
+                 }),
+         encoding(), "format=yuv420p "},
+        {"twice as fast", u"mp4-h264"_s, video(), [](Plan &plan) { plan.speedFactor = 4; },
+         "-filter:a:0 atempo=2,atempo=2"},
+        {"fading out at the new end", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.speedFactor = 2;
+             plan.fadeOut = 3;
+         },
+         "fade=t=out:st=27:d=3"},
+        {"louder without clipping", u"mp4-h264"_s, video(), [](Plan &plan) { plan.volume = 6; },
+         "volume=6dB,alimiter=limit=0.97"},
+        {"evened out", u"mp4-h264"_s, video(), [](Plan &plan) { plan.normalizes = true; },
+         "-filter:a:0 loudnorm=I=-16:TP=-1.5:LRA=11 -c:a:0 aac -b:a:0 160000 -ar:a:0 48000"},
+        {"H.265 under the name that players ask for", u"mp4-h265"_s, video(), {}, "-tag:v:0 hvc1"},
+        {"threads", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.threads = 3; }), "-threads 3 "},
+        {"a cut", u"mp4-h264"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 4.17, .end = 100}}; },
+         "-ss 4.17 -to 60 -i file:/films/a.mp4"},
+        {"several pieces", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.pieces = {{.start = 5, .end = 6}, {.start = 1, .end = 2}};
+         },
+         "[piece0][piece1]concat=n=2:v=1:a=0,format=yuv420p[picture]"},
+        {"burnt text keeps its own time", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.pieces = {{.start = 5, .end = 6}};
+             plan.subtitles = {{3, Plan::SubtitleUse::Burn}};
+         },
+         "setpts=PTS+5/TB,subtitles=filename=/films/a.mp4:si=1,setpts=PTS-5/TB"},
+        {"burnt pictures", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.subtitles = {{2, Plan::SubtitleUse::Burn}};
+         },
+         "[bare0][0:2]overlay=x=(W-w)/2:y=H-h:eof_action=pass:format=auto"},
+        {"one palette", u"gif"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 0, .end = 2}}; },
+         "stats_mode=diff"},
+        {"a palette each where all would fill the memory", u"gif"_s, video(), {}, "stats_mode=single"},
+    };
+    for (const Case &each : cases) {
+        const std::string line =
+            lineFor(planFor(each.preset, each.change),
+                    film({each.track, sound(1), subtitle(2, u"hdmv_pgs_subtitle"_s, true), subtitle(3, u"subrip"_s)}));
+        EXPECT_NE(line.find(each.wanted), std::string::npos) << each.name << ": " << line;
+        if (each.unwanted) {
+            EXPECT_EQ(line.find(each.unwanted), std::string::npos) << each.name << ": " << line;
+        }
+    }
+}
+
+TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
+{
+    const MediaInformation source = film({video(), sound(1, u"ger"_s),
+                                          changed(sound(2, u"eng"_s, u"dts"_s),
+                                                  [](auto &t) {
+                                                      t.isDefault = true;
+                                                      t.channels = 6;
+                                                      t.channelLayout = u"5.1(side)"_s;
+                                                  }),
+                                          subtitle(3, u"ass"_s), subtitle(4, u"hdmv_pgs_subtitle"_s, true),
+                                          changed(track(5, Kind::Attachment, u"ttf"_s), [](auto &t) {
+                                              t.fileName = u"a.ttf"_s;
+                                              t.mimeType = u"font/ttf"_s;
+                                          })});
+    const auto mkv = stepsFor(planFor(u"mkv-h264"_s), source);
+    ASSERT_TRUE(mkv);
+    EXPECT_TRUE(mkv->leftOut.isEmpty());
+    EXPECT_EQ(mkv->expected.tracks.size(), 6);
+    EXPECT_NE(lineOf(*mkv).find("-filter:a:1 aformat=channel_layouts=5.1 -c:a:1 aac -b:a:1 384000"), std::string::npos)
+        << lineOf(*mkv);
+    EXPECT_NE(lineOf(*mkv).find("-disposition:a:0 0 -metadata:s:a:0 language=ger -disposition:a:1 default"),
+              std::string::npos);
+    EXPECT_NE(lineOf(*mkv).find("-map 0:3 -c:s:0 copy"), std::string::npos);
+
+    const auto mp4 = stepsFor(planFor(u"mp4-h264"_s), source);
+    ASSERT_TRUE(mp4);
+    EXPECT_NE(lineOf(*mp4).find("-map 0:3 -c:s:0 mov_text"), std::string::npos);
+    ASSERT_EQ(mp4->leftOut.size(), 2);
+    EXPECT_TRUE(mp4->leftOut.at(0).english().contains(u"French"_s)) << mp4->leftOut.at(0).english().toStdString();
+    EXPECT_TRUE(mp4->leftOut.at(1).english().contains(u"a.ttf"_s));
+
+    const auto mp3 = stepsFor(planFor(u"mp3"_s), source);
+    ASSERT_TRUE(mp3);
+    EXPECT_NE(lineOf(*mp3).find("-map 0:2 "), std::string::npos) << "the default one is kept: " << lineOf(*mp3);
+    EXPECT_EQ(lineOf(*mp3).find("-map 0:1 "), std::string::npos);
+    EXPECT_TRUE(mp3->leftOut.value(0).english().contains(u"German"_s));
+}
+
+TEST(TranscodeCommand, CoversGoTheContainersOwnWay)
+{
+    const MediaInformation song = film({sound(0, {}, u"flac"_s), track(1, Kind::Cover, u"mjpeg"_s)});
+    const auto mp3 = stepsFor(planFor(u"mp3"_s), song);
+    EXPECT_NE(lineOf(*mp3).find("-map 0:1 -c:v:0 copy -disposition:v:0 attached_pic"), std::string::npos);
+    EXPECT_EQ(mp3->work, TranscodeSteps::Work::Sound);
+    const auto mka = stepsFor(planFor(u"mka-opus"_s), song);
+    ASSERT_EQ(mka->runs.size(), 2);
+    EXPECT_NE(lineOf(*mka, 0).find("-frames:v 1 -f image2pipe file:/work/cover.jpg"), std::string::npos);
+    EXPECT_NE(lineOf(*mka).find("-attach file:/work/cover.jpg -metadata:s:t:0 mimetype=image/jpeg"), std::string::npos);
+}
+
+TEST(TranscodeCommand, AimsBelowTheSizeInTwoPasses)
+{
+    const auto steps = stepsFor(planFor(u"mp4-h264"_s, [](Plan &plan) {
+        plan.rateControl = Plan::RateControl::Size;
+        plan.maximumBytes = 25'000'000;
+        plan.copies = false;
+    }));
+    ASSERT_TRUE(steps);
+    ASSERT_EQ(steps->runs.size(), 2);
+    EXPECT_NE(lineOf(*steps, 0).find("-pass 1 -passlogfile /work/passes -fps_mode:v:0 vfr -an -sn -dn -f null -"),
+              std::string::npos)
+        << lineOf(*steps, 0);
+    EXPECT_NE(lineOf(*steps).find("-pass 2"), std::string::npos);
+    EXPECT_DOUBLE_EQ(steps->runs[0].share + steps->runs[1].share, 1);
+    const qsizetype place = steps->runs[1].arguments.indexOf(u"-b:v"_s);
+    const double bits = steps->runs[1].arguments.at(place + 1).toDouble() + 160'000;
+    EXPECT_LT(bits * 60 / 8, 25e6 * 0.97);
+    EXPECT_GT(bits * 60 / 8, 25e6 * 0.95);
+    EXPECT_EQ(steps->expected.maximumBytes, 25'000'000);
+
+    const auto smaller = [](qint64 bytes, const QString &preset = u"mp4-h264"_s) {
+        return lineFor(planFor(preset, [&](Plan &plan) {
+            plan.rateControl = Plan::RateControl::Size;
+            plan.maximumBytes = bytes;
+        }));
+    };
+    EXPECT_NE(smaller(4'000'000).find("scale="), std::string::npos) << "too few bits for each sample";
+    EXPECT_EQ(smaller(100'000), "refused: 0.1 MB are too few for a file of this length.");
+    EXPECT_EQ(smaller(10'000'000, u"mkv-ffv1"_s), "refused: What this preset makes cannot be fitted to a size.");
+}
+
+TEST(TranscodeCommand, JoinsUnequalFilesByEncodingThem)
+{
+    Plan plan = planFor(u"mkv-copy"_s, [](Plan &p) {
+        p.sources += u"/films/it's.mp4"_s;
+        p.chapterPerSource = true;
+    });
+    const auto alike = transcodeSteps(plan, {film(), film()}, {}, paths);
+    ASSERT_TRUE(alike);
+    EXPECT_EQ(alike->work, TranscodeSteps::Work::Copy);
+    EXPECT_TRUE(alike->expected.decodesAll);
+    EXPECT_EQ(alike->expected.seconds, 120);
+    EXPECT_EQ(alike->files.value(u"/work/list.txt"_s),
+              QByteArray("ffconcat version 1.0\nfile 'file:/films/a.mp4'\nfile 'file:/films/it'\\''s.mp4'\n"));
+    EXPECT_TRUE(alike->files.value(u"/work/chapters.txt"_s).contains("START=60000\nEND=120000\ntitle=it's\n"));
+
+    const std::function<void(MediaTrack &)> differences[] = {[](auto &t) { t.width = 1280; },
+                                                             [](auto &t) { t.frameRate = 30; },
+                                                             [](auto &t) { t.pixelFormat = u"yuv422p"_s; },
+                                                             [](auto &t) { t.profile = u"High 10"_s; },
+                                                             [](auto &t) { t.codec = u"hevc"_s; },
+                                                             [](auto &t) { t.sampleRate = 44100; }};
+    for (qsizetype number = 0; number < qsizetype(std::size(differences)); ++number) {
+        const MediaInformation other = film({number == 5 ? video() : changed(video(), differences[number]),
+                                             number == 5 ? changed(sound(1), differences[5]) : sound(1)});
+        const auto unlike = transcodeSteps(plan, {film(), other}, {}, paths);
+        ASSERT_TRUE(unlike);
+        EXPECT_EQ(unlike->work, TranscodeSteps::Work::Encode) << number;
+        EXPECT_NE(lineOf(*unlike).find("concat=n=2:v=1:a=0"), std::string::npos) << number;
+    }
+}
+
+TEST(TranscodeCommand, SaysWhyNot)
+{
+    const struct {
+        Plan plan;
+        MediaInformation source;
+        const char *reason;
+    } cases[] = {
+        {planFor(u"mp3"_s), film({video()}), "This file has no sound to convert."},
+        {planFor(u"gif"_s), film({sound(0)}), "This file has no picture to convert."},
+        {planFor(u"mp4-h264"_s), film({subtitle(0, u"subrip"_s)}),
+         "This file has neither picture nor sound to convert."},
+        {planFor(u"mp4-h264"_s, [](Plan &p) { p.pieces = {{.start = 70, .end = 80}}; }), film(),
+         "The pieces to be kept lie behind the end of the file."},
+        {planFor(u"mp4-h264"_s, [](Plan &p) { p.audioTracks.emplace(); }), film({sound(0)}),
+         "Nothing of this file would be kept."},
+    };
+    for (const auto &each : cases)
+        EXPECT_EQ(lineFor(each.plan, each.source), std::string("refused: ") + each.reason);
+}
+
+TEST(TranscodeCommand, TellsTheResultsLengthAndHowFarToTrustIt)
+{
+    const auto seconds = [](const std::function<void(Plan &)> &change, const MediaInformation &source) {
+        return stepsFor(planFor(u"mkv-copy"_s, change), source)->expected.seconds.value_or(-1);
+    };
+    MediaInformation longSound =
+        film({changed(video(), [](auto &t) { t.duration = 50; }), changed(sound(1), [](auto &t) { t.duration = 60; })});
+    EXPECT_EQ(seconds({}, longSound), 60);
+    EXPECT_EQ(seconds([](Plan &p) { p.audioTracks.emplace(); }, longSound), 50);
+    EXPECT_EQ(seconds(
+                  [](Plan &p) {
+                      p.pieces = {{.start = 10, .end = 20}, {.start = 55, .end = 100}};
+                      p.speedFactor = 2;
+                  },
+                  film()),
+              7.5);
+    MediaInformation stream = film();
+    stream.duration.reset();
+    EXPECT_EQ(seconds({}, stream), -1);
+    stream.format = u"mpegts"_s;
+    EXPECT_TRUE(stepsFor(planFor(u"mkv-copy"_s), stream)->expected.decodesAll);
+    EXPECT_FALSE(stepsFor(planFor(u"mkv-copy"_s))->expected.decodesAll);
+    EXPECT_FALSE(stepsFor(planFor(u"mkv-av1"_s), stream)->expected.decodesAll) << "what is decoded anyway";
+}
+
+TEST(TranscodeCommand, TakesTheHardwareOnlyWhereItDoesTheSame)
+{
+    const TranscodeMachine machine{.hardwareDevice = u"/dev/dri/renderD128"_s};
+    const auto encoding = planFor(u"mp4-h264"_s, [](Plan &p) { p.copies = false; });
+    const std::string line = lineFor(encoding, film(), machine);
+    EXPECT_NE(line.find("-vaapi_device /dev/dri/renderD128 "), std::string::npos);
+    EXPECT_NE(line.find("format=nv12,hwupload -c:v:0 h264_vaapi -qp 23"), std::string::npos) << line;
+    EXPECT_TRUE(stepsFor(encoding, film(), machine)->takesShortcut);
+    EXPECT_FALSE(stepsFor(withoutShortcuts(encoding), film(), machine)->takesShortcut);
+    for (const auto &plan : {withoutShortcuts(encoding), planFor(u"mp4-h265"_s), planFor(u"webm-vp9"_s)})
+        EXPECT_EQ(lineFor(plan, film(), machine).find("vaapi"), std::string::npos);
+}
+
+TEST(TranscodeCommand, AnyTextReachesAFilterWhole)
+{
+    EXPECT_EQ(filterValue(u"/a b/it's [1], x;y:z\\"_s), uR"(/a b/it\\\'s \[1\]\, x\;y\\:z\\\\)"_s);
+    EXPECT_EQ(rateText(29.97002997), u"30000/1001"_s);
+    EXPECT_EQ(rateText(25), u"25"_s);
+    EXPECT_EQ(rateText(12.5), u"12.5"_s);
+}
+
+TEST(TranscodeCommand, ATrialIsTenSecondsOfTheWhole)
+{
+    const Plan plan = planFor(u"mp4-h264"_s, [](Plan &p) {
+        p.rateControl = Plan::RateControl::Size;
+        p.maximumBytes = 12'000'000;
+    });
+    const Plan trial = trialPlan(plan, film(), 55);
+    EXPECT_EQ(trial.pieces.at(0).start, 50);
+    EXPECT_EQ(trial.pieces.at(0).end, 60);
+    EXPECT_EQ(trial.maximumBytes, 2'000'000);
+    EXPECT_TRUE(previewArguments(planFor(u"mp3"_s), film({sound(0)}), 1, {100, 100}, PreviewPicture::Result).isEmpty());
+}
+
+}  // namespace kestrel
