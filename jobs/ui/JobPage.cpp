@@ -1,6 +1,7 @@
 #include "JobPage.h"
 
 #include "JobListView.h"
+#include "foundation/FileNames.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/RemainingTime.h"
@@ -31,8 +32,8 @@ QStringList pathsIn(const QMimeData &data)
 {
     QStringList paths;
     for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
+        if (const QString path = foundation::pathOfUrl(url); !path.isNull())
+            paths.append(path);
     }
     return paths;
 }

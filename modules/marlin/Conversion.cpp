@@ -1,10 +1,10 @@
 #include "Conversion.h"
 
+#include "foundation/FileNames.h"
 #include "media/MediaProber.h"
+#include "media/OutputName.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/SystemInformation.h"
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -57,7 +57,7 @@ void writeSwitches(JKestrelSettingDispatcher &settings, int processors, const Tr
 QString conversionFolder(const JKestrelSettingDispatcher &settings, const TranscodePlan &plan)
 {
     if (plan.besideSource && !plan.sources.isEmpty())
-        return QFileInfo(plan.sources.first()).absolutePath();
+        return outputFolder(plan, {});
     const QString music = settings.getMusicDir();
     return plan.preset.takesVideo() || music.isEmpty() ? settings.getVideoDir() : music;
 }
@@ -80,7 +80,7 @@ JobRecord conversionJob(const TranscodePlan &plan, const QString &folder)
     record.module = marlinJobs.toString();
     record.state = JobState::Ready;
     record.source = plan.sources.value(0);
-    record.title = QFileInfo(record.source).fileName();
+    record.title = foundation::readableFileName(record.source.section(u'/', -1));
     record.plan = plan.toJson();
     record.folder = folder;
     return record;
