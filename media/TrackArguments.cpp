@@ -133,6 +133,10 @@ QStringList tagArguments(const Plan &, const TrackPlan &tracks, const MediaInfor
         const QString muxer = QString::fromLatin1(tracks.container->muxer);
         if (tracks.video->codec == "hevc"_L1 && (muxer == "mp4"_L1 || muxer == "mov"_L1 || muxer == "ipod"_L1))
             arguments << u"-tag:v:0"_s << u"hvc1"_s;
+        // Most containers ask for this by themselves.
+        const bool needsStartCodes = muxer == "wtv"_L1;
+        if (needsStartCodes && !tracks.video->encoder && tracks.video->codec == "h264"_L1)
+            arguments << u"-bsf:v:0"_s << u"h264_mp4toannexb"_s;
     }
     for (int number = 0; number < tracks.sounds.size(); ++number) {
         const MediaTrack &track = *tracks.sounds.at(number).source;

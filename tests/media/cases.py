@@ -73,7 +73,7 @@ def case_interlaced(c):
     for sample, rate in (('topfield', '25/1'), ('bottomfield', '30000/1001')):
         out = c.convert(sample, 'mp4-h264')
         assert out.video['avg_frame_rate'] == rate and out.video.get('field_order') in ('progressive', None), out.video['avg_frame_rate']
-        idet = run(['ffmpeg', '-hide_banner', '-i', str(out.path), '-vf', 'idet', '-f', 'null', '-']).stderr.decode()
+        idet = run(['ffmpeg', '-hide_banner', '-i', str(out.path), '-vf', 'extractplanes=y,idet', '-f', 'null', '-']).stderr.decode()
         counts = [l for l in idet.splitlines() if 'Single frame' in l][-1].split()
         progressive = int(counts[counts.index('Progressive:') + 1])
         interlaced = int(counts[counts.index('TFF:') + 1]) + int(counts[counts.index('BFF:') + 1])
