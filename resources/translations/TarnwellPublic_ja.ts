@@ -8,7 +8,39 @@
         <translation>%1（%2スレッド）</translation>
     </message>
     <message>
+        <source>%1 - Title %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 MB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 MB are too few for a file of this length.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 and %2 more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 angles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 chapters</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 dB</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files selected</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 kbit/s</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -16,11 +48,39 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 s could be read, %2 faults</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sectors of the disc could not be read and are empty in the image.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 sectors of the film could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 titles</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 to go</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 ×</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -32,12 +92,104 @@
         <translation>%@ %@が利用できるようになりました。現在お使いのバージョンは%@です。今すぐアップデートしますか？</translation>
     </message>
     <message>
+        <source>128 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>160 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>192 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>23.976</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>24</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>25</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>256 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>2560 × 1440</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>29.97</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>30</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>320 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>448 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>4K (3840 × 2160)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>50</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>59.94</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>60</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>64 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>640 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>96 kbit/s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A chapter for each joined file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A disc of the chosen title alone, without menus, that players start at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A folder has no sectors to copy. Choose another way.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>A new version of %@ is available!</source>
         <translation>%@の新しいバージョンがあります</translation>
+    </message>
+    <message>
+        <source>A preset needs a name.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>AC-3 Audio</source>
@@ -64,6 +216,10 @@
         <translation>情報</translation>
     </message>
     <message>
+        <source>About %1.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>About %@</source>
         <translation>%@について</translation>
     </message>
@@ -80,16 +236,40 @@
         <translation>ファイルを追加…</translation>
     </message>
     <message>
+        <source>Add Subtitle File…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Adding the subtitles…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Address</source>
         <translation>アドレス</translation>
+    </message>
+    <message>
+        <source>Aim</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>All Formats</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>All Formats…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>All files</source>
         <translation>すべてのファイル</translation>
+    </message>
+    <message>
+        <source>All files of the disc in a folder, with its menus.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>All jobs are done.</source>
@@ -100,12 +280,40 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>All sound tracks of the chosen titles with their chapters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Already in the list: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Always</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Always kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Always, twice the pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>アドレスの例: http://proxy.example.com、socks5://10.0.0.1</translation>
     </message>
     <message>
+        <source>Another folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>App Log</source>
         <translation>アプリのログ</translation>
+    </message>
+    <message>
+        <source>Apply</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Archive</source>
@@ -120,6 +328,22 @@
         <translation>アプリケーションを今すぐ再起動しますか？</translation>
     </message>
     <message>
+        <source>As the format has it</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>As the source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Asking the site…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>At most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Automatic</source>
         <translation>自動</translation>
     </message>
@@ -132,8 +356,36 @@
         <translation>6種類のモードでDVDをバックアップし、DVD全体を180種類以上の形式に変換できます。Macやモバイル機器での再生、ハードディスクへの保存、テレビでの視聴などに対応。DVD1枚を5分でリッピングできます。</translation>
     </message>
     <message>
+        <source>Beside the source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bit rate</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bit rate of a track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Bottom right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Brightness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Build on: %@</source>
         <translation>ビルド日: %@</translation>
+    </message>
+    <message>
+        <source>Burnt into the picture</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>CAF Audio (ALAC)</source>
@@ -142,6 +394,10 @@
     <message>
         <source>Cancel</source>
         <translation>キャンセル</translation>
+    </message>
+    <message>
+        <source>Cancel the Trial</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Cancelled</source>
@@ -164,7 +420,19 @@
         <translation>言語の変更は再起動後に反映されます。</translation>
     </message>
     <message>
+        <source>Channels</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chapter %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Chapters are missing in the finished file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Chapters, languages and the colours of subtitles, which MPEG-2 files cannot hold</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -176,7 +444,15 @@
         <translation>アップデートを確認中… </translation>
     </message>
     <message>
+        <source>Checking the copy…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Checking the finished file…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -196,6 +472,10 @@
         <translation>すべて削除</translation>
     </message>
     <message>
+        <source>Clockwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Close</source>
         <translation>閉じる</translation>
     </message>
@@ -208,8 +488,16 @@
         <translation>一般</translation>
     </message>
     <message>
+        <source>Connecting…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Continue</source>
         <translation>続ける</translation>
+    </message>
+    <message>
+        <source>Contrast</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Convert</source>
@@ -222,6 +510,14 @@
     <message>
         <source>Convert &amp; Process Video</source>
         <translation>ビデオの変換と加工</translation>
+    </message>
+    <message>
+        <source>Converting ten seconds: %1 %</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Converting…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -240,6 +536,14 @@
         <translation>コア</translation>
     </message>
     <message>
+        <source>Corner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Counterclockwise</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cover</source>
         <translation type="unfinished"></translation>
     </message>
@@ -248,7 +552,39 @@
         <translation>カット</translation>
     </message>
     <message>
+        <source>Cut and Edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut and Edit…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut exactly (encodes)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut off bottom</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut off left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut off right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cut off top</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>DTS</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -258,6 +594,10 @@
     <message>
         <source>DVD</source>
         <translation>DVD</translation>
+    </message>
+    <message>
+        <source>DVD (720 × 576)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -270,6 +610,14 @@
     <message>
         <source>Default</source>
         <translation>デフォルト</translation>
+    </message>
+    <message>
+        <source>Deinterlacing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Details</source>
@@ -285,6 +633,22 @@
     </message>
     <message>
         <source>Disc Player (VOB)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc folder with menus</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc image (ISO)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Disc images</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dolby Digital</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -340,6 +704,10 @@
         <translation>同時ダウンロード数</translation>
     </message>
     <message>
+        <source>Drive</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
         <translation>ビデオまたはフォルダをこのウインドウにドロップし、下で形式を選んで「変換」を押してください。変換結果は出力フォルダに保存され、元のファイルは変更されません。</translation>
     </message>
@@ -368,11 +736,39 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>End</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>End Here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Even out the loudness</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Export…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>FLAC Audio</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>FLV Video (H.264, AAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fade in</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fade out</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -384,7 +780,23 @@
         <translation>失敗: %1</translation>
     </message>
     <message>
+        <source>Faster, larger file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Fastest, largest file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>File size at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Files can be cut or joined, but not both at once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Film from television (24)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -394,6 +806,10 @@
     <message>
         <source>Find</source>
         <translation>検索</translation>
+    </message>
+    <message>
+        <source>Find Black Bars</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Find Next</source>
@@ -412,8 +828,20 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Follow</source>
         <translation>自動スクロール</translation>
+    </message>
+    <message>
+        <source>For all files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>For example: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>For the DVD ripper, which is still being made.</source>
@@ -428,8 +856,20 @@
         <translation>形式</translation>
     </message>
     <message>
+        <source>Format and options in use are kept under this name:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Found after going around the end of the log.</source>
         <translation>ログの端から反対側へ折り返して見つかりました。</translation>
+    </message>
+    <message>
+        <source>Full HD (1920 × 1080)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -464,6 +904,10 @@
         <translation>H.264エンコーダー</translation>
     </message>
     <message>
+        <source>HD (1280 × 720)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>HEVC decoders</source>
         <translation>HEVCデコーダー</translation>
     </message>
@@ -484,12 +928,32 @@
         <translation>ヘルプ</translation>
     </message>
     <message>
+        <source>High dynamic range</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>High dynamic range becomes standard range.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>High quality (slower)</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Highest Resolution</source>
         <translation>最高解像度</translation>
+    </message>
+    <message>
+        <source>How the disc is kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Import…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Intel</source>
@@ -504,24 +968,12 @@
         <translation>書き込まれ次第、ここに表示されます: %1</translation>
     </message>
     <message>
-        <source>It will convert titles to videos for every device.</source>
-        <translation>タイトルをあらゆるデバイス向けのビデオに変換できるようになります。</translation>
-    </message>
-    <message>
-        <source>It will copy a DVD to a disc image or a folder.</source>
-        <translation>DVDをディスクイメージまたはフォルダにコピーできるようになります。</translation>
-    </message>
-    <message>
         <source>It will fetch several at a time, in the resolution that you prefer.</source>
         <translation>ご希望の解像度で、複数を同時に取得できるようになります。</translation>
     </message>
     <message>
         <source>It will go through your proxy where you have one.</source>
         <translation>プロキシがある場合は、プロキシを経由するようになります。</translation>
-    </message>
-    <message>
-        <source>It will keep the sound track in the language that you prefer.</source>
-        <translation>ご希望の言語の音声トラックを残せるようになります。</translation>
     </message>
     <message>
         <source>It will record the sound of the computer and of a microphone.</source>
@@ -540,11 +992,23 @@
         <translation>必要な場面でマウスのクリックを表示できるようになります。</translation>
     </message>
     <message>
+        <source>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Jobs are running.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Jobs are still running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join all files into one</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join into One</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -556,7 +1020,31 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Keep the Rest Instead</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep the date of the source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keep tracks that fit as they are</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept as a track</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Kept until you quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept where it can be</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Kept: %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -588,7 +1076,15 @@
         <translation>詳しい情報</translation>
     </message>
     <message>
+        <source>Left out</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Left out: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Length</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -676,6 +1172,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>MPEG</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>MPEG Video (MPEG-2, MP2)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -700,8 +1200,20 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Middle</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Minimize</source>
         <translation>最小化</translation>
+    </message>
+    <message>
+        <source>Mirror</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Mono</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Music folder</source>
@@ -716,12 +1228,48 @@
         <translation>名前</translation>
     </message>
     <message>
+        <source>Name of the preset:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Never</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No camera was found.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No format matches the search.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>No log was named</source>
         <translation>ログが指定されていません</translation>
     </message>
     <message>
+        <source>No picture of the copy could be decoded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No picture of this film could be decoded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No server answers at this address. Check it and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Not chosen yet</source>
         <translation>未選択</translation>
+    </message>
+    <message>
+        <source>Not turned</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Not used yet</source>
@@ -729,6 +1277,10 @@
     </message>
     <message>
         <source>Not used yet, kept until you quit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing could be decoded at %1 s.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -740,7 +1292,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Nothing of the film could be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing of the recording is left.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Nothing of this file would be kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing was recorded.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -764,6 +1328,14 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>One title as a disc folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only %1 of %2 s have come.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Only files that all have a picture, or all have sound, can be joined.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -772,8 +1344,20 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Opacity</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Open</source>
         <translation>開く</translation>
+    </message>
+    <message>
+        <source>Open Folder…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open Image…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Open the log with “App Log” in the Help menu of %1.</source>
@@ -786,6 +1370,10 @@
     <message>
         <source>Open the output folder when done</source>
         <translation>完了後に出力フォルダーを開く</translation>
+    </message>
+    <message>
+        <source>Options</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Opus Audio</source>
@@ -812,12 +1400,24 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Output</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Output folder:</source>
         <translation>出力フォルダ:</translation>
     </message>
     <message>
         <source>Output format</source>
         <translation>出力形式</translation>
+    </message>
+    <message>
+        <source>PCM</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Page of options</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Parts of the finished file are missing.</source>
@@ -844,11 +1444,39 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Picture, all sound, subtitles in their colours and chapters of the chosen titles, nothing encoded again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pictures a second</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Piece %1 of %2</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Pieces that are kept</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Play</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Play Source</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Playing speed</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -876,6 +1504,10 @@
         <translation>ポート</translation>
     </message>
     <message>
+        <source>Position</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Preferences…</source>
         <translation>設定…</translation>
     </message>
@@ -884,12 +1516,20 @@
         <translation>優先する音声言語</translation>
     </message>
     <message>
+        <source>Presets</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Problem detected in last conversion.</source>
         <translation>前回の変換で問題が検出されました。</translation>
     </message>
     <message>
         <source>Processor</source>
         <translation>プロセッサ</translation>
+    </message>
+    <message>
+        <source>Processor cores</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Progress</source>
@@ -904,8 +1544,28 @@
         <translation>プロキシのポート</translation>
     </message>
     <message>
+        <source>Put a DVD in, or drop a disc image or folder here</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Putting picture and sound together…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Quality (lower is better)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Kestrelを終了</translation>
+    </message>
+    <message>
+        <source>Reading the disc…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Reading the disc… A drive may take half a minute for it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
@@ -936,6 +1596,10 @@
         <translation>録画</translation>
     </message>
     <message>
+        <source>Recovered after an interruption.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Redo</source>
         <translation>やり直す</translation>
     </message>
@@ -946,6 +1610,22 @@
     <message>
         <source>Remove</source>
         <translation>削除</translation>
+    </message>
+    <message>
+        <source>Remove Piece</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Removes what is done from the list. The files stay.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Rename…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Report Bug</source>
@@ -960,7 +1640,19 @@
         <translation>解像度</translation>
     </message>
     <message>
+        <source>Result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Running</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Safe mode: check the whole result</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saturation</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -970,6 +1662,18 @@
     <message>
         <source>Save a Copy…</source>
         <translation>コピーを保存…</translation>
+    </message>
+    <message>
+        <source>Save as Preset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Save as Preset…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saved: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Saving…</source>
@@ -996,6 +1700,14 @@
         <translation>設定を検索</translation>
     </message>
     <message>
+        <source>Search formats</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search: MKV, AV1, FLAC …</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Searching… %1 % (Esc stops)</source>
         <translation>検索中… %1%（Escで中止）</translation>
     </message>
@@ -1008,6 +1720,10 @@
         <translation>すべてを選択</translation>
     </message>
     <message>
+        <source>Select one file in the list to choose among its tracks.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Send Feedback</source>
         <translation>フィードバックを送信</translation>
     </message>
@@ -1018,6 +1734,10 @@
     <message>
         <source>Settings</source>
         <translation>設定</translation>
+    </message>
+    <message>
+        <source>Several formats</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Show</source>
@@ -1044,11 +1764,35 @@
         <translation>完了後にコンピューターをシャットダウン</translation>
     </message>
     <message>
+        <source>Size at most</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Size: about %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slower, smaller file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Slowest, smallest file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Small (640 × 480)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Small Files</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Small MP4 Video (720p)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Snapshot</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1060,6 +1804,18 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Sound only, unchanged (MKA)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound track %1, which this film does not have</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1068,7 +1824,19 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Source (drag to crop)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Speed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Start</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start Here</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1078,6 +1846,14 @@
     <message>
         <source>Stay at the end while the log grows</source>
         <translation>ログが増えても末尾を表示し続ける</translation>
+    </message>
+    <message>
+        <source>Steady quality</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stereo</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Stop and Quit</source>
@@ -1104,6 +1880,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Subtitles: %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1114,6 +1894,10 @@
     <message>
         <source>Suggestions</source>
         <translation>候補</translation>
+    </message>
+    <message>
+        <source>Surround 5.1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>TS Video (H.264, AC-3)</source>
@@ -1132,15 +1916,31 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>That is the log itself. Choose another name.</source>
         <translation>これはログそのものです。別の名前を選んでください。</translation>
+    </message>
+    <message>
+        <source>The area to be recorded is outside the screen.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The broadcast has not begun yet. Try again when it has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The chapters. %1 cannot hold them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The chosen titles become files of the format beside, as small as you like.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1172,8 +1972,20 @@
         <translation>変換プログラムが見つかりません。アプリケーションをインストールし直してください。</translation>
     </message>
     <message>
+        <source>The copy could not be read back.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The copy could not be saved: %1</source>
         <translation>コピーを保存できませんでした: %1</translation>
+    </message>
+    <message>
+        <source>The copy has %1 titles instead of %2.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The copy was broken off. It goes on where it is when it is started again.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The copy was saved.</source>
@@ -1184,15 +1996,75 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The cover picture. It is lost when files are joined so.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disc could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disc did not answer in time.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disc has no such title, chapter or angle.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disc image ends before its film does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disc is damaged: what it holds could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disc may not be read by this user.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The disc tools could not be started. Please install the application again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The disk could not be read or written.</source>
         <translation>ディスクを読み書きできませんでした。</translation>
+    </message>
+    <message>
+        <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>出力フォルダのディスクには、このサイズのファイルを保存できません。</translation>
     </message>
     <message>
+        <source>The display %1 could not be opened.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download engine does not work. Please install the application again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download engine is missing. Please install the application again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The download failed. The details tell what the engine said.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The encoder for %1 is not installed.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file could not be read.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The file could not be written.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1210,6 +2082,26 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>ファイルは削除されましたが、内容は引き続き表示されています。</translation>
+    </message>
+    <message>
+        <source>The film is copy protected and is not downloaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film is no longer there. Look for it at another address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film is not there in the form that was wanted. Choose another resolution or format.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film is private or for members only, so it cannot be downloaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The finished file could not be read back.</source>
@@ -1256,6 +2148,10 @@
         <translation>途中でログが短くなりました。もう一度お試しください。</translation>
     </message>
     <message>
+        <source>The options of this job could not be read. Add the address again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1280,6 +2176,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The picture is missing: the site handed out the sound alone.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The picture of the finished file does not stand upright.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1288,8 +2188,96 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The player is missing. Please install the application again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The program dvdauthor is missing. Please install it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The proxy refuses the connection. Check its address in the settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording could not be finished: it stays a Matroska file.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording ended because the disk is nearly full.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The recording was interrupted.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
         <translation>画面収録はMac OS Lion以降でのみ利用できます。</translation>
+    </message>
+    <message>
+        <source>The server broke off or could not answer. What has come is kept; try again later.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server broke off, next attempt in %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server has sent only part of the film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server takes no more requests for now. Try again in a while.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The settings' folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site does not show this film in your country. A proxy of another country can be set in the settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site has changed and the download engine does not know it any more. Update the engine and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The snapshot could not be written.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound could not be recorded. Is the sound server running?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound is missing since the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The sound is missing: the site handed out the picture alone.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -1312,28 +2300,108 @@
         <translation>トランスコーダーが見つかりません。アプリケーションを再インストールしてください。</translation>
     </message>
     <message>
+        <source>The whole disc, sector for sector, in one file that plays like the disc.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The whole film is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The window is too small to be recorded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are no black bars.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are several films at this address. Add it again to choose among them.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There are too many presets. Delete some first.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no connection to the network. Check it and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no disc. Put it in, or choose an image or a folder, and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no display whose picture could be recorded.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film at this address.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no film at this address. Look for the page that plays it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>There is no log yet</source>
         <translation>ログはまだありません</translation>
+    </message>
+    <message>
+        <source>There is no picture at this place.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no screen "%1". There is: %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
         <translation>ディスクに空き容量がありません。空き容量を増やしてから、もう一度変換してください。</translation>
     </message>
     <message>
+        <source>There is no space left on the disk. Free some space and try again; what has come is kept.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>There is no such file.</source>
         <translation>このファイルはありません。</translation>
+    </message>
+    <message>
+        <source>There is no video or sound file in it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is no window %1 to be seen.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
         <translation>メモリが不足しているため、このファイルを変換できません。</translation>
     </message>
     <message>
+        <source>There is not enough memory to read this disc.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder in the settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>There is nothing to convert.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>There is too little space on the disk to record.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
         <translation>選んだ形式（MP4、MKV、WebM、MP3）に変換されます。</translation>
+    </message>
+    <message>
+        <source>This address is of no site that Kestrel knows. Check it, or look for the page that plays the film.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This choice is kept until you quit.</source>
@@ -1342,6 +2410,14 @@
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
         <translation>このコンピューターには H.264 ビデオ用のハードウェアエンコーダーがありません。</translation>
+    </message>
+    <message>
+        <source>This disc is being copied to this folder already.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This disc is copy-protected and cannot be read.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This file could not be read.</source>
@@ -1360,12 +2436,24 @@
         <translation>このファイルには変換できる音声がありません。</translation>
     </message>
     <message>
+        <source>This file holds no presets of Kestrel.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This file is damaged, or it holds neither video nor sound.</source>
         <translation>このファイルは破損しているか、ビデオも音声も含まれていません。</translation>
     </message>
     <message>
+        <source>This film has no sound.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This folder cannot be written to.</source>
         <translation>このフォルダーには書き込めません。</translation>
+    </message>
+    <message>
+        <source>This is another disc: %1 instead of %2.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This is no preset.</source>
@@ -1374,6 +2462,10 @@
     <message>
         <source>This is no text file</source>
         <translation>これはテキストファイルではありません</translation>
+    </message>
+    <message>
+        <source>This is no video DVD: there is no VIDEO_TS on it.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>This is no video or sound file.</source>
@@ -1396,12 +2488,88 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>This title has no sound to keep.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Time line</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title %1 of the copy has %2 chapters instead of %3.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title %1 of the copy has other tracks than the disc.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title %1 of the copy is %2 s long instead of %3 s.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Title %1, the main film</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Titles as MPEG-2 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Titles of the disc</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Titles, unchanged (MKV)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
         <translation>このテキストを含む行が多すぎるため、最新の%1行を表示しています。</translation>
     </message>
     <message>
+        <source>Too many requests: the server is asked again in %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top left</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Top right</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Track %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Transcoder</source>
         <translation>トランスコーダー</translation>
+    </message>
+    <message>
+        <source>Trial</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Try 10 Seconds</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turned into standard</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Unable to connect to update server.</source>
@@ -1412,6 +2580,10 @@
         <translation>取り消す</translation>
     </message>
     <message>
+        <source>Unknown language</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Unlimited</source>
         <translation>無制限</translation>
     </message>
@@ -1420,8 +2592,20 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Upside down</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Use a proxy</source>
         <translation>プロキシを使用</translation>
+    </message>
+    <message>
+        <source>Use the graphics hardware</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Usual</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Version: %@</source>
@@ -1444,6 +2628,10 @@
         <translation>ビデオフォルダー</translation>
     </message>
     <message>
+        <source>Video or sound file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Videos from the web, on your disk</source>
         <translation>Webのビデオをディスクに</translation>
     </message>
@@ -1454,6 +2642,10 @@
     <message>
         <source>Visit website</source>
         <translation>Webサイトを見る</translation>
+    </message>
+    <message>
+        <source>Volume</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>WAV Audio</source>
@@ -1472,7 +2664,27 @@
         <translation>待機中</translation>
     </message>
     <message>
+        <source>Waiting for a network connection</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Waiting for space on the disk: %1 needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the network, next attempt in %1 s</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the server…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting: %1 downloads from this server are under way</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Watermark</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1492,11 +2704,31 @@
         <translation>WebMビデオ（VP9、Opus）</translation>
     </message>
     <message>
+        <source>What the server sent is no film.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>What this preset makes cannot be fitted to a size.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>What you stop now is offered to you again at the next start.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Where it is needed</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Whole Picture</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Width of the picture</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1518,10 +2750,6 @@
     <message>
         <source>You're up-to-date!</source>
         <translation>お使いのバージョンは最新です</translation>
-    </message>
-    <message>
-        <source>Your DVDs, as files</source>
-        <translation>DVDをファイルに</translation>
     </message>
     <message>
         <source>Your mail program could not be opened.</source>
@@ -1556,16 +2784,60 @@
         <translation>残り約1分</translation>
     </message>
     <message>
+        <source>another commentary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>closetip</source>
         <translation>ヒントを閉じる</translation>
+    </message>
+    <message>
+        <source>commentary</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for children</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for the hard of hearing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>for the visually impaired</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>forced</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>kept as it is</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>large</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>less than a minute left</source>
         <translation>残り1分未満</translation>
     </message>
     <message>
+        <source>same as title %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>showtip</source>
         <translation>ヒントを表示</translation>
+    </message>
+    <message>
+        <source>{name}, {preset}, {folder} and {date} are filled in.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>“%1” could not be played.</source>
+        <translation type="unfinished"></translation>
     </message>
 </context>
 </TS>
