@@ -25,6 +25,7 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace kestrel {
 
