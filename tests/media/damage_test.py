@@ -201,7 +201,7 @@ def full(bench):
                       tool=bench.tool(f'"$real" "$@" || exit\nwc -c < "$part" > {keep}'))
         with open(keep) as file:
             size = int(file.read())
-        preload = bench.tool(f'LD_PRELOAD={bench.disk} DISK_PATH=kestrel-part exec "$real" "$@"')
+        preload = bench.tool(f'exec env LD_PRELOAD={bench.disk} DISK_PATH=kestrel-part "$real" "$@"')
         ends = []
         for missing in range(4096, 65_536 + 1, 4096):
             result = bench.convert(preset, bench.samples["mpg"], "--encode", tool=preload, DISK_FULL_AT=str(size - missing))
@@ -216,7 +216,7 @@ def broken(bench):
     for extension, sample in bench.samples.items():
         states = []
         for broken_at in (2, 3, 5, 8, 13, 21):
-            tool = bench.tool(f'LD_PRELOAD={bench.disk} DISK_PATH=/film. exec "$real" "$@"')
+            tool = bench.tool(f'exec env LD_PRELOAD={bench.disk} DISK_PATH=/film. "$real" "$@"')
             result = bench.convert("mp4-h264", sample, "--encode", tool=tool, DISK_BROKEN_AT=str(broken_at))
             states.append(result["state"])
             if result["state"] == "done":  # only where the reading had come to its end
