@@ -113,10 +113,10 @@ private:
 
     int addSubtitleInput(int file, const SourcePiece &piece)
     {
-        // Without this the first cue would come at the beginning.
+        // Without this the first cue would come at the beginning. It is read whole: not all of these can be sought in.
         m_result.arguments << u"-seek_timestamp"_s << u"1"_s;
         if (piece.start && *piece.start > 0)
-            m_result.arguments << u"-ss"_s << numberText(*piece.start);
+            m_result.arguments << u"-itsoffset"_s << numberText(-*piece.start);
         m_result.arguments << u"-i"_s << u"file:"_s + m_plan.externalSubtitles.at(file).path;
         return m_inputCount++;
     }

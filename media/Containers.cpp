@@ -197,7 +197,7 @@ constexpr Container containerTable[] = {
      .muxer = "wtv",
      .extension = "wtv",
      .traits = 0,
-     .video = "mpeg2video h264 av1 cinepak dvvideo ffv1 flv1 h263 huffyuv mpeg1video mpeg4 png vp8 vp9 wmv2",
+     .video = "mpeg2video h264 av1 cinepak dvvideo flv1 h263 huffyuv mpeg1video mpeg4 png vp8 vp9",
      .sound = "mp2 ac3 adpcm_ima_wav dts eac3 flac mp3 pcm_s16le speex vorbis wmav2"},
     {.id = "ivf", .name = "IVF", .muxer = "ivf", .extension = "ivf", .traits = VariableRate, .video = "av1 vp8 vp9"},
     {.id = "swf",

@@ -74,7 +74,7 @@ QStringList previewArguments(const TranscodePlan &wanted, const MediaInformation
         }
         if (tracks->burned && tracks->burned->file >= 0 && isBitmapBurnt(*tracks)) {
             inputs.subtitles = inputs.watermark < 0 ? 1 : 2;
-            arguments << u"-seek_timestamp"_s << u"1"_s << u"-ss"_s << numberText(seconds) << u"-i"_s
+            arguments << u"-seek_timestamp"_s << u"1"_s << u"-itsoffset"_s << numberText(-seconds) << u"-i"_s
                       << u"file:"_s + plan.externalSubtitles.at(tracks->burned->file).path;
         }
         const FilterGraph whole = filterGraph(plan, *tracks, inputs, {}, false);

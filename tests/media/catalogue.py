@@ -2,7 +2,9 @@
 """catalogue.py TOOL [PATTERN…]: samples of every kind through the transcoder with the arguments that Kestrel makes.
 
 Each case converts a generated sample and looks at what arrived with ffprobe. With patterns only the cases run whose
-names contain one of them; `presets` writes and reads back every preset. The exit status is the number of failures."""
+names contain one of them; `presets` writes and reads back every preset. Samples are made anew, or kept in the folder
+that CATALOGUE_SAMPLES names. The exit status is the number of failures."""
+import base64
 import json
 import os
 import pathlib
@@ -122,7 +124,7 @@ class Catalogue:
     def __init__(self, tool, folder):
         self.tool, self.folder, self.number = tool, folder, 0
         self.presets = {p['id']: p for p in tool.ask({'presets': True})['presets']}
-        self.samples = samples.Samples(folder / 'samples')
+        self.samples = samples.Samples(pathlib.Path(os.environ.get('CATALOGUE_SAMPLES') or folder / 'samples'))
 
     def sample(self, name):
         return self.samples.path(name)

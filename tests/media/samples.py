@@ -40,7 +40,7 @@ def pgs(path, cues):
 class Samples:
     def __init__(self, folder):
         self.folder = folder
-        folder.mkdir()
+        folder.mkdir(exist_ok=True)
 
     def path(self, name):
         made = self.folder / (NASTY if name == 'nasty' else f'{name}.{EXTENSIONS.get(name, "mkv")}')
