@@ -264,6 +264,15 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
                     : event->globalPos());
 }
 
+/// Rows of its own alone: files from elsewhere are for the page, wherever they are dropped.
+void JobListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->source() == this)
+        QListView::dragEnterEvent(event);
+    else
+        event->ignore();
+}
+
 void JobListView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)
 {
     QListView::selectionChanged(selected, deselected);

@@ -2,6 +2,7 @@
 
 #include "JobListView.h"
 #include "foundation/FileNames.h"
+#include "foundation/Queues.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/RemainingTime.h"
@@ -15,6 +16,7 @@
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -101,7 +103,7 @@ void JobPage::setUpActions()
     connect(&m_model, &QAbstractItemModel::rowsInserted, this, &JobPage::showRows);
     connect(&m_model, &QAbstractItemModel::rowsRemoved, this, &JobPage::showRows);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &JobPage::showRows);
-    connect(&m_queue, &JobQueue::changed, this, &JobPage::showRun);
+    connect(&m_queue, &JobQueue::changed, this, &JobPage::showRunLater);
     connect(&m_queue, &JobQueue::idle, this, [this](const QString &module) {
         if (module == m_module)
             showRun();
@@ -196,6 +198,19 @@ void JobPage::showRun()
     if (progress.remainingSeconds && !isHeld)
         parts.append(remainingTimeText(*progress.remainingSeconds));
     m_form->statusLabel->setText(parts.join(u" · "_s));
+}
+
+/// Thousands may change in one go.
+void JobPage::showRunLater()
+{
+    if (std::exchange(m_isToShowRun, true))
+        return;
+    foundation::queue::asyncMain([guard = QPointer(this)] {
+        if (guard) {
+            guard->m_isToShowRun = false;
+            guard->showRun();
+        }
+    });
 }
 
 void JobPage::togglePause()

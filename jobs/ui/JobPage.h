@@ -73,6 +73,7 @@ private:
     void setUpActions();
     void take(const QMimeData &dropped);
     void showRun();
+    void showRunLater();
     void showRows();
     void togglePause();
 
@@ -81,6 +82,7 @@ private:
     QString m_module;
     std::unique_ptr<Ui::JobPage> m_form;
     JobListView *m_list;
+    bool m_isToShowRun = false;
 };
 
 }  // namespace kestrel

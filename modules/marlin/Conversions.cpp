@@ -79,21 +79,27 @@ int Conversions::add(const QStringList &paths)
         if (const JobRecord *record = m_queue.record(id); !isEnded(record->state))
             known.insert(record->source);
     }
-    int added = 0;
-    TranscodePlan plan = draft();
+    std::deque<std::function<void()>> turns;
     for (const QString &path : paths) {
         if (known.contains(path))
             continue;
         known.insert(path);
-        plan.sources = {path};
-        JobRecord record = conversionJob(plan, {});
-        setOwnFolder(record, m_draftFolder);
-        record.folder = m_draftFolder.isEmpty() ? conversionFolder(*m_settings, plan) : m_draftFolder;
-        record.state = JobState::Checking;
-        lookAt(m_queue.add(record));
-        ++added;
+        turns.emplace_back([this, path] { addOne(path); });
     }
+    const int added = int(turns.size());
+    inTurns(std::move(turns));
     return added;
+}
+
+void Conversions::addOne(const QString &path)
+{
+    TranscodePlan plan = draft();
+    plan.sources = {path};
+    JobRecord record = conversionJob(plan, {});
+    setOwnFolder(record, m_draftFolder);
+    record.folder = m_draftFolder.isEmpty() ? conversionFolder(*m_settings, plan) : m_draftFolder;
+    record.state = JobState::Checking;
+    lookAt(m_queue.add(record));
 }
 
 JobId Conversions::join(const QList<JobId> &ids)
@@ -255,12 +261,19 @@ void Conversions::reset()
     emit draftChanged();
 }
 
-/// The first of them at once, so that a click shows its effect; ten thousand would hold up the window.
 void Conversions::inTurns(const QList<JobId> &ids, const std::function<void(JobId)> &task)
 {
-    const bool isFree = m_turns.empty();
+    std::deque<std::function<void()>> turns;
     for (const JobId id : ids)
-        m_turns.emplace_back(id, task);
+        turns.emplace_back([task, id] { task(id); });
+    inTurns(std::move(turns));
+}
+
+/// The first of them at once, so that a click shows its effect; ten thousand would hold up the window.
+void Conversions::inTurns(std::deque<std::function<void()>> turns)
+{
+    const bool isFree = m_turns.empty();
+    std::ranges::move(turns, std::back_inserter(m_turns));
     if (isFree)
         takeTurn(atOnce);
 }
@@ -268,9 +281,9 @@ void Conversions::inTurns(const QList<JobId> &ids, const std::function<void(JobI
 void Conversions::takeTurn(qsizetype most)
 {
     for (; most > 0 && !m_turns.empty(); --most) {
-        const auto [id, task] = std::move(m_turns.front());
+        const std::function<void()> turn = std::move(m_turns.front());
         m_turns.pop_front();
-        task(id);
+        turn();
     }
     if (m_turns.empty() || std::exchange(m_isTurnComing, true))
         return;

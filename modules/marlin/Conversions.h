@@ -84,6 +84,8 @@ private:
     void probed(qint64 look, const MediaProber::Answer &answer);
     void know(JobId id);
     void changeJob(JobId id, const std::function<void(JobRecord &)> &change);
+    void addOne(const QString &path);
+    void inTurns(std::deque<std::function<void()>> turns);
     void inTurns(const QList<JobId> &ids, const std::function<void(JobId)> &task);
     void takeTurn(qsizetype most);
     void forgetRemoved();
@@ -99,7 +101,7 @@ private:
     QHash<JobId, Knowledge> m_known;
     QHash<qint64, Look> m_looks;
     qint64 m_lastLook = 0;
-    std::deque<std::pair<JobId, std::function<void(JobId)>>> m_turns;
+    std::deque<std::function<void()>> m_turns;
     bool m_isTurnComing = false;
     bool m_isForgetting = false;
 };

@@ -4,7 +4,6 @@
 Each case converts a generated sample and looks at what arrived with ffprobe. With patterns only the cases run whose
 names contain one of them; `presets` writes and reads back every preset. Samples are made anew, or kept in the folder
 that CATALOGUE_SAMPLES names. The exit status is the number of failures."""
-import base64
 import json
 import os
 import pathlib

@@ -11,10 +11,13 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QDropEvent>
 #include <QFileInfo>
+#include <QMimeData>
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
@@ -61,6 +64,12 @@ protected:
     {
         return waitUntil([&] { return idAt(row) > 0 && recordAt(row).state == state; }, 30'000);
     }
+    void convert()
+    {
+        auto *button = find<QPushButton>(u"startButton"_s);
+        ASSERT_TRUE(waitUntil([button] { return button->isEnabled(); }));
+        button->click();
+    }
     QVariant shown(int row, int role, int column = 0)
     {
         const auto *list = find<JobListView>(u"jobList"_s);
@@ -95,12 +104,27 @@ TEST_F(MarlinControllerTest, AddsEachFileOnceLooksAtItAndConverts)
     EXPECT_TRUE(shown(0, Qt::AccessibleTextRole).toString().contains(u"Ready"));
     EXPECT_TRUE(waitUntil([&] { return !shown(0, Qt::DecorationRole).value<QPixmap>().isNull(); }, 20'000));
 
-    find<QPushButton>(u"startButton"_s)->click();
+    convert();
     ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();
     EXPECT_EQ(settings.outputs(), QStringList{u"film.mp4"_s});
     // What is done does not stand in the way of doing it again.
     controller->openFiles({film});
     EXPECT_EQ(queue().order(module).size(), 3);
+}
+
+TEST_F(MarlinControllerTest, FilesCanBeDroppedOnTheRows)
+{
+    const QString film = clip(u"film.mkv"_s);
+    controller->openFiles({film});
+    controller->view()->show();
+    QMimeData files;
+    files.setUrls({QUrl::fromLocalFile(film), QUrl::fromLocalFile(clip(u"other.mkv"_s))});
+    QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(find<JobListView>(u"jobList"_s)->viewport(), &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(find<JobListView>(u"jobList"_s)->viewport(), &drop);
+    EXPECT_EQ(queue().order(module).size(), 2);
 }
 
 TEST_F(MarlinControllerTest, WhatIsLeftOutStandsInTheRowBeforeTheStart)
@@ -168,7 +192,7 @@ TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)
     ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
     settings.dispatcher().setMergeMedia(true);
     choose(u"mkv-copy"_s);
-    find<QPushButton>(u"startButton"_s)->click();
+    convert();
     ASSERT_EQ(queue().order(module).size(), 1);
     ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();
     EXPECT_EQ(planAt(0).sources.size(), 2);

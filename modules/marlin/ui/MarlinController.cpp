@@ -7,6 +7,7 @@
 #include "PresetDialog.h"
 #include "Thumbnails.h"
 #include "foundation/NotificationCenter.h"
+#include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
@@ -219,10 +220,18 @@ void MarlinController::play(const QString &path)
         warn("The player is missing. Please install the application again."_key.localized());
 }
 
+/// Thousands may change in one go.
 void MarlinController::showState()
 {
-    if (m_page)
-        m_page->setStartEnabled(!m_conversions->startable().isEmpty());
+    if (std::exchange(m_isToShow, true))
+        return;
+    foundation::queue::asyncMain([guard = QPointer(this)] {
+        if (!guard)
+            return;
+        guard->m_isToShow = false;
+        if (guard->m_page)
+            guard->m_page->setStartEnabled(!guard->m_conversions->startable().isEmpty());
+    });
 }
 
 }  // namespace kestrel

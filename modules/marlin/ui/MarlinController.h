@@ -79,6 +79,7 @@ private:
     QPointer<JobPage> m_page;
     QPointer<PresetChooser> m_presets;
     QPointer<OptionsPanel> m_options;
+    bool m_isToShow = false;
 };
 
 }  // namespace kestrel
