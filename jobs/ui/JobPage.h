@@ -63,6 +63,7 @@ signals:
     void textDropped(const QString &text);  ///< or pasted: addresses
 
 protected:
+    bool event(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

@@ -1,12 +1,11 @@
 #!/usr/bin/env python3
 """Conversions of damaged sources, damaged outputs, good files, full and broken disks: what may be called done.
 
-damage_test.py HELPER FAILING_DISK [PART…]    parts: sources outputs good full broken flood; all by default
+damage_test.py HELPER FAILING_DISK [PART…]    parts: sources outputs good full broken; all by default
 """
 import json
 import os
 import random
-import resource
 import shutil
 import subprocess
 import sys
@@ -225,18 +224,7 @@ def broken(bench):
         print(f"broken disk, {extension}: {', '.join(states)}")
 
 
-def flood(bench):
-    """A gigabyte of messages."""
-    before = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
-    result = bench.convert("mp4-h264", bench.samples["mkv"], "--encode",
-                           tool=bench.tool("yes '[h264 @ 0x1] [error] Invalid data found when processing input' | head -c 1000000000 >&2; exit 1"))
-    bench.expect(result["state"] == "failed", words(result))
-    peak = resource.getrusage(resource.RUSAGE_CHILDREN).ru_maxrss
-    bench.expect(peak <= max(before, 200_000), f"{peak} KB of memory")
-    print(f"1 GB of messages: {words(result)}; {peak // 1024} MB at most")
-
-
-PARTS = {"sources": sources, "outputs": outputs, "good": good, "full": full, "broken": broken, "flood": flood}
+PARTS = {"sources": sources, "outputs": outputs, "good": good, "full": full, "broken": broken}
 
 
 def main():

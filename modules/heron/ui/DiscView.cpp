@@ -21,7 +21,7 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr QSize coverSize{180, 120}, frameSize{64, 40};
+constexpr QSize coverSize{180, 120}, titlePictureSize{64, 40};
 
 /// As large as the place takes it, at its own shape.
 QPixmap pictureFor(const QString &path, QSize size, qreal scale)
@@ -52,7 +52,7 @@ DiscView::DiscView(const QString &language, QWidget *parent)
     tarnwell::setTextStyle(m_form->choiceLabel, 13, QFont::Normal, palette::quietText);
     tarnwell::setTextStyle(m_form->messageLabel, 13, QFont::Normal, palette::text);
     m_form->coverLabel->setFixedSize(coverSize);
-    m_form->titles->setIconSize(frameSize);
+    m_form->titles->setIconSize(titlePictureSize);
     m_form->titles->setHeaderLabels({"Title"_key.localized(), "Length"_key.localized(), "Details"_key.localized()});
     m_form->titles->header()->setSectionResizeMode(0, QHeaderView::Stretch);
     m_form->titles->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
@@ -118,7 +118,7 @@ void DiscView::addTitle(const disc::DiscTitle &title)
         facts.append(Sentence("same as title %1"_key, {QString::number(title.duplicateOf)}).localized());
     item->setText(2, facts.join(u", "_s));
     item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-    item->setSizeHint(0, QSize(0, frameSize.height() + 6));
+    item->setSizeHint(0, QSize(0, titlePictureSize.height() + 6));
     item->setData(0, NumberRole, title.number);
     item->setData(0, KindRole, TitleItem);
     item->setCheckState(0, title.isMain ? Qt::Checked : Qt::Unchecked);
@@ -162,7 +162,7 @@ void DiscView::setPicture(int title, const QString &path)
     }
     const QSignalBlocker blocker(m_form->titles);
     if (QTreeWidgetItem *item = itemOf(title))
-        item->setIcon(0, QIcon(pictureFor(path, frameSize, devicePixelRatioF())));
+        item->setIcon(0, QIcon(pictureFor(path, titlePictureSize, devicePixelRatioF())));
     m_form->titles->viewport()->update();
 }
 
