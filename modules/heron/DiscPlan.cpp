@@ -107,8 +107,11 @@ QJsonObject DiscPlan::toJson() const
                      {u"volume"_s, volume},
                      {u"bytes"_s, bytes},
                      {u"seconds"_s, seconds}};
-    if (way == DiscWay::Rip)
-        json[u"transcode"_s] = transcode.toJson();
+    if (way == DiscWay::Rip) {
+        TranscodePlan stored = transcode;
+        stored.sources = {source};  // a plan without any is none
+        json[u"transcode"_s] = stored.toJson();
+    }
     return json;
 }
 
