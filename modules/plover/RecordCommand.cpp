@@ -59,18 +59,6 @@ QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
     return arguments + QStringList{u"-i"_s, target.display};
 }
 
-/// The sources of sound, as the sound server names them.
-QStringList soundSources(const RecordPlan &plan)
-{
-    using enum RecordPlan::Sound;
-    QStringList sources;
-    if (plan.sound == System || plan.sound == Both)
-        sources.append(u"@DEFAULT_MONITOR@"_s);
-    if (plan.sound == Microphone || plan.sound == Both)
-        sources.append(plan.microphone.isEmpty() ? u"@DEFAULT_SOURCE@"_s : plan.microphone);
-    return sources;
-}
-
 QStringList soundInput(const QString &source, bool isSilent)
 {
     if (isSilent)
@@ -129,6 +117,17 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
 }
 
 }  // namespace
+
+QStringList soundSources(const RecordPlan &plan)
+{
+    using enum RecordPlan::Sound;
+    QStringList sources;
+    if (plan.sound == System || plan.sound == Both)
+        sources.append(u"@DEFAULT_MONITOR@"_s);
+    if (plan.sound == Microphone || plan.sound == Both)
+        sources.append(plan.microphone.isEmpty() ? u"@DEFAULT_SOURCE@"_s : plan.microphone);
+    return sources;
+}
 
 QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch)
 {

@@ -27,6 +27,9 @@ struct RecordStretch {
 /// last half second at any moment.
 QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch);
 
+/// The sources of the plan's sound, as the sound server names them.
+QStringList soundSources(const RecordPlan &plan);
+
 /// What joins the stretches, without encoding, into the file that was asked for. `list` is for `joinList`'s text.
 QStringList finishArguments(const QString &list, const QString &output);
 QByteArray joinList(const QStringList &stretches);

@@ -48,8 +48,9 @@ void RecordJob::Tally::readLine(const QByteArray &line)
     const qsizetype equals = line.indexOf('=');
     const QByteArray key = line.left(std::max<qsizetype>(equals, 0)).trimmed();
     const qint64 value = line.mid(equals + 1).trimmed().toLongLong();
-    if (key == "out_time_us")
-        seconds = std::max(seconds, double(value) / 1e6);
+    // The time that is told counts from the first report on; pictures come at a constant rate.
+    if (key == "frame")
+        pictures = std::max(pictures, value);
     else if (key == "total_size")
         bytes = std::max(bytes, value);
     else if (key == "dup_frames")
@@ -113,7 +114,7 @@ void RecordJob::beginStretch()
     const RecordStretch stretch{.target = m_target,
                                 .size = m_target.area.size(),
                                 .begin = now + lead,
-                                .seconds = plan.seconds > 0 ? plan.seconds - m_recorded.seconds : 0,
+                                .seconds = plan.seconds > 0 ? plan.seconds - recordedSeconds() : 0,
                                 .isSilent = m_isSilent,
                                 .output = part.partPath()};
     const QStringList arguments = recordArguments(plan, stretch);
@@ -139,8 +140,8 @@ void RecordJob::readProgress(const QByteArray &line)
 void RecordJob::stretchEnded(const ToolEnding &ending)
 {
     m_recorder.clear();
-    const bool hasPictures = m_stretch.seconds > 0;
-    m_recorded = {.seconds = recordedSeconds(),
+    const bool hasPictures = m_stretch.pictures > 0;
+    m_recorded = {.pictures = m_recorded.pictures + m_stretch.pictures,
                   .bytes = m_recorded.bytes + m_stretch.bytes,
                   .missed = m_recorded.missed + m_stretch.missed};
     m_stretch = {};
@@ -152,7 +153,7 @@ void RecordJob::stretchEnded(const ToolEnding &ending)
         m_recording.write();
     }
     constexpr double tolerance = 0.2;
-    const bool isComplete = m_recording.plan.seconds > 0 && m_recorded.seconds > m_recording.plan.seconds - tolerance;
+    const bool isComplete = m_recording.plan.seconds > 0 && recordedSeconds() > m_recording.plan.seconds - tolerance;
     if (isStopping() || m_isToEnd || isComplete)
         return endRecording();
     if (ending.cause == ToolEnding::Cause::Stopped) {
@@ -229,7 +230,7 @@ void RecordJob::endRecording()
     if (m_recording.stretches.isEmpty())
         return fail(m_isRecovery ? Sentence("Nothing of the recording is left."_key)
                                  : Sentence("Nothing was recorded."_key));
-    emit progressed({.seconds = m_recorded.seconds, .bytes = m_recorded.bytes, .stage = Sentence("Finishing…"_key)});
+    emit progressed({.seconds = recordedSeconds(), .bytes = m_recorded.bytes, .stage = Sentence("Finishing…"_key)});
     join();
 }
 
@@ -268,7 +269,7 @@ void RecordJob::check(const ToolEnding &joining)
         OutputExpectation expected;
         expected.tracks = recordedTracks(m_recording.plan);
         if (!m_isRecovery)
-            expected.seconds = m_recorded.seconds;
+            expected.seconds = recordedSeconds();
         const OutputFindings findings = found ? compareOutput(expected, {}, *found) : OutputFindings();
         if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
             !findings.mismatch.isEmpty()) {

@@ -46,7 +46,7 @@ protected:
 private:
     /// What a stretch came to, as ffmpeg told it.
     struct Tally {
-        double seconds = 0;
+        qint64 pictures = 0;
         qint64 bytes = 0;
         qint64 missed = 0;  ///< pictures of which there was none in time
         void readLine(const QByteArray &line);
@@ -64,7 +64,7 @@ private:
     void placeAsItIs(const tarnwell::Sentence &problem);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
     void removeStretches();
-    double recordedSeconds() const { return m_recorded.seconds + m_stretch.seconds; }
+    double recordedSeconds() const { return double(m_recorded.pictures + m_stretch.pictures) / m_recording.plan.rate; }
 
     UnfinishedRecording m_recording;
     RecordTools m_tools;

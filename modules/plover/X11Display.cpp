@@ -163,7 +163,7 @@ quint32 X11Display::atom(const char *name) const
     xcb_connection_t *connection = m_connection.get();
     const auto reply = answer(
         xcb_intern_atom_reply(connection, xcb_intern_atom(connection, 1, uint16_t(std::strlen(name)), name), nullptr));
-    return reply ? reply->atom : XCB_ATOM_NONE;
+    return reply ? reply->atom : 0;
 }
 
 QByteArray X11Display::property(quint32 window, const char *name) const

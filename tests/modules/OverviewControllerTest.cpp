@@ -1,7 +1,6 @@
 #include "ModuleSettings.h"
 #include "foundation/NotificationCenter.h"
 #include "modules/petrel/ui/PetrelController.h"
-#include "modules/plover/ui/PloversController.h"
 
 #include <gtest/gtest.h>
 
@@ -28,8 +27,7 @@ TEST(OverviewControllerTest, ShowsItsOwnFolderAndLeadsBack)
     const struct {
         qint32 kind;
         std::unique_ptr<ModuleController> (*make)(const ModuleConfigure &);
-    } rows[] = {{ModuleSettingDownload, made<PetrelController>},
-                {ModuleSettingRecord, made<PloversController>}};
+    } rows[] = {{ModuleSettingDownload, made<PetrelController>}};
     for (const auto &[kind, make] : rows) {
         test::ModuleSettings settings(kind);
         const auto module = make(settings.configure());

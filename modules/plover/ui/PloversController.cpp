@@ -1,24 +1,295 @@
 #include "PloversController.h"
 
-#include <QtGlobal>
+#include "CapturePanel.h"
+#include "ClickRings.h"
+#include "ControlBar.h"
+#include "foundation/Queues.h"
+#include "jobs/JobList.h"
+#include "jobs/JobQueue.h"
+#include "jobs/ui/JobPage.h"
+#include "media/MediaProber.h"
+#include "modules/common/LateView.h"
+#include "modules/common/OutputFolderLine.h"
+#include "modules/plover/X11Display.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/Images.h"
+
+#include <QDateTime>
+#include <QDir>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSystemTrayIcon>
+
+using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
 namespace {
 
-constexpr ModuleOverview ploverOverview = {
-    .kind = ModuleSettingRecord,
-    .image = "plover_module",
-    .headline = QT_TRANSLATE_NOOP("TarnwellPublic", "Your screen, as a video"),
-    .plans = {QT_TRANSLATE_NOOP("TarnwellPublic", "It will record the whole screen, a window or a part of it."),
-              QT_TRANSLATE_NOOP("TarnwellPublic", "It will record the sound of the computer and of a microphone."),
-              QT_TRANSLATE_NOOP("TarnwellPublic", "It will show mouse clicks where you want them seen.")},
+constexpr JobPageTexts ploverTexts = {
+    .title = "Recorder"_key,
+    .emptyHeadline = "Your screen, as a video"_key,
+    .emptyText = "Choose above what is recorded, then press Record."_key,
+    .emptyButton = {},
+    .start = "Record"_key,
+    .emptyImage = "plover_module",
 };
+
+constexpr int countdownSeconds = 3;
 
 }  // namespace
 
-PloversController::PloversController(const ModuleConfigure &configure) : OverviewController(ploverOverview, configure)
+PloversController::PloversController(const ModuleConfigure &configure, ModuleServices &services)
+    : m_services(services),
+      m_settings(configure.value(moduleSettingKey.toString())),
+      m_recipe([this] {
+          return RecordTools{.transcoder = m_settings->getTranscoderPath(),
+                             .prober = proberBeside(m_settings->getTranscoderPath())};
+      }),
+      m_view(std::make_unique<LateView>([this] { return makeContents(); }))
 {
+}
+
+PloversController::~PloversController()
+{
+    if (m_list)
+        queue().setRecipe(ploverJobs.toString(), nullptr);
+}
+
+JobQueue &PloversController::queue()
+{
+    return m_services.queue();
+}
+
+std::unique_ptr<QWidget> PloversController::makeContents()
+{
+    const QString module = ploverJobs.toString();
+    queue().setRecipe(module, &m_recipe);
+    m_list = std::make_unique<JobList>(queue(), module);
+    auto page = std::make_unique<JobPage>(queue(), *m_list, module, ploverTexts);
+    m_page = page.get();
+    auto *panel = new CapturePanel;
+    m_panel = panel;
+    page->setTopArea(panel);
+    auto *folder = new OutputFolderLine;
+    folder->setDispatcher(m_settings);
+    page->addChoice(folder, 1);
+
+    connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
+    connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
+    connect(panel, &CapturePanel::changed, this, &PloversController::showState);
+    connect(&queue(), &JobQueue::changed, this, &PloversController::recordChanged);
+    connect(&m_meter, &LevelMeter::levelChanged, this, [this](double level) {
+        if (m_bar)
+            m_bar->setLevel(level);
+    });
+    queue().start(addRecoveries(queue()));
+    showState();
+    return page;
+}
+
+void PloversController::setCompletedHandler(CompletedHandler handler)
+{
+    m_completedHandler = std::move(handler);
+}
+
+QWidget *PloversController::view()
+{
+    return m_view.get();
+}
+
+QString PloversController::windowTitle() const
+{
+    return tarnwell::AppLocalizedString(u"Recorder"_s);
+}
+
+void PloversController::doBackAction()
+{
+    m_countdown = 0;
+    if (m_panel)
+        m_panel->release();
+    if (m_completedHandler)
+        m_completedHandler(this);
+}
+
+bool PloversController::shouldTerminate()
+{
+    return true;
+}
+
+void PloversController::startRecorderSession()
+{
+    m_view->makeContents();
+    m_panel->open(m_settings->getTranscoderPath());
+    showState();
+}
+
+void PloversController::onViewDidDisappear()
+{
+    m_countdown = 0;
+    if (m_panel)
+        m_panel->release();
+}
+
+/// While it counts down the same button begins at once.
+void PloversController::startClicked()
+{
+    QString obstacle = m_panel->obstacle().localized();
+    const bool isReady = obstacle.isEmpty() && m_settings->check(&obstacle);
+    if (!isReady) {
+        tarnwell::runAlert({.message = obstacle,
+                            .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
+                            .alternateButton = {},
+                            .informativeText = {},
+                            .style = tarnwell::AlertStyle::Warning});
+    } else if (m_countdown == 0 && m_panel->wantsCountdown()) {
+        countDown(countdownSeconds);
+    } else {
+        record();
+    }
+}
+
+void PloversController::countDown(int seconds)
+{
+    m_countdown = seconds;
+    if (seconds == 0)
+        return record();
+    m_page->showMessage(
+        Sentence("Recording begins in %1 s. Press Record to begin at once."_key, {QString::number(seconds)})
+            .localized());
+    foundation::queue::afterMain(std::chrono::seconds(1), [self = QPointer(this), seconds] {
+        if (self && self->m_countdown == seconds)
+            self->countDown(seconds - 1);
+    });
+}
+
+void PloversController::record()
+{
+    m_countdown = 0;
+    RecordPlan plan = recordPlan(*m_settings);
+    m_panel->choose(plan);
+    if (const auto target = captureTarget(plan))
+        m_target = *target;
+    const QString folder = m_settings->getVideoDir();
+    QDir().mkpath(folder);
+    m_recording = queue().add(recordingJob(plan, folder));
+    m_meter.open(m_settings->getTranscoderPath(), plan);
+    m_panel->release();
+    openControls();
+    queue().start({m_recording});
+    showState();
+}
+
+void PloversController::openControls()
+{
+    m_keys = std::make_unique<X11Keys>();
+    connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
+    if (m_settings->isCaptureMouseClick()) {
+        m_rings = std::make_unique<ClickRings>(*m_keys);
+        m_rings->setActive(true);
+    }
+    m_tray = std::make_unique<QSystemTrayIcon>(tarnwell::namedIcon(u"kestrel_icon_small"_s));
+    m_tray->setToolTip("Recording"_key.localized());
+    connect(m_tray.get(), &QSystemTrayIcon::activated, this, &PloversController::stopRecording);
+    m_tray->show();
+
+    m_bar = std::make_unique<ControlBar>();
+    connect(m_bar.get(), &ControlBar::pauseClicked, this, &PloversController::togglePause);
+    connect(m_bar.get(), &ControlBar::stopClicked, this, &PloversController::stopRecording);
+    connect(m_bar.get(), &ControlBar::snapshotClicked, this, &PloversController::takeSnapshot);
+    if (m_target.display.isEmpty())
+        return;
+    QRect area = m_target.area;
+    if (m_target.window != 0) {
+        const auto display = X11Display::open();
+        if (const auto window = display ? (*display)->window(m_target.window) : std::nullopt)
+            area = window->area;
+    }
+    // Without room beside the picture, this window steps out of it and tray and keys remain.
+    if (!m_bar->showBeside(area))
+        m_view->window()->showMinimized();
+}
+
+void PloversController::closeControls()
+{
+    m_recording = 0;
+    m_meter.close();
+    m_rings.reset();
+    m_keys.reset();
+    m_tray.reset();
+    // Its own button may be what ended the recording.
+    if (m_bar)
+        m_bar.release()->deleteLater();
+    QWidget *window = m_view->window();
+    if (window->isMinimized())
+        window->showNormal();
+    if (m_view->isVisible())
+        m_panel->open(m_settings->getTranscoderPath());
+}
+
+void PloversController::recordChanged(JobId id)
+{
+    if (id != m_recording || id == 0)
+        return;
+    const JobRecord *record = queue().record(id);
+    if (!record || isEnded(record->state))
+        closeControls();
+    else if (m_bar)
+        m_bar->showRecord(*record);
+    showState();
+}
+
+void PloversController::showState()
+{
+    if (m_page)
+        m_page->setStartEnabled(m_recording == 0);
+}
+
+void PloversController::keyPressed(X11Keys::Key key)
+{
+    switch (key) {
+        case X11Keys::Key::Stop:
+            // Not within the keys' own signal, which ends with them.
+            return foundation::queue::asyncMain([self = QPointer(this)] {
+                if (self)
+                    self->stopRecording();
+            });
+        case X11Keys::Key::Pause:
+            return togglePause();
+        case X11Keys::Key::Snapshot:
+            return takeSnapshot();
+    }
+}
+
+void PloversController::togglePause()
+{
+    const JobRecord *record = queue().record(m_recording);
+    if (record)
+        queue().setPaused({m_recording}, record->state != JobState::Paused);
+}
+
+void PloversController::stopRecording()
+{
+    if (m_recording != 0)
+        queue().stop({m_recording});
+}
+
+/// Beside the recording: this module has no folder of its own for pictures.
+void PloversController::takeSnapshot()
+{
+    if (m_target.display.isEmpty())
+        return;
+    QScreen *screen = QGuiApplication::primaryScreen();
+    const double ratio = screen->devicePixelRatio();
+    const QRect area((QPointF(m_target.area.topLeft()) / ratio).toPoint(), m_target.area.size() / ratio);
+    const QPixmap picture = screen->grabWindow(m_target.window, area.x(), area.y(), area.width(), area.height());
+    const QString name = u"/Snapshot %1.png"_s.arg(QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss.zzz"_s));
+    picture.save(m_settings->getVideoDir() + name);
 }
 
 }  // namespace kestrel

@@ -1,13 +1,79 @@
 #pragma once
 
-#include "modules/common/OverviewController.h"
+#include "modules/Module.h"
+#include "modules/plover/LevelMeter.h"
+#include "modules/plover/RecordRecipe.h"
+#include "modules/plover/X11Keys.h"
+
+#include <QObject>
+#include <QPointer>
+
+class QSystemTrayIcon;
 
 namespace kestrel {
 
-/// The recording module. It has no recorder yet that could begin a session, so it does not ask for that message.
-class PloversController final : public OverviewController {
+class CapturePanel;
+class ClickRings;
+class ControlBar;
+class JobList;
+class JobPage;
+class JobQueue;
+class LateView;
+
+/// The recording module: what is recorded is chosen above, recordings stand in the list below. Devices are open from
+/// `startRecorderSession` until the module is left; a recording goes on without it, and is ended from the control bar,
+/// the tray or the keyboard.
+class PloversController final : public QObject,
+                                public ModuleController,
+                                public ModuleRecorderSession,
+                                public ModuleDisappearance {
+    Q_OBJECT
 public:
-    explicit PloversController(const ModuleConfigure &configure);
+    PloversController(const ModuleConfigure &configure, ModuleServices &services);
+    ~PloversController() override;
+
+    void setCompletedHandler(CompletedHandler handler) override;
+    QWidget *view() override;
+    QString windowTitle() const override;
+    void doBackAction() override;
+    bool shouldTerminate() override;
+    void startRecorderSession() override;
+    void onViewDidDisappear() override;
+
+private:
+    std::unique_ptr<QWidget> makeContents();
+    JobQueue &queue();
+    void startClicked();
+    void countDown(int seconds);
+    void record();
+    void openControls();
+    void closeControls();
+    void recordChanged(JobId id);
+    void showState();
+    void keyPressed(X11Keys::Key key);
+    void togglePause();
+    void stopRecording();
+    void takeSnapshot();
+
+    ModuleServices &m_services;
+    std::shared_ptr<JKestrelSettingDispatcher> m_settings;
+    CompletedHandler m_completedHandler;
+    RecordRecipe m_recipe;
+    std::unique_ptr<LateView> m_view;
+    // From the making of the view's contents on
+    std::unique_ptr<JobList> m_list;
+    QPointer<JobPage> m_page;
+    QPointer<CapturePanel> m_panel;
+    // While it counts down
+    int m_countdown = 0;  ///< seconds that are left; 0 where it does not count
+    // While it records
+    JobId m_recording = 0;
+    CaptureTarget m_target;
+    LevelMeter m_meter;
+    std::unique_ptr<X11Keys> m_keys;
+    std::unique_ptr<ClickRings> m_rings;
+    std::unique_ptr<ControlBar> m_bar;
+    std::unique_ptr<QSystemTrayIcon> m_tray;
 };
 
 }  // namespace kestrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "RecordPlan.h"
+
+#include <QObject>
+
+#include <memory>
+
+namespace kestrel {
+
+class ToolProcess;
+
+/// How loud a recording's sound is at the moment. Listens from `open` until `close` or its own end. Main thread.
+class LevelMeter : public QObject {
+    Q_OBJECT
+public:
+    explicit LevelMeter(QObject *parent = nullptr);
+    ~LevelMeter() override;
+
+    /// Instead of what it listened to; to nothing for a plan without sound.
+    void open(const QString &transcoderPath, const RecordPlan &plan);
+    void close();
+
+    /// 0 to 1 of what a line of ffmpeg's tells, 60 decibels being nothing; -1 where it tells none.
+    static double levelIn(const QByteArray &line);
+
+signals:
+    void levelChanged(double level);  ///< 0 to 1, ten times a second
+
+private:
+    std::unique_ptr<ToolProcess> m_tool;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,82 @@
+#include "ControlBar.h"
+
+#include "jobs/RemainingTime.h"
+#include "tarnwell/TextKey.h"
+
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QScreen>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::operator""_key;
+
+ControlBar::ControlBar()
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
+      m_text(new QLabel),
+      m_level(new QProgressBar),
+      m_pause(new QPushButton("Pause"_key.localized()))
+{
+    setAttribute(Qt::WA_ShowWithoutActivating);
+    setObjectName(u"controlBar"_s);
+    setWindowTitle("Recording"_key.localized());
+    auto *layout = new QHBoxLayout(this);
+    layout->setContentsMargins(12, 6, 12, 6);
+    m_text->setMinimumWidth(150);
+    m_level->setRange(0, 100);
+    m_level->setTextVisible(false);
+    m_level->setFixedWidth(60);
+    m_level->setAccessibleName("Sound level"_key.localized());
+    auto *stop = new QPushButton("Stop"_key.localized());
+    auto *snapshot = new QPushButton("Snapshot"_key.localized());
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, stop, snapshot})
+        layout->addWidget(widget);
+    connect(m_pause, &QPushButton::clicked, this, &ControlBar::pauseClicked);
+    connect(stop, &QPushButton::clicked, this, &ControlBar::stopClicked);
+    connect(snapshot, &QPushButton::clicked, this, &ControlBar::snapshotClicked);
+}
+
+bool ControlBar::showBeside(const QRect &area)
+{
+    constexpr int gap = 8;
+    const double ratio = devicePixelRatioF();
+    const QRect recorded((QPointF(area.topLeft()) / ratio).toPoint(), area.size() / ratio);
+    const QSize size = sizeHint();
+    const QPoint places[] = {{recorded.left(), recorded.bottom() + gap},
+                             {recorded.left(), recorded.top() - gap - size.height()},
+                             {recorded.right() + gap, recorded.top()},
+                             {recorded.left() - gap - size.width(), recorded.top()}};
+    const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QPoint &place : places) {
+        const QRect bar(place, size);
+        const bool fits = std::any_of(screens.begin(), screens.end(),
+                                      [&](const QScreen *screen) { return screen->availableGeometry().contains(bar); });
+        if (fits) {
+            setGeometry(bar);
+            show();
+            return true;
+        }
+    }
+    hide();
+    return false;
+}
+
+void ControlBar::showRecord(const JobRecord &record)
+{
+    m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
+    m_text->setText(durationText(record.progress.seconds) + u" · "_s +
+                    QLocale().formattedDataSize(record.progress.bytes));
+}
+
+void ControlBar::setLevel(double level)
+{
+    m_level->setValue(int(level * 100));
+}
+
+}  // namespace kestrel

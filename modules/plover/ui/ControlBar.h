@@ -1,0 +1,36 @@
+#pragma once
+
+#include "jobs/JobRecord.h"
+
+#include <QWidget>
+
+class QLabel;
+class QProgressBar;
+class QPushButton;
+
+namespace kestrel {
+
+/// The small bar that stands beside what is recorded: time, size, level, and what can be done with the recording.
+class ControlBar : public QWidget {
+    Q_OBJECT
+public:
+    ControlBar();
+
+    /// Puts it beside the area, in pixels of the desktop. False, and it stays hidden, where there is no room that is
+    /// not in the picture.
+    bool showBeside(const QRect &area);
+    void showRecord(const JobRecord &record);
+    void setLevel(double level);
+
+signals:
+    void pauseClicked();
+    void stopClicked();
+    void snapshotClicked();
+
+private:
+    QLabel *m_text;
+    QProgressBar *m_level;
+    QPushButton *m_pause;
+};
+
+}  // namespace kestrel
