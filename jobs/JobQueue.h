@@ -119,7 +119,9 @@ private:
     void schedule();
     void startIn(Lane lane, Spaces &spaces);
     Entry *nextIn(Lane lane, const QSet<JobId> &skipped);
+    bool isFree(Entry &entry);
     bool hasSpace(Entry &entry, Spaces &spaces);
+    void block(Entry &entry, const tarnwell::Sentence &reason);
     void run(Entry &entry);
     void takeProgress(JobId id, const JobProgress &progress);
     void showProgress();
@@ -141,7 +143,7 @@ private:
     bool m_isScheduling = false;
     bool m_isToScheduleAgain = false;
     bool m_isShowingLater = false;
-    bool m_isLookingForSpace = false;
+    bool m_isToLookAgain = false;
     bool m_isEnding = false;
 };
 

@@ -1,3 +1,4 @@
+#include "JobObstacle.h"
 #include "JobQueue.h"
 #include "JobRun.h"
 
@@ -14,7 +15,7 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr qint64 spaceReserve = 200'000'000;  ///< bytes that are left free beside the output
-constexpr auto spaceInterval = 10s;
+constexpr auto blockedInterval = 10s;
 constexpr int maximumBlocked = 64;  ///< looked at in one lane, past those that wait for space
 
 qint64 bytesStillNeeded(qint64 expectedBytes, const JobProgress &progress)
@@ -101,7 +102,7 @@ void JobQueue::startIn(Lane lane, Spaces &spaces)
         if (!entry)
             return;
         blocked.insert(entry->record.id);  // or gone from those that wait
-        if (hasSpace(*entry, spaces))
+        if (isFree(*entry) && hasSpace(*entry, spaces))
             run(*entry);
     }
 }
@@ -129,7 +130,40 @@ JobQueue::Entry *JobQueue::nextIn(Lane lane, const QSet<JobId> &skipped)
     return next;
 }
 
-/// Where there is too little, the record says so and is looked at again after a while.
+/// Whether its module has nothing against it; else the record says what.
+bool JobQueue::isFree(Entry &entry)
+{
+    const auto *obstacles = dynamic_cast<const JobObstacle *>(moduleOf(entry).recipe);
+    if (!obstacles)
+        return true;
+    QList<const JobRecord *> active;
+    for (const JobId id : std::as_const(m_active)) {
+        if (const JobRecord &other = find(id)->record; other.module == entry.record.module)
+            active.append(&other);
+    }
+    const tarnwell::Sentence obstacle = obstacles->obstacle(entry.record, active);
+    if (!obstacle.isEmpty())
+        block(entry, obstacle);
+    return obstacle.isEmpty();
+}
+
+/// The record says why it waits and is looked at again after a while.
+void JobQueue::block(Entry &entry, const tarnwell::Sentence &reason)
+{
+    if (!m_isToLookAgain) {
+        m_isToLookAgain = true;
+        later(blockedInterval, [this] {
+            m_isToLookAgain = false;
+            schedule();
+        });
+    }
+    if (entry.record.blocked == reason)
+        return;
+    entry.record.blocked = reason;
+    emit changed(entry.record.id);
+}
+
+/// Where there is too little, the record says so.
 bool JobQueue::hasSpace(Entry &entry, Spaces &spaces)
 {
     const QString &folder = entry.record.folder;
@@ -150,19 +184,8 @@ bool JobQueue::hasSpace(Entry &entry, Spaces &spaces)
     const qint64 needed = entry.expectedBytes + spaceReserve;
     if (needed <= available)
         return true;
-    if (!m_isLookingForSpace) {
-        m_isLookingForSpace = true;
-        later(spaceInterval, [this] {
-            m_isLookingForSpace = false;
-            schedule();
-        });
-    }
-    const tarnwell::Sentence blocked("Waiting for space on the disk: %1 needed"_key,
-                                     {QLocale().formattedDataSize(needed, 1, QLocale::DataSizeSIFormat)});
-    if (entry.record.blocked != blocked) {
-        entry.record.blocked = blocked;
-        emit changed(entry.record.id);
-    }
+    block(entry, {"Waiting for space on the disk: %1 needed"_key,
+                  {QLocale().formattedDataSize(needed, 1, QLocale::DataSizeSIFormat)}});
     return false;
 }
 

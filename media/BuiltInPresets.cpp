@@ -230,7 +230,7 @@ QString soundFor(const Container &container, const QString &video)
     };
     static constexpr Companion companions[] = {
         {"av1", "opus"},         {"vp9", "opus"},          {"vp8", "vorbis"},        {"theora", "vorbis"},
-        {"prores", "pcm_s16le"}, {"dnxhd", "pcm_s16le"},   {"dvvideo", "pcm_s16le"}, {"ffv1", "flac"},
+        {"prores", "pcm_s16le"}, {"dnxhd", "pcm_s16le"},   {"dvvideo", "pcm_s16le"}, {"ffv1", "pcm_s16le"},
         {"flv1", "mp3"},         {"huffyuv", "pcm_s16le"}, {"utvideo", "pcm_s16le"}};
     for (const Companion &row : companions) {
         if (video == QLatin1StringView(row.video) && sounds.contains(QLatin1StringView(row.sound)))

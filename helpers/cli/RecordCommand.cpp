@@ -134,7 +134,7 @@ ExitStatus runRecord(const Surroundings &surroundings, const QStringList &argume
     const JKestrelSettingDispatcher &settings = session.settings();
     Request request{.plan = recordPlan(settings), .folder = {}};
     bool isHelp = false;
-    const auto left = readArguments("record", std::span<const Option<Request>>(options), QString(), arguments, request, isHelp);
+    const auto left = readArguments<Request>("record", options, QString(), arguments, request, isHelp);
     if (!left)
         return wrongUsage(left.reason());
     if (isHelp)

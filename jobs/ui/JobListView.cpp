@@ -85,7 +85,6 @@ void JobListView::setUpKeys()
                 {Qt::Key_Backspace, [this] { removeSelected(); }},
                 {Qt::ALT | Qt::Key_Up, [this] { moveSelected(-1); }},
                 {Qt::ALT | Qt::Key_Down, [this] { moveSelected(1); }},
-                {QKeySequence::Copy, [this] { copyResults(selectedIds()); }},
                 {Qt::CTRL | Qt::Key_I, [this] { showDetails(currentId()); }}};
     for (const auto &[keys, action] : rows) {
         auto *shortcut = new QShortcut(keys, this);
@@ -210,6 +209,11 @@ void JobListView::copyResults(const QList<JobId> &ids)
     QGuiApplication::clipboard()->setMimeData(files);
 }
 
+void JobListView::copy()
+{
+    copyResults(selectedIds());
+}
+
 void JobListView::contextMenuEvent(QContextMenuEvent *event)
 {
     const QList<JobId> ids = selectedIds();
@@ -258,6 +262,15 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
     menu->popup(event->reason() == QContextMenuEvent::Keyboard
                     ? viewport()->mapToGlobal(visualRect(currentIndex()).center())
                     : event->globalPos());
+}
+
+/// Rows of its own alone: files from elsewhere are for the page, wherever they are dropped.
+void JobListView::dragEnterEvent(QDragEnterEvent *event)
+{
+    if (event->source() == this)
+        QListView::dragEnterEvent(event);
+    else
+        event->ignore();
 }
 
 void JobListView::selectionChanged(const QItemSelection &selected, const QItemSelection &deselected)

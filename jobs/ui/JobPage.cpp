@@ -1,6 +1,8 @@
 #include "JobPage.h"
 
 #include "JobListView.h"
+#include "foundation/FileNames.h"
+#include "foundation/Queues.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/RemainingTime.h"
@@ -12,7 +14,9 @@
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMimeData>
+#include <QPointer>
 #include <QShortcut>
 
 using namespace Qt::StringLiterals;
@@ -30,8 +34,8 @@ QStringList pathsIn(const QMimeData &data)
 {
     QStringList paths;
     for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
+        if (const QString path = foundation::pathOfUrl(url); !path.isNull())
+            paths.append(path);
     }
     return paths;
 }
@@ -99,7 +103,7 @@ void JobPage::setUpActions()
     connect(&m_model, &QAbstractItemModel::rowsInserted, this, &JobPage::showRows);
     connect(&m_model, &QAbstractItemModel::rowsRemoved, this, &JobPage::showRows);
     connect(&m_model, &QAbstractItemModel::modelReset, this, &JobPage::showRows);
-    connect(&m_queue, &JobQueue::changed, this, &JobPage::showRun);
+    connect(&m_queue, &JobQueue::changed, this, &JobPage::showRunLater);
     connect(&m_queue, &JobQueue::idle, this, [this](const QString &module) {
         if (module == m_module)
             showRun();
@@ -134,6 +138,11 @@ bool JobPage::isSidePanelVisible() const
 void JobPage::addChoice(QWidget *control, int stretch)
 {
     m_form->choiceLayout->addWidget(control, stretch);
+}
+
+void JobPage::setListVisible(bool visible)
+{
+    m_form->pages->setVisible(visible);
 }
 
 void JobPage::setStartEnabled(bool enabled)
@@ -191,6 +200,19 @@ void JobPage::showRun()
     m_form->statusLabel->setText(parts.join(u" · "_s));
 }
 
+/// Thousands may change in one go.
+void JobPage::showRunLater()
+{
+    if (std::exchange(m_isToShowRun, true))
+        return;
+    foundation::queue::asyncMain([guard = QPointer(this)] {
+        if (guard) {
+            guard->m_isToShowRun = false;
+            guard->showRun();
+        }
+    });
+}
+
 void JobPage::togglePause()
 {
     const QList<JobId> running = m_queue.idsIn({JobState::Running}, m_module);
@@ -212,6 +234,16 @@ void JobPage::dropEvent(QDropEvent *event)
 {
     take(*event->mimeData());
     event->acceptProposedAction();
+}
+
+/// The menu's "Paste" would take the key for itself; fields that it is meant for have been asked before.
+bool JobPage::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void JobPage::keyPressEvent(QKeyEvent *event)

@@ -53,6 +53,7 @@ void NXHardwareInfoController::windowDidLoad(QDialog *window)
     QSizePolicy policy = m_form->progressBar->sizePolicy();
     policy.setRetainSizeWhenHidden(true);
     m_form->progressBar->setSizePolicy(policy);
+    m_form->closeButton->setFocus();
     connect(m_form->copyButton, &QPushButton::clicked, this,
             [this] { QGuiApplication::clipboard()->setText(hardwareText(m_rows)); });
     connect(m_form->closeButton, &QPushButton::clicked, this, &NXHardwareInfoController::onCloseAction);

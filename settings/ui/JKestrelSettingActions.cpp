@@ -163,6 +163,7 @@ void JKestrelSettingController::onDownloadProxyEnableStateChanged()
     const bool isOn = m_form->downloaderProxyEnableButton->isChecked();
     m_form->downloaderProxyURLField->setEnabled(isOn);
     m_form->downloaderProxyPortField->setEnabled(isOn);
+    showProxyVerdict();
 }
 
 void JKestrelSettingController::showHardwareSettings()

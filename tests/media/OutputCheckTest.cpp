@@ -155,6 +155,20 @@ TEST(OutputCheckTest, PacketsOfAReport)
     EXPECT_FALSE(parseOutputReport("{}", 5));
 }
 
+TEST(OutputCheckTest, KeptTracksMayBeShorterThanTheFile)
+{
+    const Case film;
+    MediaInformation source = film.found.information;
+    EXPECT_EQ(secondsOfKept(film.expected, source), 60) << "the tracks tell nothing";
+    source.tracks[0].duration = 60;
+    EXPECT_EQ(secondsOfKept(film.expected, source), 60) << "one of them tells nothing";
+    source.tracks[1].duration = 41;
+    EXPECT_EQ(secondsOfKept(film.expected, source), 60);
+    const OutputExpectation sound{.tracks = {{Kind::Audio, u"mp3"_s}}, .seconds = 60};
+    EXPECT_EQ(secondsOfKept(sound, source), 41);
+    EXPECT_EQ(secondsOfKept({.tracks = sound.tracks, .seconds = 30}, source), 30) << "less was wanted";
+}
+
 /// Of a good conversion from a source with a length.
 TranscodeFacts goodFacts()
 {

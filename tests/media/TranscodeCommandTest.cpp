@@ -102,9 +102,10 @@ TEST(TranscodeCommand, BeginsAndEndsAsEveryRun)
 {
     EXPECT_EQ(lineFor(planFor(u"mp4-h264"_s)),
               "-hide_banner -nostdin -nostats -loglevel repeat+level+verbose -progress pipe:1 -stats_period 0.2 -y "
-              "-protocol_whitelist file -i file:/films/a.mp4 -map 0:0 -c:v:0 copy -map 0:1 -c:a:0 copy "
+              "-protocol_whitelist file -probesize 50M -analyzeduration 100M -i file:/films/a.mp4 -map 0:0 -c:v:0 copy "
+              "-map 0:1 -c:a:0 copy "
               "-map_metadata 0 -map_chapters -1 -disposition:a:0 0 -metadata:s:a:0 language=eng -dn "
-              "-max_muxing_queue_size 4096 -movflags +faststart -f mp4 file:/out/.part");
+              "-max_muxing_queue_size 4096 -movflags +faststart -strict experimental -f mp4 file:/out/.part");
 }
 
 TEST(TranscodeCommand, KeepsATrackOnlyWhereNothingIsLostOrAsked)
@@ -297,7 +298,7 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
         {"evened out", u"mp4-h264"_s, video(), [](Plan &plan) { plan.normalizes = true; },
          "-filter:a:0 loudnorm=I=-16:TP=-1.5:LRA=11 -c:a:0 aac -b:a:0 160000 -ar:a:0 48000"},
         {"H.265 under the name that players ask for", u"mp4-h265"_s, video(), {}, "-tag:v:0 hvc1"},
-        {"threads", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.threads = 3; }), "-threads 3 -i"},
+        {"threads", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.threads = 3; }), "-threads 3 "},
         {"a cut", u"mp4-h264"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 4.17, .end = 100}}; },
          "-ss 4.17 -to 60 -i file:/films/a.mp4"},
         {"several pieces", u"mp4-h264"_s, video(),
@@ -493,7 +494,7 @@ TEST(TranscodeCommand, TakesTheHardwareOnlyWhereItDoesTheSame)
     const TranscodeMachine machine{.hardwareDevice = u"/dev/dri/renderD128"_s};
     const auto encoding = planFor(u"mp4-h264"_s, [](Plan &p) { p.copies = false; });
     const std::string line = lineFor(encoding, film(), machine);
-    EXPECT_NE(line.find("-vaapi_device /dev/dri/renderD128 -i"), std::string::npos);
+    EXPECT_NE(line.find("-vaapi_device /dev/dri/renderD128 "), std::string::npos);
     EXPECT_NE(line.find("format=nv12,hwupload -c:v:0 h264_vaapi -qp 23"), std::string::npos) << line;
     EXPECT_TRUE(stepsFor(encoding, film(), machine)->takesShortcut);
     EXPECT_FALSE(stepsFor(withoutShortcuts(encoding), film(), machine)->takesShortcut);

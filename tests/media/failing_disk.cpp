@@ -33,7 +33,7 @@ bool isOnTheDisk(int file)
 
 }  // namespace
 
-extern "C" ssize_t write(int file, const void *bytes, size_t count)
+extern "C" __attribute__((visibility("default"))) ssize_t write(int file, const void *bytes, size_t count)
 {
     static auto *systemWrite = systemFunction<ssize_t(int, const void *, size_t)>("write");
     static const long long end = numberIn("DISK_FULL_AT");
@@ -47,7 +47,7 @@ extern "C" ssize_t write(int file, const void *bytes, size_t count)
     return systemWrite(file, bytes, static_cast<long long>(count) > room ? static_cast<size_t>(room) : count);
 }
 
-extern "C" ssize_t read(int file, void *bytes, size_t count)
+extern "C" __attribute__((visibility("default"))) ssize_t read(int file, void *bytes, size_t count)
 {
     static auto *systemRead = systemFunction<ssize_t(int, void *, size_t)>("read");
     static const long long broken = numberIn("DISK_BROKEN_AT");

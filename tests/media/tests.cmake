@@ -7,6 +7,7 @@ kestrel_test(media
         MediaSamples.cpp MediaSamples.h
         OutputCheckTest.cpp
         PresetTest.cpp
+        PictureScanTest.cpp
         ToolMessagesTest.cpp
         TranscodeCommandTest.cpp
         TranscodeJobTest.cpp

@@ -1,0 +1,21 @@
+#include "modules/petrel/EngineSignature.h"
+
+#include <openssl/evp.h>
+
+#include <memory>
+
+/// The library's only entry (see EngineSignature.h).
+extern "C" __attribute__((visibility("default"))) bool engineSignatureIsGood(const unsigned char *key,
+                                                                             const unsigned char *signature,
+                                                                             const unsigned char *message,
+                                                                             std::size_t messageSize)
+{
+    constexpr std::size_t keySize = 32;
+    constexpr std::size_t signatureSize = 64;
+    const std::unique_ptr<EVP_PKEY, decltype(&EVP_PKEY_free)> publicKey(
+        EVP_PKEY_new_raw_public_key(EVP_PKEY_ED25519, nullptr, key, keySize), EVP_PKEY_free);
+    const std::unique_ptr<EVP_MD_CTX, decltype(&EVP_MD_CTX_free)> context(EVP_MD_CTX_new(), EVP_MD_CTX_free);
+    return publicKey && context &&
+           EVP_DigestVerifyInit(context.get(), nullptr, nullptr, nullptr, publicKey.get()) == 1 &&
+           EVP_DigestVerify(context.get(), signature, signatureSize, message, messageSize) == 1;
+}

@@ -1,0 +1,183 @@
+#include "DownloadCommand.h"
+
+#include "CliSession.h"
+#include "JobRunner.h"
+#include "Options.h"
+#include "foundation/TerminationSignals.h"
+#include "modules/petrel/Analysis.h"
+#include "modules/petrel/Download.h"
+#include "modules/petrel/DownloadRecipe.h"
+
+#include <QDir>
+#include <QEventLoop>
+#include <QFile>
+#include <QFileInfo>
+#include <QThread>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel::cli {
+
+namespace {
+
+struct DownloadRequest {
+    DownloadPlan plan;
+    QString folder;  ///< absolute; null for the settings' folder
+    QString list;    ///< a file of addresses
+    int atOnce = 0;
+};
+
+bool readFormat(const QString &value, DownloadRequest &request)
+{
+    request.plan.extension = value.toLower();
+    if (soundFormats().contains(request.plan.extension))
+        request.plan.soundOnly = true;
+    return request.plan.soundOnly || downloadFormats().contains(request.plan.extension);
+}
+
+bool readProxy(const QString &value, DownloadRequest &request)
+{
+    const QUrl url(value.contains("://"_L1) ? value : "http://"_L1 + value);
+    request.plan.proxy = url.toString(QUrl::FullyEncoded);
+    return url.isValid() && !url.host().isEmpty();
+}
+
+constexpr Option<DownloadRequest> optionTable[] = {
+    {"to", "folder", "where the results go, instead of the settings' folders",
+     [](const QString &value, DownloadRequest &request) {
+         request.folder = QFileInfo(value).absoluteFilePath();
+         return QFileInfo(value).isDir();
+     }},
+    {"resolution", "lines", "\"720P\": at most so many lines, where there is such a picture; \"best\"",
+     [](const QString &value, DownloadRequest &request) {
+         request.plan.height = heightOfResolution(value);
+         return request.plan.height > 0 || value == "best"_L1;
+     }},
+    {"sound", nullptr, "the sound alone",
+     [](const QString &, DownloadRequest &request) {
+         request.plan.soundOnly = true;
+         request.plan.extension = soundFormats().first();
+         return true;
+     }},
+    {"format", "name", "mp4, webm, flv, 3gp, mkv; m4a or mp3 for sound", readFormat},
+    {"subtitles", "languages", "\"en,de\": put into the file, where they are there",
+     [](const QString &value, DownloadRequest &request) {
+         request.plan.subtitles = value.split(u',', Qt::SkipEmptyParts);
+         return !request.plan.subtitles.isEmpty();
+     }},
+    {"proxy", "address", "\"socks5://host:port\"; http without a scheme", readProxy},
+    {"limit", "bytes", "\"500k\": a second, each",
+     [](const QString &value, DownloadRequest &request) { return readBytes(value, request.plan.bytesPerSecond); }},
+    {"at-once", "number", "downloads at the same time; also beyond 3 from one server",
+     [](const QString &value, DownloadRequest &request) {
+         request.plan.manyFromServer = true;
+         return readNumber(value, 1, 100, request.atOnce);
+     }},
+    {"list", "file", "a text file of further addresses",
+     [](const QString &value, DownloadRequest &request) {
+         request.list = value;
+         return QFileInfo(value).isFile();
+     }},
+};
+
+/// The addresses to be downloaded, or what is wrong with them.
+foundation::Result<QStringList> addressesOf(const QStringList &arguments, const DownloadRequest &request)
+{
+    constexpr qint64 maximumList = 4 * 1024 * 1024;
+    QStringList addresses;
+    for (const QString &argument : arguments) {
+        const QString address = downloadAddress(argument);
+        if (address.isNull())
+            return foundation::Failure{u"\"%1\" is no address that can be downloaded from"_s.arg(argument)};
+        addresses.append(address);
+    }
+    if (QFile list(request.list); !request.list.isNull()) {
+        if (!list.open(QIODevice::ReadOnly) || list.size() > maximumList)
+            return foundation::Failure{u"%1 cannot be read"_s.arg(request.list)};
+        addresses += addressesIn(QString::fromUtf8(list.readAll()));
+    }
+    if (addresses.isEmpty())
+        return foundation::Failure{u"Name the addresses to download from."_s};
+    return addresses;
+}
+
+/// The jobs for the addresses, in their order, once all of them have been looked at. Nothing where a signal ended that.
+std::optional<QList<JobRecord>> lookedAt(const QStringList &addresses, const DownloadRequest &request,
+                                         const JKestrelSettingDispatcher &settings, const QString &folder)
+{
+    QEventLoop loop;
+    Analysis analysis([&] { return engineTools(settings); }, downloadTools(settings, 1).answers);
+    std::vector<QList<JobRecord>> records(size_t(addresses.size()));
+    qsizetype open = addresses.size();
+    bool isInterrupted = false;
+    const auto planOf = [&](qint64 number) {
+        DownloadPlan plan = request.plan;
+        plan.address = addresses[number];
+        return plan;
+    };
+    QObject::connect(&analysis, &Analysis::answered, &loop, [&](qint64 number, const Analysis::Answer &answer) {
+        if (answer) {
+            records[size_t(number)] = downloadJobs(planOf(number), *answer, folder);
+        } else {
+            JobRecord record = downloadJob(planOf(number), folder);
+            // What may do at another attempt is the job's own business.
+            if (!passesByItself(answer.reason().kind)) {
+                record.state = JobState::Unusable;
+                record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
+            }
+            records[size_t(number)] = {record};
+        }
+        if (--open == 0)
+            loop.quit();
+    });
+    const foundation::TerminationSignals signalsOfTheSystem;
+    QObject::connect(&signalsOfTheSystem, &foundation::TerminationSignals::received, &loop, [&] {
+        isInterrupted = true;
+        loop.quit();
+    });
+    for (qsizetype number = 0; number < addresses.size(); ++number)
+        analysis.ask(number, planOf(number));
+    loop.exec();
+    if (isInterrupted)
+        return std::nullopt;
+    QList<JobRecord> all;
+    for (const QList<JobRecord> &some : records)
+        all += some;
+    return all;
+}
+
+}  // namespace
+
+ExitStatus runDownload(const Surroundings &surroundings, const QStringList &arguments)
+{
+    CliSession session(ModuleSettingDownload);
+    const JKestrelSettingDispatcher &settings = session.settings();
+    DownloadRequest request;
+    request.plan = downloadPlan(settings, {});
+    bool isHelp = false;
+    const auto positional = readArguments("download", std::span<const Option<DownloadRequest>>(optionTable),
+                                          u"ADDRESS…"_s, arguments, request, isHelp);
+    if (!positional)
+        return wrongUsage(positional.reason());
+    if (isHelp)
+        return AllDone;
+    const auto addresses = addressesOf(*positional, request);
+    if (!addresses)
+        return wrongUsage(addresses.reason());
+    const QString folder = request.folder.isNull() ? downloadFolder(settings, request.plan) : request.folder;
+    QDir().mkpath(folder);
+
+    DownloadRecipe recipe([&settings] { return downloadTools(settings, QThread::idealThreadCount()); });
+    session.queue().setRecipe(petrelJobs.toString(), &recipe);
+    session.queue().setLaneLimit(Lane::Net, request.atOnce > 0 ? request.atOnce : downloadsAtOnce(settings));
+    const auto records = lookedAt(*addresses, request, settings, folder);
+    if (!records)
+        return InterruptedBySignal;
+    QList<JobId> ids;
+    for (const JobRecord &record : *records)
+        ids.append(session.queue().add(record));
+    return runJobs(session.queue(), ids, surroundings);
+}
+
+}  // namespace kestrel::cli

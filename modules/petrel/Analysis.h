@@ -1,0 +1,60 @@
+#pragma once
+
+#include "AnswerStore.h"
+#include "DownloadPlan.h"
+#include "EngineCommand.h"
+#include "EngineFailure.h"
+
+#include <QObject>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace kestrel {
+
+/// Looks at addresses in the background, a few at a time; what was found freshly is not asked for again. Main thread.
+class Analysis : public QObject {
+    Q_OBJECT
+public:
+    struct Refusal {
+        tarnwell::Sentence sentence;
+        QString details;
+        EngineFailure::Kind kind = EngineFailure::Kind::Unknown;
+    };
+    using Answer = foundation::Result<EngineAnswer, Refusal>;
+
+    static constexpr int maximumAtOnce = 2;
+
+    Analysis(std::function<EngineTools()> tools, const QString &answers, QObject *parent = nullptr);
+    ~Analysis() override;
+
+    /// `id` is the caller's name for it. `answered` comes once, later than this returns, unless it is stopped.
+    void ask(qint64 id, const DownloadPlan &plan);
+    void stop(qint64 id);
+    bool isBusy() const { return !m_pending.isEmpty() || !m_running.empty(); }
+
+signals:
+    void answered(qint64 id, const kestrel::Analysis::Answer &answer);
+
+private:
+    struct Request {
+        qint64 id;
+        DownloadPlan plan;
+    };
+    struct Run {
+        Request request;
+        std::unique_ptr<ToolProcess> process;
+    };
+
+    void startPending();
+    void ended(qint64 id, const ToolEnding &ending);
+    void answerLater(qint64 id, const Answer &answer);
+
+    std::function<EngineTools()> m_tools;
+    AnswerStore m_answers;
+    QList<Request> m_pending;
+    std::vector<Run> m_running;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,134 @@
+#include "Download.h"
+
+#include "foundation/Bundle.h"
+#include "foundation/StandardFolders.h"
+#include "media/MediaProber.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "settings/ModuleSettings.h"
+#include "tarnwell/ProductInformation.h"
+#include "tarnwell/SystemInformation.h"
+
+#include <QFileInfo>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+DownloadPlan downloadPlan(const JKestrelSettingDispatcher &settings, const QString &address)
+{
+    const QString format = settings.getDefaultFormat();
+    DownloadPlan plan;
+    plan.address = address;
+    plan.height = heightOfResolution(settings.getDefaultResolution());
+    plan.extension = downloadFormats().contains(format) ? format : downloadFormats().first();
+    plan.proxy = downloadProxy(settings);
+    return plan;
+}
+
+QString downloadFolder(const JKestrelSettingDispatcher &settings, const DownloadPlan &plan)
+{
+    const QString music = settings.getMusicDir();
+    return plan.soundOnly && !music.isEmpty() ? music : settings.getVideoDir();
+}
+
+QString downloadProxy(const JKestrelSettingDispatcher &settings)
+{
+    static const QStringList schemes{u"http"_s, u"https"_s, u"socks4"_s, u"socks4a"_s, u"socks5"_s, u"socks5h"_s};
+    const JDownloaderSetting &setting = *settings.setting()->downloader();
+    QString address = setting.proxyURL().trimmed();
+    if (!setting.proxyEnabled() || address.isEmpty())
+        return {};
+    if (!address.contains("://"_L1))
+        address.prepend("http://"_L1);
+    QUrl url(address);
+    bool isNumber = false;
+    const int port = setting.proxyPort().trimmed().toInt(&isNumber);
+    if (isNumber && port > 0 && port < 65536)
+        url.setPort(port);
+    return url.isValid() && !url.host().isEmpty() && schemes.contains(url.scheme()) ? url.toString(QUrl::FullyEncoded)
+                                                                                    : QString();
+}
+
+int downloadsAtOnce(const JKestrelSettingDispatcher &settings)
+{
+    constexpr int unlimited = 1000;
+    const qint64 downloads = settings.getConcurrentThread();
+    return downloads < 1 ? unlimited : int(std::min<qint64>(downloads, unlimited));
+}
+
+QString downloadDataFolder()
+{
+    return foundation::dataDirectory() + u'/' + tarnwell::GetApplicationName() + "/downloads"_L1;
+}
+
+EngineStore engineStore()
+{
+    return {downloadDataFolder() + "/engine"_L1,
+            tarnwell::productBundle().resource(u"petrel.bundle/Contents/Resources/yt-dlp"_s)};
+}
+
+EngineTools engineTools(const JKestrelSettingDispatcher &settings)
+{
+    return {.engine = engineStore().engine(),
+            .transcoderFolder = QFileInfo(settings.getTranscoderPath()).absolutePath(),
+            .home = downloadDataFolder() + "/home"_L1};
+}
+
+DownloadTools downloadTools(const JKestrelSettingDispatcher &settings, int processors)
+{
+    constexpr quint32 avc1 = 0x61766331;
+    DownloadTools tools;
+    tools.engine = engineTools(settings);
+    tools.transcode.transcoder = settings.getTranscoderPath();
+    tools.transcode.prober = proberBeside(tools.transcode.transcoder);
+    tools.transcode.machine.processors = processors;
+    if (settings.getQSV())
+        tools.transcode.machine.hardwareDevice = tarnwell::hardwareEncoderDevice(avc1, 1280, 720);
+    tools.answers = downloadDataFolder() + "/answers"_L1;
+    tools.engineTried = [](bool hasWorked) -> std::optional<QString> {
+        if (!hasWorked)
+            return engineStore().fallBack();
+        engineStore().prove();
+        return std::nullopt;
+    };
+    return tools;
+}
+
+JobRecord downloadJob(const DownloadPlan &plan, const QString &folder)
+{
+    JobRecord record;
+    record.module = petrelJobs.toString();
+    record.state = JobState::Ready;
+    record.source = plan.address;
+    record.title = plan.title.isEmpty() ? plan.address : plan.title;
+    record.plan = plan.toJson();
+    record.folder = folder;
+    return record;
+}
+
+QList<JobRecord> downloadJobs(const DownloadPlan &plan, const EngineAnswer &answer, const QString &folder,
+                              const QList<int> &items)
+{
+    DownloadPlan one = plan;
+    if (answer.entries.isEmpty()) {
+        one.title = answer.title;
+        one.seconds = answer.seconds;
+        one.bytes = answer.bytes;
+        return {downloadJob(one, folder)};
+    }
+    QList<JobRecord> records;
+    for (const EngineAnswer::Entry &entry : answer.entries) {
+        if (!items.isEmpty() && !items.contains(entry.item))
+            continue;
+        one.address = entry.address;
+        one.item = entry.isOfPage ? entry.item : 0;
+        one.title = entry.title;
+        one.seconds = entry.seconds;
+        records.append(downloadJob(one, folder));
+    }
+    return records;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,324 @@
+#include "DownloadJob.h"
+
+#include "PartFolder.h"
+
+#include "foundation/Queues.h"
+#include "jobs/OutputFile.h"
+#include "media/MediaProber.h"
+#include "media/OutputPlacing.h"
+#include "media/Preset.h"
+#include "media/ToolPath.h"
+#include "tarnwell/Log.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+/// Seconds between attempts at what passes by itself; after the last one it has failed.
+constexpr int waits[] = {5, 15, 45, 120, 300};
+constexpr int serverWaits = 2;
+
+constexpr auto lookLimit = 2min;
+
+}  // namespace
+
+DownloadJob::DownloadJob(DownloadPlan plan, QString folder, DownloadTools tools, QObject *parent)
+    : ToolJob(parent),
+      m_plan(std::move(plan)),
+      m_folder(std::move(folder)),
+      m_tools(std::move(tools)),
+      m_answers(m_tools.answers)
+{
+}
+
+DownloadJob::~DownloadJob()
+{
+    endTool();
+    discard();
+}
+
+void DownloadJob::start()
+{
+    if (m_plan.address.isEmpty())
+        return fail("The options of this job could not be read. Add the address again."_key);
+    if (!QFileInfo(m_tools.engine.engine).isExecutable())
+        return fail("The download engine is missing. Please install the application again."_key);
+    QDir().mkpath(m_tools.engine.home);
+    auto part = PartFolder::take(m_folder, m_plan);
+    if (!part)
+        return fail(part.reason());
+    m_part = *std::move(part);
+    m_resumed = m_part->bytes();
+    if (auto answer = m_answers.answer(m_plan)) {
+        m_answer = *std::move(answer);
+        m_answerPath = m_answers.fresh(m_plan);
+        return download();
+    }
+    analyse();
+}
+
+void DownloadJob::analyse()
+{
+    tellStage("Asking the site…"_key);
+    m_answerPath.clear();
+    run(analysisCommand(m_plan, m_tools.engine), [this](const ToolEnding &ending) { analysed(ending); });
+}
+
+void DownloadJob::analysed(const ToolEnding &ending)
+{
+    if (!ending.isGood())
+        return engineFailed(ending);
+    auto answer = parseEngineAnswer(ending.output, m_plan.address);
+    if (!answer)
+        return fail(answer.reason(), ending.lastWords);
+    if (!answer->entries.isEmpty())
+        return fail("There are several films at this address. Add it again to choose among them."_key);
+    m_answer = *std::move(answer);
+    m_answers.keep(m_plan, m_answer);
+    m_answerPath = m_answers.fresh(m_plan);
+    download();
+}
+
+void DownloadJob::download()
+{
+    if (m_answer.isToCome)
+        return fail("The broadcast has not begun yet. Try again when it has."_key);
+    if (m_answer.isProtected)
+        return fail("The film is copy protected and is not downloaded."_key);
+    // A run before this one may have ended between the download and the rest.
+    if (!m_part->downloaded().isNull())
+        return look();
+    m_progress = EngineProgress(m_plan.bytes > 0 ? m_plan.bytes : m_answer.bytes,
+                                m_answer.film["requested_formats"_L1].toArray().size() > 1);
+    m_bytesAtTry = m_part->bytes();
+    tellStage("Connecting…"_key);
+    const ToolCommand command = downloadCommand(m_plan, m_tools.engine, m_part->path(), m_answerPath);
+    tarnwell::DNFootLog(u"Downloading from %1"_s.arg(m_plan.server()));
+    const ToolProcess &tool = run(command, [this](const ToolEnding &ending) { downloaded(ending); });
+    connect(&tool, &ToolProcess::outputLine, this, &DownloadJob::readLine);
+}
+
+void DownloadJob::readLine(const QByteArray &line)
+{
+    if (!m_progress.readLine(line))
+        return;
+    const double before = m_told.fraction.value_or(0);
+    m_told = m_progress.progress();
+    if (m_told.fraction)
+        m_told.fraction = std::max(before, *m_told.fraction);
+    emit progressed(m_told);
+}
+
+void DownloadJob::downloaded(const ToolEnding &ending)
+{
+    if (!ending.isGood() || m_part->downloaded().isNull())
+        return engineFailed(ending);
+    if (m_tools.engineTried)
+        m_tools.engineTried(true);
+    look();
+}
+
+void DownloadJob::engineFailed(const ToolEnding &ending)
+{
+    using Kind = EngineFailure::Kind;
+    const EngineFailure failure = engineFailure(ending);
+    const bool mayBeTheEngine =
+        failure.kind == Kind::EngineBroken || failure.kind == Kind::EngineOld || failure.kind == Kind::Unknown;
+    if (mayBeTheEngine && m_tools.engineTried) {
+        if (const auto other = m_tools.engineTried(false)) {
+            tarnwell::DNFootLog(u"Going back to the engine before: %1"_s.arg(ending.lastWords));
+            m_tools.engine.engine = *other;
+            return analyse();
+        }
+    }
+    const bool mayHaveExpired =
+        failure.kind == Kind::Refused || failure.kind == Kind::Gone || failure.kind == Kind::NoSuchForm;
+    if (mayHaveExpired && !m_answerPath.isNull() && !m_hasAskedAgain) {
+        m_hasAskedAgain = true;
+        m_answers.forget(m_plan);
+        return analyse();
+    }
+    if (passesByItself(failure.kind))
+        return waitAndTryAgain(failure, ending.lastWords);
+    fail(failure.sentence, ending.lastWords);
+}
+
+void DownloadJob::waitAndTryAgain(const EngineFailure &failure, const QString &details)
+{
+    if (m_part->bytes() > m_bytesAtTry)
+        m_waits = 0;
+    m_bytesAtTry = m_part->bytes();
+    // A server that breaks off without a byte more is not asked for minutes.
+    const int most = failure.kind == EngineFailure::Kind::Server ? serverWaits : int(std::ssize(waits));
+    if (m_waits >= most)
+        return fail(failure.sentence, details);
+    const int seconds = waits[m_waits++];
+    ++m_waitNumber;
+    switch (failure.kind) {
+        case EngineFailure::Kind::TooMany:
+            return waitOn(seconds, "Too many requests: the server is asked again in %1 s"_key);
+        case EngineFailure::Kind::NoNetwork:
+            return waitOn(seconds, "Waiting for the network, next attempt in %1 s"_key);
+        default:
+            return waitOn(seconds, "The server broke off, next attempt in %1 s"_key);
+    }
+}
+
+void DownloadJob::waitOn(int seconds, const tarnwell::TextKey &stage)
+{
+    if (m_isOver)
+        return;
+    if (seconds == 0)
+        return m_answerPath.isNull() ? analyse() : download();
+    tellStage({stage, {QString::number(seconds)}});
+    foundation::queue::afterMain(1s, [self = QPointer(this), seconds, stage, number = m_waitNumber] {
+        if (self && self->m_waitNumber == number)
+            self->waitOn(self->isPaused() ? seconds : seconds - 1, stage);
+    });
+}
+
+void DownloadJob::look()
+{
+    tellStage("Checking the finished file…"_key);
+    const QString path = m_part->downloaded();
+    ToolCommand command = outputReportCommand(m_tools.transcode.prober, ToolPath(path).argument());
+    command.timeLimit = lookLimit;
+    run(command, [this, path](const ToolEnding &ending) { looked(ending, path); });
+}
+
+void DownloadJob::looked(const ToolEnding &ending, const QString &path)
+{
+    const auto found =
+        ending.isGood() ? parseOutputReport(ending.output, QFileInfo(path).size()) : std::optional<FoundOutput>();
+    m_check = found ? checkDownload(m_plan, m_answer, *found, toldPackets(ending.output), QFileInfo(path).suffix(),
+                                    ending.lastWords)
+                    : DownloadCheck{DownloadCheck::Finding::Useless, "What the server sent is no film."_key};
+    switch (m_check.finding) {
+        case DownloadCheck::Finding::Useless:
+            // It would be the same at the next attempt.
+            m_part->clear();
+            m_answers.forget(m_plan);
+            return fail(m_check.sentence, ending.lastWords);
+        case DownloadCheck::Finding::NeedsConversion:
+            return convert(path, m_check);
+        default:
+            return place(path);
+    }
+}
+
+void DownloadJob::convert(const QString &path, const DownloadCheck &check)
+{
+    const Preset *preset = presetOfId(check.presetId);
+    if (!preset)
+        return fail("The converter is missing. Please install the application again."_key);
+    TranscodePlan plan;
+    plan.sources = {m_part->rename(path, title())};
+    plan.preset = *preset;
+    m_conversion = std::make_unique<TranscodeJob>(
+        TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});
+    connect(m_conversion.get(), &Job::progressed, this, [this](JobProgress progress) {
+        if (progress.stage.isEmpty())
+            progress.stage = "Converting…"_key;
+        progress.fraction.reset();  // the bar is the download's, which is over
+        emit progressed(progress);
+    });
+    connect(m_conversion.get(), &Job::noted, this, &Job::noted);
+    connect(m_conversion.get(), &Job::finished, this,
+            [this, source = plan.sources.first(), path](const JobOutcome &outcome) {
+                if (outcome.outputs.isEmpty())
+                    QFile::rename(source, path);  // for the next attempt
+                converted(outcome);
+            });
+    m_conversion->start();
+    if (isPaused())
+        m_conversion->setPaused(true);
+}
+
+void DownloadJob::converted(JobOutcome outcome)
+{
+    const bool isMade = outcome.state == JobState::Done || outcome.state == JobState::DoneWithProblems;
+    if (!isMade)
+        return fail(outcome.sentence, outcome.details);
+    if (m_check.sentence.isEmpty() && !outcome.sentence.isEmpty())
+        m_check.sentence = outcome.sentence;
+    finishGood(outcome.outputs);
+}
+
+void DownloadJob::place(const QString &path)
+{
+    auto output = std::make_shared<OutputFile>(m_folder, title(), QFileInfo(path).suffix());
+    if (!output->isValid())
+        return fail(output->reason());
+    tellStage("Saving…"_key);
+    if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(output->partPath()).constData()) != 0)
+        return fail("The output could not be written."_key);
+    m_placing = std::make_shared<Placing>(std::move(output), std::nullopt);
+    m_placing->start(this, [this](const foundation::Result<QString, Sentence> &placed) {
+        m_placing.reset();
+        placed ? finishGood({*placed}) : fail(placed.reason());
+    });
+}
+
+void DownloadJob::finishGood(const QStringList &outputs)
+{
+    m_part->remove();
+    m_part.reset();
+    m_answers.forget(m_plan);
+    JobOutcome outcome{.state = m_check.sentence.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
+                       .sentence = m_check.sentence,
+                       .outputs = outputs};
+    outcome.facts[u"resumed_bytes"_s] = m_resumed;
+    finish(outcome);
+}
+
+void DownloadJob::fail(const Sentence &sentence, const QString &details)
+{
+    discard();
+    finish({.state = JobState::Failed, .sentence = sentence, .details = details});
+}
+
+void DownloadJob::setPaused(bool paused)
+{
+    ToolJob::setPaused(paused);
+    if (m_conversion)
+        m_conversion->setPaused(paused);
+}
+
+/// What has come stays.
+void DownloadJob::discard()
+{
+    m_isOver = true;
+    ++m_waitNumber;
+    m_conversion.reset();
+    if (m_placing)
+        m_placing->takeBack();
+    m_placing.reset();
+    m_part.reset();
+}
+
+void DownloadJob::tellStage(const Sentence &stage)
+{
+    m_told.stage = stage;
+    m_told.bytesPerSecond = 0;
+    emit progressed(m_told);
+}
+
+QString DownloadJob::title() const
+{
+    return m_plan.title.isEmpty() ? m_answer.title : m_plan.title;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,82 @@
+#pragma once
+
+#include "AnswerStore.h"
+#include "DownloadCheck.h"
+#include "EngineCommand.h"
+#include "EngineFailure.h"
+#include "EngineProgress.h"
+
+#include "jobs/ToolJob.h"
+#include "media/TranscodeJob.h"
+
+namespace kestrel {
+
+class OutputFile;
+class PartFolder;
+class Placing;
+
+struct DownloadTools {
+    EngineTools engine;
+    TranscodeTools transcode;
+    QString answers;  ///< folder of the AnswerStore
+    /// What came of the engine: whether it has worked. Asked again after false, it may name another one to try.
+    std::function<std::optional<QString>(bool hasWorked)> engineTried = {};
+};
+
+/// A download: asks what is there where that is not known freshly, downloads on from where an earlier run has ended,
+/// looks at what has come, converts it where another form was asked for, and gives it its name. What has come is kept
+/// when it ends otherwise, also where it is cancelled: `PartFolder::removeLeft` removes it. Passing failures are waited
+/// out, an address that has expired is asked for again, once.
+class DownloadJob : public ToolJob {
+    Q_OBJECT
+public:
+    DownloadJob(DownloadPlan plan, QString folder, DownloadTools tools, QObject *parent = nullptr);
+    ~DownloadJob() override;
+
+    void start() override;
+    void stop() override { cancel(); }
+    void setPaused(bool paused) override;
+
+protected:
+    void discard() override;
+
+private:
+    void analyse();
+    void analysed(const ToolEnding &ending);
+    void download();
+    void readLine(const QByteArray &line);
+    void downloaded(const ToolEnding &ending);
+    void engineFailed(const ToolEnding &ending);
+    void waitAndTryAgain(const EngineFailure &failure, const QString &details);
+    void waitOn(int seconds, const tarnwell::TextKey &stage);
+    void look();
+    void looked(const ToolEnding &ending, const QString &path);
+    void convert(const QString &path, const DownloadCheck &check);
+    void converted(JobOutcome outcome);
+    void place(const QString &path);
+    void finishGood(const QStringList &outputs);
+    void fail(const tarnwell::Sentence &sentence, const QString &details = {});
+    void tellStage(const tarnwell::Sentence &stage);
+    QString title() const;
+
+    DownloadPlan m_plan;
+    QString m_folder;
+    DownloadTools m_tools;
+    AnswerStore m_answers;
+    EngineAnswer m_answer;
+    QString m_answerPath;
+    std::unique_ptr<PartFolder> m_part;
+    std::unique_ptr<TranscodeJob> m_conversion;
+    std::shared_ptr<Placing> m_placing;
+    EngineProgress m_progress;
+    JobProgress m_told;
+    DownloadCheck m_check;
+    qint64 m_resumed = 0;     ///< bytes that were there when the job began
+    qint64 m_bytesAtTry = 0;  ///< when the present attempt began
+    int m_waits = 0;          ///< since something last came
+    int m_waitNumber = 0;     ///< tells waits apart
+    bool m_hasAskedAgain = false;
+    bool m_isOver = false;
+};
+
+}  // namespace kestrel

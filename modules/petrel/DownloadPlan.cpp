@@ -1,0 +1,146 @@
+#include "DownloadPlan.h"
+
+#include <QCryptographicHash>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QRegularExpression>
+#include <QUrl>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+constexpr int planVersion = 1;
+constexpr qsizetype maximumAddress = 8 * 1024;
+constexpr qsizetype maximumAddresses = 10'000;
+constexpr double maximumBytes = 1e15;
+
+QStringList stringsOf(const QJsonValue &value)
+{
+    QStringList strings;
+    for (const QJsonValue &string : value.toArray()) {
+        if (string.isString())
+            strings.append(string.toString());
+    }
+    return strings;
+}
+
+qint64 bytesOf(const QJsonValue &value)
+{
+    const double bytes = value.toDouble();
+    return bytes > 0 && bytes < maximumBytes ? qint64(bytes) : 0;
+}
+
+}  // namespace
+
+QJsonObject DownloadPlan::toJson() const
+{
+    return {{u"version"_s, planVersion},
+            {u"address"_s, address},
+            {u"item"_s, item},
+            {u"soundOnly"_s, soundOnly},
+            {u"height"_s, height},
+            {u"extension"_s, extension},
+            {u"subtitles"_s, QJsonArray::fromStringList(subtitles)},
+            {u"cover"_s, cover},
+            {u"chapters"_s, chapters},
+            {u"proxy"_s, proxy},
+            {u"bytesPerSecond"_s, bytesPerSecond},
+            {u"manyFromServer"_s, manyFromServer},
+            {u"title"_s, title},
+            {u"seconds"_s, seconds},
+            {u"bytes"_s, bytes}};
+}
+
+std::optional<DownloadPlan> DownloadPlan::fromJson(const QJsonObject &json)
+{
+    DownloadPlan plan;
+    plan.address = downloadAddress(json["address"_L1].toString());
+    if (json["version"_L1].toInt() != planVersion || plan.address.isNull())
+        return std::nullopt;
+    const auto known = [](const QString &name, const QStringList &names) {
+        return names.contains(name) ? name : names.first();
+    };
+    plan.item = std::clamp(json["item"_L1].toInt(), 0, 1'000'000);
+    plan.soundOnly = json["soundOnly"_L1].toBool();
+    plan.height = std::clamp(json["height"_L1].toInt(), 0, 100'000);
+    plan.extension = known(json["extension"_L1].toString(), plan.soundOnly ? soundFormats() : downloadFormats());
+    plan.subtitles = stringsOf(json["subtitles"_L1]);
+    plan.cover = json["cover"_L1].toBool(true);
+    plan.chapters = json["chapters"_L1].toBool(true);
+    plan.proxy = json["proxy"_L1].toString();
+    plan.bytesPerSecond = bytesOf(json["bytesPerSecond"_L1]);
+    plan.manyFromServer = json["manyFromServer"_L1].toBool();
+    plan.title = json["title"_L1].toString();
+    plan.seconds = std::max(0.0, json["seconds"_L1].toDouble());
+    plan.bytes = bytesOf(json["bytes"_L1]);
+    return plan;
+}
+
+QString DownloadPlan::server() const
+{
+    return QUrl(address).authority(QUrl::FullyEncoded).section(u'@', -1).toLower();
+}
+
+QByteArray DownloadPlan::identity() const
+{
+    const QJsonObject form{{u"address"_s, address},     {u"item"_s, item},
+                           {u"soundOnly"_s, soundOnly}, {u"height"_s, height},
+                           {u"extension"_s, extension}, {u"subtitles"_s, QJsonArray::fromStringList(subtitles)}};
+    const QByteArray text = QJsonDocument(form).toJson(QJsonDocument::Compact);
+    return QCryptographicHash::hash(text, QCryptographicHash::Sha256).toHex().first(24);
+}
+
+QString downloadAddress(const QString &text)
+{
+    static const QRegularExpression scheme(u"^[A-Za-z][A-Za-z0-9+.-]*://"_s);
+    QString address = text.trimmed();
+    if (address.isEmpty() || address.size() > maximumAddress)
+        return {};
+    for (const QChar character : address) {
+        if (character.unicode() <= 0x20 || character.unicode() == 0x7F)
+            return {};
+    }
+    if (!scheme.match(address).hasMatch())
+        address.prepend("https://"_L1);
+    const QUrl url(address, QUrl::TolerantMode);
+    const QString name = url.scheme().toLower();
+    const bool isWeb = name == "http"_L1 || name == "https"_L1;
+    const QString host = url.host();
+    const bool isPlace = host.contains(u'.') || host.contains(u':') || host == "localhost"_L1;
+    return url.isValid() && isWeb && isPlace ? QString::fromLatin1(url.toEncoded()) : QString();
+}
+
+QStringList addressesIn(const QString &text)
+{
+    static const QRegularExpression blanks(u"\\s+"_s);
+    QStringList addresses;
+    for (const QString &word : text.split(blanks, Qt::SkipEmptyParts)) {
+        const QString address = downloadAddress(word);
+        if (!address.isNull() && !addresses.contains(address))
+            addresses.append(address);
+        if (addresses.size() == maximumAddresses)
+            break;
+    }
+    return addresses;
+}
+
+int heightOfResolution(const QString &resolution)
+{
+    static const QRegularExpression lines(u"^(\\d{2,5})[pP]?$"_s);
+    return lines.match(resolution.trimmed()).captured(1).toInt();
+}
+
+QStringList downloadFormats()
+{
+    return {u"mp4"_s, u"webm"_s, u"flv"_s, u"3gp"_s, u"mkv"_s};
+}
+
+QStringList soundFormats()
+{
+    return {u"m4a"_s, u"mp3"_s};
+}
+
+}  // namespace kestrel

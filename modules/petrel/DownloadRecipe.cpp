@@ -1,0 +1,80 @@
+#include "DownloadRecipe.h"
+
+#include <QUrl>
+
+#include <ifaddrs.h>
+#include <net/if.h>
+
+#include <algorithm>
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+DownloadPlan planOf(const JobRecord &record)
+{
+    return DownloadPlan::fromJson(record.plan).value_or(DownloadPlan());
+}
+
+bool isOnThisMachine(const QString &address)
+{
+    const QString host = QUrl(address).host();
+    return host == QLatin1StringView("localhost") || host.startsWith(QLatin1StringView("127.")) ||
+           host == QLatin1StringView("::1");
+}
+
+}  // namespace
+
+bool hasNetwork()
+{
+    ifaddrs *first = nullptr;
+    if (getifaddrs(&first) != 0)
+        return true;  // let the engine find out
+    bool isThere = false;
+    for (const ifaddrs *entry = first; entry; entry = entry->ifa_next) {
+        const bool isUp = (entry->ifa_flags & IFF_UP) && (entry->ifa_flags & IFF_RUNNING);
+        const int family = entry->ifa_addr ? entry->ifa_addr->sa_family : AF_UNSPEC;
+        isThere |= isUp && !(entry->ifa_flags & IFF_LOOPBACK) && (family == AF_INET || family == AF_INET6);
+    }
+    freeifaddrs(first);
+    return isThere;
+}
+
+qint64 DownloadRecipe::expectedBytes(const JobRecord &record) const
+{
+    return planOf(record).bytes;
+}
+
+/// Bytes, where they are told; films that do not tell count as middling ones.
+double DownloadRecipe::weight(const JobRecord &record) const
+{
+    constexpr double middling = 100e6;
+    const qint64 bytes = planOf(record).bytes;
+    return bytes > 0 ? double(bytes) : middling;
+}
+
+Sentence DownloadRecipe::obstacle(const JobRecord &record, const QList<const JobRecord *> &active) const
+{
+    const DownloadPlan plan = planOf(record);
+    if (!plan.manyFromServer) {
+        const QString server = plan.server();
+        const auto count = std::count_if(active.begin(), active.end(),
+                                         [&](const JobRecord *other) { return planOf(*other).server() == server; });
+        if (count >= maximumFromServer)
+            return {"Waiting: %1 downloads from this server are under way"_key, {QString::number(count)}};
+    }
+    if (plan.proxy.isEmpty() && !isOnThisMachine(plan.address) && !hasNetwork())
+        return "Waiting for a network connection"_key;
+    return {};
+}
+
+std::unique_ptr<Job> DownloadRecipe::makeJob(const JobRecord &record)
+{
+    // Without a plan it says so and fails.
+    return std::make_unique<DownloadJob>(planOf(record), record.folder, m_tools());
+}
+
+}  // namespace kestrel

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "DownloadPlan.h"
+
+#include "foundation/Result.h"
+#include "tarnwell/TextKey.h"
+
+#include <memory>
+
+namespace kestrel {
+
+/// The hidden folder beside the output in which a download grows. It stays when the object goes or the program is
+/// killed, and is found again by the address and form that stand in it; while it is in use nobody else takes it.
+class PartFolder {
+public:
+    using Taken = foundation::Result<std::unique_ptr<PartFolder>, tarnwell::Sentence>;
+
+    /// The one that an earlier run has left for the plan, or a new one, in `folder`.
+    static Taken take(const QString &folder, const DownloadPlan &plan);
+    /// Removes what earlier runs have left for the plan, unless it is in use.
+    static void removeLeft(const QString &folder, const DownloadPlan &plan);
+
+    ~PartFolder();
+    PartFolder(const PartFolder &) = delete;
+    PartFolder &operator=(const PartFolder &) = delete;
+
+    QString path() const { return m_path; }
+    qint64 bytes() const;  ///< that are there
+    /// What was downloaded, whole; null where there is no such file.
+    QString downloaded() const;
+    /// Gives that file a name of its own within the folder.
+    QString rename(const QString &path, const QString &title);
+    /// Removes what was downloaded, to begin anew.
+    void clear();
+    void remove();  ///< the folder and all in it
+
+private:
+    PartFolder(QString path, int lock) : m_path(std::move(path)), m_lock(lock) {}
+
+    QString m_path;
+    int m_lock;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,111 @@
+#include "modules/petrel/DownloadPlan.h"
+#include "modules/petrel/PartFolder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+TEST(DownloadPlanTest, AddressesAsPeoplePasteThem)
+{
+    const std::pair<const char *, const char *> cases[] = {
+        {" https://a.example/x \n", "https://a.example/x"},
+        {"a.example/watch?v=1", "https://a.example/watch?v=1"},
+        {"http://127.0.0.1:8080/f.mp4", "http://127.0.0.1:8080/f.mp4"},
+        {"HTTPS://A.example/Ä", "https://a.example/%C3%84"},
+        {"file:///etc/passwd", ""},
+        {"javascript:alert(1)", ""},
+        {"ftp://a.example/x", ""},
+        {"--exec", ""},
+        {"hello", ""},
+        {"https://a.example/x y", ""},
+        {"https://a.example/\x01", ""},
+        {"", ""},
+    };
+    for (const auto &[text, address] : cases)
+        EXPECT_EQ(downloadAddress(QString::fromUtf8(text)), QString::fromLatin1(address)) << text;
+    const QStringList both{u"https://a.example/1"_s, u"https://b.example/"_s};
+    EXPECT_EQ(addressesIn(u"Look: https://a.example/1\n\thttps://b.example/ https://a.example/1 and file:///x"_s),
+              both);
+}
+
+TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
+{
+    const DownloadPlan plan{.address = u"https://a.example/x"_s,
+                            .item = 3,
+                            .soundOnly = true,
+                            .extension = u"mp3"_s,
+                            .subtitles = {u"en"_s},
+                            .cover = false,
+                            .proxy = u"socks5://p.example:1"_s,
+                            .bytesPerSecond = 5000,
+                            .title = u"Title"_s,
+                            .seconds = 1.5,
+                            .bytes = 12};
+    EXPECT_EQ(DownloadPlan::fromJson(plan.toJson()), plan);
+    QJsonObject json = plan.toJson();
+    json[u"extension"_s] = u"exe"_s;
+    json[u"bytesPerSecond"_s] = -4;
+    const auto read = DownloadPlan::fromJson(json);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->extension, u"m4a"_s);
+    EXPECT_EQ(read->bytesPerSecond, 0);
+    json[u"address"_s] = u"file:///etc/passwd"_s;
+    EXPECT_FALSE(DownloadPlan::fromJson(json));
+    json = plan.toJson();
+    json[u"version"_s] = 99;
+    EXPECT_FALSE(DownloadPlan::fromJson(json));
+}
+
+TEST(PartFolderTest, IsFoundAgainByThePlanAndNobodyElseHasItMeanwhile)
+{
+    const QTemporaryDir folder;
+    const DownloadPlan plan{.address = u"https://a.example/x"_s, .extension = u"mp4"_s};
+    DownloadPlan other = plan;
+    other.height = 480;
+    QString path;
+    {
+        const auto first = PartFolder::take(folder.path(), plan);
+        ASSERT_TRUE(first);
+        path = (*first)->path();
+        QFile file(path + u"/media.mp4.part"_s);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("12345") == 5);
+        file.close();
+        EXPECT_EQ((*first)->bytes(), 5);
+        EXPECT_EQ((*first)->downloaded(), QString());
+        const auto second = PartFolder::take(folder.path(), plan);
+        ASSERT_TRUE(second);
+        EXPECT_NE((*second)->path(), path);
+        PartFolder::removeLeft(folder.path(), plan);
+        EXPECT_TRUE(QFile::exists(path));
+    }
+    const auto another = PartFolder::take(folder.path(), other);
+    ASSERT_TRUE(another);
+    EXPECT_NE((*another)->path(), path);
+    {
+        const auto again = PartFolder::take(folder.path(), plan);
+        ASSERT_TRUE(again);
+        EXPECT_EQ((*again)->path(), path);
+        EXPECT_EQ((*again)->bytes(), 5);
+        // A whole file is one whose name has nothing between.
+        for (const char *name : {"media.f1.mp4", "media.en.vtt", "media.ytdl", "media.webm"}) {
+            QFile file(path + u'/' + QString::fromLatin1(name));
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        }
+        EXPECT_EQ((*again)->downloaded(), path + u"/media.webm"_s);
+    }
+    PartFolder::removeLeft(folder.path(), plan);
+    EXPECT_FALSE(QFile::exists(path));
+    EXPECT_FALSE(PartFolder::take(folder.path() + u"/none"_s, plan));
+}
+
+}  // namespace
+
+}  // namespace kestrel
