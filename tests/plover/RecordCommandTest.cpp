@@ -1,5 +1,7 @@
 #include "modules/plover/RecordCommand.h"
 
+#include "modules/plover/LevelMeter.h"
+
 #include <gtest/gtest.h>
 
 using namespace Qt::StringLiterals;
@@ -84,6 +86,14 @@ TEST(RecordCommandTest, AWindowOfAnotherSizeIsFittedIntoTheFirst)
     EXPECT_TRUE(fits());
     stretch.size = {300, 200};
     EXPECT_FALSE(fits());
+}
+
+TEST(LevelMeterTest, ReadsDecibels)
+{
+    EXPECT_DOUBLE_EQ(LevelMeter::levelIn("lavfi.astats.Overall.Peak_level=-30.000000"), 0.5);
+    EXPECT_DOUBLE_EQ(LevelMeter::levelIn("lavfi.astats.Overall.Peak_level=-inf"), 0);
+    EXPECT_DOUBLE_EQ(LevelMeter::levelIn("lavfi.astats.Overall.Peak_level=3"), 1);
+    EXPECT_LT(LevelMeter::levelIn("frame:12   pts:57600   pts_time:1.2"), 0);
 }
 
 }  // namespace
