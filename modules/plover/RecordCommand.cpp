@@ -40,10 +40,9 @@ QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
 {
     QStringList arguments{u"-thread_queue_size"_s, QLatin1StringView(picturesAhead)};
     const QStringList unprobed{u"-probesize"_s, u"32"_s, u"-analyzeduration"_s, u"0"_s};
-    if (!target.generator.isEmpty())
-        return arguments +
-               QStringList{u"-re"_s,        u"-use_wallclock_as_timestamps"_s, u"1"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
-                           target.generator};
+    if (!target.generator.isEmpty())  // in real time by itself: -re counts from other times than those of the clock
+        return arguments + QStringList{u"-use_wallclock_as_timestamps"_s, u"1"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
+                                       target.generator + u",realtime"_s};
     if (target.display.isEmpty())
         return arguments + QStringList{u"-f"_s,         u"v4l2"_s,         u"-timestamps"_s, u"abs"_s,
                                        u"-framerate"_s, number(plan.rate), u"-i"_s,          target.camera};
@@ -62,8 +61,8 @@ QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
 QStringList soundInput(const QString &source, bool isSilent)
 {
     if (isSilent)
-        return {u"-re"_s, u"-use_wallclock_as_timestamps"_s, u"1"_s, u"-f"_s, u"lavfi"_s,
-                u"-i"_s,  u"anullsrc=r=48000:cl=stereo"_s};
+        return {u"-use_wallclock_as_timestamps"_s,        u"1"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
+                u"anullsrc=r=48000:cl=stereo,arealtime"_s};
     return {u"-thread_queue_size"_s,
             QLatin1StringView(soundsAhead),
             u"-probesize"_s,
