@@ -1,16 +1,16 @@
 #!/usr/bin/env python3
 """The download engine takes newer ones into use by itself: signed, whole, and only as long as they work."""
 
+import base64
 import json
 import os
+import plistlib
 import shutil
 import subprocess
 import tempfile
 import threading
 import unittest
 from http.server import BaseHTTPRequestHandler, ThreadingHTTPServer
-
-import plistlib
 
 from film_server import FilmServer, make_films
 
@@ -67,7 +67,6 @@ class EngineTest(unittest.TestCase):
                                 capture_output=True).stdout[-32:]
         with open(contents + "/Info.plist", "rb") as file:
             information = plistlib.load(file)
-        import base64
         information |= {"TWDownloadEngineLink": self.url("/document"),
                         "TWDownloadEngineKey": base64.b64encode(public).decode()}
         with open(copy + "/Info.plist", "wb") as file:
@@ -88,7 +87,7 @@ class EngineTest(unittest.TestCase):
 
     def run_cli(self, *arguments):
         environment = {key: value for key, value in os.environ.items() if not key.startswith("XDG_")}
-        done = subprocess.run([self.cli, "--json", *arguments], capture_output=True, text=True, timeout=100,
+        done = subprocess.run([self.cli, "--json", *arguments], capture_output=True, text=True, timeout=300,
                               env=environment | {"HOME": self.home, "LC_ALL": "C.UTF-8"})
         return done.returncode, [json.loads(line) for line in done.stdout.splitlines()]
 
