@@ -1,46 +1,67 @@
 #include "LoggerWatcherTask.h"
 
-#include "jobs/ToolProcess.h"
+#include "foundation/Processes.h"
+#include "tarnwell/Log.h"
 
 #include <QEventLoop>
 #include <QMutexLocker>
+#include <QProcess>
+#include <QTimer>
 
-#include <cstdio>
-
+using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
 namespace kestrel {
 
 void LoggerWatcherTask::run(const QString &program, const QStringList &arguments)
 {
-    ToolProcess viewer(
-        {.program = program, .arguments = arguments, .politeEnd = ToolCommand::PoliteEnd::Terminate, .patience = 1s});
+    QProcess process;
     QEventLoop untilExit;
-    QObject::connect(&viewer, &ToolProcess::ended, &untilExit, &QEventLoop::quit);
-    // Not to the log: it would grow by what the viewer says of its growing.
-    QObject::connect(&viewer, &ToolProcess::errorLine, &viewer,
-                     [](const QByteArray &line) { std::fprintf(stderr, "%s\n", line.constData()); });
+    QObject::connect(&process, &QProcess::finished, &untilExit, &QEventLoop::quit);
+    QObject::connect(&process, &QProcess::errorOccurred, &untilExit, [&](QProcess::ProcessError error) {
+        if (error != QProcess::FailedToStart)
+            return;
+        tarnwell::DNFootLog(u"The log viewer could not be started: %1"_s, process.errorString());
+        untilExit.quit();
+    });
+    process.setProcessChannelMode(QProcess::ForwardedChannels);
+    process.setChildProcessModifier(foundation::endWithParent());
     bool isWanted = false;
     {
         const QMutexLocker locker(&m_mutex);
         isWanted = !m_isTerminated;
-        m_viewer = &viewer;
+        m_process = &process;
     }
-    if (isWanted) {
-        viewer.start();  // one that is terminated from here on ends once the loop runs
+    if (isWanted)
+        process.start(program, arguments);  // one that is terminated from here on ends once the loop runs
+    if (process.state() != QProcess::NotRunning)
         untilExit.exec();
-    }
     const QMutexLocker locker(&m_mutex);
-    m_viewer = nullptr;
+    m_process = nullptr;
     m_hasEnded = true;
+}
+
+void LoggerWatcherTask::raise()
+{
+    const QMutexLocker locker(&m_mutex);
+    if (m_process)
+        QMetaObject::invokeMethod(
+            m_process, [process = m_process] { process->write("raise\n"); }, Qt::QueuedConnection);
 }
 
 void LoggerWatcherTask::terminate()
 {
     const QMutexLocker locker(&m_mutex);
     m_isTerminated = true;
-    if (m_viewer)
-        QMetaObject::invokeMethod(m_viewer, &ToolProcess::stop, Qt::QueuedConnection);
+    if (!m_process)
+        return;
+    QMetaObject::invokeMethod(
+        m_process,
+        [process = m_process] {
+            process->terminate();
+            QTimer::singleShot(1s, process, &QProcess::kill);
+        },
+        Qt::QueuedConnection);
 }
 
 }  // namespace kestrel

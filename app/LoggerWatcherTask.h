@@ -6,9 +6,9 @@
 
 #include <atomic>
 
-namespace kestrel {
+class QProcess;
 
-class ToolProcess;
+namespace kestrel {
 
 /// One run of the log viewer, from the click to the viewer's end. It ends with the application, also with one that is
 /// killed. Any thread.
@@ -18,6 +18,9 @@ public:
     /// started is logged.
     void run(const QString &program, const QStringList &arguments);
 
+    /// Asks the viewer to come to the front; nothing where none runs.
+    void raise();
+
     /// Ends the viewer, or keeps it from starting; one that does not heed this is killed a second later.
     void terminate();
 
@@ -26,7 +29,7 @@ public:
 
 private:
     QMutex m_mutex;
-    ToolProcess *m_viewer = nullptr;  ///< while it runs; its thread is that of `run`
+    QProcess *m_process = nullptr;  ///< while it runs; its thread is that of `run`
     bool m_isTerminated = false;
     std::atomic<bool> m_hasEnded = false;
 };

@@ -1,8 +1,10 @@
 #include "ProblemReports.h"
 
 #include "LoggerWatcherTask.h"
+#include "UnsavedEnd.h"
 #include "foundation/Bundle.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/JAppleScriptHelper.h"
@@ -42,8 +44,10 @@ std::shared_ptr<LoggerWatcherTask> ProblemReports::viewer() const
 
 void ProblemReports::showLog()
 {
-    if (m_hasRunEnded || viewer())
+    if (m_hasRunEnded)
         return;
+    if (const auto running = viewer())
+        return running->raise();
     m_viewer = std::make_shared<LoggerWatcherTask>();
     const QString program =
         tarnwell::productBundle().resource(u"KestrelLogWatcher.app"_s) + u"/Contents/MacOS/KestrelLogWatcher"_s;
@@ -66,7 +70,7 @@ void ProblemReports::sendPreviousLog()
 
 void ProblemReports::checkAtLaunch()
 {
-    if (m_defaults.boolForKey(notSafeTerminateKey)) {
+    if (!tellUnsavedEnd() && m_defaults.boolForKey(notSafeTerminateKey)) {
         const auto answer =
             tarnwell::runAlert({.message = AppLocalizedString(u"Problem detected in last conversion."_s),
                                 .defaultButton = AppLocalizedString(u"Send Report"_s),
@@ -89,6 +93,26 @@ void ProblemReports::sessionWillEnd()
 void ProblemReports::markEnded()
 {
     setNotSafeTerminate(false);
+}
+
+void ProblemReports::noteSaved(bool isSaved)
+{
+    UnsavedEnd().note(!isSaved);
+}
+
+bool ProblemReports::tellUnsavedEnd() const
+{
+    if (!UnsavedEnd().take())
+        return false;
+    tarnwell::runAlert(
+        {.message = AppLocalizedString(u"Your settings could not be saved when Kestrel was last quit."_s),
+         .defaultButton = AppLocalizedString(u"OK"_s),
+         .alternateButton = {},
+         .informativeText =
+             AppLocalizedString(u"Please check that the disk has room and that this folder can be written: %1"_s)
+                 .arg(QDir::toNativeSeparators(foundation::configurationDirectory())),
+         .style = tarnwell::AlertStyle::Warning});
+    return true;
 }
 
 void ProblemReports::runWillEnd()

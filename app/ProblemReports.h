@@ -23,7 +23,7 @@ public:
     explicit ProblemReports(foundation::UserDefaults &defaults);
     ~ProblemReports() override;
 
-    /// Shows this run's log in the log viewer, unless one is open already or the run has ended.
+    /// Shows this run's log in the log viewer, unless the run has ended; one that is open already comes to the front.
     void showLog();
     /// Null unless the log viewer runs, or is being started.
     std::shared_ptr<LoggerWatcherTask> viewer() const;
@@ -36,10 +36,14 @@ public:
     void sessionWillEnd();
     /// The run has ended in order; what may come later marks it anew.
     void markEnded();
+    /// Whether the settings could be saved at the end; the next run tells where not.
+    void noteSaved(bool isSaved);
     /// Ends the viewer as well, for good.
     void runWillEnd();
 
 private:
+    /// Tells that the previous run could not save at its end; true where it was so. That is no unclean end.
+    bool tellUnsavedEnd() const;
     void setNotSafeTerminate(bool isNotSafe);
 
     foundation::UserDefaults &m_defaults;

@@ -1,18 +1,20 @@
 #include "SingleInstance.h"
 
+#include "LocalMessages.h"
+#include "foundation/StandardFolders.h"
+
 #include <QDeadlineTimer>
-#include <QDir>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
-#include <QLocalServer>
-#include <QLocalSocket>
 #include <QThread>
 
 #include <fcntl.h>
 #include <sys/file.h>
+#include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
+#include <cstring>
 
 using namespace Qt::StringLiterals;
 
@@ -20,18 +22,32 @@ namespace kestrel {
 
 namespace {
 
-constexpr qint64 maximumMessageBytes = 8 * 1024 * 1024;  // more than a command line holds
-constexpr char acknowledgement = 'k';
+int openLock(const QString &path)
+{
+    return open(QFile::encodeName(path).constData(), O_RDWR | O_CREAT | O_CLOEXEC | O_NOFOLLOW, 0600);
+}
+
+/// Makes the folder where it is missing. False where it is not the user's alone: others could hold the lock, or answer.
+bool isPrivateFolder(const QString &path)
+{
+    struct stat status = {};
+    return foundation::makePrivateFolder(path) && ::lstat(QFile::encodeName(path).constData(), &status) == 0 &&
+           S_ISDIR(status.st_mode) && status.st_uid == ::geteuid() &&
+           QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+}
 
 }  // namespace
 
-SingleInstance::SingleInstance(const QString &folder, QObject *parent)
-    : QObject(parent),
-      m_lockPath(folder + "/instance.lock"_L1),
-      m_socketPath(folder + "/instance.socket"_L1)
+SingleInstance::SingleInstance(const QStringList &folders, QObject *parent) : QObject(parent)
 {
-    QDir().mkpath(folder);
-    QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    for (const QString &folder : folders) {
+        if (folder.isEmpty())
+            continue;
+        m_lockFile = isPrivateFolder(folder) ? openLock(folder + "/instance.lock"_L1) : -1;
+        m_socketPath = folder + "/instance.socket"_L1;
+        if (m_lockFile >= 0)
+            return;
+    }
 }
 
 SingleInstance::~SingleInstance()
@@ -45,10 +61,12 @@ SingleInstance::Role SingleInstance::claim(const QStringList &files, int patienc
 {
     // Either may change at any moment: the other one may just have begun, or be about to end.
     const QDeadlineTimer deadline(patienceMs);
+    const QByteArray message = QJsonDocument(QJsonArray::fromStringList(files)).toJson(QJsonDocument::Compact) + '\n';
     while (true) {
-        if (lock())
+        // No folder that can be written is no reason not to start, nor is a file system without locks.
+        if (m_lockFile < 0 || flock(m_lockFile, LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK)
             return Role::First;
-        if (handOver(files, deadline))
+        if (sendLocalMessage(m_socketPath, message, deadline))
             return Role::Second;
         if (deadline.hasExpired())
             return Role::Unanswered;
@@ -56,64 +74,26 @@ SingleInstance::Role SingleInstance::claim(const QStringList &files, int patienc
     }
 }
 
-bool SingleInstance::lock()
-{
-    const int file = open(QFile::encodeName(m_lockPath).constData(), O_RDWR | O_CREAT | O_CLOEXEC, 0600);
-    if (file < 0)
-        return true;  // a folder that cannot be written is no reason not to start
-    if (flock(file, LOCK_EX | LOCK_NB) != 0) {
-        const bool isTaken = errno == EWOULDBLOCK;
-        close(file);
-        return !isTaken;  // nor is a file system without locks
-    }
-    m_lockFile = file;
-    return true;
-}
-
-bool SingleInstance::handOver(const QStringList &files, const QDeadlineTimer &deadline)
-{
-    QLocalSocket socket;
-    socket.connectToServer(m_socketPath);
-    if (!socket.waitForConnected(int(deadline.remainingTime())))
-        return false;
-    socket.write(QJsonDocument(QJsonArray::fromStringList(files)).toJson(QJsonDocument::Compact) + '\n');
-    char answer = 0;
-    return socket.waitForReadyRead(int(deadline.remainingTime())) && socket.read(&answer, 1) == 1 &&
-           answer == acknowledgement;
-}
-
 void SingleInstance::listen()
 {
-    QLocalServer::removeServer(m_socketPath);
-    m_server = std::make_unique<QLocalServer>();
-    m_server->setSocketOptions(QLocalServer::UserAccessOption);
-    connect(m_server.get(), &QLocalServer::newConnection, this, [this] {
-        while (QLocalSocket *socket = m_server->nextPendingConnection()) {
-            connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-            connect(socket, &QLocalSocket::readyRead, this, [this, socket] { receive(socket); });
-        }
-    });
+    m_server = std::make_unique<LocalMessageServer>([this](const QByteArray &line) { return takeOver(line); });
     if (!m_server->listen(m_socketPath))
-        qWarning("Later starts cannot be handed over: %s", qPrintable(m_server->errorString()));
+        qWarning("Later starts cannot be handed over: %s", std::strerror(errno));
 }
 
-void SingleInstance::receive(QLocalSocket *socket)
+bool SingleInstance::takeOver(const QByteArray &line)
 {
-    if (!socket->canReadLine()) {
-        if (socket->bytesAvailable() > maximumMessageBytes)
-            socket->abort();
-        return;
-    }
-    const QJsonDocument message = QJsonDocument::fromJson(socket->readLine(maximumMessageBytes));
+    const QJsonDocument message = QJsonDocument::fromJson(line);
     if (!message.isArray())
-        return socket->abort();
+        return false;
     QStringList files;
     for (const QJsonValue file : message.array())
         files.append(file.toString());
     files.removeAll(QString());
-    socket->write(&acknowledgement, 1);
-    socket->flush();
-    emit startedAgain(files);
+    // In a later turn: what it opens may take its time, and the sender waits.
+    QMetaObject::invokeMethod(
+        this, [this, files] { emit startedAgain(files); }, Qt::QueuedConnection);
+    return true;
 }
 
 }  // namespace kestrel

@@ -5,11 +5,9 @@
 
 #include <memory>
 
-class QDeadlineTimer;
-class QLocalServer;
-class QLocalSocket;
-
 namespace kestrel {
+
+class LocalMessageServer;
 
 /// One Kestrel a user. The first one to claim a folder holds a lock there that the system takes back when its process
 /// ends, however it ends; a later one hands over its files through a socket beside the lock.
@@ -22,8 +20,9 @@ public:
         Unanswered,  ///< another one holds the lock but does not answer
     };
 
-    /// `folder` is private to the user and is created where it is missing.
-    explicit SingleInstance(const QString &folder, QObject *parent = nullptr);
+    /// The first of the folders that is the user's own and takes a lock file is the one; each is created where it is
+    /// missing. An empty path stands for a folder that this session does not have.
+    explicit SingleInstance(const QStringList &folders, QObject *parent = nullptr);
     ~SingleInstance() override;
 
     /// `files` are absolute paths. Takes up to `patienceMs` where another instance is slow to answer. Needs an
@@ -37,14 +36,11 @@ signals:
     void startedAgain(const QStringList &files);
 
 private:
-    bool lock();
-    bool handOver(const QStringList &files, const QDeadlineTimer &deadline);
-    void receive(QLocalSocket *socket);
+    bool takeOver(const QByteArray &line);
 
-    QString m_lockPath;
     QString m_socketPath;
-    int m_lockFile = -1;
-    std::unique_ptr<QLocalServer> m_server;
+    int m_lockFile = -1;  ///< open as long as this object lives; none where no folder can be used
+    std::unique_ptr<LocalMessageServer> m_server;
 };
 
 }  // namespace kestrel

@@ -5,6 +5,7 @@
 #include "app/ui/AppDelegate.h"
 #include "foundation/Bundle.h"
 #include "foundation/Fetch.h"
+#include "foundation/FileNames.h"
 #include "foundation/LanguageTags.h"
 #include "foundation/Queues.h"
 #include "foundation/StandardFolders.h"
@@ -12,10 +13,10 @@
 #include "foundation/UserDefaults.h"
 #include "jobs/JobStore.h"
 #include "jobs/OutputFile.h"
-#include "modules/heron/HeronController.h"
+#include "modules/heron/ui/HeronController.h"
 #include "modules/marlin/ui/MarlinController.h"
 #include "modules/petrel/ui/PetrelController.h"
-#include "modules/plover/PloversController.h"
+#include "modules/plover/ui/PloversController.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/ui/JKestrelSettingController.h"
 #include "tarnwell/Installed.h"
@@ -26,10 +27,12 @@
 #include "tarnwell/ui/DesktopAlertPresenter.h"
 #include "tarnwell/ui/DesktopFolderPanel.h"
 #include "tarnwell/ui/DesktopWebOpener.h"
+#include "tarnwell/ui/Fonts.h"
 #include "tarnwell/ui/Theme.h"
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFileInfo>
 #include <QProcess>
 #include <QRandomGenerator>
@@ -38,6 +41,7 @@
 #include <QThread>
 #include <QTranslator>
 
+#include <unistd.h>
 #include <cstdio>
 #include <cstdlib>
 
@@ -48,17 +52,17 @@ namespace kestrel {
 namespace {
 
 /// Absolute paths of the files named on the command line; --help and --version end the process here.
-QStringList filesOf(const QCoreApplication &application)
+QStringList filesOf(int argc, char **argv)
 {
     QCommandLineParser parser;
     parser.setApplicationDescription(u"A desktop hub for video work."_s);
     parser.addHelpOption();
     parser.addVersionOption();
     parser.addPositionalArgument(u"files"_s, u"Media files to open in the converter."_s, u"[FILE…]"_s);
-    parser.process(application);
+    parser.process(foundation::decodedArguments(argc, argv));
     QStringList files;
     for (const QString &argument : parser.positionalArguments())
-        files.append(QFileInfo(argument).absoluteFilePath());
+        files.append(foundation::absoluteFileName(argument));
     return files;
 }
 
@@ -68,12 +72,23 @@ bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &file
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"Kestrel"_s);
     QCoreApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
-    files = filesOf(application);
+    files = filesOf(argc, argv);
     const SingleInstance::Role role = instance.claim(files);
     if (role == SingleInstance::Role::Unanswered)
         std::fputs("Kestrel is running already, but does not answer.\n", stderr);
     status = role == SingleInstance::Role::Second ? EXIT_SUCCESS : EXIT_FAILURE;
     return role == SingleInstance::Role::First;
+}
+
+/// Where this user's one instance is known: for the login session, else in the user's own folders, else for want of
+/// both where everybody may write.
+QStringList instanceFolders()
+{
+    const QString identifier = foundation::Bundle::main().identifier();
+    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    return {runtime.isEmpty() ? QString() : runtime + u'/' + identifier,
+            foundation::stateDirectory() + u'/' + identifier,
+            QDir::tempPath() + u'/' + identifier + u'-' + QString::number(::getuid())};
 }
 
 /// Of a module that takes the services, or has no need of them.
@@ -93,6 +108,11 @@ void presentSettings(QWidget *overWindow)
     JKestrelSettingController::loadDefaultWindowController().presentForWindow(overWindow);
 }
 
+void storeEdits()
+{
+    JKestrelSettingController::loadDefaultWindowController().storeProxy();
+}
+
 void presentAbout(QWidget *overWindow)
 {
     JKestrelAboutController::loadDefaultWindowController().presentForWindow(overWindow);
@@ -109,7 +129,7 @@ AppDelegate::Surroundings surroundings(foundation::UserDefaults &defaults, found
                     {ModuleSettingDVD, factoryOf<HeronController>()},
                     {ModuleSettingDownload, factoryOf<PetrelController>()},
                     {ModuleSettingRecord, factoryOf<PloversController>()}},
-        .windows = {.setting = presentSettings, .about = presentAbout},
+        .windows = {.setting = presentSettings, .about = presentAbout, .storeEdits = storeEdits},
         // Not quit(): that asks every window first, and a module may refuse to close.
         .terminate = [] { QCoreApplication::exit(); },
         .startProcess = [](const QString &program,
@@ -155,7 +175,7 @@ private:
 };
 
 int run(QApplication &application, SingleInstance &instance, const QStringList &files,
-        foundation::UserDefaults &defaults)
+        foundation::UserDefaults &defaults, tarnwell::FontReading &fonts)
 {
     const QString language = defaults.stringArrayForKey(appleLanguagesKey.toString()).value(0);
     QLocale::setDefault(QLocale(language));
@@ -169,9 +189,10 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     const tarnwell::Installed<tarnwell::AlertPresenter> installedAlerts(alerts);
     tarnwell::DesktopFolderPanel folderPanel;
     const tarnwell::Installed<tarnwell::FolderPanel> installedFolderPanel(folderPanel);
+    fonts.finish();
     tarnwell::applyTheme(application);
 
-    foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s));
+    foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s));
     ProgramJobs jobs([] { return openJobStore(jobStorePath()); },
                      [](const QString &) { return wishesOf(JKestrelSetting::ShareInst()); });
     AppDelegate delegate(surroundings(defaults, fetcher, jobs));
@@ -182,6 +203,8 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
 
     delegate.applicationWillFinishLaunching();
     delegate.applicationDidFinishLaunching();
+    // Made before: what is made later is gone by then.
+    JKestrelSettingController::loadDefaultWindowController();
     const SavingAtExit savingAtExit(delegate);
     if (!files.isEmpty())
         delegate.appController()->openFiles(files);
@@ -202,13 +225,13 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
 int main(int argc, char **argv)
 {
     using namespace kestrel;
-    SingleInstance instance(QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) + u'/' +
-                            foundation::Bundle::main().identifier());
+    SingleInstance instance(instanceFolders());
     QStringList files;
     int status = EXIT_SUCCESS;
     if (!isTheOne(instance, argc, argv, files, status))
         return status;
 
+    tarnwell::FontReading fonts;
     tarnwell::Log log(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName());
     const tarnwell::Installed<tarnwell::Log> installedLog(log);
     const tarnwell::QtMessageLog messageLog;
@@ -220,5 +243,5 @@ int main(int argc, char **argv)
     QApplication::setApplicationName(u"Kestrel"_s);
     QApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
     QApplication::setDesktopFileName(foundation::Bundle::main().identifier());
-    return run(application, instance, files, defaults);
+    return run(application, instance, files, defaults, fonts);
 }

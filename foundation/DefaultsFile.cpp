@@ -1,17 +1,20 @@
 #include "DefaultsFile.h"
 
 #include "PropertyList.h"
+#include "StandardFolders.h"
 
 #include <QDateTime>
 #include <QDeadlineTimer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
+#include <QTemporaryFile>
 #include <QThread>
 
+#include <algorithm>
 #include <cerrno>
 #include <chrono>
+#include <cstdio>
 
 #include <fcntl.h>
 #include <unistd.h>
@@ -28,6 +31,7 @@ constexpr std::chrono::milliseconds lockPollInterval = 5ms;
 /// the same: it holds the lock file itself locked.
 constexpr std::chrono::milliseconds staleLockAge = 1s;
 constexpr int maxLinks = 32;
+constexpr auto replacementSuffix = ".saving-"_L1;
 
 /// The file that `path` leads to, which need not exist. Links in a circle end at one of them.
 QString resolvedPath(QString path)
@@ -37,14 +41,36 @@ QString resolvedPath(QString path)
     return path;
 }
 
-bool makePrivateFolder(const QString &path)
+/// Former versions put six random letters behind the name; a word there is somebody's own copy.
+bool isLeftReplacement(const QString &suffix)
 {
-    if (QFileInfo(path).isDir())
-        return true;
-    const QString parent = QFileInfo(path).path();
-    if (parent == path || !makePrivateFolder(parent))
-        return false;
-    return QDir().mkdir(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner) || QFileInfo(path).isDir();
+    const auto isLower = [](QChar letter) { return letter >= u'a' && letter <= u'z'; };
+    const auto isUpper = [](QChar letter) { return letter >= u'A' && letter <= u'Z'; };
+    const auto isLetter = [&](QChar letter) { return isLower(letter) || isUpper(letter); };
+    return suffix.startsWith(replacementSuffix.sliced(1)) ||
+           (suffix.size() == 6 && std::ranges::all_of(suffix, isLetter) && std::ranges::any_of(suffix, isLower) &&
+            std::ranges::any_of(suffix.sliced(1), isUpper));
+}
+
+/// Removes what processes left that were killed while they replaced the file. Nobody else replaces it meanwhile.
+void removeLeftReplacements(const QString &path)
+{
+    const QFileInfo info(path);
+    const QDir folder = info.dir();
+    const qsizetype nameLength = info.fileName().size() + 1;
+    for (const QString &name : folder.entryList({info.fileName() + ".*"_L1}, QDir::Files | QDir::NoSymLinks))
+        if (isLeftReplacement(name.sliced(nameLength)))
+            QFile::remove(folder.filePath(name));
+}
+
+/// A free name beside the file, which tells the time.
+QString nameAside(const QString &path)
+{
+    const QString base = path + ".corrupt-"_L1 + QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd'T'HHmmss'Z'"_s);
+    QString name = base;
+    for (int copy = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++copy)
+        name = base + u'-' + QString::number(copy);
+    return name;
 }
 
 /// False where the disk refuses the data (full, broken), which some file systems tell only now; true where the file
@@ -107,6 +133,10 @@ DefaultsFile::State DefaultsFile::read()
         return found(State::Damaged, list.error.toString());
     if (list.value->typeId() != QMetaType::QVariantMap)
         return found(State::Damaged, u"not a dictionary"_s);
+    // What the XML form cannot hold would stand in the way of every later save.
+    if (list.format == PropertyListFormat::Binary &&
+        !readPropertyList(writePropertyList(*list.value, PropertyListFormat::Xml)).value)
+        return found(State::Damaged, u"it holds what cannot be written again"_s);
     found(State::Readable);
     m_values = list.value->toMap();
     return m_state;
@@ -114,10 +144,7 @@ DefaultsFile::State DefaultsFile::read()
 
 DefaultsFile::State DefaultsFile::setAside()
 {
-    const QString base = m_path + ".corrupt-"_L1 + QDateTime::currentDateTimeUtc().toString(u"yyyyMMdd'T'HHmmss'Z'"_s);
-    QString name = base;
-    for (int copy = 2; QFileInfo::exists(name) || QFileInfo(name).isSymLink(); ++copy)
-        name = base + u'-' + QString::number(copy);
+    const QString name = nameAside(m_path);
     QFile file(m_path);
     if (!file.rename(name))
         return found(State::Unavailable, m_error + ", and it cannot be moved: "_L1 + file.errorString());
@@ -132,17 +159,29 @@ bool DefaultsFile::replace(const QVariantMap &values)
     // Together they may pass a limit that each value keeps; the next start would set such a file aside as damaged.
     if (!readPropertyList(bytes).value)
         return fail(u"the values are too many or too large"_s);
-    QSaveFile file(m_path);
-    if (!file.open(QIODevice::WriteOnly))
+    removeLeftReplacements(m_path);
+    QTemporaryFile file(m_path + replacementSuffix + "XXXXXX"_L1);  // which its owner alone can read
+    if (!file.open() || file.write(bytes) != bytes.size() || !file.flush())
         return fail(file.errorString());
-    file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);  // not every file system has them
-    if (file.write(bytes) != bytes.size() || !file.flush())
-        return fail(file.errorString());
-    if (!syncToDisk(file.handle()))  // QSaveFile itself does not look at the result
+    if (!syncToDisk(file.handle()))
         return fail(u"the disk refused it"_s);
-    if (!file.commit())
-        return fail(file.errorString());
+    if (std::rename(QFile::encodeName(file.fileName()).constData(), QFile::encodeName(m_path).constData()) != 0)
+        return fail(qt_error_string());
+    file.setAutoRemove(false);
     syncFolder(QFileInfo(m_path).path());
+    return true;
+}
+
+bool DefaultsFile::keepAside(const QByteArray &bytes, const QString &key)
+{
+    const QString name = nameAside(m_path + u'.' + key);
+    QFile file(name);
+    const bool isKept = file.open(QIODevice::WriteOnly | QIODevice::NewOnly, QFile::ReadOwner | QFile::WriteOwner) &&
+                        file.write(bytes) == bytes.size() && file.flush();
+    if (!isKept)
+        return fail(file.errorString());
+    qWarning("Defaults: what could not be read of \"%ls\" was kept as \"%ls\"", qUtf16Printable(m_path),
+             qUtf16Printable(name));
     return true;
 }
 

@@ -17,7 +17,7 @@ public:
     enum class State {
         Missing,      ///< no file, hence no values
         Readable,     ///< `values` is what it holds
-        Damaged,      ///< read, but no property list with a dictionary, or too large
+        Damaged,      ///< read, but no property list with a dictionary, too large, or not to be written as XML
         Unavailable,  ///< it could not be read, now
     };
 
@@ -35,8 +35,11 @@ public:
     /// Needs the lock.
     State setAside();
 
-    /// Replaces the file, for its owner alone to read, and waits until the disk has it. Needs the lock.
+    /// Replaces the file, for its owner alone to read, and waits until the disk has it; what a replacement left that
+    /// was killed goes. Needs the lock.
     bool replace(const QVariantMap &values);
+    /// Puts the value of a key, which nobody can read, into a file of its own beside this one. Needs the lock.
+    bool keepAside(const QByteArray &bytes, const QString &key);
 
     QString error() const { return m_error; }  ///< what went wrong last, in English, for the log
 

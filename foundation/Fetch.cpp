@@ -1,14 +1,16 @@
 #include "Fetch.h"
 
+#include "Processes.h"
 #include "RegularFile.h"
 #include "WebTransfer.h"
 
 #include <QFile>
-#include <QLibrary>
+#include <QProcess>
 #include <QUrl>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdlib>
 
 using namespace Qt::StringLiterals;
 
@@ -60,11 +62,44 @@ QString redirectObstacle(const QUrl &from, const QUrl &to)
     return to.host().isEmpty() ? u"a redirect to a malformed address"_s : QString();
 }
 
-FetchResult followedTransfer(WebTransferFunction *transfer, WebTransferRequest &request)
+/// Starts the program for one request and takes its answer.
+WebTransferResult transferInProgram(const QString &program, const WebTransferRequest &request,
+                                    const std::atomic<bool> &isAbandoned)
+{
+    // The program keeps to the deadline itself: this is for one that does not.
+    const auto end = request.deadline + std::chrono::milliseconds(80);
+    QProcess process;
+    process.setChildProcessModifier(endWithParent());
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    process.start(program, webTransferArguments(request), QIODevice::ReadOnly);
+    QByteArray answer;
+    QString interruption;
+    while (interruption.isNull() && process.state() != QProcess::NotRunning) {
+        process.waitForReadyRead(20);
+        answer += process.readAllStandardOutput();
+        if (isAbandoned)
+            interruption = u"abandoned"_s;
+        else if (std::chrono::steady_clock::now() >= end)
+            interruption = u"not complete in time"_s;
+        else if (answer.size() > longestWebTransferAnswer(request.maximumBytes))
+            interruption = u"the transfer program failed"_s;
+    }
+    if (!interruption.isNull()) {
+        process.kill();
+        process.waitForFinished();
+        return {{}, {}, interruption};
+    }
+    if (process.error() == QProcess::FailedToStart)
+        return {{}, {}, u"the transfer program cannot be started: %1"_s.arg(process.errorString())};
+    const bool hasEndedWell = process.exitStatus() == QProcess::NormalExit && process.exitCode() == EXIT_SUCCESS;
+    return webTransferResult(hasEndedWell ? answer + process.readAllStandardOutput() : QByteArray());
+}
+
+FetchResult followedTransfer(const QString &program, WebTransferRequest request, const std::atomic<bool> &isAbandoned)
 {
     for (int redirects = 0; redirects <= maximumRedirects; ++redirects) {
-        WebTransferResult result;
-        transfer(request, result);
+        WebTransferResult result = transferInProgram(program, request, isAbandoned);
         if (result.location.isEmpty())
             return {std::move(result.body), std::move(result.reason)};
         if (const QString obstacle = redirectObstacle(request.address, result.location); !obstacle.isNull())
@@ -76,7 +111,7 @@ FetchResult followedTransfer(WebTransferFunction *transfer, WebTransferRequest &
 
 }  // namespace
 
-Fetcher::Fetcher(const QString &libraryPath) : m_libraryPath(libraryPath) {}
+Fetcher::Fetcher(const QString &programPath) : m_programPath(programPath) {}
 
 FetchResult Fetcher::fetch(const FetchRequest &request)
 {
@@ -93,14 +128,7 @@ FetchResult Fetcher::fetch(const FetchRequest &request)
     if (url.host().isEmpty())
         return fetchFailure(u"the address is malformed"_s);
 
-    QLibrary library(m_libraryPath);
-    // A thread of the library may still wait for an answer of the system when the program ends.
-    library.setLoadHints(QLibrary::PreventUnloadHint);
-    const auto transfer = reinterpret_cast<WebTransferFunction *>(library.resolve(webTransferSymbol));
-    if (!transfer)
-        return fetchFailure(u"the transfer library cannot be loaded: %1"_s.arg(library.errorString()));
-    WebTransferRequest hop{url, request.maximumBytes, deadline, m_isAbandoned};
-    return followedTransfer(transfer, hop);
+    return followedTransfer(m_programPath, {url, request.maximumBytes, deadline}, m_isAbandoned);
 }
 
 }  // namespace kestrel::foundation

@@ -29,13 +29,14 @@ struct FetchResult {
 /// How code that reads a remote document gets at its bytes: `Fetcher::fetch`, or a test's own answer.
 using Fetch = std::function<FetchResult(const FetchRequest &)>;
 
-/// Fetches documents over the bundle's transfer library, which is loaded on the first fetch. At most five redirects are
-/// followed, none from https to http and none to a file; a status other than 2xx and a body that is shorter than
+/// Fetches documents with the bundle's transfer program, a process a request. At most five redirects are
+/// followed, none from https to http and none to a file; a status other than 2xx,
+/// a part that nobody asked for and a body that is shorter than
 /// announced are failures. A proxy of the system's settings is used. Files are read with the same limit of bytes:
 /// regular ones only. Any thread but the main one, which would wait.
 class Fetcher {
 public:
-    explicit Fetcher(const QString &libraryPath);
+    explicit Fetcher(const QString &programPath);
 
     FetchResult fetch(const FetchRequest &request);
 
@@ -43,7 +44,7 @@ public:
     void abandon() { m_isAbandoned = true; }
 
 private:
-    QString m_libraryPath;
+    QString m_programPath;
     std::atomic<bool> m_isAbandoned = false;
 };
 

@@ -1,9 +1,10 @@
 #include "FileNames.h"
 
-#include <QStringDecoder>
+#include <QDir>
 
 #include <sys/stat.h>
 #include <unistd.h>
+#include <climits>
 
 namespace kestrel::foundation {
 
@@ -67,6 +68,21 @@ QByteArray encodedFileName(const QString &name)
         start = index + 1;
     }
     return bytes + QStringView(name).sliced(start).toUtf8();
+}
+
+QStringList decodedArguments(int argc, char **argv)
+{
+    QStringList words;
+    for (int index = 0; index < argc; ++index)
+        words.append(decodedFileName(argv[index]));
+    return words;
+}
+
+QString absoluteFileName(const QString &name)
+{
+    char folder[PATH_MAX];
+    const bool isAbsolute = name.startsWith(u'/') || !getcwd(folder, sizeof folder);
+    return QDir::cleanPath(isAbsolute ? name : decodedFileName(folder) + u'/' + name);
 }
 
 bool isPlainFileName(const QString &name)

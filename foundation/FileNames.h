@@ -1,7 +1,7 @@
 #pragma once
 
 #include <QDateTime>
-#include <QString>
+#include <QStringList>
 #include <QUrl>
 
 #include <optional>
@@ -13,6 +13,11 @@ namespace kestrel::foundation {
 
 QString decodedFileName(QByteArrayView bytes);
 QByteArray encodedFileName(const QString &name);
+
+/// The words of a command line, program first: files may be among them.
+QStringList decodedArguments(int argc, char **argv);
+/// Without "." and ".."; from the working folder where it is relative.
+QString absoluteFileName(const QString &name);
 
 /// Whether Qt and tools that want UTF-8 can take the name.
 bool isPlainFileName(const QString &name);

@@ -53,11 +53,13 @@ QString PropertyListError::toString() const
                     : u"byte %1: %2"_s.arg(offset).arg(message);
 }
 
-PropertyListResult readPropertyList(const QByteArray &bytes, const PropertyListLimits &limits)
+PropertyListResult readPropertyList(const QByteArray &bytes, const PropertyListLimits &limits,
+                                    PropertyListManner manner)
 {
     if (bytes.size() > limits.bytes)
         return {{}, {}, {u"longer than %1 bytes"_s.arg(limits.bytes), limits.bytes, 0}};
-    return bytes.startsWith("bplist") ? readBinaryPropertyList(bytes, limits) : readXmlPropertyList(bytes, limits);
+    return bytes.startsWith("bplist") ? readBinaryPropertyList(bytes, limits)
+                                      : readXmlPropertyList(bytes, limits, manner);
 }
 
 QByteArray writePropertyList(const QVariant &value, PropertyListFormat format)

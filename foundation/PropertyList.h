@@ -39,6 +39,11 @@ struct PropertyListLimits {
 
 enum class PropertyListFormat { Xml, Binary };
 
+/// How XML that is unsound but can be understood is taken: an archive has none of it, while a document that somebody
+/// has written may have a dictionary with a key twice (the last counts), blanks before its declaration, or characters
+/// of windows-1252.
+enum class PropertyListManner { Strict, Forgiving };
+
 struct PropertyListResult {
     std::optional<QVariant> value;
     PropertyListFormat format = PropertyListFormat::Xml;  ///< the form that was found; meaningful with a value
@@ -47,7 +52,8 @@ struct PropertyListResult {
 
 /// Reads either form, told apart by the first bytes. In XML a dictionary whose one entry is a number not below 0 under
 /// "CF$UID" reads as a reference.
-PropertyListResult readPropertyList(const QByteArray &bytes, const PropertyListLimits &limits = {});
+PropertyListResult readPropertyList(const QByteArray &bytes, const PropertyListLimits &limits = {},
+                                    PropertyListManner manner = PropertyListManner::Strict);
 
 /// Null where `value` holds something that a property list cannot: another type, null, ill-formed UTF-16, a date
 /// outside years 1 to 9999, more than the default limits; in the XML form also control characters and a dictionary that

@@ -9,4 +9,8 @@ QString configurationDirectory();  ///< settings: `$XDG_CONFIG_HOME`, or `~/.con
 QString dataDirectory();           ///< data: `$XDG_DATA_HOME`, or `~/.local/share`
 QString stateDirectory();          ///< logs and other state: `$XDG_STATE_HOME`, or `~/.local/state`
 
+/// Makes the folder and those above it where they are missing, each for its owner alone, whatever the process's mask of
+/// permissions says. One that is there stays as it is. False where there is no folder then.
+bool makePrivateFolder(const QString &path);
+
 }  // namespace kestrel::foundation

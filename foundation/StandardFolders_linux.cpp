@@ -1,6 +1,8 @@
 #include "StandardFolders.h"
 
 #include <QDir>
+#include <QFile>
+#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -30,6 +32,21 @@ QString dataDirectory()
 QString stateDirectory()
 {
     return baseDirectory("XDG_STATE_HOME", u".local/state"_s);
+}
+
+bool makePrivateFolder(const QString &path)
+{
+    constexpr QFile::Permissions ownerOnly = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+    if (QFileInfo(path).isDir())
+        return true;
+    const QString parent = QFileInfo(path).path();
+    if (parent == path || !makePrivateFolder(parent))
+        return false;
+    if (!QDir().mkdir(path, ownerOnly))
+        return QFileInfo(path).isDir();  // another process was first
+    // The mask may have taken even the owner's permissions away.
+    QFile::setPermissions(path, ownerOnly);
+    return true;
 }
 
 }  // namespace kestrel::foundation

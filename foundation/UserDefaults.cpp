@@ -162,11 +162,16 @@ void UserDefaults::registerDefaults(const QVariantMap &fallbacks)
 
 bool UserDefaults::synchronize()
 {
+    // What was changed and changed back, as at every start, is no reason to wait for a lock and the disk.
+    m_pendingKeys.removeIf([this](const QString &key) {
+        return m_domain.contains(key) == m_stored.contains(key) &&
+               isSamePropertyList(m_domain.value(key), m_stored.value(key));
+    });
     if (m_pendingKeys.isEmpty())
         return true;
     DefaultsFile file(m_domainPath);
     // Whoever keeps the lock for so long may keep it for ever: after one failure nobody waits for it again.
-    if (!file.lock(m_failureReported ? std::chrono::milliseconds(0) : lockPatience))
+    if (!file.lock(m_failure.isNull() ? lockPatience : std::chrono::milliseconds(0)))
         return reportFailure(file.error());
     if (file.read() == DefaultsFile::State::Damaged)
         file.setAside();
@@ -182,10 +187,18 @@ bool UserDefaults::synchronize()
     }
     if (!isSamePropertyList(merged, file.values()) && !file.replace(merged))
         return reportFailure(file.error());
-    m_domain = merged;
+    m_domain = m_stored = merged;
     m_pendingKeys.clear();
-    m_failureReported = false;
+    m_failure.clear();
     return true;
+}
+
+void UserDefaults::keepAside(const QString &key)
+{
+    const QByteArray bytes = dataForKey(key);
+    DefaultsFile file(m_domainPath);
+    if (!bytes.isEmpty() && (!file.lock(lockPatience) || !file.keepAside(bytes, key)))
+        reportFailure(file.error());
 }
 
 void UserDefaults::load()
@@ -197,7 +210,7 @@ void UserDefaults::load()
         file.setAside();
     if (file.state() != DefaultsFile::State::Readable && file.state() != DefaultsFile::State::Missing)
         reportFailure(file.error());
-    m_domain = file.values();
+    m_domain = m_stored = file.values();
 }
 
 void UserDefaults::changeDomain(const QString &key, const QVariant &value)
@@ -224,9 +237,9 @@ void UserDefaults::changeDomain(const QString &key, const QVariant &value)
 
 bool UserDefaults::reportFailure(const QString &reason)
 {
-    if (!m_failureReported)
+    if (m_failure.isNull())
         qWarning("Defaults: \"%ls\" cannot be used: %ls", qUtf16Printable(m_domainPath), qUtf16Printable(reason));
-    m_failureReported = true;
+    m_failure = reason.isEmpty() ? u"unknown"_s : reason;
     return false;
 }
 

@@ -46,6 +46,11 @@ public:
 
     /// Writes what is pending now. True where the disk holds every change.
     bool synchronize();
+    /// Why the last attempt to read or write failed, in English; null where it did not.
+    QString failure() const { return m_failure; }
+    /// Puts the data of a key, which its reader cannot make sense of, into a file "<name>.<key>.corrupt-<time>" beside
+    /// the domain, before it is replaced. Nothing where the key holds none.
+    void keepAside(const QString &key);
 
 private:
     void load();
@@ -54,11 +59,12 @@ private:
 
     QString m_domainPath;
     QVariantMap m_domain;
+    QVariantMap m_stored;  ///< the domain as it was last read or written
     QVariantMap m_systemValues;
     QVariantMap m_fallbacks;
     QSet<QString> m_pendingKeys;
     bool m_writeScheduled = false;
-    bool m_failureReported = false;
+    QString m_failure;
 };
 
 }  // namespace kestrel::foundation

@@ -3,6 +3,7 @@
 #define XML_DTD 1  // expat declares its guard against entity expansion only to those who ask
 #include <expat.h>
 
+#include <algorithm>
 #include <limits>
 #include <memory>
 
@@ -13,6 +14,25 @@ namespace kestrel::foundation {
 namespace {
 
 constexpr unsigned long long uncheckedExpansion = 1024 * 1024;
+
+/// Of windows-1252, from 0x80 on; what has no character there stands for itself, as browsers have it.
+constexpr int windowsCharacters[] = {0x20AC, 0x81,   0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021,
+                                     0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D,   0x017D, 0x8F,
+                                     0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                     0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D,   0x017E, 0x0178};
+
+int XMLCALL describeEncoding(void *, const XML_Char *name, XML_Encoding *encoding)
+{
+    const QByteArrayView known[] = {"windows-1252", "cp1252"};
+    if (std::ranges::none_of(known, [name](QByteArrayView one) { return one.compare(name, Qt::CaseInsensitive) == 0; }))
+        return XML_STATUS_ERROR;
+    for (int byte = 0; byte < 256; ++byte)
+        encoding->map[byte] = byte >= 0x80 && byte < 0xA0 ? windowsCharacters[byte - 0x80] : byte;
+    encoding->data = nullptr;
+    encoding->convert = nullptr;
+    encoding->release = nullptr;
+    return XML_STATUS_OK;
+}
 
 }  // namespace
 
@@ -54,6 +74,8 @@ void XmlEventParser::Session::prepare()
 {
     XML_Parser parser = expat.get();
     XML_SetUserData(parser, this);
+    if (owner.m_limits.encodings == XmlEncodings::Windows1252Too)
+        XML_SetUnknownEncodingHandler(parser, describeEncoding, nullptr);
     XML_SetElementHandler(parser, started, ended);
     XML_SetCharacterDataHandler(parser, text);
     XML_SetEntityDeclHandler(parser, entityDeclared);

@@ -20,12 +20,18 @@ struct XmlError {
     int line = 0;       ///< from 1
 };
 
+enum class XmlEncodings {
+    Standard,  ///< UTF-8, UTF-16, ISO 8859-1, ASCII
+    Windows1252Too,
+};
+
 /// What the parser accepts; a text beyond any of these is refused.
 struct XmlLimits {
     qint64 bytes = 64 * 1024 * 1024;
     int depth = 1024;     ///< nested elements
     int entities = 64;    ///< entity declarations, which also bounds how deep entities nest
     float expansion = 8;  ///< text after the expansion of entities as a multiple of the text itself, past the first MiB
+    XmlEncodings encodings = XmlEncodings::Standard;
 };
 
 /// Reads an XML text and reports it to a delegate event by event. Names are not split at the colon; attributes that

@@ -5,7 +5,8 @@
 namespace kestrel::foundation {
 
 /// The XML form, for PropertyList.cpp; the contract is there.
-PropertyListResult readXmlPropertyList(const QByteArray &bytes, const PropertyListLimits &limits);
+PropertyListResult readXmlPropertyList(const QByteArray &bytes, const PropertyListLimits &limits,
+                                       PropertyListManner manner);
 QByteArray writeXmlPropertyList(const QVariant &value, const PropertyListLimits &limits);
 
 /// How XML spells a reference: a dictionary with one number not below 0 under this key.

@@ -142,7 +142,11 @@ QVariant xmlLeaf(XmlElement element, const QByteArray &text)
 
 class XmlPropertyListReader : public XmlEventParser::Delegate {
 public:
-    explicit XmlPropertyListReader(const PropertyListLimits &limits) : m_limits(limits) {}
+    XmlPropertyListReader(const PropertyListLimits &limits, PropertyListManner manner)
+        : m_limits(limits),
+          m_manner(manner)
+    {
+    }
 
     const std::optional<QVariant> &value() const { return m_value; }
 
@@ -165,6 +169,7 @@ private:
     void endContainer(XmlEventParser &parser);
 
     PropertyListLimits m_limits;
+    PropertyListManner m_manner;
     bool m_insidePlist = false;
     qint64 m_items = 0;
     std::vector<Level> m_levels;
@@ -267,7 +272,7 @@ void XmlPropertyListReader::add(XmlEventParser &parser, const QVariant &value)
     // Writers sort the keys, so the end is where nearly all of them go.
     const qsizetype before = level.map.size();
     level.map.insert(level.map.cend(), *level.key, value);
-    if (level.map.size() == before)
+    if (level.map.size() == before && m_manner == PropertyListManner::Strict)
         return parser.abort(u"the key \"%1\" is there twice"_s.arg(*level.key));
     level.key.reset();
 }
@@ -285,13 +290,21 @@ std::optional<PropertyListUid> uidFromDictionary(const QVariantMap &dictionary)
     return PropertyListUid{value.toULongLong()};
 }
 
-PropertyListResult readXmlPropertyList(const QByteArray &bytes, const PropertyListLimits &limits)
+PropertyListResult readXmlPropertyList(const QByteArray &bytes, const PropertyListLimits &limits,
+                                       PropertyListManner manner)
 {
-    XmlPropertyListReader reader(limits);
+    const bool isForgiving = manner == PropertyListManner::Forgiving;
+    XmlPropertyListReader reader(limits, manner);
     // <plist> and a text stand around and in the containers, whose depth the reader counts itself.
-    XmlEventParser parser(XmlLimits{.bytes = limits.bytes, .depth = limits.depth + 2});
-    if (const auto error = parser.parse(bytes, reader))
-        return {{}, PropertyListFormat::Xml, {error->message, error->offset, error->line}};
+    XmlEventParser parser(XmlLimits{.bytes = limits.bytes,
+                                    .depth = limits.depth + 2,
+                                    .encodings = isForgiving ? XmlEncodings::Windows1252Too : XmlEncodings::Standard});
+    const auto text = std::find_if_not(bytes.begin(), isForgiving ? bytes.end() : bytes.begin(), isXmlSpace);
+    const qint64 skipped = text - bytes.begin();
+    if (const auto error = parser.parse(skipped > 0 ? bytes.sliced(skipped) : bytes, reader)) {
+        const auto lines = int(std::count(bytes.begin(), text, '\n'));
+        return {{}, PropertyListFormat::Xml, {error->message, error->offset + skipped, error->line + lines}};
+    }
     return {reader.value(), PropertyListFormat::Xml, {}};
 }
 

@@ -148,6 +148,8 @@ QVariant JobList::data(const QModelIndex &index, int role) const
             return cellText(record, index.column());
         case Qt::ToolTipRole:
             return tarnwell::hoverTextShowing(hoverText(record, index.column()));
+        case Qt::AccessibleTextRole:
+            return accessibleText(index);
         case IdRole:
             return record.id;
         case StateRole:
@@ -159,6 +161,19 @@ QVariant JobList::data(const QModelIndex &index, int role) const
         default:
             return {};
     }
+}
+
+/// A row is heard as a whole: lists of one column show but the title.
+QString JobList::accessibleText(const QModelIndex &index) const
+{
+    if (index.column() != TitleColumn)
+        return data(index, Qt::DisplayRole).toString();
+    QStringList parts;
+    for (int column = 0; column < ColumnCount; ++column)
+        parts.append(data(index.siblingAtColumn(column), Qt::DisplayRole).toString());
+    parts.append(data(index, WarningRole).toString());
+    parts.removeAll(QString());
+    return parts.join(u", "_s);
 }
 
 QVariant JobList::headerData(int section, Qt::Orientation orientation, int role) const

@@ -14,7 +14,9 @@ class JobList : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { TitleColumn, DetailColumn, StateColumn, ColumnCount };
-    enum Role { IdRole = Qt::UserRole, StateRole, FractionRole, RecordRole };
+    /// Warning: what will be missing from the result or is, in a line; for the title's column, like the accessible
+    /// text.
+    enum Role { IdRole = Qt::UserRole, StateRole, FractionRole, RecordRole, WarningRole };
 
     JobList(JobQueue &queue, const QString &module, QObject *parent = nullptr);
 
@@ -44,6 +46,7 @@ private:
     void followChanges();
     void followReordering();
     QByteArray listIdentity() const;
+    QString accessibleText(const QModelIndex &index) const;
 
     JobQueue &m_queue;
     QString m_module;

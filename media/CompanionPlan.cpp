@@ -80,7 +80,7 @@ private:
         if (use == Plan::SubtitleUse::Burn) {
             if (!m_tracks.burned)
                 m_tracks.burnedNumber = m_number;
-            burn({.source = &track, .file = -1, .encoder = {}, .codec = track.codec});
+            burn({.source = &track, .file = -1, .made = -1, .encoder = {}, .codec = track.codec});
             return;
         }
         const QString name = trackName(track, m_machine);
@@ -94,8 +94,11 @@ private:
             m_tracks.leftOut.append(
                 {"Subtitles: %1. They cannot follow the changed times; burn them in to keep them."_key, {name}});
         } else {
-            m_tracks.subtitles.append(
-                {.source = &track, .file = -1, .encoder = encoder, .codec = subtitleCodec(encoder, track.codec)});
+            m_tracks.subtitles.append({.source = &track,
+                                       .file = -1,
+                                       .made = -1,
+                                       .encoder = encoder,
+                                       .codec = subtitleCodec(encoder, track.codec)});
         }
     }
 
@@ -115,7 +118,7 @@ private:
                                                                  : u"subrip"_s;
         const QString name = file.path.section(u'/', -1);
         if (file.use == Plan::SubtitleUse::Burn) {
-            burn({.source = nullptr, .file = index, .encoder = {}, .codec = codec});
+            burn({.source = nullptr, .file = index, .made = -1, .encoder = {}, .codec = codec});
             return;
         }
         const QString encoder = subtitleEncoder(*m_tracks.container, codec, isBitmap);
@@ -125,8 +128,11 @@ private:
             m_tracks.leftOut.append(
                 {"Subtitles: %1. They cannot follow the changed times; burn them in to keep them."_key, {name}});
         else
-            m_tracks.subtitles.append(
-                {.source = nullptr, .file = index, .encoder = encoder, .codec = subtitleCodec(encoder, codec)});
+            m_tracks.subtitles.append({.source = nullptr,
+                                       .file = index,
+                                       .made = -1,
+                                       .encoder = encoder,
+                                       .codec = subtitleCodec(encoder, codec)});
     }
 
     void burn(const SubtitleTrackPlan &subtitle)

@@ -19,6 +19,7 @@ struct Container {
         ManySounds = 64,
         TrackNames = 128,    ///< languages and titles of tracks
         HandlerNames = 256,  ///< titles of tracks stand in the names of their handlers
+        StereoOnly = 1024,   ///< neither more nor fewer channels
         TellsLength = 512,   ///< in its header, so that a file that was cut off shows
     };
 

@@ -58,14 +58,14 @@ private:
             sourceFilters(m_plan, m_tracks, track, m_plan.sources.at(piece.source), piece, isJoined);
         const QString input = u"[%1:%2]"_s.arg(number).arg(track.index);
         const QString result = u"[piece%1]"_s.arg(number);
-        if (!isBitmapBurnt(m_tracks)) {
+        if (!isBitmapBurnt(m_tracks) || piece.source != 0) {
             chain(input, filters.before + filters.after, result);
             return result;
         }
         const QString bare = u"[bare%1]"_s.arg(number);
         const MediaTrack *subtitle = m_tracks.burned->source;
         const QString cues =
-            subtitle ? u"[%1:%2]"_s.arg(number).arg(subtitle->index) : u"[%1:0]"_s.arg(m_inputs.subtitles);
+            subtitle ? u"[%1:%2]"_s.arg(number).arg(subtitle->index) : u"[%1:0]"_s.arg(m_inputs.subtitles + number);
         chain(input, filters.before, bare);
         // Cues for a picture with its bars stand at the foot of one without.
         QString overlay = cues + bare;

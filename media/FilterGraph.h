@@ -17,7 +17,7 @@ struct GraphInputs {
     QList<SourcePiece> pieces;  ///< each is an input, in this order, from 0
     QList<MediaInformation> sources;
     int watermark = -1;  ///< input of its picture
-    int subtitles = -1;  ///< input of a file with subtitles that are pictures, to be burnt in
+    int subtitles = -1;  ///< input of a file with subtitles that are pictures, to be burnt in; one a piece
 };
 
 /// Whether subtitles that are pictures are laid over the result's.

@@ -41,7 +41,7 @@ QString rateText(double rate)
 {
     const double thousands = rate * 1001 / 1000;
     if (std::abs(rate - std::round(rate)) > 0.005 && std::abs(thousands - std::round(thousands)) < 0.005)
-        return u"%1000/1001"_s.arg(qint64(std::round(thousands)));
+        return QString::number(qint64(std::round(thousands))) + "000/1001"_L1;
     return numberText(std::abs(rate - std::round(rate)) < 0.005 ? std::round(rate) : rate);
 }
 

@@ -89,6 +89,8 @@ QStringList previewArguments(const TranscodePlan &wanted, const MediaInformation
         arguments << u"-map"_s << map << u"-vf"_s << filter;
     else
         arguments << u"-filter_complex"_s << graph << u"-map"_s << map;
+    // A picture before the time that was asked for would be thrown away.
+    arguments << u"-fps_mode"_s << u"passthrough"_s;
     return arguments << u"-frames:v"_s << u"1"_s << u"-c:v"_s << u"ppm"_s << u"-pix_fmt"_s << u"rgb24"_s << u"-f"_s
                      << u"image2pipe"_s << u"pipe:1"_s;
 }

@@ -55,10 +55,13 @@ bool canBeJoined(const QList<MediaInformation> &sources)
 
 foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &plan,
                                                                  const QList<MediaInformation> &sources,
-                                                                 const TrackPlan &tracks,
-                                                                 const QList<SourcePiece> &pieces,
+                                                                 TrackPlan tracks, const QList<SourcePiece> &pieces,
                                                                  const TranscodePaths &paths)
 {
+    if (!tracks.container->has(Container::Covers) && !tracks.covers.isEmpty()) {
+        tracks.covers.clear();
+        tracks.leftOut.append(tarnwell::Sentence("The cover picture. It is lost when files are joined so."_key));
+    }
     TranscodeSteps steps;
     const std::optional<double> seconds = secondsOf(pieces);
     QStringList parts;
@@ -107,7 +110,9 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
     for (qsizetype number = 0; number < indexes.size(); ++number)
         arguments << u"-map"_s << u"0:%1"_s.arg(isCut ? number : indexes.at(number));
     arguments << u"-c"_s << u"copy"_s;
-    TrackPlan tagged = tracks;
+    if (!tracks.covers.isEmpty())
+        arguments << u"-map"_s << u"1:%1"_s.arg(tracks.covers.first()->index)
+                  << (tracks.video ? u"-disposition:v:1"_s : u"-disposition:v:0"_s) << u"attached_pic"_s;
     QStringList tags = tagArguments(plan, tracks, sources.first(), chapterInput);
     tags[1] = u"1"_s;
     arguments += tags;

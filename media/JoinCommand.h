@@ -11,8 +11,7 @@ bool canBeJoined(const QList<MediaInformation> &sources);
 /// Several pieces or files in one, all tracks copied.
 foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const TranscodePlan &plan,
                                                                  const QList<MediaInformation> &sources,
-                                                                 const TrackPlan &tracks,
-                                                                 const QList<SourcePiece> &pieces,
+                                                                 TrackPlan tracks, const QList<SourcePiece> &pieces,
                                                                  const TranscodePaths &paths);
 
 }  // namespace kestrel

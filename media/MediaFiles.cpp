@@ -3,7 +3,6 @@
 #include "foundation/FileNames.h"
 
 #include <QCollator>
-#include <QDir>
 #include <QLocale>
 
 #include <algorithm>
@@ -54,7 +53,7 @@ QStringList mediaFiles(const QStringList &paths)
 {
     QStringList files;
     for (const QString &path : paths) {
-        const QString absolute = QDir::cleanPath(QDir::isAbsolutePath(path) ? path : QDir::current().filePath(path));
+        const QString absolute = foundation::absoluteFileName(path);
         if (foundation::fileFacts(absolute).kind == foundation::FileKind::Folder)
             files += mediaFilesBelow(absolute);
         else

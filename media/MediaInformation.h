@@ -35,6 +35,7 @@ struct MediaTrack {
     QString pixelFormat;  ///< "yuv420p10le"
     int bitDepth = 8;     ///< of a sample
     FieldOrder fieldOrder = FieldOrder::Unknown;
+    bool fieldsAreSeen = false;  ///< by looking: the pictures' own flags do not tell
     int rotation = 0;  ///< degrees clockwise that the picture is to be turned by to stand upright: 0, 90, 180, 270
     QString colorPrimaries, colorTransfer, colorSpace,
         colorRange;            ///< "bt2020", "smpte2084", "bt2020nc", "tv"; null where not told

@@ -106,29 +106,33 @@ ToolCommand outputReportCommand(const QString &proberPath, const QString &argume
         .collectsOutput = true};
 }
 
-ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument)
+ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument, Decoding decoding)
 {
-    return {.program = transcoderPath,
-            .arguments = {u"-hide_banner"_s,
-                          u"-nostdin"_s,
-                          u"-nostats"_s,
-                          u"-loglevel"_s,
-                          u"repeat+level+warning"_s,
-                          u"-progress"_s,
-                          u"pipe:1"_s,
-                          u"-stats_period"_s,
-                          u"0.5"_s,
-                          u"-protocol_whitelist"_s,
-                          u"file"_s,
-                          u"-i"_s,
-                          argument,
-                          u"-map"_s,
-                          u"0:V?"_s,
-                          u"-map"_s,
-                          u"0:a?"_s,
-                          u"-f"_s,
-                          u"null"_s,
-                          u"-"_s}};
+    QStringList arguments = {
+        u"-hide_banner"_s, u"-nostdin"_s, u"-nostats"_s,      u"-loglevel"_s, u"repeat+level+warning"_s,
+        u"-progress"_s,    u"pipe:1"_s,   u"-stats_period"_s, u"0.5"_s,       u"-protocol_whitelist"_s,
+        u"file"_s};
+    if (decoding == Decoding::KeyPictures)
+        arguments += {u"-skip_frame:v"_s, u"nokey"_s};
+    // Passed through, or the writer of nothing complains about the times of pictures.
+    arguments += {u"-i"_s,        argument,         u"-map"_s, u"0:V?"_s, u"-map"_s, u"0:a?"_s,
+                  u"-fps_mode"_s, u"passthrough"_s, u"-f"_s,   u"null"_s, u"-"_s};
+    return {.program = transcoderPath, .arguments = arguments};
+}
+
+std::optional<double> secondsOfKept(const OutputExpectation &expected, const MediaInformation &source)
+{
+    std::optional<double> longest;
+    for (const auto kind : {MediaTrack::Kind::Video, MediaTrack::Kind::Audio}) {
+        if (codecsOf(expected.tracks, kind).isEmpty())
+            continue;
+        for (const MediaTrack &track : source.tracksOf(kind)) {
+            if (!track.duration)
+                return expected.seconds;
+            longest = std::max(longest, track.duration);  // nothing is least
+        }
+    }
+    return expected.seconds && longest ? std::min(expected.seconds, longest) : expected.seconds;
 }
 
 std::optional<FoundOutput> parseOutputReport(const QByteArray &json, qint64 fileBytes)

@@ -39,8 +39,15 @@ ToolCommand outputReportCommand(const QString &proberPath, const QString &argume
 /// Nothing where the report is none.
 std::optional<FoundOutput> parseOutputReport(const QByteArray &json, qint64 fileBytes);
 
-/// Decodes all of it; each of its faults is a message with a level, for ToolMessages.
-ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument);
+/// How much of an output is decoded. Sound and the pictures that stand for themselves take a fraction of the time and
+/// show all but small damage.
+enum class Decoding { None, KeyPictures, All };
+/// Decodes it; each of its faults is a message with a level, for ToolMessages.
+ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument, Decoding decoding);
+
+/// What is expected where only some of the source's tracks are kept: those may be shorter than the file. `seconds` of
+/// the whole where the file does not tell.
+std::optional<double> secondsOfKept(const OutputExpectation &expected, const MediaInformation &source);
 
 OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput &told, const FoundOutput &found);
 

@@ -3,7 +3,9 @@
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 
+#include <QDir>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 
 namespace kestrel {
@@ -25,6 +27,18 @@ void Placing::start(QObject *context, Placed then)
     });
 }
 
+namespace {
+
+void removeOutput(const QString &path)
+{
+    if (const QFileInfo output(path); output.isDir() && !output.isSymLink())
+        QDir(path).removeRecursively();
+    else
+        QFile::remove(path);
+}
+
+}  // namespace
+
 void Placing::place()
 {
     if (m_modified) {
@@ -36,7 +50,7 @@ void Placing::place()
     const std::lock_guard lock(m_mutex);
     m_output.reset();
     if (result && m_isTakenBack)
-        QFile::remove(*result);
+        removeOutput(*result);
     m_result = std::move(result);
 }
 
@@ -45,7 +59,7 @@ void Placing::takeBack()
     const std::lock_guard lock(m_mutex);
     m_isTakenBack = true;
     if (m_result && *m_result)
-        QFile::remove(**m_result);
+        removeOutput(**m_result);
 }
 
 }  // namespace kestrel

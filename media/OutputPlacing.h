@@ -15,7 +15,7 @@ namespace kestrel {
 
 class OutputFile;
 
-/// Gives a finished output its name in the background: syncing a large file to a slow disk takes long. Owned by shared
+/// Gives a finished output, a file or a folder, its name in the background: syncing a large file to a slow disk takes long. Owned by shared
 /// pointers alone.
 class Placing : public std::enable_shared_from_this<Placing> {
 public:

@@ -40,6 +40,14 @@ QString boundedText(const QJsonValue &json)
     return text.trimmed();
 }
 
+/// Null for none; what is no text is no codec either, but must not read as none.
+QString codecText(const QJsonValue &json)
+{
+    if (json.isUndefined() || json.isNull())
+        return {};
+    return json.isString() ? boundedText(json) : u"?"_s;
+}
+
 bool isPossible(const Container &container, const Preset &preset)
 {
     const bool video = !preset.takesVideo() || preset.videoCodec == "copy"_L1 ||
@@ -92,10 +100,8 @@ foundation::Result<Preset, tarnwell::Sentence> Preset::fromJson(const QJsonObjec
     preset.group = boundedText(json[u"group"_s]);
     preset.extension = boundedText(json[u"extension"_s]);
     preset.container = boundedText(json[u"container"_s]);
-    if (json.contains(u"video"_s))
-        preset.videoCodec = boundedText(json[u"video"_s]);
-    if (json.contains(u"audio"_s))
-        preset.audioCodec = boundedText(json[u"audio"_s]);
+    preset.videoCodec = codecText(json[u"video"_s]);
+    preset.audioCodec = codecText(json[u"audio"_s]);
     preset.maximumWidth = boundedInteger(json[u"maximumWidth"_s], largestPicture);
     preset.maximumHeight = boundedInteger(json[u"maximumHeight"_s], largestPicture);
     preset.maximumFrameRate = boundedNumber(json[u"maximumFrameRate"_s], mostPictures);

@@ -2,6 +2,8 @@
 
 #include "FilterText.h"
 
+#include "tarnwell/SystemInformation.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -232,7 +234,8 @@ QStringList videoArguments(const Plan &plan, const VideoTrackPlan &video, const 
         if (rate.bitRate > 0)
             arguments << u"-b:v"_s << QString::number(rate.bitRate);
         else
-            arguments << u"-qp"_s << (plan.best ? u"19"_s : u"23"_s);
+            arguments += tableWords(plan.best ? tarnwell::hardwareEncoderArguments.best
+                                              : tarnwell::hardwareEncoderArguments.quality);
         return arguments;
     }
     QStringList arguments{u"-c:v:0"_s, QString::fromLatin1(encoder.encoder)};

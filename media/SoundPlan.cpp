@@ -103,6 +103,7 @@ bool keepsSound(const Plan &plan, const MediaTrack &track, const Container &cont
     return plan.copies && isAsked && isKnownSize && container.holdsSound(track.codec) && !changesSound(plan) &&
            !cutsExactly(plan) && plan.audioBitRate == 0 &&
            (track.channels == 0 || track.channels <= mostChannels(plan, container)) &&
+           (track.channels == 2 || !container.has(Container::StereoOnly)) &&
            (container.sampleRate == 0 || track.sampleRate == container.sampleRate);
 }
 
@@ -125,7 +126,8 @@ std::optional<SoundTrackPlan> planSound(const Plan &plan, const MediaTrack &trac
     if (!sound.encoder)
         return {};
     const int most = mostChannels(plan, container);
-    const int wanted = std::min(track.channels > 0 ? track.channels : 2, most);
+    const bool isUsual = track.channels == 0 || container.has(Container::StereoOnly);
+    const int wanted = std::min(isUsual ? 2 : track.channels, most);
     const QString layout = layoutFor(*sound.encoder, wanted, most);
     sound.channels = channelsOf(layout);
     if (layout != track.channelLayout)

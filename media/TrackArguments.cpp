@@ -1,5 +1,7 @@
 #include "TrackArguments.h"
 
+#include "MediaProber.h"
+
 #include "FilterText.h"
 
 using namespace Qt::StringLiterals;
@@ -31,6 +33,17 @@ QString dispositionText(const MediaTrack &track)
     return flags.isEmpty() ? u"0"_s : flags.join(u'+');
 }
 
+/// Cues that end before the piece begins are dropped, and those at its ends shortened: the container would move
+/// everything else to make room for them.
+QString cueCut(double seconds, bool isBitmap)
+{
+    const QString length = numberText(seconds);
+    if (isBitmap)
+        return u"noise=drop='lt(pts,0)+gte(pts*tb,%1)'"_s.arg(length);
+    return u"noise=drop='lte(pts+d,0)+gte(pts*tb,%1)',setts=pts='max(PTS,0)':dts='max(PTS,0)':"
+           "duration='min(DURATION+min(PTS,0),%1/TB-max(PTS,0))'"_s.arg(length);
+}
+
 QStringList trackTags(const TrackPlan &tracks, const MediaTrack &track, const QString &specifier)
 {
     QStringList arguments;
@@ -51,11 +64,9 @@ QStringList trackTags(const TrackPlan &tracks, const MediaTrack &track, const QS
 
 QStringList commonHead()
 {
-    // "file:" keeps names with a colon or a leading dash from being taken for something else, and play lists of other
-    // places out.
     return tableWords(
         "-hide_banner -nostdin -nostats -loglevel repeat+level+verbose -progress pipe:1 "
-        "-stats_period 0.2 -y -protocol_whitelist file");
+        "-stats_period 0.2 -y");
 }
 
 QStringList commonTail(const TrackPlan &tracks, const QString &output)
@@ -68,7 +79,7 @@ QStringList commonTail(const TrackPlan &tracks, const QString &output)
 QStringList pieceInput(const SourcePiece &piece, const MediaInformation &source, const QString &path,
                        bool copiesPictures)
 {
-    QStringList arguments;
+    QStringList arguments = inputOptions();  // so that tracks have the numbers by which the plan calls them
     if (copiesPictures && mayLackTimes(source.format))
         arguments << u"-fflags"_s << u"+genpts"_s;
     if (piece.start && *piece.start > 0)
@@ -78,17 +89,16 @@ QStringList pieceInput(const SourcePiece &piece, const MediaInformation &source,
     return arguments << u"-i"_s << u"file:"_s + path;
 }
 
-QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const MediaInformation &,
-                               const QHash<int, int> &subtitleInputs, const QString &coverPath)
+QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const QStringList &subtitleMaps,
+                               std::optional<double> cut, const QString &coverPath)
 {
     QStringList arguments;
-    int number = 0;
-    for (const SubtitleTrackPlan &subtitle : tracks.subtitles) {
-        const QString specifier = u"s:%1"_s.arg(number++);
-        arguments << u"-map"_s
-                  << (subtitle.source ? u"0:%1"_s.arg(subtitle.source->index)
-                                      : u"%1:s:0"_s.arg(subtitleInputs.value(subtitle.file)));
-        arguments << u"-c:"_s + specifier << subtitle.encoder;
+    for (int number = 0; number < tracks.subtitles.size(); ++number) {
+        const SubtitleTrackPlan &subtitle = tracks.subtitles.at(number);
+        const QString specifier = u"s:%1"_s.arg(number);
+        arguments << u"-map"_s << subtitleMaps.at(number) << u"-c:"_s + specifier << subtitle.encoder;
+        if (cut)
+            arguments << u"-bsf:"_s + specifier << cueCut(*cut, subtitle.source && subtitle.source->isBitmap);
         if (subtitle.source) {
             arguments << u"-disposition:"_s + specifier << dispositionText(*subtitle.source);
             arguments += trackTags(tracks, *subtitle.source, specifier);
@@ -123,6 +133,10 @@ QStringList tagArguments(const Plan &, const TrackPlan &tracks, const MediaInfor
         const QString muxer = QString::fromLatin1(tracks.container->muxer);
         if (tracks.video->codec == "hevc"_L1 && (muxer == "mp4"_L1 || muxer == "mov"_L1 || muxer == "ipod"_L1))
             arguments << u"-tag:v:0"_s << u"hvc1"_s;
+        // Most containers ask for this by themselves.
+        const bool needsStartCodes = muxer == "wtv"_L1;
+        if (needsStartCodes && !tracks.video->encoder && tracks.video->codec == "h264"_L1)
+            arguments << u"-bsf:v:0"_s << u"h264_mp4toannexb"_s;
     }
     for (int number = 0; number < tracks.sounds.size(); ++number) {
         const MediaTrack &track = *tracks.sounds.at(number).source;

@@ -50,6 +50,28 @@ bool burns(const Plan &plan)
            std::ranges::any_of(plan.externalSubtitles, isBurnt);
 }
 
+/// Where one of several files has high dynamic range, all become standard; where one has fields, all are
+/// looked at.
+std::optional<VideoTrackPlan> planJoinedVideo(const Plan &plan, const QList<MediaInformation> &sources,
+                                              const Container &container, const TranscodeMachine &machine)
+{
+    const auto hasHdr = [](const MediaInformation &source) { return source.firstOf(Kind::Video)->isHdr(); };
+    const auto hasFields = [](const MediaInformation &source) { return source.firstOf(Kind::Video)->isInterlaced(); };
+    const bool isMixed = std::ranges::any_of(sources, hasHdr) && !std::ranges::all_of(sources, hasHdr);
+    Plan common = plan;
+    if (isMixed) {
+        common.copies = false;
+        common.dynamicRange = Plan::HighDynamicRange::ToStandard;
+    }
+    auto video = planVideo(common, *sources.first().firstOf(Kind::Video), container, machine, burns(plan));
+    if (!video || !video->encoder)
+        return video;
+    video->mapsTones = video->mapsTones || isMixed;
+    video->deinterlaces =
+        video->deinterlaces || (plan.deinterlace == Plan::Deinterlace::Auto && std::ranges::any_of(sources, hasFields));
+    return video;
+}
+
 std::optional<tarnwell::Sentence> refusal(const Plan &plan, const QList<MediaInformation> &sources)
 {
     if (sources.isEmpty() || sources.size() != plan.sources.size())
@@ -127,7 +149,7 @@ foundation::Result<TrackPlan, tarnwell::Sentence> planTracks(const Plan &plan, c
     const bool hasVideo = std::ranges::all_of(sources, &MediaInformation::hasVideo);
     const bool hasSound = std::ranges::all_of(sources, &MediaInformation::hasAudio);
     if (plan.preset.takesVideo() && hasVideo) {
-        tracks.video = planVideo(plan, *first.firstOf(Kind::Video), *tracks.container, machine, burns(plan));
+        tracks.video = planJoinedVideo(plan, sources, *tracks.container, machine);
         if (!tracks.video)
             return Refused{{"The encoder for %1 is not installed."_key, {codecLabel(plan.preset.videoCodec)}}};
         if (first.tracksOf(Kind::Video).size() > 1)

@@ -43,6 +43,7 @@ struct SoundTrackPlan {
 struct SubtitleTrackPlan {
     const MediaTrack *source = nullptr;  ///< null where it is a file of its own
     int file = -1;                       ///< in the plan's list
+    int made = -1;                       ///< in the file of those that are made before they are cut
     QString encoder;                     ///< ffmpeg's name; "copy"
     QString codec;                       ///< of the result
 };

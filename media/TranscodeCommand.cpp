@@ -1,13 +1,15 @@
 #include "TranscodeCommand.h"
 
 #include "AudioFilters.h"
-#include "ChapterFile.h"
+#include "CommandInputs.h"
 #include "FilterGraph.h"
 #include "FilterText.h"
 #include "JoinCommand.h"
 #include "RateControl.h"
 #include "TrackArguments.h"
 #include "TrackPlan.h"
+
+#include "tarnwell/SystemInformation.h"
 
 #include <algorithm>
 
@@ -27,17 +29,45 @@ void shortenToKept(QList<SourcePiece> &pieces, const TrackPlan &tracks, const QL
     if (sources.size() != 1)
         return;
     double longest = 0;
+    const bool isWhole = pieces.size() == 1 && !pieces.first().end;
     const auto take = [&](const MediaTrack *track) {
-        longest = track->duration ? std::max(longest, track->start + *track->duration) : 1e12;
+        constexpr double unknown = 1e12;
+        longest = std::max(longest, track->duration ? track->start + *track->duration : unknown);
     };
     if (tracks.video)
         take(tracks.video->source);
     for (const SoundTrackPlan &sound : tracks.sounds)
         take(sound.source);
+    // A cut ends the last cue as well.
+    for (const SubtitleTrackPlan &subtitle : tracks.subtitles) {
+        if (subtitle.source && isWhole)
+            take(subtitle.source);
+    }
     for (SourcePiece &piece : pieces) {
         if (piece.seconds)
             piece.seconds = std::clamp(longest - piece.start.value_or(0), 0.0, *piece.seconds);
     }
+}
+
+/// What the user should know before: where the result is not simply what the source is.
+QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSize plannedSize)
+{
+    QList<tarnwell::Sentence> notes;
+    if (!tracks.video)
+        return notes;
+    const VideoTrackPlan &video = *tracks.video;
+    const bool isCutAtKeyframe = !video.encoder && !plan.pieces.isEmpty() && plan.pieces.first().start > 0;
+    if (isCutAtKeyframe)
+        notes.append({"Cut without encoding: it begins at the last key picture before %1 s."_key,
+                      {numberText(plan.pieces.first().start)}});
+    if (video.encoder && plan.preset.videoCodec == "copy"_L1)
+        notes.append({"The picture has to be encoded (%1)."_key, {codecLabel(video.codec)}});
+    if (video.mapsTones)
+        notes.append(tarnwell::Sentence("High dynamic range becomes standard range."_key));
+    if (video.size != plannedSize)
+        notes.append({"The picture is made smaller, %1 × %2, so that it fits the size."_key,
+                      {QString::number(video.size.width()), QString::number(video.size.height())}});
+    return notes;
 }
 
 class Builder {
@@ -58,12 +88,15 @@ public:
 
     foundation::Result<TranscodeSteps, tarnwell::Sentence> steps()
     {
+        const QSize plannedSize = m_tracks.video ? m_tracks.video->size : QSize();
         auto rate = planRates(m_plan, m_tracks, m_seconds);
         if (!rate)
             return foundation::Failure{rate.reason()};
         m_rate = *rate;
-        addCoverRuns();
-        addInputs();
+        m_tracks.notes = notesOn(m_plan, m_tracks, plannedSize);
+        m_inputs = commandInputs(m_plan, m_sources, m_tracks, m_pieces, m_paths);
+        m_steps.runs = m_inputs.runs;
+        m_steps.files = m_inputs.files;
         if (m_rate.hasTwoPasses) {
             addRun(firstPass(), "First pass"_key, 0.4);
             addRun(lastPass(2), "Second pass"_key, 0.6);
@@ -78,11 +111,6 @@ private:
     bool isHardware() const { return m_tracks.video && m_tracks.video->isHardware; }
     QString log() const { return m_paths.workFolder + u"/passes"_s; }
 
-    QStringList threads() const
-    {
-        return m_plan.threads > 0 ? QStringList{u"-threads"_s, QString::number(m_plan.threads)} : QStringList();
-    }
-
     void addRun(const QStringList &arguments, tarnwell::TextKey stage, double share)
     {
         m_steps.runs.append({.arguments = arguments,
@@ -91,82 +119,13 @@ private:
                              .seconds = m_seconds.value_or(0)});
     }
 
-    /// Covers are attached from files of their own where the container has no other way.
-    void addCoverRuns()
-    {
-        if (m_tracks.covers.isEmpty() || !m_tracks.container->has(Container::AttachedCovers))
-            return;
-        const MediaTrack &cover = *m_tracks.covers.first();
-        m_coverPath = m_paths.workFolder + (cover.codec == "png"_L1 ? u"/cover.png"_s : u"/cover.jpg"_s);
-        QStringList arguments = commonHead() + QStringList{u"-i"_s, u"file:"_s + m_plan.sources.first()};
-        arguments << u"-map"_s << u"0:%1"_s.arg(cover.index) << u"-c"_s << u"copy"_s << u"-frames:v"_s << u"1"_s
-                  << u"-f"_s << u"image2pipe"_s << u"file:"_s + m_coverPath;
-        m_steps.runs.append({.arguments = arguments, .stage = {"Cover"_key}, .share = 0, .seconds = 0});
-    }
-
-    void addInputs()
-    {
-        const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
-        for (const SourcePiece &piece : m_pieces)
-            m_inputs << threads()
-                     << pieceInput(piece, m_sources.at(piece.source), m_plan.sources.at(piece.source), copiesPictures);
-        m_inputCount = int(m_pieces.size());
-        for (SubtitleTrackPlan &subtitle : m_tracks.subtitles) {
-            if (subtitle.file >= 0)
-                m_subtitleInputs.insert(subtitle.file, addSubtitleInput(subtitle.file));
-        }
-        const bool burnsFile =
-            m_tracks.burned && m_tracks.burned->file >= 0 &&
-            (m_tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || m_tracks.burned->codec == "dvd_subtitle"_L1);
-        m_graphInputs = {.pieces = m_pieces, .sources = m_sources};
-        if (burnsFile)
-            m_graphInputs.subtitles = addSubtitleInput(m_tracks.burned->file);
-        const bool hasMark = m_plan.watermark && !m_plan.watermark->imagePath.isEmpty();
-        if (hasMark && m_tracks.video && m_tracks.video->encoder) {
-            m_inputs << u"-i"_s << u"file:"_s + m_plan.watermark->imagePath;
-            m_graphInputs.watermark = m_inputCount++;
-        }
-        m_firstPassInputs = m_inputs;
-        addChapterInput();
-    }
-
-    int addSubtitleInput(int file)
-    {
-        // Without this the first cue would come at the beginning.
-        m_inputs << u"-seek_timestamp"_s << u"1"_s;
-        if (const SourcePiece &piece = m_pieces.first(); piece.start && *piece.start > 0)
-            m_inputs << u"-ss"_s << numberText(*piece.start);
-        m_inputs << u"-i"_s << u"file:"_s + m_plan.externalSubtitles.at(file).path;
-        return m_inputCount++;
-    }
-
-    void addChapterInput()
-    {
-        m_chapters = m_sources.first().chapters.size();
-        m_chapterInput = 0;
-        const bool isChanged = !m_plan.pieces.isEmpty() || m_sources.size() > 1 || m_plan.speedFactor != 1;
-        if (!m_tracks.keepsChapters) {
-            m_chapters = 0;
-            m_chapterInput = -1;
-        } else if (isChanged) {
-            const QList<MediaChapter> chapters = resultChapters(m_plan, m_sources, m_pieces);
-            const QString path = m_paths.workFolder + u"/chapters.txt"_s;
-            m_chapters = chapters.size();
-            m_chapterInput = -1;
-            if (chapters.isEmpty())
-                return;
-            m_steps.files.insert(path, chapterFile(chapters));
-            m_inputs << u"-f"_s << u"ffmetadata"_s << u"-i"_s << u"file:"_s + path;
-            m_chapterInput = m_inputCount++;
-        }
-    }
-
     QStringList device() const
     {
         if (!isHardware())
             return {};
         const bool isHevc = m_tracks.video->codec == "hevc"_L1;
-        return {u"-vaapi_device"_s, isHevc ? m_machine.hevcDevice : m_machine.hardwareDevice};
+        return {QString::fromLatin1(tarnwell::hardwareEncoderArguments.device),
+                isHevc ? m_machine.hevcDevice : m_machine.hardwareDevice};
     }
 
     QStringList pictureArguments(const FilterGraph &graph, int pass) const
@@ -185,18 +144,19 @@ private:
 
     QStringList firstPass() const
     {
-        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_graphInputs, m_seconds, false);
-        QStringList arguments = commonHead() + device() + m_firstPassInputs;
+        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_inputs.graph, m_seconds, false);
+        QStringList arguments = commonHead() + device() + m_inputs.firstPassArguments;
         if (!graph.graph.isEmpty())
             arguments << u"-filter_complex"_s << graph.graph;
         arguments += pictureArguments(graph, 1);
-        return arguments + threads() + QStringList{u"-an"_s, u"-sn"_s, u"-dn"_s, u"-f"_s, u"null"_s, u"-"_s};
+        return arguments + threadArguments(m_plan) +
+               QStringList{u"-an"_s, u"-sn"_s, u"-dn"_s, u"-f"_s, u"null"_s, u"-"_s};
     }
 
     QStringList lastPass(int pass) const
     {
-        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_graphInputs, m_seconds);
-        QStringList arguments = commonHead() + device() + m_inputs;
+        const FilterGraph graph = filterGraph(m_plan, m_tracks, m_inputs.graph, m_seconds);
+        QStringList arguments = commonHead() + device() + m_inputs.arguments;
         if (!graph.graph.isEmpty())
             arguments << u"-filter_complex"_s << graph.graph;
         if (m_tracks.video)
@@ -207,9 +167,10 @@ private:
                 arguments << u"-filter:a:%1"_s.arg(number) << filters;
             arguments += soundArguments(m_plan, m_tracks.sounds.at(number), number);
         }
-        arguments += companionArguments(m_plan, m_tracks, m_sources.first(), m_subtitleInputs, m_coverPath);
-        arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_chapterInput);
-        arguments += threads();
+        arguments += companionArguments(m_plan, m_tracks, m_inputs.subtitleMaps, cutLength(m_plan, m_pieces),
+                                        m_inputs.coverPath);
+        arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_inputs.chapterInput);
+        arguments += threadArguments(m_plan);
         return arguments + commonTail(m_tracks, m_paths.output);
     }
 
@@ -219,7 +180,7 @@ private:
         m_steps.notes = m_tracks.notes;
         m_steps.expected.tracks = expectedTracks(m_tracks);
         m_steps.expected.seconds = m_seconds;
-        m_steps.expected.chapters = m_chapters;
+        m_steps.expected.chapters = m_inputs.chapters;
         const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
         if (copiesPictures)
             m_steps.expected.rotation = m_tracks.video->source->rotation;
@@ -243,13 +204,7 @@ private:
     QList<SourcePiece> m_pieces;
     std::optional<double> m_seconds;  ///< of the result
     RateTarget m_rate;
-    QStringList m_inputs, m_firstPassInputs;
-    int m_inputCount = 0;
-    QHash<int, int> m_subtitleInputs;  ///< input of a file of the plan
-    GraphInputs m_graphInputs;
-    int m_chapterInput = 0;
-    qsizetype m_chapters = 0;
-    QString m_coverPath;
+    CommandInputs m_inputs;
     TranscodeSteps m_steps;
 };
 

@@ -57,6 +57,7 @@ private:
     void runStep();
     void stepEnded(const ToolEnding &ending);
     void checkOutput(const ToolEnding &ending);
+    Decoding neededDecoding() const;
     void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);
     void judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings, int decodingFaults);
     void tryWithoutShortcuts();

@@ -2,6 +2,8 @@
 
 #include "FilterText.h"
 
+#include "tarnwell/SystemInformation.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -13,23 +15,27 @@ namespace {
 
 using Plan = TranscodePlan;
 
-QStringList fieldFilters(const Plan &plan, const VideoTrackPlan &video)
+QStringList fieldFilters(const Plan &plan, const VideoTrackPlan &video, const MediaTrack &track)
 {
     if (!video.deinterlaces)
         return {};
+    // Only flagged pictures are touched, so those without a flag get one.
+    QStringList flagged;
+    if (track.fieldsAreSeen)
+        flagged << (track.fieldOrder == MediaTrack::FieldOrder::BottomFirst ? u"setfield=bff"_s : u"setfield=tff"_s);
     switch (plan.deinterlace) {
         case Plan::Deinterlace::Film:
             // Without the first one the stream claims its fields for pictures and comes out at twice the speed.
             return {u"fps=30000/1001"_s, u"fieldmatch"_s, u"decimate"_s};
         case Plan::Deinterlace::DoubleRate:
-            return {u"bwdif=mode=send_field:deint=interlaced"_s};
+            return flagged << u"bwdif=mode=send_field:deint=interlaced"_s;
         case Plan::Deinterlace::On:
-            return {u"bwdif=mode=send_frame:deint=all"_s};
+            return flagged << u"bwdif=mode=send_frame:deint=all"_s;
         case Plan::Deinterlace::Auto:
         case Plan::Deinterlace::Off:
             break;
     }
-    return {u"bwdif=mode=send_frame:deint=interlaced"_s};
+    return flagged << u"bwdif=mode=send_frame:deint=interlaced"_s;
 }
 
 QStringList toneFilters(const VideoTrackPlan &video, const MediaTrack &track)
@@ -155,7 +161,7 @@ QStringList sizeFilters(const Plan &plan, const VideoTrackPlan &video, const Med
 /// The cues' own times are those of the source.
 QStringList burnedTextFilters(const Plan &plan, const TrackPlan &tracks, const QString &path, const SourcePiece &piece)
 {
-    if (!tracks.burned || (tracks.burned->source && tracks.burned->source->isBitmap) ||
+    if (!tracks.burned || piece.source != 0 || (tracks.burned->source && tracks.burned->source->isBitmap) ||
         tracks.burned->codec == "hdmv_pgs_subtitle"_L1 || tracks.burned->codec == "dvd_subtitle"_L1)
         return {};
     QString filter;
@@ -228,7 +234,7 @@ SourceFilters sourceFilters(const Plan &plan, const TrackPlan &tracks, const Med
 {
     const VideoTrackPlan &video = *tracks.video;
     SourceFilters filters;
-    filters.before = fieldFilters(plan, video) + toneFilters(video, track);
+    filters.before = fieldFilters(plan, video, track) + toneFilters(video, track);
     filters.after = cropFilters(plan, track) + turnFilters(plan) + sizeFilters(plan, video, track, isJoined) +
                     burnedTextFilters(plan, tracks, path, piece);
     if (isJoined) {
@@ -263,7 +269,7 @@ QStringList encoderFilters(const VideoTrackPlan &video, std::optional<double> se
     if (video.encoder->is("gif"_L1))
         return {paletteFilter(video, seconds)};
     if (video.isHardware)
-        return {u"format=nv12"_s, u"hwupload"_s};
+        return {QString::fromLatin1(tarnwell::hardwareEncoderArguments.filter)};
     return {u"format="_s + video.pixelFormat};
 }
 

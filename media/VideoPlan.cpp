@@ -209,12 +209,14 @@ QString targetCodec(const Plan &plan, const MediaTrack &track, const Container &
 
 bool wantsDeinterlacing(const Plan &plan, const MediaTrack &track)
 {
+    // Its container tells nothing; each picture does, and the filter heeds that.
+    const bool mayBe = track.codec == "dvvideo"_L1 && track.fieldOrder == MediaTrack::FieldOrder::Unknown;
     switch (plan.deinterlace) {
         case Plan::Deinterlace::Off:
             return false;
         case Plan::Deinterlace::Auto:
         case Plan::Deinterlace::DoubleRate:
-            return track.isInterlaced();
+            return track.isInterlaced() || mayBe;
         case Plan::Deinterlace::On:
         case Plan::Deinterlace::Film:
             break;

@@ -22,6 +22,9 @@ class JobQueue;
 using ModuleConfigure = QHash<QString, std::shared_ptr<JKestrelSettingDispatcher>>;
 inline constexpr QStringView moduleSettingKey = u"setting";
 
+/// Broadcast, without an object, when the user has confirmed to reset the conversion profiles; the modules own them.
+inline constexpr QStringView keyResetProfilesNotification = u"keyResetProfilesNotification";
+
 /// What the modules share; it outlives them.
 class ModuleServices {
 public:
@@ -35,8 +38,8 @@ public:
 /// The host makes each module once at launch (its constructor takes the configuration and, where it wants them, the
 /// services) and keeps it until the application ends. It asks for the view at once, to remember its size, and then on
 /// every switch: the view comes into the main window, at exactly that size, when the module is opened and goes out when
-/// it is left or another module is opened. Building the view is on the way to the first window, so it must be quick.
-/// All calls come on the main thread.
+/// it is left or another module is opened. The first question is on the way to the
+/// first window, so `LateView` makes what is in the view later. All calls come on the main thread.
 class ModuleController {
 public:
     using CompletedHandler = std::function<void(ModuleController *)>;

@@ -3,6 +3,7 @@
 #include "tarnwell/Log.h"
 
 #include <QJsonDocument>
+#include <QStringConverter>
 
 using namespace Qt::StringLiterals;
 
@@ -11,6 +12,18 @@ namespace kestrel {
 namespace {
 
 constexpr qint64 maximumConfigurationBytes = 1024 * 1024;
+constexpr std::chrono::seconds fetchTime(5);  ///< the update check waits for it
+
+/// JSON may come in any of Unicode's encodings, with or without a mark.
+QJsonObject jsonObject(const QByteArray &bytes)
+{
+    const auto encoding = QStringConverter::encodingForData(bytes, u'{').value_or(QStringConverter::Utf8);
+    if (encoding == QStringConverter::Utf8)
+        return QJsonDocument::fromJson(bytes).object();
+    QStringDecoder decoder(encoding);
+    const QString text = decoder(bytes);
+    return decoder.hasError() ? QJsonObject() : QJsonDocument::fromJson(text.toUtf8()).object();
+}
 
 }  // namespace
 
@@ -21,7 +34,8 @@ std::shared_ptr<const AppRMConfig> AppRMConfig::remoteConfigWithURL(const QStrin
 
 std::shared_ptr<const AppRMConfig> AppRMConfig::initWithURL(const QString &url, const foundation::Fetch &fetch)
 {
-    const foundation::FetchResult result = fetch({.address = url, .maximumBytes = maximumConfigurationBytes});
+    const foundation::FetchResult result =
+        fetch({.address = url, .maximumBytes = maximumConfigurationBytes, .timeLimit = fetchTime});
     if (!result.body) {
         tarnwell::DNFootLog(u"The remote configuration could not be fetched: %1"_s, result.reason);
         return nullptr;
@@ -32,7 +46,7 @@ std::shared_ptr<const AppRMConfig> AppRMConfig::initWithURL(const QString &url, 
 std::shared_ptr<const AppRMConfig> AppRMConfig::initWithData(const QByteArray &json)
 {
     using tarnwell::AppWndTRButtonConfig;
-    const QJsonObject root = QJsonDocument::fromJson(json).object();
+    const QJsonObject root = jsonObject(json);
     AppRMConfig configuration;
     if (const QJsonValue promotions = root.value(u"ads"_s); promotions.isObject())
         configuration.m_adParser = AdParser::initWithDictionary(promotions.toObject());

@@ -7,6 +7,7 @@ import glob
 import json
 import os
 import plistlib
+import re
 import subprocess
 import sys
 
@@ -77,15 +78,37 @@ class Walk:
         if not os.path.exists(film):
             make_clip(film, seconds=20, size='1280x720')
         self.desktop.launch(self.bundle, film).wait_for_end()
-        self.app.find('table cell', 'Holiday.mkv')
+        self.app.find('list item', re.compile('Holiday.mkv'))
 
     def convert(self):
-        self.desktop.click(self.app.find('push button', 'Convert'))
+        self.desktop.key('ctrl+Return')
         bar = self.app.find('progress bar')
         wait_for(lambda: value_of(bar) > 0.2 * bar.get_maximum_value(), 'the progress to move')
 
+    def show_options(self):
+        """By the last of the buttons in the converter's header."""
+        self.desktop.click(max((button for button in self.app.find_all('push button') if extents(button)[1] < 400),
+                               key=extents))
+        self.desktop.move(0, 0)
+
+    def edit_film(self):
+        self.desktop.key('ctrl+e')
+        self.app.find('dialog')
+        self.presents = True
+
+    def show_formats(self):
+        self.desktop.key('ctrl+f')
+        self.app.find('dialog')
+        self.presents = True
+
+    def close_dialog(self):
+        self.desktop.key('Escape')
+        wait_for(lambda: not self.app.find_all('dialog'), 'the dialog to close')
+        self.presents = False
+
     def wait_until_converted(self):
-        self.app.find('push button', 'Convert', patience=120)
+        folder = os.path.join(self.desktop.home, 'Movies/Mac Video Library')
+        wait_for(lambda: [name for name in os.listdir(folder) if not name.startswith('.')], 'the film', 120)
 
     def picture(self, path):
         """Of the window; the one in front, where it is presented over another."""
@@ -116,6 +139,11 @@ STOPS = (  # picture, the way there from the stop before
     ('06-home-after-settings', Walk.close_settings),
     ('10-converter', lambda walk: walk.enter(0)),
     ('11-converter-ready', Walk.add_film),
+    ('11a-converter-edit', Walk.edit_film),
+    ('11b-converter-edited', Walk.close_dialog),
+    ('11c-converter-formats', Walk.show_formats),
+    ('11d-converter-chosen', Walk.close_dialog),
+    ('11e-converter-options', Walk.show_options),
     ('12-converter-converting', Walk.convert),
     ('13-converter-done', Walk.wait_until_converted),
     ('14-home-again', Walk.leave),

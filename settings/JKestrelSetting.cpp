@@ -9,6 +9,8 @@
 #include <QCryptographicHash>
 #include <QUrl>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -30,15 +32,13 @@ std::unique_ptr<Setting> makeSetting(const std::optional<foundation::KeyedDecode
 
 }  // namespace
 
-JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults)
-    : JKestrelSetting(defaults, tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720))
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
+    : JKestrelSetting(defaults)
 {
+    m_canEncodeInHardware = canEncodeInHardware;
 }
 
-JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults, bool canEncodeInHardware)
-    : m_defaults(defaults),
-      m_canEncodeInHardware(canEncodeInHardware),
-      m_intelQSV(canEncodeInHardware)
+JKestrelSetting::JKestrelSetting(foundation::UserDefaults &defaults) : m_defaults(defaults)
 {
     load();
     const QString transcoderTools = getFFmpegBundlePath() + "/Contents/Resources/"_L1;
@@ -61,7 +61,9 @@ JKestrelSetting &JKestrelSetting::ShareInst()
 
 void JKestrelSetting::load()
 {
-    const auto root = foundation::KeyedDecoder::unarchive(m_defaults.dataForKey(settingKey));
+    const QByteArray archive = m_defaults.dataForKey(settingKey);
+    const auto root = foundation::KeyedDecoder::unarchive(archive);
+    m_isStoredUnreadable = !archive.isEmpty() && !root;
     m_video = makeSetting<JVideoSetting>(root, u"JVideoSetting"_s, moduleKey(ModuleSettingVideo));
     m_dvd = makeSetting<JDVDSetting>(root, u"JDVDSetting"_s, moduleKey(ModuleSettingDVD));
     m_downloader = makeSetting<JDownloaderSetting>(root, u"JDownloaderSetting"_s, moduleKey(ModuleSettingDownload));
@@ -79,10 +81,17 @@ JSettingBase *JKestrelSetting::ofModule(qint32 kind) const
     return kind >= 0 && kind < qint32(std::size(settings)) ? settings[kind] : nullptr;
 }
 
+bool JKestrelSetting::canEncodeInHardware() const
+{
+    if (!m_canEncodeInHardware)
+        m_canEncodeInHardware = tarnwell::HWECanEncodeVideoInSize(avc1, 1280, 720);
+    return *m_canEncodeInHardware;
+}
+
 void JKestrelSetting::setHardwareChoice(HardwareChoice choice)
 {
     m_hardwareChoice = choice;
-    m_intelQSV = encodesInHardware(choice, m_canEncodeInHardware);
+    m_intelQSV = encodesInHardware(choice, canEncodeInHardware());
 }
 
 void JKestrelSetting::sync()
@@ -100,6 +109,8 @@ void JKestrelSetting::sync()
         tarnwell::DNFootLog(u"The settings could not be archived"_s);
         return;
     }
+    if (std::exchange(m_isStoredUnreadable, false))
+        m_defaults.keepAside(settingKey);
     m_defaults.setObject(archive, settingKey);
     m_defaults.synchronize();
 }

@@ -7,6 +7,7 @@
 #include <QObject>
 
 #include <memory>
+#include <optional>
 
 namespace kestrel::foundation {
 class UserDefaults;
@@ -40,7 +41,7 @@ public:
     static JKestrelSetting &ShareInst();
 
     /// Writes the model to the defaults and the defaults to the disk. Where it cannot be archived, the stored value
-    /// stays.
+    /// stays; a stored one that could not be read is kept beside the defaults.
     void sync();
 
     JVideoSetting *video() const { return m_video.get(); }
@@ -56,13 +57,13 @@ public:
     bool notifyWhenAvailable() const { return m_notifyWhenAvailable; }
     void setNotifyWhenAvailable(bool notify) { m_notifyWhenAvailable = notify; }
     /// Whether video is encoded in hardware. Every run begins with what the machine can do.
-    bool intelQSV() const { return m_intelQSV; }
+    bool intelQSV() const { return m_intelQSV.value_or(canEncodeInHardware()); }
     void setIntelQSV(bool enabled) { m_intelQSV = enabled; }
-    bool canEncodeInHardware() const { return m_canEncodeInHardware; }
+    bool canEncodeInHardware() const;
     /// The user's choice over `intelQSV`: what the machine can do, on, or off. Like that switch it lasts for the run.
     HardwareChoice hardwareChoice() const
     {
-        return hardwareChoiceShown(m_hardwareChoice, m_canEncodeInHardware, m_intelQSV);
+        return hardwareChoiceShown(m_hardwareChoice, canEncodeInHardware(), intelQSV());
     }
     void setHardwareChoice(HardwareChoice choice);
 
@@ -100,6 +101,7 @@ private:
     QObject *recorderObject() const { return m_recorder.get(); }
 
     foundation::UserDefaults &m_defaults;
+    bool m_isStoredUnreadable = false;
     std::unique_ptr<JVideoSetting> m_video;
     std::unique_ptr<JDVDSetting> m_dvd;
     std::unique_ptr<JDownloaderSetting> m_downloader;
@@ -107,8 +109,8 @@ private:
     bool m_openFolderWhenDone = true;
     bool m_shutdownWhenDone = false;
     bool m_notifyWhenAvailable = true;
-    bool m_canEncodeInHardware;
-    bool m_intelQSV;
+    mutable std::optional<bool> m_canEncodeInHardware;  ///< asked once, when somebody wants to know
+    std::optional<bool> m_intelQSV;                     ///< nothing: as the machine can
     HardwareChoice m_hardwareChoice = HardwareChoice::Automatic;
     QString m_currMode;
     QString m_previousVersion;

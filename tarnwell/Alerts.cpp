@@ -7,7 +7,7 @@ namespace kestrel::tarnwell {
 AlertAnswer runAlert(const Alert &alert)
 {
     AlertPresenter *presenter = Installed<AlertPresenter>::current();
-    return presenter ? presenter->runModal(alert) : AlertAnswer::Alternate;
+    return presenter ? presenter->runModal(alert) : alert.answerToEscape;
 }
 
 }  // namespace kestrel::tarnwell

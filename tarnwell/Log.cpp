@@ -1,6 +1,7 @@
 #include "Log.h"
 
 #include "Installed.h"
+#include "foundation/StandardFolders.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -53,6 +54,10 @@ std::atomic<QtMessageHandler> previousMessageHandler = nullptr;
 
 void logMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    // One for every script of a text that the fonts do not have, each time that it is laid out: the first will do.
+    static std::atomic<bool> isScriptMissing = false;
+    if (message.startsWith("OpenType support missing for "_L1) && isScriptMissing.exchange(true))
+        return;
     if (Log *log = Installed<Log>::current(); log && type != QtDebugMsg)
         log->append(message);
     if (const QtMessageHandler previous = previousMessageHandler)
@@ -86,7 +91,7 @@ Log::Log(const QString &folder, qint64 maximumBytes)
       m_maximumBytes(maximumBytes)
 {
     threadName();
-    QDir().mkpath(folder);
+    foundation::makePrivateFolder(folder);
     discardPrevious();
     QFile::rename(m_file.fileName(), m_previousPath);
     if (!m_file.open(QIODevice::ReadWrite | QIODevice::Truncate | QIODevice::Unbuffered,

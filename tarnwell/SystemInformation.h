@@ -37,7 +37,7 @@ bool CreateDirectory(const QString &path);
 /// The name of the machine's processor where it is one of the platform maker's own; null on all others.
 QString GetAppleChipName();
 
-/// The device that encodes video of this codec (a four-character code, 'avc1') and size in hardware, in the
+/// The device that encodes video of this codec (a four-character code, 'avc1' or 'hvc1') and size in hardware, in the
 /// transcoder's words; null where there is none. Answers at once where the machine has no such device.
 QString hardwareEncoderDevice(quint32 codec, int width, int height);
 

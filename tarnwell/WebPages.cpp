@@ -47,6 +47,14 @@ bool PHPOpenWebsite(const QString &link, const QString &fui)
     return openPage(delegate ? delegate->phpRedirectLink(fui, link) : link);
 }
 
+bool OpenLink(const QUrl &link)
+{
+    if (link.scheme() != "mailto"_L1)
+        return openPage(link.toString(QUrl::FullyEncoded));
+    WebOpener *opener = Installed<WebOpener>::current();
+    return opener && link.isValid() && !link.path().isEmpty() && opener->openUrl(link);
+}
+
 bool OpenDirectory(const QString &path)
 {
     WebOpener *opener = Installed<WebOpener>::current();

@@ -29,6 +29,9 @@ bool OpenWebsitePath(const QString &link, const QString &tag);
 /// Opens the delegate's redirect link to `link`, under the same rule.
 bool PHPOpenWebsite(const QString &link, const QString &fui);
 
+/// Opens a link out of a text as it stands: http, https or mailto; anything else is refused and logged.
+bool OpenLink(const QUrl &link);
+
 /// Shows a folder in the user's file manager. False where there is no such folder.
 bool OpenDirectory(const QString &path);
 

@@ -46,7 +46,8 @@ UPParser::Parsed UPParser::initWithXMLURL(const QString &url, const UpdateContex
 UPParser::Parsed UPParser::initWithData(const QByteArray &bytes, const UpdateReading &reading,
                                         const RemoteConfigSource &remoteConfig)
 {
-    const foundation::PropertyListResult list = foundation::readPropertyList(bytes, descriptorLimits);
+    const foundation::PropertyListResult list =
+        foundation::readPropertyList(bytes, descriptorLimits, foundation::PropertyListManner::Forgiving);
     if (!list.value)
         return foundation::Failure{list.error.toString()};
     if (list.value->typeId() != QMetaType::QVariantMap)

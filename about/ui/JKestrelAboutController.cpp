@@ -49,6 +49,7 @@ void JKestrelAboutController::windowDidLoad(QDialog *window)
     m_form->aboutOurCompanyLabel->setText(
         AppLocalizedString(filledIn(u"About Our Company %@"_s, {tarnwell::AppGroupName()})));
     setup();
+    m_form->closeButton->setFocus();
     window->setWindowTitle(filledIn(AppLocalizedString(u"About %@"_s), {tarnwell::GetApplicationName()}));
     connect(m_form->homeBtn, &QPushButton::clicked, this, &JKestrelAboutController::onLinkButtonAction);
     connect(m_form->sendButton, &QPushButton::clicked, this, &JKestrelAboutController::onSendFeedbackAction);

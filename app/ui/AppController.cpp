@@ -13,6 +13,7 @@
 #include "tarnwell/ui/TitledWindow.h"
 
 #include <QPointer>
+#include <QScreen>
 
 using namespace Qt::StringLiterals;
 
@@ -108,6 +109,8 @@ void AppController::recordInstalledVersion()
 
 void AppController::applicationWillTerminate()
 {
+    if (m_surroundings.windows.storeEdits)
+        m_surroundings.windows.storeEdits();
     for (const ModuleSettingKind kind : {ModuleSettingVideo, ModuleSettingDVD})
         sendIfImplemented(m_modules[kind].controller.get(), &ModuleSettingSync::syncSetting);
     m_surroundings.setting.sync();
@@ -210,11 +213,16 @@ void AppController::showSubModeHelper(ModuleController *controller)
         view->setParent(window.contentView());
         setWindowTitle(controller->windowTitle());
     }
+    const QSize titleBar(0, int(tarnwell::TitledWindow::defaultTitleBarHeight));
+    const QScreen &screen = *m_menuController->window()->screen();
+    const QSize leastContent = view ? view->minimumSizeHint().expandedTo({0, 0}).boundedTo(view->size()) : QSize(0, 0);
+    window.setMinimumSize((leastContent + titleBar).boundedTo(screen.availableGeometry().size()));
     window.setFrame(mainWindowFrame(m_menuController->window()->frame(), sizeOf(view)));
+    window.comeIntoView(screen);
+    window.setFillingView(view);
     if (view) {
-        const foundation::Size size = sizeOf(view);
-        tarnwell::setViewFrame(view, {0, 0, size.width, size.height});
         view->show();
+        view->setFocus();  // its shortcuts work from the first moment on
     }
     tarnwell::LWindowTransitionAnimator::sharedAnimator().zoomFromWindow(
         m_menuController->window(), &window, false, [self = QPointer(this)] {

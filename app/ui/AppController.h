@@ -27,6 +27,8 @@ struct PresentedWindows {
     using Presenter = std::function<void(QWidget *overWindow)>;
     Presenter setting = {};
     Presenter about = {};
+    /// Stores what is typed into a window that is open, and would be stored when it closes.
+    std::function<void()> storeEdits = {};
 };
 
 /// Where the main window stands for a module view of `viewSize`, given the home window's frame: centred by the view,

@@ -7,6 +7,7 @@
 #include "foundation/LanguageTags.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "settings/JKestrelSetting.h"
 #include "tarnwell/Alerts.h"
@@ -20,6 +21,7 @@
 
 #include <QActionGroup>
 #include <QApplication>
+#include <QDir>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -94,7 +96,7 @@ void AppDelegate::applicationWillFinishLaunching()
     setupLanuageMenu();
     const QString dataFolder = tarnwell::GetApplicationSupportDir() + u'/' + tarnwell::GetApplicationName();
     if (!QFileInfo::exists(dataFolder))
-        tarnwell::CreateDirectory(dataFolder);
+        foundation::makePrivateFolder(dataFolder);
     tarnwell::JTooltipController::Instance().addWindow(m_window.get());
     m_window->makeInitWithImageName(u"window_titlebarbg"_s, u"window_title_bg"_s);
     m_appController->applicationWillFinishLaunching();
@@ -107,11 +109,11 @@ void AppDelegate::applicationDidFinishLaunching()
     tarnwell::DNFootLog(u"[DEBUG]Application did Finished launching"_s);
     m_appController->applicationDidFinishLaunching();
     m_appController->showMenuWindow();
-    foundation::queue::afterMain(250ms, [self = QPointer(this)] {
+    m_surroundings.later(250ms, [self = QPointer(this)] {
         if (self)
             self->checkBugReportFlagWhenLaunch();
     });
-    foundation::queue::afterMain(500ms, [self = QPointer(this)] {
+    m_surroundings.later(500ms, [self = QPointer(this)] {
         if (self)
             foundation::queue::asyncGlobal([self] { self->checkUpgradesAutomatically(); });
     });
@@ -134,7 +136,7 @@ void AppDelegate::save()
     m_surroundings.jobs.interrupt();
     m_appController->applicationWillTerminate();
     m_reports.markEnded();
-    m_surroundings.defaults.synchronize();
+    m_reports.noteSaved(m_surroundings.defaults.synchronize());
 }
 
 void AppDelegate::sessionWillEnd()
@@ -172,8 +174,8 @@ void AppDelegate::setupLanuageMenu()
     const QString stored = m_surroundings.defaults.stringForKey(customizeLanguageKey.toString());
     for (int tag = 0; tag < int(supportedLanguages.size()); ++tag) {
         const QString code = supportedLanguages[size_t(tag)].toString();
-        QAction *item =
-            languages->addAction(tag == 0 ? AppLocalizedString(u"Default"_s) : foundation::languageDisplayName(code));
+        QAction *item = languages->addAction(tag == 0 ? AppLocalizedString(u"Default"_s)
+                                                      : supportedLanguageNames[size_t(tag)].toString());
         item->setData(tag);
         item->setCheckable(true);
         item->setChecked(code == stored);

@@ -5,19 +5,18 @@
 #include "MainMenu.h"
 #include "ShutdownPanel.h"
 #include "app/ProblemReports.h"
+#include "foundation/Queues.h"
 #include "tarnwell/AppWndTRButtonConfig.h"
 #include "tarnwell/WebPages.h"
 
 #include <QObject>
 
+#include <chrono>
 #include <functional>
 #include <memory>
 #include <optional>
 
 namespace kestrel {
-
-/// Broadcast, without an object, when the user has confirmed to reset the conversion profiles; the modules own them.
-inline constexpr QStringView keyResetProfilesNotification = u"keyResetProfilesNotification";
 
 /// The application's delegate: owns main window, menus and module host, adds the shell's own menu entries, and carries
 /// launch and termination. Main thread only.
@@ -34,6 +33,8 @@ public:
         /// Starts a program that lives on by itself; false where it cannot be started.
         std::function<bool(const QString &program, const QStringList &arguments)> startProcess;
         LaunchCheck::Sources updates;
+        /// Runs a job on the main thread, no sooner than the delay from now.
+        std::function<void(std::chrono::milliseconds, std::function<void()>)> later = foundation::queue::afterMain;
     };
 
     /// What is referred to in `surroundings` outlives the delegate. The delegate itself outlives its background jobs:

@@ -13,4 +13,18 @@ void JFeedbackButton::onMouseEnterExit(bool entered)
         m_target->onButtonMouseExit(this);
 }
 
+void JFeedbackButton::focusInEvent(QFocusEvent *event)
+{
+    HoverButton::focusInEvent(event);
+    if (m_target)
+        m_target->onButtonMouseEntered(this);
+}
+
+void JFeedbackButton::focusOutEvent(QFocusEvent *event)
+{
+    HoverButton::focusOutEvent(event);
+    if (m_target && !isHovered())
+        m_target->onButtonMouseExit(this);
+}
+
 }  // namespace kestrel

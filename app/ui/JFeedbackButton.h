@@ -14,7 +14,7 @@ public:
     virtual void onButtonMouseExit(JFeedbackButton *sender) = 0;
 };
 
-/// A hover button that reports the pointer's coming and going to its target.
+/// A hover button that reports the pointer's coming and going to its target, and those of the keyboard the same way.
 class JFeedbackButton : public tarnwell::HoverButton {
     Q_OBJECT
 public:
@@ -23,6 +23,10 @@ public:
     /// `target` outlives the button's events, or is taken away with null.
     void setTarget(FeedbackButtonTarget *target) { m_target = target; }
     void onMouseEnterExit(bool entered) override;
+
+protected:
+    void focusInEvent(QFocusEvent *event) override;
+    void focusOutEvent(QFocusEvent *event) override;
 
 private:
     FeedbackButtonTarget *m_target = nullptr;

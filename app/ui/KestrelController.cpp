@@ -16,6 +16,7 @@
 #include <QPainter>
 #include <QPointer>
 #include <QScreen>
+#include <QShortcut>
 #include <QWindow>
 
 #include <algorithm>
@@ -127,6 +128,10 @@ void KestrelController::windowDidLoad()
         button->setIcon(tarnwell::namedIcon(QString::fromUtf16(image)));
         connect(button, &QAbstractButton::clicked, this, action);
     }
+    for (QAbstractButton *button : {m_ui->settingButton, m_ui->aboutButton}) {
+        for (const Qt::Key key : {Qt::Key_Return, Qt::Key_Enter})
+            new QShortcut(key, button, button, &QAbstractButton::click, Qt::WidgetShortcut);
+    }
 
     const struct {
         QWidget *view;
@@ -180,16 +185,18 @@ void KestrelController::makeBackgroundLayers()
 void KestrelController::paintDiscsIntoBackground()
 {
     const qreal scale = m_window->devicePixelRatioF();
-    QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, scale);
+    const QPixmap picture = tarnwell::namedImage(u"kestrel_bg"_s, scale);
     if (picture.isNull())
         return;
     const QPixmap disc = discImage(picture.devicePixelRatio());
-    QPainter painter(&picture);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QList<QRect> places;
     for (const ModuleButton &module : m_modules)
-        painter.drawPixmap(module.button->geometry(), disc);
-    painter.end();
-    m_ui->backgroundImage->setPixmap(picture);
+        places.append(module.button->geometry());
+    // Scaled once; all places are of one size.
+    QPixmap fitted = disc.scaled(places.constFirst().size() * disc.devicePixelRatio(), Qt::IgnoreAspectRatio,
+                                 Qt::SmoothTransformation);
+    fitted.setDevicePixelRatio(picture.devicePixelRatio());
+    m_ui->backgroundImage->setPicture(picture, fitted, places);
 }
 
 void KestrelController::showTexts(const QString &headline, const QString &description)
@@ -228,6 +235,11 @@ void KestrelController::onButtonMouseExit(JFeedbackButton *sender)
         return;
     makeZoomOutAnimation(module->backgroundLayer, module->button);
     setCaptionColor(*module, restingCaptionColor);
+    // What the pointer has left shows again what the keyboard is at.
+    for (const ModuleButton &other : m_modules) {
+        if (other.button->hasFocus())
+            onButtonMouseEntered(other.button);
+    }
 }
 
 void KestrelController::makeZoomInAnimation(tarnwell::ImageLayer *layer, const QWidget *related)

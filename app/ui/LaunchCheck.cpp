@@ -5,10 +5,12 @@
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
 #include "remote/Promotion.h"
+#include "remote/PromotionPicture.h"
 #include "remote/ui/JAdvertisementWinController.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/Notifications.h"
 #include "tarnwell/ProductInformation.h"
+#include "tarnwell/ui/TitledWindow.h"
 #include "update/LaunchDecision.h"
 #include "update/UPParser.h"
 #include "update/ui/UpgradeWindowController.h"
@@ -85,12 +87,16 @@ void LaunchCheck::showWhatIsDue(const std::shared_ptr<const UPParser> &descripto
     setDescriptor(descriptor);
     foundation::NotificationCenter::defaultCenter().postNotificationName(tarnwell::RMTConfigureDidParse.toString(),
                                                                          descriptor.get());
+    if (m_upgradeWindow) {
+        tarnwell::DNFootLog(u"Update check: the user has asked for one in the meantime"_s);
+        return;
+    }
     const QString today = m_sources.today().toString(u"yyyy-MM-dd"_s);
     const LaunchDecision decision =
         decideAtLaunch(descriptor.get(), promotionMemory(m_defaults), today, m_sources.draw);
     tarnwell::DNFootLog(u"Update check: %1"_s, QString::fromUtf8(decision.reason));
     if (decision.outcome == LaunchOutcome::NewVersion)
-        UpgradeWindowController(url, context(), m_terminate).showUpgradeWindowNoProgress(descriptor);
+        runUpgradeWindow(url, [&](UpgradeWindowController &window) { window.showUpgradeWindowNoProgress(descriptor); });
     else if (decision.outcome == LaunchOutcome::Promotion)
         fetchPromotion(descriptor, today);
 }
@@ -100,25 +106,36 @@ void LaunchCheck::fetchPromotion(const std::shared_ptr<const UPParser> &descript
     m_defaults.setObject(today, advertisementDateKey.toString());
     foundation::queue::asyncGlobal([this, descriptor] {
         const AdParser &promotion = *descriptor->rmtConfig()->adParser();
-        QByteArray picture;
+        QImage picture;
         if (!promotion.pictureURL().isEmpty()) {
             const foundation::FetchResult result =
                 m_sources.fetch({.address = promotion.pictureURL(), .maximumBytes = maximumPictureBytes});
             if (!result.body)
                 tarnwell::DNFootLog(u"The picture of the promotion could not be fetched: %1"_s, result.reason);
-            picture = result.body.value_or(QByteArray());
+            picture = promotionPicture(result.body.value_or(QByteArray()));
         }
         foundation::queue::asyncMain([self = QPointer(this), descriptor, picture] {
-            if (self && !self->m_hasRunEnded)
-                JAdvertisementWinController::ShowAdvertisement(descriptor->rmtConfig()->adParser()->full(), picture,
-                                                               self->m_defaults);
+            if (self && !self->m_hasRunEnded && !self->m_upgradeWindow)
+                JAdvertisementWinController::ShowAdvertisementWithImage(descriptor->rmtConfig()->adParser()->full(),
+                                                                        picture, self->m_defaults);
         });
     });
 }
 
 void LaunchCheck::showUpdateWindow()
 {
-    UpgradeWindowController(descriptorURL(), context(), m_terminate).showUpgradeWindow();
+    if (m_upgradeWindow)
+        return m_upgradeWindow->window()->makeKeyAndOrderFront();
+    runUpgradeWindow(descriptorURL(), &UpgradeWindowController::showUpgradeWindow);
+}
+
+/// One at a time, whoever asked for it.
+void LaunchCheck::runUpgradeWindow(const QString &url, const std::function<void(UpgradeWindowController &)> &show)
+{
+    UpgradeWindowController window(url, context(), m_terminate);
+    m_upgradeWindow = &window;
+    show(window);
+    m_upgradeWindow = nullptr;
 }
 
 }  // namespace kestrel

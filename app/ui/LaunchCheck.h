@@ -15,6 +15,7 @@ class UserDefaults;
 namespace kestrel {
 
 class UPParser;
+class UpgradeWindowController;
 struct UpdateContext;
 
 /// What a launch asks of the publisher's server, and what it shows of the answer: a new version, a promotion, or
@@ -36,7 +37,7 @@ public:
 
     /// Fetches the descriptor and shows what is due. Called once a launch, on a background thread.
     void run();
-    /// Opens the update window, which makes a check of its own.
+    /// Opens the update window, which makes a check of its own; one that is open comes to the front.
     void showUpdateWindow();
     /// Shows nothing any more.
     void runWillEnd() { m_hasRunEnded = true; }
@@ -48,12 +49,14 @@ public:
 private:
     UpdateContext context() const;
     void showWhatIsDue(const std::shared_ptr<const UPParser> &descriptor, const QString &url);
+    void runUpgradeWindow(const QString &url, const std::function<void(UpgradeWindowController &)> &show);
     void fetchPromotion(const std::shared_ptr<const UPParser> &descriptor, const QString &today);
 
     foundation::UserDefaults &m_defaults;
     Sources m_sources;
     std::function<void()> m_terminate;
     std::shared_ptr<const UPParser> m_descriptor;
+    UpgradeWindowController *m_upgradeWindow = nullptr;  ///< the one that is shown
     bool m_hasRunEnded = false;
 };
 

@@ -4,6 +4,9 @@
 #include "tarnwell/ui/TitledWindow.h"
 
 #include <QApplication>
+#include <QWindow>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -21,12 +24,37 @@ std::function<void()> toFocusedControl(const char *slot)
     };
 }
 
-std::function<void()> toActiveWindow(void (QWidget::*message)())
+/// The window that another one is attached to, as a sheet is; null where it stands by itself.
+QWidget *windowBelow(const QWidget *window)
 {
-    return [message] {
-        if (QWidget *window = QApplication::activeWindow())
-            (window->*message)();
-    };
+    const QWindow *below = window->windowHandle() ? window->windowHandle()->transientParent() : nullptr;
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto found = std::ranges::find_if(all, [below](QWidget *each) { return each->windowHandle() == below; });
+    return below && found != all.end() ? *found : nullptr;
+}
+
+/// With everything that is attached to it.
+void minimizeActiveWindow()
+{
+    QWidget *window = QApplication::activeWindow();
+    while (QWidget *below = window ? windowBelow(window) : nullptr)
+        window = below;
+    if (window)
+        window->showMinimized();
+}
+
+/// The uppermost of those that are attached to it, or the window itself.
+void closeActiveWindow()
+{
+    QWidget *window = QApplication::activeWindow();
+    const QWidgetList all = QApplication::topLevelWidgets();
+    const auto isAbove = [&window](const QWidget *each) { return each->isVisible() && windowBelow(each) == window; };
+    for (auto above = all.end(); window && (above = std::ranges::find_if(all, isAbove)) != all.end();)
+        window = *above;
+    if (auto *titled = qobject_cast<tarnwell::TitledWindow *>(window))
+        titled->performClose();
+    else if (window)
+        window->close();
 }
 
 }  // namespace
@@ -50,14 +78,8 @@ MainMenu::MainMenu()
         {QT_TRANSLATE_NOOP("TarnwellPublic", "Select All"), toFocusedControl("selectAll"), QKeySequence::SelectAll}};
     append(*editMenu(), edit);
     const MenuEntry window[] = {
-        {QT_TRANSLATE_NOOP("TarnwellPublic", "Minimize"), toActiveWindow(&QWidget::showMinimized),
-         Qt::CTRL | Qt::Key_M},
-        {QT_TRANSLATE_NOOP("TarnwellPublic", "Close"),
-         [] {
-             if (auto *active = qobject_cast<tarnwell::TitledWindow *>(QApplication::activeWindow()))
-                 active->performClose();
-         },
-         QKeySequence::Close}};
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Minimize"), minimizeActiveWindow, Qt::CTRL | Qt::Key_M},
+        {QT_TRANSLATE_NOOP("TarnwellPublic", "Close"), closeActiveWindow, QKeySequence::Close}};
     append(*windowMenu(), window);
 }
 

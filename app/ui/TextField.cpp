@@ -3,6 +3,7 @@
 #include "app/HomeTexts.h"
 #include "tarnwell/ui/Palette.h"
 
+#include <QApplication>
 #include <QPainter>
 
 using namespace Qt::StringLiterals;
@@ -13,7 +14,7 @@ namespace {
 
 QFont badgeFont(int points)
 {
-    QFont font(u"Arial"_s);
+    QFont font = QApplication::font();
     font.setBold(true);
     font.setPixelSize(points);
     return font;

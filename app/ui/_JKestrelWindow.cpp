@@ -1,5 +1,6 @@
 #include "_JKestrelWindow.h"
 
+#include "tarnwell/ProductInformation.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/WindowTitleBar.h"
 
@@ -28,6 +29,8 @@ void _JKestrelWindow::makeInit()
     setTitleBarHeight(titleBarHeightFor(tarnwell::GetSystemVersion2()));
     titleBarView()->setBackgroundView(new _JKestrelTitleView(titleBarView()));
     setMovableByWindowBackground(true);
+    setResizable(false);
+    setAccessibleName(tarnwell::GetApplicationName());  // it has no title that could name it
 }
 
 void _JKestrelWindow::setTitle(const QString &)

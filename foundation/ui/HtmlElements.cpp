@@ -19,10 +19,12 @@ constexpr HtmlElement htmlElements[] = {
     {"address", HtmlRole::Boundary, 1},
     {"article", HtmlRole::Boundary, 1},
     {"b", HtmlRole::Bold},
+    {"big", HtmlRole::Big},
     {"blockquote", HtmlRole::Boundary, 2},
     {"br", HtmlRole::LineBreak},
-    {"center", HtmlRole::Boundary, 1},
+    {"center", HtmlRole::Center, 1},
     {"dd", HtmlRole::Boundary, 1},
+    {"del", HtmlRole::StrikeOut},
     {"div", HtmlRole::Plain, 1},
     {"dl", HtmlRole::Boundary, 2},
     {"dt", HtmlRole::Boundary, 1},
@@ -37,13 +39,19 @@ constexpr HtmlElement htmlElements[] = {
     {"h6", HtmlRole::Heading, 2, 1},
     {"hr", HtmlRole::Boundary, 1},
     {"i", HtmlRole::Italic},
+    {"ins", HtmlRole::Underline},
     {"li", HtmlRole::Item, 1},
     {"ol", HtmlRole::NumberedList, 2},
     {"p", HtmlRole::Paragraph, 2},
     {"pre", HtmlRole::Boundary, 2},
+    {"s", HtmlRole::StrikeOut},
     {"section", HtmlRole::Boundary, 1},
+    {"small", HtmlRole::Small},
     {"span", HtmlRole::Plain},
+    {"strike", HtmlRole::StrikeOut},
     {"strong", HtmlRole::Bold},
+    {"sub", HtmlRole::Subscript},
+    {"sup", HtmlRole::Superscript},
     {"table", HtmlRole::Boundary, 1},
     {"td", HtmlRole::Cell},
     {"th", HtmlRole::Cell},
@@ -101,19 +109,6 @@ std::optional<QRgb> htmlColor(QStringView attribute)
     if (!color.isValid() && (name.size() == 4 || !name.startsWith(u'#')))
         color = QColor::fromString(name);
     return color.isValid() && color.alpha() == 255 ? std::optional(color.rgb()) : std::nullopt;
-}
-
-std::optional<QRgb> htmlStyleColor(QStringView style)
-{
-    std::optional<QRgb> color;
-    for (const QStringView declaration : style.tokenize(u';')) {
-        const qsizetype colon = declaration.indexOf(u':');
-        if (colon < 0 || declaration.first(colon).trimmed().compare("color"_L1, Qt::CaseInsensitive) != 0)
-            continue;
-        if (const auto declared = htmlColor(declaration.sliced(colon + 1)))
-            color = declared;
-    }
-    return color;
 }
 
 QString htmlLink(QStringView attribute)

@@ -13,6 +13,12 @@ enum class HtmlRole {
     Bold,
     Italic,
     Underline,
+    StrikeOut,
+    Superscript,
+    Subscript,
+    Small,
+    Big,
+    Center,
     Font,
     Link,
     Paragraph,
@@ -36,10 +42,9 @@ struct HtmlElement {
 const HtmlElement *htmlElementNamed(std::string_view name);
 bool isHtmlList(const HtmlElement &element);
 
-int htmlFontPoints(int size);                           ///< of the sizes 1 to 7; the nearest of them for others
-int htmlFontPoints(QStringView attribute);              ///< of a size attribute; 0 where it is empty
-std::optional<QRgb> htmlColor(QStringView attribute);   ///< of a colour attribute: "#RRGGBB", "#RGB" or a name
-std::optional<QRgb> htmlStyleColor(QStringView style);  ///< of a style attribute; where it has several, the last
+int htmlFontPoints(int size);                          ///< of the sizes 1 to 7; the nearest of them for others
+int htmlFontPoints(QStringView attribute);             ///< of a size attribute; 0 where it is empty
+std::optional<QRgb> htmlColor(QStringView attribute);  ///< of a colour attribute: "#RRGGBB", "#RGB" or a name
 QString htmlLink(QStringView attribute);  ///< of an href attribute; null unless it leads to a web page or mail address
 
 }  // namespace kestrel::foundation

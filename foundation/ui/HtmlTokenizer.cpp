@@ -1,5 +1,7 @@
 #include "HtmlTokenizer.h"
 
+#include "HtmlCharacters.h"
+
 #include <algorithm>
 #include <iterator>
 
@@ -8,23 +10,6 @@ using namespace Qt::StringLiterals;
 namespace kestrel::foundation {
 
 namespace {
-
-constexpr struct {
-    QLatin1StringView name;
-    char16_t character;
-} htmlCharacters[] = {
-    {"amp"_L1, u'&'},      {"lt"_L1, u'<'},       {"gt"_L1, u'>'},      {"quot"_L1, u'"'},     {"apos"_L1, u'\''},
-    {"nbsp"_L1, 0x00A0},   {"iexcl"_L1, 0x00A1},  {"cent"_L1, 0x00A2},  {"pound"_L1, 0x00A3},  {"yen"_L1, 0x00A5},
-    {"sect"_L1, 0x00A7},   {"copy"_L1, 0x00A9},   {"laquo"_L1, 0x00AB}, {"reg"_L1, 0x00AE},    {"deg"_L1, 0x00B0},
-    {"plusmn"_L1, 0x00B1}, {"middot"_L1, 0x00B7}, {"raquo"_L1, 0x00BB}, {"frac12"_L1, 0x00BD}, {"iquest"_L1, 0x00BF},
-    {"times"_L1, 0x00D7},  {"Auml"_L1, 0x00C4},   {"Ouml"_L1, 0x00D6},  {"Uuml"_L1, 0x00DC},   {"szlig"_L1, 0x00DF},
-    {"auml"_L1, 0x00E4},   {"ouml"_L1, 0x00F6},   {"uuml"_L1, 0x00FC},  {"eacute"_L1, 0x00E9}, {"ndash"_L1, 0x2013},
-    {"mdash"_L1, 0x2014},  {"lsquo"_L1, 0x2018},  {"rsquo"_L1, 0x2019}, {"sbquo"_L1, 0x201A},  {"ldquo"_L1, 0x201C},
-    {"rdquo"_L1, 0x201D},  {"bdquo"_L1, 0x201E},  {"bull"_L1, 0x2022},  {"hellip"_L1, 0x2026}, {"lsaquo"_L1, 0x2039},
-    {"rsaquo"_L1, 0x203A}, {"euro"_L1, 0x20AC},   {"trade"_L1, 0x2122}, {"larr"_L1, 0x2190},   {"rarr"_L1, 0x2192},
-    {"star"_L1, 0x2606},   {"check"_L1, 0x2713},
-};
-constexpr qsizetype longestCharacterName = 6;
 
 /// Elements that hold something other than text to show.
 constexpr std::string_view passedOver[] = {"script", "style", "template", "title"};
@@ -67,13 +52,11 @@ CharacterReference characterReference(QStringView text)
 {
     if (text.size() > 1 && text[1] == u'#')
         return numericReference(text);
-    const qsizetype end = text.left(longestCharacterName + 2).indexOf(u';');
+    const qsizetype end = text.left(longestHtmlCharacterName + 2).indexOf(u';');
     if (end < 0)
         return {};
-    const QStringView name = text.sliced(1, end - 1);
-    const auto row = std::find_if(std::begin(htmlCharacters), std::end(htmlCharacters),
-                                  [&](const auto &candidate) { return candidate.name == name; });
-    return row == std::end(htmlCharacters) ? CharacterReference{} : CharacterReference{row->character, end + 1};
+    const char16_t character = htmlCharacterNamed(text.sliced(1, end - 1));
+    return character ? CharacterReference{character, end + 1} : CharacterReference{};
 }
 
 }  // namespace

@@ -1,6 +1,7 @@
 #include "StyledHtml.h"
 
 #include "HtmlElements.h"
+#include "HtmlStyle.h"
 #include "HtmlTokenizer.h"
 #include "StyledTextBuilder.h"
 
@@ -15,6 +16,8 @@ namespace kestrel::foundation {
 namespace {
 
 constexpr qsizetype maximumLevels = 16;
+constexpr int plainPoints = 13;
+constexpr double stepOfSize = 1.2;
 
 class HtmlReader {
 public:
@@ -24,8 +27,7 @@ private:
     /// An element that is open, with what its attributes say.
     struct Level {
         const HtmlElement *element = nullptr;
-        std::optional<QRgb> color;
-        int pixelSize = 0;
+        HtmlStyle looks;
         QString link;
         int items = 0;  ///< of a list, so far
     };
@@ -41,6 +43,7 @@ private:
     void open(const HtmlElement &element, const HtmlTokenizer::Attributes &attributes);
     void closeInList(HtmlRole role);
     std::vector<Level>::iterator innermostList();
+    static void addLooks(const Level &level, TextStyle &style);
     const TextStyle &style();
 
     StyledTextBuilder m_builder;
@@ -121,14 +124,22 @@ void HtmlReader::open(const HtmlElement &element, const HtmlTokenizer::Attribute
         ++m_levelsBeyond;
         return;
     }
-    Level level{.element = &element, .color = htmlStyleColor(attributes.style), .pixelSize = 0, .link = {}};
+    const int surroundingSize = style().pixelSize > 0 ? style().pixelSize : plainPoints;
+    Level level{.element = &element, .looks = htmlStyle(attributes.style, surroundingSize), .link = {}};
+    int size = 0;
     if (element.role == HtmlRole::Heading)
-        level.pixelSize = htmlFontPoints(element.fontSize);
+        size = htmlFontPoints(element.fontSize);
+    if (element.role == HtmlRole::Small)
+        size = htmlBoundedPoints(surroundingSize / stepOfSize);
+    if (element.role == HtmlRole::Big)
+        size = htmlBoundedPoints(surroundingSize * stepOfSize);
     if (element.role == HtmlRole::Font) {
-        level.pixelSize = htmlFontPoints(attributes.size);
-        if (!level.color)
-            level.color = htmlColor(attributes.color);
+        size = htmlFontPoints(attributes.size);
+        if (!level.looks.color)
+            level.looks.color = htmlColor(attributes.color);
     }
+    if (level.looks.pixelSize == 0)
+        level.looks.pixelSize = size;
     if (element.role == HtmlRole::Link)
         level.link = htmlLink(attributes.href);
     m_levels.push_back(level);
@@ -181,6 +192,7 @@ void HtmlReader::addWord(QStringView word)
         ofMarker.color = style().color;
         ofMarker.pixelSize = style().pixelSize;
         ofMarker.indent = style().indent;
+        ofMarker.centered = style().centered;
         m_builder.append(*m_item > 0 ? u"%1.\t"_s.arg(*m_item) : u"•\t"_s, ofMarker);
         m_item.reset();
     }
@@ -213,24 +225,34 @@ void HtmlReader::separate(int lines)
     m_blank.reset();
 }
 
+/// Decorations add up; of everything else the innermost word counts.
+void HtmlReader::addLooks(const Level &level, TextStyle &style)
+{
+    const HtmlRole role = level.element->role;
+    const HtmlStyle &looks = level.looks;
+    style.bold = looks.bold.value_or(style.bold || role == HtmlRole::Bold || role == HtmlRole::Heading);
+    style.italic = looks.italic.value_or(style.italic || role == HtmlRole::Italic);
+    style.underline |= looks.underline.value_or(role == HtmlRole::Underline);
+    style.strikeOut |= looks.strikeOut.value_or(role == HtmlRole::StrikeOut);
+    style.centered = looks.centered.value_or(style.centered || role == HtmlRole::Center);
+    style.indent += isHtmlList(*level.element) ? 1 : 0;
+    if (role == HtmlRole::Superscript || role == HtmlRole::Subscript)
+        style.place = role == HtmlRole::Superscript ? TextPlace::Raised : TextPlace::Lowered;
+    if (looks.color)
+        style.color = looks.color;
+    if (looks.pixelSize > 0)
+        style.pixelSize = looks.pixelSize;
+    if (!level.link.isNull())
+        style.link = level.link;
+}
+
 const TextStyle &HtmlReader::style()
 {
     if (m_style)
         return *m_style;
     TextStyle style;
-    for (const Level &level : m_levels) {
-        const HtmlRole role = level.element->role;
-        style.bold |= role == HtmlRole::Bold || role == HtmlRole::Heading;
-        style.italic |= role == HtmlRole::Italic;
-        style.underline |= role == HtmlRole::Underline;
-        style.indent += isHtmlList(*level.element) ? 1 : 0;
-        if (level.color)
-            style.color = level.color;
-        if (level.pixelSize > 0)
-            style.pixelSize = level.pixelSize;
-        if (!level.link.isNull())
-            style.link = level.link;
-    }
+    for (const Level &level : m_levels)
+        addLooks(level, style);
     m_style = style;
     return *m_style;
 }

@@ -8,16 +8,21 @@
 
 namespace kestrel::foundation {
 
+enum class TextPlace { OnLine, Raised, Lowered };
+
 /// How a run of text looks. What is left unset is the view's own.
 struct TextStyle {
     bool bold = false;
     bool italic = false;
     bool underline = false;
+    bool strikeOut = false;
+    TextPlace place = TextPlace::OnLine;
     std::optional<QRgb> color;
     QString fontFamily;
-    int pixelSize = 0;  ///< points; 0 where unset
-    QString link;       ///< address of a link, shown as one and never followed; null elsewhere
-    int indent = 0;     ///< depth in nested lists; the same for all runs of one line
+    int pixelSize = 0;      ///< points; 0 where unset
+    QString link;           ///< http, https or mailto address that it leads to; null elsewhere
+    int indent = 0;         ///< depth in nested lists; the same for all runs of one line
+    bool centered = false;  ///< of the line that begins with it
     bool operator==(const TextStyle &) const = default;
 };
 

@@ -55,7 +55,8 @@ void StyledTextBuilder::append(QStringView text, const TextStyle &style)
         const bool wraps = isWrapPlace(c);
         const bool needsWrap = !wraps && m_unbroken == maximumUnbroken;
         const qsizetype length = (QChar::requiresSurrogates(c) ? 2 : 1) + (needsWrap ? 1 : 0);
-        m_isFull = m_length + length > maximumLength;
+        m_layoutTime += m_effort.add(c, style);
+        m_isFull = m_length + length > maximumLength || m_layoutTime > maximumLayoutTime;
         if (m_isFull)
             break;
         if (needsWrap)

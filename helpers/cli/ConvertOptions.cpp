@@ -1,8 +1,8 @@
 #include "ConvertOptions.h"
 
+#include "foundation/FileNames.h"
 #include "media/Preset.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
@@ -17,7 +17,7 @@ using Request = ConvertRequest;
 
 QString absolutePath(const QString &path)
 {
-    return QDir::cleanPath(QDir::current().absoluteFilePath(path));
+    return foundation::absoluteFileName(path);
 }
 
 bool readSize(const QString &text, int &width, int &height)

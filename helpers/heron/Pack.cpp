@@ -6,6 +6,10 @@ namespace kestrel::disc {
 
 namespace {
 
+// Of a navigation pack.
+constexpr qsizetype presentation = 0x26, search = 0x400;
+constexpr qsizetype presentationData = presentation + 7;
+
 constexpr qint64 clockMask = (qint64(1) << 33) - 1;
 
 // Streams that are packets of film; the others (padding, navigation, system headers) have no such header.
@@ -21,6 +25,12 @@ quint32 number(Sector sector, qsizetype at, int bytes)
     for (int i = 0; i < bytes; ++i)
         value = value << 8 | sector[at + i];
     return value;
+}
+
+void writeNumber(Sector sector, qsizetype at, quint32 value)
+{
+    for (int i = 3; i >= 0; --i, value >>= 8)
+        sector[at + i] = static_cast<uchar>(value);
 }
 
 bool isStartCode(Sector sector, qsizetype at)
@@ -126,6 +136,15 @@ void moveClocks(Sector sector, qint64 move)
 {
     if (!isPack(sector))
         return;
+    if (navigationOf(sector)) {
+        constexpr qsizetype startTime = presentationData + 12, endTime = presentationData + 16;
+        constexpr qsizetype endOfSequence = presentationData + 20;  // 0 where there is none
+        for (const qsizetype at : {startTime, endTime, endOfSequence}) {
+            const quint32 time = number(sector, at, 4);
+            if (at != endOfSequence || time != 0)
+                writeNumber(sector, at, static_cast<quint32>(std::max<qint64>(0, time + move)));
+        }
+    }
     writePackClock(&sector[4], readPackClock(&sector[4]) + move);
     for (Packet &packet : packetsOf(sector)) {
         if (packet.pts)
@@ -137,11 +156,10 @@ void moveClocks(Sector sector, qint64 move)
 
 std::optional<Navigation> navigationOf(Sector sector)
 {
-    constexpr qsizetype presentation = 0x26, search = 0x400;
     if (!isPack(sector) || number(sector, presentation, 4) != 0x1bf || sector[presentation + 6] != 0 ||
         number(sector, search, 4) != 0x1bf || sector[search + 6] != 1)
         return std::nullopt;
-    constexpr qsizetype presentationData = presentation + 7, searchData = search + 7;
+    constexpr qsizetype searchData = search + 7;
     constexpr quint32 endOfCell = 0x3fffffff;
 
     Navigation navigation;

@@ -42,7 +42,7 @@ bool isPack(Sector sector);
 /// None where it is no pack of an MPEG-2 program stream. Whatever the bytes are, nothing is read beyond the sector.
 Packets packetsOf(Sector sector);
 
-/// Sets the clocks of a sector anew: `move` ticks later. What would come before 0 is at 0.
+/// Sets the clocks of a sector anew, those of a navigation pack too: `move` ticks later. What would come before 0 is at 0.
 void moveClocks(Sector sector, qint64 move);
 
 /// What the first pack of each video object unit (about half a second) tells.

@@ -13,7 +13,11 @@
 #include <QApplication>
 #include <QFileInfo>
 #include <QLocale>
+#include <QSocketNotifier>
 #include <QTranslator>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -37,10 +41,28 @@ QString interfaceLanguage(const foundation::Bundle &product)
     return defaults.values().value(u"AppleLanguages"_s).toStringList().value(0, u"en"_s);
 }
 
+/// Whoever started the viewer asks for it again with a line on its standard input.
+void raiseOnRequest(QWidget &window)
+{
+    struct stat status = {};
+    if (::fstat(STDIN_FILENO, &status) != 0 || !S_ISFIFO(status.st_mode))
+        return;
+    auto *requests = new QSocketNotifier(STDIN_FILENO, QSocketNotifier::Read, &window);
+    QObject::connect(requests, &QSocketNotifier::activated, &window, [requests, &window] {
+        char request[64];
+        if (::read(STDIN_FILENO, request, sizeof request) <= 0)
+            return requests->setEnabled(false);
+        window.setWindowState(window.windowState() & ~Qt::WindowMinimized);
+        window.raise();
+        window.activateWindow();
+    });
+}
+
 int showLog()
 {
     LogWindow window(QCoreApplication::arguments().value(1));
     window.show();
+    raiseOnRequest(window);
     foundation::queue::afterMain(std::chrono::milliseconds(250), tarnwell::setWindowIcon);
     return QApplication::exec();
 }

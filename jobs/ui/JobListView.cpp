@@ -85,7 +85,6 @@ void JobListView::setUpKeys()
                 {Qt::Key_Backspace, [this] { removeSelected(); }},
                 {Qt::ALT | Qt::Key_Up, [this] { moveSelected(-1); }},
                 {Qt::ALT | Qt::Key_Down, [this] { moveSelected(1); }},
-                {QKeySequence::Copy, [this] { copyResults(selectedIds()); }},
                 {Qt::CTRL | Qt::Key_I, [this] { showDetails(currentId()); }}};
     for (const auto &[keys, action] : rows) {
         auto *shortcut = new QShortcut(keys, this);
@@ -208,6 +207,11 @@ void JobListView::copyResults(const QList<JobId> &ids)
     files->setUrls(urls);
     files->setText(outputsOf(ids).join(u'\n'));
     QGuiApplication::clipboard()->setMimeData(files);
+}
+
+void JobListView::copy()
+{
+    copyResults(selectedIds());
 }
 
 void JobListView::contextMenuEvent(QContextMenuEvent *event)

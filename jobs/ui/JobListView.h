@@ -29,6 +29,9 @@ public:
     void removeEnded();
     void showDetails(JobId id);
 
+public slots:
+    void copy();  ///< what "Copy" of the window's menu calls
+
 signals:
     /// Return or a double click on a row without a result.
     void editRequested(kestrel::JobId id);

@@ -1,6 +1,7 @@
 #include "JobPage.h"
 
 #include "JobListView.h"
+#include "foundation/FileNames.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/RemainingTime.h"
@@ -12,6 +13,7 @@
 #include <QClipboard>
 #include <QDragEnterEvent>
 #include <QGuiApplication>
+#include <QKeyEvent>
 #include <QMimeData>
 #include <QShortcut>
 
@@ -30,8 +32,8 @@ QStringList pathsIn(const QMimeData &data)
 {
     QStringList paths;
     for (const QUrl &url : data.urls()) {
-        if (url.isLocalFile())
-            paths.append(url.toLocalFile());
+        if (const QString path = foundation::pathOfUrl(url); !path.isNull())
+            paths.append(path);
     }
     return paths;
 }
@@ -136,6 +138,11 @@ void JobPage::addChoice(QWidget *control, int stretch)
     m_form->choiceLayout->addWidget(control, stretch);
 }
 
+void JobPage::setListVisible(bool visible)
+{
+    m_form->pages->setVisible(visible);
+}
+
 void JobPage::setStartEnabled(bool enabled)
 {
     m_form->startButton->setEnabled(enabled);
@@ -212,6 +219,16 @@ void JobPage::dropEvent(QDropEvent *event)
 {
     take(*event->mimeData());
     event->acceptProposedAction();
+}
+
+/// The menu's "Paste" would take the key for itself; fields that it is meant for have been asked before.
+bool JobPage::event(QEvent *event)
+{
+    if (event->type() == QEvent::ShortcutOverride && static_cast<QKeyEvent *>(event)->matches(QKeySequence::Paste)) {
+        event->accept();
+        return true;
+    }
+    return QWidget::event(event);
 }
 
 void JobPage::keyPressEvent(QKeyEvent *event)

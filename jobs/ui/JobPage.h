@@ -48,6 +48,8 @@ public:
     bool isSidePanelVisible() const;
     void addChoice(QWidget *control, int stretch = 0);  ///< in the line below the list, left to right
 
+    /// Where the top area has something to show, an empty list need not take its place.
+    void setListVisible(bool visible);
     void setStartEnabled(bool enabled);
     QAbstractButton *startButton() const;
     void setTipVisible(const QString &tip, bool visible);  ///< a line with "Got It" on top
@@ -61,6 +63,7 @@ signals:
     void textDropped(const QString &text);  ///< or pasted: addresses
 
 protected:
+    bool event(QEvent *event) override;
     void dragEnterEvent(QDragEnterEvent *event) override;
     void dropEvent(QDropEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;

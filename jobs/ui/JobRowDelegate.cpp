@@ -130,6 +130,34 @@ void drawState(QPainter &painter, QRect area, const QModelIndex &index)
     drawSentence(painter, area, text, look.color);
 }
 
+void drawTexts(QPainter &painter, const QRect &area, const QFont &font, const QModelIndex &index)
+{
+    QFont small = font;
+    small.setPixelSize(detailPixels);
+    const struct {
+        QString text;
+        const QFont &font;
+        int height;
+        QRgb color;
+        Qt::TextElideMode elision;
+    } lines[] = {
+        {index.data().toString(), font, 20, palette::text, Qt::ElideMiddle},
+        {index.siblingAtColumn(JobList::DetailColumn).data().toString(), small, 17, palette::quietText, Qt::ElideRight},
+        {index.data(JobList::WarningRole).toString(), small, 17, palette::warning, Qt::ElideRight}};
+    int height = 0;
+    for (const auto &line : lines)
+        height += line.text.isEmpty() ? 0 : line.height;
+    int top = area.y() + (area.height() - height) / 2;
+    for (const auto &line : lines) {
+        if (line.text.isEmpty())
+            continue;
+        painter.setFont(line.font);
+        drawElided(painter, QRect(area.x(), top, area.width(), line.height), line.text, line.color, line.elision);
+        top += line.height;
+    }
+    painter.setFont(small);
+}
+
 }  // namespace
 
 void JobRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option, const QModelIndex &index) const
@@ -152,14 +180,7 @@ void JobRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     const int stateWidth = int(row.width() * stateShare);
     const QRect texts(picture.right() + gap, inner.y(), inner.right() - picture.right() - 2 * gap - stateWidth,
                       inner.height());
-    painter->setFont(option.font);
-    drawElided(*painter, QRect(texts.x(), texts.center().y() - 20, texts.width(), 20), index.data().toString(),
-               palette::text, Qt::ElideMiddle);
-    QFont detailFont = option.font;
-    detailFont.setPixelSize(detailPixels);
-    painter->setFont(detailFont);
-    drawElided(*painter, QRect(texts.x(), texts.center().y() + 1, texts.width(), 18),
-               index.siblingAtColumn(JobList::DetailColumn).data().toString(), palette::quietText, Qt::ElideRight);
+    drawTexts(*painter, texts, option.font, index);
     drawState(*painter, QRect(inner.right() - stateWidth, inner.y(), stateWidth, inner.height()), index);
     painter->restore();
 }

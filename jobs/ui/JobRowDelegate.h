@@ -5,7 +5,8 @@
 namespace kestrel {
 
 /// Paints the rows of a `JobList` in a list of one column: a small picture (`Qt::DecorationRole`), the title over a
-/// quiet line of details, and on the right the state as a mark or a slim bar with its text.
+/// quiet line of details and one of warnings (`JobList::WarningRole`), and on the right the state as a mark or a slim
+/// bar with its text.
 class JobRowDelegate : public QStyledItemDelegate {
     Q_OBJECT
 public:

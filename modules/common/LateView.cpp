@@ -1,6 +1,5 @@
 #include "LateView.h"
 
-#include <QEvent>
 #include <QVBoxLayout>
 
 #include <utility>
@@ -16,17 +15,25 @@ void LateView::makeContents()
 {
     if (!m_make)
         return;
+    QWidget *const contents = std::exchange(m_make, {})().release();  // which is this view's from now on
     auto *layout = new QVBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(std::exchange(m_make, {})().release());  // which is this view's from now on
+    layout->addWidget(contents);
+    contents->show();
 }
 
-bool LateView::event(QEvent *event)
+// Not when it is polished: that comes as soon as it moves into a window.
+void LateView::setVisible(bool visible)
 {
-    // The last of what happens before a view shows, be it by itself or with its window.
-    if (event->type() == QEvent::Polish)
+    if (visible)
         makeContents();
-    return QWidget::event(event);
+    QWidget::setVisible(visible);
+}
+
+/// With its window
+void LateView::showEvent(QShowEvent *)
+{
+    makeContents();
 }
 
 }  // namespace kestrel

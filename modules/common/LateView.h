@@ -18,9 +18,10 @@ public:
     explicit LateView(Make make);
 
     void makeContents();
+    void setVisible(bool visible) override;
 
 protected:
-    bool event(QEvent *event) override;
+    void showEvent(QShowEvent *event) override;
 
 private:
     Make m_make;

@@ -3,6 +3,7 @@
 #include "foundation/NotificationCenter.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Folders.h"
+#include "tarnwell/Localization.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/TextStyles.h"
 #include "ui_OutputFolderLine.h"
@@ -18,6 +19,7 @@ OutputFolderLine::OutputFolderLine(QWidget *parent) : QWidget(parent), m_form(st
     m_form->setupUi(this);
     m_form->openFolderButton->setIcon(tarnwell::namedIcon(u"marlin_folder"_s));
     tarnwell::setTextStyle(m_form->folderCaption, 13, QFont::Normal, tarnwell::palette::quietText);
+    m_form->openFolderButton->setAccessibleDescription(tarnwell::AppLocalizedString(u"Open the output folder"_s));
     connect(m_form->openFolderButton, &QPushButton::clicked, this, &OutputFolderLine::openFolder);
     foundation::NotificationCenter::defaultCenter().addObserver(
         this, keyKestrelSettingDidChangedNotification.toString(), [this](const QObject *) { showFolder(); });

@@ -1,5 +1,6 @@
 #include "OverviewController.h"
 
+#include "LateView.h"
 #include "OverviewView.h"
 #include "modules/ModuleRow.h"
 
@@ -7,12 +8,19 @@ namespace kestrel {
 
 OverviewController::OverviewController(const ModuleOverview &overview, const ModuleConfigure &configure)
     : m_overview(overview),
-      m_view(std::make_unique<OverviewView>(overview, configure.value(moduleSettingKey.toString())))
+      m_settings(configure.value(moduleSettingKey.toString())),
+      m_view(std::make_unique<LateView>([this] { return makeContents(); }))
 {
-    QObject::connect(m_view.get(), &OverviewView::backClicked, m_view.get(), [this] { doBackAction(); });
 }
 
 OverviewController::~OverviewController() = default;
+
+std::unique_ptr<QWidget> OverviewController::makeContents()
+{
+    auto contents = std::make_unique<OverviewView>(m_overview, m_settings);
+    QObject::connect(contents.get(), &OverviewView::backClicked, contents.get(), [this] { doBackAction(); });
+    return contents;
+}
 
 void OverviewController::setCompletedHandler(CompletedHandler handler)
 {

@@ -4,7 +4,7 @@
 
 namespace kestrel {
 
-class OverviewView;
+class LateView;
 
 /// The texts and the picture of a module that is still to come: English keys, a null line is left out.
 struct ModuleOverview {
@@ -27,9 +27,12 @@ public:
     bool shouldTerminate() override;
 
 private:
+    std::unique_ptr<QWidget> makeContents();
+
     const ModuleOverview &m_overview;
     CompletedHandler m_completedHandler;
-    std::unique_ptr<OverviewView> m_view;
+    std::shared_ptr<JKestrelSettingDispatcher> m_settings;
+    std::unique_ptr<LateView> m_view;
 };
 
 }  // namespace kestrel

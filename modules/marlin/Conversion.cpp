@@ -1,10 +1,10 @@
 #include "Conversion.h"
 
+#include "foundation/FileNames.h"
 #include "media/MediaProber.h"
+#include "media/OutputName.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/SystemInformation.h"
-
-#include <QFileInfo>
 
 using namespace Qt::StringLiterals;
 
@@ -12,29 +12,52 @@ namespace kestrel {
 
 namespace {
 
-const QString sourceKey = u"source"_s;  // beside the members of the plan
+// Beside the members of the plan
+const QString sourceKey = u"source"_s;
+const QString folderKey = u"folder"_s;
 
 }  // namespace
 
 TranscodePlan conversionPlan(const JKestrelSettingDispatcher &settings, const Preset &preset, int processors)
 {
-    const qint64 cores = settings.getCpuCore();
     TranscodePlan plan;
     plan.preset = preset;
+    readSwitches(settings, processors, plan);
+    return plan;
+}
+
+void readSwitches(const JKestrelSettingDispatcher &settings, int processors, TranscodePlan &plan)
+{
+    using enum TranscodePlan::Deinterlace;
+    const qint64 cores = settings.getCpuCore();
     plan.best = settings.getHQE();
     plan.hardware = settings.getQSV();
     plan.copies = settings.autoCopy();
     plan.threads = cores < 1 || cores >= processors ? 0 : int(cores);
-    plan.deinterlace = settings.getDeinterlacing() ? TranscodePlan::Deinterlace::On : TranscodePlan::Deinterlace::Auto;
+    if (settings.getDeinterlacing())
+        plan.deinterlace = plan.deinterlace == Auto || plan.deinterlace == Off ? On : plan.deinterlace;
+    else
+        plan.deinterlace = plan.deinterlace == Off ? Off : Auto;
     plan.safeMode = settings.getSafeMode();
     plan.chapterPerSource = settings.mergeMKV();
-    return plan;
+}
+
+void writeSwitches(JKestrelSettingDispatcher &settings, int processors, const TranscodePlan &plan)
+{
+    using enum TranscodePlan::Deinterlace;
+    settings.setHQE(plan.best);
+    settings.setQSV(plan.hardware);
+    settings.setAutoCopy(plan.copies);
+    settings.setCpuCore(plan.threads > 0 ? plan.threads : processors);
+    settings.setDeinterlacing(plan.deinterlace != Auto && plan.deinterlace != Off);
+    settings.setSafeMode(plan.safeMode);
+    settings.setMergeMKV(plan.chapterPerSource);
 }
 
 QString conversionFolder(const JKestrelSettingDispatcher &settings, const TranscodePlan &plan)
 {
     if (plan.besideSource && !plan.sources.isEmpty())
-        return QFileInfo(plan.sources.first()).absolutePath();
+        return outputFolder(plan, {});
     const QString music = settings.getMusicDir();
     return plan.preset.takesVideo() || music.isEmpty() ? settings.getVideoDir() : music;
 }
@@ -57,7 +80,7 @@ JobRecord conversionJob(const TranscodePlan &plan, const QString &folder)
     record.module = marlinJobs.toString();
     record.state = JobState::Ready;
     record.source = plan.sources.value(0);
-    record.title = QFileInfo(record.source).fileName();
+    record.title = foundation::readableFileName(record.source.section(u'/', -1));
     record.plan = plan.toJson();
     record.folder = folder;
     return record;
@@ -65,9 +88,25 @@ JobRecord conversionJob(const TranscodePlan &plan, const QString &folder)
 
 void setPlan(JobRecord &record, const TranscodePlan &plan)
 {
-    const QJsonValue source = record.plan[sourceKey];
+    const QJsonObject former = record.plan;
     record.plan = plan.toJson();
-    record.plan[sourceKey] = source;
+    for (const QString &key : {sourceKey, folderKey}) {
+        if (former.contains(key))
+            record.plan[key] = former[key];
+    }
+}
+
+QString ownFolder(const JobRecord &record)
+{
+    return record.plan[folderKey].toString();
+}
+
+void setOwnFolder(JobRecord &record, const QString &folder)
+{
+    if (folder.isEmpty())
+        record.plan.remove(folderKey);
+    else
+        record.plan[folderKey] = folder;
 }
 
 void setSourceSummary(JobRecord &record, const MediaInformation &information)

@@ -15,6 +15,10 @@ inline constexpr QStringView marlinJobs = u"marlin";  ///< what conversions are 
 /// means all, as does one below 1.
 TranscodePlan conversionPlan(const JKestrelSettingDispatcher &settings, const Preset &preset, int processors);
 
+/// The settings' switches in a plan, and a plan's in the settings: those that a user sets for all that comes.
+void readSwitches(const JKestrelSettingDispatcher &settings, int processors, TranscodePlan &plan);
+void writeSwitches(JKestrelSettingDispatcher &settings, int processors, const TranscodePlan &plan);
+
 /// Where its result goes: the settings' folder for video, or for music, or beside the source.
 QString conversionFolder(const JKestrelSettingDispatcher &settings, const TranscodePlan &plan);
 
@@ -23,8 +27,12 @@ TranscodeTools transcodeTools(const JKestrelSettingDispatcher &settings, int pro
 
 /// The job that carries the plan out.
 JobRecord conversionJob(const TranscodePlan &plan, const QString &folder);
-/// Puts another plan into a job and leaves what is known of its source.
+/// Puts another plan into a job and leaves what is known of its source, and its folder.
 void setPlan(JobRecord &record, const TranscodePlan &plan);
+
+/// The folder that was chosen for this job alone; null for none.
+QString ownFolder(const JobRecord &record);
+void setOwnFolder(JobRecord &record, const QString &folder);
 
 /// What a row says of its source; kept with the job, so that it is there at the next start.
 struct SourceSummary {

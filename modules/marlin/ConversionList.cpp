@@ -1,7 +1,9 @@
 #include "ConversionList.h"
 
 #include "Conversion.h"
+#include "Conversions.h"
 #include "jobs/RemainingTime.h"
+#include "tarnwell/HoverText.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,6 +11,9 @@ namespace kestrel {
 
 namespace {
 
+using tarnwell::operator""_key;
+
+/// By the stored members alone: reading whole plans for each row would make filtering ten thousand slow.
 QString detailText(const JobRecord &record)
 {
     const SourceSummary source = sourceSummary(record);
@@ -17,19 +22,70 @@ QString detailText(const JobRecord &record)
         parts.append(durationText(*source.seconds));
     if (!source.text.isEmpty())
         parts.append(source.text);
-    const auto plan = TranscodePlan::fromJson(record.plan);
-    const QString target = plan ? u"→ "_s + plan->preset.name : QString();
+    const QString preset = record.plan[u"preset"_s].toObject()[u"name"_s].toString();
+    const QString target = preset.isEmpty() ? QString() : u"→ "_s + preset;
     return QStringList{parts.join(u" · "_s), target}.join(u"  "_s).trimmed();
+}
+
+QString joined(const QList<tarnwell::Sentence> &sentences)
+{
+    QStringList texts;
+    for (const tarnwell::Sentence &sentence : sentences)
+        texts.append(sentence.localized());
+    return texts.join(u' ');
 }
 
 }  // namespace
 
-ConversionList::ConversionList(JobQueue &queue, QObject *parent) : JobList(queue, marlinJobs.toString(), parent) {}
+ConversionList::ConversionList(Conversions &conversions, QObject *parent)
+    : JobList(conversions.queue(), marlinJobs.toString(), parent),
+      m_conversions(conversions)
+{
+    connect(&conversions, &Conversions::informed, this, [this](JobId id) {
+        if (const int row = rowOf(id); row >= 0)
+            emit dataChanged(index(row, 0), index(row, columnCount() - 1));
+    });
+}
+
+void ConversionList::setPictures(std::function<QVariant(const JobRecord &)> pictures)
+{
+    m_pictures = std::move(pictures);
+}
+
+void ConversionList::showPictureAgain(const QString &source)
+{
+    for (int row = 0; row < rowCount(); ++row) {
+        if (recordAt(row).source == source)
+            emit dataChanged(index(row, TitleColumn), index(row, TitleColumn), {Qt::DecorationRole});
+    }
+}
+
+QString ConversionList::warningText(const JobRecord &record) const
+{
+    if (record.state == JobState::Done || record.state == JobState::DoneWithProblems) {
+        const QString leftOut = joined(record.outcome.leftOut);
+        return leftOut.isEmpty() ? leftOut : tarnwell::Sentence("Left out: %1"_key, {leftOut}).localized();
+    }
+    if (record.state == JobState::Ready || record.state == JobState::Waiting)
+        return joined(m_conversions.warnings(record.id));
+    return isActive(record.state) ? record.note.localized() : QString();
+}
 
 QVariant ConversionList::data(const QModelIndex &index, int role) const
 {
-    if (index.isValid() && index.column() == DetailColumn && role == Qt::DisplayRole)
-        return detailText(recordAt(index.row()));
+    if (!index.isValid())
+        return {};
+    const JobRecord &record = recordAt(index.row());
+    if (role == WarningRole)
+        return warningText(record);
+    if (role == Qt::DecorationRole && index.column() == TitleColumn && m_pictures)
+        return m_pictures(record);
+    if (role == Qt::DisplayRole && index.column() == DetailColumn)
+        return detailText(record);
+    if (role == Qt::ToolTipRole && index.column() != StateColumn) {
+        const QString warning = warningText(record);
+        return tarnwell::hoverTextShowing(warning.isEmpty() ? record.source : record.source + u'\n' + warning);
+    }
     return JobList::data(index, role);
 }
 

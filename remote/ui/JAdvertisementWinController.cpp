@@ -51,22 +51,32 @@ double fitButton(QPushButton *button, const QString &remoteTitle, double widest)
     return widest;
 }
 
+QImage shownPicture(const QImage &picture)
+{
+    return picture.isNull() ? tarnwell::applicationIcon(pictureIconSize, qGuiApp->devicePixelRatio()).toImage()
+                            : picture;
+}
+
 }  // namespace
 
 QImage JAdvertisementWinController::imageFromData(const QByteArray &data)
 {
-    if (const QImage picture = promotionPicture(data); !picture.isNull())
-        return picture;
-    return tarnwell::applicationIcon(pictureIconSize, qGuiApp->devicePixelRatio()).toImage();
+    return shownPicture(promotionPicture(data));
 }
 
 void JAdvertisementWinController::ShowAdvertisement(const std::optional<ADItem> &item, const QByteArray &data,
                                                     foundation::UserDefaults &defaults)
 {
+    ShowAdvertisementWithImage(item, promotionPicture(data), defaults);
+}
+
+void JAdvertisementWinController::ShowAdvertisementWithImage(const std::optional<ADItem> &item, const QImage &picture,
+                                                             foundation::UserDefaults &defaults)
+{
     if (!item || !takeUpPromotion(*item, defaults))
         return;
     JAdvertisementWinController controller(defaults);
-    controller.setMyImage(imageFromData(data));
+    controller.setMyImage(shownPicture(picture));
     controller.setMyItem(item);
     controller.showPrompt();
 }

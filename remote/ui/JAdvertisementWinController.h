@@ -29,7 +29,11 @@ public:
     /// it was fetched, or null.
     static void ShowAdvertisement(const std::optional<ADItem> &item, const QByteArray &data,
                                   foundation::UserDefaults &defaults);
-    /// The picture (PromotionPicture.h), or the application's icon where it is none that can be shown.
+    /// The same with the picture as it was read, which takes its time and may be done on any thread
+    /// (PromotionPicture.h).
+    static void ShowAdvertisementWithImage(const std::optional<ADItem> &item, const QImage &picture,
+                                           foundation::UserDefaults &defaults);
+    /// The picture, or the application's icon where it is none that can be shown.
     static QImage imageFromData(const QByteArray &data);
 
     explicit JAdvertisementWinController(foundation::UserDefaults &defaults);

@@ -99,7 +99,9 @@ tarnwell::TitledWindow *JPromptWindowController::window()
 void JPromptWindowController::showPrompt()
 {
     window()->center();
-    m_session.run(*window(), [this] { onCancelAciton(); });
+    using Keyboard = tarnwell::ModalSession::Keyboard;
+    m_session.run(
+        *window(), [this] { onCancelAciton(); }, Keyboard::Take);
 }
 
 void JPromptWindowController::windowDidLoad()

@@ -30,6 +30,7 @@ FolderRow::FolderRow(QWidget *parent) : QWidget(parent), m_form(std::make_unique
 {
     m_form->setupUi(this);
     tarnwell::setTextStyle(m_form->pathLabel, 12, QFont::Normal, tarnwell::palette::quietText);
+    tarnwell::setTextStyle(m_form->noteLabel, 12, QFont::Normal, tarnwell::palette::quietText);
     setPath({});
 }
 
@@ -43,6 +44,16 @@ QString FolderRow::caption() const
 void FolderRow::setCaption(const QString &caption)
 {
     m_form->captionLabel->setText(caption);
+}
+
+QString FolderRow::note() const
+{
+    return m_form->noteLabel->text();
+}
+
+void FolderRow::setNote(const QString &note)
+{
+    m_form->noteLabel->setText(note);
 }
 
 void FolderRow::setPath(const QString &path)

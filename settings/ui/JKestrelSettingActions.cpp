@@ -3,11 +3,11 @@
 #include "FolderRow.h"
 #include "KeyPathBinder.h"
 #include "foundation/NotificationCenter.h"
+#include "media/ui/NXHardwareInfoController.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "settings/SettingLists.h"
 #include "tarnwell/Folders.h"
-#include "tarnwell/ui/NXHardwareInfoController.h"
 #include "ui_JKestrelSettingController.h"
 
 #include <algorithm>
@@ -163,11 +163,12 @@ void JKestrelSettingController::onDownloadProxyEnableStateChanged()
     const bool isOn = m_form->downloaderProxyEnableButton->isChecked();
     m_form->downloaderProxyURLField->setEnabled(isOn);
     m_form->downloaderProxyPortField->setEnabled(isOn);
+    showProxyVerdict();
 }
 
 void JKestrelSettingController::showHardwareSettings()
 {
-    auto &controller = tarnwell::NXHardwareInfoController::loadDefaultWindowController();
+    auto &controller = NXHardwareInfoController::loadDefaultWindowController();
     controller.setEncoderPath(m_setting.transcoderPath());
     controller.presentForWindow(window());
 }

@@ -16,6 +16,8 @@
 #include "tarnwell/ui/TranslateControls.h"
 #include "ui_JKestrelSettingController.h"
 
+#include <QStyle>
+
 using namespace Qt::StringLiterals;
 using kestrel::tarnwell::AppLocalizedString;
 
@@ -88,20 +90,27 @@ void JKestrelSettingController::windowDidLoad(QDialog *window)
 void JKestrelSettingController::windowWillPresent()
 {
     m_form->searchField->clear();
+    m_defaults.synchronize();  // what could not be saved before, for what is said of it
+    m_form->saveNote->setVisible(!m_defaults.failure().isNull());
     refreshAttributes(settingKeyPath);
     showStoredValues();
 }
 
 void JKestrelSettingController::onCloseAction()
 {
-    if (!isLoaded())
+    storeProxy();
+    JPresentWindowController::onCloseAction();
+}
+
+void JKestrelSettingController::storeProxy()
+{
+    if (!isPresented())
         return;
     JDownloaderSetting &downloader = *m_setting.downloader();
     downloader.setProxyURL(textOf(m_form->downloaderProxyURLField));
     downloader.setProxyPort(textOf(m_form->downloaderProxyPortField));
     downloader.setProxyEnabled(m_form->downloaderProxyEnableButton->isChecked() &&
                                validateTheProxy(downloader.proxyURL(), downloader.proxyPort()));
-    JPresentWindowController::onCloseAction();
 }
 
 void JKestrelSettingController::setupSearchKeys()
@@ -123,7 +132,10 @@ void JKestrelSettingController::setUpTexts()
     for (QLabel *headline :
          {m_form->titleLabel, m_form->commonLabel, m_form->videoLabel, m_form->dvdLabel, m_form->downloaderLabel})
         tarnwell::setTextStyle(headline, 18, QFont::Bold, colors::title);
-    tarnwell::setTextStyle(m_form->downloaderProxyHint, 12, QFont::Normal, colors::quietText);
+    for (QLabel *note : {m_form->hardwareNote, m_form->dvdNote, m_form->downloaderNote, m_form->downloaderProxyHint})
+        tarnwell::setTextStyle(note, 12, QFont::Normal, colors::quietText);
+    tarnwell::setTextStyle(m_form->saveNote, 12, QFont::Normal, colors::error);
+    m_form->hardwareInfoButton->setAccessibleDescription(AppLocalizedString(u"Hardware Information"_s));
     m_form->sectionColumn->setBackgroundRole(QPalette::AlternateBase);
     for (QWidget *line : {m_form->headerLine, m_form->footerLine})
         line->setBackgroundRole(QPalette::Mid);
@@ -181,8 +193,10 @@ void JKestrelSettingController::setUpActions()
         connect(button, &QAbstractButton::clicked, this, &JKestrelSettingController::onHarewareChangedAction);
     connect(m_form->hardwareInfoButton, &QAbstractButton::clicked, this,
             &JKestrelSettingController::showHardwareSettings);
-    connect(m_form->downloaderProxyEnableButton, &QAbstractButton::clicked, this,
+    connect(m_form->downloaderProxyEnableButton, &QAbstractButton::toggled, this,
             &JKestrelSettingController::onDownloadProxyEnableStateChanged);
+    connect(m_form->downloaderProxyURLField, &QLineEdit::textChanged, this,
+            &JKestrelSettingController::showProxyVerdict);
     connect(m_form->closeButton, &QAbstractButton::clicked, this, &JKestrelSettingController::onCloseAction);
     m_form->settingScroll->setMyTarget([this] { scrollChanged(); });
 }
@@ -207,6 +221,26 @@ void JKestrelSettingController::showStoredValues()
         m_form->downloaderProxyPortField->setText(downloader.proxyPort());
     }
     onDownloadProxyEnableStateChanged();
+}
+
+/// An address that will turn the proxy off when the window closes.
+void JKestrelSettingController::showProxyVerdict()
+{
+    QLineEdit *field = m_form->downloaderProxyURLField;
+    const bool isRefused = m_form->downloaderProxyEnableButton->isChecked() &&
+                           !validateTheProxy(field->text(), m_form->downloaderProxyPortField->text());
+    const QString text =
+        isRefused
+            ? AppLocalizedString(u"Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1"_s)
+            : AppLocalizedString(u"An address is for example http://proxy.example.com or socks5://10.0.0.1."_s);
+    if (m_form->downloaderProxyHint->text() == text && field->accessibleDescription() == text)
+        return;
+    m_form->downloaderProxyHint->setText(text);
+    tarnwell::setTextStyle(m_form->downloaderProxyHint, 12, QFont::Normal,
+                           isRefused ? tarnwell::palette::error : tarnwell::palette::quietText);
+    field->setAccessibleDescription(text);
+    field->setProperty("refused", isRefused);
+    field->style()->polish(field);  // the style sheet asks for that property
 }
 
 std::array<JKestrelSettingController::SectionViews, 4> JKestrelSettingController::sections() const

@@ -68,6 +68,8 @@ public:
     void showHardwareSettings();
     void onHarewareChangedAction();
     void onCloseAction() override;
+    /// What closing the window does with the proxy, for an end that closes no windows. Nothing while it is closed.
+    void storeProxy();
 
     /// Tells the modules that a folder or the hardware choice has changed.
     void postNotificationToSubModel();
@@ -103,6 +105,7 @@ private:
     void setUpFolderRows();
     void setUpActions();
     void showStoredValues();
+    void showProxyVerdict();
     std::array<SectionViews, 4> sections() const;
     void showSection(const QLabel *heading, const QWidget *sender);
     void selectFolder(ModuleSettingKind module, const QWidget *sender);

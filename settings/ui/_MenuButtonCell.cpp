@@ -1,6 +1,7 @@
 #include "_MenuButtonCell.h"
 
 #include "tarnwell/ui/Palette.h"
+#include "tarnwell/ui/PressOnReturn.h"
 
 #include <QPainter>
 
@@ -23,6 +24,12 @@ QSize _MenuButtonCell::sizeHint() const
 {
     const QSize title = fontMetrics().size(Qt::TextShowMnemonic, text());
     return {titleOffset + title.width() + titleMargin, title.height() + 2 * titleMargin};
+}
+
+void _MenuButtonCell::keyPressEvent(QKeyEvent *event)
+{
+    if (!tarnwell::pressOnReturn(*this, *event))
+        QAbstractButton::keyPressEvent(event);
 }
 
 void _MenuButtonCell::paintEvent(QPaintEvent *)

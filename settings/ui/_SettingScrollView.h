@@ -19,6 +19,9 @@ public:
     /// The wheel scrolls the page over this control of the page as well and leaves its value alone.
     void keepWheelFrom(QWidget *control);
 
+    /// As large as it may become; it can do with less.
+    QSize sizeHint() const override { return maximumSize(); }
+
     /// The part of the page that is on screen.
     foundation::Rect documentVisibleRect() const;
     /// Puts the lower edge of the visible area to `y`, as far as the page goes.

@@ -7,6 +7,7 @@
 #include "ui_AlertPanel.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QMouseEvent>
 #include <QPainter>
 #include <QScreen>
@@ -22,7 +23,8 @@ namespace {
 
 constexpr int minimumPanelWidth = 360;
 constexpr int maximumPanelWidth = 520;
-constexpr int alternateResult = QDialog::Accepted + 1;
+constexpr int alternateCode = QDialog::Accepted + 1;
+constexpr int closedCode = alternateCode + 1;
 constexpr int longestRun = 40;  ///< paths and addresses have no blanks to wrap at
 
 QString alertImageName(AlertStyle style)
@@ -57,7 +59,7 @@ AlertPanel::AlertPanel(const Alert &alert)
     const QPixmap icon = namedImage(alertImageName(alert.style), devicePixelRatioF());
     m_ui->iconLabel->setPixmap(icon);
     connect(m_ui->defaultButton, &QPushButton::clicked, this, &QDialog::accept);
-    connect(m_ui->alternateButton, &QPushButton::clicked, this, [this] { done(alternateResult); });
+    connect(m_ui->alternateButton, &QPushButton::clicked, this, [this] { done(alternateCode); });
     m_ui->defaultButton->setFocus();
     fitWidth();
 }
@@ -93,9 +95,9 @@ AlertAnswer AlertPanel::runModal()
 {
     placeOver(QApplication::activeWindow());
     const int result = exec();
-    if (isVisible())  // any answer closes it
+    if (isVisible() || result == closedCode)  // any answer closes it
         return AlertAnswer::None;
-    if (result == alternateResult)
+    if (result == alternateCode)
         return AlertAnswer::Alternate;
     return result == QDialog::Accepted ? AlertAnswer::Default : m_answerToEscape;
 }
@@ -112,6 +114,13 @@ void AlertPanel::setMessage(const QString &message)
 {
     m_ui->messageLabel->setText(wrappable(message, longestRun));
     setAccessibleName(message);
+}
+
+void AlertPanel::closeEvent(QCloseEvent *event)
+{
+    // By the desktop, not by a button: to a question that is no answer.
+    done(m_ui->alternateButton->isHidden() ? int(Accepted) : closedCode);
+    event->accept();
 }
 
 void AlertPanel::placeOver(QWidget *window)

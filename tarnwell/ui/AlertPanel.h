@@ -26,6 +26,7 @@ public:
     void setMessage(const QString &message);
 
 protected:
+    void closeEvent(QCloseEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
     void mousePressEvent(QMouseEvent *event) override;
 

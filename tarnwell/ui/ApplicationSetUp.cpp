@@ -1,5 +1,6 @@
 #include "ApplicationSetUp.h"
 
+#include "Images.h"
 #include "foundation/Bundle.h"
 #include "tarnwell/ProductInformation.h"
 
@@ -23,7 +24,7 @@ void setWindowIcon()
 {
     QIcon icon;
     for (const int size : {16, 32, 48, 128})
-        icon.addFile(productBundle().resource(u"icons/hicolor/%1x%1/apps/kestrel.png"_s.arg(size)), {size, size});
+        icon.addPixmap(pictureAt(productBundle().resource(u"icons/hicolor/%1x%1/apps/kestrel.png"_s.arg(size))));
     QApplication::setWindowIcon(icon);
 }
 

@@ -48,4 +48,10 @@ QRect keptOnScreen(QRect place, const QScreen &screen)
     return place;
 }
 
+QRect fittedToScreen(QRect place, const QScreen &screen)
+{
+    place.setSize(place.size().boundedTo(screen.availableGeometry().size()));
+    return keptOnScreen(place, screen);
+}
+
 }  // namespace kestrel::tarnwell

@@ -18,5 +18,7 @@ void setWindowFrame(QWidget *window, const foundation::Rect &frame);
 /// A window's place in pixels of the desktop, moved as little as it takes to lie on the free area of the screen; what
 /// is too large keeps its upper left corner there.
 QRect keptOnScreen(QRect place, const QScreen &screen);
+/// The same for a window that can be made smaller: no larger than the free area.
+QRect fittedToScreen(QRect place, const QScreen &screen);
 
 }  // namespace kestrel::tarnwell

@@ -2,6 +2,7 @@
 
 #include "Images.h"
 #include "Palette.h"
+#include "PressOnReturn.h"
 
 #include <QPainter>
 
@@ -68,6 +69,12 @@ void HoverButton::hideEvent(QHideEvent *event)
 {
     QAbstractButton::hideEvent(event);
     setHovered(false);
+}
+
+void HoverButton::keyPressEvent(QKeyEvent *event)
+{
+    if (!pressOnReturn(*this, *event))
+        QAbstractButton::keyPressEvent(event);
 }
 
 void HoverButton::paintEvent(QPaintEvent *)

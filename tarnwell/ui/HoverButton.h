@@ -5,7 +5,7 @@
 namespace kestrel::tarnwell {
 
 /// A button without an outline: an icon, a text or both beside each other, which reports the pointer's coming and
-/// going. Keyboard focus shows as a ring and is not reported. Icon-only buttons need an accessible name.
+/// going. Keyboard focus shows as a ring; Return presses it then. Icon-only buttons need an accessible name.
 class HoverButton : public QAbstractButton {
     Q_OBJECT
 public:
@@ -25,6 +25,7 @@ protected:
     void enterEvent(QEnterEvent *event) override;
     void leaveEvent(QEvent *event) override;
     void hideEvent(QHideEvent *event) override;
+    void keyPressEvent(QKeyEvent *event) override;
     void paintEvent(QPaintEvent *event) override;
 
 private:

@@ -48,7 +48,17 @@ void ImageLayer::paintEvent(QPaintEvent *)
     QPainter painter(this);
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     const QPixmap image = namedImage(m_imageName, devicePixelRatioF());
-    painter.drawPixmap(m_place.translated(-pos()), image, image.rect().toRectF());
+    const QRectF place = m_place.translated(-pos());
+    if (m_animation.state() == QAbstractAnimation::Running) {
+        painter.drawPixmap(place, image, image.rect().toRectF());
+        return;
+    }
+    // Scaled once: Qt starts threads, which stay for half a minute, for what it scales while it draws.
+    const QSize pixels = (place.size() * devicePixelRatioF()).toSize();
+    if (m_resting.size() != pixels)
+        m_resting = image.scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    m_resting.setDevicePixelRatio(devicePixelRatioF());
+    drawCrisp(painter, place.topLeft(), m_resting);
 }
 
 }  // namespace kestrel::tarnwell

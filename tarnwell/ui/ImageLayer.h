@@ -2,6 +2,7 @@
 
 #include "foundation/Geometry.h"
 
+#include <QPixmap>
 #include <QVariantAnimation>
 #include <QWidget>
 
@@ -30,6 +31,7 @@ private:
     foundation::Rect m_frame;
     QRectF m_place;  ///< what is shown now, top-down in the parent, between whole points while it moves
     QVariantAnimation m_animation;
+    QPixmap m_resting;  ///< the image in the size in which it stands still
 };
 
 }  // namespace kestrel::tarnwell

@@ -1,16 +1,21 @@
 #include "Images.h"
 
+#include "PixelFile.h"
 #include "foundation/Bundle.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/ProductInformation.h"
 
 #include <QCoreApplication>
+#include <QFile>
 #include <QHash>
 #include <QIconEngine>
 #include <QPainter>
 
+#include <png.h>
+
 #include <algorithm>
 #include <cmath>
+#include <map>
 
 using namespace Qt::StringLiterals;
 
@@ -34,16 +39,48 @@ const Rendering &renderingFor(qreal scale)
     return renderings[2];
 }
 
-QPixmap readImage(const QString &path, qreal scale)
+QString renderingPath(const QString &name, const Rendering &rendering, QLatin1StringView ending)
 {
-    QImage image;
-    if (!image.load(path, "PNG")) {
+    return productBundle().resource("images/"_L1 + name + QLatin1StringView(rendering.suffix) + ending);
+}
+
+/// From the file of what the first window shows. What is drawn must go before the file: both end with the application.
+QImage mappedImage(const QString &name, const Rendering &rendering)
+{
+    static std::map<QString, PixelFile> files;
+    const QString path = renderingPath(u"home"_s, rendering, ".pixels"_L1);
+    return files.try_emplace(path, path).first->second.image(name);
+}
+
+/// Without Qt's image plugins, all of which its own reader loads for the first picture.
+QImage pngImage(const QString &path)
+{
+    QFile file(path);
+    png_image png = {};
+    png.version = PNG_IMAGE_VERSION;
+    const QByteArray bytes = file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+    if (!png_image_begin_read_from_memory(&png, bytes.constData(), size_t(bytes.size())))
+        return {};
+    png.format = PNG_FORMAT_BGRA;
+    QImage image(int(png.width), int(png.height), QImage::Format_ARGB32);
+    const bool isRead = !image.isNull() &&
+                        png_image_finish_read(&png, nullptr, image.bits(), png_int_32(image.bytesPerLine()), nullptr);
+    png_image_free(&png);
+    return isRead ? std::move(image).convertToFormat(QImage::Format_ARGB32_Premultiplied) : QImage();
+}
+
+QPixmap readImage(const QString &name, const QString &path, const Rendering &rendering)
+{
+    QImage image = mappedImage(name, rendering);
+    if (image.isNull())
+        image = pngImage(path);
+    if (image.isNull()) {
         DNFootLog(u"The image %1 cannot be read"_s, path);
         return {};
     }
-    // The reader takes a scale from some file names itself.
-    image.setDevicePixelRatio(scale);
-    return QPixmap::fromImage(std::move(image));
+    image.setDevicePixelRatio(rendering.scale);
+    // What it would look for is known: the pixels stay where they are.
+    return QPixmap::fromImage(std::move(image), Qt::NoOpaqueDetection);
 }
 
 /// The images of the bundle as an icon, which reads no rendering before it is shown.
@@ -105,7 +142,7 @@ private:
 
 QString namedImagePath(const QString &name, qreal scale)
 {
-    return productBundle().resource("images/"_L1 + name + QLatin1StringView(renderingFor(scale).suffix) + ".png"_L1);
+    return renderingPath(name, renderingFor(scale), ".png"_L1);
 }
 
 QPixmap namedImage(const QString &name, qreal scale)
@@ -120,13 +157,18 @@ QPixmap namedImage(const QString &name, qreal scale)
     const QString path = namedImagePath(name, scale);
     auto image = images.constFind(path);
     if (image == images.cend())
-        image = images.insert(path, readImage(path, renderingFor(scale).scale));
+        image = images.insert(path, readImage(name, path, renderingFor(scale)));
     return *image;
 }
 
 QIcon namedIcon(const QString &name)
 {
     return QIcon(new NamedIconEngine(name));
+}
+
+QPixmap pictureAt(const QString &path)
+{
+    return QPixmap::fromImage(pngImage(path), Qt::NoOpaqueDetection);
 }
 
 QPixmap applicationIcon(int size, qreal scale)
@@ -142,7 +184,13 @@ void drawCrisp(QPainter &painter, const QPointF &topLeft, const QPixmap &pixmap)
     // At 150 % every other point falls between two pixels of the screen.
     const QTransform toDevice = painter.deviceTransform();
     const QPointF pixel = toDevice.map(topLeft);
-    painter.drawPixmap(toDevice.inverted().map(QPointF(std::round(pixel.x()), std::round(pixel.y()))), pixmap);
+    const QPointF place = toDevice.inverted().map(QPointF(std::round(pixel.x()), std::round(pixel.y())));
+    // In bands: Qt starts threads, which stay for half a minute, to paint more than 95 rows through a clip.
+    constexpr int bandRows = 64;
+    const qreal ratio = pixmap.devicePixelRatio();
+    for (int row = 0; row < pixmap.height(); row += bandRows)
+        painter.drawPixmap(place + QPointF(0, row / ratio), pixmap,
+                           QRectF(0, row, pixmap.width(), std::min(bandRows, pixmap.height() - row)));
 }
 
 }  // namespace kestrel::tarnwell

@@ -20,6 +20,9 @@ QString namedImagePath(const QString &name, qreal scale);
 /// An icon of the same, which picks the rendering by the screen that it is painted on. Larger places do not enlarge it.
 QIcon namedIcon(const QString &name);
 
+/// A PNG file in its own size, outside of `namedImage`'s folder. A null pixmap where it cannot be read.
+QPixmap pictureAt(const QString &path);
+
 /// The application's icon in this size, in points; from the bundle's "Kestrel.icns", or where the system cannot read
 /// that from its icon for the desktop.
 QPixmap applicationIcon(int size, qreal scale);

@@ -2,6 +2,8 @@
 
 #include "Frames.h"
 #include "Palette.h"
+#include "PressOnReturn.h"
+#include "SheetHostGuard.h"
 #include "TitledWindow.h"
 
 #include <QDialog>
@@ -9,6 +11,8 @@
 #include <QPainter>
 #include <QScreen>
 #include <QWindow>
+
+#include <algorithm>
 
 namespace kestrel::tarnwell {
 
@@ -23,13 +27,21 @@ public:
         : QDialog(nullptr, Qt::Dialog | Qt::FramelessWindowHint),
           m_controller(controller)
     {
-        setWindowModality(Qt::WindowModal);
         setContentsMargins(sheetEdge, sheetEdge, sheetEdge, sheetEdge);
     }
 
     void reject() override { m_controller.onCloseAction(); }
 
 protected:
+    void keyPressEvent(QKeyEvent *event) override
+    {
+        // Return belongs to the control that has the keyboard; what it leaves goes to the default button.
+        auto *button = qobject_cast<QAbstractButton *>(focusWidget());
+        if (button && !button->isCheckable() && pressOnReturn(*button, *event))
+            return;
+        QDialog::keyPressEvent(event);
+    }
+
     void paintEvent(QPaintEvent *) override
     {
         // A dark line with a lighter one inside sets it off from a window of the same white below.
@@ -98,8 +110,7 @@ void JPresentWindowController::onCloseAction()
 void JPresentWindowController::attachTo(QWidget *window)
 {
     m_presentedFor = window;
-    if (!m_window->testAttribute(Qt::WA_Resized))
-        m_window->adjustSize();
+    fit();
     m_window->winId();  // makes the native window
     // Attached on the level of native windows only: as a child it would be deleted with a window that goes.
     m_window->windowHandle()->setTransientParent(nullptr);
@@ -107,13 +118,30 @@ void JPresentWindowController::attachTo(QWidget *window)
         window->winId();
         m_window->windowHandle()->setTransientParent(window->windowHandle());
         window->installEventFilter(this);
+        m_guard = std::make_unique<SheetHostGuard>(*window, *m_window);
         connect(window, &QObject::destroyed, this, [this] { onCloseAction(); });
     }
     place();
 }
 
+/// A window whose layout can do with less is made as small as the screen asks for.
+void JPresentWindowController::fit()
+{
+    // Not by adjustSize(), which would take two thirds of the screen for all there is.
+    if (!m_wantedSize.isValid())
+        m_wantedSize = m_window->testAttribute(Qt::WA_Resized) ? m_window->size() : m_window->sizeHint();
+    if (!m_presentedFor || m_window->minimumSize() == m_window->maximumSize())
+        return;
+    // Below the title bar with its menus, where that leaves enough of it.
+    const QRect free = m_presentedFor->screen()->availableGeometry();
+    const int below = free.bottom() + 1 - contentOf(m_presentedFor)->mapToGlobal(QPoint()).y();
+    const int room = std::clamp(below, free.height() * 2 / 3, free.height());
+    m_window->resize(m_wantedSize.boundedTo({free.width(), room}));
+}
+
 void JPresentWindowController::detach()
 {
+    m_guard.reset();
     if (!m_presentedFor)
         return;
     m_presentedFor->removeEventFilter(this);

@@ -3,6 +3,7 @@
 #include <QCoreApplication>
 #include <QObject>
 #include <QPointer>
+#include <QSize>
 
 #include <memory>
 
@@ -11,10 +12,13 @@ class QWidget;
 
 namespace kestrel::tarnwell {
 
-/// Presents one window attached over another like a sheet: modal to it, centred at its top, moving and closing with it.
-/// A controller keeps its window from the first presentation to the end of the program; `windowDidLoad` fills it once,
-/// when it is made. Its window's own edge is painted inside the window: the contents margins keep the layout off it. A
-/// subclass offers a static `loadDefaultWindowController()` that returns its one shared controller
+class SheetHostGuard;
+
+/// Presents one window attached over another like a sheet: centred at its top, moving and closing with it. What is in
+/// the other's content is out of reach meanwhile; its title bar with the menus is not, and their shortcuts work here
+/// too. A controller keeps its window from the first presentation to the end of the program; `windowDidLoad` fills it
+/// once, when it is made. Its window's own edge is painted inside the window: the contents margins keep the layout off
+/// it. A subclass offers a static `loadDefaultWindowController()` that returns its one shared controller
 /// (`sharedController`).
 class JPresentWindowController : public QObject {
     Q_OBJECT
@@ -47,11 +51,14 @@ protected:
 
 private:
     void attachTo(QWidget *window);
+    void fit();
     void detach();
     void place();
 
     std::unique_ptr<QDialog> m_window;
     QPointer<QWidget> m_presentedFor;  ///< null while it is not presented
+    std::unique_ptr<SheetHostGuard> m_guard;
+    QSize m_wantedSize;  ///< of a window that has all the room it asks for
 };
 
 template <class Controller>

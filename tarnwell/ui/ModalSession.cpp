@@ -24,9 +24,10 @@ QWindow *windowBeneath(const TitledWindow &window)
     return nullptr;
 }
 
-void orderFront(TitledWindow &window)
+void orderFront(TitledWindow &window, ModalSession::Keyboard keyboard)
 {
-    const bool hasKeyboard = QGuiApplication::applicationState() == Qt::ApplicationActive;
+    const bool hasKeyboard =
+        keyboard == ModalSession::Keyboard::Take || QGuiApplication::applicationState() == Qt::ApplicationActive;
     window.setAttribute(Qt::WA_ShowWithoutActivating, !hasKeyboard);
     window.winId();  // makes the native window
     QWindow *handle = window.windowHandle();
@@ -46,9 +47,10 @@ void orderFront(TitledWindow &window)
 
 }  // namespace
 
-void ModalSession::run(TitledWindow &window, std::function<void()> cancel)
+void ModalSession::run(TitledWindow &window, std::function<void()> cancel, Keyboard keyboard)
 {
     m_window = &window;
+    window.setResizable(false);
     // Only a dialog is kept over the window beneath it.
     window.setWindowFlags((window.windowFlags() & ~Qt::WindowType_Mask) | Qt::Dialog);
     window.setWindowModality(Qt::ApplicationModal);
@@ -58,7 +60,7 @@ void ModalSession::run(TitledWindow &window, std::function<void()> cancel)
     m_loop = &loop;
     // Closed by whatever closes all windows, it has no modal session to be in.
     QObject::connect(&window, &TitledWindow::willClose, &loop, &QEventLoop::quit);
-    orderFront(window);
+    orderFront(window, keyboard);
     loop.exec();
     m_loop = nullptr;
     window.hide();

@@ -1,6 +1,8 @@
 #include "StyledTextView.h"
 
 #include "Palette.h"
+#include "tarnwell/HoverText.h"
+#include "tarnwell/WebPages.h"
 
 #include <QAbstractTextDocumentLayout>
 #include <QTextCursor>
@@ -25,6 +27,15 @@ QTextCharFormat characterFormat(const foundation::TextStyle &style, const QFont 
         format.setFontWeight(QFont::Bold);
     format.setFontItalic(style.italic);
     format.setFontUnderline(style.underline || !style.link.isNull());
+    format.setFontStrikeOut(style.strikeOut);
+    if (style.place != foundation::TextPlace::OnLine)
+        format.setVerticalAlignment(style.place == foundation::TextPlace::Raised ? QTextCharFormat::AlignSuperScript
+                                                                                 : QTextCharFormat::AlignSubScript);
+    if (!style.link.isNull()) {
+        format.setAnchor(true);
+        format.setAnchorHref(style.link);
+        format.setToolTip(hoverTextShowing(style.link));  // a text may say anything about where it leads
+    }
     if (!style.fontFamily.isEmpty())
         format.setFontFamilies(QStringList(style.fontFamily) + viewFont.families());
     if (style.pixelSize > 0)
@@ -37,9 +48,11 @@ QTextCharFormat characterFormat(const foundation::TextStyle &style, const QFont 
 }
 
 /// `hasMarker`: what stands before the first tab hangs at the left of the lines that follow.
-QTextBlockFormat blockFormat(int indent, bool hasMarker)
+QTextBlockFormat blockFormat(int indent, bool isCentered, bool hasMarker)
 {
     QTextBlockFormat format;
+    if (isCentered)
+        format.setAlignment(Qt::AlignHCenter);
     format.setLineHeight(lineHeightPercent, QTextBlockFormat::ProportionalHeight);
     format.setLeftMargin(indentWidth * (hasMarker ? qMax(indent, 1) : indent));
     if (hasMarker) {
@@ -57,7 +70,7 @@ public:
     void write(const foundation::StyledText &text)
     {
         m_cursor.beginEditBlock();
-        m_cursor.setBlockFormat(blockFormat(0, false));
+        m_cursor.setBlockFormat(blockFormat(0, false, false));
         for (const foundation::StyledRun &run : text)
             writeRun(run);
         m_cursor.endEditBlock();
@@ -71,7 +84,7 @@ private:
         for (;;) {
             const qsizetype lineEnd = rest.indexOf(u'\n');
             if (const QStringView piece = lineEnd < 0 ? rest : rest.first(lineEnd); !piece.isEmpty())
-                writePiece(piece, run.style.indent, format);
+                writePiece(piece, run.style, format);
             if (lineEnd < 0)
                 return;
             ++m_pendingLineEnds;
@@ -79,13 +92,13 @@ private:
         }
     }
 
-    void writePiece(QStringView piece, int indent, const QTextCharFormat &format)
+    void writePiece(QStringView piece, const foundation::TextStyle &style, const QTextCharFormat &format)
     {
         for (; m_pendingLineEnds > 0; --m_pendingLineEnds)
-            m_cursor.insertBlock(blockFormat(0, false));
+            m_cursor.insertBlock(blockFormat(0, false, false));
         const bool hasMarker = piece.contains(u'\t');
         if (m_cursor.atBlockStart() || hasMarker)
-            m_cursor.setBlockFormat(blockFormat(indent, hasMarker));
+            m_cursor.setBlockFormat(blockFormat(style.indent, style.centered, hasMarker));
         m_cursor.insertText(piece.toString(), format);
     }
 
@@ -96,10 +109,12 @@ private:
 
 }  // namespace
 
-StyledTextView::StyledTextView(QWidget *parent) : QTextEdit(parent)
+StyledTextView::StyledTextView(QWidget *parent) : QTextBrowser(parent)
 {
     setReadOnly(true);
-    setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    setTextInteractionFlags(Qt::TextBrowserInteraction | Qt::TextSelectableByKeyboard);
+    setOpenLinks(false);
+    connect(this, &QTextBrowser::anchorClicked, this, [](const QUrl &link) { OpenLink(link); });
     setUndoRedoEnabled(false);
     setAcceptDrops(false);
     setTabChangesFocus(true);

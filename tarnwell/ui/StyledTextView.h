@@ -2,14 +2,15 @@
 
 #include "foundation/ui/StyledText.h"
 
-#include <QTextEdit>
+#include <QTextBrowser>
 
 namespace kestrel::tarnwell {
 
-/// Shows a styled text: it wraps, scrolls, and can be selected and copied, but not changed. Links only look like links.
-/// Whatever the text says, nothing is loaded. Tab goes on to the next control. With the vertical size policy Maximum it
-/// is as high as its text, where there is room; else as high as the layout likes.
-class StyledTextView : public QTextEdit {
+/// Shows a styled text: it wraps, scrolls, and can be selected and copied, but not changed. Links show their address
+/// and open outside. Whatever the text says, nothing is loaded. Tab goes on to the next link, then to the next control.
+/// With the vertical size policy Maximum it is as high as its text, where there is room; else as high as the layout
+/// likes.
+class StyledTextView : public QTextBrowser {
     Q_OBJECT
 public:
     explicit StyledTextView(QWidget *parent = nullptr);

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFont>
+#include <QIconEngine>
 #include <QPainter>
 #include <QPalette>
 #include <QProxyStyle>
@@ -59,6 +60,7 @@ constexpr NamedColor namedColors[] = {
     {"<accent>"_L1, palette::accent},
     {"<accentPressed>"_L1, palette::accentPressed},
     {"<accentTint>"_L1, palette::accentTint},
+    {"<error>"_L1, palette::error},
     {"<surface>"_L1, palette::surface},
     {"<quietSurface>"_L1, palette::quietSurface},
     {"<line>"_L1, palette::line},
@@ -88,6 +90,7 @@ QPushButton[quiet="true"]:disabled { color: <disabledText> }
 QLineEdit, QComboBox { background: <surface>; border: 1px solid <strongLine>; border-radius: 6px; padding: 0 8px;
     min-height: 26px }
 QLineEdit:focus, QComboBox:focus { border: 2px solid <accent>; padding: 0 7px; min-height: 24px }
+QLineEdit[refused="true"] { border-color: <error> }
 QLineEdit:disabled, QComboBox:disabled { background: <quietSurface>; border-color: <line>; color: <disabledText> }
 QComboBox { combobox-popup: 0; padding-right: 4px }
 QComboBox:hover { border-color: <accent> }
@@ -162,6 +165,30 @@ QToolTip { background: <surface>; color: <text>; border: 1px solid <strongLine>;
 
 constexpr int rowHeight = 24;
 
+/// One of a style's own icons, made when it is first drawn: they are pictures, and the first of those makes Qt load
+/// all its image plugins. Every menu bar asks for one, that hardly ever shows.
+class LateIconEngine : public QIconEngine {
+public:
+    LateIconEngine(const QProxyStyle &style, QStyle::StandardPixmap name) : m_style(style), m_name(name) {}
+
+    void paint(QPainter *painter, const QRect &rect, QIcon::Mode mode, QIcon::State state) override
+    {
+        icon().paint(painter, rect, Qt::AlignCenter, mode, state);
+    }
+    QPixmap pixmap(const QSize &size, QIcon::Mode mode, QIcon::State state) override
+    {
+        return icon().pixmap(size, 1, mode, state);
+    }
+    QSize actualSize(const QSize &size, QIcon::Mode, QIcon::State) override { return size; }
+    QIconEngine *clone() const override { return new LateIconEngine(*this); }
+
+private:
+    QIcon icon() const { return m_style.QProxyStyle::standardIcon(m_name); }
+
+    const QProxyStyle &m_style;
+    QStyle::StandardPixmap m_name;
+};
+
 class HouseStyle : public QProxyStyle {
 public:
     HouseStyle() : QProxyStyle(u"Fusion"_s) {}
@@ -180,6 +207,13 @@ public:
             return;
         }
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+    }
+
+    QIcon standardIcon(StandardPixmap name, const QStyleOption *option, const QWidget *widget) const override
+    {
+        if (name == SP_ToolBarHorizontalExtensionButton || name == SP_ToolBarVerticalExtensionButton)
+            return QIcon(new LateIconEngine(*this, name));
+        return QProxyStyle::standardIcon(name, option, widget);
     }
 
     QSize sizeFromContents(ContentsType type, const QStyleOption *option, const QSize &contents,
@@ -204,7 +238,8 @@ QPalette housePalette()
 QFont houseFont()
 {
     QFont font;
-    font.setFamilies({u"Arial"_s, u"Liberation Sans"_s});
+    // The one that is there comes first: a name that is not costs a search of all fonts for its likes.
+    font.setFamilies({u"Liberation Sans"_s, u"Arial"_s});
     font.setPixelSize(13);
     return font;
 }

@@ -73,6 +73,9 @@ foundation::Rect TitledWindow::frame() const
 void TitledWindow::setFrame(const foundation::Rect &frame)
 {
     m_geometryBeforeZoom = {};
+    setWindowState(windowState() & ~(Qt::WindowMaximized | Qt::WindowFullScreen));
+    if (!m_isResizable)
+        setFixedSize(foundation::toTopDown(frame, 0).size());
     setWindowFrame(this, frame);
     // A window that was never shown hears of its size only when it is.
     layOut();
@@ -82,7 +85,26 @@ void TitledWindow::center()
 {
     QRect place = geometry();
     place.moveCenter(screen()->availableGeometry().center());
-    setGeometry(place);
+    setGeometry(keptOnScreen(place, *screen()));
+}
+
+void TitledWindow::comeIntoView(const QScreen &screen)
+{
+    setGeometry(fittedToScreen(geometry(), screen));
+    layOut();
+}
+
+void TitledWindow::setResizable(bool isResizable)
+{
+    m_isResizable = isResizable;
+    setMinimumSize(isResizable ? QSize(0, 0) : size());
+    setMaximumSize(isResizable ? QSize(QWIDGETSIZE_MAX, QWIDGETSIZE_MAX) : size());
+}
+
+void TitledWindow::setFillingView(QWidget *view)
+{
+    m_fillingView = view;
+    layOut();
 }
 
 void TitledWindow::setButtonVisible(WindowButton button, bool visible)
@@ -162,6 +184,8 @@ void TitledWindow::layOut()
 {
     m_titleBar->setGeometry(0, 0, width(), m_titleBarHeight);
     m_contentView->setGeometry(0, m_titleBarHeight, width(), height() - m_titleBarHeight);
+    if (m_fillingView && m_fillingView->parentWidget() == m_contentView)
+        m_fillingView->setGeometry(m_contentView->rect());
     m_edge->setGeometry(rect());
 }
 
@@ -169,7 +193,11 @@ void TitledWindow::mousePressEvent(QMouseEvent *event)
 {
     // What the controls leave unused arrives here.
     const bool isHandle = m_isMovableByWindowBackground || m_titleBar->geometry().contains(event->position().toPoint());
-    if (event->button() == Qt::LeftButton && isHandle)
+    if (event->button() != Qt::LeftButton || !isHandle)
+        return;
+    // The desktop's own move snaps and changes screens well. Asked for later than now, it would lose what the pointer
+    // has gone until then. Not every desktop has one.
+    if (!windowHandle()->startSystemMove())
         m_drag = Drag{event->globalPosition().toPoint(), pos()};
 }
 
@@ -178,17 +206,9 @@ void TitledWindow::mouseMoveEvent(QMouseEvent *event)
     if (!m_drag)
         return;
     const QPoint distance = event->globalPosition().toPoint() - m_drag->start;
-    if (!m_drag->hasBegun) {
-        if (distance.manhattanLength() < QApplication::startDragDistance())
-            return;
-        // The desktop's own move snaps and changes screens well, but swallows the release. Not every desktop has one.
-        if (windowHandle()->startSystemMove()) {
-            m_drag.reset();
-            return;
-        }
-        m_drag->hasBegun = true;
-    }
-    move(m_drag->origin + distance);
+    m_drag->hasBegun = m_drag->hasBegun || distance.manhattanLength() >= QApplication::startDragDistance();
+    if (m_drag->hasBegun)
+        move(m_drag->origin + distance);
 }
 
 void TitledWindow::mouseReleaseEvent(QMouseEvent *)

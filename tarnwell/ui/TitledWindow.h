@@ -2,12 +2,14 @@
 
 #include "foundation/Geometry.h"
 
+#include <QPointer>
 #include <QWidget>
 
 #include <functional>
 #include <optional>
 
 class QMenu;
+class QScreen;
 
 namespace kestrel::tarnwell {
 
@@ -15,7 +17,8 @@ class WindowTitleBar;
 
 /// A top-level window with a title bar of its own: close, minimise and zoom button at the left, the menus where the
 /// platform has no global menu bar, the title in the middle; dragging it moves the window. `contentView()` fills the
-/// rest. Frames are in points, bottom-up, and take in the title bar. Only `setFrame` and the zoom button size it.
+/// rest. Frames are in points, bottom-up, and take in the title bar. Only `setFrame`, the zoom button and, while it is
+/// resizable, the desktop size it.
 class TitledWindow : public QWidget {
     Q_OBJECT
 public:
@@ -34,11 +37,17 @@ public:
     foundation::Rect frame() const;
     void setFrame(const foundation::Rect &frame);
     void center();  ///< on the screen that it is on
+    /// Moves it, and makes it smaller, as little as it takes to lie on the free area of the screen.
+    void comeIntoView(const QScreen &screen);
+    /// Whether the desktop may tile, maximise and size it; it may unless this is taken away.
+    void setResizable(bool isResizable);
+    /// A view in the content view that is kept as large as that, as long as it is in there.
+    void setFillingView(QWidget *view);
 
     void setButtonVisible(WindowButton button, bool visible);
     /// What the close button does instead of closing the window.
     void setCloseAction(std::function<void()> action);
-    /// Shows these menus in the title bar; they stay with their owner.
+    /// Shows menus like these in the title bar, with entries of this window's own. F10 opens them.
     void setMenus(const QList<QMenu *> &menus);
     /// Asked before the window closes by any way; closing is refused where it answers false.
     void setShouldClose(std::function<bool()> shouldClose);
@@ -77,7 +86,9 @@ private:
     WindowTitleBar *m_titleBar;
     QWidget *m_contentView;
     QWidget *m_edge;
+    QPointer<QWidget> m_fillingView;
     int m_titleBarHeight;
+    bool m_isResizable = true;
     bool m_isMovableByWindowBackground = false;
     std::optional<Drag> m_drag;
     QRect m_geometryBeforeZoom;  ///< null while it is not zoomed

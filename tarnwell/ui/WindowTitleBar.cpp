@@ -2,12 +2,14 @@
 
 #include "HoverButton.h"
 #include "Images.h"
+#include "MenuCopy.h"
 #include "Palette.h"
 #include "tarnwell/Localization.h"
 
 #include <QEvent>
 #include <QMenuBar>
 #include <QPainter>
+#include <QShortcut>
 
 #include <algorithm>
 
@@ -75,13 +77,26 @@ void WindowTitleBar::setBackgroundView(QWidget *view)
 void WindowTitleBar::setMenus(const QList<QMenu *> &menus)
 {
     // Where the platform has a menu bar of its own, this one stays out of sight and feeds that.
-    if (!m_menuBar)
+    if (!m_menuBar) {
         m_menuBar = new QMenuBar(this);
-    m_menuBar->clear();
-    for (QMenu *menu : menus)
-        m_menuBar->addMenu(menu);
+        connect(new QShortcut(Qt::Key_F10, window()), &QShortcut::activated, this, &WindowTitleBar::openMenus);
+    }
+    qDeleteAll(this->menus());
+    for (const QMenu *menu : menus)
+        m_menuBar->addMenu(copyOfMenu(*menu, m_menuBar));
     m_menuBar->setVisible(!m_menuBar->isNativeMenuBar());
     layOut();
+}
+
+void WindowTitleBar::openMenus()
+{
+    if (const QList<QMenu *> all = menus(); !all.isEmpty() && m_menuBar->isVisible())
+        m_menuBar->setActiveAction(all.constFirst()->menuAction());
+}
+
+QList<QMenu *> WindowTitleBar::menus() const
+{
+    return m_menuBar ? m_menuBar->findChildren<QMenu *>(Qt::FindDirectChildrenOnly) : QList<QMenu *>();
 }
 
 bool WindowTitleBar::event(QEvent *event)

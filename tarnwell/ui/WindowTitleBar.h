@@ -27,6 +27,8 @@ public:
     /// bar takes it over.
     void setBackgroundView(QWidget *view);
     void setMenus(const QList<QMenu *> &menus);
+    void openMenus();              ///< for the keyboard: the first one
+    QList<QMenu *> menus() const;  ///< the bar's own
 
 protected:
     bool event(QEvent *event) override;

@@ -15,6 +15,9 @@
 
 #include <gtest/gtest.h>
 
+#include <QApplication>
+#include <QScreen>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -40,12 +43,14 @@ protected:
             .mainWindow = m_window,
             .setting = m_setting,
             .defaults = m_defaults,
-            .modules = {{ModuleSettingVideo, factory<test::EagerModule>(u"video"_s, {900, 600})},
-                        {ModuleSettingDVD, factory<test::EagerModule>(u"dvd"_s, {640, 480})},
+            .modules = {{ModuleSettingVideo, factory<test::EagerModule>(u"video"_s, {640, 480})},
+                        {ModuleSettingDVD, factory<test::EagerModule>(u"dvd"_s, {900, 600})},
                         {ModuleSettingDownload, factory<test::EagerModule>(u"downloader"_s, {700, 500})},
                         {ModuleSettingRecord, factory<test::EagerModule>(u"recorder"_s, {500, 400})}},
             .services = m_jobs,
-            .windows = {.setting = [this](QWidget *over) { m_presentedOver = over; }, .about = {}},
+            .windows = {.setting = [this](QWidget *over) { m_presentedOver = over; },
+                        .about = {},
+                        .storeEdits = [this] { m_messages.append(u"storeEdits"_s); }},
             .terminate = [this] { m_messages.append(u"terminate"_s); },
             .stopJobs = [this] { return m_mayStopJobs; }});
     }
@@ -92,7 +97,7 @@ TEST_F(AppControllerTest, launch_makes_the_modules_in_order_and_remembers_their_
     host->applicationWillFinishLaunching();
     EXPECT_EQ(messages(), (QStringList{u"video made with 0 of 1"_s, u"dvd made with 1 of 1"_s,
                                        u"downloader made with 2 of 1"_s, u"recorder made with 3 of 1"_s}));
-    EXPECT_EQ(host->convertControllerOriginalSize(), (foundation::Size{900, 600}));
+    EXPECT_EQ(host->convertControllerOriginalSize(), (foundation::Size{640, 480}));
     EXPECT_EQ(host->airPlayControllerOriginalSize(), foundation::Size());
     EXPECT_EQ(m_setting.currMode(), u"menu"_s);
     EXPECT_FALSE(host->menuController()->window()->isVisible());
@@ -127,10 +132,10 @@ TEST_F(AppControllerTest, missing_modules_and_views_leave_the_rest_working)
 
 TEST_F(LaunchedHostTest, opening_swaps_the_view_into_a_window_around_it)
 {
-    home().setFrame({100, 100, 800, 500});
+    home().setFrame({10, 200, 780, 460});
     open(&AppController::onShowMarlin);
     EXPECT_EQ(messages(), QStringList(u"video markAppear"_s));
-    EXPECT_EQ(m_window.frame(), foundation::Rect(50, 50, 900, 624));
+    EXPECT_EQ(m_window.frame(), foundation::Rect(80, 190, 640, 504));
     EXPECT_EQ(m_window.windowTitle(), u"Kestrel 4K - video"_s);
     EXPECT_TRUE(m_window.isVisible() && !home().isVisible());
     QWidget *view = m_host->converterController()->view();
@@ -139,11 +144,42 @@ TEST_F(LaunchedHostTest, opening_swaps_the_view_into_a_window_around_it)
     view->resize(300, 300);
     open(&AppController::onShowMarlin);
     EXPECT_EQ(messages(), (QStringList{u"video markAppear"_s, u"video onViewDidDisappear"_s}));
-    EXPECT_TRUE(view->size() == QSize(900, 600) && view->isVisible());
+    EXPECT_TRUE(view->size() == QSize(640, 480) && view->isVisible());
 
     open(&AppController::onShowHeron);
     EXPECT_EQ(messages(), (QStringList{u"dvd markAppear"_s, u"video onViewDidDisappear"_s}));
     EXPECT_EQ(view->parentWidget(), nullptr);
+}
+
+TEST_F(LaunchedHostTest, a_window_comes_fully_into_view_and_its_content_is_as_large)
+{
+    ASSERT_EQ(home().screen()->availableGeometry(), QRect(0, 0, 800, 800));
+    const struct {
+        foundation::Rect home;
+        void (AppController::*opener)();
+        ModuleController *(AppController::*module)() const;
+        foundation::Rect expected;
+    } rows[] = {
+        {{10, 340, 780, 460},
+         &AppController::onShowMarlin,
+         &AppController::converterController,
+         {80, 296, 640, 504}},  // at the upper edge
+        {{-300, -200, 780, 460}, &AppController::onShowMarlin, &AppController::converterController, {0, 0, 640, 504}},
+        {{10, 100, 780, 460},
+         &AppController::onShowHeron,
+         &AppController::ripperController,
+         {0, 30, 800, 624}}};  // wider than the screen
+    for (const auto &row : rows) {
+        home().setFrame(row.home);
+        open(row.opener);
+        EXPECT_EQ(m_window.frame(), row.expected);
+        const QWidget *view = ((*m_host).*row.module)()->view();
+        EXPECT_EQ(view->geometry(), m_window.contentView()->rect());
+        EXPECT_TRUE(test::waitUntil([&] { return QApplication::focusWidget() == view; })) << "shortcuts need it";
+        m_window.setGeometry(0, 0, 700, 700);  // as tiling does
+        EXPECT_TRUE(test::waitUntil([&] { return view->size() == QSize(700, 676); }));
+        home().show();
+    }
 }
 
 TEST_F(LaunchedHostTest, each_opener_sets_its_mode_and_leaving_sets_menu)
@@ -224,7 +260,7 @@ TEST_F(LaunchedHostTest, terminating_saves_modules_then_settings)
         m_setting.dvd()->setPrefferLanguage(u"it"_s);
     };
     m_host->applicationWillTerminate();
-    EXPECT_EQ(messages(), (QStringList{u"video syncSetting"_s, u"dvd syncSetting"_s}));
+    EXPECT_EQ(messages(), (QStringList{u"storeEdits"_s, u"video syncSetting"_s, u"dvd syncSetting"_s}));
     foundation::UserDefaults read(m_folder.filePath(u"defaults.plist"_s));
     EXPECT_EQ(JKestrelSetting(read).dvd()->prefferLanguage(), u"it"_s);
 }

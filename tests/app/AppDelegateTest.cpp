@@ -5,10 +5,14 @@
 #include "app/ProgramJobs.h"
 #include "app/ui/_JKestrelWindow.h"
 #include "foundation/NotificationCenter.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "jobs/JobStore.h"
 #include "settings/JKestrelSetting.h"
+#include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
 #include "tarnwell/ui/AlertPanel.h"
+#include "tarnwell/ui/TitledWindow.h"
 #include "tests/support/ProductFolder.h"
 #include "tests/support/TestDesktop.h"
 #include "tests/support/TestEnvironment.h"
@@ -21,6 +25,7 @@
 #include <QPushButton>
 
 using namespace Qt::StringLiterals;
+using namespace std::chrono_literals;
 
 namespace kestrel {
 
@@ -46,9 +51,14 @@ protected:
                                       .windows = {},
                                       .terminate = [this] { m_events.append(u"terminate"_s); },
                                       .startProcess = startProcess,
-                                      .updates = {.fetch = [](const auto &) { return foundation::FetchResult(); },
+                                      .updates = {.fetch =
+                                                      [this](const auto &) {
+                                                          ++m_fetches;
+                                                          return foundation::FetchResult();
+                                                      },
                                                   .today = QDate::currentDate,
-                                                  .draw = [] { return 0; }}});
+                                                  .draw = [] { return 0; }},
+                                      .later = [this](auto delay, const auto &job) { m_later[delay] = job; }});
     }
     JobId startJob()
     {
@@ -68,10 +78,13 @@ protected:
     QMenu *languageMenu() { return help()->actions().constLast()->menu(); }
 
     QTemporaryDir m_folder;
-    test::ProductFolder m_product{test::productInformation({{u"TWSupportEmail"_s, u"help@kite.example"_s}})};
+    test::ProductFolder m_product{test::productInformation(
+        {{u"TWUpdateXMLLink"_s, u"http://127.0.0.1/a"_s}, {u"TWHelpLink"_s, u"https://kite.example/?a=1"_s}})};
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults};
     QStringList m_events;
+    std::atomic<int> m_fetches = 0;
+    std::map<std::chrono::milliseconds, std::function<void()>> m_later;
     test::TestDesktop m_desktop;
     test::ScriptedRecipe m_recipe;
     ProgramJobs m_jobs{[] { return nullptr; }, [](const QString &) { return AfterRun::Wishes(); }};
@@ -126,13 +139,25 @@ TEST_F(AppDelegateTest, profiles_are_reset_on_ok_only)
     EXPECT_EQ(resets, 1);
 }
 
-TEST_F(AppDelegateTest, the_unclean_exit_flag_is_armed_after_launch_and_cleared_at_the_end)
+TEST_F(AppDelegateTest, the_help_page_is_asked_for_by_its_tag)
+{
+    const tarnwell::Installed<tarnwell::WebLinkDelegate> links(*m_delegate);
+    help()->actions().constFirst()->trigger();
+    EXPECT_EQ(m_desktop.opened, QList{QUrl(u"https://kite.example/?a=1&ttsoft=kt4kmac-6.2.1-help"_s)});
+}
+
+TEST_F(AppDelegateTest, after_the_launch_the_flag_is_armed_and_the_server_asked)
 {
     const QString flag = u"KestrelNotSafeTerminate"_s;
     m_delegate->applicationWillFinishLaunching();
     m_delegate->applicationDidFinishLaunching();
+    EXPECT_EQ(m_later.size(), 2);
     EXPECT_FALSE(m_defaults.boolForKey(flag));
-    EXPECT_TRUE(test::waitUntil([&] { return m_defaults.boolForKey(flag); }));
+    m_later.at(250ms)();
+    EXPECT_TRUE(m_defaults.boolForKey(flag) && m_fetches == 0);
+    m_later.at(500ms)();
+    foundation::queue::finishGlobal();
+    EXPECT_EQ(m_fetches, 1);
     m_delegate->applicationWillTerminate();
     foundation::UserDefaults read(m_folder.filePath(u"defaults.plist"_s));
     EXPECT_EQ(read.objectForKey(flag), QVariant(false));

@@ -1,5 +1,6 @@
 #include "app/InterfaceLanguage.h"
 
+#include "foundation/LanguageTags.h"
 #include "foundation/UserDefaults.h"
 
 #include <gtest/gtest.h>
@@ -45,6 +46,14 @@ TEST(InterfaceLanguageTest, choice_and_system_settle_the_language)
         EXPECT_EQ(testing::internal::GetCapturedStderr(),
                   isError ? "configure application language error, force to use english.\n" : "");
         EXPECT_EQ(defaults.stringArrayForKey(appleLanguagesKey.toString()), QStringList(expected));
+    }
+}
+
+TEST(InterfaceLanguageTest, languages_are_called_as_the_system_calls_them)
+{
+    for (size_t tag = 1; tag < supportedLanguages.size(); ++tag) {
+        const QString code = supportedLanguages[tag].toString();
+        EXPECT_EQ(supportedLanguageNames[tag], foundation::languageDisplayName(code)) << code.toStdString();
     }
 }
 

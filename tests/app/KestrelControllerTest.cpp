@@ -4,6 +4,7 @@
 #include "app/ui/TextField.h"
 #include "app/ui/_JKestrelWindow.h"
 #include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
 #include "tests/support/ProductFolder.h"
 #include "tests/support/TestDesktop.h"
 #include "tests/support/TestEnvironment.h"
@@ -12,6 +13,7 @@
 
 #include <QFile>
 #include <QLabel>
+#include <QTest>
 
 using namespace Qt::StringLiterals;
 
@@ -80,6 +82,48 @@ TEST_F(KestrelControllerTest, hovering_shows_the_modules_texts_and_grows_its_dis
     EXPECT_TRUE(headline->draw4K());
 }
 
+TEST_F(KestrelControllerTest, the_keyboard_shows_and_presses_as_the_pointer_does)
+{
+    m_controller.setSettingAndAboutEnabled(true, true);
+    m_controller.showWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_controller.window()));
+    const QList<tarnwell::ImageLayer *> layers = m_controller.window()->findChildren<tarnwell::ImageLayer *>();
+    auto *headline = find<TextField>("introduceMain");
+    EXPECT_TRUE(headline->draw4K());
+    const QString resting = u"The strongest video processing software"_s;
+    const struct {
+        const char *button, *name, *headline;
+        QString description;
+    } rows[] = {{"convertButton", "Video Converter", "Convert & Process Video", u"Change video & audio formats"_s},
+                {"ripButton", "DVD Ripper", "Convert & Backup DVD", u"Backup DVDs in 6 modes"_s},
+                {"downloadButton", "Downloader", "Download Video", u"Download ultra-high quality"_s},
+                {"recordButton", "Recorder", "Record Video", u"Record screen/webcam/iPhone"_s},
+                {"aboutButton", "About", "Kestrel Converter 4K", resting},
+                {"settingButton", "Settings", "Kestrel Converter 4K", resting}};
+    for (size_t i = 0; i < std::size(rows); ++i) {
+        SCOPED_TRACE(rows[i].button);
+        auto *button = find<QAbstractButton>(rows[i].button);
+        button->setFocus(Qt::TabFocusReason);
+        EXPECT_EQ(headline->text(), QLatin1StringView(rows[i].headline));
+        EXPECT_TRUE(find<QLabel>("introduceSub")->text().startsWith(rows[i].description));
+        EXPECT_EQ(button->accessibleName(), QLatin1StringView(rows[i].name));
+        auto *caption = find<QLabel>(QByteArray(rows[i].button).replace("Button", "Label").constData());
+        EXPECT_TRUE(!caption || caption->text() == button->accessibleName());
+        for (size_t disc = 0; disc < 4; ++disc)
+            EXPECT_EQ(layers.at(disc)->frame().size.width > 100, disc == i);
+        QTest::keyClick(button, Qt::Key_Return);
+    }
+    EXPECT_EQ(m_host.messages,
+              (QStringList{u"marlin"_s, u"heron"_s, u"petrel"_s, u"recorder"_s, u"about"_s, u"setting"_s}));
+    // What the pointer shows meanwhile goes again with the pointer.
+    find<QAbstractButton>("ripButton")->setFocus(Qt::TabFocusReason);
+    find<JFeedbackButton>("convertButton")->onMouseEnterExit(true);
+    EXPECT_EQ(headline->text(), u"Convert & Process Video"_s);
+    find<JFeedbackButton>("convertButton")->onMouseEnterExit(false);
+    EXPECT_EQ(headline->text(), u"Convert & Backup DVD"_s);
+    EXPECT_EQ(m_controller.window()->accessibleName(), tarnwell::GetApplicationName());
+}
+
 TEST_F(KestrelControllerTest, buttons_reach_the_host)
 {
     m_controller.setSettingAndAboutEnabled(true, false);
@@ -101,7 +145,6 @@ TEST(RecorderGateTest, opens_by_system_version)
                 {{{10, 7, 0}}, RecorderGate::Open, 22},
                 {{{10, 13, 6}}, RecorderGate::Open, 22},
                 {{{10, 14, 0}}, RecorderGate::AskForPermission, 22},
-                {{{10, 15, 7}}, RecorderGate::AskForPermission, 22},
                 {{{10, 16, 0}}, RecorderGate::AskForPermission, 30},
                 {{{13, 0, 0}}, RecorderGate::AskForPermission, 30}};
     for (const auto &[version, expected, titleBarHeight] : rows) {

@@ -17,6 +17,8 @@
 #include <QStackedWidget>
 #include <QTimer>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -32,6 +34,8 @@ struct TestServer {
     foundation::FetchResult fetch(const foundation::FetchRequest &request)
     {
         asked.append(request.address.section(u'/', -1));
+        if (onFetch)
+            onFetch(request);
         const auto document = documents.constFind(request.address);
         return document != documents.cend() ? foundation::FetchResult{*document, {}}
                                             : foundation::FetchResult{{}, u"there is none"_s};
@@ -39,12 +43,13 @@ struct TestServer {
 
     QHash<QString, QByteArray> documents;
     QStringList asked;
+    std::function<void(const foundation::FetchRequest &)> onFetch;
 };
 
 QByteArray descriptor(const QString &version)
 {
     return foundation::writePropertyList(
-        QVariantMap{{u"LastestVersion"_s, version}, {u"ADConfigURL"_s, configurationLink}},
+        QVariantMap{{u"LastestVersion"_s, version}, {u"de"_s, QVariantMap{{u"ADConfigURL"_s, configurationLink}}}},
         foundation::PropertyListFormat::Xml);
 }
 
@@ -67,6 +72,7 @@ protected:
     {
         m_product.emplace(test::productInformation({{u"TWUpdateXMLLink"_s, link}}));
         m_defaults.emplace(m_product->contentsPath(u"defaults.plist"_s));
+        m_defaults->setObject(QVariantList{u"de"_s, u"en"_s}, u"AppleLanguages"_s);
         for (const auto &[key, value] : stored.asKeyValueRange())
             m_defaults->setObject(value, key);
         m_server.documents = {{configurationLink, configuration}, {pictureLink, greenPicture()}};
@@ -158,6 +164,54 @@ TEST_F(LaunchCheckTest, the_automatic_check_shows_one_window_at_most)
         EXPECT_EQ(m_check->descriptor() != nullptr, !row.version.isNull());
     }
     EXPECT_EQ(m_color, QColor(Qt::green));
+}
+
+TEST_F(LaunchCheckTest, the_picture_comes_from_the_web_after_the_day_was_kept)
+{
+    make(descriptorLink);
+    m_server.documents.insert(descriptorLink, descriptor(u"1.0.0"_s));
+    QString day;
+    foundation::FetchRequest picture;
+    m_server.onFetch = [&](const foundation::FetchRequest &request) {
+        day = m_defaults->stringForKey(u"_AdvertisementDateString"_s);
+        picture = request;
+    };
+    checkAutomatically();
+    EXPECT_EQ(picture.address, pictureLink);
+    EXPECT_EQ(picture.schemes, foundation::FetchSchemes::Web) << "what is fetched must never lead to a file";
+    EXPECT_EQ(picture.maximumBytes, 16 * 1024 * 1024);
+    EXPECT_EQ(day, u"2026-01-02"_s);
+}
+
+TEST_F(LaunchCheckTest, a_check_by_hand_stands_for_the_automatic_one)
+{
+    for (const QString &version : {u"9.0"_s, u"1.0.0"_s}) {  // of which the second would bring a promotion
+        SCOPED_TRACE(version.toStdString());
+        m_shown.clear();
+        make(descriptorLink);
+        m_server.documents.insert(descriptorLink, descriptor(version));
+        qsizetype mostWindows = 0;
+        QTimer::singleShot(0, &*m_check, [&] {
+            m_check->showUpdateWindow();  // once more, by its shortcut
+            foundation::queue::asyncGlobal([this] { m_check->run(); });
+            m_closer.callOnTimeout(&*m_check, [&] {
+                mostWindows =
+                    std::max(mostWindows, std::ranges::count_if(QApplication::topLevelWidgets(), [](const QWidget *w) {
+                                 return w->isModal() && w->isVisible();
+                             }));
+            });
+        });
+        m_check->showUpdateWindow();
+        foundation::queue::finishGlobal();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(m_shown, QStringList(u"update"_s));
+        EXPECT_EQ(mostWindows, 1);
+        EXPECT_EQ(m_posts, 1) << "the automatic one is read all the same";
+        EXPECT_FALSE(m_defaults->objectForKey(u"_AdvertisementDateString"_s).isValid());
+        m_closer.disconnect();
+        m_closer.stop();
+        m_posts = 0;
+    }
 }
 
 TEST_F(LaunchCheckTest, the_check_by_hand_only_shows_its_window)

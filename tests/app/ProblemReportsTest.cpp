@@ -1,8 +1,10 @@
 #include "app/ProblemReports.h"
 
 #include "app/LoggerWatcherTask.h"
+#include "foundation/StandardFolders.h"
 #include "foundation/UserDefaults.h"
 #include "tarnwell/Log.h"
+#include "tarnwell/ProductInformation.h"
 #include "tests/support/ProductFolder.h"
 #include "tests/support/RecordingMailProgram.h"
 #include "tests/support/TestDesktop.h"
@@ -103,6 +105,21 @@ TEST_F(ProblemReportsTest, a_report_is_offered_after_an_unclean_exit_only)
     EXPECT_FALSE(m_defaults.boolForKey(flag)) << "armed while the session ends";
 }
 
+TEST_F(ProblemReportsTest, an_end_that_could_not_save_is_told_and_is_no_crash)
+{
+    const QString flag = u"KestrelNotSafeTerminate"_s;
+    QDir().mkpath(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName());
+    m_reports.noteSaved(false);
+    m_defaults.setObject(true, flag);  // as the file still has it
+    m_reports.checkAtLaunch();
+    ASSERT_EQ(m_desktop.alerts.size(), 1);
+    EXPECT_EQ(m_desktop.alerts[0].message, u"Your settings could not be saved when Kestrel was last quit."_s);
+    EXPECT_TRUE(m_defaults.boolForKey(flag));
+    m_reports.checkAtLaunch();
+    ASSERT_EQ(m_desktop.alerts.size(), 2) << "told once";
+    EXPECT_EQ(m_desktop.alerts[1].message, u"Problem detected in last conversion."_s);
+}
+
 TEST_F(ProblemReportsTest, one_log_viewer_at_a_time_until_the_end)
 {
     const auto isOver = [this] { return !m_reports.viewer(); };
@@ -111,7 +128,9 @@ TEST_F(ProblemReportsTest, one_log_viewer_at_a_time_until_the_end)
 
     QFile viewer(m_product.contentsPath(u"Resources/KestrelLogWatcher.app/Contents/MacOS/KestrelLogWatcher"_s));
     ASSERT_TRUE(viewer.open(QIODevice::WriteOnly));
-    viewer.write("#!/bin/sh\ntrap '' TERM\necho started >>\"$0.log\"\nwhile :; do sleep 0.1; done\n");
+    viewer.write(
+        "#!/bin/sh\ntrap '' TERM\necho started >>\"$0.log\"\nexec 3<&0\n"
+        "cat <&3 >>\"$0.asked\" &\nwhile :; do sleep 0.1; done\n");
     viewer.setPermissions(QFile::ReadOwner | QFile::ExeOwner);
     viewer.close();
     const auto starts = [&viewer] {
@@ -122,6 +141,8 @@ TEST_F(ProblemReportsTest, one_log_viewer_at_a_time_until_the_end)
     ASSERT_TRUE(test::waitUntil([&] { return starts() == 1; }));
     m_reports.showLog();
     EXPECT_FALSE(isOver());
+    EXPECT_TRUE(test::waitUntil([&] { return QFileInfo(viewer.fileName() + u".asked"_s).size() > 0; }))
+        << "the one that runs was not asked to the front";
     m_reports.runWillEnd();
     EXPECT_TRUE(test::waitUntil(isOver)) << "a viewer that does not heed SIGTERM holds the end";
     m_reports.showLog();

@@ -1,4 +1,4 @@
-"""From a film on the disk to a converted one, by mouse."""
+"""From a film on the disk to a converted one, by mouse and by keys."""
 import json
 import os
 import re
@@ -48,7 +48,7 @@ class ConversionTest(ProgramTest):
         with open(os.path.join(self.library, 'a film.mp4'), 'rb') as file:
             first = file.read()
 
-        app.find('push button', 'Convert')
+        app.find('list item', re.compile('a film.mkv.*Done'))
         self.click(app, 'push button', 'Clear')
         self.hand_over(clip)
         self.click(app, 'push button', 'Convert')
@@ -56,24 +56,37 @@ class ConversionTest(ProgramTest):
         with open(os.path.join(self.library, 'a film.mp4'), 'rb') as file:
             self.assertEqual(file.read(), first)
 
-    def test_leaving_asks_while_it_converts(self):
+    def test_goes_on_while_another_window_is_open(self):
         app = self.launch(self.clip('long.mp4', seconds=40, size='1280x720'))
-        self.click(app, 'push button', 'Convert')
+        app.find('list item', re.compile('long.mp4.*Ready'))
+        self.desktop.key('ctrl+Return')
         app.find('progress bar')
-        self.click(app, 'push button', 'Close')
-        self.click(app, 'push button', 'Keep Converting')
-        app.find('progress bar')
-        self.click(app, 'push button', 'Close')
-        self.click(app, 'push button', 'Stop and Leave')
+        self.click(app, 'push button', 'Back')
         app.find('push button', 'Recorder')
-        wait_for(lambda: not os.listdir(self.library), 'the unfinished file to be removed')
+        self.finished('long.mp4')
+
+    def test_options_and_cuts_by_keyboard(self):
+        app = self.launch(self.clip('film.mkv', seconds=6))
+        app.find('list item', re.compile('film.mkv.*Ready'))
+        self.desktop.key('ctrl+e')
+        app.find('dialog', re.compile('Cut and Edit'))
+        self.desktop.click(app.find('text', 'Position'))
+        self.desktop.key('ctrl+a')
+        self.desktop.x('xdotool', 'type', '2\t')
+        self.desktop.key('ctrl+o')
+        app.find('table cell', '0:00:02')
+        self.desktop.key('ctrl+Return')
+        wait_for(lambda: not app.find_all('dialog'), 'the window to close')
+        self.desktop.key('ctrl+Return')
+        self.finished('film.mp4')
+        self.assertAlmostEqual(probe(os.path.join(self.library, 'film.mp4'))[1], 2, delta=0.2)
 
     def test_unusable_file_says_why(self):
         path = os.path.join(self.desktop.home, 'letter.mp4')
         with open(path, 'w') as file:
             file.write('no film at all')
         app = self.launch(path)
-        app.find('table cell', re.compile('no video or sound file'))
+        app.find('list item', re.compile('letter.mp4.*no video or sound file'))
         self.assertNotIn('sensitive', states(app.find('push button', 'Convert')))
 
 

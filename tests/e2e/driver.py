@@ -88,6 +88,12 @@ class App:
         with open(f'/proc/{self.pid}/status') as file:
             return int(re.search(r'VmHWM:\s*(\d+) kB', file.read())[1]) / 1024
 
+    def main_thread_seconds(self):
+        """Processor time that the thread of its windows has had so far."""
+        with open(f'/proc/{self.pid}/task/{self.pid}/stat') as file:
+            fields = file.read().rpartition(')')[2].split()
+        return (int(fields[11]) + int(fields[12])) / os.sysconf('SC_CLK_TCK')
+
     def is_sanitized(self):
         """Built with the address sanitizer, which keeps what is freed."""
         with open(f'/proc/{self.pid}/maps') as file:

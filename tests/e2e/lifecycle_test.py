@@ -1,8 +1,6 @@
-"""Starts and ends: what is stored, what a crash leaves behind, and one program a user."""
-import glob
+"""Starts and ends: what is stored, and one program a user."""
 import os
 import signal
-import subprocess
 
 from accessible import wait_for
 from harness import ProgramTest, main
@@ -39,34 +37,6 @@ class LifecycleTest(ProgramTest):
                                   'recorder': 'JRecorderSetting', 'vars': None})
                 self.assertEqual(settings['vars'], {'openFolder': True, 'shutdown': False, 'notify': True})
 
-    def test_ends_with_its_display(self):
-        display = subprocess.Popen(['Xvfb', '-displayfd', '1', '-nolisten', 'tcp', '-noreset'], text=True,
-                                   stdout=subprocess.PIPE, stderr=subprocess.DEVNULL)
-        with display.stdout as number:
-            app = self.desktop.launch(self.bundle, DISPLAY=':' + number.readline().strip())
-        wait_for(lambda: self.stored(ENDED_BADLY), 'the flag of a run under way')
-        self.assertIsNone(self.stored('setting'))
-        display.terminate()
-        display.wait()
-        self.assertEqual(app.wait_for_end(), 1, app.output())
-        self.assertIs(self.stored(ENDED_BADLY), False)
-        self.assertIn('video', unarchived(self.stored('setting')))
-
-    def test_runs_without_a_log(self):
-        folder = os.path.dirname(self.desktop.log_path(self.bundle))
-        os.makedirs(os.path.dirname(folder))
-        with open(folder, 'w'):
-            pass
-        app = self.launch()
-        self.assertEqual(app.end(), 0)
-        self.assertIn('The log cannot be written', app.output())
-        self.assertIn('Application did Finished launching', app.output())
-
-    def test_keys_of_others_survive(self):
-        self.desktop.set_defaults(self.bundle, KeyOfSomebodyElse={'kept': [1, 2.5, b'bytes']})
-        self.assertEqual(self.launch().end(), 0)
-        self.assertEqual(self.stored('KeyOfSomebodyElse'), {'kept': [1, 2.5, b'bytes']})
-
     def test_second_start_raises_the_first(self):
         first = self.launch()
         copy = copy_bundle(self.bundle, self.desktop.home + '/Copy.app', CFBundleIdentifier='org.example.copy')
@@ -75,17 +45,6 @@ class LifecycleTest(ProgramTest):
         self.assertEqual(self.desktop.launch(self.bundle).wait_for_end(), 0)
         wait_for(lambda: self.desktop.windows()[-1]['pid'] == first.pid, 'the window to come to the front')
         self.assertEqual(len(first.windows()), 1)
-
-    def test_damaged_defaults_are_kept_aside(self):
-        path = self.desktop.defaults_path(self.bundle)
-        os.makedirs(os.path.dirname(path))
-        with open(path, 'w') as file:
-            file.write('<?xml version="1.0"?><plist><dict><key>setting</key>')
-        self.assertEqual(self.launch().end(), 0)
-        aside, = glob.glob(path + '.corrupt-*')
-        with open(aside) as file:
-            self.assertTrue(file.read().endswith('<key>setting</key>'))
-        self.assertIn('setting', self.defaults())
 
 
 if __name__ == '__main__':

@@ -3,6 +3,9 @@ import os
 import plistlib
 import shutil
 import subprocess
+import xml.etree.ElementTree as ElementTree
+
+CATALOGUES = os.path.join(os.path.dirname(os.path.abspath(__file__)), '../../resources/translations')
 
 
 def copy_bundle(bundle, destination, **info_changes):
@@ -19,6 +22,12 @@ def copy_bundle(bundle, destination, **info_changes):
 def bundle_information(bundle):
     with open(os.path.join(bundle, 'Contents', 'Info.plist'), 'rb') as file:
         return plistlib.load(file)
+
+
+def catalogue(language):
+    """The translations of the English texts."""
+    messages = ElementTree.parse(os.path.join(CATALOGUES, f'TarnwellPublic_{language}.ts')).iter('message')
+    return {message.findtext('source'): message.findtext('translation') for message in messages}
 
 
 def unarchived(data):

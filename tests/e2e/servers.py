@@ -7,7 +7,6 @@ import gzip
 import plistlib
 import select
 import socket
-import struct
 import threading
 
 PATIENCE = 60  # how long an answer goes on with a client that does not leave
@@ -58,13 +57,6 @@ def endless(connection):
     connection.repeat(b'x' * 65536)
 
 
-def reset(connection):
-    connection.head(Content_Length=1000)
-    connection.send('<?xml')
-    connection.wait(0.2)  # or the client would see nothing of it
-    connection.client.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack('ii', 1, 0))
-
-
 def slow(connection):
     connection.head(Content_Length=1_000_000)
     connection.repeat(b' ', pause=1)
@@ -76,18 +68,10 @@ def stall(connection):
 
 
 HOSTILE = {
-    '404': lambda connection: connection.document(b'<plist/>', '404 Not Found'),
-    '500': lambda connection: connection.document(b'<plist/>', '500 Internal Server Error'),
-    'redirect loop': lambda connection: connection.head('302 Found', Location=connection.path, Content_Length=0),
-    'redirect to a file': lambda connection: connection.head('302 Found', Location='file:///etc/hostname'),
     'endless body': endless,
     'one byte a second': slow,
     'stall after the headers': stall,
-    'reset': reset,
-    'wrong length': lambda connection: connection.head(Content_Length=1000) or connection.send('<plist>'),
     'gzip bomb': bomb,
-    'long header': lambda connection: connection.document(b'<plist/>', X_Filling='x' * 100_000),
-    'empty body': lambda connection: connection.document(b''),
     'binary noise': lambda connection: connection.send(bytes(range(255, -1, -1)) * 40),
     'HTML': lambda connection: connection.document(b'<!DOCTYPE html><p>Sign in to this network', content_type='text/html'),
     'list of 999 KB': lambda connection: connection.document(property_list(999_000)),

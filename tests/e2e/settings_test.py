@@ -1,9 +1,10 @@
-"""The settings window: every kind of control changed, what survives a restart, search, folders that are refused."""
+"""The settings window: every kind of control changed, and German."""
 import os
+import xml.etree.ElementTree as ElementTree
 
-from accessible import extents, states, wait_for, walk
+from accessible import states, wait_for, walk
 from harness import ProgramTest, main
-from material import unarchived
+from material import catalogue, unarchived
 
 DOWNLOAD_LISTS = (  # shown, picked, stored under, as
     ('5', 'Unlimited', 'concurrent', 0),
@@ -11,6 +12,11 @@ DOWNLOAD_LISTS = (  # shown, picked, stored under, as
     ('mp4', 'flv', 'format', 'flv'),
 )
 SWITCHES = ('Open the output folder when done', 'Shut down the computer when done', 'Show notifications')
+
+
+def names_below(node):
+    """All that is told of what is there."""
+    return {text.strip() for each in walk(node) for text in (each.get_name(), each.get_description()) if text.strip()}
 
 
 class SettingsTest(ProgramTest):
@@ -21,10 +27,6 @@ class SettingsTest(ProgramTest):
     def open(self, app):
         self.click(app, 'push button', 'Settings')
         return app.find('dialog', 'Settings')
-
-    def close(self, app, dialog):
-        self.desktop.click(next(node for node in walk(dialog) if node.get_name() == 'Close'))
-        wait_for(lambda: not app.find_all('dialog'), 'the settings to close')
 
     def pick(self, app, shown, picked):
         self.click(app, 'combo box', shown)
@@ -45,11 +47,11 @@ class SettingsTest(ProgramTest):
         self.desktop.key('ctrl+a')
         self.desktop.x('xdotool', 'type', text)
 
-    def test_changes_survive_a_restart(self):
+    def test_changes_are_stored(self):
         video = os.path.join(self.desktop.home, 'films')
         os.makedirs(video)
         app = self.launch()
-        dialog = self.open(app)
+        self.open(app)
         for name in SWITCHES:
             self.click(app, 'check box', name)
         self.click(app, 'radio button', 'Off')
@@ -75,52 +77,42 @@ class SettingsTest(ProgramTest):
         self.assertEqual(self.stored('video')['video_out'], video)
         self.assertEqual(self.stored('vars'), {'openFolder': False, 'shutdown': True, 'notify': False})
 
-        app = self.launch()
-        self.desktop.key('ctrl+comma')
-        dialog = app.find('dialog', 'Settings')
-        self.assertNotIn('checked', states(app.find('check box', 'Show notifications')))
-        self.assertIn('checked', states(app.find('radio button', 'Automatic')))
-        self.assertIn('checked', states(app.find('check box', 'Use a proxy')))
-        self.assertIn(video, app.texts())
-        self.click(app, 'push button', 'Download')
-        for name in ('Unlimited', '720P', 'flv', 'Japanese'):
-            app.find('combo box', name)
-        self.close(app, dialog)
-
     def test_hardware_information_asks_the_transcoder(self):
         app = self.launch()
         self.open(app)
-        self.click(app, 'push button', 'Hardware Information')
+        self.click(app, 'push button', 'Details…')
         wait_for(lambda: any('libx264' in text for text in app.texts()), 'the encoders of the transcoder')
 
-    def test_search_goes_to_the_section(self):
+    def test_in_german(self):
+        """No English sentence shows, and what is stored is what is stored in English."""
+        german = catalogue('de')
+        self.desktop.set_defaults(self.bundle, kAppCustomizeLanguage='de')
         app = self.launch()
-        dialog = self.open(app)
-        labels = {node.get_name(): node for node in walk(dialog) if node.get_role_name() == 'label'}
-        common, download = labels['Common'], labels['Download']
-        start = extents(common)[1]
-        self.type_into(app, 'Search Settings', 'RESOLUTION down')
-        app.find('list item', 'download resolution')
-        self.desktop.key('Return')
-        page = extents(dialog)
-        wait_for(lambda: page[1] < extents(download)[1] < page[1] + page[3], 'the download section')
-        self.type_into(app, 'Search Settings', 'notify')
-        self.desktop.key('Down', 'Return')
-        wait_for(lambda: extents(common)[1] == start, 'the common section')
+        shown = names_below(app.node())
+        self.click(app, 'push button', german['About'])
+        shown |= names_below(app.find('dialog'))
         self.desktop.key('Escape')
-        wait_for(lambda: not app.find_all('dialog'), 'Escape to close the settings')
-
-    def test_folders_that_cannot_be_used_are_refused(self):
-        app = self.launch()
-        self.open(app)
-        before = os.path.join(self.desktop.home, 'Movies/Mac Video Library')
-        self.choose(app, 'Choose… (Video, Video folder)', '/proc')
-        self.click(app, 'push button', 'OK')
-        wait_for(lambda: not app.find_all('push button', 'OK'), 'the alert to close')
-        self.assertIn(before, app.texts())
-        self.assertNotIn('/proc', app.texts())
-        self.click(app, 'push button', 'Open (Video, Video folder)')
-        wait_for(lambda: [f'file://{before}'.replace(' ', '%20')] in self.desktop.calls('xdg-open'), 'the file manager')
+        wait_for(lambda: not app.find_all('dialog'), 'the window to close')
+        self.click(app, 'push button', german['Settings'])
+        shown |= names_below(app.find('dialog'))
+        self.click(app, 'push button', german['Download'])
+        for title, picked in ((german['Highest Resolution'], '720P'), ('720P', german['Highest Resolution']),
+                              ('5', german['Unlimited'])):
+            self.pick(app, title, picked)
+        self.assertEqual(app.end(), 0)
+        archive = self.stored('downloader')
+        self.assertEqual([archive[key] for key in ('rso', 'concurrent', 'format')], ['Highest Resolution', 0, 'mp4'])
+        self.assertEqual(self.stored('dvd')['DVDAudioLanCode'], 'Default')
+        prompt = os.path.join(os.path.dirname(self.bundle), 'tests/kestrel_show_prompt')
+        app = self.desktop.launch_program(prompt, self.bundle, 'de')
+        app.find('push button')
+        shown |= names_below(app.node())
+        prompts = ElementTree.parse(os.path.join(self.bundle, 'Contents/Resources/prompt-mlde.xml')).getroot()
+        texts = {language: {element.text.strip() for element in prompts.find(language).iter() if element.text}
+                 for language in ('en', 'de')}
+        english = texts['en'] - texts['de'] | {key for key, text in german.items() if text and text != key}
+        self.assertGreater(len(shown & (texts['de'] | set(german.values()))), 40)
+        self.assertEqual(shown & english, set())
 
 
 if __name__ == '__main__':

@@ -19,7 +19,6 @@ NEWS = {'LastestVersion': '0.9', 'DownloadURLReg': SITE + 'get', 'NotificationTi
         'NotificationContent': 'A new guide to films from the garden.', 'NotificationURL': SITE + 'news?from=kestrel'}
 PROMOTION = {'title': 'All your films', 'details': ['<b>One</b> place', ' for all.'], 'button': 'Take a Look',
              'label': 'No, Thanks', 'url': SITE + 'offer', 'rate': '100', 'next_rate': 100, 'max_count': 1}
-YESTERDAY = '2001-02-03'
 DAY, RATE, DECLINES = '_AdvertisementDateString', '_AdvertisementRate', '_AdvertisementRefuse'
 
 
@@ -59,10 +58,6 @@ class UpdateTest(ProgramTest):
         with open(self.desktop.log_path(self.bundle)) as log:
             return text in log.read()
 
-    def check_by_menu(self, app):
-        self.choose_from_menu(app, 'Kestrel', 'Check for Updates…')
-        app.find('push button', 'Cancel')
-
     def wait_until_closed(self, app):
         wait_for(lambda: len(app.windows()) == 1, 'the window to close')
 
@@ -86,45 +81,6 @@ class UpdateTest(ProgramTest):
         self.assertNotIn(DAY, self.defaults())
         self.assertEqual(self.server.requests, ['/kestrel.plist', '/configuration.json'] * 2)
 
-    def test_compulsory_version(self):
-        self.publish(NEWER | {'ForceAppUpgrade': True})
-        app = self.start('A new version of')
-        self.click(app, 'push button', 'Download Now')
-        self.assertTrue(self.opened().startswith(SITE + 'get?'))
-        self.assertEqual(len(app.windows()), 2)
-        self.desktop.key('Return')  # is nobody's
-        self.assertTrue(app.is_running())
-        self.click(app, 'push button', 'Cancel')
-        self.assertEqual(app.wait_for_end(), 0)
-        self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
-
-    def test_up_to_date(self):
-        self.publish(NEWS)
-        app = self.start_quietly()
-        self.check_by_menu(app)
-        app.wait_for_text("You're up-to-date!")
-        self.assertIn('Spring has come', app.texts())
-        app.find('text', 'Spring has come')
-        self.desktop.key('Escape')
-        self.wait_until_closed(app)
-        self.check_by_menu(app)
-        self.click(app, 'push button', 'Learn More')
-        self.wait_until_closed(app)
-        self.assertTrue(self.opened().startswith(SITE + 'news?from=kestrel&'))
-
-    def test_unreachable(self):
-        self.server.documents = {'/kestrel.plist': ('503 Service Unavailable', b'')}
-        app = self.start_quietly()
-        self.assertTrue(self.logged(app, 'The update descriptor could not be read: '))
-        self.check_by_menu(app)
-        app.wait_for_text('Unable to connect to update server.')
-        self.assertEqual(app.find('progress bar').get_current_value(), 70)
-        self.click(app, 'push button', 'Cancel')
-        self.wait_until_closed(app)
-        self.publish(NEWS)
-        self.check_by_menu(app)
-        app.wait_for_text("You're up-to-date!")
-
     def test_promotion(self):
         def remembered():
             return tuple(self.defaults().get(key) for key in (DAY, RATE, DECLINES))
@@ -144,26 +100,6 @@ class UpdateTest(ProgramTest):
         assert_remembered(100, 1)
         if begun == today():
             self.assertEqual(self.start_quietly().end(), 0, 'once a day')
-
-        for act, declines in (('No, Thanks', 2), ('Escape', None), ('Take a Look', None)):
-            with self.subTest(act):
-                self.desktop.set_defaults(self.bundle, **{DAY: YESTERDAY, DECLINES: 1, RATE: 100})
-                app = self.start('All your films')
-                if act == 'Escape':
-                    self.desktop.key(act)
-                else:
-                    self.click(app, 'push button', act)
-                self.wait_until_closed(app)
-                self.assertEqual(app.end(), 0)
-                assert_remembered(100, declines or 1)
-        self.assertTrue(self.opened().startswith(SITE + 'offer?'))
-
-        self.desktop.set_defaults(self.bundle, **{DAY: YESTERDAY, DECLINES: 2})
-        self.assertEqual(self.start_quietly().end(), 0, 'declined too often')
-        assert_remembered(None, 2)
-        self.desktop.set_defaults(self.bundle, **{DAY: YESTERDAY, RATE: 0})
-        self.assertEqual(self.start_quietly().end(), 0, 'its later rate is 0')
-        self.assertEqual(remembered(), (YESTERDAY, 0, None))
 
     def test_another_application_keeps_the_keyboard(self):
         self.publish(NEWER)

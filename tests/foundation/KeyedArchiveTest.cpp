@@ -46,20 +46,6 @@ TEST(KeyedArchive, IsReadAgain)
     EXPECT_TRUE(root->contains(u"flags"_s) && root->decodeObject(u"flags"_s)->contains(u"no"_s));
 }
 
-TEST(KeyedArchive, ReadsAnotherImplementations)
-{
-    QFile file(QStringLiteral(KESTREL_TEST_DATA "/settings-foreign.archive"));
-    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    const auto root = KeyedDecoder::unarchive(file.readAll());
-    ASSERT_TRUE(root);
-    EXPECT_TRUE(root->contains(u"vars"_s) && root->decodeObject(u"vars"_s)->decodeBool(u"shutdown"_s));
-    const auto recorder = root->decodeObjectOfClass(u"JRecorderSetting"_s, u"recorder"_s);
-    ASSERT_TRUE(recorder);
-    EXPECT_TRUE(recorder->decodeString(u"video_out"_s).endsWith(u"/vidéo"_s));
-    EXPECT_TRUE(recorder->decodeInteger(u"quality"_s) == 2 && recorder->decodeDouble(u"maxFramerate"_s) == 24.0);
-    EXPECT_TRUE(recorder->decodeString(u"maxFramerate"_s).isNull());
-}
-
 // What is damaged reads as absent, and the entry beside it is still there. Numbers out of range are clamped.
 TEST(KeyedArchive, ReadsUnusualAndDamagedEntries)
 {

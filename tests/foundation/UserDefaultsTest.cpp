@@ -16,6 +16,7 @@
 #include <limits>
 
 #include <sys/resource.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -127,7 +128,10 @@ TEST_F(UserDefaultsTest, MovesADamagedFileAside)
 {
     const QByteArray good = writePropertyList(QVariantMap{{u"key"_s, 1}}, PropertyListFormat::Xml);
     const QByteArrayList damaged = {"", good.chopped(12), writePropertyList(QVariantList{1}, PropertyListFormat::Xml),
-                                    "bplist00", good + QByteArray(PropertyListLimits().bytes, ' ')};
+                                    "bplist00",
+                                    // which XML cannot hold
+                                    writePropertyList(QVariantMap{{u"key"_s, u"a\x01"_s}}, PropertyListFormat::Binary),
+                                    good + QByteArray(PropertyListLimits().bytes, ' ')};
     QList<qint64> sizes, sizesAside;
     for (const QByteArray &bytes : damaged) {  // within one second, so that the names meet
         putFile(bytes);
@@ -196,6 +200,26 @@ TEST_F(UserDefaultsTest, MergesTheSavesOfTwoProcesses)
     EXPECT_EQ(fileValues().size(), 300);
 }
 
+TEST_F(UserDefaultsTest, WhatIsChangedBackIsNotWritten)
+{
+    putValues({{u"a"_s, 1}, {u"b"_s, 2}});
+    UserDefaults defaults(m_path);
+    const auto changeAndBack = [&] {
+        defaults.removeObjectForKey(u"a"_s);
+        defaults.setObject(1, u"a"_s);
+        defaults.setObject(3, u"c"_s);
+        defaults.removeObjectForKey(u"c"_s);
+    };
+    changeAndBack();
+    ASSERT_TRUE(QFile::remove(m_path) && defaults.synchronize());
+    EXPECT_FALSE(QFile::exists(m_path));
+    changeAndBack();
+    defaults.setObject(4, u"b"_s);
+    putValues({{u"a"_s, 5}, {u"c"_s, 6}});  // by another process, which holds for what stayed the same here
+    ASSERT_TRUE(defaults.synchronize());
+    EXPECT_EQ(fileValues(), (QVariantMap{{u"a"_s, 5}, {u"b"_s, 4}, {u"c"_s, 6}}));
+}
+
 TEST_F(UserDefaultsTest, ACrashLeavesOneWholeValue)
 {
     int values[2] = {};
@@ -214,8 +238,41 @@ TEST_F(UserDefaultsTest, ACrashLeavesOneWholeValue)
         ASSERT_TRUE(defaults.synchronize()) << round;
     }
     EXPECT_TRUE(values[0] > 0 && values[1] > 0) << values[0] << " old, " << values[1] << " new";
-    EXPECT_EQ(QDir(m_folder).entryList({u"*.corrupt-*"_s, u"*.lock*"_s}, QDir::Files), QStringList());
+    EXPECT_EQ(QDir(m_folder).entryList({u"*.corrupt-*"_s, u"*.lock*"_s, u"*.saving-*"_s}, QDir::Files), QStringList());
     EXPECT_EQ(defaultsWarnings, QStringList());
+}
+
+TEST_F(UserDefaultsTest, ASaveRemovesWhatKilledOnesLeft)
+{
+    const QStringList left = {u"saving-fGh2Ij"_s, u"aBcdEf"_s, u"AbCdef"_s, u"XYZabc"_s};
+    const QStringList kept = {u"backup"_s, u"Backup"_s, u"BACKUP"_s, u"aBcdEfg"_s, u"aBcd1f"_s};
+    for (const QString &suffix : left + kept)
+        ASSERT_TRUE(QFile(m_path + u'.' + suffix).open(QIODevice::WriteOnly));
+    UserDefaults defaults(m_path);
+    defaults.setObject(1, u"key"_s);
+    EXPECT_TRUE(defaults.synchronize());
+    QStringList found = QDir(m_folder).entryList({u"defaults.plist.*"_s}, QDir::Files);
+    found.replaceInStrings(u"defaults.plist."_s, QString());
+    EXPECT_TRUE(std::ranges::is_permutation(found, kept)) << qPrintable(found.join(u' '));
+}
+
+TEST_F(UserDefaultsTest, FoldersAreTheOwnersAloneWhateverTheMask)
+{
+    for (const mode_t mask : {0, 022, 0777}) {
+        const QString folder = m_folder + u"/%1/below"_s.arg(mask);
+        const mode_t before = ::umask(mask);
+        UserDefaults defaults(folder + u"/defaults.plist"_s);
+        defaults.setObject(1, u"key"_s);
+        EXPECT_TRUE(defaults.synchronize());
+        ::umask(before);
+        struct stat status = {};
+        for (const QString &path : {folder, QFileInfo(folder).path()}) {
+            ASSERT_EQ(::stat(QFile::encodeName(path).constData(), &status), 0);
+            EXPECT_EQ(status.st_mode & 0777, mode_t(0700)) << mask;
+        }
+        ASSERT_EQ(::stat(QFile::encodeName(folder + u"/defaults.plist"_s).constData(), &status), 0);
+        EXPECT_EQ(status.st_mode & 0077, mode_t(0)) << mask;
+    }
 }
 
 TEST_F(UserDefaultsTest, TheStandardOnesAreSavedHoweverTheProgramEnds)

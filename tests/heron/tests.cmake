@@ -1,6 +1,6 @@
 kestrel_test(heron
-    SOURCES DiscContentsTest.cpp TitleClockTest.cpp
-    LINKS kestrel_disc kestrel_disc_reading)
+    SOURCES DiscContentsTest.cpp DiscPlanTest.cpp TitleClockTest.cpp
+    LINKS kestrel_disc kestrel_disc_reading kestrel_heron)
 
 # The tools over authored discs. A library that lets reads fail is preloaded into some.
 add_library(kestrel_failing_reads MODULE heron/failing_reads.cpp)
@@ -22,3 +22,12 @@ add_test(NAME heron.damaged_tables
     COMMAND Python3::Interpreter -B "${CMAKE_CURRENT_SOURCE_DIR}/heron/damaged_tables.py" 10000)
 set_tests_properties(heron.damaged_tables PROPERTIES
     ENVIRONMENT "${heron_environment}" FIXTURES_REQUIRED heron_discs TIMEOUT 3600 LABELS long)
+
+# kestrel-cli over the same discs: what arrives is looked at.
+foreach(suite Usage WholeDisc Titles)
+    add_test(NAME heron.disc_command.${suite}
+        COMMAND Python3::Interpreter -B "${CMAKE_CURRENT_SOURCE_DIR}/heron/disc_command_test.py" ${suite})
+    set_tests_properties(heron.disc_command.${suite} PROPERTIES
+        ENVIRONMENT "${heron_environment};KESTREL_CLI=$<TARGET_FILE:kestrel-cli>"
+        FIXTURES_REQUIRED heron_discs TIMEOUT 900 LABELS long)
+endforeach()

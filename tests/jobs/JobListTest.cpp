@@ -19,10 +19,9 @@ using tarnwell::operator""_key;
 
 namespace {
 
+using test::marlin;
 using test::scriptedRecord;
 using test::waitUntil;
-
-const QString marlin = u"marlin"_s;
 
 class JobListTest : public testing::Test {
 protected:

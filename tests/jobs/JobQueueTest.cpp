@@ -18,11 +18,11 @@ namespace kestrel {
 
 namespace {
 
+using test::marlin;
 using test::ScriptedJob;
 using test::scriptedRecord;
 using test::waitUntil;
 
-const QString marlin = u"marlin"_s;
 const JobOutcome done{.state = JobState::Done};
 
 /// Keeps what was stored last, and the order of what happened to it.

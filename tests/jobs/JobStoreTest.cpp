@@ -373,9 +373,4 @@ TEST_F(KilledWriterTest, NothingIsLostIn30Kills)
     killRepeatedly(30);
 }
 
-TEST_F(KilledWriterTest, DISABLED_NothingIsLostIn300Kills)
-{
-    killRepeatedly(300);
-}
-
 }  // namespace kestrel

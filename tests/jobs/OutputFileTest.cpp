@@ -199,7 +199,9 @@ TEST_F(OutputFileTest, ThePartsOfKilledOwnersGoAndNothingElse)
     const QString ownerTag = id.left(id.lastIndexOf(u'-'));
     const QStringList others{precious, path(u".a.kestrel-part-"_s + ownerTag + u"-90.mkv"_s),
                              path(u"b.kestrel-part-"_s + ownerTag + u"-92"_s),
-                             path(u".c.kestrel-part-"_s + ownerTag + u"-93.mkv"_s)};
+                             path(u".c.kestrel-part-"_s + ownerTag + u"-93.mkv"_s),
+                             path(u".d.kestrel-part-"_s + PartOwner::self().tag() + u"-94.mkv"_s)};
+    writeText(others[4], "of one that lives");
     writeText(others[1], "x");
     writeText(others[2], "x");
     EXPECT_TRUE(QFile::link(precious, others[3]));

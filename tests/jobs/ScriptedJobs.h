@@ -6,6 +6,8 @@
 
 namespace kestrel::test {
 
+inline const QString marlin = QStringLiteral("marlin");  ///< whose jobs they are
+
 /// A job that does what the test says.
 class ScriptedJob : public Job {
 public:

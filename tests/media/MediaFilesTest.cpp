@@ -65,6 +65,17 @@ TEST(FileNamesTest, EveryNameComesBack)
     EXPECT_EQ(foundation::readableFileName(decodedFileName("caf\xe9.avi")), u"caf\uFFFD.avi");
 }
 
+TEST(FileNamesTest, WordsOfACommandLine)
+{
+    char program[] = "kestrel", file[] = "../b/./caf\xe9.avi";
+    char *words[] = {program, file};
+    const QStringList arguments = foundation::decodedArguments(2, words);
+    ASSERT_EQ(arguments.size(), 2);
+    EXPECT_EQ(encodedFileName(foundation::absoluteFileName(arguments[1])),
+              QFile::encodeName(QDir::cleanPath(QDir::currentPath() + u"/../b"_s)) + "/caf\xe9.avi");
+    EXPECT_EQ(foundation::absoluteFileName(u"/a/../b"_s), u"/b");
+}
+
 TEST(FileNamesTest, AddressesOfDroppedFiles)
 {
     const std::pair<const char *, QByteArray> rows[] = {{"file:///a%20b.mp4", "/a b.mp4"},

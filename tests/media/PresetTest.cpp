@@ -28,7 +28,7 @@ TEST(Preset, EachHasANameOfItsOwnAndWhatItTakesToMakeIt)
         ASSERT_TRUE(read) << read.reason().english().toStdString();
         EXPECT_EQ(read->toJson(), preset.toJson());
     }
-    EXPECT_EQ(builtInPresets().first().id, "mp4-h264");
+    EXPECT_EQ(builtInPresets().first().id, u"mp4-h264"_s);
     EXPECT_GE(builtInPresets().size(), 40);
     EXPECT_GE(allPresets().size(), 180);
     for (const QString &id : {u"mp4-h264"_s, u"mkv-h264"_s, u"webm-vp9"_s, u"mp3"_s, u"flac"_s, u"mkv-copy"_s})

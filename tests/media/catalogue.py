@@ -3,7 +3,6 @@
 
 Each case converts a generated sample and looks at what arrived with ffprobe. With patterns only the cases run whose
 names contain one of them; `presets` writes and reads back every preset. The exit status is the number of failures."""
-import base64
 import json
 import os
 import pathlib
@@ -64,7 +63,9 @@ class Output:
 
     @property
     def seconds(self):
-        return float(self.told['format'].get('duration') or max(float(s.get('duration', 0)) for s in self.streams))
+        """Nothing where the container tells none."""
+        told = [float(t['duration']) for t in [self.told['format'], *self.streams] if 'duration' in t]
+        return told[0] if told else None
 
     @property
     def packets(self):
@@ -100,10 +101,6 @@ def mean_color(picture, x0, y0, x1, y1):
     return [s / max(count, 1) for s in sums]
 
 
-def kinds_told(steps):
-    return [(kind, codec) for kind, codec in steps['tracks']]
-
-
 def check_expectation(steps, output):
     """The steps' own word about their result has to be right: every job is measured by it."""
     for kind, covers in (('video', False), ('audio', False), ('subtitle', False)):
@@ -113,7 +110,7 @@ def check_expectation(steps, output):
     covers = [k for k, _ in steps['tracks'] if k == 'cover']
     assert len(output.of('video', True)) == len(covers), 'covers'
     assert len(output.told.get('chapters', [])) == steps['chapters'], f"chapters: {len(output.told.get('chapters', []))} instead of {steps['chapters']}"
-    if steps['seconds'] is not None:
+    if steps['seconds'] is not None and output.seconds is not None:
         tolerance = max(0.5, steps['seconds'] * 0.01)
         longest = 20 if steps['mayBeLonger'] else tolerance
         assert -tolerance <= output.seconds - steps['seconds'] <= longest, f"{output.seconds} s instead of {steps['seconds']}"
@@ -175,6 +172,7 @@ def preset_faults(catalogue):
             result.path.unlink()
         except (AssertionError, subprocess.TimeoutExpired, KeyError, IndexError, ValueError) as error:
             faults.append(f'preset {name}: {str(error)[:1200]}')
+            print(faults[-1], flush=True)
     print(f'{tried} presets written and read back, {len(faults)} failed', flush=True)
     return faults
 
@@ -196,12 +194,13 @@ def main():
                 frame = traceback.extract_tb(error.__traceback__)
                 place = next((f for f in reversed(frame) if f.filename.endswith('cases.py')), frame[-1])
                 faults.append(f'{name} ({place.lineno}): {error or place.line}')
+                print(faults[-1], flush=True)
             except Exception:
                 faults.append(f'{name}: {traceback.format_exc(limit=-3)}')
+                print(faults[-1], flush=True)
         print(f'{tried} cases, {len(faults)} failed', flush=True)
         if not patterns or 'presets' in patterns:
             faults += preset_faults(catalogue)
-    print('\n'.join(faults))
     return min(len(faults), 100)
 
 

@@ -1,5 +1,4 @@
 """The samples of catalogue.py, each made by ffmpeg when it is first asked for."""
-import pathlib
 import struct
 import subprocess
 
@@ -115,17 +114,17 @@ class Samples:
         """The same in MP4."""
         cover = self.folder / 'cover.jpg'
         source = self.path('languages')
-        self.ffmpeg('-i', source, '-i', cover, '-map', '0:V', '-map', '0:a', '-map', '0:s', '-map', '1', '-c', 'copy', '-c:s', 'mov_text',
+        self.ffmpeg('-i', source, '-i', cover, '-map', '0:V', '-map', '0:a', '-map', '0:s', '-map', '1', '-map_metadata', '0', '-c', 'copy', '-c:s', 'mov_text',
                     '-disposition:v:1', 'attached_pic', path)
 
     def make_cues(self, path):
         pgs(path, [(1.0, 2.0), (2.5, 3.5)])
 
     def make_bitmaps(self, path):
-        self.ffmpeg('-i', self.path('flat'), '-i', self.path('cues'), '-map', '0', '-map', '1', '-c', 'copy', '-metadata:s:s:0', 'language=fre', path)
+        self.ffmpeg('-copyts', '-i', self.path('flat'), '-i', self.path('cues'), '-map', '0', '-map', '1', '-c', 'copy', '-metadata:s:s:0', 'language=fre', path)
 
     def make_dvdsub(self, path):
-        self.ffmpeg('-i', self.path('bitmaps'), '-map', '0', '-c', 'copy', '-c:s', 'dvdsub', path)
+        self.ffmpeg('-fix_sub_duration', '-i', self.path('bitmaps'), '-map', '0', '-c', 'copy', '-c:s', 'dvdsub', path)
 
     def make_song(self, path):
         cover = self.folder / 'songcover.jpg'

@@ -67,10 +67,7 @@ QJsonObject answer(const QJsonObject &question)
         auto source = parseMediaInformation(report.toString().toUtf8());
         if (!source)
             return {{u"refused"_s, u"no report"_s}};
-        for (MediaTrack &track : source->tracks) {
-            if (track.kind == MediaTrack::Kind::Video)
-                addPictureData(question[u"pictureData"_s].toString().toUtf8(), track);
-        }
+        addPictureData(question[u"pictureData"_s].toString().toUtf8(), *source);
         sources.append(*source);
     }
     if (question.contains(u"preview"_s)) {

@@ -14,7 +14,7 @@ ModuleSettings::ModuleSettings(qint32 kind)
 {
     QDir().mkpath(folder());
     QDir().mkpath(QFileInfo(toolPath({})).path());
-    for (const QString &tool : {u"ffmpeg"_s, u"mediainfo"_s})
+    for (const QString &tool : {u"ffmpeg"_s, u"ffprobe"_s, u"ffplay"_s, u"mediainfo"_s})
         QFile::link(QStandardPaths::findExecutable(tool), toolPath(tool));
     m_bundle = std::make_unique<foundation::Bundle>(path(u"Test.app"_s));
     m_installedBundle = std::make_unique<tarnwell::Installed<const foundation::Bundle>>(*m_bundle);

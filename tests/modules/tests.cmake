@@ -1,5 +1,8 @@
 kestrel_test(modules
     SOURCES
+        ConversionTest.cpp
+        MarlinControllerTest.cpp
         ModuleSettings.cpp ModuleSettings.h
         OverviewControllerTest.cpp
-    LINKS kestrel_marlin_ui kestrel_heron kestrel_petrel_ui kestrel_plover kestrel_test_product)
+        OwnPresetsTest.cpp
+    LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover_ui kestrel_test_product)

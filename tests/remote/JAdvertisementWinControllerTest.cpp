@@ -14,6 +14,7 @@
 
 #include <QApplication>
 #include <QBuffer>
+#include <QLabel>
 #include <QPushButton>
 #include <QTest>
 #include <QtEndian>
@@ -66,6 +67,11 @@ QByteArray slowGif()
     return gif;
 }
 
+struct TagAsQuery final : tarnwell::WebLinkDelegate {
+    QString traceSuffix(const QString &tag) const override { return u"?from="_s + tag; }
+    QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
+};
+
 class JAdvertisementWinControllerTest : public testing::Test {
 protected:
     JAdvertisementWinControllerTest()
@@ -77,6 +83,8 @@ protected:
 
     test::ProductFolder m_product{test::productInformation()};
     test::TestDesktop m_desktop;
+    TagAsQuery m_links;
+    tarnwell::Installed<tarnwell::WebLinkDelegate> m_installedLinks{m_links};
     foundation::UserDefaults m_defaults{m_product.contentsPath(u"defaults.plist"_s)};
 };
 
@@ -87,15 +95,20 @@ TEST_F(JAdvertisementWinControllerTest, ButtonsKeepTheirPlaces)
     for (const qsizetype length : {0, 5, 40, 3000}) {
         JAdvertisementWinController controller(m_defaults);
         const QString title(length, u'M');
-        controller.setMyItem(ADItem::initWithDictionary({{u"button"_s, title}, {u"label"_s, u"R&D"_s}}));
+        controller.setMyItem(
+            ADItem::initWithDictionary({{u"button"_s, title}, {u"label"_s, u"R&D"_s}, {u"title"_s, u"Spring"_s}}));
         tarnwell::TitledWindow *window = controller.window();
         const auto *left = window->findChild<QPushButton *>(u"myLeftButton"_s);
         const auto *right = window->findChild<QPushButton *>(u"myRightButton"_s);
         const foundation::Rect leftFrame = tarnwell::viewFrame(left);
         EXPECT_TRUE(leftFrame.origin == foundation::Point({55, 20}) && left->text() == "R&&D"_L1);
         EXPECT_EQ(left->width(), left->sizeHint().width());
+        EXPECT_EQ(window->size(), QSize(640, 480));
+        EXPECT_EQ(window->windowTitle(), u"Kestrel Converter 4K"_s);
+        EXPECT_EQ(window->findChild<QLabel *>(u"myTitleLabel"_s)->text(), u"Spring"_s);
         const foundation::Rect frame = tarnwell::viewFrame(right);
         EXPECT_EQ(frame.origin.x + frame.size.width, window->width() - 45) << length;
+        EXPECT_EQ(frame.origin.y, 20) << length;
         EXPECT_GE(frame.origin.x, 55 + leftFrame.size.width + 16) << length;
         EXPECT_TRUE(right->width() >= right->sizeHint().width()) << length;
         EXPECT_EQ(right->toolTip().isEmpty(), length < 3000) << length;
@@ -141,7 +154,7 @@ TEST_F(JAdvertisementWinControllerTest, OnlyADeclineIsRemembered)
         EXPECT_EQ(shown, row.close ? 1 : 0) << row.name;
         EXPECT_EQ(m_defaults.integerForKey(advertisementRefuseKey.toString()), row.declines) << row.name;
         EXPECT_EQ(m_defaults.integerForKey(advertisementRateKey.toString()), row.declines == 2 ? 25 : 0) << row.name;
-        EXPECT_EQ(m_desktop.opened.size(), row.opens ? 1 : 0) << row.name;
+        EXPECT_EQ(m_desktop.opened, row.opens ? QList{QUrl(page + u"?from=adui"_s)} : QList<QUrl>()) << row.name;
     }
 }
 

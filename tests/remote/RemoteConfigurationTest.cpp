@@ -4,6 +4,7 @@
 
 #include <QDir>
 #include <QJsonDocument>
+#include <QStringConverter>
 
 #include <ctime>
 
@@ -37,6 +38,7 @@ TEST(RemoteConfiguration, ReadsEveryField)
     // What a fetched document names must never lead to a file.
     EXPECT_EQ(request.schemes, foundation::FetchSchemes::Web);
     EXPECT_EQ(request.maximumBytes, 1024 * 1024);
+    EXPECT_EQ(request.timeLimit, std::chrono::seconds(5));
     EXPECT_EQ(configuration->adParser()->pictureURL(), u"https://example.com/picture.png"_s);
     const ADItem &item = *configuration->adParser()->full();
     EXPECT_EQ(QStringList({item.title(), item.rightBtnTitle(), item.rightBtnURL(), item.leftBtnTitle()}),
@@ -50,6 +52,22 @@ TEST(RemoteConfiguration, ReadsEveryField)
     EXPECT_EQ(configuration->topRightBtnConfig()->dictionary(), QJsonObject({{u"text"_s, u"old"_s}}));
     EXPECT_EQ(configuration->topRightBtnConfig_full()->dictionary().value(u"list"_s), QJsonArray({1, u"2"_s}));
     EXPECT_FALSE(AppRMConfig::initWithURL(u"x"_s, [](const auto &) { return foundation::FetchResult{{}, u"no"_s}; }));
+}
+
+TEST(RemoteConfiguration, ReadsEveryEncodingOfUnicode)
+{
+    const QString text = u"{\"ads\": {\"full\": {\"title\": \"Frühling 🎬\"}}}"_s;
+    using Encoding = QStringConverter::Encoding;
+    for (const Encoding encoding : {Encoding::Utf8, Encoding::Utf16LE, Encoding::Utf16BE, Encoding::Utf32LE}) {
+        for (const auto flag : {QStringConverter::Flag::Default, QStringConverter::Flag::WriteBom}) {
+            QStringEncoder encoder(encoding, flag);
+            const QByteArray bytes = encoder(text);
+            const auto configuration = AppRMConfig::initWithData(bytes);
+            ASSERT_TRUE(configuration->adParser()) << bytes.toHex(' ').left(20).toStdString();
+            EXPECT_EQ(configuration->adParser()->full()->title(), u"Frühling 🎬"_s);
+        }
+    }
+    EXPECT_FALSE(AppRMConfig::initWithData(QByteArray("\xFF\xFE{\0\x00\xD8}\0", 8))->adParser());
 }
 
 TEST(RemoteConfiguration, ReadsItemsLeniently)

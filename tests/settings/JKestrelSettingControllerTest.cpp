@@ -49,7 +49,10 @@ protected:
     JKestrelSettingControllerTest()
     {
         foundation::NotificationCenter::defaultCenter().addObserver(
-            &m_parent, keyKestrelSettingDidChangedNotification.toString(), [this](const QObject *) { ++m_posted; });
+            &m_parent, keyKestrelSettingDidChangedNotification.toString(), [this](const QObject *) {
+                ++m_posted;
+                m_atPost = m_stored();
+            });
     }
     void present()
     {
@@ -93,6 +96,8 @@ protected:
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults, true};
     int m_posted = 0;
+    std::function<QVariant()> m_stored = [] { return QVariant(); };
+    QVariant m_atPost;  ///< what `m_stored` said when it was posted last
     QWidget m_parent;
     JKestrelSettingController m_controller{m_setting, m_defaults};
 };
@@ -201,9 +206,11 @@ TEST_F(JKestrelSettingControllerTest, bound_controls_store_edits_and_reload)
 TEST_F(JKestrelSettingControllerTest, hardware_choices)
 {
     present();
+    m_stored = [this] { return QVariant(m_setting.intelQSV()); };
     for (const int button : {3, 1, 3, 2}) {
         find<QAbstractButton>(u"hardwareButton%1"_s.arg(button))->click();
         EXPECT_EQ(m_setting.intelQSV(), button != 3);
+        EXPECT_EQ(m_atPost, m_setting.intelQSV()) << "announced before it held";
     }
     EXPECT_EQ(m_posted, 4);
     m_setting.setIntelQSV(false);
@@ -229,6 +236,7 @@ TEST_F(JKestrelSettingControllerTest, choosing_folders)
         const JSettingBase *setting = m_controller.getSettingObjectWithID(index / 3 + 1);
         const auto stored = [&] { return setting->property((kind.toLower() + u"OutputPath"_s).toLatin1()).toString(); };
         const QString before = stored();
+        m_stored = stored;
         for (const QString &answer : {QString(), m_folder.filePath(u"missing"_s)}) {  // cancelled, not writable
             m_desktop.folder = answer;
             row->chooseButton()->click();
@@ -240,6 +248,7 @@ TEST_F(JKestrelSettingControllerTest, choosing_folders)
         QDir().mkpath(m_desktop.folder);
         row->chooseButton()->click();
         EXPECT_EQ(stored(), m_desktop.folder);
+        EXPECT_EQ(m_atPost, m_desktop.folder) << "announced before it held";
         EXPECT_EQ(row->path(), m_desktop.folder);
         EXPECT_EQ(m_posted, index + 1);
         row->openButton()->click();
@@ -281,6 +290,89 @@ TEST_F(JKestrelSettingControllerTest, the_proxy_is_stored_when_the_window_closes
         EXPECT_TRUE(enable->isChecked() == isEnabled && url->text() == urlText);
     }
     EXPECT_EQ(m_posted, 0);
+}
+
+TEST_F(JKestrelSettingControllerTest, an_address_that_will_be_refused_is_marked_while_it_is_typed)
+{
+    present();
+    auto *enable = find<QAbstractButton>(u"downloaderProxyEnableButton"_s);
+    auto *url = find<QLineEdit>(u"downloaderProxyURLField"_s);
+    auto *hint = find<QLabel>(u"downloaderProxyHint"_s);
+    const struct {
+        bool isOn;
+        QString url;
+        bool isMarked;
+    } rows[] = {{false, u"proxy"_s, false},  {true, u"proxy"_s, true}, {true, u"http://proxy"_s, false},
+                {true, u"10.0.0.1"_s, true}, {true, u""_s, true},      {false, u""_s, false}};
+    for (const auto &[isOn, text, isMarked] : rows) {
+        SCOPED_TRACE(qPrintable(text));
+        if (enable->isChecked() != isOn)
+            enable->click();
+        url->clear();
+        QTest::keyClicks(url, text);
+        EXPECT_EQ(url->property("refused").toBool(), isMarked);
+        EXPECT_EQ(hint->text().startsWith(u"Will not be accepted"_s), isMarked);
+        EXPECT_EQ(url->accessibleDescription(), hint->text());
+    }
+}
+
+TEST_F(JKestrelSettingControllerTest, return_does_what_the_control_with_the_keyboard_says_and_closes_nothing)
+{
+    present();
+    find<QAbstractButton>(u"downloaderProxyEnableButton"_s)->click();
+    for (const QString &name : {u"downloaderProxyURLField"_s, u"downloaderProxyPortField"_s, u"searchField"_s,
+                                u"shutdownButton"_s, u"dvdLangList"_s, u"videoButton"_s}) {
+        QTest::keyClick(find(name), Qt::Key_Return);
+        EXPECT_TRUE(m_controller.isPresented()) << qPrintable(name);
+    }
+    EXPECT_FALSE(m_setting.shutdownWhenDone());
+    EXPECT_TRUE(markIsAt(u"videoButton"_s));
+    find(u"closeButton"_s)->setFocus();
+    QTest::keyClick(find(u"closeButton"_s), Qt::Key_Return);
+    EXPECT_FALSE(m_controller.isPresented());
+}
+
+TEST_F(JKestrelSettingControllerTest, what_is_typed_is_stored_without_closing)
+{
+    m_controller.storeProxy();
+    EXPECT_TRUE(m_setting.downloader()->proxyURL().isNull()) << "no window, no edits";
+    present();
+    find<QAbstractButton>(u"downloaderProxyEnableButton"_s)->click();
+    find<QLineEdit>(u"downloaderProxyURLField"_s)->setText(u"http://proxy"_s);
+    m_controller.storeProxy();
+    EXPECT_EQ(m_setting.downloader()->proxyURL(), u"http://proxy"_s);
+    EXPECT_TRUE(m_setting.downloader()->proxyEnabled() && m_controller.isPresented());
+}
+
+TEST_F(JKestrelSettingControllerTest, settings_that_cannot_be_saved_say_so)
+{
+    present();
+    EXPECT_FALSE(find(u"saveNote"_s)->isVisible());
+    m_controller.onCloseAction();
+    const QString obstacle = m_folder.filePath(u"defaults.plist"_s);
+    ASSERT_TRUE(QDir().mkpath(obstacle));
+    m_defaults.setObject(1, u"key"_s);
+    present();
+    EXPECT_TRUE(find(u"saveNote"_s)->isVisible());
+    m_controller.onCloseAction();
+    QDir().rmdir(obstacle);
+    present();
+    EXPECT_FALSE(find(u"saveNote"_s)->isVisible());
+}
+
+TEST_F(JKestrelSettingControllerTest, the_page_gives_way_on_a_small_screen)
+{
+    QDialog *window = m_controller.window();
+    present();
+    const int wanted = window->height();
+    window->resize(window->width(), 400);
+    EXPECT_EQ(window->height(), 400);
+    auto *close = find(u"closeButton"_s);
+    EXPECT_TRUE(window->rect().contains(QRect(close->mapTo(window, QPoint()), close->size())));
+    EXPECT_LT(find(u"settingScroll"_s)->height(), 400);
+    m_controller.onCloseAction();
+    present();
+    EXPECT_EQ(window->height(), wanted);
 }
 
 }  // namespace kestrel

@@ -1,6 +1,8 @@
 #include "settings/ProxyRule.h"
 #include "settings/SettingLists.h"
 #include "settings/SettingPage.h"
+#include "tarnwell/Installed.h"
+#include "tarnwell/Localization.h"
 
 #include <gtest/gtest.h>
 
@@ -48,6 +50,21 @@ TEST(SettingRulesTest, concurrency)
     EXPECT_EQ(values, (QList<qint64>{1, 2, 3, 5, 10, 0}));
     for (const qint64 stored : std::initializer_list<qint64>{4, -1, INT64_MIN})
         EXPECT_EQ(concurrencyTitle(stored), u"5"_s) << stored;
+}
+
+TEST(SettingRulesTest, translated_titles_stand_for_what_is_stored)
+{
+    tarnwell::Localization german(QStringLiteral(KESTREL_TRANSLATIONS), u"de"_s);
+    const tarnwell::Installed<tarnwell::Localization> installed(german);
+    QStringList stored;
+    for (const QString &title : resolutionTitles()) {
+        stored.append(resolutionOfTitle(title));
+        EXPECT_EQ(resolutionTitle(stored.last()), title);
+    }
+    EXPECT_EQ(stored.join(u' '), u"240P 360P 480P 720P 1080P Highest Resolution"_s);
+    EXPECT_NE(resolutionTitles().last(), stored.last());
+    EXPECT_NE(concurrencyTitle(0), u"Unlimited"_s);
+    EXPECT_EQ(concurrencyOfTitle(concurrencyTitle(0)), 0);
 }
 
 TEST(SettingRulesTest, languages_are_named_in_the_display_language)

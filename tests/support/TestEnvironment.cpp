@@ -38,4 +38,11 @@ bool waitUntil(const std::function<bool()> &condition, int limitMs)
     return QTest::qWaitFor(condition, limitMs);
 }
 
+double processorMs()
+{
+    timespec time = {};
+    ::clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return double(time.tv_sec) * 1e3 + double(time.tv_nsec) / 1e6;
+}
+
 }  // namespace kestrel::test

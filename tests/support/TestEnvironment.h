@@ -19,4 +19,7 @@ private:
 /// Runs the event loop until `condition` holds. False where it does not within `limitMs`.
 bool waitUntil(const std::function<bool()> &condition, int limitMs = 5000);
 
+/// Processor time of the calling thread so far, in milliseconds.
+double processorMs();
+
 }  // namespace kestrel::test

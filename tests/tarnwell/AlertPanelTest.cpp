@@ -25,24 +25,24 @@ TEST(Alerts, AreAnswered)
     const auto click = [](const QString &name) {
         return [name](QWidget *panel) { panel->findChild<QPushButton *>(name)->click(); };
     };
+    Alert harmfulAlternate = question;
+    harmfulAlternate.answerToEscape = AlertAnswer::Default;
+    const auto press = [](Qt::Key key) { return [key](QWidget *panel) { QTest::keyClick(panel, key); }; };
     const Alert message = {u"Done"_s, u"OK"_s, {}, {}, AlertStyle::Informational};
-    Alert careful = question;
-    careful.answerToEscape = AlertAnswer::Default;
     const struct {
         const char *name;
         Alert alert;
         std::function<void(QWidget *panel)> act;
         AlertAnswer answer;
     } rows[] = {
-        {"Return", question, [](QWidget *panel) { QTest::keyClick(panel, Qt::Key_Return); }, AlertAnswer::Default},
-        {"Escape", question, [](QWidget *panel) { QTest::keyClick(panel, Qt::Key_Escape); }, AlertAnswer::Alternate},
-        {"one button", message, [](QWidget *panel) { QTest::keyClick(panel, Qt::Key_Escape); }, AlertAnswer::Default},
+        {"Return", question, press(Qt::Key_Return), AlertAnswer::Default},
+        {"Escape", question, press(Qt::Key_Escape), AlertAnswer::Alternate},
+        {"Escape where that does harm", harmfulAlternate, press(Qt::Key_Escape), AlertAnswer::Default},
+        {"one button", message, press(Qt::Key_Escape), AlertAnswer::Default},
         {"first button", question, click(u"defaultButton"_s), AlertAnswer::Default},
         {"second button", question, click(u"alternateButton"_s), AlertAnswer::Alternate},
-        {"Escape, careful", careful, [](QWidget *panel) { QTest::keyClick(panel, Qt::Key_Escape); },
-         AlertAnswer::Default},
-        {"second button, careful", careful, click(u"alternateButton"_s), AlertAnswer::Alternate},
-        {"closed", question, [](QWidget *panel) { panel->close(); }, AlertAnswer::Alternate},
+        {"closed", question, [](QWidget *panel) { panel->close(); }, AlertAnswer::None},
+        {"one button, closed", message, [](QWidget *panel) { panel->close(); }, AlertAnswer::Default},
     };
     for (const auto &row : rows) {
         QTimer::singleShot(0, qApp, [&row] { row.act(QApplication::activeModalWidget()); });

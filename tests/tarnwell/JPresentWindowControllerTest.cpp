@@ -1,11 +1,15 @@
 #include "tarnwell/ui/JPresentWindowController.h"
 
 #include "tarnwell/ui/TitledWindow.h"
+#include "tarnwell/ui/WindowTitleBar.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <QApplication>
 #include <QDialog>
 #include <QLineEdit>
+#include <QMenu>
+#include <QMenuBar>
+#include <QPushButton>
 #include <QTest>
 #include <QVBoxLayout>
 
@@ -60,7 +64,6 @@ TEST_F(PresentedSheet, HangsBelowTheTitleBarWithTheKeyboardAndFollows)
     m_controller.presentForWindow(m_window.get());
     ASSERT_TRUE(QTest::qWaitForWindowActive(m_controller.window()));
     EXPECT_TRUE(test::waitUntil([this] { return QApplication::focusWidget() == m_controller.field; }));
-    EXPECT_EQ(m_controller.window()->windowModality(), Qt::WindowModal);
     EXPECT_EQ(corner(), QPoint(150 + (500 - 300) / 2, 100 + 24));
     m_window->move(200, 180);
     QCoreApplication::processEvents();
@@ -110,6 +113,51 @@ TEST_F(PresentedSheet, ComesOverToAnotherWindow)
     QCoreApplication::processEvents();
     EXPECT_TRUE(m_controller.isPresented());
     EXPECT_EQ(corner(), QPoint(50, 24));
+}
+
+TEST_F(PresentedSheet, KeepsTheContentOutOfReachAndTheMenusInReach)
+{
+    QMenu menu(u"Kestrel"_s);
+    int quits = 0;
+    QAction *quit = menu.addAction(u"Quit"_s, &menu, [&] { ++quits; });
+    quit->setShortcut(Qt::CTRL | Qt::Key_Q);
+    m_window->setMenus({&menu});
+    QPushButton button(u"Convert"_s, m_window->contentView());
+    button.setGeometry(0, 300, 100, 50);
+    button.show();
+    int clicks = 0;
+    QObject::connect(&button, &QPushButton::clicked, &button, [&] { ++clicks; });
+    QWindow *handle = m_window->windowHandle();
+    const QPoint onButton = button.mapTo(m_window.get(), QPoint(50, 25));
+    QMenu *shown = m_window->titleBarView()->menus().constFirst();
+    auto *bar = m_window->findChild<QMenuBar *>();
+    const QPoint onMenu = bar->mapTo(m_window.get(), bar->actionGeometry(shown->menuAction()).center());
+    const auto clickBoth = [&] {
+        QTest::mouseClick(handle, Qt::LeftButton, {}, onButton);
+        QTest::mousePress(handle, Qt::LeftButton, {}, onMenu);
+        const bool opens = test::waitUntil([&] { return shown->isVisible(); }, 1000);
+        QTest::mouseRelease(handle, Qt::LeftButton, {}, onMenu);
+        shown->close();
+        return opens;
+    };
+    m_controller.presentForWindow(m_window.get());
+    ASSERT_TRUE(QTest::qWaitForWindowActive(m_controller.window()));
+    QTest::keyClick(m_controller.window()->windowHandle(), Qt::Key_Q, Qt::ControlModifier);
+    EXPECT_EQ(quits, 1);
+    EXPECT_TRUE(clickBoth());
+    EXPECT_EQ(clicks, 0);
+    QTest::mouseClick(handle, Qt::LeftButton, {}, {16, 12});  // the close button
+    EXPECT_TRUE(m_window->isVisible());
+    m_window->activateWindow();
+    EXPECT_TRUE(test::waitUntil([this] { return m_controller.window()->isActiveWindow(); }));
+    QTest::keyClick(m_controller.window()->windowHandle(), Qt::Key_F10);
+    EXPECT_TRUE(test::waitUntil([&] { return shown->isVisible(); }));
+    shown->close();
+
+    m_controller.onCloseAction();
+    EXPECT_TRUE(clickBoth());
+    EXPECT_EQ(clicks, 1);
+    EXPECT_FALSE(m_controller.window()->actions().contains(quit));
 }
 
 }  // namespace

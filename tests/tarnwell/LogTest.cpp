@@ -111,8 +111,11 @@ TEST(Log, TakesFormatsAndMessagesOfQt)
     Log log(folder.path());
     const Installed<Log> installed(log);
     const QtMessageLog messages;
+    for (int i = 0; i < 100; ++i)
+        qWarning("OpenType support missing for \"Liberation Sans\", script %d", i);
     qWarning("from Qt, at %s", qPrintable(QDir::homePath()));
     DNFootLog(u"%1 of %2"_s, u"50%2"_s, u"x"_s);
+    EXPECT_EQ(contents(log.path()).count(u"OpenType support"_s), 1);
     EXPECT_EQ(contents(log.path()).count(u"from Qt, at ~\n"_s), 1);
     EXPECT_TRUE(contents(log.path()).endsWith(u"[main] 50%2 of x\n"_s));
 }

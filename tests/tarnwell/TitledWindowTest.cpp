@@ -3,11 +3,16 @@
 #include "tarnwell/ui/TitledWindow.h"
 #include "tarnwell/ui/WindowTitleBar.h"
 
+#include <QAccessible>
+#include <QActionGroup>
+#include <QMenu>
 #include <QScreen>
 #include <QSignalSpy>
 #include <QTest>
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 using namespace kestrel::tarnwell;
@@ -58,6 +63,78 @@ TEST(TitledWindow, ClosesByRequestUnlessRefused)
     window.makeKeyAndOrderFront();
     button->click();
     EXPECT_TRUE(!window.isVisible() && willClose.size() == 2);
+}
+
+TEST(TitledWindow, ComesIntoViewWithItsContentAndIsSizedOnlyWhereItMayBe)
+{
+    TitledWindow window;
+    const QScreen &screen = *QGuiApplication::primaryScreen();
+    const QRect free = screen.availableGeometry();
+    const struct {
+        const char *name;
+        QRect place, expected;
+    } rows[] = {{"inside", {10, 10, 300, 200}, {10, 10, 300, 200}},
+                {"above the upper edge", {10, -40, 300, 200}, {10, 0, 300, 200}},
+                {"beyond the corner",
+                 {free.width() - 10, free.height() - 10, 300, 200},
+                 {free.width() - 300, free.height() - 200, 300, 200}},
+                {"too large", {-50, 20, free.width() + 90, free.height() + 9}, free}};
+    QWidget view(window.contentView());
+    window.setFillingView(&view);
+    for (const auto &[name, place, expected] : rows) {
+        window.setGeometry(place);
+        window.comeIntoView(screen);
+        EXPECT_EQ(window.geometry(), expected) << name;
+        EXPECT_EQ(view.geometry(), window.contentView()->rect()) << name;
+    }
+    window.setFrame({0, 0, 300, 200});
+    window.setResizable(false);
+    window.resize(500, 500);
+    EXPECT_EQ(window.size(), QSize(300, 200));
+    window.setFrame({0, 0, 400, 100});
+    EXPECT_EQ(window.frame(), Rect(0, 0, 400, 100));
+}
+
+/// Each window's entries as assistive programs find them.
+TEST(TitledWindow, MenusAreEachWindowsOwnAndOneInWhatTheyDo)
+{
+    QMenu menu(u"Help"_s);
+    int calls = 0;
+    QAction *entry = menu.addAction(u"About"_s, &menu, [&] { ++calls; });
+    QMenu *languages = menu.addMenu(u"Language"_s);
+    QActionGroup choices(languages);
+    for (const QString &language : {u"English"_s, u"Deutsch"_s}) {
+        QAction *choice = languages->addAction(language);
+        choice->setCheckable(true);
+        choices.addAction(choice);
+    }
+    languages->actions().at(0)->setChecked(true);
+    std::array<TitledWindow, 2> windows;
+    for (TitledWindow &window : windows) {
+        window.setMenus({&menu});
+        window.setGeometry(0, 0, 400, 300);
+        window.show();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(&window));
+        QTest::keyClick(window.windowHandle(), Qt::Key_F10);
+        QMenu *own = window.titleBarView()->menus().constFirst();
+        ASSERT_TRUE(QTest::qWaitFor([&] { return own->isVisible(); }));
+        QAccessibleInterface *accessible = QAccessible::queryAccessibleInterface(own);
+        for (int i = 0; i < accessible->childCount(); ++i) {
+            EXPECT_FALSE(accessible->child(i)->state().invisible) << i;
+            EXPECT_EQ(accessible->child(i)->parent()->object(), own) << i;
+        }
+        own->actions().at(0)->trigger();
+        QMenu *choicesHere = own->actions().at(1)->menu<QMenu *>();
+        choicesHere->actions().at(1)->trigger();
+        choicesHere->actions().at(1)->trigger();
+        EXPECT_TRUE(choicesHere->actions().at(1)->isChecked() && languages->actions().at(1)->isChecked());
+        EXPECT_FALSE(choicesHere->actions().at(0)->isChecked());
+        own->close();
+    }
+    EXPECT_EQ(calls, 2);
+    entry->setEnabled(false);
+    for (const TitledWindow &window : windows)
+        EXPECT_FALSE(window.titleBarView()->menus().constFirst()->actions().at(0)->isEnabled());
 }
 
 }  // namespace

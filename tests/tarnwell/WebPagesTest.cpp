@@ -38,6 +38,7 @@ TEST(WebPages, JoinOrRefuseLinks)
     const Installed<WebLinkDelegate> installedDelegate(delegate);
     const QMap<QString, QString> rows = {{u"https://a.example/x"_s, u"https://a.example/x?from=menu"_s},
                                          {u"http://a.example/x?a=1"_s, u"http://a.example/x?a=1&from=menu"_s},
+                                         {u"http://a.example/?a=?&b"_s, u"http://a.example/?a=?&b&from=menu"_s},
                                          {u"http://a.example/x#a?b"_s, u"http://a.example/x?from=menu#a?b"_s},
                                          {u"file:///etc/passwd"_s, {}},
                                          {u"javascript:alert(1)"_s, {}},
@@ -49,6 +50,12 @@ TEST(WebPages, JoinOrRefuseLinks)
         EXPECT_EQ(OpenWebsitePath(row.key(), u"menu"_s), !row.value().isEmpty()) << qPrintable(row.key());
         EXPECT_EQ(opener.opened, row.value());
     }
+    for (const QString &link : {u"https://a.example/x?a=%20"_s, u"mailto:a@b.example"_s}) {
+        EXPECT_TRUE(OpenLink(QUrl(link)));
+        EXPECT_EQ(opener.opened, link) << "as it stands";
+    }
+    for (const QString &link : {u"file:///etc/passwd"_s, u"mailto:"_s, u"x"_s})
+        EXPECT_FALSE(OpenLink(QUrl(link))) << qPrintable(link);
     EXPECT_TRUE(PHPOpenWebsite(u"https://a.example/?b"_s, u"f"_s));
     EXPECT_EQ(opener.opened, u"https://go.example/?fui=f&jump=https%3A%2F%2Fa.example%2F%3Fb"_s);
     EXPECT_TRUE(OpenDirectory(u"/proc"_s));

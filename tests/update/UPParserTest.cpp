@@ -70,6 +70,17 @@ TEST(UPParser, ReadsEveryFieldInBothForms)
     }
 }
 
+TEST(UPParser, ForgivesADescriptorWrittenByHand)
+{
+    Server server{
+        "\n<?xml version=\"1.0\" encoding=\"windows-1252\"?><plist><dict><key>LastestVersion</key>"
+        "<string>1.0</string><key>BuildDate</key><string>M\xE4rz</string><key>LastestVersion</key>"
+        "<string>4.0</string></dict></plist>"};
+    const auto parser = UPParser::initWithXMLURL(u"x"_s, server.context(u"en"_s));
+    ASSERT_TRUE(parser);
+    EXPECT_EQ((*parser)->versionFromServer() + (*parser)->buildTimeFromServer(), u"4.0März"_s);
+}
+
 TEST(UPParser, FallsBackToTheRootAndToTheEnglishLinks)
 {
     for (const QString &language : {u"ja"_s, u"fr"_s, QString()}) {

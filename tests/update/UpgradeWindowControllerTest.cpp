@@ -19,6 +19,8 @@
 #include <QStackedWidget>
 #include <QTest>
 
+#include <thread>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -31,7 +33,11 @@ struct TagAsQuery final : tarnwell::WebLinkDelegate {
     QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
 };
 
-const QVariantMap newVersion = {{u"LastestVersion"_s, u"6.10"_s}, {u"DownloadURLReg"_s, u"https://k.example/get"_s}};
+const QVariantMap newVersion = {
+    {u"LastestVersion"_s, u"6.10"_s},
+    {u"DownloadURLReg"_s, u"https://k.example/get"_s},
+    {u"UpdateLog"_s, QVariantList{QVariantMap{{u"content"_s, u"Faster"_s}}}},
+};
 const QVariantMap compulsory = [] {
     QVariantMap map = newVersion;
     map.insert(u"ForceAppUpgrade"_s, true);
@@ -45,7 +51,7 @@ class UpgradeWindowControllerTest : public testing::Test {
 protected:
     std::unique_ptr<UpgradeWindowController> make(std::chrono::milliseconds step = 1ms)
     {
-        auto fetch = [this](const foundation::FetchRequest &) {
+        auto fetch = [this, inUse = m_inUse](const foundation::FetchRequest &) {
             ++m_fetches;
             m_answers.acquire();
             return foundation::FetchResult{m_body, u"no answer"_s};
@@ -82,6 +88,7 @@ protected:
     tarnwell::Installed<tarnwell::WebLinkDelegate> m_installedLinks{m_links};
     std::atomic<int> m_fetches = 0;
     QSemaphore m_answers;
+    const std::shared_ptr<int> m_inUse = std::make_shared<int>();
     std::optional<QByteArray> m_body;
     int m_terminations = 0;
 };
@@ -154,6 +161,25 @@ TEST_F(UpgradeWindowControllerTest, ACancelledCheckShowsNothingMore)
     }
 }
 
+TEST_F(UpgradeWindowControllerTest, WhatWasOnItsWayWhenTheUserCancelledIsNotShown)
+{
+    EXPECT_EQ(UpgradeWindowController::stepOfBar, 150ms);
+    const auto controller = make();
+    const long idleUses = m_inUse.use_count();
+    foundation::queue::asyncMain([&] {
+        EXPECT_TRUE(test::waitUntil([&] { return m_fetches > 0; }));
+        answer(newVersion);
+        while (m_inUse.use_count() > idleUses)  // until the check has come to its end; nothing is shown meanwhile
+            std::this_thread::yield();
+        controller->cancelChecking();
+    });
+    controller->showUpgradeWindow();
+    foundation::queue::finishGlobal();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(controller->upgradeInfo());
+    EXPECT_EQ(viewOf(*controller), u"progressView"_s);
+}
+
 TEST_F(UpgradeWindowControllerTest, ButtonsCloseOpenAndTerminate)
 {
     const QList get{QUrl(u"https://k.example/get?upui"_s)};
@@ -215,6 +241,7 @@ TEST_F(UpgradeWindowControllerTest, TextsOfTheServerStayInTheWindow)
         auto *tip = find<QLabel>(*controller, "haveNewVersionTipLabel");
         EXPECT_TRUE(tip->text().startsWith("Kestrel Converter 4K 7.%@1"_L1));
         EXPECT_TRUE(tip->text().contains("you're running 6.2.1."_L1));
+        EXPECT_EQ(find<tarnwell::StyledTextView>(*controller, "whatsNewFiled")->toPlainText(), u" 1. Faster"_s);
         EXPECT_LE(tip->minimumSizeHint().width(), tip->width());
         EXPECT_EQ(controller->window()->width(), 750);
         // Opened with what is known, it is lowered by 100 from the middle of the screen.

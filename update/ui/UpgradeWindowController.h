@@ -25,10 +25,12 @@ class TitledWindow;
 class UpgradeWindowController : public QObject {
     Q_OBJECT
 public:
+    static constexpr std::chrono::milliseconds stepOfBar{150};
+
     /// `terminate` ends the application after the present event; it is called where a compulsory update is declined.
     /// `step` is the time between two movements of the progress bar, whatever the fetch takes.
     UpgradeWindowController(const QString &upgradeInfoFileURL, UpdateContext context, std::function<void()> terminate,
-                            std::chrono::milliseconds step = std::chrono::milliseconds(150));
+                            std::chrono::milliseconds step = stepOfBar);
     ~UpgradeWindowController() override;
 
     // Both return when the window is closed or the application ends.

@@ -115,6 +115,8 @@ bool TitleExport::take(Sector sector, const TitleCell &cell, bool afterLoss)
                 m_chapters.append(std::max(0.0, secondsOfTicks(m_clock.start() - m_zero)));
         if (!m_wish.keepsNavigation)
             return true;
+        moveClocks(sector, m_clock.move());
+        return append(sector);
     }
     // What stands before the first unit has no clock.
     return !m_clock.hasBegun() || takeFilm(sector);
@@ -136,6 +138,11 @@ bool TitleExport::takeFilm(Sector sector)
     for (const Packet &packet : packets)
         if (m_subtitles && packet.isSubtitle() && !m_subtitles->add(sector, packet))
             return giveUp(DiscError::Write);
+    return append(sector);
+}
+
+bool TitleExport::append(Sector sector)
+{
     m_buffer.append(reinterpret_cast<const char *>(sector.data()), sectorBytes);
     return m_buffer.size() < bufferBytes || flush();
 }

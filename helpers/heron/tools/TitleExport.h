@@ -37,6 +37,7 @@ private:
     bool take(Sector sector, const TitleCell &cell, bool afterLoss);
     bool takeFilm(Sector sector);
     bool isSoundOfBefore(const Packets &packets);
+    bool append(Sector sector);
     bool flush();
     bool giveUp(DiscError error);
     void report();

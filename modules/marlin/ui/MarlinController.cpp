@@ -1,25 +1,29 @@
 #include "MarlinController.h"
 
+#include "EditWindow.h"
+#include "MediaPlayer.h"
+#include "OptionsPanel.h"
+#include "PresetChooser.h"
+#include "PresetDialog.h"
+#include "Thumbnails.h"
+#include "foundation/NotificationCenter.h"
+#include "foundation/UserDefaults.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
 #include "media/MediaFiles.h"
 #include "modules/common/LateView.h"
-#include "modules/common/OutputFolderLine.h"
 #include "modules/marlin/Conversion.h"
 #include "modules/marlin/ConversionList.h"
+#include "modules/marlin/Conversions.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/Images.h"
 
-#include <QComboBox>
-#include <QDir>
 #include <QFileDialog>
 #include <QFileInfo>
-#include <QPushButton>
-#include <QShortcut>
-#include <QThread>
+#include <QMenu>
 
 using namespace Qt::StringLiterals;
 
@@ -27,36 +31,37 @@ namespace kestrel {
 
 using tarnwell::operator""_key;
 
-namespace {
-
-constexpr JobPageTexts marlinTexts = {
-    .title = "Video Converter"_key,
-    .emptyHeadline = "Drop videos or folders here"_key,
-    .emptyText = "They become MP4, MKV, WebM or MP3, as you choose."_key,
-    .emptyButton = "Add Files…"_key,
-    .start = "Convert"_key,
-    .emptyImage = "marlin_drop",
-};
-
-/// What "Convert" starts: everything that is not done.
-constexpr std::initializer_list<JobState> startable = {JobState::Ready, JobState::Failed, JobState::Cancelled,
-                                                       JobState::Interrupted};
-
-}  // namespace
+void MarlinController::warn(const QString &message)
+{
+    tarnwell::runAlert({.message = message,
+                        .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
+                        .alternateButton = {},
+                        .informativeText = {},
+                        .style = tarnwell::AlertStyle::Warning});
+}
 
 MarlinController::MarlinController(const ModuleConfigure &configure, ModuleServices &services)
+    : MarlinController(configure, services, foundation::UserDefaults::standardUserDefaults())
+{
+}
+
+MarlinController::MarlinController(const ModuleConfigure &configure, ModuleServices &services,
+                                   foundation::UserDefaults &defaults)
     : m_services(services),
+      m_defaults(defaults),
       m_settings(configure.value(moduleSettingKey.toString())),
-      m_recipe([this] { return transcodeTools(*m_settings, QThread::idealThreadCount()); }),
       m_view(std::make_unique<LateView>([this] { return makeContents(); }))
 {
-    connect(&m_prober, &MediaProber::probed, this, &MarlinController::probed);
+    foundation::NotificationCenter::defaultCenter().addObserver(this, keyResetProfilesNotification.toString(),
+                                                                [this](const QObject *) {
+                                                                    m_view->makeContents();
+                                                                    m_conversions->reset();
+                                                                });
 }
 
 MarlinController::~MarlinController()
 {
-    if (m_list)
-        queue().setRecipe(marlinJobs.toString(), nullptr);
+    m_view.reset();  // it shows what follows
 }
 
 JobQueue &MarlinController::queue()
@@ -64,38 +69,17 @@ JobQueue &MarlinController::queue()
     return m_services.queue();
 }
 
-std::unique_ptr<QWidget> MarlinController::makeContents()
+/// A tenth of the film in, where it is no longer black.
+QVariant MarlinController::pictureOf(const JobRecord &record) const
 {
-    queue().setRecipe(marlinJobs.toString(), &m_recipe);
-    m_list = std::make_unique<ConversionList>(queue());
-    auto page = std::make_unique<JobPage>(queue(), *m_list, marlinJobs.toString(), marlinTexts);
-    m_page = page.get();
-
-    auto *addButton = new QPushButton(tarnwell::namedIcon(u"marlin_add"_s), "Add Files…"_key.localized());
-    addButton->setObjectName(u"addButton"_s);
-    connect(addButton, &QPushButton::clicked, this, &MarlinController::chooseFiles);
-    page->addHeaderControl(addButton);
-    m_presets = new QComboBox;
-    m_presets->setObjectName(u"targetComboBox"_s);
-    m_presets->setAccessibleName("Output format"_key.localized());
-    for (const Preset &preset : builtInPresets())
-        m_presets->addItem(preset.name, preset.id);
-    connect(m_presets, &QComboBox::currentIndexChanged, this, &MarlinController::choosePreset);
-    page->addChoice(m_presets);
-    auto *folder = new OutputFolderLine;
-    folder->setDispatcher(m_settings);
-    page->addChoice(folder, 1);
-
-    connect(m_page, &JobPage::backClicked, this, &MarlinController::doBackAction);
-    connect(m_page, &JobPage::addClicked, this, &MarlinController::chooseFiles);
-    connect(m_page, &JobPage::startClicked, this, &MarlinController::convert);
-    connect(m_page, &JobPage::pathsDropped, this, &MarlinController::openFiles);
-    connect(&queue(), &JobQueue::changed, this, &MarlinController::showState);
-    connect(&queue(), &JobQueue::removed, this, &MarlinController::showState);
-    for (const JobId id : queue().idsIn({JobState::Checking}, marlinJobs.toString()))
-        lookAt(id);
-    showState();
-    return page;
+    const double seconds = sourceSummary(record).seconds.value_or(0) / 10;
+    if (record.state == JobState::Checking || record.state == JobState::Unusable)
+        return {};
+    m_thumbnails->setScale(m_page->devicePixelRatioF());
+    const QPixmap *picture = m_thumbnails->picture(record.source, seconds);
+    if (!picture)
+        return {};
+    return picture->isNull() ? tarnwell::namedImage(u"marlin_sound"_s, m_page->devicePixelRatioF()) : *picture;
 }
 
 void MarlinController::setCompletedHandler(CompletedHandler handler)
@@ -137,40 +121,14 @@ void MarlinController::showFirstOpenAppTip(bool show)
 void MarlinController::openFiles(const QStringList &paths)
 {
     m_view->makeContents();
-    for (const QString &path : mediaFiles(paths))
-        add(path);
+    const QStringList files = mediaFiles(paths);
+    const int added = m_conversions->add(files);
+    if (files.isEmpty())
+        m_page->showMessage("There is no video or sound file in it."_key.localized());
+    else if (added < files.size())
+        m_page->showMessage(
+            tarnwell::Sentence("Already in the list: %1"_key, {QString::number(files.size() - added)}).localized());
     showState();
-}
-
-void MarlinController::add(const QString &path)
-{
-    const Preset *preset = presetOfId(m_presets->currentData().toString());
-    TranscodePlan plan =
-        conversionPlan(*m_settings, preset ? *preset : builtInPresets().first(), QThread::idealThreadCount());
-    plan.sources = {path};
-    JobRecord record = conversionJob(plan, conversionFolder(*m_settings, plan));
-    record.state = JobState::Checking;
-    lookAt(queue().add(record));
-}
-
-void MarlinController::lookAt(JobId id)
-{
-    m_prober.probe(id, proberBeside(m_settings->getTranscoderPath()), queue().record(id)->source);
-}
-
-void MarlinController::probed(JobId id, const MediaProber::Answer &answer)
-{
-    if (!queue().record(id))
-        return;
-    if (answer)
-        m_recipe.setInformation(id, {*answer});
-    queue().change(id, [&](JobRecord &record) {
-        record.state = answer ? JobState::Ready : JobState::Unusable;
-        if (answer)
-            setSourceSummary(record, *answer);
-        else
-            record.outcome.sentence = answer.reason();
-    });
 }
 
 void MarlinController::chooseFiles()
@@ -181,52 +139,90 @@ void MarlinController::chooseFiles()
 }
 
 /// For what was chosen in the list, else for everything that is still to be converted.
-void MarlinController::choosePreset()
+void MarlinController::choosePreset(const QString &id)
 {
-    const Preset *preset = presetOfId(m_presets->currentData().toString());
-    QList<JobId> ids = m_page->list()->selectedIds();
-    if (ids.isEmpty())
-        ids = queue().idsIn({JobState::Checking, JobState::Ready}, marlinJobs.toString());
-    for (const JobId id : ids) {
-        queue().change(id, [&](JobRecord &record) {
-            if (auto plan = TranscodePlan::fromJson(record.plan)) {
-                plan->preset = *preset;
-                setPlan(record, *plan);
-                record.folder = conversionFolder(*m_settings, *plan);
-                record.state = record.state == JobState::Checking ? JobState::Checking : JobState::Ready;
-            }
-        });
+    m_conversions->choosePreset(m_page->list()->selectedIds(), id);
+    showPreset();
+}
+
+void MarlinController::showFormats()
+{
+    const JobId id = m_page->list()->selectedIds().value(0);
+    auto *dialog = new PresetDialog(m_conversions->ownPresets(),
+                                    m_conversions->plan(id).value_or(m_conversions->draft()), m_page->window());
+    connect(dialog, &PresetDialog::chosen, this, &MarlinController::choosePreset);
+    dialog->open();
+}
+
+void MarlinController::showPreset()
+{
+    const QList<JobId> ids = m_page->list()->selectedIds();
+    TranscodePlan plan = m_conversions->plan(ids.value(0)).value_or(m_conversions->draft());
+    constexpr qsizetype lookedAt = 200;
+    for (const JobId id : ids.mid(0, lookedAt)) {
+        if (const auto other = m_conversions->plan(id); other && other->preset.id != plan.preset.id) {
+            m_presets->showPreset(nullptr);
+            return;
+        }
     }
+    m_presets->showPreset(&plan.preset);
 }
 
 void MarlinController::convert()
 {
-    QString obstacle;
-    if (canStart(&obstacle)) {
-        queue().start(queue().idsIn(startable, marlinJobs.toString()));
+    if (m_conversions->startable().isEmpty())
         return;
-    }
-    tarnwell::runAlert({.message = obstacle,
-                        .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
-                        .alternateButton = {},
-                        .informativeText = {},
-                        .style = tarnwell::AlertStyle::Warning});
+    if (QString obstacle; !m_conversions->start(&obstacle))
+        warn(obstacle);
 }
 
-bool MarlinController::canStart(QString *obstacle) const
+void MarlinController::extendMenu(QMenu *menu, const QList<JobId> &ids)
 {
-    if (!m_settings->check(obstacle))
-        return false;
-    if (QFileInfo(m_settings->getTranscoderPath()).isExecutable())
-        return true;
-    *obstacle = tarnwell::AppLocalizedString(u"The converter is missing. Please install the application again."_s);
-    return false;
+    const JobId current = m_page->list()->currentId();
+    menu->addSeparator();
+    menu->addAction("Play Source"_key.localized(), this, [this, current] { playSource(current); });
+    menu->addAction("Cut and Edit…"_key.localized(), this, [this, current] { edit(current); });
+    menu->addAction("Join into One"_key.localized(), this, [this, ids] { m_conversions->join(ids); })
+        ->setEnabled(ids.size() > 1);
+}
+
+void MarlinController::editCurrent()
+{
+    const QList<JobId> ids = m_page->list()->selectedIds();
+    edit(ids.isEmpty() ? m_list->idAt(0) : ids.first());
+}
+
+/// Once it is known what the file holds; a join has no one picture to edit.
+void MarlinController::edit(JobId id)
+{
+    const auto plan = m_conversions->plan(id);
+    const QList<MediaInformation> sources = m_conversions->information(id);
+    if (!plan || sources.size() != 1 || isActive(queue().record(id)->state))
+        return;
+    auto *window = new EditWindow({.plan = *plan, .source = sources.first(), .tools = m_conversions->tools()},
+                                  *m_settings, *m_thumbnails, *m_player, m_page->window());
+    connect(window, &EditWindow::edited, this, [this, id](const TranscodePlan &edited) {
+        m_conversions->edit({id}, [edited](TranscodePlan &changing) { changing = edited; });
+    });
+    window->open();
+}
+
+void MarlinController::playSource(JobId id)
+{
+    if (const JobRecord *record = queue().record(id))
+        play(record->source);
+}
+
+void MarlinController::play(const QString &path)
+{
+    if (!m_player->play(m_settings->getPlayerPath(), path, QFileInfo(path).fileName()))
+        warn("The player is missing. Please install the application again."_key.localized());
 }
 
 void MarlinController::showState()
 {
     if (m_page)
-        m_page->setStartEnabled(!queue().idsIn(startable, marlinJobs.toString()).isEmpty());
+        m_page->setStartEnabled(!m_conversions->startable().isEmpty());
 }
 
 }  // namespace kestrel

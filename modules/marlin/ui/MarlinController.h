@@ -1,20 +1,28 @@
 #pragma once
 
-#include "media/MediaProber.h"
-#include "media/TranscodeRecipe.h"
+#include "jobs/JobRecord.h"
 #include "modules/Module.h"
 
 #include <QObject>
 #include <QPointer>
 
-class QComboBox;
+class QMenu;
 
 namespace kestrel {
 
+namespace foundation {
+class UserDefaults;
+}
+
 class ConversionList;
+class Conversions;
 class JobPage;
 class JobQueue;
 class LateView;
+class MediaPlayer;
+class OptionsPanel;
+class PresetChooser;
+class Thumbnails;
 
 /// The conversion module: files that are added become jobs, looked at at once and converted when the user says so.
 class MarlinController final : public QObject,
@@ -24,6 +32,8 @@ class MarlinController final : public QObject,
     Q_OBJECT
 public:
     MarlinController(const ModuleConfigure &configure, ModuleServices &services);
+    /// `defaults` keeps what the module remembers between starts; it outlives the module.
+    MarlinController(const ModuleConfigure &configure, ModuleServices &services, foundation::UserDefaults &defaults);
     ~MarlinController() override;
 
     void setCompletedHandler(CompletedHandler handler) override;
@@ -36,26 +46,39 @@ public:
 
 private:
     std::unique_ptr<QWidget> makeContents();
+    void addHeader();
+    void addChoices();
+    void connectPage();
+    void addKeys();
     JobQueue &queue();
-    void add(const QString &path);
-    void lookAt(JobId id);
-    void probed(JobId id, const MediaProber::Answer &answer);
+    QVariant pictureOf(const JobRecord &record) const;
+
     void chooseFiles();
-    void choosePreset();
+    void choosePreset(const QString &id);
+    void showFormats();
+    void showPreset();
     void convert();
-    bool canStart(QString *obstacle) const;
+    void extendMenu(QMenu *menu, const QList<JobId> &ids);
+    void editCurrent();
+    void edit(JobId id);
+    void playSource(JobId id);
+    void play(const QString &path);
     void showState();
+    static void warn(const QString &message);
 
     ModuleServices &m_services;
+    foundation::UserDefaults &m_defaults;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;
     CompletedHandler m_completedHandler;
-    TranscodeRecipe m_recipe;
-    MediaProber m_prober;
     std::unique_ptr<LateView> m_view;
     // From the making of the view's contents on
+    std::unique_ptr<Conversions> m_conversions;
     std::unique_ptr<ConversionList> m_list;
+    Thumbnails *m_thumbnails = nullptr;
+    MediaPlayer *m_player = nullptr;
     QPointer<JobPage> m_page;
-    QPointer<QComboBox> m_presets;
+    QPointer<PresetChooser> m_presets;
+    QPointer<OptionsPanel> m_options;
 };
 
 }  // namespace kestrel

@@ -213,7 +213,7 @@ void PetrelController::checkCoreUpdateInBackground()
         m_update = std::make_unique<EngineUpdate>(
             engineStore(), engineTools(*m_settings), EngineUpdate::productSource(),
             std::make_shared<foundation::Fetcher>(
-                foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s)));
+                foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s)));
     m_update->start();
 }
 

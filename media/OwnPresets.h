@@ -1,0 +1,54 @@
+#pragma once
+
+#include "TranscodePlan.h"
+
+#include <QObject>
+
+namespace kestrel {
+
+namespace foundation {
+class UserDefaults;
+}
+
+/// The user's own presets: a form of output with the options that go with it, but nothing that belongs to one file
+/// (cuts, tracks, crop, watermark). Kept in the defaults under one key, with a version. What is read, from there or
+/// from a file of somebody else's, is untrusted. Main thread.
+class OwnPresets : public QObject {
+    Q_OBJECT
+public:
+    /// `defaults` outlives the object.
+    OwnPresets(foundation::UserDefaults &defaults, QString key, QObject *parent = nullptr);
+
+    const QList<Preset> &presets() const { return m_presets; }
+    const Preset *presetOfId(const QString &id) const;  ///< null where there is none
+    /// Puts the preset and its options into the plan; what belongs to the file stays.
+    void apply(const QString &id, TranscodePlan &plan) const;
+
+    /// Keeps the plan's preset and options under `name`. The new one's id, or why not.
+    foundation::Result<QString, tarnwell::Sentence> save(const QString &name, const TranscodePlan &plan);
+    bool rename(const QString &id, const QString &name);  ///< false for an empty name or where there is no such preset
+    void remove(const QString &id);
+    void removeAll();
+
+    QByteArray exported(const QString &id) const;
+    /// What `exported` made, by this or another version. The id of the first, or why it is refused; then nothing is
+    /// taken.
+    foundation::Result<QString, tarnwell::Sentence> import(const QByteArray &file);
+
+signals:
+    void changed();
+
+private:
+    void keep();
+    QString add(Preset preset, const QJsonObject &options);
+
+    foundation::UserDefaults &m_defaults;
+    QString m_key;
+    QList<Preset> m_presets;
+    QHash<QString, QJsonObject> m_options;
+};
+
+/// A larger file holds no presets.
+inline constexpr qint64 maximumPresetFileBytes = 256 * 1024;
+
+}  // namespace kestrel

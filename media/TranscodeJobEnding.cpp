@@ -1,0 +1,146 @@
+// What comes after the last run of the tool: the look at the output, the judgement, the name.
+#include "OutputPlacing.h"
+#include "TranscodeJob.h"
+#include "TranscodeVerdict.h"
+
+#include "foundation/FileNames.h"
+#include "jobs/OutputFile.h"
+#include "tarnwell/Log.h"
+
+#include <QFileInfo>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+void TranscodeJob::checkOutput(const ToolEnding &ending)
+{
+    tellStage("Checking the finished file…"_key);
+    const QString part = m_output->partPath();
+    run(outputReportCommand(m_request.tools.prober, ToolPath(part).argument()), [this, ending,
+                                                                                 part](const ToolEnding &probing) {
+        const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
+        if (!found)
+            return judge(ending, std::nullopt, 0);
+        const OutputFindings findings = compareOutput(
+            m_steps.expected,
+            {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},
+            *found);
+        const bool isBroken = findings.isEmpty || !findings.damage.isEmpty();
+        if (neededDecoding() != Decoding::None && !isBroken && !isStopping())
+            decodeOutput(ending, findings);
+        else
+            judge(ending, findings, 0);
+    });
+}
+
+/// Nothing was decoded of what was copied, and so nothing was said of its faults. Small files are soon decoded.
+Decoding TranscodeJob::neededDecoding() const
+{
+    constexpr qint64 smallBytes = 32 * 1024 * 1024;
+    if (m_steps.expected.decodesAll)
+        return Decoding::All;
+    if (m_steps.work == TranscodeSteps::Work::Encode)
+        return Decoding::None;
+    return QFileInfo(m_output->partPath()).size() <= smallBytes ? Decoding::All : Decoding::KeyPictures;
+}
+
+void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &findings)
+{
+    m_decoding = ToolMessages({m_output->partPath()});
+    const ToolProcess &tool =
+        run(decodingCommand(m_request.tools.transcoder, ToolPath(m_output->partPath()).argument(), neededDecoding()),
+            [this, ending, findings](const ToolEnding &decoding) {
+                judge(ending, findings, std::max(m_decoding.faults(), decoding.isGood() || isStopping() ? 0 : 1));
+            });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_decoding.readLine(line); });
+}
+
+void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings, int decodingFaults)
+{
+    const auto &information = m_request.information;
+    const TranscodeFacts facts{
+        .ending = ending,
+        .messages = m_messages,
+        .expected = m_steps.expected,
+        .sourceTellsDuration = std::all_of(information.begin(), information.end(),
+                                           [](const MediaInformation &file) { return file.headerTellsDuration(); }),
+        .copiesTracks = m_steps.work != TranscodeSteps::Work::Encode,
+        .findings = findings,
+        .decodingFaults = decodingFaults};
+    JobOutcome outcome = transcodeVerdict(facts);
+    if (decodingFaults > 0)
+        outcome.details += u'\n' + m_decoding.text();
+    outcome.leftOut = m_steps.leftOut;
+    if (outcome.state != JobState::Failed)
+        return place(outcome);
+    const bool isHopeless =
+        m_messages.failure().isHopeless || ending.cause == ToolEnding::Cause::CouldNotStart || isStopping();
+    if (m_steps.takesShortcut && !m_isSecondAttempt && !isHopeless)
+        return tryWithoutShortcuts();
+    discard();
+    finish(outcome);
+}
+
+void TranscodeJob::tryWithoutShortcuts()
+{
+    tarnwell::DNFootLog(u"Converting again in software, without copying: %1"_s, m_messages.text());
+    const bool hadHardware =
+        m_steps.work == TranscodeSteps::Work::Encode && !m_request.tools.machine.hardwareDevice.isEmpty();
+    m_isSecondAttempt = true;
+    emit noted(hadHardware ? "Encoding in software"_key : "Encoding, because the tracks could not be copied"_key);
+    m_request.plan = withoutShortcuts(std::move(m_request.plan));
+    carryOut();
+}
+
+void TranscodeJob::place(JobOutcome outcome)
+{
+    tellStage("Saving…"_key);
+    const QString &source = m_sources.front().path();
+    m_placing =
+        std::make_shared<Placing>(std::exchange(m_output, nullptr),
+                                  m_request.plan.keepsDate ? foundation::fileFacts(source).modified : std::nullopt);
+    m_placing->start(this,
+                     [this, outcome = std::move(outcome)](const foundation::Result<QString, Sentence> &path) mutable {
+                         m_placing.reset();
+                         m_workFolder.reset();
+                         if (!path) {
+                             outcome.state = JobState::Failed;
+                             outcome.sentence = path.reason();
+                             outcome.problems.clear();
+                         } else {
+                             outcome.outputs = {*path};
+                         }
+                         finish(outcome);
+                     });
+}
+
+void TranscodeJob::fail(const Sentence &sentence)
+{
+    discard();
+    finish({.state = JobState::Failed, .sentence = sentence});
+}
+
+/// Before there is anything that is worth to be kept.
+void TranscodeJob::finishStopped()
+{
+    discard();
+    finish({.state = JobState::Cancelled});
+}
+
+void TranscodeJob::discard()
+{
+    if (m_placing)
+        m_placing->takeBack();
+    m_placing.reset();
+    m_output.reset();
+    m_workFolder.reset();
+}
+
+}  // namespace kestrel

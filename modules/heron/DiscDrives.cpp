@@ -1,0 +1,141 @@
+#include "DiscDrives.h"
+
+#include "foundation/Queues.h"
+#include "tarnwell/Log.h"
+
+#include <QDBusArgument>
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusPendingCallWatcher>
+#include <QDBusPendingReply>
+#include <QPointer>
+
+#include <algorithm>
+#include <chrono>
+#include <optional>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+const QString diskService = u"org.freedesktop.UDisks2"_s;
+const QString diskPath = u"/org/freedesktop/UDisks2"_s;
+const QString managerInterface = u"org.freedesktop.DBus.ObjectManager"_s;
+const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
+const QString blockInterface = u"org.freedesktop.UDisks2.Block"_s;
+const QString driveInterface = u"org.freedesktop.UDisks2.Drive"_s;
+
+constexpr std::chrono::milliseconds quietTime{300};  // a new disc changes many properties at once
+
+using Interfaces = QMap<QString, QVariantMap>;
+using Objects = QMap<QDBusObjectPath, Interfaces>;
+
+QList<DiscDrive> drivesIn(const Objects &objects)
+{
+    QList<DiscDrive> drives;
+    for (const Interfaces &interfaces : objects) {
+        const QVariantMap block = interfaces.value(blockInterface);
+        const auto path = block.value(u"Drive"_s).value<QDBusObjectPath>();
+        const QVariantMap drive = objects.value(path).value(driveInterface);
+        const bool isDisc = drive.value(u"Optical"_s).toBool() && drive.value(u"MediaAvailable"_s).toBool() &&
+                            !drive.value(u"OpticalBlank"_s).toBool();
+        // Bytes with a zero at their end.
+        const QString device = QString::fromLocal8Bit(block.value(u"PreferredDevice"_s).toByteArray().constData());
+        if (isDisc && device.startsWith(u'/'))
+            drives.append({device, block.value(u"IdLabel"_s).toString().left(64)});
+    }
+    std::sort(drives.begin(), drives.end(),
+              [](const DiscDrive &one, const DiscDrive &other) { return one.device < other.device; });
+    return drives;
+}
+
+}  // namespace
+
+class DiscDrives::Bus {
+public:
+    explicit Bus(QDBusConnection connection) : m_connection(std::move(connection)) {}
+    ~Bus() { QDBusConnection::disconnectFromBus(m_connection.name()); }
+    Q_DISABLE_COPY(Bus)
+
+    QDBusConnection &connection() { return m_connection; }
+
+private:
+    QDBusConnection m_connection;
+};
+
+DiscDrives::DiscDrives(QObject *parent) : QObject(parent) {}
+
+DiscDrives::~DiscDrives() = default;
+
+/// Greeting the bus waits for its answer, so that is done elsewhere.
+void DiscDrives::start()
+{
+    if (m_bus || std::exchange(m_isToAsk, true))
+        return;
+    static int connections = 0;
+    const QString name = u"kestrel-discs-%1"_s.arg(++connections);
+    foundation::queue::asyncGlobal([self = QPointer(this), name] {
+        const QDBusConnection connection = QDBusConnection::connectToBus(QDBusConnection::SystemBus, name);
+        foundation::queue::asyncMain([self, connection] {
+            auto bus = std::make_unique<Bus>(connection);
+            if (!self || !self->m_isToAsk)
+                return;
+            self->m_isToAsk = false;
+            if (!connection.isConnected())
+                return tarnwell::DNFootLog(u"Drives cannot be watched: there is no system bus"_s);
+            self->m_bus = std::move(bus);
+            QDBusConnection &system = self->m_bus->connection();
+            const char *slot = SLOT(askLater());
+            system.connect(diskService, diskPath, managerInterface, u"InterfacesAdded"_s, self.data(), slot);
+            system.connect(diskService, diskPath, managerInterface, u"InterfacesRemoved"_s, self.data(), slot);
+            system.connect(diskService, QString(), propertiesInterface, u"PropertiesChanged"_s, self.data(), slot);
+            self->ask();
+        });
+    });
+}
+
+void DiscDrives::stop()
+{
+    m_bus.reset();
+    m_isToAsk = false;
+}
+
+void DiscDrives::askLater()
+{
+    if (std::exchange(m_isToAsk, true))
+        return;
+    foundation::queue::afterMain(quietTime, [self = QPointer(this)] {
+        if (self && std::exchange(self->m_isToAsk, false))
+            self->ask();
+    });
+}
+
+void DiscDrives::ask()
+{
+    if (!m_bus)
+        return;
+    const QDBusMessage call =
+        QDBusMessage::createMethodCall(diskService, diskPath, managerInterface, u"GetManagedObjects"_s);
+    auto *watcher = new QDBusPendingCallWatcher(m_bus->connection().asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
+        watcher->deleteLater();
+        take(watcher->reply());
+    });
+}
+
+void DiscDrives::take(const QDBusMessage &reply)
+{
+    QList<DiscDrive> drives;
+    if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == "a{oa{sa{sv}}}"_L1)
+        drives = drivesIn(qdbus_cast<Objects>(reply.arguments().value(0)));
+    if (m_drives == drives)
+        return;
+    m_drives = drives;
+    emit changed();
+}
+
+}  // namespace kestrel

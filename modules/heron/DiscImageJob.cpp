@@ -1,0 +1,118 @@
+#include "DiscImageJob.h"
+
+#include "foundation/Queues.h"
+#include "jobs/FileNames.h"
+#include "jobs/OutputFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+constexpr qint64 bytesOfSector = 2048;
+
+const QString mapSuffix = u".map"_s, listSuffix = u".bad"_s;
+
+}  // namespace
+
+DiscImageJob::~DiscImageJob()
+{
+    endTool();  // what it wrote stays: the next run goes on with it
+}
+
+void DiscImageJob::carryOut()
+{
+    if (QFileInfo(request().plan.source).isDir())
+        return fail("A folder has no sectors to copy. Choose another way."_key);
+    m_copy = request().folder + u'/' + fittingName(u'.' + portableName(outputName()), u".kestrel-copy.iso"_s, 143);
+    m_lock = std::make_unique<QLockFile>(m_copy + u".lock"_s);
+    m_lock->setStaleLockTime(0);
+    if (!QFileInfo(request().folder).isDir())
+        return fail("The output directory does not exist. Please check the setting."_key);
+    if (!m_lock->tryLock() && m_lock->error() == QLockFile::LockFailedError) {
+        m_copy.clear();
+        return fail("This disc is being copied to this folder already."_key);
+    }
+    copy();
+}
+
+void DiscImageJob::copy()
+{
+    tellStage({});
+    runDiscTool({.program = request().tools.toImage, .arguments = {request().plan.source, m_copy}}, 0.97,
+                [this](const ToolEnding &ending) { copied(ending); });
+}
+
+void DiscImageJob::copied(const ToolEnding &ending)
+{
+    const bool isOfAnother = lines().error == "otherDisc"_L1 || lines().error == "exists"_L1;
+    if (isOfAnother && !isStopping()) {
+        removeCopy();
+        return copy();
+    }
+    const QString &error = lines().error;
+    m_staysForLater =
+        !isStopping() && (error == "read"_L1 || error == "missing"_L1 || ending.cause == ToolEnding::Cause::Crashed);
+    if (m_staysForLater)
+        return fail("The copy was broken off. It goes on where it is when it is started again."_key, ending.lastWords);
+    if (!isGoodStep(ending))
+        return;
+    m_badSectors = lines().result["badSectors"_L1].toInteger();
+    setFact(u"bytes"_s, lines().result["bytes"_L1]);
+    setFact(u"faults"_s, m_badSectors);
+    setFact(u"continuedFrom"_s, lines().result["continuedFrom"_L1]);
+    if (m_badSectors > 0)
+        addProblem({"%1 sectors of the disc could not be read and are empty in the image."_key,
+                    {QString::number(m_badSectors)}});
+    if (QFileInfo(m_copy).size() != lines().result["bytes"_L1].toInteger() ||
+        QFileInfo(m_copy).size() < contents().bytes / bytesOfSector * bytesOfSector)
+        return fail("The copy could not be read back."_key);
+    checkCopy(m_copy, contents());
+}
+
+void DiscImageJob::copyIsGood()
+{
+    m_output = std::make_shared<OutputFile>(request().folder, outputName(), u"iso"_s);
+    if (!m_output->isValid())
+        return fail(m_output->reason());
+    // Over the empty part: from here on it is an output like any other.
+    if (std::rename(QFile::encodeName(m_copy).constData(), QFile::encodeName(m_output->partPath()).constData()) != 0)
+        return fail("The output could not be written."_key);
+    place(std::exchange(m_output, nullptr));
+}
+
+/// The list of what is missing stands beside the image.
+void DiscImageJob::placed(const QString &path)
+{
+    if (m_badSectors > 0)
+        QFile::rename(m_copy + listSuffix, path + listSuffix);
+    removeCopy();
+    m_lock.reset();
+}
+
+void DiscImageJob::removeCopy()
+{
+    if (m_copy.isEmpty())
+        return;
+    for (const QString &suffix : {QString(), mapSuffix, listSuffix})
+        QFile::remove(m_copy + suffix);
+}
+
+void DiscImageJob::discard()
+{
+    if (!m_staysForLater)
+        removeCopy();
+    m_lock.reset();
+    WholeDiscJob::discard();
+}
+
+}  // namespace kestrel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "WholeDiscJob.h"
+
+#include <QLockFile>
+
+namespace kestrel {
+
+/// Copies a disc sector for sector into an image. One that is broken off, by the end of the program or because the disc
+/// gave out, stays as a hidden file beside its target and is gone on with when the same disc is copied there again.
+class DiscImageJob final : public WholeDiscJob {
+    Q_OBJECT
+public:
+    using WholeDiscJob::WholeDiscJob;
+    ~DiscImageJob() override;
+
+protected:
+    void carryOut() override;
+    void discard() override;
+    void copyIsGood() override;
+    void placed(const QString &path) override;
+
+private:
+    void copy();
+    void copied(const ToolEnding &ending);
+    void removeCopy();
+
+    QString m_copy;  ///< of a name that the next run finds; null before there is one
+    std::unique_ptr<QLockFile> m_lock;
+    qint64 m_badSectors = 0;
+    bool m_staysForLater = false;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,205 @@
+#include "DiscJob.h"
+
+#include "DiscFolderJob.h"
+#include "DiscImageJob.h"
+#include "MainTitleJob.h"
+#include "TitleFileJob.h"
+#include "TitleMpegJob.h"
+#include "TitleRipJob.h"
+
+#include "jobs/OutputFile.h"
+#include "media/OutputPlacing.h"
+#include "tarnwell/Log.h"
+
+#include <QJsonDocument>
+
+#include <algorithm>
+#include <utility>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+DiscJob::DiscJob(DiscRequest request, QObject *parent) : ToolJob(parent), m_request(std::move(request)) {}
+
+DiscJob::~DiscJob()
+{
+    endTool();
+    DiscJob::discard();
+}
+
+void DiscJob::start()
+{
+    tellStage("Reading the disc…"_key);
+    const ToolProcess &tool = run(discInfoCommand(m_request.tools, m_request.plan.source),
+                                  [this](const ToolEnding &ending) { lookedAt(ending); });
+    Q_UNUSED(tool);
+}
+
+void DiscJob::lookedAt(const ToolEnding &ending)
+{
+    if (isStopping())
+        return finish({.state = JobState::Cancelled});
+    const QJsonObject object = QJsonDocument::fromJson(ending.output).object();
+    auto contents = disc::discContentsFromJson(object);
+    if (!ending.isGood() || !contents) {
+        m_lines.error = object["error"_L1].toString();
+        return fail(discFailure(m_lines, ending), ending.lastWords);
+    }
+    const QString before = m_request.plan.volume;
+    m_contents = *std::move(contents);
+    if (m_contents.isProtected)
+        return fail(discFailure(u"protected"_s));
+    if (!before.isEmpty() && before != m_contents.volume)
+        return fail({"This is another disc: %1 instead of %2."_key, {m_contents.volume, before}});
+    if (!describeDisc(m_contents, m_request.plan))
+        return fail(discFailure(u"noTitle"_s));
+    if (!takesWholeDisc(m_request.plan.way) && m_request.plan.firstChapter > title().chapters.size() &&
+        m_request.plan.firstChapter > 1)
+        return fail(discFailure(u"noTitle"_s));
+    if (m_contents.isTruncated)
+        addProblem("The disc image ends before its film does."_key);
+    carryOut();
+}
+
+ToolProcess &DiscJob::runDiscTool(const ToolCommand &command, double share, Continuation then)
+{
+    m_lines = {};
+    beginShare(share);
+    tarnwell::DNFootLog(u"Disc: %1 %2"_s, command.program, command.arguments.join(u' '));
+    ToolProcess &tool = run(command, std::move(then));
+    const auto read = [this](const QByteArray &line) {
+        if (!m_lines.read(line) || m_lines.progress.isEmpty())
+            return;
+        const QJsonObject progress = std::exchange(m_lines.progress, {});
+        tellProgress(progress["progress"_L1].toDouble(), progress["seconds"_L1].toDouble(),
+                     progress["bytes"_L1].toInteger());
+    };
+    connect(&tool, &ToolProcess::outputLine, this, read);
+    connect(&tool, &ToolProcess::errorLine, this, read);
+    return tool;
+}
+
+std::shared_ptr<ToolCommand> DiscJob::titleReader(const QStringList &options) const
+{
+    const DiscPlan &plan = m_request.plan;
+    QStringList arguments{u"--title"_s, QString::number(title().number)};
+    if (!plan.takesAllChapters()) {
+        const int last = plan.lastChapter == 0 ? 999 : plan.lastChapter;
+        arguments << u"--chapters"_s << u"%1-%2"_s.arg(plan.firstChapter).arg(last);
+    }
+    if (plan.angle > 1)
+        arguments << u"--angle"_s << QString::number(plan.angle);
+    auto command = std::make_shared<ToolCommand>();
+    command->program = m_request.tools.title;
+    command->arguments = arguments + options + QStringList{plan.source};
+    return command;
+}
+
+void DiscJob::tellStage(const Sentence &stage)
+{
+    m_told.stage = stage;
+    emit progressed(m_told);
+}
+
+void DiscJob::beginShare(double share)
+{
+    m_doneShare += m_share;
+    m_share = share;
+}
+
+void DiscJob::tellProgress(double fraction, double seconds, qint64 bytes)
+{
+    constexpr double beforeTheEnd = 0.99;
+    const double whole = m_doneShare + m_share * std::clamp(fraction, 0.0, 1.0);
+    m_told.fraction = std::max(m_told.fraction.value_or(0), std::min(whole, beforeTheEnd));
+    m_told.seconds = seconds;
+    m_told.bytes = bytes;
+    emit progressed(m_told);
+}
+
+bool DiscJob::isGoodStep(const ToolEnding &ending)
+{
+    if (isStopping()) {
+        discard();
+        finish({.state = JobState::Cancelled});
+        return false;
+    }
+    if (ending.isGood() && ending.feederExitCode == 0)
+        return true;
+    // Who was fed ends badly where nothing came: the cause is the feeder's.
+    fail(discFailure(m_lines, ending), ending.lastWords);
+    return false;
+}
+
+void DiscJob::fail(const Sentence &sentence, const QString &details)
+{
+    discard();
+    finish({.state = JobState::Failed, .sentence = sentence, .details = details});
+}
+
+void DiscJob::addProblem(const Sentence &problem)
+{
+    m_outcome.problems.append(problem);
+}
+
+void DiscJob::addLeftOut(const Sentence &leftOut)
+{
+    m_outcome.leftOut.append(leftOut);
+}
+
+void DiscJob::setFact(const QString &name, const QJsonValue &value)
+{
+    m_outcome.facts[name] = value;
+}
+
+void DiscJob::place(std::shared_ptr<OutputFile> output)
+{
+    tellStage("Saving…"_key);
+    m_workFolder.reset();
+    m_placing = std::make_shared<Placing>(std::move(output), std::nullopt);
+    m_placing->start(this, [this](const foundation::Result<QString, Sentence> &path) {
+        m_placing.reset();
+        if (!path)
+            return fail(path.reason());
+        m_outcome.outputs = {*path};
+        placed(*path);
+        m_outcome.state = m_outcome.problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems;
+        m_outcome.sentence = m_outcome.problems.value(0);
+        finish(m_outcome);
+    });
+}
+
+void DiscJob::discard()
+{
+    if (m_placing)
+        m_placing->takeBack();
+    m_placing.reset();
+    m_output.reset();
+    m_workFolder.reset();
+}
+
+std::unique_ptr<DiscJob> makeDiscJob(DiscRequest request)
+{
+    switch (request.plan.way) {
+        case DiscWay::Image:
+            return std::make_unique<DiscImageJob>(std::move(request));
+        case DiscWay::Folder:
+            return std::make_unique<DiscFolderJob>(std::move(request));
+        case DiscWay::Main:
+            return std::make_unique<MainTitleJob>(std::move(request));
+        case DiscWay::Mpeg:
+            return std::make_unique<TitleMpegJob>(std::move(request));
+        case DiscWay::Rip:
+            return std::make_unique<TitleRipJob>(std::move(request));
+        case DiscWay::Mkv:
+        case DiscWay::Sound:
+            break;
+    }
+    return std::make_unique<TitleFileJob>(std::move(request));
+}
+
+}  // namespace kestrel

@@ -1,0 +1,26 @@
+#pragma once
+
+#include "jobs/ToolProcess.h"
+#include "media/TranscodeJob.h"
+
+namespace kestrel {
+
+class JKestrelSettingDispatcher;
+
+/// The tools that read discs and the ones that make something of them; absolute paths.
+struct DiscTools {
+    QString info, toImage, toFolder, cover, title;  ///< of the disc module's bundle
+    QString author;                                 ///< dvdauthor
+    QString writer;                                 ///< dd
+    TranscodeTools transcode;
+};
+
+DiscTools discTools(const JKestrelSettingDispatcher &settings, int processors);
+
+/// Asks a disc what it holds; the object is the whole output. Its own limits of time hold.
+ToolCommand discInfoCommand(const DiscTools &tools, const QString &source);
+
+/// Writes a picture of the film, or of one of its titles, into the file `target`.
+ToolCommand discCoverCommand(const DiscTools &tools, const QString &source, int title, const QString &target);
+
+}  // namespace kestrel

@@ -1,0 +1,130 @@
+#include "MainTitleJob.h"
+
+#include "jobs/OutputFile.h"
+
+#include <QSaveFile>
+#include <QXmlStreamWriter>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::operator""_key;
+
+namespace {
+
+QString timeOfChapter(double seconds)
+{
+    const qint64 milliseconds = qint64(seconds * 1000 + 0.5);
+    return u"%1:%2:%3.%4"_s.arg(milliseconds / 3'600'000)
+        .arg(milliseconds / 60'000 % 60, 2, 10, QLatin1Char('0'))
+        .arg(milliseconds / 1000 % 60, 2, 10, QLatin1Char('0'))
+        .arg(milliseconds % 1000, 3, 10, QLatin1Char('0'));
+}
+
+/// As the author program calls it; null for none of its own.
+QString contentOf(const disc::DiscAudio &track)
+{
+    return track.purpose == "visuallyImpaired"_L1      ? u"impaired"_s
+           : track.purpose == "commentary"_L1          ? u"comments1"_s
+           : track.purpose == "alternateCommentary"_L1 ? u"comments2"_s
+           : track.purpose == "normal"_L1              ? u"normal"_s
+                                                       : QString();
+}
+
+bool writeText(const QString &path, const QByteArray &text)
+{
+    QSaveFile file(path);
+    return file.open(QIODevice::WriteOnly) && file.write(text) == text.size() && file.commit();
+}
+
+}  // namespace
+
+QByteArray paletteText(const disc::DiscTitle &title)
+{
+    QByteArray text;
+    for (const quint32 color : title.subtitles.value(0).palette)
+        text += QByteArray::number(color, 16).rightJustified(6, '0') + '\n';
+    return text;
+}
+
+QByteArray authorFile(const DiscPlan &plan, const disc::DiscTitle &title, const QString &paletteFile)
+{
+    QByteArray text;
+    QXmlStreamWriter xml(&text);
+    xml.writeStartElement(u"dvdauthor"_s);
+    xml.writeEmptyElement(u"vmgm"_s);
+    xml.writeStartElement(u"titleset"_s);
+    xml.writeStartElement(u"titles"_s);
+    xml.writeEmptyElement(u"video"_s);
+    xml.writeAttribute(u"format"_s, title.standard.toLower());
+    xml.writeAttribute(u"aspect"_s, title.aspect);
+    if (title.aspect == "16:9"_L1)
+        xml.writeAttribute(u"widescreen"_s, u"nopanscan"_s);
+    for (const disc::DiscAudio &track : title.audio) {
+        xml.writeEmptyElement(u"audio"_s);
+        if (!track.language.isEmpty())
+            xml.writeAttribute(u"lang"_s, track.language);
+        if (const QString content = contentOf(track); !content.isEmpty())
+            xml.writeAttribute(u"content"_s, content);
+    }
+    for (const disc::DiscSubtitle &track : title.subtitles) {
+        xml.writeEmptyElement(u"subpicture"_s);
+        if (!track.language.isEmpty())
+            xml.writeAttribute(u"lang"_s, track.language);
+    }
+    xml.writeStartElement(u"pgc"_s);
+    if (!title.subtitles.isEmpty())
+        xml.writeAttribute(u"palette"_s, paletteFile);
+    QStringList chapters;
+    for (const double start : chosenChapters(plan, title))
+        chapters.append(timeOfChapter(start));
+    xml.writeEmptyElement(u"vob"_s);
+    xml.writeAttribute(u"file"_s, u"-"_s);
+    xml.writeAttribute(u"chapters"_s, chapters.isEmpty() ? u"0"_s : chapters.join(u','));
+    xml.writeEndDocument();
+    return text;
+}
+
+void MainTitleJob::carryOut()
+{
+    if (request().tools.author.isEmpty())
+        return fail("The program dvdauthor is missing. Please install it."_key);
+    m_output = std::make_shared<OutputFile>(request().folder, outputName(), QString(), OutputFile::Kind::Folder);
+    m_workFolder = std::make_unique<OutputFile>(request().folder, outputName(), QString(), OutputFile::Kind::Folder);
+    if (!m_output->isValid() || !m_workFolder->isValid())
+        return fail(m_output->isValid() ? m_workFolder->reason() : m_output->reason());
+    const QString plan = m_workFolder->partPath() + u"/disc.xml"_s,
+                  palette = m_workFolder->partPath() + u"/colors.rgb"_s;
+    if (!writeText(plan, authorFile(request().plan, title(), palette)) || !writeText(palette, paletteText(title())))
+        return fail("The output could not be written."_key);
+    tellStage({});
+    ToolCommand command{.program = request().tools.author,
+                        .arguments = {u"-o"_s, m_output->partPath(), u"-x"_s, plan},
+                        .workingFolder = m_workFolder->partPath(),
+                        .feeder = titleReader({u"--navigation"_s})};
+    runDiscTool(command, 0.97, [this](const ToolEnding &ending) {
+        if (!isGoodStep(ending))
+            return;
+        const qint64 lost =
+            lines().result["lostSectors"_L1].toInteger() + lines().result["emptySectors"_L1].toInteger();
+        setFact(u"faults"_s, lost);
+        if (lost > 0)
+            addProblem({"%1 sectors of the film could not be read."_key, {QString::number(lost)}});
+        disc::DiscTitle wanted = title();
+        wanted.number = 1;
+        wanted.isMain = true;
+        wanted.seconds = chosenSeconds(request().plan, title());
+        wanted.chapters = chosenChapters(request().plan, title());
+        disc::DiscContents disc;
+        disc.titles = {wanted};
+        checkCopy(m_output->partPath(), disc);
+    });
+}
+
+void MainTitleJob::copyIsGood()
+{
+    place(std::exchange(m_output, nullptr));
+}
+
+}  // namespace kestrel

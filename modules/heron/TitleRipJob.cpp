@@ -1,0 +1,93 @@
+#include "TitleRipJob.h"
+
+#include "jobs/FileNames.h"
+#include "jobs/OutputFile.h"
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+TitleRipJob::~TitleRipJob()
+{
+    m_converting.reset();
+}
+
+bool TitleRipJob::takesVideo() const
+{
+    return request().plan.transcode.preset.takesVideo();
+}
+
+/// Named as the output is to be: the converter takes the name from its source.
+QString TitleRipJob::openTarget()
+{
+    m_film = m_workFolder->partPath() + u'/' + fittingName(portableName(outputName()), u".mkv"_s, 143);
+    return m_film;
+}
+
+TranscodePlan TitleRipJob::transcodePlan() const
+{
+    const DiscPlan &plan = request().plan;
+    TranscodePlan result = plan.transcode;
+    result.sources = {m_film};
+    result.besideSource = false;
+    result.keepsDate = false;
+    const qsizetype burned = subtitles().places.indexOf(plan.burnedSubtitle - 1);
+    if (plan.burnedSubtitle > 0 && burned >= 0)
+        result.subtitles.insert(int(film().video.size() + film().sound.size() + burned),
+                                TranscodePlan::SubtitleUse::Burn);
+    return result;
+}
+
+void TitleRipJob::fileIsGood()
+{
+    beginShare(1 - shareOfFile());
+    m_converting = std::make_unique<TranscodeJob>(TranscodeRequest{
+        .plan = transcodePlan(), .information = {}, .folder = request().folder, .tools = request().tools.transcode});
+    connect(m_converting.get(), &Job::noted, this, &Job::noted);
+    connect(m_converting.get(), &Job::finished, this, &TitleRipJob::converted);
+    connect(m_converting.get(), &Job::progressed, this, [this](const JobProgress &progress) {
+        tellStage(progress.stage);
+        tellProgress(progress.fraction.value_or(0), progress.seconds, progress.bytes);
+    });
+    m_converting->start();
+    if (isPaused())
+        m_converting->setPaused(true);
+}
+
+void TitleRipJob::converted(const JobOutcome &outcome)
+{
+    JobOutcome whole = outcome;
+    whole.problems = problems() + outcome.problems;
+    whole.leftOut = leftOut() + outcome.leftOut;
+    if (outcome.state == JobState::Done && !whole.problems.isEmpty())
+        whole.state = JobState::DoneWithProblems;
+    if (whole.state == JobState::DoneWithProblems)
+        whole.sentence = whole.problems.value(0);
+    m_workFolder.reset();
+    finish(whole);
+}
+
+void TitleRipJob::stop()
+{
+    if (m_converting)
+        m_converting->stop();
+    else
+        TitleFileJob::stop();
+}
+
+void TitleRipJob::cancel()
+{
+    if (m_converting)
+        m_converting->cancel();
+    else
+        TitleFileJob::cancel();
+}
+
+void TitleRipJob::setPaused(bool paused)
+{
+    TitleFileJob::setPaused(paused);
+    if (m_converting)
+        m_converting->setPaused(paused);
+}
+
+}  // namespace kestrel

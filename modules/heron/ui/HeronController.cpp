@@ -1,0 +1,386 @@
+#include "HeronController.h"
+
+#include "DiscView.h"
+
+#include "foundation/UserDefaults.h"
+#include "jobs/DiskSpace.h"
+#include "jobs/JobQueue.h"
+#include "jobs/ui/JobPage.h"
+#include "modules/ModuleRow.h"
+#include "modules/common/LateView.h"
+#include "modules/common/OutputFolderLine.h"
+#include "modules/heron/DiscList.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ui/Images.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QPushButton>
+#include <QThread>
+
+#include <algorithm>
+#include <numeric>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+constexpr JobPageTexts heronTexts = {
+    .title = "DVD Ripper"_key,
+    .emptyHeadline = "Put a DVD in, or drop a disc image or folder here"_key,
+    .emptyText = "Its titles are kept as they are, or become MP4, MKV or MP3, as you choose."_key,
+    .emptyButton = "Open Image…"_key,
+    .start = "Start"_key,
+    .emptyImage = "heron_module",
+};
+
+QString interfaceLanguage()
+{
+    const QStringList chosen = foundation::UserDefaults::standardUserDefaults().stringArrayForKey(u"AppleLanguages"_s);
+    return chosen.isEmpty() ? u"en"_s : chosen.first();
+}
+
+QString sizeText(qint64 bytes)
+{
+    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+}
+
+}  // namespace
+
+HeronController::HeronController(const ModuleConfigure &configure, ModuleServices &services)
+    : m_services(services),
+      m_settings(configure.value(moduleSettingKey.toString())),
+      m_recipe([this] { return tools(); }),
+      m_view(std::make_unique<LateView>([this] { return makeContents(); }))
+{
+    connect(&m_probe, &DiscProbe::answered, this, &HeronController::discAnswered);
+    connect(&m_drives, &DiscDrives::changed, this, &HeronController::showDrives);
+}
+
+HeronController::~HeronController()
+{
+    if (m_list)
+        queue().setRecipe(heronJobs.toString(), nullptr);
+}
+
+JobQueue &HeronController::queue()
+{
+    return m_services.queue();
+}
+
+DiscTools HeronController::tools() const
+{
+    return discTools(*m_settings, QThread::idealThreadCount());
+}
+
+std::unique_ptr<QWidget> HeronController::makeContents()
+{
+    queue().setRecipe(heronJobs.toString(), &m_recipe);
+    m_list = std::make_unique<DiscList>(queue());
+    auto page = std::make_unique<JobPage>(queue(), *m_list, heronJobs.toString(), heronTexts);
+    m_page = page.get();
+    m_disc = new DiscView(interfaceLanguage());
+    m_page->setTopArea(m_disc);
+    makeHeader();
+    makeChoices();
+    connect(m_disc, &DiscView::choiceChanged, this, &HeronController::showChoice);
+    connect(&m_pictures, &DiscPictures::made, m_disc, &DiscView::setPicture);
+    connect(m_page, &JobPage::backClicked, this, &HeronController::doBackAction);
+    connect(m_page, &JobPage::addClicked, this, &HeronController::chooseImage);
+    connect(m_page, &JobPage::pathsDropped, this, &HeronController::openFiles);
+    connect(m_page, &JobPage::startClicked, this, &HeronController::begin);
+    connect(m_list.get(), &QAbstractItemModel::rowsInserted, this, &HeronController::showArea);
+    connect(m_list.get(), &QAbstractItemModel::rowsRemoved, this, &HeronController::showArea);
+    showDrives();
+    showArea();
+    return page;
+}
+
+void HeronController::makeHeader()
+{
+    m_driveBox = new QComboBox;
+    m_driveBox->setObjectName(u"driveComboBox"_s);
+    m_driveBox->setAccessibleName("Drive"_key.localized());
+    connect(m_driveBox, &QComboBox::activated, this, [this] { openSource(m_driveBox->currentData().toString()); });
+    m_page->addHeaderControl(m_driveBox);
+    auto *image = new QPushButton("Open Image…"_key.localized());
+    image->setObjectName(u"imageButton"_s);
+    connect(image, &QPushButton::clicked, this, &HeronController::chooseImage);
+    m_page->addHeaderControl(image);
+    auto *folder = new QPushButton("Open Folder…"_key.localized());
+    folder->setObjectName(u"folderButton"_s);
+    connect(folder, &QPushButton::clicked, this, &HeronController::chooseFolder);
+    m_page->addHeaderControl(folder);
+}
+
+void HeronController::makeChoices()
+{
+    m_ways = new QComboBox;
+    m_ways->setObjectName(u"wayComboBox"_s);
+    m_ways->setAccessibleName("How the disc is kept"_key.localized());
+    for (const DiscWayRow &row : discWayRows())
+        m_ways->addItem(row.name.localized(), int(row.way));
+    connect(m_ways, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
+    m_page->addChoice(m_ways);
+    m_presets = new QComboBox;
+    m_presets->setObjectName(u"targetComboBox"_s);
+    m_presets->setAccessibleName("Output format"_key.localized());
+    for (const Preset &preset : builtInPresets())
+        m_presets->addItem(preset.name, preset.id);
+    connect(m_presets, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
+    m_page->addChoice(m_presets);
+    auto *folder = new OutputFolderLine;
+    folder->setDispatcher(m_settings);
+    m_page->addChoice(folder, 1);
+}
+
+void HeronController::setCompletedHandler(CompletedHandler handler)
+{
+    m_completedHandler = std::move(handler);
+}
+
+QWidget *HeronController::view()
+{
+    return m_view.get();
+}
+
+QString HeronController::windowTitle() const
+{
+    return moduleRows()[ModuleSettingDVD].title.localized();
+}
+
+/// Jobs go on while another module is open.
+void HeronController::doBackAction()
+{
+    if (m_completedHandler)
+        m_completedHandler(this);
+}
+
+bool HeronController::shouldTerminate()
+{
+    return true;
+}
+
+void HeronController::markAppear()
+{
+    m_drives.start();
+}
+
+void HeronController::onViewDidDisappear()
+{
+    m_drives.stop();
+}
+
+void HeronController::openFiles(const QStringList &paths)
+{
+    m_view->makeContents();
+    if (!paths.isEmpty())
+        openSource(paths.first());
+}
+
+void HeronController::chooseImage()
+{
+    openSource(QFileDialog::getOpenFileName(
+        m_page, "Open Image…"_key.localized(), QString(),
+        "Disc images"_key.localized() + u" (*.iso *.ISO *.img *.IMG);;"_s + "All files"_key.localized() + u" (*)"_s));
+}
+
+void HeronController::chooseFolder()
+{
+    openSource(QFileDialog::getExistingDirectory(m_page, "Open Folder…"_key.localized()));
+}
+
+void HeronController::openSource(const QString &source)
+{
+    if (source.isEmpty())
+        return;
+    m_source = source;
+    m_contents.reset();
+    m_pictures.stop();
+    m_disc->showReading(QFileInfo(source).fileName());
+    m_probe.ask(tools(), source);
+    showChoice();
+}
+
+void HeronController::discAnswered(const DiscProbe::Answer &answer)
+{
+    const QString name = QFileInfo(m_source).fileName();
+    if (!answer)
+        m_disc->showFailure(name, answer.reason().localized());
+    else if (answer->isProtected)
+        m_disc->showFailure(answer->volume, discFailure(u"protected"_s).localized());
+    else if (answer->titles.isEmpty())
+        m_disc->showFailure(answer->volume, discFailure(u"noTitle"_s).localized());
+    else
+        m_contents = *answer;
+    if (m_contents) {
+        m_disc->showDisc(*m_contents);
+        QList<int> pictures{0, m_contents->mainTitle()->number};
+        for (const disc::DiscTitle &title : m_contents->titles) {
+            if (!pictures.contains(title.number))
+                pictures.append(title.number);
+        }
+        m_pictures.make(tools(), m_source, pictures);
+    }
+    showChoice();
+}
+
+/// A disc that was put in is shown where none is.
+void HeronController::showDrives()
+{
+    if (!m_page)
+        return;
+    const QList<DiscDrive> &drives = m_drives.drives();
+    m_driveBox->clear();
+    for (const DiscDrive &drive : drives) {
+        m_driveBox->addItem(drive.label.isEmpty() ? drive.device : u"%1 (%2)"_s.arg(drive.label, drive.device),
+                            drive.device);
+    }
+    m_driveBox->setVisible(!drives.isEmpty());
+    const bool isGone = m_source.startsWith("/dev/"_L1) && m_driveBox->findData(m_source) < 0;
+    if (isGone) {
+        m_probe.stop();
+        m_pictures.stop();
+        m_source.clear();
+        m_contents.reset();
+    }
+    m_driveBox->setCurrentIndex(m_driveBox->findData(m_source));
+    if (m_source.isEmpty() && !drives.isEmpty()) {
+        m_driveBox->setCurrentIndex(0);
+        openSource(drives.first().device);
+    }
+    showChoice();
+}
+
+DiscWay HeronController::way() const
+{
+    return DiscWay(m_ways->currentData().toInt());
+}
+
+Preset HeronController::preset() const
+{
+    const Preset *preset = presetOfId(m_presets->currentData().toString());
+    return preset ? *preset : builtInPresets().first();
+}
+
+QList<disc::DiscTitle> HeronController::chosenTitles() const
+{
+    const QList<int> numbers = m_disc->chosenTitles();
+    QList<disc::DiscTitle> titles;
+    if (m_contents) {
+        std::copy_if(m_contents->titles.begin(), m_contents->titles.end(), std::back_inserter(titles),
+                     [&](const disc::DiscTitle &title) { return numbers.contains(title.number); });
+    }
+    return titles;
+}
+
+void HeronController::showChoice()
+{
+    if (!m_page)
+        return;
+    m_presets->setVisible(way() == DiscWay::Rip);
+    m_disc->setChoosing(!takesWholeDisc(way()));
+    const QList<disc::DiscTitle> titles = chosenTitles();
+    const bool isFolder = QFileInfo(m_source).isDir();
+    const bool canMake =
+        m_contents && (takesWholeDisc(way()) ? !(isFolder && way() == DiscWay::Image) : !titles.isEmpty());
+    m_page->setStartEnabled(canMake);
+    const auto row = std::find_if(discWayRows().begin(), discWayRows().end(),
+                                  [this](const DiscWayRow &candidate) { return candidate.way == way(); });
+    QString text = row->sentence.localized();
+    if (m_contents && isFolder && way() == DiscWay::Image)
+        text = "A folder has no sectors to copy. Choose another way."_key.localized();
+    else if (m_contents)
+        text +=
+            u' ' + Sentence("About %1."_key, {sizeText(resultBytes(way(), preset(), *m_contents, titles))}).localized();
+    m_disc->setChoiceText(m_contents ? text : QString());
+    showArea();
+}
+
+/// The list takes no place where there is a disc and no job, the disc none where there is no disc.
+void HeronController::showArea()
+{
+    const bool hasDisc = !m_source.isEmpty();
+    m_disc->setVisible(hasDisc);
+    m_page->setListVisible(!hasDisc || m_list->rowCount() > 0);
+    m_ways->setEnabled(m_contents.has_value());
+    m_presets->setEnabled(m_contents.has_value());
+}
+
+QList<DiscPlan> HeronController::plans() const
+{
+    QList<DiscPlan> plans;
+    const QList<int> numbers = takesWholeDisc(way()) ? QList<int>{0} : m_disc->chosenTitles();
+    for (const int number : numbers) {
+        DiscPlan plan;
+        plan.source = m_source;
+        plan.way = way();
+        plan.title = number;
+        plan.transcode.preset = preset();
+        applySettings(*m_settings, QThread::idealThreadCount(), plan);
+        if (number > 0) {
+            plan.soundTracks = m_disc->chosenSound(number);
+            plan.subtitleTracks = m_disc->chosenSubtitles(number);
+        }
+        describeDisc(*m_contents, plan);
+        plans.append(plan);
+    }
+    return plans;
+}
+
+bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) const
+{
+    if (!m_settings->check(obstacle))
+        return false;
+    if (!QFileInfo(tools().title).isExecutable() || !QFileInfo(tools().transcode.transcoder).isExecutable()) {
+        *obstacle = "The disc tools could not be started. Please install the application again."_key.localized();
+        return false;
+    }
+    const qint64 needed =
+        std::accumulate(plans.begin(), plans.end(), qint64(0),
+                        [](qint64 most, const DiscPlan &plan) { return std::max(most, expectedBytesOf(plan)); }) +
+        resultBytes(way(), preset(), *m_contents, chosenTitles());
+    const auto space = diskSpaceOf(discFolder(*m_settings, plans.first()));
+    if (!space || space->available >= needed)
+        return true;
+    *obstacle = Sentence(
+                    "There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder "
+                    "in the settings."_key,
+                    {sizeText(needed), sizeText(space->available)})
+                    .localized();
+    return false;
+}
+
+void HeronController::begin()
+{
+    const QList<DiscPlan> wanted = m_contents ? plans() : QList<DiscPlan>();
+    if (wanted.isEmpty())
+        return;
+    QString obstacle;
+    if (canStart(wanted, &obstacle)) {
+        QList<JobId> ids;
+        for (const DiscPlan &plan : wanted) {
+            const QString folder = discFolder(*m_settings, plan);
+            QDir().mkpath(folder);
+            ids.append(queue().add(discJob(plan, folder)));
+        }
+        queue().start(ids);
+        return;
+    }
+    tarnwell::runAlert({.message = obstacle,
+                        .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
+                        .alternateButton = {},
+                        .informativeText = {},
+                        .style = tarnwell::AlertStyle::Warning});
+}
+
+}  // namespace kestrel

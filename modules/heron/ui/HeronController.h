@@ -1,0 +1,82 @@
+#pragma once
+
+#include "modules/Module.h"
+#include "modules/heron/DiscDrives.h"
+#include "modules/heron/DiscPictures.h"
+#include "modules/heron/DiscProbe.h"
+#include "modules/heron/DiscRecipe.h"
+
+#include <QObject>
+#include <QPointer>
+
+class QComboBox;
+
+namespace kestrel {
+
+class DiscList;
+class DiscView;
+class JobPage;
+class JobQueue;
+class LateView;
+
+/// The DVD module: a disc, its titles and the way to keep them above the list of jobs. Drives are watched while the
+/// module is open; what is in one that was put in last is shown where no disc is.
+class HeronController final : public QObject,
+                              public ModuleController,
+                              public ModuleAppearance,
+                              public ModuleDisappearance,
+                              public ModuleFileOpening {
+    Q_OBJECT
+public:
+    HeronController(const ModuleConfigure &configure, ModuleServices &services);
+    ~HeronController() override;
+
+    void setCompletedHandler(CompletedHandler handler) override;
+    QWidget *view() override;
+    QString windowTitle() const override;
+    void doBackAction() override;
+    bool shouldTerminate() override;
+    void markAppear() override;
+    void onViewDidDisappear() override;
+    void openFiles(const QStringList &paths) override;
+
+private:
+    std::unique_ptr<QWidget> makeContents();
+    void makeHeader();
+    void makeChoices();
+    JobQueue &queue();
+    DiscTools tools() const;
+
+    void chooseImage();
+    void chooseFolder();
+    void openSource(const QString &source);
+    void discAnswered(const DiscProbe::Answer &answer);
+    void showDrives();
+    void showChoice();
+    void showArea();
+
+    DiscWay way() const;
+    Preset preset() const;
+    QList<disc::DiscTitle> chosenTitles() const;
+    QList<DiscPlan> plans() const;
+    bool canStart(const QList<DiscPlan> &plans, QString *obstacle) const;
+    void begin();
+
+    ModuleServices &m_services;
+    std::shared_ptr<JKestrelSettingDispatcher> m_settings;
+    CompletedHandler m_completedHandler;
+    DiscRecipe m_recipe;
+    DiscProbe m_probe;
+    DiscPictures m_pictures;
+    DiscDrives m_drives;
+    QString m_source;                              ///< of the disc that is shown; null for none
+    std::optional<disc::DiscContents> m_contents;  ///< once it has answered
+    std::unique_ptr<LateView> m_view;
+    // From the making of the view's contents on
+    std::unique_ptr<DiscList> m_list;
+    QPointer<JobPage> m_page;
+    QPointer<DiscView> m_disc;
+    QPointer<QComboBox> m_driveBox, m_ways, m_presets;
+};
+
+}  // namespace kestrel

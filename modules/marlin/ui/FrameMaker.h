@@ -1,0 +1,47 @@
+#pragma once
+
+#include "media/FramePreview.h"
+
+#include <QImage>
+#include <QObject>
+
+#include <memory>
+#include <optional>
+
+namespace kestrel {
+
+class ToolPath;
+class ToolProcess;
+
+/// One picture of a source or of what becomes of it, computed in the background. Of several requests only the latest is
+/// carried out. Main thread.
+class FrameMaker : public QObject {
+    Q_OBJECT
+public:
+    struct Request {
+        QString transcoder;
+        TranscodePlan plan;
+        MediaInformation source;
+        double seconds = 0;
+        QSize size;  ///< pixels
+        PreviewPicture picture = PreviewPicture::Source;
+    };
+
+    explicit FrameMaker(QObject *parent = nullptr);
+    ~FrameMaker() override;
+
+    void request(const Request &request);
+
+signals:
+    /// A null image where there is none to be had.
+    void made(const QImage &image);
+
+private:
+    void start();
+
+    std::optional<Request> m_next;
+    std::unique_ptr<ToolPath> m_path;
+    std::unique_ptr<ToolProcess> m_process;
+};
+
+}  // namespace kestrel

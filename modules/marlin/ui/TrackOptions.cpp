@@ -1,0 +1,174 @@
+#include "TrackOptions.h"
+
+#include "foundation/LanguageTags.h"
+#include "media/Encoders.h"
+#include "tarnwell/TextKey.h"
+#include "tarnwell/ui/TextStyles.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QJsonDocument>
+#include <QLabel>
+#include <QPushButton>
+#include <QVBoxLayout>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using Plan = TranscodePlan;
+using tarnwell::operator""_key;
+
+QLabel *hintLabel(tarnwell::TextKey text)
+{
+    auto *label = new QLabel(text.localized());
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    tarnwell::setTextStyle(label, 12, QFont::Normal, tarnwell::palette::quietText);
+    return label;
+}
+
+}  // namespace
+
+TrackOptions::TrackOptions(QVBoxLayout *sounds, QVBoxLayout *subtitles, QObject *parent)
+    : QObject(parent),
+      m_soundLayout(sounds),
+      m_subtitleLayout(subtitles)
+{
+}
+
+QString TrackOptions::nameOf(const MediaTrack &track) const
+{
+    QStringList parts;
+    if (!track.language.isEmpty())
+        parts.append(foundation::languageDisplayName(track.language, m_language));
+    if (!track.title.isEmpty())
+        parts.append(track.title);
+    if (track.isForced)
+        parts.append("forced"_key.localized());
+    if (parts.isEmpty())
+        parts.append(tarnwell::Sentence("Track %1"_key, {QString::number(track.index)}).localized());
+    parts.append(codecLabel(track.codec));
+    if (track.channels > 0)
+        parts.append(track.channelLayout.isEmpty() ? QString::number(track.channels) : track.channelLayout);
+    return parts.join(u" · "_s);
+}
+
+void TrackOptions::show(const TranscodePlan &plan, const MediaInformation *source, const QString &language)
+{
+    m_language = language;
+    QString shown = plan.sources.join(u'\n') + (source ? u'+' : u'-');
+    for (const Plan::ExternalSubtitle &file : plan.externalSubtitles)
+        shown += u'\n' + file.path;
+    // Where another is burnt in now, this one no longer is.
+    shown += QString::number(plan.subtitles.key(Plan::SubtitleUse::Burn, -1));
+    if (shown == m_shown)
+        return;
+    m_shown = shown;
+    for (QWidget *widget : std::as_const(m_made))
+        widget->deleteLater();
+    m_made.clear();
+    if (source) {
+        showSounds(plan, *source);
+        showSubtitles(plan, *source);
+        showFiles(plan);
+        return;
+    }
+    for (QVBoxLayout *layout : {m_soundLayout, m_subtitleLayout}) {
+        m_made.append(hintLabel("Select one file in the list to choose among its tracks."_key));
+        layout->addWidget(m_made.last());
+    }
+}
+
+void TrackOptions::showSounds(const TranscodePlan &plan, const MediaInformation &source)
+{
+    const QList<MediaTrack> tracks = source.tracksOf(MediaTrack::Kind::Audio);
+    QList<int> all;
+    for (const MediaTrack &track : tracks)
+        all.append(track.index);
+    for (const MediaTrack &track : tracks) {
+        auto *box = new QCheckBox(nameOf(track));
+        box->setChecked(!plan.audioTracks || plan.audioTracks->contains(track.index));
+        connect(box, &QCheckBox::toggled, this, [this, all, index = track.index](bool isKept) {
+            emit changed([all, index, isKept](TranscodePlan &changing) {
+                QList<int> kept = changing.audioTracks.value_or(all);
+                kept.removeAll(index);
+                if (isKept)
+                    kept.append(index);
+                std::sort(kept.begin(), kept.end());
+                changing.audioTracks = kept == all ? std::nullopt : std::optional(kept);
+            });
+        });
+        m_soundLayout->addWidget(box);
+        m_made.append(box);
+    }
+}
+
+QWidget *TrackOptions::line(const QString &text, Plan::SubtitleUse use,
+                            const std::function<void(TranscodePlan &, Plan::SubtitleUse)> &set)
+{
+    auto *label = new QLabel(text);
+    label->setTextFormat(Qt::PlainText);
+    label->setWordWrap(true);
+    auto *box = new QComboBox;
+    box->addItems(
+        {"Kept as a track"_key.localized(), "Burnt into the picture"_key.localized(), "Left out"_key.localized()});
+    box->setCurrentIndex(int(use));
+    box->setAccessibleName(text);
+    connect(box, &QComboBox::activated, this, [this, set](int index) {
+        emit changed([set, index](TranscodePlan &plan) { set(plan, Plan::SubtitleUse(index)); });
+    });
+    auto *row = new QWidget;
+    auto *layout = new QVBoxLayout(row);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(4);
+    layout->addWidget(label);
+    layout->addWidget(box);
+    m_made.append(row);
+    m_subtitleLayout->addWidget(row);
+    return row;
+}
+
+void TrackOptions::showSubtitles(const TranscodePlan &plan, const MediaInformation &source)
+{
+    for (const MediaTrack &track : source.tracksOf(MediaTrack::Kind::Subtitle)) {
+        line(nameOf(track), plan.subtitles.value(track.index, Plan::SubtitleUse::Keep),
+             [index = track.index](TranscodePlan &changing, Plan::SubtitleUse use) {
+                 // Only one can be burnt in.
+                 if (use == Plan::SubtitleUse::Burn)
+                     changing.subtitles.removeIf(
+                         [](const auto &each) { return each.value() == Plan::SubtitleUse::Burn; });
+                 changing.subtitles.insert(index, use);
+             });
+    }
+}
+
+void TrackOptions::showFiles(const TranscodePlan &plan)
+{
+    for (qsizetype i = 0; i < plan.externalSubtitles.size(); ++i) {
+        const Plan::ExternalSubtitle &file = plan.externalSubtitles.at(i);
+        line(QFileInfo(file.path).fileName(), file.use, [i](TranscodePlan &changing, Plan::SubtitleUse use) {
+            if (i < changing.externalSubtitles.size())
+                changing.externalSubtitles[i].use = use;
+        });
+    }
+    auto *add = new QPushButton("Add Subtitle File…"_key.localized());
+    connect(add, &QPushButton::clicked, this, &TrackOptions::chooseFile);
+    m_subtitleLayout->addWidget(add);
+    m_made.append(add);
+}
+
+void TrackOptions::chooseFile()
+{
+    const QString path =
+        QFileDialog::getOpenFileName(m_made.last(), "Add Subtitle File…"_key.localized(), QString(),
+                                     "Subtitles"_key.localized() + u" (*.srt *.ass *.ssa *.vtt *.sub *.idx *.sup)"_s);
+    if (!path.isEmpty())
+        emit changed([path](TranscodePlan &plan) { plan.externalSubtitles.append({.path = path, .language = {}}); });
+}
+
+}  // namespace kestrel

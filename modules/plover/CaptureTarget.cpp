@@ -1,0 +1,89 @@
+#include "CaptureTarget.h"
+
+#include "X11Display.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using foundation::Failure;
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+using Target = foundation::Result<CaptureTarget, Sentence>;
+
+Target cameraTarget(const RecordPlan &plan)
+{
+    CaptureTarget target;
+    if (plan.camera.startsWith("lavfi:"_L1)) {
+        target.generator = plan.camera.mid(6);
+        return target;
+    }
+    const QStringList devices = QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name);
+    target.camera = plan.camera;
+    if (target.camera.isEmpty() || !QFileInfo::exists(target.camera))
+        target.camera = devices.isEmpty() ? QString() : u"/dev/"_s + devices.first();
+    if (target.camera.isEmpty())
+        return Failure{Sentence("No camera was found."_key)};
+    return target;
+}
+
+Target windowTarget(const RecordPlan &plan, const X11Display &display)
+{
+    const auto window = display.window(plan.window);
+    if (!window)
+        return Failure{Sentence("There is no window %1 to be seen."_key, {QString::number(plan.window)})};
+    const QRect area = recordableArea({{0, 0}, window->area.size()}, {{0, 0}, window->area.size()});
+    if (area.isEmpty())
+        return Failure{Sentence("The window is too small to be recorded."_key)};
+    return CaptureTarget{.display = display.name(), .window = plan.window, .area = area};
+}
+
+}  // namespace
+
+QRect recordableArea(const QRect &wanted, const QRect &desktop)
+{
+    QRect area = wanted.intersected(desktop);
+    area.setSize({area.width() & ~1, area.height() & ~1});
+    return area.width() >= 2 && area.height() >= 2 ? area : QRect();
+}
+
+Target captureTarget(const RecordPlan &plan)
+{
+    if (plan.what == RecordPlan::What::Camera)
+        return cameraTarget(plan);
+    const auto opened = X11Display::open();
+    if (!opened)
+        return Failure{opened.reason()};
+    const X11Display &display = **opened;
+    if (plan.what == RecordPlan::What::Window)
+        return windowTarget(plan, display);
+    QRect wanted = plan.area;
+    if (plan.what == RecordPlan::What::Screen) {
+        const QList<X11Display::Monitor> monitors = display.monitors();
+        const auto found = std::ranges::find_if(monitors, [&](const X11Display::Monitor &monitor) {
+            return plan.screen.isEmpty() || monitor.name == plan.screen;
+        });
+        if (found == monitors.end()) {
+            QStringList names;
+            for (const X11Display::Monitor &monitor : monitors)
+                names.append(monitor.name);
+            return Failure{
+                Sentence("There is no screen \"%1\". There is: %2."_key, {plan.screen, names.join(u", "_s)})};
+        }
+        wanted = found->area;
+    }
+    const QRect area = recordableArea(wanted, display.area());
+    if (area.isEmpty())
+        return Failure{Sentence("The area to be recorded is outside the screen."_key)};
+    return CaptureTarget{.display = display.name(), .area = area};
+}
+
+}  // namespace kestrel

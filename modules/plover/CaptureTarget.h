@@ -1,0 +1,27 @@
+#pragma once
+
+#include "RecordPlan.h"
+
+#include "foundation/Result.h"
+#include "tarnwell/TextKey.h"
+
+#include <QSize>
+
+namespace kestrel {
+
+/// Where a recording's pictures come from, as it is at this moment.
+struct CaptureTarget {
+    QString display = {};  ///< an X display; empty for a camera
+    quint32 window = 0;
+    QRect area = {};         ///< of the display; of the window itself where that is what is recorded. Even sizes.
+    QString camera = {};     ///< path of the device
+    QString generator = {};  ///< instead of a camera: a source of ffmpeg's own
+};
+
+/// What the plan names, or why it cannot be recorded: no such screen or window, an area that is nowhere.
+foundation::Result<CaptureTarget, tarnwell::Sentence> captureTarget(const RecordPlan &plan);
+
+/// The part of an area that is on the desktop, with even sides as encoders want them; empty where nothing is left.
+QRect recordableArea(const QRect &wanted, const QRect &desktop);
+
+}  // namespace kestrel

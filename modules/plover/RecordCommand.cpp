@@ -1,0 +1,218 @@
+#include "RecordCommand.h"
+
+#include <QRegularExpression>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+struct Coding {
+    const char *preset;
+    const char *quality;  ///< of x264, the smaller the better
+    const char *soundBitRate;
+};
+
+// By quality. Each keeps up with 30 pictures a second of 1920 × 1080 on two processors; the better ones take more of
+// the disk, not of the processor.
+constexpr std::array<Coding, 3> codings = {
+    {{"veryfast", "28", "96k"}, {"superfast", "23", "160k"}, {"superfast", "17", "256k"}}};
+
+QString number(double value)
+{
+    return QString::number(value, 'f', 6).remove(QRegularExpression(u"\\.?0+$"_s));
+}
+
+QString size(QSize size)
+{
+    return u"%1x%2"_s.arg(size.width()).arg(size.height());
+}
+
+/// What is read ahead of the encoder: few pictures, which are large, and so much sound that none is ever lost.
+constexpr const char *picturesAhead = "12", *soundsAhead = "4096";
+
+QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
+{
+    QStringList arguments{u"-thread_queue_size"_s, QLatin1StringView(picturesAhead)};
+    const QStringList unprobed{u"-probesize"_s, u"32"_s, u"-analyzeduration"_s, u"0"_s};
+    if (!target.generator.isEmpty())
+        return arguments +
+               QStringList{u"-re"_s,        u"-use_wallclock_as_timestamps"_s, u"1"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
+                           target.generator};
+    if (target.display.isEmpty())
+        return arguments + QStringList{u"-f"_s,         u"v4l2"_s,         u"-timestamps"_s, u"abs"_s,
+                                       u"-framerate"_s, number(plan.rate), u"-i"_s,          target.camera};
+    arguments += unprobed;
+    arguments += {u"-f"_s,          u"x11grab"_s,
+                  u"-framerate"_s,  number(plan.rate),
+                  u"-video_size"_s, size(target.area.size()),
+                  u"-draw_mouse"_s, plan.pointer ? u"1"_s : u"0"_s};
+    if (target.window != 0)
+        arguments += {u"-window_id"_s, QString::number(target.window)};
+    else
+        arguments += {u"-grab_x"_s, QString::number(target.area.x()), u"-grab_y"_s, QString::number(target.area.y())};
+    return arguments + QStringList{u"-i"_s, target.display};
+}
+
+/// The sources of sound, as the sound server names them.
+QStringList soundSources(const RecordPlan &plan)
+{
+    using enum RecordPlan::Sound;
+    QStringList sources;
+    if (plan.sound == System || plan.sound == Both)
+        sources.append(u"@DEFAULT_MONITOR@"_s);
+    if (plan.sound == Microphone || plan.sound == Both)
+        sources.append(plan.microphone.isEmpty() ? u"@DEFAULT_SOURCE@"_s : plan.microphone);
+    return sources;
+}
+
+QStringList soundInput(const QString &source, bool isSilent)
+{
+    if (isSilent)
+        return {u"-re"_s, u"-use_wallclock_as_timestamps"_s, u"1"_s, u"-f"_s, u"lavfi"_s,
+                u"-i"_s,  u"anullsrc=r=48000:cl=stereo"_s};
+    return {u"-thread_queue_size"_s,
+            QLatin1StringView(soundsAhead),
+            u"-probesize"_s,
+            u"32"_s,
+            u"-analyzeduration"_s,
+            u"0"_s,
+            u"-f"_s,
+            u"pulse"_s,
+            u"-name"_s,
+            u"Kestrel"_s,
+            u"-stream_name"_s,
+            u"Recording"_s,
+            u"-sample_rate"_s,
+            u"48000"_s,
+            u"-channels"_s,
+            u"2"_s,
+            u"-i"_s,
+            source};
+}
+
+struct Graph {
+    QString text;
+    QStringList outputs;
+};
+
+/// `pictures` is the number of the input that has them; the sounds are the first ones.
+Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
+{
+    const QString begin = QString::number(double(stretch.begin.count()) / 1e6, 'f', 6);
+    QStringList chains;
+    QStringList sounds;
+    for (int input = 0; input < pictures; ++input) {
+        sounds.append(u"[a%1]"_s.arg(input));
+        // Clocks of sound devices drift: the sound follows the clock of the pictures.
+        chains.append(
+            u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0,aresample=async=1000%3"_s.arg(input).arg(begin, sounds.last()));
+    }
+    if (sounds.size() > 1 && !plan.separateTracks) {
+        chains.append(sounds.join(QString()) + u"amix=inputs=2:duration=longest:normalize=0[a]"_s);
+        sounds = QStringList{u"[a]"_s};
+    }
+    QString chain = u"[%1:v]setpts=PTS-%2/TB,trim=start=0,"_s.arg(pictures).arg(begin);
+    const QSize own = stretch.target.area.size();
+    if (!stretch.size.isEmpty() && stretch.size != own)
+        chain += u"scale=%1:%2:force_original_aspect_ratio=decrease,pad=%1:%2:-1:-1,"_s.arg(stretch.size.width())
+                     .arg(stretch.size.height());
+    else if (own.isEmpty())
+        chain += u"crop=trunc(iw/2)*2:trunc(ih/2)*2,"_s;
+    chains.append(chain + u"scale=flags=fast_bilinear:out_color_matrix=bt709:out_range=tv,format=yuv420p[v]"_s);
+    return {chains.join(u';'), QStringList{u"[v]"_s} + sounds};
+}
+
+}  // namespace
+
+QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch)
+{
+    QStringList arguments{u"-hide_banner"_s, u"-nostdin"_s, u"-y"_s,        u"-loglevel"_s, u"repeat+level+warning"_s,
+                          u"-nostats"_s,     u"-copyts"_s,  u"-progress"_s, u"pipe:1"_s,    u"-stats_period"_s,
+                          u"0.25"_s};
+    const QStringList sources = soundSources(plan);
+    for (const QString &source : sources)
+        arguments += soundInput(source, stretch.isSilent);
+    arguments += pictureInput(plan, stretch.target);
+    const auto [text, outputs] = graph(plan, stretch, int(sources.size()));
+    arguments += {u"-filter_complex"_s, text};
+    for (const QString &output : outputs)
+        arguments += {u"-map"_s, output};
+    const Coding &coding = codings.at(size_t(plan.quality));
+    // Without delay in the encoder nothing is lost with it; a constant rate plays and edits everywhere.
+    arguments += {u"-c:v"_s,
+                  u"libx264"_s,
+                  u"-preset"_s,
+                  QLatin1StringView(coding.preset),
+                  u"-tune"_s,
+                  u"zerolatency"_s,
+                  u"-crf"_s,
+                  QLatin1StringView(coding.quality),
+                  u"-g"_s,
+                  QString::number(std::lround(plan.rate * 2)),
+                  u"-colorspace"_s,
+                  u"bt709"_s,
+                  u"-color_primaries"_s,
+                  u"bt709"_s,
+                  u"-color_trc"_s,
+                  u"bt709"_s,
+                  u"-fps_mode"_s,
+                  u"cfr"_s,
+                  u"-r"_s,
+                  number(plan.rate)};
+    if (!sources.isEmpty())
+        arguments += {u"-c:a"_s, u"aac"_s, u"-b:a"_s, QLatin1StringView(coding.soundBitRate)};
+    if (stretch.seconds > 0)
+        arguments += {u"-t"_s, number(stretch.seconds)};
+    return arguments + QStringList{u"-shortest"_s, u"-f"_s,
+                                   u"matroska"_s,  u"-cluster_time_limit"_s,
+                                   u"400"_s,       u"-flush_packets"_s,
+                                   u"1"_s,         u"file:"_s + stretch.output};
+}
+
+QStringList finishArguments(const QString &list, const QString &output)
+{
+    return {u"-hide_banner"_s,
+            u"-nostdin"_s,
+            u"-y"_s,
+            u"-loglevel"_s,
+            u"repeat+level+warning"_s,
+            u"-nostats"_s,
+            u"-f"_s,
+            u"concat"_s,
+            u"-safe"_s,
+            u"0"_s,
+            u"-i"_s,
+            u"file:"_s + list,
+            u"-map"_s,
+            u"0"_s,
+            u"-c"_s,
+            u"copy"_s,
+            u"-movflags"_s,
+            u"+faststart"_s,
+            u"file:"_s + output};
+}
+
+QByteArray joinList(const QStringList &stretches)
+{
+    QByteArray list = "ffconcat version 1.0\n";
+    for (QString path : stretches)
+        list += "file 'file:" + path.replace(u"'"_s, u"'\\''"_s).toUtf8() + "'\n";
+    return list;
+}
+
+QList<OutputExpectation::Track> recordedTracks(const RecordPlan &plan)
+{
+    QList<OutputExpectation::Track> tracks{{MediaTrack::Kind::Video, u"h264"_s}};
+    const qsizetype sounds = soundSources(plan).size();
+    for (qsizetype number = 0; number < (plan.separateTracks ? sounds : std::min<qsizetype>(sounds, 1)); ++number)
+        tracks.append({MediaTrack::Kind::Audio, u"aac"_s});
+    return tracks;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "CaptureTarget.h"
+#include "RecordPlan.h"
+
+#include "media/TranscodeCommand.h"
+
+#include <QStringList>
+
+#include <chrono>
+
+namespace kestrel {
+
+/// One stretch of a recording, from a start or a pause to the next.
+struct RecordStretch {
+    CaptureTarget target = {};
+    /// The size of the picture, where it is that of an earlier stretch; else the target's.
+    QSize size = {};
+    std::chrono::microseconds begin{0};  ///< by the clock since 1970; what comes before it is left out
+    double seconds = 0;                  ///< of this stretch at the most; 0 for no limit
+    bool isSilent = false;               ///< the sound server is away: the track goes on without a sound
+    QString output = {};                 ///< a file that is there already
+};
+
+/// What ffmpeg is run with for a stretch. Pure. Pictures and sound carry the time at which they were taken, so that
+/// they are in step whenever each of them begins; both begin at `begin`. The file is Matroska that is whole up to the
+/// last half second at any moment.
+QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch);
+
+/// What joins the stretches, without encoding, into the file that was asked for. `list` is for `joinList`'s text.
+QStringList finishArguments(const QString &list, const QString &output);
+QByteArray joinList(const QStringList &stretches);
+
+/// The tracks that the finished file must hold.
+QList<OutputExpectation::Track> recordedTracks(const RecordPlan &plan);
+
+}  // namespace kestrel

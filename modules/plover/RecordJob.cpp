@@ -1,0 +1,349 @@
+#include "RecordJob.h"
+
+#include "foundation/Queues.h"
+#include "jobs/OutputFile.h"
+#include "media/OutputCheck.h"
+#include "media/OutputPlacing.h"
+#include "media/ToolPath.h"
+#include "tarnwell/Log.h"
+
+#include <QDateTime>
+#include <QFile>
+#include <QFileInfo>
+#include <QSaveFile>
+
+#include <fcntl.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+constexpr std::chrono::seconds diskWatchInterval{2};
+/// Until ffmpeg has opened everything and the sound server's clock has settled.
+constexpr std::chrono::milliseconds leadWithSound{1200}, leadWithoutSound{600};
+constexpr std::chrono::seconds patience{20};
+
+/// What has been recorded survives the end of the machine as well.
+void syncLater(const QString &path)
+{
+    foundation::queue::asyncGlobal([name = QFile::encodeName(path)] {
+        const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
+        if (file < 0)
+            return;
+        fdatasync(file);
+        close(file);
+    });
+}
+
+}  // namespace
+
+void RecordJob::Tally::readLine(const QByteArray &line)
+{
+    const qsizetype equals = line.indexOf('=');
+    const QByteArray key = line.left(std::max<qsizetype>(equals, 0)).trimmed();
+    const qint64 value = line.mid(equals + 1).trimmed().toLongLong();
+    if (key == "out_time_us")
+        seconds = std::max(seconds, double(value) / 1e6);
+    else if (key == "total_size")
+        bytes = std::max(bytes, value);
+    else if (key == "dup_frames")
+        missed = std::max(missed, value);
+}
+
+RecordJob::RecordJob(RecordPlan plan, const QString &folder, RecordTools tools, QObject *parent)
+    : ToolJob(parent),
+      m_recording{.plan = std::move(plan), .folder = folder},
+      m_tools(std::move(tools))
+{
+    if (m_recording.plan.name.isEmpty())
+        m_recording.plan.name = u"Recording "_s + QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss"_s);
+    connect(&m_diskWatch, &QTimer::timeout, this, &RecordJob::watchDisk);
+}
+
+RecordJob::RecordJob(UnfinishedRecording recording, RecordTools tools, QObject *parent)
+    : ToolJob(parent),
+      m_recording(std::move(recording)),
+      m_tools(std::move(tools)),
+      m_isRecovery(true)
+{
+}
+
+RecordJob::~RecordJob()
+{
+    endTool();
+    if (m_placing)
+        m_placing->takeBack();
+}
+
+void RecordJob::start()
+{
+    if (m_isRecovery)
+        return endRecording();
+    const auto target = captureTarget(m_recording.plan);
+    if (!target)
+        return fail(target.reason());
+    m_target = *target;
+    if (const auto space = m_tools.diskSpace(m_recording.folder); space && space->available <= m_tools.reservedBytes)
+        return fail("There is too little space on the disk to record."_key);
+    m_diskWatch.start(diskWatchInterval);
+    beginStretch();
+}
+
+void RecordJob::beginStretch()
+{
+    const RecordPlan &plan = m_recording.plan;
+    OutputFile part(m_recording.folder, plan.name, u"mkv"_s);
+    if (!part.isValid())
+        return m_recording.stretches.isEmpty() ? fail(part.reason()) : endRecording();
+    part.keepPart();
+    m_recording.stretches.append(part.partPath());
+    if (!m_recording.write())
+        tarnwell::DNFootLog(u"A recording could not be written down; it is lost where Kestrel is killed"_s);
+
+    const auto lead = plan.sound == RecordPlan::Sound::None ? leadWithoutSound : leadWithSound;
+    const auto now = std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch());
+    m_stretch = {};
+    m_messages = ToolMessages({part.partPath()});
+    const RecordStretch stretch{.target = m_target,
+                                .size = m_target.area.size(),
+                                .begin = now + lead,
+                                .seconds = plan.seconds > 0 ? plan.seconds - m_recorded.seconds : 0,
+                                .isSilent = m_isSilent,
+                                .output = part.partPath()};
+    const QStringList arguments = recordArguments(plan, stretch);
+    tarnwell::DNFootLog(u"Recording: %1"_s, arguments.join(u' '));
+    ToolProcess &tool = run({.program = m_tools.transcoder, .arguments = arguments, .patience = patience},
+                            [this](const ToolEnding &ending) { stretchEnded(ending); });
+    m_recorder = &tool;
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
+    connect(&tool, &ToolProcess::outputLine, this, &RecordJob::readProgress);
+}
+
+void RecordJob::readProgress(const QByteArray &line)
+{
+    m_stretch.readLine(line);
+    if (!line.startsWith("progress"))
+        return;
+    JobProgress progress{.seconds = recordedSeconds(), .bytes = m_recorded.bytes + m_stretch.bytes};
+    if (const double wanted = m_recording.plan.seconds; wanted > 0)
+        progress.fraction = std::min(progress.seconds / wanted, 0.99);
+    emit progressed(progress);
+}
+
+void RecordJob::stretchEnded(const ToolEnding &ending)
+{
+    m_recorder.clear();
+    const bool hasPictures = m_stretch.seconds > 0;
+    m_recorded = {.seconds = recordedSeconds(),
+                  .bytes = m_recorded.bytes + m_stretch.bytes,
+                  .missed = m_recorded.missed + m_stretch.missed};
+    m_stretch = {};
+    if (hasPictures) {
+        m_failures = 0;
+    } else if (!m_recording.stretches.isEmpty()) {
+        // Nothing came of it: there is nothing to be joined.
+        QFile::remove(m_recording.stretches.takeLast());
+        m_recording.write();
+    }
+    constexpr double tolerance = 0.2;
+    const bool isComplete = m_recording.plan.seconds > 0 && m_recorded.seconds > m_recording.plan.seconds - tolerance;
+    if (isStopping() || m_isToEnd || isComplete)
+        return endRecording();
+    if (ending.cause == ToolEnding::Cause::Stopped) {
+        if (!m_isHolding)  // gone on with before it had ended
+            beginStretch();
+        return;
+    }
+    goOnAfterFailure(ending);
+}
+
+/// A source has gone away by itself.
+void RecordJob::goOnAfterFailure(const ToolEnding &ending)
+{
+    const RecordPlan &plan = m_recording.plan;
+    tarnwell::DNFootLog(u"A recording was interrupted: %1"_s, ending.lastWords);
+    const bool isFirst = m_recording.stretches.isEmpty();
+    const auto target = captureTarget(plan);
+    if (!target || (isFirst && plan.sound == RecordPlan::Sound::None) || m_failures > 2) {
+        if (isFirst)
+            return fail(target ? m_messages.failure().sentence : target.reason(), ending.lastWords);
+        m_problems.append(target ? Sentence("The recording was interrupted."_key) : target.reason());
+        return endRecording();
+    }
+    if (isFirst)
+        return fail("The sound could not be recorded. Is the sound server running?"_key, ending.lastWords);
+    // The window may have another size now, which the arguments make up for; the second attempt goes without the sound.
+    if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None)
+        m_problems.append("The sound is missing since the sound server went away."_key);
+    if (m_isHolding)
+        return;
+    const QSize size = m_target.area.size();
+    m_target = *target;
+    m_target.area.setSize(size);
+    beginStretch();
+}
+
+void RecordJob::stop()
+{
+    if (m_isFinishing)
+        return;
+    ToolJob::stop();
+    if (!m_recorder)
+        endRecording();
+}
+
+void RecordJob::setPaused(bool paused)
+{
+    if (m_isFinishing || isStopping() || m_isHolding == paused)
+        return;
+    m_isHolding = paused;
+    if (paused && m_recorder)
+        m_recorder->stop();
+    else if (!paused && !m_recorder)
+        beginStretch();
+}
+
+void RecordJob::watchDisk()
+{
+    if (!m_recorder)
+        return;
+    syncLater(m_recording.stretches.last());
+    const auto space = m_tools.diskSpace(m_recording.folder);
+    if (!space || space->available > m_tools.reservedBytes || m_isToEnd)
+        return;
+    m_isToEnd = true;
+    m_problems.append("The recording ended because the disk is nearly full."_key);
+    m_recorder->stop();
+}
+
+void RecordJob::endRecording()
+{
+    m_isFinishing = true;
+    m_diskWatch.stop();
+    if (m_recording.stretches.isEmpty())
+        return fail(m_isRecovery ? Sentence("Nothing of the recording is left."_key)
+                                 : Sentence("Nothing was recorded."_key));
+    emit progressed({.seconds = m_recorded.seconds, .bytes = m_recorded.bytes, .stage = Sentence("Finishing…"_key)});
+    join();
+}
+
+void RecordJob::join()
+{
+    qint64 bytes = 0;
+    for (const QString &stretch : std::as_const(m_recording.stretches))
+        bytes += QFileInfo(stretch).size();
+    const auto space = m_tools.diskSpace(m_recording.folder);
+    constexpr qint64 margin = 10'000'000;
+    if (space && space->available < bytes + margin)
+        return placeAsItIs("The disk is too full to finish the recording: it stays a Matroska file."_key);
+    m_workFolder = std::make_unique<QTemporaryDir>();
+    m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
+    const QString list = m_workFolder->filePath(u"list.txt"_s);
+    QSaveFile file(list);
+    const bool isListed =
+        file.open(QIODevice::WriteOnly) && file.write(joinList(m_recording.stretches)) > 0 && file.commit();
+    if (!isListed || !m_output->isValid())
+        return placeAsItIs(isListed ? m_output->reason()
+                                    : Sentence("The folder for temporary files cannot be written."_key));
+    m_messages = ToolMessages({m_output->partPath(), m_workFolder->path()});
+    const ToolProcess &tool =
+        run({.program = m_tools.transcoder, .arguments = finishArguments(list, m_output->partPath())},
+            [this](const ToolEnding &ending) { check(ending); });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
+}
+
+void RecordJob::check(const ToolEnding &joining)
+{
+    if (!joining.isGood())
+        return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
+    const QString part = m_output->partPath();
+    run(outputReportCommand(m_tools.prober, ToolPath(part).argument()), [this, part](const ToolEnding &probing) {
+        const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
+        OutputExpectation expected;
+        expected.tracks = recordedTracks(m_recording.plan);
+        if (!m_isRecovery)
+            expected.seconds = m_recorded.seconds;
+        const OutputFindings findings = found ? compareOutput(expected, {}, *found) : OutputFindings();
+        if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
+            !findings.mismatch.isEmpty()) {
+            tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
+            return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
+        }
+        JobOutcome outcome{.state = m_problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
+                           .problems = m_problems};
+        if (m_isRecovery)
+            outcome.sentence = "Recovered after an interruption."_key;
+        else
+            outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+        place(std::move(outcome));
+    });
+}
+
+void RecordJob::place(JobOutcome outcome)
+{
+    m_placing = std::make_shared<Placing>(std::exchange(m_output, nullptr), std::nullopt);
+    m_placing->start(this,
+                     [this, outcome = std::move(outcome)](const foundation::Result<QString, Sentence> &path) mutable {
+                         m_placing.reset();
+                         if (!path)
+                             return placeAsItIs(path.reason());
+                         outcome.outputs = {*path};
+                         removeStretches();
+                         finish(outcome);
+                     });
+}
+
+/// The stretches themselves, under names that show: nothing that was recorded is lost.
+void RecordJob::placeAsItIs(const Sentence &problem)
+{
+    m_output.reset();
+    JobOutcome outcome{.state = JobState::DoneWithProblems, .details = m_messages.text(), .problems = m_problems};
+    outcome.problems.append(problem);
+    if (!m_isRecovery)
+        outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+    for (const QString &stretch : std::as_const(m_recording.stretches)) {
+        OutputFile place(m_recording.folder, m_recording.plan.name, u"mkv"_s);
+        // Takes the place of the empty part, which has the rules for names.
+        if (place.isValid() &&
+            ::rename(QFile::encodeName(stretch).constData(), QFile::encodeName(place.partPath()).constData()) == 0) {
+            if (const auto path = place.publish())
+                outcome.outputs.append(*path);
+        }
+    }
+    if (outcome.outputs.isEmpty())
+        return finish({.state = JobState::Failed, .sentence = problem, .details = outcome.details});
+    m_recording.forget();
+    finish(outcome);
+}
+
+void RecordJob::fail(const Sentence &sentence, const QString &details)
+{
+    m_diskWatch.stop();
+    discard();
+    finish({.state = JobState::Failed, .sentence = sentence, .details = details});
+}
+
+void RecordJob::removeStretches()
+{
+    for (const QString &stretch : std::exchange(m_recording.stretches, {}))
+        QFile::remove(stretch);
+    m_recording.forget();
+}
+
+void RecordJob::discard()
+{
+    m_diskWatch.stop();
+    if (m_placing)
+        m_placing->takeBack();
+    m_placing.reset();
+    m_output.reset();
+    removeStretches();
+}
+
+}  // namespace kestrel

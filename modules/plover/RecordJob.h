@@ -1,0 +1,89 @@
+#pragma once
+
+#include "RecordCommand.h"
+#include "UnfinishedRecording.h"
+
+#include "jobs/DiskSpace.h"
+#include "jobs/ToolJob.h"
+#include "media/ToolMessages.h"
+
+#include <QPointer>
+#include <QTemporaryDir>
+#include <QTimer>
+
+namespace kestrel {
+
+class OutputFile;
+class Placing;
+
+struct RecordTools {
+    QString transcoder;  ///< absolute path of ffmpeg
+    QString prober;      ///< of ffprobe
+    DiskSpaceFunction diskSpace = diskSpaceOf;
+    qint64 reservedBytes = 200'000'000;  ///< that are left free on the disk
+};
+
+/// A recording: stretches of Matroska that grow beside the result, and what joins them without encoding when it ends,
+/// which is its success. A pause ends a stretch. A source that goes away ends one as well: it is gone on with without
+/// the sound, or, where the pictures are gone, ended with what there is. Ends by itself when the disk is nearly full.
+///
+/// The stretches stay where the job's object goes while it runs: `UnfinishedRecording::findAll` finds them, and a job
+/// with such a one finishes it.
+class RecordJob : public ToolJob {
+    Q_OBJECT
+public:
+    RecordJob(RecordPlan plan, const QString &folder, RecordTools tools, QObject *parent = nullptr);
+    RecordJob(UnfinishedRecording recording, RecordTools tools, QObject *parent = nullptr);
+    ~RecordJob() override;
+
+    void start() override;
+    void stop() override;
+    void setPaused(bool paused) override;
+
+protected:
+    void discard() override;
+
+private:
+    /// What a stretch came to, as ffmpeg told it.
+    struct Tally {
+        double seconds = 0;
+        qint64 bytes = 0;
+        qint64 missed = 0;  ///< pictures of which there was none in time
+        void readLine(const QByteArray &line);
+    };
+
+    void beginStretch();
+    void readProgress(const QByteArray &line);
+    void stretchEnded(const ToolEnding &ending);
+    void goOnAfterFailure(const ToolEnding &ending);
+    void endRecording();
+    void watchDisk();
+    void join();
+    void check(const ToolEnding &ending);
+    void place(JobOutcome outcome);
+    void placeAsItIs(const tarnwell::Sentence &problem);
+    void fail(const tarnwell::Sentence &sentence, const QString &details = {});
+    void removeStretches();
+    double recordedSeconds() const { return m_recorded.seconds + m_stretch.seconds; }
+
+    UnfinishedRecording m_recording;
+    RecordTools m_tools;
+    CaptureTarget m_target;
+    bool m_isRecovery = false;
+    bool m_isSilent = false;
+    bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
+    bool m_isFinishing = false;
+    bool m_isToEnd = false;  ///< with the stretch of the moment
+    int m_failures = 0;      ///< one after another, without a picture between them
+    QPointer<ToolProcess> m_recorder;
+    Tally m_recorded;  ///< of the stretches that have ended
+    Tally m_stretch;   ///< of the one that is recorded
+    ToolMessages m_messages;
+    QList<tarnwell::Sentence> m_problems;
+    QTimer m_diskWatch;
+    std::unique_ptr<QTemporaryDir> m_workFolder;
+    std::shared_ptr<OutputFile> m_output;
+    std::shared_ptr<Placing> m_placing;
+};
+
+}  // namespace kestrel

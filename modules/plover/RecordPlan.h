@@ -1,0 +1,51 @@
+#pragma once
+
+#include <QJsonObject>
+#include <QRect>
+#include <QString>
+
+#include <optional>
+
+namespace kestrel {
+
+class JKestrelSettingDispatcher;
+
+/// What a user wants of one recording: values only, all of them sensible as they are. Stored with the job as JSON.
+struct RecordPlan {
+    enum class What { Screen, Window, Area, Camera };
+    enum class Sound { None, System, Microphone, Both };
+    enum class Quality { Small, Good, Best };  ///< as the settings number them
+    enum class Container { Mov, Mp4 };
+
+    What what = What::Screen;
+    QString screen = {};  ///< the monitor's name; empty for the first
+    quint32 window = 0;   ///< X11's number
+    QRect area = {};      ///< in pixels of the whole desktop
+    QString camera = {};  ///< a device of video4linux; empty for the first
+
+    Sound sound = Sound::System;
+    QString microphone = {};      ///< a source of the sound server; empty for its default
+    bool separateTracks = false;  ///< of Sound::Both, which is mixed otherwise
+
+    Quality quality = Quality::Good;
+    double rate = 30;  ///< pictures a second
+    Container container = Container::Mov;
+    bool pointer = true;
+    double seconds = 0;  ///< stops after so many that were recorded; 0 for never
+    QString name = {};   ///< of the file, without its ending
+
+    static constexpr double minimumRate = 1, maximumRate = 240;
+
+    QString extension() const { return container == Container::Mp4 ? QStringLiteral("mp4") : QStringLiteral("mov"); }
+    bool hasPicturesOfDisplay() const { return what != What::Camera; }
+
+    QJsonObject toJson() const;
+    /// Nothing where it is none or of a newer version; nonsense in a field reads as its default.
+    static std::optional<RecordPlan> fromJson(const QJsonObject &json);
+    bool operator==(const RecordPlan &) const = default;
+};
+
+/// What the settings ask of a recording.
+RecordPlan recordPlan(const JKestrelSettingDispatcher &settings);
+
+}  // namespace kestrel

@@ -1,0 +1,77 @@
+#include "RecordRecipe.h"
+
+#include "jobs/JobQueue.h"
+
+#include <QDateTime>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+const QString noteKey = u"unfinished"_s;  // beside the members of the plan: what is written down of the recording
+
+}  // namespace
+
+JobRecord recordingJob(const RecordPlan &plan, const QString &folder)
+{
+    RecordPlan named = plan;
+    if (named.name.isEmpty())
+        named.name = u"Recording "_s + QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss"_s);
+    JobRecord record;
+    record.module = ploverJobs.toString();
+    record.title = named.name;
+    record.plan = named.toJson();
+    record.folder = folder;
+    return record;
+}
+
+QList<JobId> addRecoveries(JobQueue &queue)
+{
+    const QString module = ploverJobs.toString();
+    QList<JobId> ids;
+    for (const UnfinishedRecording &recording : UnfinishedRecording::findAll()) {
+        JobRecord recovery = recordingJob(recording.plan, recording.folder);
+        recovery.plan[noteKey] = recording.note;
+        JobId known = 0;
+        for (const JobId id : queue.idsIn({JobState::Interrupted}, module)) {
+            if (queue.record(id)->title == recovery.title && queue.record(id)->folder == recovery.folder)
+                known = id;
+        }
+        if (known != 0)
+            queue.change(known, [&](JobRecord &record) {
+                record.plan = recovery.plan;
+                record.state = JobState::Ready;
+            });
+        ids.append(known != 0 ? known : queue.add(recovery));
+    }
+    return ids;
+}
+
+RecordRecipe::RecordRecipe(std::function<RecordTools()> tools) : m_tools(std::move(tools)) {}
+
+Lane RecordRecipe::lane(const JobRecord &record) const
+{
+    return record.plan.contains(noteKey) ? Lane::Copy : Lane::Capture;
+}
+
+/// A recording looks after the disk itself, and waits for nothing.
+qint64 RecordRecipe::expectedBytes(const JobRecord &record) const
+{
+    Q_UNUSED(record);
+    return 0;
+}
+
+std::unique_ptr<Job> RecordRecipe::makeJob(const JobRecord &record)
+{
+    if (record.plan.contains(noteKey)) {
+        auto recording = UnfinishedRecording::read(record.plan[noteKey].toString());
+        return std::make_unique<RecordJob>(recording ? *std::move(recording) : UnfinishedRecording(), m_tools());
+    }
+    const auto plan = RecordPlan::fromJson(record.plan);
+    return plan ? std::make_unique<RecordJob>(*plan, record.folder, m_tools()) : nullptr;
+}
+
+}  // namespace kestrel

@@ -1,0 +1,37 @@
+#pragma once
+
+#include "RecordJob.h"
+
+#include "jobs/Job.h"
+#include "jobs/JobRecord.h"
+
+#include <functional>
+
+namespace kestrel {
+
+class JobQueue;
+
+inline constexpr QStringView ploverJobs = u"plover";  ///< what recordings are stored under
+
+/// The job that carries the plan out.
+JobRecord recordingJob(const RecordPlan &plan, const QString &folder);
+
+/// Adds a job for each recording that was interrupted by the end of its program, or puts it in the place of the one
+/// that recorded it. To be started when it suits; they take seconds.
+QList<JobId> addRecoveries(JobQueue &queue);
+
+/// How recordings are run from the queue: jobs whose plan is a RecordPlan, or the finishing of one.
+class RecordRecipe : public JobRecipe {
+public:
+    /// `tools` is asked for each job, so that settings take effect.
+    explicit RecordRecipe(std::function<RecordTools()> tools);
+
+    Lane lane(const JobRecord &record) const override;
+    qint64 expectedBytes(const JobRecord &record) const override;
+    std::unique_ptr<Job> makeJob(const JobRecord &record) override;
+
+private:
+    std::function<RecordTools()> m_tools;
+};
+
+}  // namespace kestrel

@@ -1,0 +1,118 @@
+#!/usr/bin/python3
+"""cli_test.py BUNDLE: the converter's work without a window."""
+import os
+import signal
+import subprocess
+import sys
+import time
+import unittest
+
+from harness import Cli, make_clip, probe
+
+BUNDLE = sys.argv.pop(1) if len(sys.argv) > 1 else ''
+
+
+class CliTest(unittest.TestCase):
+    def setUp(self):
+        self.cli = Cli(BUNDLE)
+        self.addCleanup(self.cli.close)
+        self.out = self.cli.folder('out')
+        self.clip = make_clip(self.cli.path('film.mkv'))
+
+    def cut(self, name, share):
+        """The film up to that share of its bytes."""
+        path = self.cli.path(name)
+        with open(self.clip, 'rb') as whole, open(path, 'wb') as part:
+            part.write(whole.read()[:int(os.path.getsize(self.clip) * share)])
+        return path
+
+    def test_results_and_exit_status_tell_how_each_file_went(self):
+        missing, cut = self.cli.path('none.mkv'), self.cut('cut.mkv', 0.6)
+        status, results = self.cli.results('convert', '--preset', 'mp4-h264', '--to', self.out, self.clip)
+        self.assertEqual((status, results[0]['state'], results[0]['problems']), (0, 'done', []))
+        self.assertEqual(results[0]['outputs'], [os.path.join(self.out, 'film.mp4')])
+        kinds = {each['codec_name'] for each in probe(results[0]['outputs'][0])['streams']}
+        self.assertEqual(kinds, {'h264', 'aac'})
+
+        status, results = self.cli.results('convert', '--to', self.out, self.clip, cut)
+        self.assertEqual((status, [each['state'] for each in results]), (3, ['done', 'done-with-problems']))
+        self.assertRegex(results[1]['problems'][0], r'^1\.\d of 2\.0 s could be read')
+        self.assertEqual(results[0]['outputs'], [os.path.join(self.out, 'film (1).mp4')], 'written over')
+
+        status, results = self.cli.results('convert', '--to', self.out, missing, self.clip)
+        self.assertEqual(status, 1)
+        self.assertEqual({each['source']: each['state'] for each in results}, {missing: 'failed', self.clip: 'done'})
+        self.assertTrue(all(not name.startswith('.') for name in os.listdir(self.out)), os.listdir(self.out))
+
+        status, jobs, _ = self.cli.run('jobs')
+        self.assertEqual((status, sorted(each['state'] for each in jobs)),
+                         (0, ['done', 'done', 'done', 'done-with-problems', 'failed']))
+
+    def test_wrong_usage_is_one_sentence_and_makes_nothing(self):
+        rows = [[], ['nonsense'], ['convert'], ['convert', '--preset', 'none', self.clip], ['convert', '--nonsense', self.clip],
+                ['convert', '--to', self.cli.path('nowhere'), self.clip], ['convert', '--cut', '3-1', self.clip],
+                ['convert', '--audio', '7', self.clip], ['presets', '--nonsense'], ['jobs', 'x']]
+        for row in rows:
+            with self.subTest(row):
+                status, objects, errors = self.cli.run(*row)
+                self.assertEqual((status, objects, errors.count('\n')), (2, [], 1), errors)
+        self.assertEqual(self.cli.run('jobs')[1], [])
+
+    def test_options_reach_the_file(self):
+        make_clip(self.clip, 4)
+        rows = [(['--cut', '1-2.5'], lambda found: self.assertAlmostEqual(float(found['format']['duration']), 1.5, delta=0.1)),
+                (['--resolution', '160x120', '--no-copy'], lambda found: self.assertEqual(found['streams'][0]['width'], 160)),
+                (['--turn', 'right'], lambda found: self.assertEqual(found['streams'][0]['height'], 320)),
+                (['--tempo', '2'], lambda found: self.assertAlmostEqual(float(found['format']['duration']), 2, delta=0.1)),
+                (['--audio', 'none'], lambda found: self.assertEqual(len(found['streams']), 1)),
+                (['--size', '200k', '--no-copy'], lambda found: self.assertLessEqual(int(found['format']['size']), 200_000)),
+                (['--preset', 'mp3'], lambda found: self.assertEqual(found['streams'][0]['codec_name'], 'mp3'))]
+        for options, check in rows:
+            with self.subTest(options):
+                status, results = self.cli.results('convert', '--to', self.out, *options, self.clip)
+                self.assertEqual((status, results[0]['state']), (0, 'done'), results)
+                check(probe(results[0]['outputs'][0]))
+
+    def test_a_signal_ends_it_at_once_and_leaves_nothing(self):
+        make_clip(self.clip, 60)
+        for number in (signal.SIGINT, signal.SIGTERM):
+            with self.subTest(number):
+                process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, self.clip)
+                while b'"fraction"' not in process.stdout.readline():
+                    pass
+                process.send_signal(number)
+                output, _ = process.communicate(timeout=20)
+                self.assertEqual(process.returncode, 130)
+                self.assertIn(b'"cancelled"', output.splitlines()[-1])
+                self.assertEqual(os.listdir(self.out), [])
+
+    def test_what_was_killed_is_interrupted_and_its_part_goes(self):
+        make_clip(self.clip, 60)
+        process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, self.clip)
+        while b'"fraction"' not in process.stdout.readline():
+            pass
+        self.assertEqual(len(os.listdir(self.out)), 1)
+        process.kill()
+        process.communicate()
+        _, jobs, _ = self.cli.run('jobs')
+        self.assertEqual([each['state'] for each in jobs], ['interrupted'])
+        self.assertEqual(os.listdir(self.out), [])
+        until = time.monotonic() + 10
+        while subprocess.run(['pgrep', '-f', self.clip], stdout=subprocess.DEVNULL).returncode == 0:
+            self.assertLess(time.monotonic(), until, 'ffmpeg lives on')
+            time.sleep(0.05)
+
+    def test_presets_are_told_an_object_a_line(self):
+        _, presets, _ = self.cli.run('presets')
+        _, everything, _ = self.cli.run('presets', '--all')
+        by_id = {each['id']: each for each in everything}
+        self.assertGreaterEqual(len(presets), 40)
+        self.assertGreaterEqual(len(by_id), 180)
+        self.assertEqual(len(by_id), len(everything), 'an id twice')
+        self.assertEqual({key: by_id['mkv-h264'][key] for key in ('extension', 'video', 'audio')},
+                         {'extension': 'mkv', 'video': 'h264', 'audio': 'aac'})
+        self.assertEqual((by_id['mkv-copy']['video'], by_id['mp3']['video']), ('copy', None))
+
+
+if __name__ == '__main__':
+    unittest.main(verbosity=1)

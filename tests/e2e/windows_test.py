@@ -1,0 +1,80 @@
+"""Windows where people put them: on the screen, dragged, under a sheet, worked by the keyboard alone."""
+import re
+import subprocess
+
+from accessible import states, wait_for
+from harness import ProgramTest, main
+from material import unarchived
+
+
+class WindowsTest(ProgramTest):
+    def frame(self, app):
+        window = app.wait_for_window()
+        place = self.desktop.x('xwininfo', '-id', window['id'])
+        return [int(re.search(rf'{name}:\s+(-?\d+)', place)[1])
+                for name in ('Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height')]
+
+    def test_dragging_keeps_up_with_the_pointer(self):
+        app = self.launch()
+        x, y, width, _ = self.frame(app)
+        self.desktop.move(x + width // 2, y + 15)
+        self.desktop.x('xdotool', 'mousedown', 1)
+        for step in range(1, 9):
+            self.desktop.move(x + width // 2 + 8 * step, y + 15 + 4 * step)
+            if step > 1:  # the desktop has taken over
+                wait_for(lambda: self.frame(app)[0] > x, 'the window to move')
+        self.desktop.x('xdotool', 'mouseup', 1)
+        wait_for(lambda: self.frame(app)[:2] == [x + 64, y + 32], f'the window to go from {x}, {y} by 64, 32')
+
+    def test_menus_and_their_shortcuts_work_under_a_sheet(self):
+        app = self.launch()
+        self.click(app, 'push button', 'Settings')
+        app.find('dialog', 'Settings')
+        self.desktop.key('F1')
+        wait_for(lambda: any('help' in call[0] for call in self.desktop.calls('xdg-open')), 'the help page')
+        self.click(app, 'menu item', 'Help')
+        app.find('menu item', 'Report Bug')
+        self.desktop.key('Escape')
+        wait_for(lambda: not app.find_all('menu item', 'Report Bug'), 'the menu to close')
+        self.desktop.key('ctrl+w')
+        wait_for(lambda: not app.find_all('dialog'), 'the settings to close')
+        self.click(app, 'push button', 'About')
+        app.find('dialog')
+        self.desktop.key('ctrl+q')
+        self.assertEqual(app.wait_for_end(), 0)
+
+    def test_by_keyboard_alone(self):
+        app = self.launch()
+        button = app.find('push button', 'Video Converter')
+        for _ in range(10):
+            if 'focused' in states(button):
+                break
+            self.desktop.key('Tab')
+        app.wait_for_text('Convert & Process Video')
+        self.desktop.key('Return')
+        app.wait_for_window('Kestrel 4K - Video Converter')
+        self.desktop.key('ctrl+o')
+        app.find('dialog', 'Add Files')
+        self.desktop.key('Escape')
+        wait_for(lambda: not app.find_all('dialog'), 'the file dialog to close')
+        self.desktop.key('F10')
+        app.find('menu item', 'Check for Updates…')
+
+    def test_what_is_typed_is_kept_when_the_display_goes(self):
+        with subprocess.Popen(['Xvfb', '-displayfd', '1', '-nolisten', 'tcp', '-noreset', '-screen', '0', '1440x900x24'],
+                              text=True, stdout=subprocess.PIPE, stderr=subprocess.DEVNULL) as display:
+            app = self.desktop.launch(self.bundle, DISPLAY=':' + display.stdout.readline().strip())
+            app.find('push button', 'Settings').do_action(0)
+            app.find('dialog', 'Settings')
+            app.find('check box', 'Use a proxy').do_action(0)
+            app.find('text', 'Proxy address').set_text_contents('http://proxy.example')
+            display.terminate()
+            display.wait()
+        self.assertEqual(app.wait_for_end(), 1, app.output())
+        self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
+        downloader = unarchived(self.defaults()['setting'])['downloader']
+        self.assertEqual((downloader['proxyURL'], downloader['proxyEnable']), ('http://proxy.example', True))
+
+
+if __name__ == '__main__':
+    main()

@@ -1,0 +1,77 @@
+#include "media/PictureScan.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using FieldOrder = MediaTrack::FieldOrder;
+
+TEST(PictureScanTest, InterlacedOnlyWhereNearlyAllPicturesAgree)
+{
+    const struct {
+        int topFirst, bottomFirst, progressive, undetermined;
+        FieldOrder order;
+    } rows[] = {{101, 0, 0, 0, FieldOrder::TopFirst},   {0, 97, 1, 3, FieldOrder::BottomFirst},
+                {86, 0, 15, 0, FieldOrder::Unknown},    {95, 1, 5, 0, FieldOrder::Unknown},
+                {0, 0, 99, 2, FieldOrder::Progressive}, {0, 0, 0, 101, FieldOrder::Unknown},
+                {0, 0, 0, 0, FieldOrder::Unknown}};
+    for (const auto &[topFirst, bottomFirst, progressive, undetermined, order] : rows) {
+        PictureScan scan;
+        scan.readLine(
+            "[Parsed_idet_0 @ 0x1] [info] Single frame detection: TFF:  1 BFF: 2 Progressive: 3 Undetermined: 4");
+        scan.readLine(
+            u"[Parsed_idet_0 @ 0x1] [info] Multi frame detection: TFF: %1 BFF: %2 Progressive: %3 Undetermined: %4"_s
+                .arg(topFirst, 5)
+                .arg(bottomFirst, 5)
+                .arg(progressive, 5)
+                .arg(undetermined, 5)
+                .toLatin1());
+        EXPECT_EQ(scan.fieldOrder(), order) << topFirst << ' ' << bottomFirst << ' ' << progressive;
+    }
+}
+
+TEST(PictureScanTest, BlackBarsOfTheLastPicture)
+{
+    PictureScan scan;
+    scan.readLine(
+        "[Parsed_cropdetect_1 @ 0x1] [info] x1:0 x2:319 y1:30 y2:200 w:320 h:160 x:0 y:34 pts:1 t:0.1 "
+        "crop=320:160:0:34");
+    scan.readLine(
+        "[Parsed_cropdetect_1 @ 0x1] [info] x1:0 x2:319 y1:24 y2:263 w:320 h:240 x:0 y:24 pts:2 t:0.2 "
+        "crop=320:240:0:24");
+    scan.readLine("[Parsed_cropdetect_1 @ 0x1] [info] black: crop=-318:-238:320:240");
+    EXPECT_EQ(scan.picture(), QRect(0, 24, 320, 240));
+}
+
+TEST(PictureScanTest, WhatIsLookedAt)
+{
+    const struct {
+        const char *codec;
+        int height;
+        double rate;
+        FieldOrder flag;
+        bool isWorthwhile;
+    } rows[] = {{"mpeg2video", 576, 25, FieldOrder::Unknown, true},
+                {"h264", 1080, 29.97, FieldOrder::Unknown, true},
+                {"mpeg2video", 576, 25, FieldOrder::TopFirst, false},
+                {"h264", 1080, 59.94, FieldOrder::Unknown, false},
+                {"mpeg2video", 576, 25, FieldOrder::Progressive, false},
+                {"h264", 720, 25, FieldOrder::Unknown, false},
+                {"vp9", 1080, 25, FieldOrder::Unknown, false}};
+    for (const auto &[codec, height, rate, flag, isWorthwhile] : rows) {
+        MediaTrack track;
+        track.codec = QString::fromLatin1(codec);
+        track.height = height;
+        track.frameRate = rate;
+        track.fieldOrder = flag;
+        EXPECT_EQ(PictureScan::isWorthwhile(track), isWorthwhile) << codec << ' ' << height << ' ' << rate;
+    }
+}
+
+}  // namespace
+
+}  // namespace kestrel

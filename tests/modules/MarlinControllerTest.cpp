@@ -1,0 +1,190 @@
+#include "modules/marlin/ui/MarlinController.h"
+
+#include "ModuleSettings.h"
+#include "foundation/NotificationCenter.h"
+#include "foundation/UserDefaults.h"
+#include "jobs/JobList.h"
+#include "jobs/JobQueue.h"
+#include "jobs/ui/JobListView.h"
+#include "modules/marlin/Conversions.h"
+#include "tests/support/TestEnvironment.h"
+
+#include <gtest/gtest.h>
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDir>
+#include <QFileInfo>
+#include <QPushButton>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using test::waitUntil;
+
+const QString module = u"marlin"_s;
+
+class MarlinControllerTest : public testing::Test, public ModuleServices {
+protected:
+    MarlinControllerTest() { start(); }
+    ~MarlinControllerTest() override { controller.reset(); }
+
+    JobQueue &queue() override { return *m_queue; }
+
+    /// As the program does; what is stored is there again, jobs are not.
+    void start()
+    {
+        controller.reset();
+        m_queue = std::make_unique<JobQueue>(nullptr);
+        controller = std::make_unique<MarlinController>(settings.configure(), *this, defaults);
+        controller->showFirstOpenAppTip(false);
+    }
+
+    template <class Widget>
+    Widget *find(const QString &name)
+    {
+        return controller->view()->findChild<Widget *>(name);
+    }
+    void choose(const QString &preset)
+    {
+        auto *box = find<QComboBox>(u"targetComboBox"_s);
+        box->setCurrentIndex(box->findData(preset));
+        emit box->activated(box->currentIndex());
+    }
+    JobId idAt(int row) { return queue().order(module).value(row); }
+    const JobRecord &recordAt(int row) { return *queue().record(idAt(row)); }
+    TranscodePlan planAt(int row) { return *TranscodePlan::fromJson(recordAt(row).plan); }
+    bool isIn(int row, JobState state)
+    {
+        return waitUntil([&] { return idAt(row) > 0 && recordAt(row).state == state; }, 30'000);
+    }
+    QVariant shown(int row, int role, int column = 0)
+    {
+        const auto *list = find<JobListView>(u"jobList"_s);
+        return list->model()->index(row, column).data(role);
+    }
+    QString clip(const QString &name)
+    {
+        const QString path = settings.path(name);
+        settings.makeClip(path, QLatin1StringView(test::shortVideo));
+        return path;
+    }
+
+    test::ModuleSettings settings;
+    foundation::UserDefaults defaults{settings.path(u"module.plist"_s)};
+    std::unique_ptr<MarlinController> controller;
+
+private:
+    std::unique_ptr<JobQueue> m_queue;
+};
+
+}  // namespace
+
+TEST_F(MarlinControllerTest, AddsEachFileOnceLooksAtItAndConverts)
+{
+    const QString film = clip(u"film.mkv"_s), letter = settings.path(u"letter.mp4"_s);
+    test::writeFile(letter, "no film at all");
+    controller->openFiles({film, letter});
+    controller->openFiles({film});
+    ASSERT_EQ(queue().order(module).size(), 2);
+    ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Unusable));
+    EXPECT_TRUE(shown(0, Qt::DisplayRole, JobList::DetailColumn).toString().startsWith(u"0:02"));
+    EXPECT_TRUE(shown(0, Qt::AccessibleTextRole).toString().contains(u"Ready"));
+    EXPECT_TRUE(waitUntil([&] { return !shown(0, Qt::DecorationRole).value<QPixmap>().isNull(); }, 20'000));
+
+    find<QPushButton>(u"startButton"_s)->click();
+    ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();
+    EXPECT_EQ(settings.outputs(), QStringList{u"film.mp4"_s});
+    // What is done does not stand in the way of doing it again.
+    controller->openFiles({film});
+    EXPECT_EQ(queue().order(module).size(), 3);
+}
+
+TEST_F(MarlinControllerTest, WhatIsLeftOutStandsInTheRowBeforeTheStart)
+{
+    const QString film = settings.path(u"two.mkv"_s);
+    settings.makeClip(film, QLatin1StringView(test::shortVideo) +
+                                " -f lavfi -i sine=duration=2 -f lavfi -i sine=duration=2 -map 0 -map 1 -map 2 "
+                                "-metadata:s:a:1 language=jpn"_L1);
+    controller->openFiles({film});
+    ASSERT_TRUE(isIn(0, JobState::Ready));
+    choose(u"mkv-h264"_s);
+    EXPECT_EQ(shown(0, JobList::WarningRole).toString(), QString());
+    choose(u"mp3"_s);
+    EXPECT_TRUE(shown(0, JobList::WarningRole).toString().contains(u"Japanese"));
+}
+
+TEST_F(MarlinControllerTest, PresetIsForTheSelectedOrForAllAndIsRemembered)
+{
+    controller->openFiles({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
+    ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
+    choose(u"mkv-h265"_s);
+    EXPECT_EQ(planAt(0).preset.id, u"mkv-h265");
+    EXPECT_EQ(planAt(1).preset.id, u"mkv-h265");
+    find<JobListView>(u"jobList"_s)->select(idAt(1));
+    choose(u"mkv-vp9"_s);
+    EXPECT_EQ(planAt(0).preset.id, u"mkv-h265");
+    EXPECT_EQ(planAt(1).preset.id, u"mkv-vp9");
+    start();
+    EXPECT_EQ(find<QComboBox>(u"targetComboBox"_s)->currentData(), u"mkv-h265"_s);
+
+    OwnPresets own(defaults, u"marlinPresets"_s);
+    TranscodePlan plan;
+    plan.preset = builtInPresets().first();
+    ASSERT_TRUE(own.save(u"mine"_s, plan));
+    start();
+    EXPECT_GT(find<QComboBox>(u"targetComboBox"_s)->findText(u"  mine"_s), 0);
+    foundation::NotificationCenter::defaultCenter().postNotificationName(keyResetProfilesNotification.toString());
+    EXPECT_EQ(find<QComboBox>(u"targetComboBox"_s)->currentData(), builtInPresets().first().id);
+    EXPECT_EQ(find<QComboBox>(u"targetComboBox"_s)->findText(u"  mine"_s), -1);
+    EXPECT_FALSE(defaults.objectForKey(u"marlinPreset"_s).isValid());
+}
+
+TEST_F(MarlinControllerTest, OptionsChangeThePlansAndTheSwitches)
+{
+    controller->openFiles({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
+    ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
+    find<QCheckBox>(u"safeMode"_s)->click();
+    EXPECT_TRUE(planAt(0).safeMode && planAt(1).safeMode && settings.dispatcher().getSafeMode());
+    find<JobListView>(u"jobList"_s)->select(idAt(0));
+    find<QCheckBox>(u"mirrored"_s)->click();
+    find<QCheckBox>(u"best"_s)->click();
+    EXPECT_TRUE(planAt(0).mirrored && planAt(0).best && !planAt(1).mirrored && !planAt(1).best);
+    EXPECT_FALSE(settings.dispatcher().getHQE());
+    auto *folder = find<QComboBox>(u"folderBox"_s);
+    emit folder->activated(1);
+    EXPECT_EQ(recordAt(0).folder, QFileInfo(planAt(0).sources.first()).absolutePath());
+    EXPECT_EQ(recordAt(1).folder, settings.folder());
+    find<QCheckBox>(u"mergeMedia"_s)->click();
+    EXPECT_TRUE(settings.dispatcher().mergeMedia());
+}
+
+TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)
+{
+    controller->openFiles({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
+    ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
+    settings.dispatcher().setMergeMedia(true);
+    choose(u"mkv-copy"_s);
+    find<QPushButton>(u"startButton"_s)->click();
+    ASSERT_EQ(queue().order(module).size(), 1);
+    ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();
+    EXPECT_EQ(planAt(0).sources.size(), 2);
+    EXPECT_EQ(settings.outputs(), QStringList{u"a.mkv"_s});
+}
+
+TEST_F(MarlinControllerTest, AMissingFolderStartsNothing)
+{
+    controller->openFiles({clip(u"a.mkv"_s)});
+    ASSERT_TRUE(isIn(0, JobState::Ready));
+    QDir(settings.folder()).removeRecursively();
+    Conversions conversions(queue(), settings.configure().value(moduleSettingKey.toString()), defaults);
+    QString obstacle;
+    EXPECT_FALSE(conversions.start(&obstacle));
+    EXPECT_FALSE(obstacle.isEmpty());
+    EXPECT_EQ(recordAt(0).state, JobState::Ready);
+}
+
+}  // namespace kestrel

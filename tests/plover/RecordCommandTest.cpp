@@ -1,0 +1,91 @@
+#include "modules/plover/RecordCommand.h"
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+TEST(RecordPlanTest, SurvivesStorageAndNonsense)
+{
+    const RecordPlan plan{.what = RecordPlan::What::Area,
+                          .screen = u"HDMI-1"_s,
+                          .window = 0xfe00003,
+                          .area = {10, 20, 300, 200},
+                          .camera = u"/dev/video1"_s,
+                          .sound = RecordPlan::Sound::Both,
+                          .microphone = u"mic"_s,
+                          .separateTracks = true,
+                          .quality = RecordPlan::Quality::Best,
+                          .rate = 12.5,
+                          .container = RecordPlan::Container::Mp4,
+                          .pointer = false,
+                          .seconds = 90,
+                          .name = u"A talk"_s};
+    EXPECT_EQ(RecordPlan::fromJson(plan.toJson()), plan);
+
+    QJsonObject json = plan.toJson();
+    json[u"sound"_s] = u"loud"_s;
+    json[u"rate"_s] = 1e9;
+    json[u"area"_s] = u"all"_s;
+    const auto read = RecordPlan::fromJson(json);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->sound, RecordPlan::Sound::System);
+    EXPECT_EQ(read->rate, RecordPlan::maximumRate);
+    EXPECT_EQ(read->area, QRect());
+    json[u"version"_s] = 2;
+    EXPECT_FALSE(RecordPlan::fromJson(json));
+    EXPECT_FALSE(RecordPlan::fromJson({}));
+}
+
+TEST(CaptureTargetTest, AreasAreEvenAndOnTheDesktop)
+{
+    const QRect desktop(0, 0, 1280, 720);
+    const struct {
+        QRect wanted, recorded;
+    } cases[] = {
+        {{10, 20, 101, 51}, {10, 20, 100, 50}},
+        {{1200, 700, 200, 200}, {1200, 700, 80, 20}},
+        {{-10, -10, 30, 30}, {0, 0, 20, 20}},
+        {{1279, 0, 10, 10}, {}},
+        {{2000, 2000, 10, 10}, {}},
+    };
+    for (const auto &[wanted, recorded] : cases)
+        EXPECT_EQ(recordableArea(wanted, desktop), recorded) << wanted.x();
+}
+
+TEST(RecordCommandTest, TracksFollowTheSound)
+{
+    using enum RecordPlan::Sound;
+    const struct {
+        RecordPlan::Sound sound;
+        bool separate;
+        qsizetype inputs, tracks;
+    } cases[] = {
+        {None, false, 0, 0}, {System, false, 1, 1}, {Microphone, true, 1, 1}, {Both, false, 2, 1}, {Both, true, 2, 2}};
+    for (const auto &[sound, separate, inputs, tracks] : cases) {
+        const RecordPlan plan{.sound = sound, .separateTracks = separate};
+        const QStringList arguments =
+            recordArguments(plan, {.target = {.display = u":5"_s, .area = {0, 0, 640, 360}}, .output = u"/part.mkv"_s});
+        EXPECT_EQ(arguments.count(u"pulse"_s), inputs);
+        EXPECT_EQ(arguments.count(u"-map"_s), 1 + tracks);
+        EXPECT_EQ(recordedTracks(plan).size(), 1 + tracks);
+    }
+}
+
+TEST(RecordCommandTest, AWindowOfAnotherSizeIsFittedIntoTheFirst)
+{
+    RecordStretch stretch{.target = {.display = u":5"_s, .window = 7, .area = {0, 0, 300, 200}},
+                          .size = {640, 360},
+                          .output = u"/part.mkv"_s};
+    const auto fits = [&] { return recordArguments({}, stretch).filter(u"pad=640:360"_s).size() == 1; };
+    EXPECT_TRUE(fits());
+    stretch.size = {300, 200};
+    EXPECT_FALSE(fits());
+}
+
+}  // namespace
+
+}  // namespace kestrel

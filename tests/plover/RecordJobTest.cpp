@@ -1,0 +1,186 @@
+#include "modules/plover/RecordJob.h"
+
+#include "media/OutputCheck.h"
+#include "tests/support/TestEnvironment.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+/// Recordings of a generated camera: neither display nor sound server are needed.
+class RecordJobTest : public testing::Test {
+protected:
+    void SetUp() override
+    {
+        m_plan.what = RecordPlan::What::Camera;
+        m_plan.camera = u"lavfi:testsrc=size=320x240:rate=30"_s;
+        m_plan.sound = RecordPlan::Sound::None;
+        m_plan.name = u"A talk"_s;
+    }
+
+    void begin() { take(std::make_unique<RecordJob>(m_plan, m_folder.path(), m_tools)); }
+    void take(std::unique_ptr<RecordJob> job)
+    {
+        m_job = std::move(job);
+        m_seconds = 0;
+        m_outcome.reset();
+        QObject::connect(m_job.get(), &Job::progressed, m_job.get(),
+                         [this](const JobProgress &progress) { m_seconds = progress.seconds; });
+        QObject::connect(m_job.get(), &Job::finished, m_job.get(),
+                         [this](const JobOutcome &outcome) { m_outcome = outcome; });
+        m_job->start();
+    }
+    bool waitForSeconds(double seconds)
+    {
+        return test::waitUntil([&] { return m_seconds >= seconds || m_outcome; }, 60000) && !m_outcome;
+    }
+    bool waitForEnd()
+    {
+        return test::waitUntil([&] { return m_outcome.has_value(); }, 60000);
+    }
+    QStringList files() const { return QDir(m_folder.path()).entryList(QDir::Files | QDir::Hidden, QDir::Name); }
+
+    /// The seconds of the file's pictures.
+    static QList<double> pictures(const QString &path)
+    {
+        QProcess prober;
+        prober.start(u"ffprobe"_s, {u"-v"_s, u"error"_s, u"-select_streams"_s, u"v"_s, u"-show_entries"_s,
+                                    u"packet=pts_time"_s, u"-of"_s, u"csv=p=0"_s, path});
+        prober.waitForFinished();
+        QList<double> seconds;
+        for (const QByteArray &line : prober.readAllStandardOutput().split('\n')) {
+            if (!line.isEmpty())
+                seconds.append(line.split(',').first().toDouble());
+        }
+        return seconds;
+    }
+
+    QTemporaryDir m_folder;
+    RecordPlan m_plan;
+    RecordTools m_tools{.transcoder = QStandardPaths::findExecutable(u"ffmpeg"_s),
+                        .prober = QStandardPaths::findExecutable(u"ffprobe"_s)};
+    std::unique_ptr<RecordJob> m_job;
+    double m_seconds = 0;
+    std::optional<JobOutcome> m_outcome;
+};
+
+TEST_F(RecordJobTest, PauseLeavesNoGap)
+{
+    begin();
+    ASSERT_TRUE(waitForSeconds(1));
+    m_job->setPaused(true);
+    // The stretch is whole when its file does not grow any more: the next may begin, and the job has not ended.
+    ASSERT_TRUE(test::waitUntil([&] {
+        const QString part = m_folder.filePath(files().value(0));
+        const QList<double> seconds = pictures(part);
+        return seconds.size() > 20 && !m_outcome;
+    }));
+    m_job->setPaused(false);
+    const double before = m_seconds;
+    ASSERT_TRUE(waitForSeconds(before + 1));
+    m_job->stop();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::Done) << qPrintable(m_outcome->details);
+    ASSERT_EQ(files(), QStringList{u"A talk.mov"_s});
+    const QList<double> seconds = pictures(m_outcome->outputs.first());
+    ASSERT_GT(seconds.size(), 50);
+    for (qsizetype number = 1; number < seconds.size(); ++number)
+        ASSERT_NEAR(seconds[number] - seconds[number - 1], 1.0 / 30, 0.02) << number;
+    EXPECT_TRUE(m_outcome->facts[u"dropped"_s].isDouble());
+}
+
+TEST_F(RecordJobTest, StopsWhilePaused)
+{
+    begin();
+    ASSERT_TRUE(waitForSeconds(1));
+    m_job->setPaused(true);
+    m_job->stop();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::Done);
+    EXPECT_EQ(files(), QStringList{u"A talk.mov"_s});
+}
+
+TEST_F(RecordJobTest, EndsWholeWhenTheDiskIsNearlyFull)
+{
+    qint64 available = 10'000'000'000;
+    m_tools.diskSpace = [&](const QString &) { return DiskSpace{.device = "disk", .available = available}; };
+    begin();
+    ASSERT_TRUE(waitForSeconds(1));
+    available = m_tools.reservedBytes;
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::DoneWithProblems);
+    EXPECT_EQ(files(), QStringList{u"A talk.mov"_s});
+
+    // With no room for a second file it keeps the first.
+    available = 10'000'000'000;
+    begin();
+    ASSERT_TRUE(waitForSeconds(1));
+    available = 1000;
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::DoneWithProblems);
+    EXPECT_EQ(files(), (QStringList{u"A talk.mkv"_s, u"A talk.mov"_s}));
+    EXPECT_GT(pictures(m_folder.filePath(u"A talk.mkv"_s)).size(), 25);
+
+    available = 1000;
+    begin();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::Failed);
+    EXPECT_EQ(files().size(), 2);
+}
+
+TEST_F(RecordJobTest, CancellingLeavesNothing)
+{
+    begin();
+    ASSERT_TRUE(waitForSeconds(0.5));
+    m_job->cancel();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::Cancelled);
+    EXPECT_EQ(files(), QStringList());
+}
+
+TEST_F(RecordJobTest, WhatAnEndOfTheProgramLeavesIsFinished)
+{
+    begin();
+    ASSERT_TRUE(waitForSeconds(2));
+    const double recorded = m_seconds;
+    m_job.reset();
+    ASSERT_EQ(files().size(), 1);
+    UnfinishedRecording left{.plan = m_plan,
+                             .folder = m_folder.path(),
+                             .stretches = {m_folder.filePath(files().first()), m_folder.filePath(u"gone.mkv"_s)}};
+    ASSERT_TRUE(left.write());
+    EXPECT_TRUE(UnfinishedRecording::findAll().isEmpty());  // this process lives
+    const auto read = UnfinishedRecording::read(left.note);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(read->stretches.size(), 1);
+
+    take(std::make_unique<RecordJob>(*read, m_tools));
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::Done);
+    EXPECT_EQ(files(), QStringList{u"A talk.mov"_s});
+    EXPECT_GT(double(pictures(m_outcome->outputs.first()).size()) / 30, recorded - 1);
+    EXPECT_FALSE(QFileInfo::exists(left.note));
+}
+
+TEST_F(RecordJobTest, StopsAfterTheSecondsOfThePlan)
+{
+    m_plan.seconds = 1;
+    begin();
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(m_outcome->state, JobState::Done);
+    EXPECT_NEAR(double(pictures(m_outcome->outputs.first()).size()) / 30, 1, 0.1);
+}
+
+}  // namespace
+
+}  // namespace kestrel
