@@ -34,7 +34,7 @@ ExitStatus update(const Surroundings &surroundings, const EngineTools &tools)
 {
     EngineUpdate update(engineStore(), tools, EngineUpdate::productSource(),
                         std::make_shared<foundation::Fetcher>(
-                            foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s)));
+                            foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s)));
     QEventLoop loop;
     ExitStatus status = AllDone;
     QObject::connect(&update, &EngineUpdate::ended, &loop, [&](EngineUpdate::End end, const QString &text) {

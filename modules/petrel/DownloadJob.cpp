@@ -134,10 +134,8 @@ void DownloadJob::downloaded(const ToolEnding &ending)
 void DownloadJob::engineFailed(const ToolEnding &ending)
 {
     using Kind = EngineFailure::Kind;
-    const EngineFailure failure = engineFailure(ending);
-    const bool mayBeTheEngine =
-        failure.kind == Kind::EngineBroken || failure.kind == Kind::EngineOld || failure.kind == Kind::Unknown;
-    if (mayBeTheEngine && m_tools.engineTried) {
+    const EngineFailure failure = engineFailure(ending, m_plan.proxy);
+    if (mayBeTheEngine(failure.kind) && m_tools.engineTried) {
         if (const auto other = m_tools.engineTried(false)) {
             tarnwell::DNFootLog(u"Going back to the engine before: %1"_s.arg(ending.lastWords));
             m_tools.engine.engine = *other;

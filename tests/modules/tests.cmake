@@ -3,6 +3,5 @@ kestrel_test(modules
         ConversionTest.cpp
         MarlinControllerTest.cpp
         ModuleSettings.cpp ModuleSettings.h
-        OverviewControllerTest.cpp
         OwnPresetsTest.cpp
     LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover_ui kestrel_test_product)
