@@ -8,6 +8,10 @@
         <translation>%1 (%2 Threads)</translation>
     </message>
     <message>
+        <source>%1 (sound only)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>%1 - Title %2</source>
         <translation type="unfinished"></translation>
     </message>
@@ -81,6 +85,10 @@
     </message>
     <message>
         <source>%1 ×</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1/s</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -232,6 +240,14 @@
         <translation>Über unser Unternehmen Tarnwell Software, Inc.</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Add Files…</source>
         <translation>Dateien hinzufügen …</translation>
     </message>
@@ -246,6 +262,10 @@
     <message>
         <source>Address</source>
         <translation>Adresse</translation>
+    </message>
+    <message>
+        <source>Address of a video or a page, such as https://…</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Aim</source>
@@ -281,6 +301,10 @@
     </message>
     <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Allow Many From One Server</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -356,6 +380,10 @@
         <translation>Sichern Sie DVDs in 6 Modi, und wandeln Sie ganze DVDs in über 180 Formate um: zum Abspielen auf Mac und Mobilgeräten, zum Speichern auf der Festplatte, zum Ansehen am Fernseher und mehr. Eine ganze DVD in 5 Minuten!</translation>
     </message>
     <message>
+        <source>Begin at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Beside the source</source>
         <translation type="unfinished"></translation>
     </message>
@@ -389,6 +417,10 @@
     </message>
     <message>
         <source>CAF Audio (ALAC)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -456,8 +488,20 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Choose Films</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Choose above what is recorded, then press Record.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose an Area</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Choose another one, or allow yourself to write to it: %1</source>
@@ -486,6 +530,10 @@
     <message>
         <source>Common</source>
         <translation>Allgemein</translation>
+    </message>
+    <message>
+        <source>Computer and microphone</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -537,6 +585,14 @@
     </message>
     <message>
         <source>Corner</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Count down from three</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Countdown</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -704,6 +760,10 @@
         <translation>Gleichzeitige Downloads</translation>
     </message>
     <message>
+        <source>Draw an area, then press Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation type="unfinished"></translation>
     </message>
@@ -797,6 +857,10 @@
     </message>
     <message>
         <source>Film from television (24)</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Films at this address</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -966,30 +1030,6 @@
     <message>
         <source>It is shown here as soon as it is written: %1</source>
         <translation>Es wird hier angezeigt, sobald es geschrieben wird: %1</translation>
-    </message>
-    <message>
-        <source>It will fetch several at a time, in the resolution that you prefer.</source>
-        <translation>Mehrere lassen sich künftig gleichzeitig in der gewünschten Auflösung laden.</translation>
-    </message>
-    <message>
-        <source>It will go through your proxy where you have one.</source>
-        <translation>Ein vorhandener Proxy wird künftig berücksichtigt.</translation>
-    </message>
-    <message>
-        <source>It will record the sound of the computer and of a microphone.</source>
-        <translation>Der Ton des Computers und eines Mikrofons lässt sich künftig aufnehmen.</translation>
-    </message>
-    <message>
-        <source>It will record the whole screen, a window or a part of it.</source>
-        <translation>Der ganze Bildschirm, ein Fenster oder ein Teil davon lässt sich künftig aufnehmen.</translation>
-    </message>
-    <message>
-        <source>It will save videos and music from addresses that you paste.</source>
-        <translation>Videos und Musik lassen sich künftig über eingesetzte Adressen sichern.</translation>
-    </message>
-    <message>
-        <source>It will show mouse clicks where you want them seen.</source>
-        <translation>Mausklicks lassen sich künftig bei Bedarf anzeigen.</translation>
     </message>
     <message>
         <source>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</source>
@@ -1200,6 +1240,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Microphone</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Middle</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1257,6 +1301,14 @@
     </message>
     <message>
         <source>No server answers at this address. Check it and try again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No speed limit</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1420,12 +1472,20 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Part of the screen…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Parts of the finished file are missing.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Paste</source>
         <translation>Einsetzen</translation>
+    </message>
+    <message>
+        <source>Paste or drop addresses here</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Pause</source>
@@ -1584,6 +1644,10 @@
         <translation>Bereit</translation>
     </message>
     <message>
+        <source>Record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Record Video</source>
         <translation>Videos aufnehmen</translation>
     </message>
@@ -1594,6 +1658,14 @@
     <message>
         <source>Recorder</source>
         <translation>Recorder</translation>
+    </message>
+    <message>
+        <source>Recording</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Recording begins in %1 s. Press Record to begin at once.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Recovered after an interruption.</source>
@@ -1613,6 +1685,10 @@
     </message>
     <message>
         <source>Remove Piece</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove With Partial File</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1682,6 +1758,10 @@
     <message>
         <source>Saving… %1 % (Esc stops)</source>
         <translation>Wird gesichert … %1 % (Esc stoppt)</translation>
+    </message>
+    <message>
+        <source>Screen %1 (%2 × %3)</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
@@ -1804,6 +1884,14 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Sound level</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sound of the computer</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Sound only, unchanged (MKA)</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1832,6 +1920,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Speed limit of each download</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Start</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1853,6 +1945,18 @@
     </message>
     <message>
         <source>Stereo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop after</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stop after %1 min</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -1933,6 +2037,10 @@
     </message>
     <message>
         <source>The broadcast has not begun yet. Try again when it has.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The camera's picture is not shown before it is recorded.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
@@ -2456,6 +2564,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>This is no address that can be downloaded from.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>This is no preset.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2470,10 +2582,6 @@
     <message>
         <source>This is no video or sound file.</source>
         <translation>Dies ist keine Video- oder Tondatei.</translation>
-    </message>
-    <message>
-        <source>This part is still being made and comes with an update.</source>
-        <translation>Dieser Teil ist noch in Arbeit und kommt mit einem Update.</translation>
     </message>
     <message>
         <source>This preset has no name.</source>
@@ -2588,6 +2696,10 @@
         <translation>Unbegrenzt</translation>
     </message>
     <message>
+        <source>Until it is stopped</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Untitled</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2632,8 +2744,8 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Videos from the web, on your disk</source>
-        <translation>Videos aus dem Web auf Ihrer Festplatte</translation>
+        <source>Videos and music from the web are saved in the form that you choose.</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Visit our website:</source>
@@ -2716,6 +2828,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>What to record</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>What you stop now is offered to you again at the next start.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2738,6 +2854,10 @@
     <message>
         <source>Window</source>
         <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Window: %1</source>
+        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>
