@@ -98,12 +98,12 @@ Sentence mismatchIn(const OutputExpectation &expected, const MediaInformation &f
 
 ToolCommand outputReportCommand(const QString &proberPath, const QString &argument)
 {
-    return {
-        .program = proberPath,
-        .arguments = {u"-v"_s, u"error"_s, u"-protocol_whitelist"_s, u"file"_s, u"-count_packets"_s, u"-show_format"_s,
-                      u"-show_streams"_s, u"-show_chapters"_s, u"-of"_s, u"json"_s, u"-i"_s, argument},
-        .outputLimit = maximumReportBytes,
-        .collectsOutput = true};
+    return {.program = proberPath,
+            .arguments = {u"-v"_s, u"repeat+level+error"_s, u"-protocol_whitelist"_s, u"file"_s, u"-count_packets"_s,
+                          u"-show_format"_s, u"-show_streams"_s, u"-show_chapters"_s, u"-of"_s, u"json"_s, u"-i"_s,
+                          argument},
+            .outputLimit = maximumReportBytes,
+            .collectsOutput = true};
 }
 
 ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument, Decoding decoding)
