@@ -40,7 +40,7 @@ constexpr Container containerTable[] = {
      .traits = matroskaTraits,
      .video = "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video ffv1 mjpeg theora prores dnxhd dvvideo flv1 h263 "
               "huffyuv png utvideo wmv2",
-     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
+     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
      .keptVideo = "vc1 wmv1 wmv3 msmpeg4v2 msmpeg4v3 rv30 rv40",
      .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
@@ -269,7 +269,7 @@ constexpr Container containerTable[] = {
      .muxer = "matroska",
      .extension = "mka",
      .traits = matroskaTraits & ~VariableRate,
-     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
+     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
      .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
      .arguments = "-default_mode passthrough"},
