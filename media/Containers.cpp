@@ -217,7 +217,7 @@ constexpr Container containerTable[] = {
      .sound = "pcm_s16le",
      .sampleRate = 48000,
      .channels = 2},
-    {.id = "rm", .name = "RM", .muxer = "rm", .extension = "rm", .video = "rv20", .sound = "ac3 aac"},
+    {.id = "rm", .name = "RM", .muxer = "rm", .extension = "rm", .video = "rv20", .sound = "ac3"},
 
     {.id = "mp3",
      .name = "MP3",
@@ -296,7 +296,7 @@ constexpr Container containerTable[] = {
     {.id = "tta", .name = "TTA", .muxer = "tta", .extension = "tta", .traits = TellsLength, .sound = "tta"},
     {.id = "au", .name = "AU", .muxer = "au", .extension = "au", .traits = TellsLength, .sound = "pcm_s16be"},
     {.id = "voc", .name = "VOC", .muxer = "voc", .extension = "voc", .sound = "pcm_s16le"},
-    {.id = "ra", .name = "RA", .muxer = "rm", .extension = "ra", .sound = "ac3 aac"},
+    {.id = "ra", .name = "RA", .muxer = "rm", .extension = "ra", .sound = "ac3"},
 };
 
 bool stands(const char *list, const QString &word)
