@@ -40,7 +40,7 @@ constexpr Container containerTable[] = {
      .traits = matroskaTraits,
      .video = "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video ffv1 mjpeg theora prores dnxhd dvvideo flv1 h263 "
               "huffyuv png utvideo wmv2",
-     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
+     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
      .keptVideo = "vc1 wmv1 wmv3 msmpeg4v2 msmpeg4v3 rv30 rv40",
      .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
@@ -217,7 +217,7 @@ constexpr Container containerTable[] = {
      .sound = "pcm_s16le",
      .sampleRate = 48000,
      .channels = 2},
-    {.id = "rm", .name = "RM", .muxer = "rm", .extension = "rm", .video = "rv20", .sound = "ac3 aac"},
+    {.id = "rm", .name = "RM", .muxer = "rm", .extension = "rm", .video = "rv20", .sound = "ac3"},
 
     {.id = "mp3",
      .name = "MP3",
@@ -269,7 +269,7 @@ constexpr Container containerTable[] = {
      .muxer = "matroska",
      .extension = "mka",
      .traits = matroskaTraits & ~VariableRate,
-     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
+     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
      .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
      .arguments = "-default_mode passthrough"},
@@ -296,7 +296,7 @@ constexpr Container containerTable[] = {
     {.id = "tta", .name = "TTA", .muxer = "tta", .extension = "tta", .traits = TellsLength, .sound = "tta"},
     {.id = "au", .name = "AU", .muxer = "au", .extension = "au", .traits = TellsLength, .sound = "pcm_s16be"},
     {.id = "voc", .name = "VOC", .muxer = "voc", .extension = "voc", .sound = "pcm_s16le"},
-    {.id = "ra", .name = "RA", .muxer = "rm", .extension = "ra", .sound = "ac3 aac"},
+    {.id = "ra", .name = "RA", .muxer = "rm", .extension = "ra", .sound = "ac3"},
 };
 
 bool stands(const char *list, const QString &word)
