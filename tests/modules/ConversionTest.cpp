@@ -62,7 +62,7 @@ TEST(ConversionTest, FoldersForFilmMusicAndBesideTheSource)
     plan.sources = {u"/films/a.mkv"_s};
     plan.preset = *presetOfId(u"mkv-h264"_s);
     EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), settings.folder());
-    plan.preset.videoCodec = {};
+    plan.preset.videoCodec = QString();
     EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), settings.dispatcher().getMusicDir());
     plan.besideSource = true;
     EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), u"/films");
