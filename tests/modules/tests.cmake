@@ -4,4 +4,5 @@ kestrel_test(modules
         MarlinControllerTest.cpp
         ModuleSettings.cpp ModuleSettings.h
         OwnPresetsTest.cpp
+        PetrelControllerTest.cpp
     LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover_ui kestrel_test_product)
