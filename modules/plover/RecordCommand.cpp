@@ -97,9 +97,9 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
     QStringList sounds;
     for (int input = 0; input < pictures; ++input) {
         sounds.append(u"[a%1]"_s.arg(input));
-        // Clocks of sound devices drift: the sound follows the clock of the pictures.
-        chains.append(
-            u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0,aresample=async=1000%3"_s.arg(input).arg(begin, sounds.last()));
+        // Each packet keeps the time at which it was taken, so a drifting sound device does not lead the sound away
+        // from the pictures; counting samples instead keeps whatever the first, unsettled times were wrong by.
+        chains.append(u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0%3"_s.arg(input).arg(begin, sounds.last()));
     }
     if (sounds.size() > 1 && !plan.separateTracks) {
         chains.append(sounds.join(QString()) + u"amix=inputs=2:duration=longest:normalize=0[a]"_s);
