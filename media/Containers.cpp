@@ -87,7 +87,7 @@ constexpr Container containerTable[] = {
      .traits = ManySounds | TellsLength,
      .video = "wmv2 h264 mpeg4 mpeg2video mpeg1video mjpeg av1 cinepak dvvideo ffv1 flv1 h263 huffyuv png theora "
               "utvideo vp8 vp9",
-     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 flac mp2 mp3 pcm_s16le speex vorbis",
+     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 mp2 mp3 pcm_s16le speex vorbis",
      .keptVideo = "wmv1 wmv3 vc1",
      .keptSound = "wmav1 wmapro"},
     {.id = "mpg",
@@ -262,7 +262,7 @@ constexpr Container containerTable[] = {
      .muxer = "asf",
      .extension = "wma",
      .traits = TellsLength,
-     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 flac mp2 mp3 pcm_s16le speex vorbis",
+     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 mp2 mp3 pcm_s16le speex vorbis",
      .keptSound = "wmav1 wmapro"},
     {.id = "mka",
      .name = "MKA",
