@@ -31,7 +31,7 @@ public:
         QFile configuration(m_folder.filePath(u"bus.conf"_s));
         if (configuration.open(QIODevice::WriteOnly)) {
             configuration.write(
-                "<busconfig><type>system</type><listen>unix:tmpdir=" + m_folder.path().toUtf8() +
+                "<busconfig><type>session</type><listen>unix:tmpdir=" + m_folder.path().toUtf8() +
                 "</listen><policy context=\"default\"><allow send_destination=\"*\" eavesdrop=\"true\"/>"
                 "<allow own=\"*\"/></policy></busconfig>");
         }
