@@ -14,6 +14,8 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+#include <algorithm>
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -24,7 +26,7 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr std::chrono::seconds diskWatchInterval{2};
+constexpr std::chrono::seconds watchInterval{2};
 /// Until ffmpeg has opened everything and the sound server's clock has settled.
 constexpr std::chrono::milliseconds leadWithSound{1200}, leadWithoutSound{600};
 constexpr std::chrono::seconds patience{20};
@@ -39,6 +41,22 @@ void syncLater(const QString &path)
         fdatasync(file);
         close(file);
     });
+}
+
+/// By how many seconds the shortest sound is shorter than the pictures.
+double missingSound(const FoundOutput &found, const RecordPlan &plan)
+{
+    constexpr double packetsPerSecond = 48000.0 / 1024;
+    double pictures = 0;
+    double sound = std::numeric_limits<double>::max();
+    for (qsizetype index = 0; index < found.information.tracks.size(); ++index) {
+        const double packets = double(found.packets.value(index));
+        if (found.information.tracks[index].kind == MediaTrack::Kind::Video)
+            pictures = packets / plan.rate;
+        else if (found.information.tracks[index].kind == MediaTrack::Kind::Audio)
+            sound = std::min(sound, packets / packetsPerSecond);
+    }
+    return std::max(pictures - sound, 0.0);
 }
 
 }  // namespace
@@ -64,7 +82,7 @@ RecordJob::RecordJob(RecordPlan plan, const QString &folder, RecordTools tools, 
 {
     if (m_recording.plan.name.isEmpty())
         m_recording.plan.name = u"Recording "_s + QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss"_s);
-    connect(&m_diskWatch, &QTimer::timeout, this, &RecordJob::watchDisk);
+    connect(&m_watch, &QTimer::timeout, this, &RecordJob::watch);
 }
 
 RecordJob::RecordJob(UnfinishedRecording recording, RecordTools tools, QObject *parent)
@@ -92,7 +110,7 @@ void RecordJob::start()
     m_target = *target;
     if (const auto space = m_tools.diskSpace(m_recording.folder); space && space->available <= m_tools.reservedBytes)
         return fail("There is too little space on the disk to record."_key);
-    m_diskWatch.start(diskWatchInterval);
+    m_watch.start(watchInterval);
     beginStretch();
 }
 
@@ -210,11 +228,16 @@ void RecordJob::setPaused(bool paused)
         beginStretch();
 }
 
-void RecordJob::watchDisk()
+void RecordJob::watch()
 {
     if (!m_recorder)
         return;
     syncLater(m_recording.stretches.last());
+    // ffmpeg waits forever for a display that is gone, and does not listen then.
+    if (m_recording.plan.hasPicturesOfDisplay() && !captureTarget(m_recording.plan)) {
+        m_recorder->cancel();
+        return;
+    }
     const auto space = m_tools.diskSpace(m_recording.folder);
     if (!space || space->available > m_tools.reservedBytes || m_isToEnd)
         return;
@@ -226,7 +249,7 @@ void RecordJob::watchDisk()
 void RecordJob::endRecording()
 {
     m_isFinishing = true;
-    m_diskWatch.stop();
+    m_watch.stop();
     if (m_recording.stretches.isEmpty())
         return fail(m_isRecovery ? Sentence("Nothing of the recording is left."_key)
                                  : Sentence("Nothing was recorded."_key));
@@ -276,6 +299,9 @@ void RecordJob::check(const ToolEnding &joining)
             tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
             return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
         }
+        if (const double missing = missingSound(*found, m_recording.plan); missing > 2)
+            m_problems.append(
+                {"The last %1 s have no sound: the sound server went away."_key, {QString::number(qRound(missing))}});
         JobOutcome outcome{.state = m_problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
                            .problems = m_problems};
         if (m_isRecovery)
@@ -325,7 +351,7 @@ void RecordJob::placeAsItIs(const Sentence &problem)
 
 void RecordJob::fail(const Sentence &sentence, const QString &details)
 {
-    m_diskWatch.stop();
+    m_watch.stop();
     discard();
     finish({.state = JobState::Failed, .sentence = sentence, .details = details});
 }
@@ -339,7 +365,7 @@ void RecordJob::removeStretches()
 
 void RecordJob::discard()
 {
-    m_diskWatch.stop();
+    m_watch.stop();
     if (m_placing)
         m_placing->takeBack();
     m_placing.reset();

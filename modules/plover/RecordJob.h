@@ -57,7 +57,7 @@ private:
     void stretchEnded(const ToolEnding &ending);
     void goOnAfterFailure(const ToolEnding &ending);
     void endRecording();
-    void watchDisk();
+    void watch();
     void join();
     void check(const ToolEnding &ending);
     void place(JobOutcome outcome);
@@ -80,7 +80,7 @@ private:
     Tally m_stretch;   ///< of the one that is recorded
     ToolMessages m_messages;
     QList<tarnwell::Sentence> m_problems;
-    QTimer m_diskWatch;
+    QTimer m_watch;  ///< over disk and display
     std::unique_ptr<QTemporaryDir> m_workFolder;
     std::shared_ptr<OutputFile> m_output;
     std::shared_ptr<Placing> m_placing;
