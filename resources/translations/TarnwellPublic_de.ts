@@ -2248,6 +2248,10 @@
         <translation>In den Ordner für temporäre Dateien kann nicht geschrieben werden.</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>Das Protokoll kann nicht gelesen werden</translation>
     </message>

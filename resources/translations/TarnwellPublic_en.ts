@@ -2248,6 +2248,10 @@
         <translation>The folder for temporary files cannot be written.</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>The log cannot be read</translation>
     </message>

@@ -2248,6 +2248,10 @@
         <translation>No se puede escribir en la carpeta de archivos temporales.</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>No se puede leer el registro</translation>
     </message>

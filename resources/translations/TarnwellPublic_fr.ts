@@ -2248,6 +2248,10 @@
         <translation>Impossible d’écrire dans le dossier des fichiers temporaires.</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>Impossible de lire le journal</translation>
     </message>

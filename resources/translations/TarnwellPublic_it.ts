@@ -2248,6 +2248,10 @@
         <translation>Impossibile scrivere nella cartella dei file temporanei.</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>Impossibile leggere il log</translation>
     </message>

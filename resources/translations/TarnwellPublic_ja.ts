@@ -2248,6 +2248,10 @@
         <translation>一時ファイル用のフォルダに書き込めません。</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>ログを読み込めません</translation>
     </message>

@@ -2248,6 +2248,10 @@
         <translation>임시 파일용 폴더에 쓸 수 없습니다.</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>로그를 읽을 수 없음</translation>
     </message>

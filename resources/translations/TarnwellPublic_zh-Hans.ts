@@ -2248,6 +2248,10 @@
         <translation>无法写入临时文件的文件夹。</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>无法读取日志</translation>
     </message>

@@ -2248,6 +2248,10 @@
         <translation>無法寫入暫存檔案的檔案夾。</translation>
     </message>
     <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>The log cannot be read</source>
         <translation>無法讀取記錄</translation>
     </message>
