@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den letzten %1 s fehlt der Ton: Der Tondienst war nicht mehr da.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>The last %1 s have no sound: the sound server went away.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los últimos %1 s no tienen sonido: el servidor de sonido desapareció.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

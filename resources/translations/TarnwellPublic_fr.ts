@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les dernières %1 s sont sans son : le serveur de son a disparu.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

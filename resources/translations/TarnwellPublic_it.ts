@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gli ultimi %1 s sono senza audio: il server audio non era più disponibile.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

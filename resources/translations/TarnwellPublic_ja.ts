@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>最後の %1 秒には音声がありません。サウンドサーバがなくなりました。</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>마지막 %1초에는 소리가 없습니다. 사운드 서버가 사라졌습니다.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

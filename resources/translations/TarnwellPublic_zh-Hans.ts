@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>最后 %1 秒没有声音：声音服务器已消失。</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

@@ -2249,7 +2249,7 @@
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>最後 %1 秒沒有聲音：聲音伺服器已消失。</translation>
     </message>
     <message>
         <source>The log cannot be read</source>

@@ -63,7 +63,8 @@ TEST(ConversionTest, FoldersForFilmMusicAndBesideTheSource)
     plan.preset = *presetOfId(u"mkv-h264"_s);
     EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), settings.folder());
     plan.preset.videoCodec = QString();
-    EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), settings.dispatcher().getMusicDir());
+    settings.dispatcher().setting()->video()->setMusicOutputPath(u"/music"_s);
+    EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), u"/music");
     plan.besideSource = true;
     EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), u"/films");
 }
