@@ -210,7 +210,8 @@ def case_streams_without_length(c):
 
 
 def case_size(c):
-    for preset, megabytes, options in (('mp4-h264', 2, {}), ('mkv-h265', 1, {}), ('webm-vp9', 1, {'speed': 2}), ('avi-mpeg4', 4, {}), ('mp4-h264', 0.4, {}), ('mp4-h264', 1, {'pieces': [[5, 20]]})):
+    for preset, megabytes, options in (('mp4-h264', 2, {'speed': 1}), ('mkv-h265', 0.4, {'pieces': [[0, 8]], 'speed': 2}), ('webm-vp9', 0.4, {'pieces': [[0, 8]], 'speed': 2}),
+                                       ('avi-mpeg4', 4, {}), ('mp4-h264', 0.4, {'speed': 2}), ('mp4-h264', 1, {'pieces': [[5, 20]], 'speed': 2})):
         out = c.convert('long', preset, rateControl=3, maximumBytes=int(megabytes * 1e6), **options)
         size = out.path.stat().st_size / 1e6 / megabytes
         print(f'  {preset}: {size * 100:.1f} % of {megabytes} MB, {out.video["width"]}x{out.video["height"]}', flush=True)

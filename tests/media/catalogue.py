@@ -18,7 +18,7 @@ FFPROBE = ['ffprobe', '-v', 'error', '-protocol_whitelist', 'file']
 
 
 def run(arguments, **options):
-    return subprocess.run(arguments, stdin=subprocess.DEVNULL, capture_output=True, timeout=300, **options)
+    return subprocess.run(arguments, stdin=subprocess.DEVNULL, capture_output=True, timeout=900, **options)
 
 
 def report(path):
