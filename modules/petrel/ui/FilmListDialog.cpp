@@ -33,7 +33,7 @@ FilmListDialog::FilmListDialog(const EngineAnswer &answer, QWidget *parent)
         auto *row = new QTreeWidgetItem({entry.title, entry.seconds > 0 ? durationText(entry.seconds) : QString()});
         row->setCheckState(0, Qt::Checked);
         row->setData(0, itemRole, entry.item);
-        row->setTextAlignment(1, int(Qt::AlignTrailing | Qt::AlignVCenter));
+        row->setTextAlignment(1, Qt::AlignTrailing | Qt::AlignVCenter);
         rows.append(row);
     }
     m_form->filmTree->addTopLevelItems(rows);
