@@ -223,7 +223,7 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
     if (!preset)
         return fail("The converter is missing. Please install the application again."_key);
     TranscodePlan plan;
-    plan.sources = {m_part->rename(path, title())};
+    plan.sources = {m_part->named(path, title())};
     plan.preset = *preset;
     m_conversion = std::make_unique<TranscodeJob>(
         TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});
@@ -234,18 +234,13 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
         emit progressed(progress);
     });
     connect(m_conversion.get(), &Job::noted, this, &Job::noted);
-    connect(m_conversion.get(), &Job::finished, this,
-            [this, source = plan.sources.first(), path](const JobOutcome &outcome) {
-                if (outcome.outputs.isEmpty())
-                    QFile::rename(source, path);  // for the next attempt
-                converted(outcome);
-            });
+    connect(m_conversion.get(), &Job::finished, this, &DownloadJob::converted);
     m_conversion->start();
     if (isPaused())
         m_conversion->setPaused(true);
 }
 
-void DownloadJob::converted(JobOutcome outcome)
+void DownloadJob::converted(const JobOutcome &outcome)
 {
     const bool isMade = outcome.state == JobState::Done || outcome.state == JobState::DoneWithProblems;
     if (!isMade)

@@ -15,7 +15,6 @@ struct DownloadPlan {
     int height = 0;              ///< lines of the picture at most, where there is such a one; 0 for the highest
     QString extension = {};      ///< what it is to become: "mp4", "webm", "mkv"; "m4a", "mp3" where it is sound
     QStringList subtitles = {};  ///< languages that are put into the file, as the site names them
-    bool cover = true;           ///< keeps the site's picture where the form holds it
     bool chapters = true;
     QString proxy = {};           ///< with its scheme; null for the system's way
     qint64 bytesPerSecond = 0;    ///< at most; 0 for no limit
