@@ -97,9 +97,10 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
     QStringList sounds;
     for (int input = 0; input < pictures; ++input) {
         sounds.append(u"[a%1]"_s.arg(input));
-        // Each packet keeps the time at which it was taken, so a drifting sound device does not lead the sound away
-        // from the pictures; counting samples instead keeps whatever the first, unsettled times were wrong by.
-        chains.append(u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0%3"_s.arg(input).arg(begin, sounds.last()));
+        // Sound devices have clocks of their own, and the first times that the sound server tells are unsettled: the
+        // sound is stretched until it is in step. Without `res` the resampler comes in the midst and forgets the step.
+        chains.append(u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0,aresample=async=1000:flags=res%3"_s.arg(input).arg(
+            begin, sounds.last()));
     }
     if (sounds.size() > 1 && !plan.separateTracks) {
         chains.append(sounds.join(QString()) + u"amix=inputs=2:duration=longest:normalize=0[a]"_s);
