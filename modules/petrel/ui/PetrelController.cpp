@@ -37,6 +37,7 @@ constexpr JobPageTexts petrelTexts = {
     .title = "Downloader"_key,
     .emptyHeadline = "Paste or drop addresses here"_key,
     .emptyText = "Videos and music from the web are saved in the form that you choose."_key,
+    .emptyButton = {},
     .start = "Download"_key,
     .emptyImage = "petrel_module",
 };
