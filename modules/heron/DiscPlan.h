@@ -24,7 +24,7 @@ std::optional<DiscWay> discWayNamed(const QString &name);
 /// What a user wants of a disc: values only, stored with the job as JSON. Tracks are counted from 1 as the disc has
 /// them.
 struct DiscPlan {
-    QString source;  ///< absolute path of a drive, an image or a folder
+    QString source = {};  ///< absolute path of a drive, an image or a folder
     DiscWay way = DiscWay::Mkv;
     int title = 0;  ///< 0 for the main one
     int angle = 1;
