@@ -129,7 +129,7 @@ Sentence OutputFile::makePart()
         const QString path =
             m_folder + u'/' + fittingName(u'.' + m_baseName, partMark + partId + suffixOf(m_extension), limit);
         // Written down before it is there, so that there is no moment in which it could be forgotten.
-        QDir().mkpath(registrations);
+        foundation::makePrivateFolder(registrations);
         if (!QFile::link(path, registration))
             tarnwell::DNFootLog(u"An output could not be written down; it stays where Kestrel is killed"_s);
         error = placing::makeNew(path, m_kind == Kind::Folder);

@@ -40,7 +40,7 @@ constexpr Container containerTable[] = {
      .traits = matroskaTraits,
      .video = "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video mpeg1video ffv1 mjpeg theora prores dnxhd dvvideo flv1 h263 "
               "huffyuv png utvideo wmv2",
-     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
+     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
      .keptVideo = "vc1 wmv1 wmv3 msmpeg4v2 msmpeg4v3 rv30 rv40",
      .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
@@ -87,7 +87,7 @@ constexpr Container containerTable[] = {
      .traits = ManySounds | TellsLength,
      .video = "wmv2 h264 mpeg4 mpeg2video mpeg1video mjpeg av1 cinepak dvvideo ffv1 flv1 h263 huffyuv png theora "
               "utvideo vp8 vp9",
-     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 flac mp2 mp3 pcm_s16le speex vorbis",
+     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 mp2 mp3 pcm_s16le speex vorbis",
      .keptVideo = "wmv1 wmv3 vc1",
      .keptSound = "wmav1 wmapro"},
     {.id = "mpg",
@@ -191,14 +191,14 @@ constexpr Container containerTable[] = {
      .traits = VariableRate | Chapters | ManySounds | TrackNames,
      .video = "h264 hevc av1 cinepak dnxhd dvvideo ffv1 flv1 h263 huffyuv mjpeg mpeg1video mpeg2video mpeg4 png "
               "prores theora utvideo vp8 vp9 wmv2",
-     .sound = "aac ac3 adpcm_ima_wav dts flac mp2 mp3 opus pcm_s16be pcm_s16le speex vorbis wavpack"},
+     .sound = "aac ac3 adpcm_ima_wav dts mp2 mp3 opus pcm_s16be pcm_s16le speex vorbis wavpack"},
     {.id = "wtv",
      .name = "WTV",
      .muxer = "wtv",
      .extension = "wtv",
      .traits = 0,
      .video = "mpeg2video h264 av1 cinepak dvvideo flv1 h263 huffyuv mpeg1video mpeg4 png vp8 vp9",
-     .sound = "mp2 ac3 adpcm_ima_wav dts eac3 flac mp3 pcm_s16le speex vorbis wmav2"},
+     .sound = "mp2 ac3 adpcm_ima_wav dts eac3 mp3 pcm_s16le speex vorbis wmav2"},
     {.id = "ivf", .name = "IVF", .muxer = "ivf", .extension = "ivf", .traits = VariableRate, .video = "av1 vp8 vp9"},
     {.id = "swf",
      .name = "SWF",
@@ -217,7 +217,7 @@ constexpr Container containerTable[] = {
      .sound = "pcm_s16le",
      .sampleRate = 48000,
      .channels = 2},
-    {.id = "rm", .name = "RM", .muxer = "rm", .extension = "rm", .video = "rv20", .sound = "ac3 aac"},
+    {.id = "rm", .name = "RM", .muxer = "rm", .extension = "rm", .video = "rv20", .sound = "ac3"},
 
     {.id = "mp3",
      .name = "MP3",
@@ -262,14 +262,14 @@ constexpr Container containerTable[] = {
      .muxer = "asf",
      .extension = "wma",
      .traits = TellsLength,
-     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 flac mp2 mp3 pcm_s16le speex vorbis",
+     .sound = "wmav2 aac ac3 adpcm_ima_wav dts eac3 mp2 mp3 pcm_s16le speex vorbis",
      .keptSound = "wmav1 wmapro"},
     {.id = "mka",
      .name = "MKA",
      .muxer = "matroska",
      .extension = "mka",
      .traits = matroskaTraits & ~VariableRate,
-     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd tta vorbis "
+     .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
      .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
      .arguments = "-default_mode passthrough"},
@@ -296,7 +296,7 @@ constexpr Container containerTable[] = {
     {.id = "tta", .name = "TTA", .muxer = "tta", .extension = "tta", .traits = TellsLength, .sound = "tta"},
     {.id = "au", .name = "AU", .muxer = "au", .extension = "au", .traits = TellsLength, .sound = "pcm_s16be"},
     {.id = "voc", .name = "VOC", .muxer = "voc", .extension = "voc", .sound = "pcm_s16le"},
-    {.id = "ra", .name = "RA", .muxer = "rm", .extension = "ra", .sound = "ac3 aac"},
+    {.id = "ra", .name = "RA", .muxer = "rm", .extension = "ra", .sound = "ac3"},
 };
 
 bool stands(const char *list, const QString &word)

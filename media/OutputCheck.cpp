@@ -98,12 +98,13 @@ Sentence mismatchIn(const OutputExpectation &expected, const MediaInformation &f
 
 ToolCommand outputReportCommand(const QString &proberPath, const QString &argument)
 {
-    return {
-        .program = proberPath,
-        .arguments = {u"-v"_s, u"error"_s, u"-protocol_whitelist"_s, u"file"_s, u"-count_packets"_s, u"-show_format"_s,
-                      u"-show_streams"_s, u"-show_chapters"_s, u"-of"_s, u"json"_s, u"-i"_s, argument},
-        .outputLimit = maximumReportBytes,
-        .collectsOutput = true};
+    return {.program = proberPath,
+            .arguments = {u"-v"_s, u"repeat+level+error"_s, u"-protocol_whitelist"_s, u"file"_s, u"-count_packets"_s,
+                          u"-show_format"_s, u"-show_streams"_s, u"-show_chapters"_s, u"-of"_s, u"json"_s, u"-i"_s,
+                          argument},
+            .timeLimit = std::chrono::minutes(15),  // it says nothing before it has read everything
+            .outputLimit = maximumReportBytes,
+            .collectsOutput = true};
 }
 
 ToolCommand decodingCommand(const QString &transcoderPath, const QString &argument, Decoding decoding)
@@ -117,7 +118,7 @@ ToolCommand decodingCommand(const QString &transcoderPath, const QString &argume
     // Passed through, or the writer of nothing complains about the times of pictures.
     arguments += {u"-i"_s,        argument,         u"-map"_s, u"0:V?"_s, u"-map"_s, u"0:a?"_s,
                   u"-fps_mode"_s, u"passthrough"_s, u"-f"_s,   u"null"_s, u"-"_s};
-    return {.program = transcoderPath, .arguments = arguments};
+    return {.program = transcoderPath, .arguments = arguments, .silenceLimit = std::chrono::minutes(2)};
 }
 
 std::optional<double> secondsOfKept(const OutputExpectation &expected, const MediaInformation &source)

@@ -156,6 +156,7 @@ void TranscodeJob::runStep()
 {
     const TranscodeRun &step = m_steps.runs[m_step];
     m_progress = {};
+    m_reading = ToolMessages();
     m_messages = ToolMessages(m_request.plan.sources + QStringList{m_output->partPath(), m_workFolder->path()});
     tellStage(step.stage);
     tarnwell::DNFootLog(u"Converting: %1"_s, step.arguments.join(u' '));
@@ -180,7 +181,7 @@ void TranscodeJob::stepEnded(const ToolEnding &ending)
     m_doneShare += m_steps.runs[m_step].share;
     const bool hasStopped = ending.cause == ToolEnding::Cause::Stopped;
     if (!ending.isGood() && !hasStopped)
-        judge(ending, std::nullopt, 0);
+        judge(ending, std::nullopt);
     else if (isLast)
         checkOutput(ending);
     else {

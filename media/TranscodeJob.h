@@ -59,7 +59,7 @@ private:
     void checkOutput(const ToolEnding &ending);
     Decoding neededDecoding() const;
     void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);
-    void judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings, int decodingFaults);
+    void judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings);
     void tryWithoutShortcuts();
     void place(JobOutcome outcome);
     void fail(const tarnwell::Sentence &sentence);
@@ -80,7 +80,7 @@ private:
     JobProgress m_told;
     TranscodeProgress m_progress;
     ToolMessages m_messages;
-    ToolMessages m_decoding;
+    ToolMessages m_reading;  ///< of the output
     PictureScan m_scan;
     bool m_isSecondAttempt = false;
 };

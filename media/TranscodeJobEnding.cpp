@@ -23,21 +23,25 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
 {
     tellStage("Checking the finished file…"_key);
     const QString part = m_output->partPath();
-    run(outputReportCommand(m_request.tools.prober, ToolPath(part).argument()), [this, ending,
-                                                                                 part](const ToolEnding &probing) {
-        const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
-        if (!found)
-            return judge(ending, std::nullopt, 0);
-        const OutputFindings findings = compareOutput(
-            m_steps.expected,
-            {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},
-            *found);
-        const bool isBroken = findings.isEmpty || !findings.damage.isEmpty();
-        if (neededDecoding() != Decoding::None && !isBroken && !isStopping())
-            decodeOutput(ending, findings);
-        else
-            judge(ending, findings, 0);
-    });
+    m_reading = ToolMessages({part});
+    const ToolProcess &tool = run(
+        outputReportCommand(m_request.tools.prober, ToolPath(part).argument()),
+        [this, ending, part](const ToolEnding &probing) {
+            const auto found =
+                probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
+            if (!found)
+                return judge(ending, std::nullopt);
+            const OutputFindings findings = compareOutput(
+                m_steps.expected,
+                {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},
+                *found);
+            const bool isBroken = findings.isEmpty || !findings.damage.isEmpty();
+            if (neededDecoding() != Decoding::None && !isBroken && !isStopping())
+                decodeOutput(ending, findings);
+            else
+                judge(ending, findings);
+        });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_reading.readLine(line); });
 }
 
 /// Nothing was decoded of what was copied, and so nothing was said of its faults. Small files are soon decoded.
@@ -53,16 +57,17 @@ Decoding TranscodeJob::neededDecoding() const
 
 void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &findings)
 {
-    m_decoding = ToolMessages({m_output->partPath()});
     const ToolProcess &tool =
         run(decodingCommand(m_request.tools.transcoder, ToolPath(m_output->partPath()).argument(), neededDecoding()),
             [this, ending, findings](const ToolEnding &decoding) {
-                judge(ending, findings, std::max(m_decoding.faults(), decoding.isGood() || isStopping() ? 0 : 1));
+                if (!decoding.isGood() && !isStopping() && m_reading.faults() == 0)
+                    m_reading.readLine("[error] The finished file could not be decoded");
+                judge(ending, findings);
             });
-    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_decoding.readLine(line); });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_reading.readLine(line); });
 }
 
-void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings, int decodingFaults)
+void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings)
 {
     const auto &information = m_request.information;
     const TranscodeFacts facts{
@@ -73,10 +78,10 @@ void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFin
                                            [](const MediaInformation &file) { return file.headerTellsDuration(); }),
         .copiesTracks = m_steps.work != TranscodeSteps::Work::Encode,
         .findings = findings,
-        .decodingFaults = decodingFaults};
+        .readingFaults = m_reading.faults()};
     JobOutcome outcome = transcodeVerdict(facts);
-    if (decodingFaults > 0)
-        outcome.details += u'\n' + m_decoding.text();
+    if (m_reading.faults() > 0)
+        outcome.details += u'\n' + m_reading.text();
     outcome.leftOut = m_steps.leftOut;
     if (outcome.state != JobState::Failed)
         return place(outcome);

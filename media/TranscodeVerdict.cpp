@@ -51,15 +51,15 @@ Sentence outputFailure(const TranscodeFacts &facts)
     const bool isSourceDamaged = facts.messages.faults() > 0;
     if (!findings.mismatch.isEmpty() && !isSourceDamaged)
         return findings.mismatch;
-    if (facts.decodingFaults > 0 && !facts.copiesTracks)
-        return {"The finished file is damaged: %1 faults."_key, {QString::number(facts.decodingFaults)}};
+    if (facts.readingFaults > 0 && !facts.copiesTracks)
+        return {"The finished file is damaged: %1 faults."_key, {QString::number(facts.readingFaults)}};
     return {};
 }
 
 QList<Sentence> problemsIn(const TranscodeFacts &facts)
 {
     const OutputFindings &findings = *facts.findings;
-    const int faults = std::max(facts.messages.faults(), facts.decodingFaults);
+    const int faults = std::max(facts.messages.faults(), facts.readingFaults);
     const bool isShort = findings.isShort && facts.sourceTellsDuration;
     QList<Sentence> problems;
     if (facts.expected.seconds && (isShort || (faults > 0 && facts.sourceTellsDuration)))
@@ -102,7 +102,7 @@ JobOutcome transcodeVerdict(const TranscodeFacts &facts)
     outcome.facts[u"seconds"_s] = facts.findings->seconds;
     if (facts.expected.seconds)
         outcome.facts[u"wantedSeconds"_s] = *facts.expected.seconds;
-    outcome.facts[u"faults"_s] = std::max(facts.messages.faults(), facts.decodingFaults);
+    outcome.facts[u"faults"_s] = std::max(facts.messages.faults(), facts.readingFaults);
     return outcome;
 }
 

@@ -17,7 +17,7 @@ struct TranscodeFacts {
     bool copiesTracks = false;  ///< packets went over undecoded, with their faults
     /// Nothing where the output could not be read back, or where the tool failed before.
     std::optional<OutputFindings> findings;
-    int decodingFaults = 0;  ///< of the output, where it was decoded
+    int readingFaults = 0;  ///< of the output, as it was read back and decoded
 };
 
 /// How the conversion ended, without the name of the output. Done only where nothing speaks against it. What was saved

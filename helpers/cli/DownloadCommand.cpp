@@ -121,8 +121,9 @@ std::optional<QList<JobRecord>> lookedAt(const QStringList &addresses, const Dow
             records[size_t(number)] = downloadJobs(planOf(number), *answer, folder);
         } else {
             JobRecord record = downloadJob(planOf(number), folder);
-            // What may do at another attempt is the job's own business.
-            if (!passesByItself(answer.reason().kind)) {
+            // What may do at another attempt, or with another engine, is the job's own business.
+            const EngineFailure::Kind kind = answer.reason().kind;
+            if (!passesByItself(kind) && !mayBeTheEngine(kind)) {
                 record.state = JobState::Unusable;
                 record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
             }

@@ -32,9 +32,9 @@ void tell(const Surroundings &surroundings, const QString &state, const QString 
 
 ExitStatus update(const Surroundings &surroundings, const EngineTools &tools)
 {
-    EngineUpdate update(engineStore(), tools, EngineUpdate::productSource(),
-                        std::make_shared<foundation::Fetcher>(
-                            foundation::Bundle::main().contentsPath(u"Frameworks/libWebTransfer.dylib"_s)));
+    EngineUpdate update(
+        engineStore(), tools, EngineUpdate::productSource(),
+        std::make_shared<foundation::Fetcher>(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s)));
     QEventLoop loop;
     ExitStatus status = AllDone;
     QObject::connect(&update, &EngineUpdate::ended, &loop, [&](EngineUpdate::End end, const QString &text) {

@@ -70,6 +70,15 @@ QString progressText(const JobProgress &progress)
 
 }  // namespace
 
+QString shown(QString text)
+{
+    for (QChar &c : text) {
+        if (c.category() == QChar::Other_Control)
+            c = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
 JobReporter::JobReporter(const Surroundings &surroundings, qsizetype jobs)
     : m_surroundings(surroundings),
       m_jobs(jobs),
@@ -85,11 +94,19 @@ void JobReporter::progress(qsizetype number, const JobRecord &record)
             {u"event"_s, u"progress"_s}, {u"job"_s, number}, {u"seconds"_s, rounded(progress.seconds, 10)}};
         if (progress.fraction)
             object[u"fraction"_s] = rounded(*progress.fraction, 1000);
+        if (!record.blocked.isEmpty())
+            object[u"waiting"_s] = record.blocked.english();
         printObject(object);
+    } else if (!m_hasTerminal) {
+        // Progress is for the eye; why nothing happens is for everybody, once.
+        if (const QString blocked = record.blocked.localized(); !blocked.isEmpty() && blocked != m_toldBlocked) {
+            std::fprintf(stderr, "%s\n", qUtf8Printable(shown(record.title + u": "_s + blocked)));
+            m_toldBlocked = blocked;
+        }
     } else {
         const QString count = m_jobs > 1 ? u"%1/%2  "_s.arg(number).arg(m_jobs) : QString();
         const QString state = record.blocked.isEmpty() ? progressText(progress) : record.blocked.localized();
-        showLine(count + record.title + u"  "_s + state);
+        showLine(shown(count + record.title + u"  "_s + state));
     }
 }
 
@@ -120,9 +137,11 @@ void JobReporter::result(qsizetype number, const JobRecord &record)
     QString line = record.title + u": "_s + jobStateText(record);
     if (isGood)
         line += u" → "_s + outcome.outputs.join(u", "_s);
-    printLine(line.toUtf8());
-    for (const Sentence &problem : problemsOf(outcome))
-        printLine((u"  "_s + problem.localized()).toUtf8());
+    printLine(shown(line).toUtf8());
+    for (const Sentence &problem : problemsOf(outcome)) {
+        if (problem.localized() != jobStateText(record))  // which the line has said
+            printLine(shown(u"  "_s + problem.localized()).toUtf8());
+    }
     for (const Sentence &leftOut : outcome.leftOut)
         printLine((u"  "_s + AppLocalizedString(u"Left out: %1"_s).arg(leftOut.localized())).toUtf8());
     if (!isGood && !outcome.details.isEmpty())
@@ -131,8 +150,6 @@ void JobReporter::result(qsizetype number, const JobRecord &record)
 
 void JobReporter::showLine(const QString &text)
 {
-    if (!m_hasTerminal)
-        return;
     std::fprintf(stderr, "\r\033[K%s", qUtf8Printable(text.left(terminalWidth() - 1)));
     std::fflush(stderr);
     m_isLineShown = true;

@@ -7,6 +7,9 @@
 
 namespace kestrel::cli {
 
+/// A text from outside as one line of a terminal: control characters do nothing there.
+QString shown(QString text);
+
 /// Tells about jobs on standard output: an object a line for programs, in English, or sentences in the interface's
 /// language, with a line on a terminal that tells how far they are.
 class JobReporter {
@@ -27,6 +30,7 @@ private:
     qsizetype m_jobs;
     bool m_hasTerminal;
     bool m_isLineShown = false;
+    QString m_toldBlocked;
     ExitStatus m_status = AllDone;
 };
 

@@ -1,7 +1,8 @@
 #include "JobsCommand.h"
 
-#include "jobs/JobText.h"
+#include "JobReporter.h"
 #include "jobs/JobStore.h"
+#include "jobs/JobText.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -28,9 +29,8 @@ ExitStatus runJobsCommand(const Surroundings &surroundings, const QStringList &a
                                                 {u"outputs"_s, QJsonArray::fromStringList(record.outcome.outputs)}})
                           .toJson(QJsonDocument::Compact));
         else
-            printLine(u"%1  %2  %3  %4"_s
-                          .arg(QString::number(record.id), record.module.leftJustified(6), record.title,
-                               jobStateText(record))
+            printLine(shown(u"%1  %2  %3  %4"_s.arg(QString::number(record.id), record.module.leftJustified(6),
+                                                    record.title, jobStateText(record)))
                           .toUtf8());
     }
     return AllDone;

@@ -154,6 +154,19 @@ void moveClocks(Sector sector, qint64 move)
     }
 }
 
+void keepPackClockAhead(Sector sector, std::optional<qint64> &last)
+{
+    constexpr qint64 ticksOfPack = 146;  // at the highest rate
+    if (!isPack(sector))
+        return;
+    qint64 clock = readPackClock(&sector[4]);
+    if (last && clock < *last) {
+        clock = *last + ticksOfPack;
+        writePackClock(&sector[4], clock);
+    }
+    last = clock;
+}
+
 std::optional<Navigation> navigationOf(Sector sector)
 {
     if (!isPack(sector) || number(sector, presentation, 4) != 0x1bf || sector[presentation + 6] != 0 ||

@@ -42,8 +42,13 @@ bool isPack(Sector sector);
 /// None where it is no pack of an MPEG-2 program stream. Whatever the bytes are, nothing is read beyond the sector.
 Packets packetsOf(Sector sector);
 
-/// Sets the clocks of a sector anew, those of a navigation pack too: `move` ticks later. What would come before 0 is at 0.
+/// Sets the clocks of a sector anew, those of a navigation pack too: `move` ticks later. What would come before 0 is at
+/// 0.
 void moveClocks(Sector sector, qint64 move);
+
+/// The clock of the pack itself never runs back: where two pieces of film meet, the second is stored before the first
+/// has been played. `last` is that of the pack before.
+void keepPackClockAhead(Sector sector, std::optional<qint64> &last);
 
 /// What the first pack of each video object unit (about half a second) tells.
 struct Navigation {

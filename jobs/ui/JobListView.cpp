@@ -95,7 +95,8 @@ void JobListView::setUpKeys()
 
 QList<JobId> JobListView::selectedIds() const
 {
-    QModelIndexList rows = selectionModel()->selectedRows();
+    // Not selectedRows(): in a list only the title's column is selected, which makes no row.
+    QModelIndexList rows = selectedIndexes();
     std::sort(rows.begin(), rows.end());
     QList<JobId> ids;
     for (const QModelIndex &row : rows)

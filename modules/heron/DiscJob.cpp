@@ -8,6 +8,7 @@
 #include "TitleRipJob.h"
 
 #include "jobs/OutputFile.h"
+#include "jobs/SystemFailure.h"
 #include "media/OutputPlacing.h"
 #include "tarnwell/Log.h"
 
@@ -68,6 +69,7 @@ void DiscJob::lookedAt(const ToolEnding &ending)
 ToolProcess &DiscJob::runDiscTool(const ToolCommand &command, double share, Continuation then)
 {
     m_lines = {};
+    m_isFed = command.feeder != nullptr;
     beginShare(share);
     tarnwell::DNFootLog(u"Disc: %1 %2"_s, command.program, command.arguments.join(u' '));
     ToolProcess &tool = run(command, std::move(then));
@@ -130,8 +132,13 @@ bool DiscJob::isGoodStep(const ToolEnding &ending)
     }
     if (ending.isGood() && ending.feederExitCode == 0)
         return true;
-    // Who was fed ends badly where nothing came: the cause is the feeder's.
-    fail(discFailure(m_lines, ending), ending.lastWords);
+    // A reader whose film nobody takes any more says that it could not write.
+    const bool isReaders = !m_isFed || ending.isGood() || (!m_lines.error.isEmpty() && m_lines.error != "write"_L1);
+    const Sentence refused = systemFailureIn(ending.lastWords).sentence;
+    fail(isReaders           ? discFailure(m_lines, ending)
+         : refused.isEmpty() ? Sentence("The output could not be written."_key)
+                             : refused,
+         ending.lastWords);
     return false;
 }
 

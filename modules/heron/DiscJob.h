@@ -71,6 +71,7 @@ private:
     DiscRequest m_request;
     disc::DiscContents m_contents;
     DiscToolLines m_lines;
+    bool m_isFed = false;  ///< the tool of the moment makes something of what a reader tells it
     JobProgress m_told;
     double m_doneShare = 0, m_share = 0;
     JobOutcome m_outcome;

@@ -24,19 +24,19 @@ std::optional<DiscWay> discWayNamed(const QString &name);
 /// What a user wants of a disc: values only, stored with the job as JSON. Tracks are counted from 1 as the disc has
 /// them.
 struct DiscPlan {
-    QString source;  ///< absolute path of a drive, an image or a folder
+    QString source = {};  ///< absolute path of a drive, an image or a folder
     DiscWay way = DiscWay::Mkv;
     int title = 0;  ///< 0 for the main one
     int angle = 1;
-    int firstChapter = 1, lastChapter = 0;     ///< 0 for the last
-    std::optional<QList<int>> soundTracks;     ///< nothing for all
-    std::optional<QList<int>> subtitleTracks;  ///< nothing for all
-    int burnedSubtitle = 0;                    ///< drawn into the picture of a rip; 0 for none
-    QString language;                          ///< whose sound comes first: "de"; empty for the disc's own order
-    TranscodePlan transcode;                   ///< of a rip; its sources are not told
+    int firstChapter = 1, lastChapter = 0;          ///< 0 for the last
+    std::optional<QList<int>> soundTracks = {};     ///< nothing for all
+    std::optional<QList<int>> subtitleTracks = {};  ///< nothing for all
+    int burnedSubtitle = 0;                         ///< drawn into the picture of a rip; 0 for none
+    QString language = {};                          ///< whose sound comes first: "de"; empty for the disc's own order
+    TranscodePlan transcode = {};                   ///< of a rip; its sources are not told
 
     // What the disc said when this was planned
-    QString volume;
+    QString volume = {};
     qint64 bytes = 0;    ///< of what is read
     double seconds = 0;  ///< of the title
 

@@ -41,10 +41,10 @@ FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QLis
 
 /// Where the steps of a title's file write and read; absolute.
 struct FilmPaths {
-    QString film;       ///< the first step's
-    QString subtitles;  ///< the prefix of the pair of files; null for none
-    QString chapters;
-    QString output;
+    QString film = {};       ///< the first step's
+    QString subtitles = {};  ///< the prefix of the pair of files; null for none
+    QString chapters = {};
+    QString output = {};
 };
 
 /// What of the subtitles goes into the file: places in the disc's list, and their places in the index.

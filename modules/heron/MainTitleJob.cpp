@@ -53,6 +53,7 @@ QByteArray authorFile(const DiscPlan &plan, const disc::DiscTitle &title, const 
     QByteArray text;
     QXmlStreamWriter xml(&text);
     xml.writeStartElement(u"dvdauthor"_s);
+    xml.writeAttribute(u"format"_s, title.standard.toLower());
     xml.writeEmptyElement(u"vmgm"_s);
     xml.writeStartElement(u"titleset"_s);
     xml.writeStartElement(u"titles"_s);

@@ -115,8 +115,7 @@ void TitleJob::decodeAt(const QString &path, QList<double> places, bool hasVideo
     if (places.isEmpty())
         return fileIsGood();
     const double place = places.takeFirst();
-    ToolCommand command =
-        decodingCommand(request().tools.transcode.transcoder, u"file:"_s + path, Decoding::All);
+    ToolCommand command = decodingCommand(request().tools.transcode.transcoder, u"file:"_s + path, Decoding::All);
     const qsizetype input = command.arguments.indexOf(u"-i"_s);
     for (const QString &argument : {QString::number(place, 'f', 3), u"-ss"_s, u"2"_s, u"-t"_s})
         command.arguments.insert(input, argument);

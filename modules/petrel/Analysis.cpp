@@ -58,7 +58,7 @@ void Analysis::ended(qint64 id, const ToolEnding &ending)
     m_running.erase(found);
     startPending();
     if (!ending.isGood()) {
-        const EngineFailure failure = engineFailure(ending);
+        const EngineFailure failure = engineFailure(ending, plan.proxy);
         emit answered(id, foundation::Failure{Refusal{failure.sentence, ending.lastWords, failure.kind}});
         return;
     }

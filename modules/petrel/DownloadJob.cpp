@@ -13,6 +13,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 #include <QPointer>
 
 #include <cstdio>
@@ -134,10 +135,8 @@ void DownloadJob::downloaded(const ToolEnding &ending)
 void DownloadJob::engineFailed(const ToolEnding &ending)
 {
     using Kind = EngineFailure::Kind;
-    const EngineFailure failure = engineFailure(ending);
-    const bool mayBeTheEngine =
-        failure.kind == Kind::EngineBroken || failure.kind == Kind::EngineOld || failure.kind == Kind::Unknown;
-    if (mayBeTheEngine && m_tools.engineTried) {
+    const EngineFailure failure = engineFailure(ending, m_plan.proxy);
+    if (mayBeTheEngine(failure.kind) && m_tools.engineTried) {
         if (const auto other = m_tools.engineTried(false)) {
             tarnwell::DNFootLog(u"Going back to the engine before: %1"_s.arg(ending.lastWords));
             m_tools.engine.engine = *other;
@@ -225,7 +224,7 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
     if (!preset)
         return fail("The converter is missing. Please install the application again."_key);
     TranscodePlan plan;
-    plan.sources = {m_part->rename(path, title())};
+    plan.sources = {m_part->named(path, title())};
     plan.preset = *preset;
     m_conversion = std::make_unique<TranscodeJob>(
         TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});
@@ -236,18 +235,13 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
         emit progressed(progress);
     });
     connect(m_conversion.get(), &Job::noted, this, &Job::noted);
-    connect(m_conversion.get(), &Job::finished, this,
-            [this, source = plan.sources.first(), path](const JobOutcome &outcome) {
-                if (outcome.outputs.isEmpty())
-                    QFile::rename(source, path);  // for the next attempt
-                converted(outcome);
-            });
+    connect(m_conversion.get(), &Job::finished, this, &DownloadJob::converted);
     m_conversion->start();
     if (isPaused())
         m_conversion->setPaused(true);
 }
 
-void DownloadJob::converted(JobOutcome outcome)
+void DownloadJob::converted(const JobOutcome &outcome)
 {
     const bool isMade = outcome.state == JobState::Done || outcome.state == JobState::DoneWithProblems;
     if (!isMade)

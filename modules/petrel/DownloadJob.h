@@ -52,7 +52,7 @@ private:
     void look();
     void looked(const ToolEnding &ending, const QString &path);
     void convert(const QString &path, const DownloadCheck &check);
-    void converted(JobOutcome outcome);
+    void converted(const JobOutcome &outcome);
     void place(const QString &path);
     void finishGood(const QStringList &outputs);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});

@@ -44,7 +44,6 @@ QJsonObject DownloadPlan::toJson() const
             {u"height"_s, height},
             {u"extension"_s, extension},
             {u"subtitles"_s, QJsonArray::fromStringList(subtitles)},
-            {u"cover"_s, cover},
             {u"chapters"_s, chapters},
             {u"proxy"_s, proxy},
             {u"bytesPerSecond"_s, bytesPerSecond},
@@ -68,7 +67,6 @@ std::optional<DownloadPlan> DownloadPlan::fromJson(const QJsonObject &json)
     plan.height = std::clamp(json["height"_L1].toInt(), 0, 100'000);
     plan.extension = known(json["extension"_L1].toString(), plan.soundOnly ? soundFormats() : downloadFormats());
     plan.subtitles = stringsOf(json["subtitles"_L1]);
-    plan.cover = json["cover"_L1].toBool(true);
     plan.chapters = json["chapters"_L1].toBool(true);
     plan.proxy = json["proxy"_L1].toString();
     plan.bytesPerSecond = bytesOf(json["bytesPerSecond"_L1]);

@@ -12,17 +12,16 @@ struct DownloadPlan {
     QString address;  ///< http or https
     int item = 0;     ///< of a page with several films, from 1; 0 for the page's only one
     bool soundOnly = false;
-    int height = 0;         ///< lines of the picture at most, where there is such a one; 0 for the highest
-    QString extension;      ///< what it is to become: "mp4", "webm", "mkv"; "m4a", "mp3" where it is sound
-    QStringList subtitles;  ///< languages that are put into the file, as the site names them
-    bool cover = true;      ///< keeps the site's picture where the form holds it
+    int height = 0;              ///< lines of the picture at most, where there is such a one; 0 for the highest
+    QString extension = {};      ///< what it is to become: "mp4", "webm", "mkv"; "m4a", "mp3" where it is sound
+    QStringList subtitles = {};  ///< languages that are put into the file, as the site names them
     bool chapters = true;
-    QString proxy;                ///< with its scheme; null for the system's way
+    QString proxy = {};           ///< with its scheme; null for the system's way
     qint64 bytesPerSecond = 0;    ///< at most; 0 for no limit
     bool manyFromServer = false;  ///< more than a few at once from one server: the user said so
 
     // What was found there, for the row and the queue; nothing is promised by it
-    QString title;
+    QString title = {};
     double seconds = 0;  ///< 0 where it is not told
     qint64 bytes = 0;    ///< likewise
 

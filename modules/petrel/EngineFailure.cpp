@@ -137,7 +137,7 @@ Kind kindOf(const QString &words)
 
 }  // namespace
 
-EngineFailure engineFailure(const ToolEnding &ending)
+EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy)
 {
     using enum ToolEnding::Cause;
     Kind kind = Kind::Unknown;
@@ -156,12 +156,19 @@ EngineFailure engineFailure(const ToolEnding &ending)
         default:
             kind = kindOf(ending.lastWords);
     }
+    if (kind == Kind::NotThere && !proxy.isEmpty())
+        kind = Kind::Proxy;
     return {kind, sentenceOf(kind)};
 }
 
 bool passesByItself(EngineFailure::Kind kind)
 {
     return kind == Kind::NoNetwork || kind == Kind::TooMany || kind == Kind::Server;
+}
+
+bool mayBeTheEngine(EngineFailure::Kind kind)
+{
+    return kind == Kind::EngineBroken || kind == Kind::EngineOld || kind == Kind::Unknown;
 }
 
 }  // namespace kestrel

@@ -35,9 +35,12 @@ struct EngineFailure {
 };
 
 /// By the engine's own words. Names and addresses in them are not taken for messages where they stand in quotes.
-EngineFailure engineFailure(const ToolEnding &ending);
+/// Who goes through a proxy reaches nothing but that: `proxy` is its address, null for none.
+EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy = {});
 
 /// Whether the same may do after a while.
 bool passesByItself(EngineFailure::Kind kind);
+/// Whether another engine might do better.
+bool mayBeTheEngine(EngineFailure::Kind kind);
 
 }  // namespace kestrel

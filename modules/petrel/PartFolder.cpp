@@ -126,11 +126,16 @@ QString PartFolder::downloaded() const
     return largest.filePath().isEmpty() ? QString() : largest.absoluteFilePath();
 }
 
-QString PartFolder::rename(const QString &path, const QString &title)
+QString PartFolder::named(const QString &path, const QString &title) const
 {
     const QString ending = u'.' + QFileInfo(path).suffix();
-    const QString named = m_path + u'/' + fittingName(portableName(title), ending, nameBytes);
-    return QFile::rename(path, named) ? named : path;
+    const QString name = m_path + u'/' + fittingName(portableName(title), ending, nameBytes);
+    if (name == path)
+        return path;
+    QFile::remove(name);  // of a run that was ended
+    // Not renamed: a run after this one has to find it.
+    const bool isLinked = link(QFile::encodeName(path).constData(), QFile::encodeName(name).constData()) == 0;
+    return isLinked || QFile::link(path, name) ? name : path;
 }
 
 void PartFolder::clear()

@@ -28,8 +28,8 @@ public:
     qint64 bytes() const;  ///< that are there
     /// What was downloaded, whole; null where there is no such file.
     QString downloaded() const;
-    /// Gives that file a name of its own within the folder.
-    QString rename(const QString &path, const QString &title);
+    /// The same file under a name of its own within the folder, for tools that make their output's name of it.
+    QString named(const QString &path, const QString &title) const;
     /// Removes what was downloaded, to begin anew.
     void clear();
     void remove();  ///< the folder and all in it

@@ -8,80 +8,88 @@
         <translation>%1 (%2 Threads)</translation>
     </message>
     <message>
+        <source>%1 (sound only)</source>
+        <translation>%1 (nur Ton)</translation>
+    </message>
+    <message>
         <source>%1 - Title %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - Titel %2</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 MB are too few for a file of this length.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB sind zu wenig für eine Datei dieser Länge.</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 und %2 weitere</translation>
     </message>
     <message>
         <source>%1 angles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Blickwinkel</translation>
     </message>
     <message>
         <source>%1 chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kapitel</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>%1 files selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Dateien ausgewählt</translation>
     </message>
     <message>
         <source>%1 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read, %3 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 s waren lesbar, %3 Fehler</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 von %2 s waren lesbar.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 s could be read, %2 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s waren lesbar, %2 Fehler</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sektoren der Disc waren nicht lesbar und sind in der Kopie leer.</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sektoren der Disc waren nicht lesbar und sind im Image leer.</translation>
     </message>
     <message>
         <source>%1 sectors of the film could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Sektoren des Films waren nicht lesbar.</translation>
     </message>
     <message>
         <source>%1 titles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Titel</translation>
     </message>
     <message>
         <source>%1 to go</source>
-        <translation type="unfinished"></translation>
+        <translation>noch %1</translation>
     </message>
     <message>
         <source>%1 ×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ×</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -93,95 +101,95 @@
     </message>
     <message>
         <source>128 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbit/s</translation>
     </message>
     <message>
         <source>160 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbit/s</translation>
     </message>
     <message>
         <source>192 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbit/s</translation>
     </message>
     <message>
         <source>23.976</source>
-        <translation type="unfinished"></translation>
+        <translation>23,976</translation>
     </message>
     <message>
         <source>24</source>
-        <translation type="unfinished"></translation>
+        <translation>24</translation>
     </message>
     <message>
         <source>25</source>
-        <translation type="unfinished"></translation>
+        <translation>25</translation>
     </message>
     <message>
         <source>256 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbit/s</translation>
     </message>
     <message>
         <source>2560 × 1440</source>
-        <translation type="unfinished"></translation>
+        <translation>2560 × 1440</translation>
     </message>
     <message>
         <source>29.97</source>
-        <translation type="unfinished"></translation>
+        <translation>29,97</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>320 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbit/s</translation>
     </message>
     <message>
         <source>448 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>448 kbit/s</translation>
     </message>
     <message>
         <source>4K (3840 × 2160)</source>
-        <translation type="unfinished"></translation>
+        <translation>4K (3840 × 2160)</translation>
     </message>
     <message>
         <source>50</source>
-        <translation type="unfinished"></translation>
+        <translation>50</translation>
     </message>
     <message>
         <source>59.94</source>
-        <translation type="unfinished"></translation>
+        <translation>59,94</translation>
     </message>
     <message>
         <source>60</source>
-        <translation type="unfinished"></translation>
+        <translation>60</translation>
     </message>
     <message>
         <source>64 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbit/s</translation>
     </message>
     <message>
         <source>640 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>640 kbit/s</translation>
     </message>
     <message>
         <source>96 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbit/s</translation>
     </message>
     <message>
         <source>A chapter for each joined file</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Kapitel je verbundener Datei</translation>
     </message>
     <message>
         <source>A disc of the chosen title alone, without menus, that players start at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Disc nur mit dem gewählten Titel, ohne Menüs, die sofort abgespielt wird.</translation>
     </message>
     <message>
         <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Datei der Art %1 kann nicht enthalten, was diese Voreinstellung verlangt: %2.</translation>
     </message>
     <message>
         <source>A folder has no sectors to copy. Choose another way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Ordner hat keine Sektoren zum Kopieren. Wählen Sie eine andere Art.</translation>
     </message>
     <message>
         <source>A new version of %@ is available!</source>
@@ -189,27 +197,27 @@
     </message>
     <message>
         <source>A preset needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eine Voreinstellung braucht einen Namen.</translation>
     </message>
     <message>
         <source>AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>AC-3-Audio</translation>
     </message>
     <message>
         <source>AIFF Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>AIFF-Audio</translation>
     </message>
     <message>
         <source>APNG Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>APNG-Animation</translation>
     </message>
     <message>
         <source>AVI Video (MPEG-4, MP3)</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI-Video (MPEG-4, MP3)</translation>
     </message>
     <message>
         <source>AVI Video (Motion JPEG, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI-Video (Motion JPEG, PCM)</translation>
     </message>
     <message>
         <source>About</source>
@@ -217,7 +225,7 @@
     </message>
     <message>
         <source>About %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etwa %1.</translation>
     </message>
     <message>
         <source>About %@</source>
@@ -232,36 +240,48 @@
         <translation>Über unser Unternehmen Tarnwell Software, Inc.</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Hinzufügen</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>%1 hinzufügen</translation>
+    </message>
+    <message>
         <source>Add Files…</source>
         <translation>Dateien hinzufügen …</translation>
     </message>
     <message>
         <source>Add Subtitle File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertiteldatei hinzufügen …</translation>
     </message>
     <message>
         <source>Adding the subtitles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel werden hinzugefügt …</translation>
     </message>
     <message>
         <source>Address</source>
         <translation>Adresse</translation>
     </message>
     <message>
+        <source>Address of a video or a page, such as https://…</source>
+        <translation>Adresse eines Videos oder einer Seite, etwa https://…</translation>
+    </message>
+    <message>
         <source>Aim</source>
-        <translation type="unfinished"></translation>
+        <translation>Ziel</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle</translation>
     </message>
     <message>
         <source>All Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Formate</translation>
     </message>
     <message>
         <source>All Formats…</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Formate …</translation>
     </message>
     <message>
         <source>All files</source>
@@ -269,35 +289,39 @@
     </message>
     <message>
         <source>All files of the disc in a folder, with its menus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien der Disc in einem Ordner, mit ihren Menüs.</translation>
     </message>
     <message>
         <source>All jobs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Aufträge sind fertig.</translation>
     </message>
     <message>
         <source>All jobs have ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Aufträge sind beendet.</translation>
     </message>
     <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Tonspuren der gewählten Titel mit ihren Kapiteln.</translation>
+    </message>
+    <message>
+        <source>Allow Many From One Server</source>
+        <translation>Viele von einem Server erlauben</translation>
     </message>
     <message>
         <source>Already in the list: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bereits in der Liste: %1</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Immer</translation>
     </message>
     <message>
         <source>Always kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Immer behalten</translation>
     </message>
     <message>
         <source>Always, twice the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Immer, doppelt so viele Bilder</translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -305,7 +329,7 @@
     </message>
     <message>
         <source>Another folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Anderer Ordner …</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -313,11 +337,11 @@
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Anwenden</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Archiv</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -329,19 +353,19 @@
     </message>
     <message>
         <source>As the format has it</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie im Format vorgesehen</translation>
     </message>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Quelle</translation>
     </message>
     <message>
         <source>Asking the site…</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Website wird gefragt …</translation>
     </message>
     <message>
         <source>At most</source>
-        <translation type="unfinished"></translation>
+        <translation>Höchstens</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -356,28 +380,32 @@
         <translation>Sichern Sie DVDs in 6 Modi, und wandeln Sie ganze DVDs in über 180 Formate um: zum Abspielen auf Mac und Mobilgeräten, zum Speichern auf der Festplatte, zum Ansehen am Fernseher und mehr. Eine ganze DVD in 5 Minuten!</translation>
     </message>
     <message>
+        <source>Begin at once</source>
+        <translation>Sofort beginnen</translation>
+    </message>
+    <message>
         <source>Beside the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Neben der Quelle</translation>
     </message>
     <message>
         <source>Bit rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate</translation>
     </message>
     <message>
         <source>Bit rate of a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate einer Spur</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten links</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten rechts</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Helligkeit</translation>
     </message>
     <message>
         <source>Build on: %@</source>
@@ -385,11 +413,15 @@
     </message>
     <message>
         <source>Burnt into the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>In das Bild eingebrannt</translation>
     </message>
     <message>
         <source>CAF Audio (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>CAF-Audio (ALAC)</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Kamera %1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -397,19 +429,19 @@
     </message>
     <message>
         <source>Cancel the Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Probe abbrechen</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Abgebrochen: %1</translation>
     </message>
     <message>
         <source>Cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht verwendbar</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -421,19 +453,19 @@
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Kanäle</translation>
     </message>
     <message>
         <source>Chapter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapitel %1</translation>
     </message>
     <message>
         <source>Chapters are missing in the finished file.</source>
-        <translation type="unfinished"></translation>
+        <translation>In der fertigen Datei fehlen Kapitel.</translation>
     </message>
     <message>
         <source>Chapters, languages and the colours of subtitles, which MPEG-2 files cannot hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapitel, Sprachen und Farben der Untertitel, die MPEG-2-Dateien nicht enthalten können</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
@@ -445,19 +477,31 @@
     </message>
     <message>
         <source>Checking the copy…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kopie wird geprüft …</translation>
     </message>
     <message>
         <source>Checking the finished file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertige Datei wird geprüft …</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen</translation>
+    </message>
+    <message>
+        <source>Choose Films</source>
+        <translation>Filme wählen</translation>
     </message>
     <message>
         <source>Choose a Folder</source>
         <translation>Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Choose above what is recorded, then press Record.</source>
+        <translation>Wählen Sie oben, was aufgenommen wird, und klicken Sie auf „Aufnehmen“.</translation>
+    </message>
+    <message>
+        <source>Choose an Area</source>
+        <translation>Bereich wählen</translation>
     </message>
     <message>
         <source>Choose another one, or allow yourself to write to it: %1</source>
@@ -473,7 +517,7 @@
     </message>
     <message>
         <source>Clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Uhrzeigersinn</translation>
     </message>
     <message>
         <source>Close</source>
@@ -488,8 +532,12 @@
         <translation>Allgemein</translation>
     </message>
     <message>
+        <source>Computer and microphone</source>
+        <translation>Computer und Mikrofon</translation>
+    </message>
+    <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verbindung wird hergestellt …</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -497,7 +545,7 @@
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Kontrast</translation>
     </message>
     <message>
         <source>Convert</source>
@@ -513,11 +561,11 @@
     </message>
     <message>
         <source>Converting ten seconds: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Zehn Sekunden werden konvertiert: %1 %</translation>
     </message>
     <message>
         <source>Converting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird konvertiert …</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -537,15 +585,23 @@
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Ecke</translation>
+    </message>
+    <message>
+        <source>Count down from three</source>
+        <translation>Ab drei herunterzählen</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Countdown</translation>
     </message>
     <message>
         <source>Counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Gegen den Uhrzeigersinn</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Titelbild</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -553,43 +609,43 @@
     </message>
     <message>
         <source>Cut and Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneiden und bearbeiten</translation>
     </message>
     <message>
         <source>Cut and Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneiden und bearbeiten …</translation>
     </message>
     <message>
         <source>Cut exactly (encodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Genau schneiden (codiert neu)</translation>
     </message>
     <message>
         <source>Cut off bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Unten abschneiden</translation>
     </message>
     <message>
         <source>Cut off left</source>
-        <translation type="unfinished"></translation>
+        <translation>Links abschneiden</translation>
     </message>
     <message>
         <source>Cut off right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechts abschneiden</translation>
     </message>
     <message>
         <source>Cut off top</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben abschneiden</translation>
     </message>
     <message>
         <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Neucodierung geschnitten: Der Film beginnt mit dem letzten Schlüsselbild vor %1 s.</translation>
     </message>
     <message>
         <source>DTS</source>
-        <translation type="unfinished"></translation>
+        <translation>DTS</translation>
     </message>
     <message>
         <source>DV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>DV-Video</translation>
     </message>
     <message>
         <source>DVD</source>
@@ -597,7 +653,7 @@
     </message>
     <message>
         <source>DVD (720 × 576)</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD (720 × 576)</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -605,7 +661,7 @@
     </message>
     <message>
         <source>Data of the camera, such as time code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Daten der Kamera, zum Beispiel der Timecode.</translation>
     </message>
     <message>
         <source>Default</source>
@@ -613,11 +669,11 @@
     </message>
     <message>
         <source>Deinterlacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Deinterlacing</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Löschen</translation>
     </message>
     <message>
         <source>Details</source>
@@ -629,31 +685,31 @@
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Geräte</translation>
     </message>
     <message>
         <source>Disc Player (VOB)</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD-Player (VOB)</translation>
     </message>
     <message>
         <source>Disc folder with menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc-Ordner mit Menüs</translation>
     </message>
     <message>
         <source>Disc image (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc-Image (ISO)</translation>
     </message>
     <message>
         <source>Disc images</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc-Images</translation>
     </message>
     <message>
         <source>Dolby Digital</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolby Digital</translation>
     </message>
     <message>
         <source>Don't Shut Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht ausschalten</translation>
     </message>
     <message>
         <source>Done</source>
@@ -661,15 +717,15 @@
     </message>
     <message>
         <source>Done with problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig mit Problemen</translation>
     </message>
     <message>
         <source>Done with problems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig mit Problemen: %1</translation>
     </message>
     <message>
         <source>Done: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Fertig: %1</translation>
     </message>
     <message>
         <source>Download</source>
@@ -704,8 +760,12 @@
         <translation>Gleichzeitige Downloads</translation>
     </message>
     <message>
+        <source>Draw an area, then press Return</source>
+        <translation>Bereich aufziehen und die Eingabetaste drücken</translation>
+    </message>
+    <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Laufwerk</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -717,7 +777,7 @@
     </message>
     <message>
         <source>E-AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>E-AC-3-Audio</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -725,55 +785,55 @@
     </message>
     <message>
         <source>Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Bearbeitung</translation>
     </message>
     <message>
         <source>Encoding in software</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird in Software codiert</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird neu codiert, weil die Spuren nicht übernommen werden konnten</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Ende</translation>
     </message>
     <message>
         <source>End Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier enden</translation>
     </message>
     <message>
         <source>Even out the loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke angleichen</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportieren …</translation>
     </message>
     <message>
         <source>FLAC Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC-Audio</translation>
     </message>
     <message>
         <source>FLV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLV-Video (H.264, AAC)</translation>
     </message>
     <message>
         <source>Fade in</source>
-        <translation type="unfinished"></translation>
+        <translation>Einblenden</translation>
     </message>
     <message>
         <source>Fade out</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausblenden</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Fehlgeschlagen</translation>
     </message>
     <message>
         <source>Failed: %1</source>
@@ -781,27 +841,31 @@
     </message>
     <message>
         <source>Faster, larger file</source>
-        <translation type="unfinished"></translation>
+        <translation>Schneller, größere Datei</translation>
     </message>
     <message>
         <source>Fastest, largest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Am schnellsten, größte Datei</translation>
     </message>
     <message>
         <source>File size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateigröße höchstens</translation>
     </message>
     <message>
         <source>Files can be cut or joined, but not both at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dateien können geschnitten oder verbunden werden, aber nicht beides zugleich.</translation>
     </message>
     <message>
         <source>Film from television (24)</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielfilm aus dem Fernsehen (24)</translation>
+    </message>
+    <message>
+        <source>Films at this address</source>
+        <translation>Filme unter dieser Adresse</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtern</translation>
     </message>
     <message>
         <source>Find</source>
@@ -809,7 +873,7 @@
     </message>
     <message>
         <source>Find Black Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Schwarze Balken suchen</translation>
     </message>
     <message>
         <source>Find Next</source>
@@ -821,15 +885,15 @@
     </message>
     <message>
         <source>Finishing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird abgeschlossen …</translation>
     </message>
     <message>
         <source>First pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Erster Durchgang</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner</translation>
     </message>
     <message>
         <source>Follow</source>
@@ -837,19 +901,19 @@
     </message>
     <message>
         <source>For all files</source>
-        <translation type="unfinished"></translation>
+        <translation>Für alle Dateien</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Zum Beispiel: %1</translation>
     </message>
     <message>
         <source>For the DVD ripper, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für den DVD-Ripper, der noch in Arbeit ist.</translation>
     </message>
     <message>
         <source>For the downloader, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Für den Downloader, der noch in Arbeit ist.</translation>
     </message>
     <message>
         <source>Format</source>
@@ -857,11 +921,11 @@
     </message>
     <message>
         <source>Format and options in use are kept under this name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Format und verwendete Optionen werden unter diesem Namen gesichert:</translation>
     </message>
     <message>
         <source>Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formate</translation>
     </message>
     <message>
         <source>Found after going around the end of the log.</source>
@@ -869,23 +933,23 @@
     </message>
     <message>
         <source>Full HD (1920 × 1080)</source>
-        <translation type="unfinished"></translation>
+        <translation>Full HD (1920 × 1080)</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
-        <translation type="unfinished"></translation>
+        <translation>Weitere Bilder neben dem ersten (andere Blickwinkel oder Vorschauen).</translation>
     </message>
     <message>
         <source>GIF Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF-Animation</translation>
     </message>
     <message>
         <source>Game Console</source>
-        <translation type="unfinished"></translation>
+        <translation>Spielkonsole</translation>
     </message>
     <message>
         <source>Go On</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiter</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -905,7 +969,7 @@
     </message>
     <message>
         <source>HD (1280 × 720)</source>
-        <translation type="unfinished"></translation>
+        <translation>HD (1280 × 720)</translation>
     </message>
     <message>
         <source>HEVC decoders</source>
@@ -929,15 +993,15 @@
     </message>
     <message>
         <source>High dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoher Dynamikumfang</translation>
     </message>
     <message>
         <source>High dynamic range becomes standard range.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hoher Dynamikumfang wird zu Standardumfang.</translation>
     </message>
     <message>
         <source>High quality (slower)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hohe Qualität (langsamer)</translation>
     </message>
     <message>
         <source>Highest Resolution</source>
@@ -945,15 +1009,15 @@
     </message>
     <message>
         <source>How the disc is kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Wie die Disc behalten wird</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importieren …</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -961,91 +1025,67 @@
     </message>
     <message>
         <source>Interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Unterbrochen</translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
         <translation>Es wird hier angezeigt, sobald es geschrieben wird: %1</translation>
     </message>
     <message>
-        <source>It will fetch several at a time, in the resolution that you prefer.</source>
-        <translation>Mehrere lassen sich künftig gleichzeitig in der gewünschten Auflösung laden.</translation>
-    </message>
-    <message>
-        <source>It will go through your proxy where you have one.</source>
-        <translation>Ein vorhandener Proxy wird künftig berücksichtigt.</translation>
-    </message>
-    <message>
-        <source>It will record the sound of the computer and of a microphone.</source>
-        <translation>Der Ton des Computers und eines Mikrofons lässt sich künftig aufnehmen.</translation>
-    </message>
-    <message>
-        <source>It will record the whole screen, a window or a part of it.</source>
-        <translation>Der ganze Bildschirm, ein Fenster oder ein Teil davon lässt sich künftig aufnehmen.</translation>
-    </message>
-    <message>
-        <source>It will save videos and music from addresses that you paste.</source>
-        <translation>Videos und Musik lassen sich künftig über eingesetzte Adressen sichern.</translation>
-    </message>
-    <message>
-        <source>It will show mouse clicks where you want them seen.</source>
-        <translation>Mausklicks lassen sich künftig bei Bedarf anzeigen.</translation>
-    </message>
-    <message>
         <source>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Titel bleiben, wie sie sind, oder werden je nach Wahl MP4, MKV oder MP3.</translation>
     </message>
     <message>
         <source>Jobs are running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aufträge werden ausgeführt.</translation>
     </message>
     <message>
         <source>Jobs are still running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es werden noch Aufträge ausgeführt.</translation>
     </message>
     <message>
         <source>Join all files into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Alle Dateien zu einer verbinden</translation>
     </message>
     <message>
         <source>Join into One</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu einer verbinden</translation>
     </message>
     <message>
         <source>Joining</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird verbunden</translation>
     </message>
     <message>
         <source>Keep Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Weiterlaufen lassen</translation>
     </message>
     <message>
         <source>Keep the Rest Instead</source>
-        <translation type="unfinished"></translation>
+        <translation>Den Rest behalten</translation>
     </message>
     <message>
         <source>Keep the date of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Datum der Quelle übernehmen</translation>
     </message>
     <message>
         <source>Keep tracks that fit as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Passende Spuren unverändert übernehmen</translation>
     </message>
     <message>
         <source>Kept as a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Spur behalten</translation>
     </message>
     <message>
         <source>Kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Gilt bis zum Beenden</translation>
     </message>
     <message>
         <source>Kept where it can be</source>
-        <translation type="unfinished"></translation>
+        <translation>Behalten, wo möglich</translation>
     </message>
     <message>
         <source>Kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Behalten: %1</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -1061,11 +1101,11 @@
     </message>
     <message>
         <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel kennt die Länge dieser Datei nicht und kann keine Größe anstreben.</translation>
     </message>
     <message>
         <source>Kestrel does not know the kind of file “%1” of this preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel kennt die Dateiart „%1“ dieser Voreinstellung nicht.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1077,15 +1117,15 @@
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Weggelassen</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Weggelassen: %1</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Länge</translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -1105,19 +1145,19 @@
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>M4A-Audio (AAC)</translation>
     </message>
     <message>
         <source>M4A Audio, Lossless (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>M4A-Audio, verlustfrei (ALAC)</translation>
     </message>
     <message>
         <source>MKA Audio (Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKA-Audio (Opus)</translation>
     </message>
     <message>
         <source>MKV Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV-Video (AV1, Opus)</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
@@ -1125,31 +1165,31 @@
     </message>
     <message>
         <source>MKV Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV-Video (H.265, AAC)</translation>
     </message>
     <message>
         <source>MKV Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV-Video (VP9, Opus)</translation>
     </message>
     <message>
         <source>MKV Video, High Quality (H.265, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV-Video, hohe Qualität (H.265, FLAC)</translation>
     </message>
     <message>
         <source>MKV Video, Lossless (FFV1, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV-Video, verlustfrei (FFV1, FLAC)</translation>
     </message>
     <message>
         <source>MOV Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV-Video (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MOV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV-Video (H.264, AAC)</translation>
     </message>
     <message>
         <source>MOV Video (ProRes, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV-Video (ProRes, PCM)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
@@ -1157,7 +1197,7 @@
     </message>
     <message>
         <source>MP4 Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4-Video (AV1, Opus)</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
@@ -1165,27 +1205,27 @@
     </message>
     <message>
         <source>MP4 Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4-Video (H.265, AAC)</translation>
     </message>
     <message>
         <source>MP4 Video for Web Pages (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4-Video für Webseiten (1080p)</translation>
     </message>
     <message>
         <source>MPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG</translation>
     </message>
     <message>
         <source>MPEG Video (MPEG-2, MP2)</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG-Video (MPEG-2, MP2)</translation>
     </message>
     <message>
         <source>MXF Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MXF-Video (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MXF Video (MPEG-2, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MXF-Video (MPEG-2, PCM)</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1197,11 +1237,15 @@
     </message>
     <message>
         <source>Messages of the tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Meldungen der Werkzeuge</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Mikrofon</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Mitte</translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -1209,11 +1253,11 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Spiegeln</translation>
     </message>
     <message>
         <source>Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Mono</translation>
     </message>
     <message>
         <source>Music folder</source>
@@ -1221,7 +1265,7 @@
     </message>
     <message>
         <source>My Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Meine Voreinstellungen</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1229,19 +1273,19 @@
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name der Voreinstellung:</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nie</translation>
     </message>
     <message>
         <source>No camera was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde keine Kamera gefunden.</translation>
     </message>
     <message>
         <source>No format matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Format entspricht der Suche.</translation>
     </message>
     <message>
         <source>No log was named</source>
@@ -1249,19 +1293,27 @@
     </message>
     <message>
         <source>No picture of the copy could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild der Kopie konnte decodiert werden.</translation>
     </message>
     <message>
         <source>No picture of this film could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kein Bild dieses Films konnte decodiert werden.</translation>
     </message>
     <message>
         <source>No server answers at this address. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter dieser Adresse antwortet kein Server. Prüfen Sie sie, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>Kein Ton</translation>
+    </message>
+    <message>
+        <source>No speed limit</source>
+        <translation>Kein Tempolimit</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Keines</translation>
     </message>
     <message>
         <source>Not chosen yet</source>
@@ -1269,19 +1321,19 @@
     </message>
     <message>
         <source>Not turned</source>
-        <translation type="unfinished"></translation>
+        <translation>Nicht gedreht</translation>
     </message>
     <message>
         <source>Not used yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht verwendet</translation>
     </message>
     <message>
         <source>Not used yet, kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Noch nicht verwendet, gilt bis zum Beenden</translation>
     </message>
     <message>
         <source>Nothing could be decoded at %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bei %1 s konnte nichts decodiert werden.</translation>
     </message>
     <message>
         <source>Nothing found.</source>
@@ -1289,31 +1341,31 @@
     </message>
     <message>
         <source>Nothing of the file could be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts aus der Datei konnte konvertiert werden.</translation>
     </message>
     <message>
         <source>Nothing of the film could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nichts vom Film war lesbar.</translation>
     </message>
     <message>
         <source>Nothing of the recording is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von der Aufnahme ist nichts übrig.</translation>
     </message>
     <message>
         <source>Nothing of this file would be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Von dieser Datei würde nichts behalten.</translation>
     </message>
     <message>
         <source>Nothing was recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es wurde nichts aufgenommen.</translation>
     </message>
     <message>
         <source>OGG Audio (Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>OGG-Audio (Vorbis)</translation>
     </message>
     <message>
         <source>OGV Video (Theora, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>OGV-Video (Theora, Vorbis)</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1325,27 +1377,27 @@
     </message>
     <message>
         <source>Old Phone (3GP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Älteres Telefon (3GP)</translation>
     </message>
     <message>
         <source>One title as a disc folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ein Titel als Disc-Ordner</translation>
     </message>
     <message>
         <source>Only %1 of %2 s have come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur %1 von %2 s sind angekommen.</translation>
     </message>
     <message>
         <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur Dateien, die alle ein Bild oder alle Ton haben, können verbunden werden.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur eine Untertitelspur kann eingebrannt werden; eine weitere entfällt.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Deckkraft</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1353,11 +1405,11 @@
     </message>
     <message>
         <source>Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner öffnen …</translation>
     </message>
     <message>
         <source>Open Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Image öffnen …</translation>
     </message>
     <message>
         <source>Open the log with “App Log” in the Help menu of %1.</source>
@@ -1373,35 +1425,35 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionen</translation>
     </message>
     <message>
         <source>Opus Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Opus-Audio</translation>
     </message>
     <message>
         <source>Original Sound, in an MKA File</source>
-        <translation type="unfinished"></translation>
+        <translation>Originalton in einer MKA-Datei</translation>
     </message>
     <message>
         <source>Original, in a MOV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original in einer MOV-Datei</translation>
     </message>
     <message>
         <source>Original, in a TS File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original in einer TS-Datei</translation>
     </message>
     <message>
         <source>Original, in an MKV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original in einer MKV-Datei</translation>
     </message>
     <message>
         <source>Original, in an MP4 File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original in einer MP4-Datei</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Ausgabe</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -1413,79 +1465,87 @@
     </message>
     <message>
         <source>PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>PCM</translation>
     </message>
     <message>
         <source>Page of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Optionenseite</translation>
+    </message>
+    <message>
+        <source>Part of the screen…</source>
+        <translation>Teil des Bildschirms …</translation>
     </message>
     <message>
         <source>Parts of the finished file are missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Teile der fertigen Datei fehlen.</translation>
     </message>
     <message>
         <source>Paste</source>
         <translation>Einsetzen</translation>
     </message>
     <message>
+        <source>Paste or drop addresses here</source>
+        <translation>Adressen hier einsetzen oder ablegen</translation>
+    </message>
+    <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Angehalten</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefon</translation>
     </message>
     <message>
         <source>Phone (H.265)</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefon (H.265)</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild</translation>
     </message>
     <message>
         <source>Picture, all sound, subtitles in their colours and chapters of the chosen titles, nothing encoded again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild, alle Tonspuren, farbige Untertitel und Kapitel der gewählten Titel, nichts neu codiert.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder</translation>
     </message>
     <message>
         <source>Pictures a second</source>
-        <translation type="unfinished"></translation>
+        <translation>Bilder pro Sekunde</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt %1 von %2</translation>
     </message>
     <message>
         <source>Pieces that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitte, die behalten werden</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspielen</translation>
     </message>
     <message>
         <source>Play Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle abspielen</translation>
     </message>
     <message>
         <source>Playing speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Abspieltempo</translation>
     </message>
     <message>
         <source>Plays Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft überall</translation>
     </message>
     <message>
         <source>Please check that the disk has room and that this folder can be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitte prüfen Sie, ob auf dem Datenträger Platz ist und in diesen Ordner geschrieben werden kann: %1</translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -1505,7 +1565,7 @@
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Preferences…</source>
@@ -1517,7 +1577,7 @@
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Voreinstellungen</translation>
     </message>
     <message>
         <source>Problem detected in last conversion.</source>
@@ -1529,7 +1589,7 @@
     </message>
     <message>
         <source>Processor cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Prozessorkerne</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1545,15 +1605,15 @@
     </message>
     <message>
         <source>Put a DVD in, or drop a disc image or folder here</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD einlegen oder Disc-Image oder Ordner hier ablegen</translation>
     </message>
     <message>
         <source>Putting picture and sound together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Bild und Ton werden zusammengefügt …</translation>
     </message>
     <message>
         <source>Quality (lower is better)</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualität (niedriger ist besser)</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -1561,11 +1621,11 @@
     </message>
     <message>
         <source>Reading the disc…</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc wird gelesen …</translation>
     </message>
     <message>
         <source>Reading the disc… A drive may take half a minute for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc wird gelesen … Ein Laufwerk kann dafür eine halbe Minute brauchen.</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
@@ -1573,7 +1633,7 @@
     </message>
     <message>
         <source>Reading the file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Datei wird gelesen …</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -1582,6 +1642,10 @@
     <message>
         <source>Ready</source>
         <translation>Bereit</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Aufnehmen</translation>
     </message>
     <message>
         <source>Record Video</source>
@@ -1596,8 +1660,16 @@
         <translation>Recorder</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Recording begins in %1 s. Press Record to begin at once.</source>
+        <translation>Die Aufnahme beginnt in %1 s. Klicken Sie auf „Aufnehmen“, um sofort zu beginnen.</translation>
+    </message>
+    <message>
         <source>Recovered after an interruption.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nach einer Unterbrechung wiederhergestellt.</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -1613,19 +1685,23 @@
     </message>
     <message>
         <source>Remove Piece</source>
-        <translation type="unfinished"></translation>
+        <translation>Abschnitt entfernen</translation>
+    </message>
+    <message>
+        <source>Remove With Partial File</source>
+        <translation>Mit Teildatei entfernen</translation>
     </message>
     <message>
         <source>Removes what is done from the list. The files stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Entfernt Fertiges aus der Liste. Die Dateien bleiben.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Umbenennen …</translation>
     </message>
     <message>
         <source>Report Bug</source>
@@ -1641,19 +1717,19 @@
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Ergebnis</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Läuft</translation>
     </message>
     <message>
         <source>Safe mode: check the whole result</source>
-        <translation type="unfinished"></translation>
+        <translation>Sicherer Modus: das ganze Ergebnis prüfen</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Sättigung</translation>
     </message>
     <message>
         <source>Save a Copy</source>
@@ -1665,23 +1741,27 @@
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Voreinstellung sichern</translation>
     </message>
     <message>
         <source>Save as Preset…</source>
-        <translation type="unfinished"></translation>
+        <translation>Als Voreinstellung sichern …</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Gesichert: %1</translation>
     </message>
     <message>
         <source>Saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gesichert …</translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
         <translation>Wird gesichert … %1 % (Esc stoppt)</translation>
+    </message>
+    <message>
+        <source>Screen %1 (%2 × %3)</source>
+        <translation>Bildschirm %1 (%2 × %3)</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
@@ -1701,11 +1781,11 @@
     </message>
     <message>
         <source>Search formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formate durchsuchen</translation>
     </message>
     <message>
         <source>Search: MKV, AV1, FLAC …</source>
-        <translation type="unfinished"></translation>
+        <translation>Suchen: MKV, AV1, FLAC …</translation>
     </message>
     <message>
         <source>Searching… %1 % (Esc stops)</source>
@@ -1713,7 +1793,7 @@
     </message>
     <message>
         <source>Second pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Zweiter Durchgang</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1721,7 +1801,7 @@
     </message>
     <message>
         <source>Select one file in the list to choose among its tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Wählen Sie eine Datei in der Liste aus, um deren Spuren zu wählen.</translation>
     </message>
     <message>
         <source>Send Feedback</source>
@@ -1737,11 +1817,11 @@
     </message>
     <message>
         <source>Several formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Mehrere Formate</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeigen</translation>
     </message>
     <message>
         <source>Show File</source>
@@ -1749,7 +1829,7 @@
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Im Ordner zeigen</translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -1765,35 +1845,35 @@
     </message>
     <message>
         <source>Size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe höchstens</translation>
     </message>
     <message>
         <source>Size: about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Größe: etwa %1</translation>
     </message>
     <message>
         <source>Slower, smaller file</source>
-        <translation type="unfinished"></translation>
+        <translation>Langsamer, kleinere Datei</translation>
     </message>
     <message>
         <source>Slowest, smallest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Am langsamsten, kleinste Datei</translation>
     </message>
     <message>
         <source>Small (640 × 480)</source>
-        <translation type="unfinished"></translation>
+        <translation>Klein (640 × 480)</translation>
     </message>
     <message>
         <source>Small Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleine Dateien</translation>
     </message>
     <message>
         <source>Small MP4 Video (720p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Kleines MP4-Video (720p)</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Standbild</translation>
     </message>
     <message>
         <source>Snapshot folder</source>
@@ -1801,43 +1881,55 @@
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton</translation>
+    </message>
+    <message>
+        <source>Sound level</source>
+        <translation>Tonpegel</translation>
+    </message>
+    <message>
+        <source>Sound of the computer</source>
+        <translation>Ton des Computers</translation>
     </message>
     <message>
         <source>Sound only, unchanged (MKA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Nur der Ton, unverändert (MKA)</translation>
     </message>
     <message>
         <source>Sound track %1, which this film does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Tonspur %1, die dieser Film nicht hat</translation>
     </message>
     <message>
         <source>Sound: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton: %1</translation>
     </message>
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton: %1. %2 kann nur eine Tonspur enthalten.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle</translation>
     </message>
     <message>
         <source>Source (drag to crop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Quelle (zum Zuschneiden ziehen)</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Tempo</translation>
+    </message>
+    <message>
+        <source>Speed limit of each download</source>
+        <translation>Tempolimit je Download</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Start Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Hier beginnen</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1849,19 +1941,31 @@
     </message>
     <message>
         <source>Steady quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Gleichbleibende Qualität</translation>
     </message>
     <message>
         <source>Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stoppen</translation>
+    </message>
+    <message>
+        <source>Stop after</source>
+        <translation>Stoppen nach</translation>
+    </message>
+    <message>
+        <source>Stop after %1 min</source>
+        <translation>Nach %1 min stoppen</translation>
     </message>
     <message>
         <source>Stop and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppen und beenden</translation>
     </message>
     <message>
         <source>Stop and Restart</source>
-        <translation type="unfinished"></translation>
+        <translation>Stoppen und neu starten</translation>
     </message>
     <message>
         <source>Stopped.</source>
@@ -1869,27 +1973,27 @@
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird gestoppt …</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel</translation>
     </message>
     <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel als Bilder: %1. %2 kann sie nicht enthalten; brennen Sie sie ein, oder wählen Sie MKV.</translation>
     </message>
     <message>
         <source>Subtitles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel: %1</translation>
     </message>
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel: %1. %2 kann sie nicht enthalten.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Untertitel: %1. Sie können den geänderten Zeiten nicht folgen; brennen Sie sie ein, um sie zu behalten.</translation>
     </message>
     <message>
         <source>Suggestions</source>
@@ -1897,27 +2001,27 @@
     </message>
     <message>
         <source>Surround 5.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Surround 5.1</translation>
     </message>
     <message>
         <source>TS Video (H.264, AC-3)</source>
-        <translation type="unfinished"></translation>
+        <translation>TS-Video (H.264, AC-3)</translation>
     </message>
     <message>
         <source>TV (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fernseher (1080p)</translation>
     </message>
     <message>
         <source>TV (4K, HDR)</source>
-        <translation type="unfinished"></translation>
+        <translation>Fernseher (4K, HDR)</translation>
     </message>
     <message>
         <source>Tablet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablet</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>That is the log itself. Choose another name.</source>
@@ -1925,31 +2029,35 @@
     </message>
     <message>
         <source>The area to be recorded is outside the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der aufzunehmende Bereich liegt außerhalb des Bildschirms.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die angehängte Datei %1. %2 kann sie nicht enthalten.</translation>
     </message>
     <message>
         <source>The broadcast has not begun yet. Try again when it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Übertragung hat noch nicht begonnen. Versuchen Sie es danach erneut.</translation>
+    </message>
+    <message>
+        <source>The camera's picture is not shown before it is recorded.</source>
+        <translation>Das Bild der Kamera wird vor der Aufnahme nicht gezeigt.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kapitel. %1 kann sie nicht enthalten.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die gewählten Titel werden Dateien des nebenstehenden Formats, so klein wie gewünscht.</translation>
     </message>
     <message>
         <source>The computer will shut down in %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Computer wird in %1 Sekunden ausgeschaltet.</translation>
     </message>
     <message>
         <source>The conversion was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Konvertierung wurde vor dem Ende gestoppt.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -1965,7 +2073,7 @@
     </message>
     <message>
         <source>The converter did not answer any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Konverter hat nicht mehr geantwortet.</translation>
     </message>
     <message>
         <source>The converter is missing. Please install the application again.</source>
@@ -1973,7 +2081,7 @@
     </message>
     <message>
         <source>The copy could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The copy could not be saved: %1</source>
@@ -1981,11 +2089,11 @@
     </message>
     <message>
         <source>The copy has %1 titles instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Kopie hat %1 Titel statt %2.</translation>
     </message>
     <message>
         <source>The copy was broken off. It goes on where it is when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Kopieren wurde abgebrochen. Beim nächsten Start geht es an dieser Stelle weiter.</translation>
     </message>
     <message>
         <source>The copy was saved.</source>
@@ -1993,39 +2101,39 @@
     </message>
     <message>
         <source>The cover picture. %1 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Titelbild. %1 kann es nicht enthalten.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Titelbild. Es geht verloren, wenn Dateien so verbunden werden.</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Disc konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The disc did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Disc hat nicht rechtzeitig geantwortet.</translation>
     </message>
     <message>
         <source>The disc has no such title, chapter or angle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Disc hat keinen solchen Titel, kein solches Kapitel oder keinen solchen Blickwinkel.</translation>
     </message>
     <message>
         <source>The disc image ends before its film does.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Image der Disc endet vor dem Film.</translation>
     </message>
     <message>
         <source>The disc is damaged: what it holds could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Disc ist beschädigt: Ihr Inhalt konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The disc may not be read by this user.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Benutzer darf die Disc nicht lesen.</translation>
     </message>
     <message>
         <source>The disc tools could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Werkzeuge für Discs konnten nicht gestartet werden. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -2033,7 +2141,7 @@
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Datenträger ist zu voll, um die Aufnahme abzuschließen: Sie bleibt eine Matroska-Datei.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
@@ -2041,31 +2149,31 @@
     </message>
     <message>
         <source>The display %1 could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildschirm %1 konnte nicht geöffnet werden.</translation>
     </message>
     <message>
         <source>The download engine does not work. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Download-Engine funktioniert nicht. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Download-Engine fehlt. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Download ist fehlgeschlagen. Die Details zeigen, was die Engine gemeldet hat.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Encoder für %1 ist nicht installiert.</translation>
     </message>
     <message>
         <source>The file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Datei konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -2085,47 +2193,47 @@
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist kopiergeschützt und wird nicht geladen.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist nicht mehr vorhanden. Suchen Sie ihn unter einer anderen Adresse.</translation>
     </message>
     <message>
         <source>The film is not there in the form that was wanted. Choose another resolution or format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist nicht in der gewünschten Form vorhanden. Wählen Sie eine andere Auflösung oder ein anderes Format.</translation>
     </message>
     <message>
         <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film ist privat oder nur für Mitglieder und kann deshalb nicht geladen werden.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Film der gewählten Titel, wie er auf der Disc steht; ohne Kapitel und Sprachbezeichnungen.</translation>
     </message>
     <message>
         <source>The finished file could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die fertige Datei konnte nicht gelesen werden.</translation>
     </message>
     <message>
         <source>The finished file has %1 bytes instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die fertige Datei hat %1 Byte statt %2.</translation>
     </message>
     <message>
         <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die fertige Datei enthält andere Spuren als gewünscht: %1 statt %2.</translation>
     </message>
     <message>
         <source>The finished file is %1 s long instead of %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die fertige Datei ist %1 s lang statt %2 s.</translation>
     </message>
     <message>
         <source>The finished file is damaged: %1 faults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die fertige Datei ist beschädigt: %1 Fehler.</translation>
     </message>
     <message>
         <source>The finished file is larger than wanted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die fertige Datei ist größer als gewünscht.</translation>
     </message>
     <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
@@ -2137,7 +2245,11 @@
     </message>
     <message>
         <source>The folder for temporary files cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>In den Ordner für temporäre Dateien kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation>In den letzten %1 s fehlt der Ton: Der Tondienst war nicht mehr da.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -2149,15 +2261,15 @@
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Optionen dieses Auftrags konnten nicht gelesen werden. Fügen Sie die Adresse erneut hinzu.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Optionen dieses Auftrags konnten nicht gelesen werden. Fügen Sie die Datei erneut hinzu.</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Ausgabe konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -2169,51 +2281,51 @@
     </message>
     <message>
         <source>The picture has to be encoded (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild muss codiert werden (%1).</translation>
     </message>
     <message>
         <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild wird auf %1 × %2 verkleinert, damit es in die Größe passt.</translation>
     </message>
     <message>
         <source>The picture is missing: the site handed out the sound alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild fehlt: Die Website hat nur den Ton ausgegeben.</translation>
     </message>
     <message>
         <source>The picture of the finished file does not stand upright.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Bild der fertigen Datei steht nicht aufrecht.</translation>
     </message>
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Abschnitte, die behalten werden sollen, liegen hinter dem Ende der Datei.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Player fehlt. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing. Please install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Programm dvdauthor fehlt. Bitte installieren Sie es.</translation>
     </message>
     <message>
         <source>The proxy refuses the connection. Check its address in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Proxy lehnt die Verbindung ab. Prüfen Sie seine Adresse in den Einstellungen.</translation>
     </message>
     <message>
         <source>The recording could not be finished: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme konnte nicht abgeschlossen werden: Sie bleibt eine Matroska-Datei.</translation>
     </message>
     <message>
         <source>The recording ended because the disk is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme wurde beendet, weil der Datenträger fast voll ist.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Aufnahme wurde unterbrochen.</translation>
     </message>
     <message>
         <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Bildschirm einer Wayland-Sitzung kann nicht aufgenommen werden. Melden Sie sich dafür in einer X11-Sitzung (Xorg) an.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2221,67 +2333,67 @@
     </message>
     <message>
         <source>The server broke off or could not answer. What has come is kept; try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat abgebrochen oder konnte nicht antworten. Was angekommen ist, bleibt erhalten; versuchen Sie es später erneut.</translation>
     </message>
     <message>
         <source>The server broke off, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat abgebrochen, nächster Versuch in %1 s</translation>
     </message>
     <message>
         <source>The server has sent only part of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server hat nur einen Teil des Films gesendet.</translation>
     </message>
     <message>
         <source>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server gibt den Film nicht heraus. Versuchen Sie es später erneut, oder öffnen Sie die Seite in einem Browser, um den Grund zu sehen.</translation>
     </message>
     <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Server nimmt im Moment keine weiteren Anfragen an. Versuchen Sie es nach einer Weile erneut.</translation>
     </message>
     <message>
         <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Zertifikat des Servers ist ungültig; möglicherweise gibt er sich für einen anderen aus. Es wurde nichts geladen.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Ordner aus den Einstellungen</translation>
     </message>
     <message>
         <source>The site does not show this film in your country. A proxy of another country can be set in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Website zeigt diesen Film in Ihrem Land nicht. In den Einstellungen können Sie einen Proxy eines anderen Landes angeben.</translation>
     </message>
     <message>
         <source>The site has changed and the download engine does not know it any more. Update the engine and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Website hat sich geändert, und die Download-Engine kennt sie nicht mehr. Aktualisieren Sie die Engine, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Website zeigt diesen Film nur angemeldeten Benutzern, und Kestrel meldet sich nicht an.</translation>
     </message>
     <message>
         <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Website will zuerst das Alter des Zuschauers wissen, das sie nur durch eine Anmeldung erfährt.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Standbild konnte nicht geschrieben werden.</translation>
     </message>
     <message>
         <source>The sound could not be recorded. Is the sound server running?</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton konnte nicht aufgenommen werden. Läuft der Tonserver?</translation>
     </message>
     <message>
         <source>The sound is missing since the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton fehlt, seit der Tonserver nicht mehr läuft.</translation>
     </message>
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton fehlt: Die Website hat nur das Bild ausgegeben.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Ton. %1 kann nur Bilder enthalten.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -2301,47 +2413,47 @@
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die ganze Disc, Sektor für Sektor, in einer Datei, die sich wie die Disc abspielen lässt.</translation>
     </message>
     <message>
         <source>The whole film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der ganze Film wird behalten.</translation>
     </message>
     <message>
         <source>The window is too small to be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Das Fenster ist zu klein für eine Aufnahme.</translation>
     </message>
     <message>
         <source>There are no black bars.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keine schwarzen Balken.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter dieser Adresse gibt es mehrere Filme. Fügen Sie sie erneut hinzu, um daraus zu wählen.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt zu viele Voreinstellungen. Löschen Sie zuerst einige.</translation>
     </message>
     <message>
         <source>There is no connection to the network. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es besteht keine Netzwerkverbindung. Prüfen Sie sie, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>There is no disc. Put it in, or choose an image or a folder, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist keine Disc da. Legen Sie sie ein, oder wählen Sie ein Image oder einen Ordner, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>There is no display whose picture could be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Bildschirm, dessen Bild aufgenommen werden könnte.</translation>
     </message>
     <message>
         <source>There is no film at this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter dieser Adresse gibt es keinen Film.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unter dieser Adresse gibt es keinen Film. Suchen Sie die Seite, die ihn abspielt.</translation>
     </message>
     <message>
         <source>There is no log yet</source>
@@ -2349,11 +2461,11 @@
     </message>
     <message>
         <source>There is no picture at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>An dieser Stelle gibt es kein Bild.</translation>
     </message>
     <message>
         <source>There is no screen "%1". There is: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt keinen Bildschirm „%1“. Vorhanden: %2.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -2361,7 +2473,7 @@
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and try again; what has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Datenträger ist kein Platz mehr. Schaffen Sie Platz, und versuchen Sie es erneut; was angekommen ist, bleibt erhalten.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -2369,11 +2481,11 @@
     </message>
     <message>
         <source>There is no video or sound file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Darin ist keine Video- oder Tondatei.</translation>
     </message>
     <message>
         <source>There is no window %1 to be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es ist kein Fenster %1 zu sehen.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
@@ -2381,19 +2493,19 @@
     </message>
     <message>
         <source>There is not enough memory to read this disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Speicher reicht nicht aus, um diese Disc zu lesen.</translation>
     </message>
     <message>
         <source>There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Der Platz reicht nicht aus: %1 werden gebraucht, %2 sind frei. Schaffen Sie Platz, oder wählen Sie in den Einstellungen einen anderen Ordner.</translation>
     </message>
     <message>
         <source>There is nothing to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Es gibt nichts zu konvertieren.</translation>
     </message>
     <message>
         <source>There is too little space on the disk to record.</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf dem Datenträger ist zu wenig Platz für eine Aufnahme.</translation>
     </message>
     <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
@@ -2401,11 +2513,11 @@
     </message>
     <message>
         <source>This address is of no site that Kestrel knows. Check it, or look for the page that plays the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Adresse gehört zu keiner Website, die Kestrel kennt. Prüfen Sie sie, oder suchen Sie die Seite, die den Film abspielt.</translation>
     </message>
     <message>
         <source>This choice is kept until you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Auswahl gilt, bis Sie das Programm beenden.</translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -2413,11 +2525,11 @@
     </message>
     <message>
         <source>This disc is being copied to this folder already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Disc wird bereits in diesen Ordner kopiert.</translation>
     </message>
     <message>
         <source>This disc is copy-protected and cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Disc ist kopiergeschützt und kann nicht gelesen werden.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
@@ -2425,11 +2537,11 @@
     </message>
     <message>
         <source>This file has neither picture nor sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei enthält weder Bild noch Ton zum Konvertieren.</translation>
     </message>
     <message>
         <source>This file has no picture to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei enthält kein Bild zum Konvertieren.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -2437,7 +2549,7 @@
     </message>
     <message>
         <source>This file holds no presets of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Datei enthält keine Voreinstellungen von Kestrel.</translation>
     </message>
     <message>
         <source>This file is damaged, or it holds neither video nor sound.</source>
@@ -2445,7 +2557,7 @@
     </message>
     <message>
         <source>This film has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Film hat keinen Ton.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
@@ -2453,11 +2565,15 @@
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist eine andere Disc: %1 statt %2.</translation>
+    </message>
+    <message>
+        <source>This is no address that can be downloaded from.</source>
+        <translation>Von dieser Adresse kann nichts geladen werden.</translation>
     </message>
     <message>
         <source>This is no preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist keine Voreinstellung.</translation>
     </message>
     <message>
         <source>This is no text file</source>
@@ -2465,71 +2581,67 @@
     </message>
     <message>
         <source>This is no video DVD: there is no VIDEO_TS on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dies ist keine Video-DVD: Sie enthält kein VIDEO_TS.</translation>
     </message>
     <message>
         <source>This is no video or sound file.</source>
         <translation>Dies ist keine Video- oder Tondatei.</translation>
     </message>
     <message>
-        <source>This part is still being made and comes with an update.</source>
-        <translation>Dieser Teil ist noch in Arbeit und kommt mit einem Update.</translation>
-    </message>
-    <message>
         <source>This preset has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Voreinstellung hat keinen Namen.</translation>
     </message>
     <message>
         <source>This preset keeps neither picture nor sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Voreinstellung behält weder Bild noch Ton.</translation>
     </message>
     <message>
         <source>This preset was made by a newer version of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Diese Voreinstellung stammt aus einer neueren Version von Kestrel.</translation>
     </message>
     <message>
         <source>This title has no sound to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dieser Titel enthält keinen Ton, der behalten werden könnte.</translation>
     </message>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Zeitleiste</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel</translation>
     </message>
     <message>
         <source>Title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel %1</translation>
     </message>
     <message>
         <source>Title %1 of the copy has %2 chapters instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel %1 der Kopie hat %2 Kapitel statt %3.</translation>
     </message>
     <message>
         <source>Title %1 of the copy has other tracks than the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel %1 der Kopie hat andere Spuren als die Disc.</translation>
     </message>
     <message>
         <source>Title %1 of the copy is %2 s long instead of %3 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel %1 der Kopie ist %2 s lang statt %3 s.</translation>
     </message>
     <message>
         <source>Title %1, the main film</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel %1, der Hauptfilm</translation>
     </message>
     <message>
         <source>Titles as MPEG-2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel als MPEG-2-Dateien</translation>
     </message>
     <message>
         <source>Titles of the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel der Disc</translation>
     </message>
     <message>
         <source>Titles, unchanged (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Titel, unverändert (MKV)</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2537,19 +2649,19 @@
     </message>
     <message>
         <source>Too many requests: the server is asked again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Zu viele Anfragen: Der Server wird in %1 s erneut gefragt</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben links</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Oben rechts</translation>
     </message>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Spur %1</translation>
     </message>
     <message>
         <source>Transcoder</source>
@@ -2557,19 +2669,19 @@
     </message>
     <message>
         <source>Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Probe</translation>
     </message>
     <message>
         <source>Try 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>10 Sekunden testen</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Drehen</translation>
     </message>
     <message>
         <source>Turned into standard</source>
-        <translation type="unfinished"></translation>
+        <translation>In Standardumfang umgewandelt</translation>
     </message>
     <message>
         <source>Unable to connect to update server.</source>
@@ -2581,19 +2693,23 @@
     </message>
     <message>
         <source>Unknown language</source>
-        <translation type="unfinished"></translation>
+        <translation>Unbekannte Sprache</translation>
     </message>
     <message>
         <source>Unlimited</source>
         <translation>Unbegrenzt</translation>
     </message>
     <message>
+        <source>Until it is stopped</source>
+        <translation>Bis zum Stoppen</translation>
+    </message>
+    <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Ohne Titel</translation>
     </message>
     <message>
         <source>Upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Auf den Kopf gestellt</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2601,11 +2717,11 @@
     </message>
     <message>
         <source>Use the graphics hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Grafikhardware verwenden</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Üblich</translation>
     </message>
     <message>
         <source>Version: %@</source>
@@ -2613,7 +2729,7 @@
     </message>
     <message>
         <source>Very Small MP4 Video (480p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sehr kleines MP4-Video (480p)</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2629,11 +2745,11 @@
     </message>
     <message>
         <source>Video or sound file</source>
-        <translation type="unfinished"></translation>
+        <translation>Video- oder Tondatei</translation>
     </message>
     <message>
-        <source>Videos from the web, on your disk</source>
-        <translation>Videos aus dem Web auf Ihrer Festplatte</translation>
+        <source>Videos and music from the web are saved in the form that you choose.</source>
+        <translation>Videos und Musik aus dem Web werden in der gewählten Form gesichert.</translation>
     </message>
     <message>
         <source>Visit our website:</source>
@@ -2645,19 +2761,19 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Lautstärke</translation>
     </message>
     <message>
         <source>WAV Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV-Audio</translation>
     </message>
     <message>
         <source>WMA Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WMA-Audio</translation>
     </message>
     <message>
         <source>WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>WMV-Video</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -2665,39 +2781,39 @@
     </message>
     <message>
         <source>Waiting for a network connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet auf eine Netzwerkverbindung</translation>
     </message>
     <message>
         <source>Waiting for space on the disk: %1 needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet auf Platz auf dem Datenträger: %1 nötig</translation>
     </message>
     <message>
         <source>Waiting for the network, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet auf das Netzwerk, nächster Versuch in %1 s</translation>
     </message>
     <message>
         <source>Waiting for the server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet auf den Server …</translation>
     </message>
     <message>
         <source>Waiting: %1 downloads from this server are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>Wartet: %1 Downloads von diesem Server laufen</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Wasserzeichen</translation>
     </message>
     <message>
         <source>Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Web</translation>
     </message>
     <message>
         <source>WebM Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM-Video (AV1, Opus)</translation>
     </message>
     <message>
         <source>WebM Video (VP8, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM-Video (VP8, Vorbis)</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
@@ -2705,39 +2821,47 @@
     </message>
     <message>
         <source>What the server sent is no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was der Server gesendet hat, ist kein Film.</translation>
     </message>
     <message>
         <source>What the site answered could not be understood.</source>
-        <translation type="unfinished"></translation>
+        <translation>Die Antwort der Website war nicht zu verstehen.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was diese Voreinstellung erzeugt, lässt sich nicht an eine Größe anpassen.</translation>
+    </message>
+    <message>
+        <source>What to record</source>
+        <translation>Was aufgenommen wird</translation>
     </message>
     <message>
         <source>What you stop now is offered to you again at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Was Sie jetzt stoppen, wird Ihnen beim nächsten Start wieder angeboten.</translation>
     </message>
     <message>
         <source>Where it is needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Wo nötig</translation>
     </message>
     <message>
         <source>Whole Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Ganzes Bild</translation>
     </message>
     <message>
         <source>Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Breite des Bildes</translation>
     </message>
     <message>
         <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Wird nicht angenommen. Beispiel: http://proxy.example.com oder socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>Window</source>
         <translation>Fenster</translation>
+    </message>
+    <message>
+        <source>Window: %1</source>
+        <translation>Fenster: %1</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>
@@ -2761,11 +2885,11 @@
     </message>
     <message>
         <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Einstellungen können im Moment nicht gesichert werden. Kestrel versucht es beim Beenden erneut.</translation>
     </message>
     <message>
         <source>Your settings could not be saved when Kestrel was last quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ihre Einstellungen konnten beim letzten Beenden von Kestrel nicht gesichert werden.</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -2785,7 +2909,7 @@
     </message>
     <message>
         <source>another commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>weiterer Kommentar</translation>
     </message>
     <message>
         <source>closetip</source>
@@ -2793,31 +2917,31 @@
     </message>
     <message>
         <source>commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>Kommentar</translation>
     </message>
     <message>
         <source>for children</source>
-        <translation type="unfinished"></translation>
+        <translation>für Kinder</translation>
     </message>
     <message>
         <source>for the hard of hearing</source>
-        <translation type="unfinished"></translation>
+        <translation>für Hörgeschädigte</translation>
     </message>
     <message>
         <source>for the visually impaired</source>
-        <translation type="unfinished"></translation>
+        <translation>für Sehbehinderte</translation>
     </message>
     <message>
         <source>forced</source>
-        <translation type="unfinished"></translation>
+        <translation>erzwungen</translation>
     </message>
     <message>
         <source>kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>unverändert übernommen</translation>
     </message>
     <message>
         <source>large</source>
-        <translation type="unfinished"></translation>
+        <translation>groß</translation>
     </message>
     <message>
         <source>less than a minute left</source>
@@ -2825,7 +2949,7 @@
     </message>
     <message>
         <source>same as title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>wie Titel %1</translation>
     </message>
     <message>
         <source>showtip</source>
@@ -2833,11 +2957,11 @@
     </message>
     <message>
         <source>{name}, {preset}, {folder} and {date} are filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>{name}, {preset}, {folder} und {date} werden eingesetzt.</translation>
     </message>
     <message>
         <source>“%1” could not be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>„%1“ konnte nicht abgespielt werden.</translation>
     </message>
 </context>
 </TS>

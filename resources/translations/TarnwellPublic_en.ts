@@ -8,80 +8,88 @@
         <translation>%1 (%2 threads)</translation>
     </message>
     <message>
+        <source>%1 (sound only)</source>
+        <translation>%1 (sound only)</translation>
+    </message>
+    <message>
         <source>%1 - Title %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - Title %2</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 MB are too few for a file of this length.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB are too few for a file of this length.</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 and %2 more</translation>
     </message>
     <message>
         <source>%1 angles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 angles</translation>
     </message>
     <message>
         <source>%1 chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chapters</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>%1 files selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 files selected</translation>
     </message>
     <message>
         <source>%1 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read, %3 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 of %2 s could be read, %3 faults</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 of %2 s could be read.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 s could be read, %2 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s could be read, %2 faults</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sectors of the disc could not be read and are empty in the copy.</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sectors of the disc could not be read and are empty in the image.</translation>
     </message>
     <message>
         <source>%1 sectors of the film could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 sectors of the film could not be read.</translation>
     </message>
     <message>
         <source>%1 titles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 titles</translation>
     </message>
     <message>
         <source>%1 to go</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 to go</translation>
     </message>
     <message>
         <source>%1 ×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ×</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -93,95 +101,95 @@
     </message>
     <message>
         <source>128 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbit/s</translation>
     </message>
     <message>
         <source>160 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbit/s</translation>
     </message>
     <message>
         <source>192 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbit/s</translation>
     </message>
     <message>
         <source>23.976</source>
-        <translation type="unfinished"></translation>
+        <translation>23.976</translation>
     </message>
     <message>
         <source>24</source>
-        <translation type="unfinished"></translation>
+        <translation>24</translation>
     </message>
     <message>
         <source>25</source>
-        <translation type="unfinished"></translation>
+        <translation>25</translation>
     </message>
     <message>
         <source>256 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbit/s</translation>
     </message>
     <message>
         <source>2560 × 1440</source>
-        <translation type="unfinished"></translation>
+        <translation>2560 × 1440</translation>
     </message>
     <message>
         <source>29.97</source>
-        <translation type="unfinished"></translation>
+        <translation>29.97</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>320 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbit/s</translation>
     </message>
     <message>
         <source>448 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>448 kbit/s</translation>
     </message>
     <message>
         <source>4K (3840 × 2160)</source>
-        <translation type="unfinished"></translation>
+        <translation>4K (3840 × 2160)</translation>
     </message>
     <message>
         <source>50</source>
-        <translation type="unfinished"></translation>
+        <translation>50</translation>
     </message>
     <message>
         <source>59.94</source>
-        <translation type="unfinished"></translation>
+        <translation>59.94</translation>
     </message>
     <message>
         <source>60</source>
-        <translation type="unfinished"></translation>
+        <translation>60</translation>
     </message>
     <message>
         <source>64 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbit/s</translation>
     </message>
     <message>
         <source>640 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>640 kbit/s</translation>
     </message>
     <message>
         <source>96 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbit/s</translation>
     </message>
     <message>
         <source>A chapter for each joined file</source>
-        <translation type="unfinished"></translation>
+        <translation>A chapter for each joined file</translation>
     </message>
     <message>
         <source>A disc of the chosen title alone, without menus, that players start at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>A disc of the chosen title alone, without menus, that players start at once.</translation>
     </message>
     <message>
         <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>A file of the kind %1 cannot hold what this preset asks for: %2.</translation>
     </message>
     <message>
         <source>A folder has no sectors to copy. Choose another way.</source>
-        <translation type="unfinished"></translation>
+        <translation>A folder has no sectors to copy. Choose another way.</translation>
     </message>
     <message>
         <source>A new version of %@ is available!</source>
@@ -189,27 +197,27 @@
     </message>
     <message>
         <source>A preset needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>A preset needs a name.</translation>
     </message>
     <message>
         <source>AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>AC-3 Audio</translation>
     </message>
     <message>
         <source>AIFF Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>AIFF Audio</translation>
     </message>
     <message>
         <source>APNG Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>APNG Animation</translation>
     </message>
     <message>
         <source>AVI Video (MPEG-4, MP3)</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI Video (MPEG-4, MP3)</translation>
     </message>
     <message>
         <source>AVI Video (Motion JPEG, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>AVI Video (Motion JPEG, PCM)</translation>
     </message>
     <message>
         <source>About</source>
@@ -217,7 +225,7 @@
     </message>
     <message>
         <source>About %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>About %1.</translation>
     </message>
     <message>
         <source>About %@</source>
@@ -232,36 +240,48 @@
         <translation>About Our Company Tarnwell Software, Inc.</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Add</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>Add %1</translation>
+    </message>
+    <message>
         <source>Add Files…</source>
         <translation>Add Files…</translation>
     </message>
     <message>
         <source>Add Subtitle File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Add Subtitle File…</translation>
     </message>
     <message>
         <source>Adding the subtitles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Adding the subtitles…</translation>
     </message>
     <message>
         <source>Address</source>
         <translation>Address</translation>
     </message>
     <message>
+        <source>Address of a video or a page, such as https://…</source>
+        <translation>Address of a video or a page, such as https://…</translation>
+    </message>
+    <message>
         <source>Aim</source>
-        <translation type="unfinished"></translation>
+        <translation>Aim</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>All</translation>
     </message>
     <message>
         <source>All Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>All Formats</translation>
     </message>
     <message>
         <source>All Formats…</source>
-        <translation type="unfinished"></translation>
+        <translation>All Formats…</translation>
     </message>
     <message>
         <source>All files</source>
@@ -269,35 +289,39 @@
     </message>
     <message>
         <source>All files of the disc in a folder, with its menus.</source>
-        <translation type="unfinished"></translation>
+        <translation>All files of the disc in a folder, with its menus.</translation>
     </message>
     <message>
         <source>All jobs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>All jobs are done.</translation>
     </message>
     <message>
         <source>All jobs have ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>All jobs have ended.</translation>
     </message>
     <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
-        <translation type="unfinished"></translation>
+        <translation>All sound tracks of the chosen titles with their chapters.</translation>
+    </message>
+    <message>
+        <source>Allow Many From One Server</source>
+        <translation>Allow Many From One Server</translation>
     </message>
     <message>
         <source>Already in the list: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Already in the list: %1</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Always</translation>
     </message>
     <message>
         <source>Always kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Always kept</translation>
     </message>
     <message>
         <source>Always, twice the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Always, twice the pictures</translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -305,7 +329,7 @@
     </message>
     <message>
         <source>Another folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Another folder…</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -313,11 +337,11 @@
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Apply</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Archive</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -329,19 +353,19 @@
     </message>
     <message>
         <source>As the format has it</source>
-        <translation type="unfinished"></translation>
+        <translation>As the format has it</translation>
     </message>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation>As the source</translation>
     </message>
     <message>
         <source>Asking the site…</source>
-        <translation type="unfinished"></translation>
+        <translation>Asking the site…</translation>
     </message>
     <message>
         <source>At most</source>
-        <translation type="unfinished"></translation>
+        <translation>At most</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -356,28 +380,32 @@
         <translation>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</translation>
     </message>
     <message>
+        <source>Begin at once</source>
+        <translation>Begin at once</translation>
+    </message>
+    <message>
         <source>Beside the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Beside the source</translation>
     </message>
     <message>
         <source>Bit rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit rate</translation>
     </message>
     <message>
         <source>Bit rate of a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Bit rate of a track</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Bottom left</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Bottom right</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Brightness</translation>
     </message>
     <message>
         <source>Build on: %@</source>
@@ -385,11 +413,15 @@
     </message>
     <message>
         <source>Burnt into the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Burnt into the picture</translation>
     </message>
     <message>
         <source>CAF Audio (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>CAF Audio (ALAC)</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Camera %1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -397,19 +429,19 @@
     </message>
     <message>
         <source>Cancel the Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancel the Trial</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelled</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelled: %1</translation>
     </message>
     <message>
         <source>Cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Cannot be used</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -421,19 +453,19 @@
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Channels</translation>
     </message>
     <message>
         <source>Chapter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Chapter %1</translation>
     </message>
     <message>
         <source>Chapters are missing in the finished file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Chapters are missing in the finished file.</translation>
     </message>
     <message>
         <source>Chapters, languages and the colours of subtitles, which MPEG-2 files cannot hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Chapters, languages and the colours of subtitles, which MPEG-2 files cannot hold</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
@@ -445,19 +477,31 @@
     </message>
     <message>
         <source>Checking the copy…</source>
-        <translation type="unfinished"></translation>
+        <translation>Checking the copy…</translation>
     </message>
     <message>
         <source>Checking the finished file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Checking the finished file…</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Choose</translation>
+    </message>
+    <message>
+        <source>Choose Films</source>
+        <translation>Choose Films</translation>
     </message>
     <message>
         <source>Choose a Folder</source>
         <translation>Choose a Folder</translation>
+    </message>
+    <message>
+        <source>Choose above what is recorded, then press Record.</source>
+        <translation>Choose above what is recorded, then press Record.</translation>
+    </message>
+    <message>
+        <source>Choose an Area</source>
+        <translation>Choose an Area</translation>
     </message>
     <message>
         <source>Choose another one, or allow yourself to write to it: %1</source>
@@ -473,7 +517,7 @@
     </message>
     <message>
         <source>Clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Clockwise</translation>
     </message>
     <message>
         <source>Close</source>
@@ -488,8 +532,12 @@
         <translation>Common</translation>
     </message>
     <message>
+        <source>Computer and microphone</source>
+        <translation>Computer and microphone</translation>
+    </message>
+    <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connecting…</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -497,7 +545,7 @@
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrast</translation>
     </message>
     <message>
         <source>Convert</source>
@@ -513,11 +561,11 @@
     </message>
     <message>
         <source>Converting ten seconds: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Converting ten seconds: %1 %</translation>
     </message>
     <message>
         <source>Converting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Converting…</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -537,15 +585,23 @@
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Corner</translation>
+    </message>
+    <message>
+        <source>Count down from three</source>
+        <translation>Count down from three</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Countdown</translation>
     </message>
     <message>
         <source>Counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Counterclockwise</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Cover</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -553,43 +609,43 @@
     </message>
     <message>
         <source>Cut and Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut and Edit</translation>
     </message>
     <message>
         <source>Cut and Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut and Edit…</translation>
     </message>
     <message>
         <source>Cut exactly (encodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut exactly (encodes)</translation>
     </message>
     <message>
         <source>Cut off bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut off bottom</translation>
     </message>
     <message>
         <source>Cut off left</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut off left</translation>
     </message>
     <message>
         <source>Cut off right</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut off right</translation>
     </message>
     <message>
         <source>Cut off top</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut off top</translation>
     </message>
     <message>
         <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cut without encoding: it begins at the last key picture before %1 s.</translation>
     </message>
     <message>
         <source>DTS</source>
-        <translation type="unfinished"></translation>
+        <translation>DTS</translation>
     </message>
     <message>
         <source>DV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>DV Video</translation>
     </message>
     <message>
         <source>DVD</source>
@@ -597,7 +653,7 @@
     </message>
     <message>
         <source>DVD (720 × 576)</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD (720 × 576)</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -605,7 +661,7 @@
     </message>
     <message>
         <source>Data of the camera, such as time code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Data of the camera, such as time code.</translation>
     </message>
     <message>
         <source>Default</source>
@@ -613,11 +669,11 @@
     </message>
     <message>
         <source>Deinterlacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Deinterlacing</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Delete</translation>
     </message>
     <message>
         <source>Details</source>
@@ -629,31 +685,31 @@
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Devices</translation>
     </message>
     <message>
         <source>Disc Player (VOB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc Player (VOB)</translation>
     </message>
     <message>
         <source>Disc folder with menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc folder with menus</translation>
     </message>
     <message>
         <source>Disc image (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc image (ISO)</translation>
     </message>
     <message>
         <source>Disc images</source>
-        <translation type="unfinished"></translation>
+        <translation>Disc images</translation>
     </message>
     <message>
         <source>Dolby Digital</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolby Digital</translation>
     </message>
     <message>
         <source>Don't Shut Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Don't Shut Down</translation>
     </message>
     <message>
         <source>Done</source>
@@ -661,15 +717,15 @@
     </message>
     <message>
         <source>Done with problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Done with problems</translation>
     </message>
     <message>
         <source>Done with problems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Done with problems: %1</translation>
     </message>
     <message>
         <source>Done: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Done: %1</translation>
     </message>
     <message>
         <source>Download</source>
@@ -704,8 +760,12 @@
         <translation>Downloads at the same time</translation>
     </message>
     <message>
+        <source>Draw an area, then press Return</source>
+        <translation>Draw an area, then press Return</translation>
+    </message>
+    <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Drive</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -717,7 +777,7 @@
     </message>
     <message>
         <source>E-AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>E-AC-3 Audio</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -725,55 +785,55 @@
     </message>
     <message>
         <source>Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Editing</translation>
     </message>
     <message>
         <source>Encoding in software</source>
-        <translation type="unfinished"></translation>
+        <translation>Encoding in software</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Encoding, because the tracks could not be copied</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>End</translation>
     </message>
     <message>
         <source>End Here</source>
-        <translation type="unfinished"></translation>
+        <translation>End Here</translation>
     </message>
     <message>
         <source>Even out the loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Even out the loudness</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Export</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Export…</translation>
     </message>
     <message>
         <source>FLAC Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>FLAC Audio</translation>
     </message>
     <message>
         <source>FLV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>FLV Video (H.264, AAC)</translation>
     </message>
     <message>
         <source>Fade in</source>
-        <translation type="unfinished"></translation>
+        <translation>Fade in</translation>
     </message>
     <message>
         <source>Fade out</source>
-        <translation type="unfinished"></translation>
+        <translation>Fade out</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Failed</translation>
     </message>
     <message>
         <source>Failed: %1</source>
@@ -781,27 +841,31 @@
     </message>
     <message>
         <source>Faster, larger file</source>
-        <translation type="unfinished"></translation>
+        <translation>Faster, larger file</translation>
     </message>
     <message>
         <source>Fastest, largest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fastest, largest file</translation>
     </message>
     <message>
         <source>File size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>File size at most</translation>
     </message>
     <message>
         <source>Files can be cut or joined, but not both at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Files can be cut or joined, but not both at once.</translation>
     </message>
     <message>
         <source>Film from television (24)</source>
-        <translation type="unfinished"></translation>
+        <translation>Film from television (24)</translation>
+    </message>
+    <message>
+        <source>Films at this address</source>
+        <translation>Films at this address</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filter</translation>
     </message>
     <message>
         <source>Find</source>
@@ -809,7 +873,7 @@
     </message>
     <message>
         <source>Find Black Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Find Black Bars</translation>
     </message>
     <message>
         <source>Find Next</source>
@@ -821,15 +885,15 @@
     </message>
     <message>
         <source>Finishing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finishing…</translation>
     </message>
     <message>
         <source>First pass</source>
-        <translation type="unfinished"></translation>
+        <translation>First pass</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Folder</translation>
     </message>
     <message>
         <source>Follow</source>
@@ -837,19 +901,19 @@
     </message>
     <message>
         <source>For all files</source>
-        <translation type="unfinished"></translation>
+        <translation>For all files</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>For example: %1</translation>
     </message>
     <message>
         <source>For the DVD ripper, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>For the DVD ripper, which is still being made.</translation>
     </message>
     <message>
         <source>For the downloader, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>For the downloader, which is still being made.</translation>
     </message>
     <message>
         <source>Format</source>
@@ -857,11 +921,11 @@
     </message>
     <message>
         <source>Format and options in use are kept under this name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Format and options in use are kept under this name:</translation>
     </message>
     <message>
         <source>Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formats</translation>
     </message>
     <message>
         <source>Found after going around the end of the log.</source>
@@ -869,23 +933,23 @@
     </message>
     <message>
         <source>Full HD (1920 × 1080)</source>
-        <translation type="unfinished"></translation>
+        <translation>Full HD (1920 × 1080)</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
-        <translation type="unfinished"></translation>
+        <translation>Further pictures beside the first (other angles or previews).</translation>
     </message>
     <message>
         <source>GIF Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>GIF Animation</translation>
     </message>
     <message>
         <source>Game Console</source>
-        <translation type="unfinished"></translation>
+        <translation>Game Console</translation>
     </message>
     <message>
         <source>Go On</source>
-        <translation type="unfinished"></translation>
+        <translation>Go On</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -905,7 +969,7 @@
     </message>
     <message>
         <source>HD (1280 × 720)</source>
-        <translation type="unfinished"></translation>
+        <translation>HD (1280 × 720)</translation>
     </message>
     <message>
         <source>HEVC decoders</source>
@@ -929,15 +993,15 @@
     </message>
     <message>
         <source>High dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>High dynamic range</translation>
     </message>
     <message>
         <source>High dynamic range becomes standard range.</source>
-        <translation type="unfinished"></translation>
+        <translation>High dynamic range becomes standard range.</translation>
     </message>
     <message>
         <source>High quality (slower)</source>
-        <translation type="unfinished"></translation>
+        <translation>High quality (slower)</translation>
     </message>
     <message>
         <source>Highest Resolution</source>
@@ -945,15 +1009,15 @@
     </message>
     <message>
         <source>How the disc is kept</source>
-        <translation type="unfinished"></translation>
+        <translation>How the disc is kept</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Import</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Import…</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -961,91 +1025,67 @@
     </message>
     <message>
         <source>Interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrupted</translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
         <translation>It is shown here as soon as it is written: %1</translation>
     </message>
     <message>
-        <source>It will fetch several at a time, in the resolution that you prefer.</source>
-        <translation>It will fetch several at a time, in the resolution that you prefer.</translation>
-    </message>
-    <message>
-        <source>It will go through your proxy where you have one.</source>
-        <translation>It will go through your proxy where you have one.</translation>
-    </message>
-    <message>
-        <source>It will record the sound of the computer and of a microphone.</source>
-        <translation>It will record the sound of the computer and of a microphone.</translation>
-    </message>
-    <message>
-        <source>It will record the whole screen, a window or a part of it.</source>
-        <translation>It will record the whole screen, a window or a part of it.</translation>
-    </message>
-    <message>
-        <source>It will save videos and music from addresses that you paste.</source>
-        <translation>It will save videos and music from addresses that you paste.</translation>
-    </message>
-    <message>
-        <source>It will show mouse clicks where you want them seen.</source>
-        <translation>It will show mouse clicks where you want them seen.</translation>
-    </message>
-    <message>
         <source>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</translation>
     </message>
     <message>
         <source>Jobs are running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jobs are running.</translation>
     </message>
     <message>
         <source>Jobs are still running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Jobs are still running.</translation>
     </message>
     <message>
         <source>Join all files into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Join all files into one</translation>
     </message>
     <message>
         <source>Join into One</source>
-        <translation type="unfinished"></translation>
+        <translation>Join into One</translation>
     </message>
     <message>
         <source>Joining</source>
-        <translation type="unfinished"></translation>
+        <translation>Joining</translation>
     </message>
     <message>
         <source>Keep Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Keep Running</translation>
     </message>
     <message>
         <source>Keep the Rest Instead</source>
-        <translation type="unfinished"></translation>
+        <translation>Keep the Rest Instead</translation>
     </message>
     <message>
         <source>Keep the date of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Keep the date of the source</translation>
     </message>
     <message>
         <source>Keep tracks that fit as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Keep tracks that fit as they are</translation>
     </message>
     <message>
         <source>Kept as a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Kept as a track</translation>
     </message>
     <message>
         <source>Kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Kept until you quit</translation>
     </message>
     <message>
         <source>Kept where it can be</source>
-        <translation type="unfinished"></translation>
+        <translation>Kept where it can be</translation>
     </message>
     <message>
         <source>Kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kept: %1</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -1061,11 +1101,11 @@
     </message>
     <message>
         <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel does not know how long this file is, and cannot aim at a size.</translation>
     </message>
     <message>
         <source>Kestrel does not know the kind of file “%1” of this preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel does not know the kind of file “%1” of this preset.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1077,15 +1117,15 @@
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Left out</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Left out: %1</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Length</translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -1105,19 +1145,19 @@
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>M4A Audio (AAC)</translation>
     </message>
     <message>
         <source>M4A Audio, Lossless (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>M4A Audio, Lossless (ALAC)</translation>
     </message>
     <message>
         <source>MKA Audio (Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKA Audio (Opus)</translation>
     </message>
     <message>
         <source>MKV Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV Video (AV1, Opus)</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
@@ -1125,31 +1165,31 @@
     </message>
     <message>
         <source>MKV Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV Video (H.265, AAC)</translation>
     </message>
     <message>
         <source>MKV Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV Video (VP9, Opus)</translation>
     </message>
     <message>
         <source>MKV Video, High Quality (H.265, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV Video, High Quality (H.265, FLAC)</translation>
     </message>
     <message>
         <source>MKV Video, Lossless (FFV1, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MKV Video, Lossless (FFV1, FLAC)</translation>
     </message>
     <message>
         <source>MOV Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV Video (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MOV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV Video (H.264, AAC)</translation>
     </message>
     <message>
         <source>MOV Video (ProRes, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MOV Video (ProRes, PCM)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
@@ -1157,7 +1197,7 @@
     </message>
     <message>
         <source>MP4 Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4 Video (AV1, Opus)</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
@@ -1165,27 +1205,27 @@
     </message>
     <message>
         <source>MP4 Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4 Video (H.265, AAC)</translation>
     </message>
     <message>
         <source>MP4 Video for Web Pages (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>MP4 Video for Web Pages (1080p)</translation>
     </message>
     <message>
         <source>MPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG</translation>
     </message>
     <message>
         <source>MPEG Video (MPEG-2, MP2)</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG Video (MPEG-2, MP2)</translation>
     </message>
     <message>
         <source>MXF Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MXF Video (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MXF Video (MPEG-2, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>MXF Video (MPEG-2, PCM)</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1197,11 +1237,15 @@
     </message>
     <message>
         <source>Messages of the tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages of the tools</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microphone</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Middle</translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -1209,11 +1253,11 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Mirror</translation>
     </message>
     <message>
         <source>Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Mono</translation>
     </message>
     <message>
         <source>Music folder</source>
@@ -1221,7 +1265,7 @@
     </message>
     <message>
         <source>My Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>My Presets</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1229,19 +1273,19 @@
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Name of the preset:</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Never</translation>
     </message>
     <message>
         <source>No camera was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No camera was found.</translation>
     </message>
     <message>
         <source>No format matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>No format matches the search.</translation>
     </message>
     <message>
         <source>No log was named</source>
@@ -1249,19 +1293,27 @@
     </message>
     <message>
         <source>No picture of the copy could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No picture of the copy could be decoded.</translation>
     </message>
     <message>
         <source>No picture of this film could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No picture of this film could be decoded.</translation>
     </message>
     <message>
         <source>No server answers at this address. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No server answers at this address. Check it and try again.</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>No sound</translation>
+    </message>
+    <message>
+        <source>No speed limit</source>
+        <translation>No speed limit</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>None</translation>
     </message>
     <message>
         <source>Not chosen yet</source>
@@ -1269,19 +1321,19 @@
     </message>
     <message>
         <source>Not turned</source>
-        <translation type="unfinished"></translation>
+        <translation>Not turned</translation>
     </message>
     <message>
         <source>Not used yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Not used yet</translation>
     </message>
     <message>
         <source>Not used yet, kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Not used yet, kept until you quit</translation>
     </message>
     <message>
         <source>Nothing could be decoded at %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing could be decoded at %1 s.</translation>
     </message>
     <message>
         <source>Nothing found.</source>
@@ -1289,31 +1341,31 @@
     </message>
     <message>
         <source>Nothing of the file could be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing of the file could be converted.</translation>
     </message>
     <message>
         <source>Nothing of the film could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing of the film could be read.</translation>
     </message>
     <message>
         <source>Nothing of the recording is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing of the recording is left.</translation>
     </message>
     <message>
         <source>Nothing of this file would be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing of this file would be kept.</translation>
     </message>
     <message>
         <source>Nothing was recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nothing was recorded.</translation>
     </message>
     <message>
         <source>OGG Audio (Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>OGG Audio (Vorbis)</translation>
     </message>
     <message>
         <source>OGV Video (Theora, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>OGV Video (Theora, Vorbis)</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1325,27 +1377,27 @@
     </message>
     <message>
         <source>Old Phone (3GP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Old Phone (3GP)</translation>
     </message>
     <message>
         <source>One title as a disc folder</source>
-        <translation type="unfinished"></translation>
+        <translation>One title as a disc folder</translation>
     </message>
     <message>
         <source>Only %1 of %2 s have come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Only %1 of %2 s have come.</translation>
     </message>
     <message>
         <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Only files that all have a picture, or all have sound, can be joined.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
-        <translation type="unfinished"></translation>
+        <translation>Only one track of subtitles can be burnt in; another one stays behind.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacity</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1353,11 +1405,11 @@
     </message>
     <message>
         <source>Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Folder…</translation>
     </message>
     <message>
         <source>Open Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Open Image…</translation>
     </message>
     <message>
         <source>Open the log with “App Log” in the Help menu of %1.</source>
@@ -1373,35 +1425,35 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Opus Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Opus Audio</translation>
     </message>
     <message>
         <source>Original Sound, in an MKA File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original Sound, in an MKA File</translation>
     </message>
     <message>
         <source>Original, in a MOV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, in a MOV File</translation>
     </message>
     <message>
         <source>Original, in a TS File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, in a TS File</translation>
     </message>
     <message>
         <source>Original, in an MKV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, in an MKV File</translation>
     </message>
     <message>
         <source>Original, in an MP4 File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, in an MP4 File</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Output</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -1413,79 +1465,87 @@
     </message>
     <message>
         <source>PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>PCM</translation>
     </message>
     <message>
         <source>Page of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Page of options</translation>
+    </message>
+    <message>
+        <source>Part of the screen…</source>
+        <translation>Part of the screen…</translation>
     </message>
     <message>
         <source>Parts of the finished file are missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Parts of the finished file are missing.</translation>
     </message>
     <message>
         <source>Paste</source>
         <translation>Paste</translation>
     </message>
     <message>
+        <source>Paste or drop addresses here</source>
+        <translation>Paste or drop addresses here</translation>
+    </message>
+    <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>Paused</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Phone</translation>
     </message>
     <message>
         <source>Phone (H.265)</source>
-        <translation type="unfinished"></translation>
+        <translation>Phone (H.265)</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Picture</translation>
     </message>
     <message>
         <source>Picture, all sound, subtitles in their colours and chapters of the chosen titles, nothing encoded again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Picture, all sound, subtitles in their colours and chapters of the chosen titles, nothing encoded again.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Pictures</translation>
     </message>
     <message>
         <source>Pictures a second</source>
-        <translation type="unfinished"></translation>
+        <translation>Pictures a second</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Piece %1 of %2</translation>
     </message>
     <message>
         <source>Pieces that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Pieces that are kept</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Play</translation>
     </message>
     <message>
         <source>Play Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Play Source</translation>
     </message>
     <message>
         <source>Playing speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Playing speed</translation>
     </message>
     <message>
         <source>Plays Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Plays Everywhere</translation>
     </message>
     <message>
         <source>Please check that the disk has room and that this folder can be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Please check that the disk has room and that this folder can be written: %1</translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -1505,7 +1565,7 @@
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Preferences…</source>
@@ -1517,7 +1577,7 @@
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Presets</translation>
     </message>
     <message>
         <source>Problem detected in last conversion.</source>
@@ -1529,7 +1589,7 @@
     </message>
     <message>
         <source>Processor cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Processor cores</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1545,15 +1605,15 @@
     </message>
     <message>
         <source>Put a DVD in, or drop a disc image or folder here</source>
-        <translation type="unfinished"></translation>
+        <translation>Put a DVD in, or drop a disc image or folder here</translation>
     </message>
     <message>
         <source>Putting picture and sound together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Putting picture and sound together…</translation>
     </message>
     <message>
         <source>Quality (lower is better)</source>
-        <translation type="unfinished"></translation>
+        <translation>Quality (lower is better)</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -1561,11 +1621,11 @@
     </message>
     <message>
         <source>Reading the disc…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the disc…</translation>
     </message>
     <message>
         <source>Reading the disc… A drive may take half a minute for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the disc… A drive may take half a minute for it.</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
@@ -1573,7 +1633,7 @@
     </message>
     <message>
         <source>Reading the file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Reading the file…</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -1582,6 +1642,10 @@
     <message>
         <source>Ready</source>
         <translation>Ready</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Record</translation>
     </message>
     <message>
         <source>Record Video</source>
@@ -1596,8 +1660,16 @@
         <translation>Recorder</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Recording begins in %1 s. Press Record to begin at once.</source>
+        <translation>Recording begins in %1 s. Press Record to begin at once.</translation>
+    </message>
+    <message>
         <source>Recovered after an interruption.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recovered after an interruption.</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -1613,19 +1685,23 @@
     </message>
     <message>
         <source>Remove Piece</source>
-        <translation type="unfinished"></translation>
+        <translation>Remove Piece</translation>
+    </message>
+    <message>
+        <source>Remove With Partial File</source>
+        <translation>Remove With Partial File</translation>
     </message>
     <message>
         <source>Removes what is done from the list. The files stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Removes what is done from the list. The files stay.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Rename</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rename…</translation>
     </message>
     <message>
         <source>Report Bug</source>
@@ -1641,19 +1717,19 @@
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Result</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Running</translation>
     </message>
     <message>
         <source>Safe mode: check the whole result</source>
-        <translation type="unfinished"></translation>
+        <translation>Safe mode: check the whole result</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturation</translation>
     </message>
     <message>
         <source>Save a Copy</source>
@@ -1665,23 +1741,27 @@
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Save as Preset</translation>
     </message>
     <message>
         <source>Save as Preset…</source>
-        <translation type="unfinished"></translation>
+        <translation>Save as Preset…</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Saved: %1</translation>
     </message>
     <message>
         <source>Saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Saving…</translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
         <translation>Saving… %1 % (Esc stops)</translation>
+    </message>
+    <message>
+        <source>Screen %1 (%2 × %3)</source>
+        <translation>Screen %1 (%2 × %3)</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
@@ -1701,11 +1781,11 @@
     </message>
     <message>
         <source>Search formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Search formats</translation>
     </message>
     <message>
         <source>Search: MKV, AV1, FLAC …</source>
-        <translation type="unfinished"></translation>
+        <translation>Search: MKV, AV1, FLAC …</translation>
     </message>
     <message>
         <source>Searching… %1 % (Esc stops)</source>
@@ -1713,7 +1793,7 @@
     </message>
     <message>
         <source>Second pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Second pass</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1721,7 +1801,7 @@
     </message>
     <message>
         <source>Select one file in the list to choose among its tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Select one file in the list to choose among its tracks.</translation>
     </message>
     <message>
         <source>Send Feedback</source>
@@ -1737,11 +1817,11 @@
     </message>
     <message>
         <source>Several formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Several formats</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Show</translation>
     </message>
     <message>
         <source>Show File</source>
@@ -1749,7 +1829,7 @@
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Show in Folder</translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -1765,35 +1845,35 @@
     </message>
     <message>
         <source>Size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Size at most</translation>
     </message>
     <message>
         <source>Size: about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Size: about %1</translation>
     </message>
     <message>
         <source>Slower, smaller file</source>
-        <translation type="unfinished"></translation>
+        <translation>Slower, smaller file</translation>
     </message>
     <message>
         <source>Slowest, smallest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Slowest, smallest file</translation>
     </message>
     <message>
         <source>Small (640 × 480)</source>
-        <translation type="unfinished"></translation>
+        <translation>Small (640 × 480)</translation>
     </message>
     <message>
         <source>Small Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Small Files</translation>
     </message>
     <message>
         <source>Small MP4 Video (720p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Small MP4 Video (720p)</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Snapshot</translation>
     </message>
     <message>
         <source>Snapshot folder</source>
@@ -1801,43 +1881,55 @@
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Sound</translation>
+    </message>
+    <message>
+        <source>Sound level</source>
+        <translation>Sound level</translation>
+    </message>
+    <message>
+        <source>Sound of the computer</source>
+        <translation>Sound of the computer</translation>
     </message>
     <message>
         <source>Sound only, unchanged (MKA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sound only, unchanged (MKA)</translation>
     </message>
     <message>
         <source>Sound track %1, which this film does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Sound track %1, which this film does not have</translation>
     </message>
     <message>
         <source>Sound: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sound: %1</translation>
     </message>
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sound: %1. %2 holds only one track of sound.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Source (drag to crop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Source (drag to crop)</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Speed</translation>
+    </message>
+    <message>
+        <source>Speed limit of each download</source>
+        <translation>Speed limit of each download</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Start</translation>
     </message>
     <message>
         <source>Start Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Start Here</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1849,19 +1941,31 @@
     </message>
     <message>
         <source>Steady quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Steady quality</translation>
     </message>
     <message>
         <source>Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Stop</translation>
+    </message>
+    <message>
+        <source>Stop after</source>
+        <translation>Stop after</translation>
+    </message>
+    <message>
+        <source>Stop after %1 min</source>
+        <translation>Stop after %1 min</translation>
     </message>
     <message>
         <source>Stop and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop and Quit</translation>
     </message>
     <message>
         <source>Stop and Restart</source>
-        <translation type="unfinished"></translation>
+        <translation>Stop and Restart</translation>
     </message>
     <message>
         <source>Stopped.</source>
@@ -1869,27 +1973,27 @@
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>Stopping…</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtitles</translation>
     </message>
     <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</translation>
     </message>
     <message>
         <source>Subtitles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtitles: %1</translation>
     </message>
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtitles: %1. %2 cannot hold them.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</translation>
     </message>
     <message>
         <source>Suggestions</source>
@@ -1897,27 +2001,27 @@
     </message>
     <message>
         <source>Surround 5.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Surround 5.1</translation>
     </message>
     <message>
         <source>TS Video (H.264, AC-3)</source>
-        <translation type="unfinished"></translation>
+        <translation>TS Video (H.264, AC-3)</translation>
     </message>
     <message>
         <source>TV (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>TV (1080p)</translation>
     </message>
     <message>
         <source>TV (4K, HDR)</source>
-        <translation type="unfinished"></translation>
+        <translation>TV (4K, HDR)</translation>
     </message>
     <message>
         <source>Tablet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablet</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Text</translation>
     </message>
     <message>
         <source>That is the log itself. Choose another name.</source>
@@ -1925,31 +2029,35 @@
     </message>
     <message>
         <source>The area to be recorded is outside the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>The area to be recorded is outside the screen.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>The attached file %1. %2 cannot hold it.</translation>
     </message>
     <message>
         <source>The broadcast has not begun yet. Try again when it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>The broadcast has not begun yet. Try again when it has.</translation>
+    </message>
+    <message>
+        <source>The camera's picture is not shown before it is recorded.</source>
+        <translation>The camera's picture is not shown before it is recorded.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>The chapters. %1 cannot hold them.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>The chosen titles become files of the format beside, as small as you like.</translation>
     </message>
     <message>
         <source>The computer will shut down in %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>The computer will shut down in %1 seconds.</translation>
     </message>
     <message>
         <source>The conversion was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>The conversion was stopped before the end.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -1965,7 +2073,7 @@
     </message>
     <message>
         <source>The converter did not answer any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>The converter did not answer any more.</translation>
     </message>
     <message>
         <source>The converter is missing. Please install the application again.</source>
@@ -1973,7 +2081,7 @@
     </message>
     <message>
         <source>The copy could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>The copy could not be read back.</translation>
     </message>
     <message>
         <source>The copy could not be saved: %1</source>
@@ -1981,11 +2089,11 @@
     </message>
     <message>
         <source>The copy has %1 titles instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>The copy has %1 titles instead of %2.</translation>
     </message>
     <message>
         <source>The copy was broken off. It goes on where it is when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The copy was broken off. It goes on where it is when it is started again.</translation>
     </message>
     <message>
         <source>The copy was saved.</source>
@@ -1993,39 +2101,39 @@
     </message>
     <message>
         <source>The cover picture. %1 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>The cover picture. %1 cannot hold it.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
-        <translation type="unfinished"></translation>
+        <translation>The cover picture. It is lost when files are joined so.</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disc could not be read.</translation>
     </message>
     <message>
         <source>The disc did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disc did not answer in time.</translation>
     </message>
     <message>
         <source>The disc has no such title, chapter or angle.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disc has no such title, chapter or angle.</translation>
     </message>
     <message>
         <source>The disc image ends before its film does.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disc image ends before its film does.</translation>
     </message>
     <message>
         <source>The disc is damaged: what it holds could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disc is damaged: what it holds could not be read.</translation>
     </message>
     <message>
         <source>The disc may not be read by this user.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disc may not be read by this user.</translation>
     </message>
     <message>
         <source>The disc tools could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disc tools could not be started. Please install the application again.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -2033,7 +2141,7 @@
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The disk is too full to finish the recording: it stays a Matroska file.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
@@ -2041,31 +2149,31 @@
     </message>
     <message>
         <source>The display %1 could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>The display %1 could not be opened.</translation>
     </message>
     <message>
         <source>The download engine does not work. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The download engine does not work. Please install the application again.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The download engine is missing. Please install the application again.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
-        <translation type="unfinished"></translation>
+        <translation>The download failed. The details tell what the engine said.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>The encoder for %1 is not installed.</translation>
     </message>
     <message>
         <source>The file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file could not be read.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>The file could not be written.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -2085,47 +2193,47 @@
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>The film is copy protected and is not downloaded.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
-        <translation type="unfinished"></translation>
+        <translation>The film is no longer there. Look for it at another address.</translation>
     </message>
     <message>
         <source>The film is not there in the form that was wanted. Choose another resolution or format.</source>
-        <translation type="unfinished"></translation>
+        <translation>The film is not there in the form that was wanted. Choose another resolution or format.</translation>
     </message>
     <message>
         <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>The film is private or for members only, so it cannot be downloaded.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</translation>
     </message>
     <message>
         <source>The finished file could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>The finished file could not be read back.</translation>
     </message>
     <message>
         <source>The finished file has %1 bytes instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>The finished file has %1 bytes instead of %2.</translation>
     </message>
     <message>
         <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>The finished file holds other tracks than were wanted: %1 instead of %2.</translation>
     </message>
     <message>
         <source>The finished file is %1 s long instead of %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>The finished file is %1 s long instead of %2 s.</translation>
     </message>
     <message>
         <source>The finished file is damaged: %1 faults.</source>
-        <translation type="unfinished"></translation>
+        <translation>The finished file is damaged: %1 faults.</translation>
     </message>
     <message>
         <source>The finished file is larger than wanted.</source>
-        <translation type="unfinished"></translation>
+        <translation>The finished file is larger than wanted.</translation>
     </message>
     <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
@@ -2137,7 +2245,11 @@
     </message>
     <message>
         <source>The folder for temporary files cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>The folder for temporary files cannot be written.</translation>
+    </message>
+    <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation>The last %1 s have no sound: the sound server went away.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -2149,15 +2261,15 @@
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The options of this job could not be read. Add the address again.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The options of this job could not be read. Add the file again.</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>The output could not be written.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -2169,51 +2281,51 @@
     </message>
     <message>
         <source>The picture has to be encoded (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture has to be encoded (%1).</translation>
     </message>
     <message>
         <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture is made smaller, %1 × %2, so that it fits the size.</translation>
     </message>
     <message>
         <source>The picture is missing: the site handed out the sound alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture is missing: the site handed out the sound alone.</translation>
     </message>
     <message>
         <source>The picture of the finished file does not stand upright.</source>
-        <translation type="unfinished"></translation>
+        <translation>The picture of the finished file does not stand upright.</translation>
     </message>
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The pieces to be kept lie behind the end of the file.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The player is missing. Please install the application again.</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing. Please install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>The program dvdauthor is missing. Please install it.</translation>
     </message>
     <message>
         <source>The proxy refuses the connection. Check its address in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>The proxy refuses the connection. Check its address in the settings.</translation>
     </message>
     <message>
         <source>The recording could not be finished: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>The recording could not be finished: it stays a Matroska file.</translation>
     </message>
     <message>
         <source>The recording ended because the disk is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>The recording ended because the disk is nearly full.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>The recording was interrupted.</translation>
     </message>
     <message>
         <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation type="unfinished"></translation>
+        <translation>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2221,67 +2333,67 @@
     </message>
     <message>
         <source>The server broke off or could not answer. What has come is kept; try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>The server broke off or could not answer. What has come is kept; try again later.</translation>
     </message>
     <message>
         <source>The server broke off, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>The server broke off, next attempt in %1 s</translation>
     </message>
     <message>
         <source>The server has sent only part of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>The server has sent only part of the film.</translation>
     </message>
     <message>
         <source>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</source>
-        <translation type="unfinished"></translation>
+        <translation>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</translation>
     </message>
     <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>The server takes no more requests for now. Try again in a while.</translation>
     </message>
     <message>
         <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
-        <translation type="unfinished"></translation>
+        <translation>The settings' folder</translation>
     </message>
     <message>
         <source>The site does not show this film in your country. A proxy of another country can be set in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>The site does not show this film in your country. A proxy of another country can be set in the settings.</translation>
     </message>
     <message>
         <source>The site has changed and the download engine does not know it any more. Update the engine and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>The site has changed and the download engine does not know it any more. Update the engine and try again.</translation>
     </message>
     <message>
         <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation type="unfinished"></translation>
+        <translation>The site shows this film only to those who have logged in, which Kestrel does not do.</translation>
     </message>
     <message>
         <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation type="unfinished"></translation>
+        <translation>The site wants to know the viewer's age first, which it learns only from a log-in.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>The snapshot could not be written.</translation>
     </message>
     <message>
         <source>The sound could not be recorded. Is the sound server running?</source>
-        <translation type="unfinished"></translation>
+        <translation>The sound could not be recorded. Is the sound server running?</translation>
     </message>
     <message>
         <source>The sound is missing since the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>The sound is missing since the sound server went away.</translation>
     </message>
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>The sound is missing: the site handed out the picture alone.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>The sound. %1 holds only pictures.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -2301,47 +2413,47 @@
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>The whole disc, sector for sector, in one file that plays like the disc.</translation>
     </message>
     <message>
         <source>The whole film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>The whole film is kept.</translation>
     </message>
     <message>
         <source>The window is too small to be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>The window is too small to be recorded.</translation>
     </message>
     <message>
         <source>There are no black bars.</source>
-        <translation type="unfinished"></translation>
+        <translation>There are no black bars.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
-        <translation type="unfinished"></translation>
+        <translation>There are several films at this address. Add it again to choose among them.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
-        <translation type="unfinished"></translation>
+        <translation>There are too many presets. Delete some first.</translation>
     </message>
     <message>
         <source>There is no connection to the network. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no connection to the network. Check it and try again.</translation>
     </message>
     <message>
         <source>There is no disc. Put it in, or choose an image or a folder, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no disc. Put it in, or choose an image or a folder, and try again.</translation>
     </message>
     <message>
         <source>There is no display whose picture could be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no display whose picture could be recorded.</translation>
     </message>
     <message>
         <source>There is no film at this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no film at this address.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no film at this address. Look for the page that plays it.</translation>
     </message>
     <message>
         <source>There is no log yet</source>
@@ -2349,11 +2461,11 @@
     </message>
     <message>
         <source>There is no picture at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no picture at this place.</translation>
     </message>
     <message>
         <source>There is no screen "%1". There is: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no screen "%1". There is: %2.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -2361,7 +2473,7 @@
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and try again; what has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no space left on the disk. Free some space and try again; what has come is kept.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -2369,11 +2481,11 @@
     </message>
     <message>
         <source>There is no video or sound file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no video or sound file in it.</translation>
     </message>
     <message>
         <source>There is no window %1 to be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is no window %1 to be seen.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
@@ -2381,19 +2493,19 @@
     </message>
     <message>
         <source>There is not enough memory to read this disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is not enough memory to read this disc.</translation>
     </message>
     <message>
         <source>There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder in the settings.</translation>
     </message>
     <message>
         <source>There is nothing to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is nothing to convert.</translation>
     </message>
     <message>
         <source>There is too little space on the disk to record.</source>
-        <translation type="unfinished"></translation>
+        <translation>There is too little space on the disk to record.</translation>
     </message>
     <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
@@ -2401,11 +2513,11 @@
     </message>
     <message>
         <source>This address is of no site that Kestrel knows. Check it, or look for the page that plays the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>This address is of no site that Kestrel knows. Check it, or look for the page that plays the film.</translation>
     </message>
     <message>
         <source>This choice is kept until you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>This choice is kept until you quit.</translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -2413,11 +2525,11 @@
     </message>
     <message>
         <source>This disc is being copied to this folder already.</source>
-        <translation type="unfinished"></translation>
+        <translation>This disc is being copied to this folder already.</translation>
     </message>
     <message>
         <source>This disc is copy-protected and cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>This disc is copy-protected and cannot be read.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
@@ -2425,11 +2537,11 @@
     </message>
     <message>
         <source>This file has neither picture nor sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file has neither picture nor sound to convert.</translation>
     </message>
     <message>
         <source>This file has no picture to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file has no picture to convert.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -2437,7 +2549,7 @@
     </message>
     <message>
         <source>This file holds no presets of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>This file holds no presets of Kestrel.</translation>
     </message>
     <message>
         <source>This file is damaged, or it holds neither video nor sound.</source>
@@ -2445,7 +2557,7 @@
     </message>
     <message>
         <source>This film has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>This film has no sound.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
@@ -2453,11 +2565,15 @@
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>This is another disc: %1 instead of %2.</translation>
+    </message>
+    <message>
+        <source>This is no address that can be downloaded from.</source>
+        <translation>This is no address that can be downloaded from.</translation>
     </message>
     <message>
         <source>This is no preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>This is no preset.</translation>
     </message>
     <message>
         <source>This is no text file</source>
@@ -2465,71 +2581,67 @@
     </message>
     <message>
         <source>This is no video DVD: there is no VIDEO_TS on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>This is no video DVD: there is no VIDEO_TS on it.</translation>
     </message>
     <message>
         <source>This is no video or sound file.</source>
         <translation>This is no video or sound file.</translation>
     </message>
     <message>
-        <source>This part is still being made and comes with an update.</source>
-        <translation>This part is still being made and comes with an update.</translation>
-    </message>
-    <message>
         <source>This preset has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>This preset has no name.</translation>
     </message>
     <message>
         <source>This preset keeps neither picture nor sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>This preset keeps neither picture nor sound.</translation>
     </message>
     <message>
         <source>This preset was made by a newer version of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>This preset was made by a newer version of Kestrel.</translation>
     </message>
     <message>
         <source>This title has no sound to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>This title has no sound to keep.</translation>
     </message>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Time line</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Title</translation>
     </message>
     <message>
         <source>Title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Title %1</translation>
     </message>
     <message>
         <source>Title %1 of the copy has %2 chapters instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Title %1 of the copy has %2 chapters instead of %3.</translation>
     </message>
     <message>
         <source>Title %1 of the copy has other tracks than the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Title %1 of the copy has other tracks than the disc.</translation>
     </message>
     <message>
         <source>Title %1 of the copy is %2 s long instead of %3 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Title %1 of the copy is %2 s long instead of %3 s.</translation>
     </message>
     <message>
         <source>Title %1, the main film</source>
-        <translation type="unfinished"></translation>
+        <translation>Title %1, the main film</translation>
     </message>
     <message>
         <source>Titles as MPEG-2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Titles as MPEG-2 files</translation>
     </message>
     <message>
         <source>Titles of the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Titles of the disc</translation>
     </message>
     <message>
         <source>Titles, unchanged (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Titles, unchanged (MKV)</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2537,19 +2649,19 @@
     </message>
     <message>
         <source>Too many requests: the server is asked again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Too many requests: the server is asked again in %1 s</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Top left</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Top right</translation>
     </message>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Track %1</translation>
     </message>
     <message>
         <source>Transcoder</source>
@@ -2557,19 +2669,19 @@
     </message>
     <message>
         <source>Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Trial</translation>
     </message>
     <message>
         <source>Try 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Try 10 Seconds</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Turn</translation>
     </message>
     <message>
         <source>Turned into standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Turned into standard</translation>
     </message>
     <message>
         <source>Unable to connect to update server.</source>
@@ -2581,19 +2693,23 @@
     </message>
     <message>
         <source>Unknown language</source>
-        <translation type="unfinished"></translation>
+        <translation>Unknown language</translation>
     </message>
     <message>
         <source>Unlimited</source>
         <translation>Unlimited</translation>
     </message>
     <message>
+        <source>Until it is stopped</source>
+        <translation>Until it is stopped</translation>
+    </message>
+    <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Untitled</translation>
     </message>
     <message>
         <source>Upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Upside down</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2601,11 +2717,11 @@
     </message>
     <message>
         <source>Use the graphics hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Use the graphics hardware</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Usual</translation>
     </message>
     <message>
         <source>Version: %@</source>
@@ -2613,7 +2729,7 @@
     </message>
     <message>
         <source>Very Small MP4 Video (480p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Very Small MP4 Video (480p)</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2629,11 +2745,11 @@
     </message>
     <message>
         <source>Video or sound file</source>
-        <translation type="unfinished"></translation>
+        <translation>Video or sound file</translation>
     </message>
     <message>
-        <source>Videos from the web, on your disk</source>
-        <translation>Videos from the web, on your disk</translation>
+        <source>Videos and music from the web are saved in the form that you choose.</source>
+        <translation>Videos and music from the web are saved in the form that you choose.</translation>
     </message>
     <message>
         <source>Visit our website:</source>
@@ -2645,19 +2761,19 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>WAV Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WAV Audio</translation>
     </message>
     <message>
         <source>WMA Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>WMA Audio</translation>
     </message>
     <message>
         <source>WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>WMV Video</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -2665,39 +2781,39 @@
     </message>
     <message>
         <source>Waiting for a network connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Waiting for a network connection</translation>
     </message>
     <message>
         <source>Waiting for space on the disk: %1 needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Waiting for space on the disk: %1 needed</translation>
     </message>
     <message>
         <source>Waiting for the network, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Waiting for the network, next attempt in %1 s</translation>
     </message>
     <message>
         <source>Waiting for the server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Waiting for the server…</translation>
     </message>
     <message>
         <source>Waiting: %1 downloads from this server are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>Waiting: %1 downloads from this server are under way</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Watermark</translation>
     </message>
     <message>
         <source>Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Web</translation>
     </message>
     <message>
         <source>WebM Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM Video (AV1, Opus)</translation>
     </message>
     <message>
         <source>WebM Video (VP8, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebM Video (VP8, Vorbis)</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
@@ -2705,39 +2821,47 @@
     </message>
     <message>
         <source>What the server sent is no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>What the server sent is no film.</translation>
     </message>
     <message>
         <source>What the site answered could not be understood.</source>
-        <translation type="unfinished"></translation>
+        <translation>What the site answered could not be understood.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>What this preset makes cannot be fitted to a size.</translation>
+    </message>
+    <message>
+        <source>What to record</source>
+        <translation>What to record</translation>
     </message>
     <message>
         <source>What you stop now is offered to you again at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>What you stop now is offered to you again at the next start.</translation>
     </message>
     <message>
         <source>Where it is needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Where it is needed</translation>
     </message>
     <message>
         <source>Whole Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Whole Picture</translation>
     </message>
     <message>
         <source>Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Width of the picture</translation>
     </message>
     <message>
         <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>Window</source>
         <translation>Window</translation>
+    </message>
+    <message>
+        <source>Window: %1</source>
+        <translation>Window: %1</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>
@@ -2761,11 +2885,11 @@
     </message>
     <message>
         <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</translation>
     </message>
     <message>
         <source>Your settings could not be saved when Kestrel was last quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Your settings could not be saved when Kestrel was last quit.</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -2785,7 +2909,7 @@
     </message>
     <message>
         <source>another commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>another commentary</translation>
     </message>
     <message>
         <source>closetip</source>
@@ -2793,31 +2917,31 @@
     </message>
     <message>
         <source>commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>commentary</translation>
     </message>
     <message>
         <source>for children</source>
-        <translation type="unfinished"></translation>
+        <translation>for children</translation>
     </message>
     <message>
         <source>for the hard of hearing</source>
-        <translation type="unfinished"></translation>
+        <translation>for the hard of hearing</translation>
     </message>
     <message>
         <source>for the visually impaired</source>
-        <translation type="unfinished"></translation>
+        <translation>for the visually impaired</translation>
     </message>
     <message>
         <source>forced</source>
-        <translation type="unfinished"></translation>
+        <translation>forced</translation>
     </message>
     <message>
         <source>kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>kept as it is</translation>
     </message>
     <message>
         <source>large</source>
-        <translation type="unfinished"></translation>
+        <translation>large</translation>
     </message>
     <message>
         <source>less than a minute left</source>
@@ -2825,7 +2949,7 @@
     </message>
     <message>
         <source>same as title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>same as title %1</translation>
     </message>
     <message>
         <source>showtip</source>
@@ -2833,11 +2957,11 @@
     </message>
     <message>
         <source>{name}, {preset}, {folder} and {date} are filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>{name}, {preset}, {folder} and {date} are filled in.</translation>
     </message>
     <message>
         <source>“%1” could not be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>“%1” could not be played.</translation>
     </message>
 </context>
 </TS>

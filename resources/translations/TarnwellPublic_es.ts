@@ -8,80 +8,88 @@
         <translation>%1 (%2 hilos)</translation>
     </message>
     <message>
+        <source>%1 (sound only)</source>
+        <translation>%1 (solo sonido)</translation>
+    </message>
+    <message>
         <source>%1 - Title %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - Título %2</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 MB are too few for a file of this length.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB es muy poco para un archivo de esta duración.</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 y %2 más</translation>
     </message>
     <message>
         <source>%1 angles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ángulos</translation>
     </message>
     <message>
         <source>%1 chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 capítulos</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>%1 files selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 archivos seleccionados</translation>
     </message>
     <message>
         <source>%1 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read, %3 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han podido leer %1 de %2 s, %3 errores</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han podido leer %1 de %2 s.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 s could be read, %2 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Se han podido leer %1 s, %2 errores</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido leer %1 sectores del disco; en la copia están vacíos.</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido leer %1 sectores del disco; en la imagen están vacíos.</translation>
     </message>
     <message>
         <source>%1 sectors of the film could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido leer %1 sectores de la película.</translation>
     </message>
     <message>
         <source>%1 titles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 títulos</translation>
     </message>
     <message>
         <source>%1 to go</source>
-        <translation type="unfinished"></translation>
+        <translation>faltan %1</translation>
     </message>
     <message>
         <source>%1 ×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ×</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -93,95 +101,95 @@
     </message>
     <message>
         <source>128 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbit/s</translation>
     </message>
     <message>
         <source>160 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbit/s</translation>
     </message>
     <message>
         <source>192 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbit/s</translation>
     </message>
     <message>
         <source>23.976</source>
-        <translation type="unfinished"></translation>
+        <translation>23,976</translation>
     </message>
     <message>
         <source>24</source>
-        <translation type="unfinished"></translation>
+        <translation>24</translation>
     </message>
     <message>
         <source>25</source>
-        <translation type="unfinished"></translation>
+        <translation>25</translation>
     </message>
     <message>
         <source>256 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbit/s</translation>
     </message>
     <message>
         <source>2560 × 1440</source>
-        <translation type="unfinished"></translation>
+        <translation>2560 × 1440</translation>
     </message>
     <message>
         <source>29.97</source>
-        <translation type="unfinished"></translation>
+        <translation>29,97</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>320 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbit/s</translation>
     </message>
     <message>
         <source>448 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>448 kbit/s</translation>
     </message>
     <message>
         <source>4K (3840 × 2160)</source>
-        <translation type="unfinished"></translation>
+        <translation>4K (3840 × 2160)</translation>
     </message>
     <message>
         <source>50</source>
-        <translation type="unfinished"></translation>
+        <translation>50</translation>
     </message>
     <message>
         <source>59.94</source>
-        <translation type="unfinished"></translation>
+        <translation>59,94</translation>
     </message>
     <message>
         <source>60</source>
-        <translation type="unfinished"></translation>
+        <translation>60</translation>
     </message>
     <message>
         <source>64 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbit/s</translation>
     </message>
     <message>
         <source>640 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>640 kbit/s</translation>
     </message>
     <message>
         <source>96 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbit/s</translation>
     </message>
     <message>
         <source>A chapter for each joined file</source>
-        <translation type="unfinished"></translation>
+        <translation>Un capítulo por cada archivo unido</translation>
     </message>
     <message>
         <source>A disc of the chosen title alone, without menus, that players start at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disco solo con el título elegido, sin menús, que los reproductores inician al momento.</translation>
     </message>
     <message>
         <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un archivo de tipo %1 no puede contener lo que pide este preajuste: %2.</translation>
     </message>
     <message>
         <source>A folder has no sectors to copy. Choose another way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una carpeta no tiene sectores que copiar. Elija otro modo.</translation>
     </message>
     <message>
         <source>A new version of %@ is available!</source>
@@ -189,27 +197,27 @@
     </message>
     <message>
         <source>A preset needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un preajuste necesita un nombre.</translation>
     </message>
     <message>
         <source>AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio AC-3</translation>
     </message>
     <message>
         <source>AIFF Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio AIFF</translation>
     </message>
     <message>
         <source>APNG Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animación APNG</translation>
     </message>
     <message>
         <source>AVI Video (MPEG-4, MP3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo AVI (MPEG-4, MP3)</translation>
     </message>
     <message>
         <source>AVI Video (Motion JPEG, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo AVI (Motion JPEG, PCM)</translation>
     </message>
     <message>
         <source>About</source>
@@ -217,7 +225,7 @@
     </message>
     <message>
         <source>About %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Unos %1.</translation>
     </message>
     <message>
         <source>About %@</source>
@@ -232,36 +240,48 @@
         <translation>Acerca de nuestra empresa, Tarnwell Software, Inc.</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Añadir</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>Añadir %1</translation>
+    </message>
+    <message>
         <source>Add Files…</source>
         <translation>Añadir archivos…</translation>
     </message>
     <message>
         <source>Add Subtitle File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadir archivo de subtítulos…</translation>
     </message>
     <message>
         <source>Adding the subtitles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Añadiendo los subtítulos…</translation>
     </message>
     <message>
         <source>Address</source>
         <translation>Dirección</translation>
     </message>
     <message>
+        <source>Address of a video or a page, such as https://…</source>
+        <translation>Dirección de un vídeo o una página, como https://…</translation>
+    </message>
+    <message>
         <source>Aim</source>
-        <translation type="unfinished"></translation>
+        <translation>Objetivo</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos</translation>
     </message>
     <message>
         <source>All Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los formatos</translation>
     </message>
     <message>
         <source>All Formats…</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los formatos…</translation>
     </message>
     <message>
         <source>All files</source>
@@ -269,35 +289,39 @@
     </message>
     <message>
         <source>All files of the disc in a folder, with its menus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todos los archivos del disco en una carpeta, con sus menús.</translation>
     </message>
     <message>
         <source>All jobs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las tareas se han completado.</translation>
     </message>
     <message>
         <source>All jobs have ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las tareas han terminado.</translation>
     </message>
     <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todas las pistas de sonido de los títulos elegidos, con sus capítulos.</translation>
+    </message>
+    <message>
+        <source>Allow Many From One Server</source>
+        <translation>Permitir muchas de un mismo servidor</translation>
     </message>
     <message>
         <source>Already in the list: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya está en la lista: %1</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Siempre</translation>
     </message>
     <message>
         <source>Always kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar siempre</translation>
     </message>
     <message>
         <source>Always, twice the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Siempre, el doble de imágenes</translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -305,7 +329,7 @@
     </message>
     <message>
         <source>Another folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Otra carpeta…</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -313,11 +337,11 @@
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Aplicar</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo histórico</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -329,19 +353,19 @@
     </message>
     <message>
         <source>As the format has it</source>
-        <translation type="unfinished"></translation>
+        <translation>Según el formato</translation>
     </message>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Como el origen</translation>
     </message>
     <message>
         <source>Asking the site…</source>
-        <translation type="unfinished"></translation>
+        <translation>Consultando el sitio…</translation>
     </message>
     <message>
         <source>At most</source>
-        <translation type="unfinished"></translation>
+        <translation>Como máximo</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -356,28 +380,32 @@
         <translation>Haga copias de seguridad de sus DVD en 6 modos y convierta un DVD completo a más de 180 formatos para reproducirlo en Mac y dispositivos móviles, guardarlo en el disco duro o verlo en la tele, entre otros. ¡Un DVD completo en 5 minutos!</translation>
     </message>
     <message>
+        <source>Begin at once</source>
+        <translation>Empezar de inmediato</translation>
+    </message>
+    <message>
         <source>Beside the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Junto al origen</translation>
     </message>
     <message>
         <source>Bit rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa de bits</translation>
     </message>
     <message>
         <source>Bit rate of a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Tasa de bits de una pista</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la izquierda</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>Abajo a la derecha</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Brillo</translation>
     </message>
     <message>
         <source>Build on: %@</source>
@@ -385,11 +413,15 @@
     </message>
     <message>
         <source>Burnt into the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Incrustados en la imagen</translation>
     </message>
     <message>
         <source>CAF Audio (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio CAF (ALAC)</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Cámara %1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -397,19 +429,19 @@
     </message>
     <message>
         <source>Cancel the Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelar la prueba</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelado</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Cancelados: %1</translation>
     </message>
     <message>
         <source>Cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede usar</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -421,19 +453,19 @@
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Canales</translation>
     </message>
     <message>
         <source>Chapter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capítulo %1</translation>
     </message>
     <message>
         <source>Chapters are missing in the finished file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faltan capítulos en el archivo terminado.</translation>
     </message>
     <message>
         <source>Chapters, languages and the colours of subtitles, which MPEG-2 files cannot hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Capítulos, idiomas y colores de los subtítulos, que los archivos MPEG-2 no admiten</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
@@ -445,19 +477,31 @@
     </message>
     <message>
         <source>Checking the copy…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando la copia…</translation>
     </message>
     <message>
         <source>Checking the finished file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Comprobando el archivo terminado…</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Elegir</translation>
+    </message>
+    <message>
+        <source>Choose Films</source>
+        <translation>Elegir películas</translation>
     </message>
     <message>
         <source>Choose a Folder</source>
         <translation>Elegir una carpeta</translation>
+    </message>
+    <message>
+        <source>Choose above what is recorded, then press Record.</source>
+        <translation>Elija arriba qué se graba y pulse Grabar.</translation>
+    </message>
+    <message>
+        <source>Choose an Area</source>
+        <translation>Elegir un área</translation>
     </message>
     <message>
         <source>Choose another one, or allow yourself to write to it: %1</source>
@@ -473,7 +517,7 @@
     </message>
     <message>
         <source>Clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>A la derecha</translation>
     </message>
     <message>
         <source>Close</source>
@@ -488,8 +532,12 @@
         <translation>General</translation>
     </message>
     <message>
+        <source>Computer and microphone</source>
+        <translation>Ordenador y micrófono</translation>
+    </message>
+    <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conectando…</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -497,7 +545,7 @@
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Convert</source>
@@ -513,11 +561,11 @@
     </message>
     <message>
         <source>Converting ten seconds: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Convirtiendo diez segundos: %1 %</translation>
     </message>
     <message>
         <source>Converting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Convirtiendo…</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -537,15 +585,23 @@
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Esquina</translation>
+    </message>
+    <message>
+        <source>Count down from three</source>
+        <translation>Cuenta atrás desde tres</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Cuenta atrás</translation>
     </message>
     <message>
         <source>Counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>A la izquierda</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Portada</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -553,43 +609,43 @@
     </message>
     <message>
         <source>Cut and Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar y editar</translation>
     </message>
     <message>
         <source>Cut and Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortar y editar…</translation>
     </message>
     <message>
         <source>Cut exactly (encodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Corte exacto (vuelve a codificar)</translation>
     </message>
     <message>
         <source>Cut off bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar por abajo</translation>
     </message>
     <message>
         <source>Cut off left</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar por la izquierda</translation>
     </message>
     <message>
         <source>Cut off right</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar por la derecha</translation>
     </message>
     <message>
         <source>Cut off top</source>
-        <translation type="unfinished"></translation>
+        <translation>Recortar por arriba</translation>
     </message>
     <message>
         <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cortado sin volver a codificar: comienza en la última imagen clave anterior a %1 s.</translation>
     </message>
     <message>
         <source>DTS</source>
-        <translation type="unfinished"></translation>
+        <translation>DTS</translation>
     </message>
     <message>
         <source>DV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo DV</translation>
     </message>
     <message>
         <source>DVD</source>
@@ -597,7 +653,7 @@
     </message>
     <message>
         <source>DVD (720 × 576)</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD (720 × 576)</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -605,7 +661,7 @@
     </message>
     <message>
         <source>Data of the camera, such as time code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos de la cámara, como el código de tiempo.</translation>
     </message>
     <message>
         <source>Default</source>
@@ -613,11 +669,11 @@
     </message>
     <message>
         <source>Deinterlacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Desentrelazado</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Eliminar</translation>
     </message>
     <message>
         <source>Details</source>
@@ -629,31 +685,31 @@
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivos</translation>
     </message>
     <message>
         <source>Disc Player (VOB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproductor de discos (VOB)</translation>
     </message>
     <message>
         <source>Disc folder with menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de disco con menús</translation>
     </message>
     <message>
         <source>Disc image (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen de disco (ISO)</translation>
     </message>
     <message>
         <source>Disc images</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes de disco</translation>
     </message>
     <message>
         <source>Dolby Digital</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolby Digital</translation>
     </message>
     <message>
         <source>Don't Shut Down</source>
-        <translation type="unfinished"></translation>
+        <translation>No apagar</translation>
     </message>
     <message>
         <source>Done</source>
@@ -661,15 +717,15 @@
     </message>
     <message>
         <source>Done with problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Completado con problemas</translation>
     </message>
     <message>
         <source>Done with problems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Completados con problemas: %1</translation>
     </message>
     <message>
         <source>Done: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Completados: %1</translation>
     </message>
     <message>
         <source>Download</source>
@@ -704,8 +760,12 @@
         <translation>Descargas simultáneas</translation>
     </message>
     <message>
+        <source>Draw an area, then press Return</source>
+        <translation>Dibuje un área y pulse Intro</translation>
+    </message>
+    <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Unidad</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -717,7 +777,7 @@
     </message>
     <message>
         <source>E-AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio E-AC-3</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -725,55 +785,55 @@
     </message>
     <message>
         <source>Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Edición</translation>
     </message>
     <message>
         <source>Encoding in software</source>
-        <translation type="unfinished"></translation>
+        <translation>Codificando por software</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Codificando, porque no se han podido copiar las pistas</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>End Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminar aquí</translation>
     </message>
     <message>
         <source>Even out the loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Igualar el volumen</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exportar…</translation>
     </message>
     <message>
         <source>FLAC Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio FLAC</translation>
     </message>
     <message>
         <source>FLV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo FLV (H.264, AAC)</translation>
     </message>
     <message>
         <source>Fade in</source>
-        <translation type="unfinished"></translation>
+        <translation>Fundido de entrada</translation>
     </message>
     <message>
         <source>Fade out</source>
-        <translation type="unfinished"></translation>
+        <translation>Fundido de salida</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Con error</translation>
     </message>
     <message>
         <source>Failed: %1</source>
@@ -781,27 +841,31 @@
     </message>
     <message>
         <source>Faster, larger file</source>
-        <translation type="unfinished"></translation>
+        <translation>Más rápido, archivo más grande</translation>
     </message>
     <message>
         <source>Fastest, largest file</source>
-        <translation type="unfinished"></translation>
+        <translation>El más rápido, el archivo más grande</translation>
     </message>
     <message>
         <source>File size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño máximo del archivo</translation>
     </message>
     <message>
         <source>Files can be cut or joined, but not both at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los archivos se pueden cortar o unir, pero no ambas cosas a la vez.</translation>
     </message>
     <message>
         <source>Film from television (24)</source>
-        <translation type="unfinished"></translation>
+        <translation>Película de la televisión (24)</translation>
+    </message>
+    <message>
+        <source>Films at this address</source>
+        <translation>Películas en esta dirección</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrar</translation>
     </message>
     <message>
         <source>Find</source>
@@ -809,7 +873,7 @@
     </message>
     <message>
         <source>Find Black Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar franjas negras</translation>
     </message>
     <message>
         <source>Find Next</source>
@@ -821,15 +885,15 @@
     </message>
     <message>
         <source>Finishing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalizando…</translation>
     </message>
     <message>
         <source>First pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Primera pasada</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta</translation>
     </message>
     <message>
         <source>Follow</source>
@@ -837,19 +901,19 @@
     </message>
     <message>
         <source>For all files</source>
-        <translation type="unfinished"></translation>
+        <translation>Para todos los archivos</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Por ejemplo: %1</translation>
     </message>
     <message>
         <source>For the DVD ripper, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para el extractor de DVD, que aún está en desarrollo.</translation>
     </message>
     <message>
         <source>For the downloader, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Para las descargas, que aún están en desarrollo.</translation>
     </message>
     <message>
         <source>Format</source>
@@ -857,11 +921,11 @@
     </message>
     <message>
         <source>Format and options in use are kept under this name:</source>
-        <translation type="unfinished"></translation>
+        <translation>El formato y las opciones en uso se guardan con este nombre:</translation>
     </message>
     <message>
         <source>Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formatos</translation>
     </message>
     <message>
         <source>Found after going around the end of the log.</source>
@@ -869,23 +933,23 @@
     </message>
     <message>
         <source>Full HD (1920 × 1080)</source>
-        <translation type="unfinished"></translation>
+        <translation>Full HD (1920 × 1080)</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
-        <translation type="unfinished"></translation>
+        <translation>Otras imágenes además de la primera (otros ángulos o vistas previas).</translation>
     </message>
     <message>
         <source>GIF Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animación GIF</translation>
     </message>
     <message>
         <source>Game Console</source>
-        <translation type="unfinished"></translation>
+        <translation>Consola de juegos</translation>
     </message>
     <message>
         <source>Go On</source>
-        <translation type="unfinished"></translation>
+        <translation>Reanudar</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -905,7 +969,7 @@
     </message>
     <message>
         <source>HD (1280 × 720)</source>
-        <translation type="unfinished"></translation>
+        <translation>HD (1280 × 720)</translation>
     </message>
     <message>
         <source>HEVC decoders</source>
@@ -929,15 +993,15 @@
     </message>
     <message>
         <source>High dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Alto rango dinámico</translation>
     </message>
     <message>
         <source>High dynamic range becomes standard range.</source>
-        <translation type="unfinished"></translation>
+        <translation>El alto rango dinámico se convierte en rango estándar.</translation>
     </message>
     <message>
         <source>High quality (slower)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta calidad (más lento)</translation>
     </message>
     <message>
         <source>Highest Resolution</source>
@@ -945,15 +1009,15 @@
     </message>
     <message>
         <source>How the disc is kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Cómo se conserva el disco</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importar…</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -961,91 +1025,67 @@
     </message>
     <message>
         <source>Interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrumpido</translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
         <translation>Se mostrará aquí en cuanto se escriba: %1</translation>
     </message>
     <message>
-        <source>It will fetch several at a time, in the resolution that you prefer.</source>
-        <translation>Obtendrá varios a la vez, en la resolución que prefiera.</translation>
-    </message>
-    <message>
-        <source>It will go through your proxy where you have one.</source>
-        <translation>Usará su proxy si lo tiene.</translation>
-    </message>
-    <message>
-        <source>It will record the sound of the computer and of a microphone.</source>
-        <translation>Grabará el sonido del ordenador y de un micrófono.</translation>
-    </message>
-    <message>
-        <source>It will record the whole screen, a window or a part of it.</source>
-        <translation>Grabará la pantalla completa, una ventana o una parte.</translation>
-    </message>
-    <message>
-        <source>It will save videos and music from addresses that you paste.</source>
-        <translation>Guardará vídeos y música de las direcciones que pegue.</translation>
-    </message>
-    <message>
-        <source>It will show mouse clicks where you want them seen.</source>
-        <translation>Mostrará los clics del ratón donde quiera que se vean.</translation>
-    </message>
-    <message>
         <source>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus títulos se conservan tal como están o se convierten a MP4, MKV o MP3, según elija.</translation>
     </message>
     <message>
         <source>Jobs are running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay tareas en curso.</translation>
     </message>
     <message>
         <source>Jobs are still running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Todavía hay tareas en curso.</translation>
     </message>
     <message>
         <source>Join all files into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Unir todos los archivos en uno</translation>
     </message>
     <message>
         <source>Join into One</source>
-        <translation type="unfinished"></translation>
+        <translation>Unir en uno</translation>
     </message>
     <message>
         <source>Joining</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniendo</translation>
     </message>
     <message>
         <source>Keep Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Seguir</translation>
     </message>
     <message>
         <source>Keep the Rest Instead</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar el resto</translation>
     </message>
     <message>
         <source>Keep the date of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar la fecha del origen</translation>
     </message>
     <message>
         <source>Keep tracks that fit as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar las pistas adecuadas tal como están</translation>
     </message>
     <message>
         <source>Kept as a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservados como pista</translation>
     </message>
     <message>
         <source>Kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conserva hasta salir</translation>
     </message>
     <message>
         <source>Kept where it can be</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservar si es posible</translation>
     </message>
     <message>
         <source>Kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conserva: %1</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -1061,11 +1101,11 @@
     </message>
     <message>
         <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel no conoce la duración de este archivo y no puede ajustarse a un tamaño.</translation>
     </message>
     <message>
         <source>Kestrel does not know the kind of file “%1” of this preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel no conoce el tipo de archivo “%1” de este preajuste.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1077,15 +1117,15 @@
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluido</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Excluido: %1</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Duración</translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -1105,19 +1145,19 @@
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio M4A (AAC)</translation>
     </message>
     <message>
         <source>M4A Audio, Lossless (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio M4A, sin pérdida (ALAC)</translation>
     </message>
     <message>
         <source>MKA Audio (Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio MKA (Opus)</translation>
     </message>
     <message>
         <source>MKV Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MKV (AV1, Opus)</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
@@ -1125,31 +1165,31 @@
     </message>
     <message>
         <source>MKV Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MKV (H.265, AAC)</translation>
     </message>
     <message>
         <source>MKV Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MKV (VP9, Opus)</translation>
     </message>
     <message>
         <source>MKV Video, High Quality (H.265, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MKV, alta calidad (H.265, FLAC)</translation>
     </message>
     <message>
         <source>MKV Video, Lossless (FFV1, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MKV, sin pérdida (FFV1, FLAC)</translation>
     </message>
     <message>
         <source>MOV Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MOV (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MOV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MOV (H.264, AAC)</translation>
     </message>
     <message>
         <source>MOV Video (ProRes, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MOV (ProRes, PCM)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
@@ -1157,7 +1197,7 @@
     </message>
     <message>
         <source>MP4 Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MP4 (AV1, Opus)</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
@@ -1165,27 +1205,27 @@
     </message>
     <message>
         <source>MP4 Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MP4 (H.265, AAC)</translation>
     </message>
     <message>
         <source>MP4 Video for Web Pages (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MP4 para páginas web (1080p)</translation>
     </message>
     <message>
         <source>MPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG</translation>
     </message>
     <message>
         <source>MPEG Video (MPEG-2, MP2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MPEG (MPEG-2, MP2)</translation>
     </message>
     <message>
         <source>MXF Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MXF (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MXF Video (MPEG-2, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MXF (MPEG-2, PCM)</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1197,11 +1237,15 @@
     </message>
     <message>
         <source>Messages of the tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Mensajes de las herramientas</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Micrófono</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -1209,11 +1253,11 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Reflejar</translation>
     </message>
     <message>
         <source>Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Mono</translation>
     </message>
     <message>
         <source>Music folder</source>
@@ -1221,7 +1265,7 @@
     </message>
     <message>
         <source>My Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Mis preajustes</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1229,19 +1273,19 @@
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nombre del preajuste:</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Nunca</translation>
     </message>
     <message>
         <source>No camera was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha encontrado ninguna cámara.</translation>
     </message>
     <message>
         <source>No format matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún formato coincide con la búsqueda.</translation>
     </message>
     <message>
         <source>No log was named</source>
@@ -1249,19 +1293,27 @@
     </message>
     <message>
         <source>No picture of the copy could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido decodificar ninguna imagen de la copia.</translation>
     </message>
     <message>
         <source>No picture of this film could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido decodificar ninguna imagen de esta película.</translation>
     </message>
     <message>
         <source>No server answers at this address. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ningún servidor responde en esta dirección. Compruébela e inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>Sin sonido</translation>
+    </message>
+    <message>
+        <source>No speed limit</source>
+        <translation>Sin límite de velocidad</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Ninguna</translation>
     </message>
     <message>
         <source>Not chosen yet</source>
@@ -1269,19 +1321,19 @@
     </message>
     <message>
         <source>Not turned</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin girar</translation>
     </message>
     <message>
         <source>Not used yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se usa</translation>
     </message>
     <message>
         <source>Not used yet, kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Aún no se usa; se conserva hasta salir</translation>
     </message>
     <message>
         <source>Nothing could be decoded at %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido decodificar nada en %1 s.</translation>
     </message>
     <message>
         <source>Nothing found.</source>
@@ -1289,31 +1341,31 @@
     </message>
     <message>
         <source>Nothing of the file could be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido convertir nada del archivo.</translation>
     </message>
     <message>
         <source>Nothing of the film could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer nada de la película.</translation>
     </message>
     <message>
         <source>Nothing of the recording is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>No queda nada de la grabación.</translation>
     </message>
     <message>
         <source>Nothing of this file would be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se conservaría nada de este archivo.</translation>
     </message>
     <message>
         <source>Nothing was recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha grabado nada.</translation>
     </message>
     <message>
         <source>OGG Audio (Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio OGG (Vorbis)</translation>
     </message>
     <message>
         <source>OGV Video (Theora, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo OGV (Theora, Vorbis)</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1325,27 +1377,27 @@
     </message>
     <message>
         <source>Old Phone (3GP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono antiguo (3GP)</translation>
     </message>
     <message>
         <source>One title as a disc folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Un título como carpeta de disco</translation>
     </message>
     <message>
         <source>Only %1 of %2 s have come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo han llegado %1 de %2 s.</translation>
     </message>
     <message>
         <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo se pueden unir archivos si todos tienen imagen o todos tienen sonido.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo se puede incrustar una pista de subtítulos; las demás quedan fuera.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacidad</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1353,11 +1405,11 @@
     </message>
     <message>
         <source>Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir carpeta…</translation>
     </message>
     <message>
         <source>Open Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Abrir imagen…</translation>
     </message>
     <message>
         <source>Open the log with “App Log” in the Help menu of %1.</source>
@@ -1373,35 +1425,35 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opciones</translation>
     </message>
     <message>
         <source>Opus Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio Opus</translation>
     </message>
     <message>
         <source>Original Sound, in an MKA File</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido original, en un archivo MKA</translation>
     </message>
     <message>
         <source>Original, in a MOV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, en un archivo MOV</translation>
     </message>
     <message>
         <source>Original, in a TS File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, en un archivo TS</translation>
     </message>
     <message>
         <source>Original, in an MKV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, en un archivo MKV</translation>
     </message>
     <message>
         <source>Original, in an MP4 File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, en un archivo MP4</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Salida</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -1413,79 +1465,87 @@
     </message>
     <message>
         <source>PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>PCM</translation>
     </message>
     <message>
         <source>Page of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Página de opciones</translation>
+    </message>
+    <message>
+        <source>Part of the screen…</source>
+        <translation>Parte de la pantalla…</translation>
     </message>
     <message>
         <source>Parts of the finished file are missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Faltan partes del archivo terminado.</translation>
     </message>
     <message>
         <source>Paste</source>
         <translation>Pegar</translation>
     </message>
     <message>
+        <source>Paste or drop addresses here</source>
+        <translation>Pegue o suelte direcciones aquí</translation>
+    </message>
+    <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausar</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>En pausa</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono</translation>
     </message>
     <message>
         <source>Phone (H.265)</source>
-        <translation type="unfinished"></translation>
+        <translation>Teléfono (H.265)</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen</translation>
     </message>
     <message>
         <source>Picture, all sound, subtitles in their colours and chapters of the chosen titles, nothing encoded again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen, todo el sonido, subtítulos con sus colores y capítulos de los títulos elegidos, sin volver a codificar nada.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes</translation>
     </message>
     <message>
         <source>Pictures a second</source>
-        <translation type="unfinished"></translation>
+        <translation>Imágenes por segundo</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragmento %1 de %2</translation>
     </message>
     <message>
         <source>Pieces that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Fragmentos que se conservan</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir</translation>
     </message>
     <message>
         <source>Play Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Reproducir el origen</translation>
     </message>
     <message>
         <source>Playing speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad de reproducción</translation>
     </message>
     <message>
         <source>Plays Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Se reproduce en todas partes</translation>
     </message>
     <message>
         <source>Please check that the disk has room and that this folder can be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Compruebe que haya espacio en el disco y que se pueda escribir en esta carpeta: %1</translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -1505,7 +1565,7 @@
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posición</translation>
     </message>
     <message>
         <source>Preferences…</source>
@@ -1517,7 +1577,7 @@
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preajustes</translation>
     </message>
     <message>
         <source>Problem detected in last conversion.</source>
@@ -1529,7 +1589,7 @@
     </message>
     <message>
         <source>Processor cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Núcleos del procesador</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1545,15 +1605,15 @@
     </message>
     <message>
         <source>Put a DVD in, or drop a disc image or folder here</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserte un DVD o suelte aquí una imagen de disco o una carpeta</translation>
     </message>
     <message>
         <source>Putting picture and sound together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniendo imagen y sonido…</translation>
     </message>
     <message>
         <source>Quality (lower is better)</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad (menor es mejor)</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -1561,11 +1621,11 @@
     </message>
     <message>
         <source>Reading the disc…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el disco…</translation>
     </message>
     <message>
         <source>Reading the disc… A drive may take half a minute for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el disco… La unidad puede tardar medio minuto.</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
@@ -1573,7 +1633,7 @@
     </message>
     <message>
         <source>Reading the file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Leyendo el archivo…</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -1582,6 +1642,10 @@
     <message>
         <source>Ready</source>
         <translation>Preparado</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Grabar</translation>
     </message>
     <message>
         <source>Record Video</source>
@@ -1596,8 +1660,16 @@
         <translation>Grabadora</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>Recording begins in %1 s. Press Record to begin at once.</source>
+        <translation>La grabación comienza en %1 s. Pulse Grabar para comenzar de inmediato.</translation>
+    </message>
+    <message>
         <source>Recovered after an interruption.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperado tras una interrupción.</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -1613,19 +1685,23 @@
     </message>
     <message>
         <source>Remove Piece</source>
-        <translation type="unfinished"></translation>
+        <translation>Quitar fragmento</translation>
+    </message>
+    <message>
+        <source>Remove With Partial File</source>
+        <translation>Quitar con el archivo parcial</translation>
     </message>
     <message>
         <source>Removes what is done from the list. The files stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Quita de la lista lo que está completado. Los archivos se conservan.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Cambiar nombre…</translation>
     </message>
     <message>
         <source>Report Bug</source>
@@ -1641,19 +1717,19 @@
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Resultado</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>En curso</translation>
     </message>
     <message>
         <source>Safe mode: check the whole result</source>
-        <translation type="unfinished"></translation>
+        <translation>Modo seguro: comprobar todo el resultado</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturación</translation>
     </message>
     <message>
         <source>Save a Copy</source>
@@ -1665,23 +1741,27 @@
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como preajuste</translation>
     </message>
     <message>
         <source>Save as Preset…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardar como preajuste…</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardado: %1</translation>
     </message>
     <message>
         <source>Saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Guardando…</translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
         <translation>Guardando… %1 % (Esc para detener)</translation>
+    </message>
+    <message>
+        <source>Screen %1 (%2 × %3)</source>
+        <translation>Pantalla %1 (%2 × %3)</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
@@ -1701,11 +1781,11 @@
     </message>
     <message>
         <source>Search formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar formatos</translation>
     </message>
     <message>
         <source>Search: MKV, AV1, FLAC …</source>
-        <translation type="unfinished"></translation>
+        <translation>Buscar: MKV, AV1, FLAC…</translation>
     </message>
     <message>
         <source>Searching… %1 % (Esc stops)</source>
@@ -1713,7 +1793,7 @@
     </message>
     <message>
         <source>Second pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Segunda pasada</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1721,7 +1801,7 @@
     </message>
     <message>
         <source>Select one file in the list to choose among its tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleccione un archivo de la lista para elegir entre sus pistas.</translation>
     </message>
     <message>
         <source>Send Feedback</source>
@@ -1737,11 +1817,11 @@
     </message>
     <message>
         <source>Several formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Varios formatos</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar</translation>
     </message>
     <message>
         <source>Show File</source>
@@ -1749,7 +1829,7 @@
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostrar en la carpeta</translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -1765,35 +1845,35 @@
     </message>
     <message>
         <source>Size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño máximo</translation>
     </message>
     <message>
         <source>Size: about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamaño: unos %1</translation>
     </message>
     <message>
         <source>Slower, smaller file</source>
-        <translation type="unfinished"></translation>
+        <translation>Más lento, archivo más pequeño</translation>
     </message>
     <message>
         <source>Slowest, smallest file</source>
-        <translation type="unfinished"></translation>
+        <translation>El más lento, el archivo más pequeño</translation>
     </message>
     <message>
         <source>Small (640 × 480)</source>
-        <translation type="unfinished"></translation>
+        <translation>Pequeño (640 × 480)</translation>
     </message>
     <message>
         <source>Small Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivos pequeños</translation>
     </message>
     <message>
         <source>Small MP4 Video (720p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MP4 pequeño (720p)</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Captura</translation>
     </message>
     <message>
         <source>Snapshot folder</source>
@@ -1801,43 +1881,55 @@
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido</translation>
+    </message>
+    <message>
+        <source>Sound level</source>
+        <translation>Nivel de sonido</translation>
+    </message>
+    <message>
+        <source>Sound of the computer</source>
+        <translation>Sonido del ordenador</translation>
     </message>
     <message>
         <source>Sound only, unchanged (MKA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo el sonido, sin cambios (MKA)</translation>
     </message>
     <message>
         <source>Sound track %1, which this film does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>Pista de sonido %1, que esta película no tiene</translation>
     </message>
     <message>
         <source>Sound: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido: %1</translation>
     </message>
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sonido: %1. %2 solo admite una pista de sonido.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen</translation>
     </message>
     <message>
         <source>Source (drag to crop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Origen (arrastre para recortar)</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocidad</translation>
+    </message>
+    <message>
+        <source>Speed limit of each download</source>
+        <translation>Límite de velocidad de cada descarga</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inicio</translation>
     </message>
     <message>
         <source>Start Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Empezar aquí</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1849,19 +1941,31 @@
     </message>
     <message>
         <source>Steady quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Calidad constante</translation>
     </message>
     <message>
         <source>Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>Estéreo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Detener</translation>
+    </message>
+    <message>
+        <source>Stop after</source>
+        <translation>Detener tras</translation>
+    </message>
+    <message>
+        <source>Stop after %1 min</source>
+        <translation>Detener tras %1 min</translation>
     </message>
     <message>
         <source>Stop and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener y salir</translation>
     </message>
     <message>
         <source>Stop and Restart</source>
-        <translation type="unfinished"></translation>
+        <translation>Detener y reiniciar</translation>
     </message>
     <message>
         <source>Stopped.</source>
@@ -1869,27 +1973,27 @@
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>Deteniendo…</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtítulos</translation>
     </message>
     <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtítulos en forma de imagen: %1. %2 no los admite; incrústelos o elija MKV.</translation>
     </message>
     <message>
         <source>Subtitles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtítulos: %1</translation>
     </message>
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtítulos: %1. %2 no los admite.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Subtítulos: %1. No pueden seguir los tiempos modificados; incrústelos para conservarlos.</translation>
     </message>
     <message>
         <source>Suggestions</source>
@@ -1897,27 +2001,27 @@
     </message>
     <message>
         <source>Surround 5.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Envolvente 5.1</translation>
     </message>
     <message>
         <source>TS Video (H.264, AC-3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo TS (H.264, AC-3)</translation>
     </message>
     <message>
         <source>TV (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Televisor (1080p)</translation>
     </message>
     <message>
         <source>TV (4K, HDR)</source>
-        <translation type="unfinished"></translation>
+        <translation>Televisor (4K, HDR)</translation>
     </message>
     <message>
         <source>Tablet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tableta</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texto</translation>
     </message>
     <message>
         <source>That is the log itself. Choose another name.</source>
@@ -1925,31 +2029,35 @@
     </message>
     <message>
         <source>The area to be recorded is outside the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>El área que se debe grabar está fuera de la pantalla.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo adjunto %1. %2 no lo admite.</translation>
     </message>
     <message>
         <source>The broadcast has not begun yet. Try again when it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>La emisión aún no ha comenzado. Inténtelo de nuevo cuando empiece.</translation>
+    </message>
+    <message>
+        <source>The camera's picture is not shown before it is recorded.</source>
+        <translation>La imagen de la cámara no se muestra antes de grabarla.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los capítulos. %1 no los admite.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los títulos elegidos se convierten en archivos del formato indicado al lado, tan pequeños como desee.</translation>
     </message>
     <message>
         <source>The computer will shut down in %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>El equipo se apagará en %1 segundos.</translation>
     </message>
     <message>
         <source>The conversion was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversión se ha detenido antes del final.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -1965,7 +2073,7 @@
     </message>
     <message>
         <source>The converter did not answer any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>El conversor ha dejado de responder.</translation>
     </message>
     <message>
         <source>The converter is missing. Please install the application again.</source>
@@ -1973,7 +2081,7 @@
     </message>
     <message>
         <source>The copy could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido volver a leer la copia.</translation>
     </message>
     <message>
         <source>The copy could not be saved: %1</source>
@@ -1981,11 +2089,11 @@
     </message>
     <message>
         <source>The copy has %1 titles instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia tiene %1 títulos en lugar de %2.</translation>
     </message>
     <message>
         <source>The copy was broken off. It goes on where it is when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia se ha interrumpido. Continuará desde este punto cuando se inicie de nuevo.</translation>
     </message>
     <message>
         <source>The copy was saved.</source>
@@ -1993,39 +2101,39 @@
     </message>
     <message>
         <source>The cover picture. %1 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen de portada. %1 no la admite.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen de portada. Se pierde al unir archivos de este modo.</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer el disco.</translation>
     </message>
     <message>
         <source>The disc did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco no ha respondido a tiempo.</translation>
     </message>
     <message>
         <source>The disc has no such title, chapter or angle.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco no tiene ese título, capítulo o ángulo.</translation>
     </message>
     <message>
         <source>The disc image ends before its film does.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen de disco termina antes que su película.</translation>
     </message>
     <message>
         <source>The disc is damaged: what it holds could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco está dañado: no se ha podido leer su contenido.</translation>
     </message>
     <message>
         <source>The disc may not be read by this user.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este usuario no tiene permiso para leer el disco.</translation>
     </message>
     <message>
         <source>The disc tools could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido iniciar las herramientas de disco. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -2033,7 +2141,7 @@
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco está demasiado lleno para finalizar la grabación: se conserva como archivo Matroska.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
@@ -2041,31 +2149,31 @@
     </message>
     <message>
         <source>The display %1 could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido abrir la pantalla %1.</translation>
     </message>
     <message>
         <source>The download engine does not work. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El motor de descarga no funciona. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el motor de descarga. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
-        <translation type="unfinished"></translation>
+        <translation>La descarga ha fallado. Los detalles muestran el mensaje del motor.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>El codificador para %1 no está instalado.</translation>
     </message>
     <message>
         <source>The file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido leer el archivo.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido escribir el archivo.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -2085,47 +2193,47 @@
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La película está protegida contra copia y no se descarga.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
-        <translation type="unfinished"></translation>
+        <translation>La película ya no está disponible. Búsquela en otra dirección.</translation>
     </message>
     <message>
         <source>The film is not there in the form that was wanted. Choose another resolution or format.</source>
-        <translation type="unfinished"></translation>
+        <translation>La película no está disponible en la forma deseada. Elija otra resolución u otro formato.</translation>
     </message>
     <message>
         <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La película es privada o solo para miembros, por lo que no se puede descargar.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>La película de los títulos elegidos tal como está en el disco; sin capítulos ni nombres de idiomas.</translation>
     </message>
     <message>
         <source>The finished file could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido volver a leer el archivo terminado.</translation>
     </message>
     <message>
         <source>The finished file has %1 bytes instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo terminado tiene %1 bytes en lugar de %2.</translation>
     </message>
     <message>
         <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo terminado contiene pistas distintas de las deseadas: %1 en lugar de %2.</translation>
     </message>
     <message>
         <source>The finished file is %1 s long instead of %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo terminado dura %1 s en lugar de %2 s.</translation>
     </message>
     <message>
         <source>The finished file is damaged: %1 faults.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo terminado está dañado: %1 errores.</translation>
     </message>
     <message>
         <source>The finished file is larger than wanted.</source>
-        <translation type="unfinished"></translation>
+        <translation>El archivo terminado es más grande de lo deseado.</translation>
     </message>
     <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
@@ -2137,7 +2245,11 @@
     </message>
     <message>
         <source>The folder for temporary files cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede escribir en la carpeta de archivos temporales.</translation>
+    </message>
+    <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation>Los últimos %1 s no tienen sonido: el servidor de sonido desapareció.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -2149,15 +2261,15 @@
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido leer las opciones de esta tarea. Vuelva a añadir la dirección.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se han podido leer las opciones de esta tarea. Vuelva a añadir el archivo.</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido escribir la salida.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -2169,51 +2281,51 @@
     </message>
     <message>
         <source>The picture has to be encoded (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay que codificar la imagen (%1).</translation>
     </message>
     <message>
         <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen se reduce a %1 × %2 para que quepa en el tamaño.</translation>
     </message>
     <message>
         <source>The picture is missing: the site handed out the sound alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta la imagen: el sitio solo ha entregado el sonido.</translation>
     </message>
     <message>
         <source>The picture of the finished file does not stand upright.</source>
-        <translation type="unfinished"></translation>
+        <translation>La imagen del archivo terminado no está derecha.</translation>
     </message>
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Los fragmentos que se deben conservar están después del final del archivo.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el reproductor. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing. Please install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el programa dvdauthor. Instálelo.</translation>
     </message>
     <message>
         <source>The proxy refuses the connection. Check its address in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>El proxy rechaza la conexión. Compruebe su dirección en los ajustes.</translation>
     </message>
     <message>
         <source>The recording could not be finished: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido finalizar la grabación: se conserva como archivo Matroska.</translation>
     </message>
     <message>
         <source>The recording ended because the disk is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación ha terminado porque el disco está casi lleno.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La grabación se ha interrumpido.</translation>
     </message>
     <message>
         <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se puede grabar la pantalla de una sesión de Wayland. Para grabarla, inicie una sesión de X11 (Xorg).</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2221,67 +2333,67 @@
     </message>
     <message>
         <source>The server broke off or could not answer. What has come is kept; try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor ha cortado la conexión o no ha podido responder. Lo recibido se conserva; inténtelo de nuevo más tarde.</translation>
     </message>
     <message>
         <source>The server broke off, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor ha cortado la conexión, próximo intento en %1 s</translation>
     </message>
     <message>
         <source>The server has sent only part of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor solo ha enviado una parte de la película.</translation>
     </message>
     <message>
         <source>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor se niega a entregar la película. Inténtelo más tarde o abra la página en un navegador para ver el motivo.</translation>
     </message>
     <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>El servidor no acepta más peticiones por ahora. Inténtelo de nuevo dentro de un rato.</translation>
     </message>
     <message>
         <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>El certificado del servidor no es válido, por lo que podría no ser quien dice ser. No se ha descargado nada.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Carpeta de los ajustes</translation>
     </message>
     <message>
         <source>The site does not show this film in your country. A proxy of another country can be set in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sitio no muestra esta película en su país. En los ajustes puede indicar un proxy de otro país.</translation>
     </message>
     <message>
         <source>The site has changed and the download engine does not know it any more. Update the engine and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sitio ha cambiado y el motor de descarga ya no lo reconoce. Actualice el motor e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sitio solo muestra esta película a quien ha iniciado sesión, y Kestrel no lo hace.</translation>
     </message>
     <message>
         <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sitio pide primero la edad del espectador, que solo conoce mediante un inicio de sesión.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido escribir la captura.</translation>
     </message>
     <message>
         <source>The sound could not be recorded. Is the sound server running?</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido grabar el sonido. ¿Está en marcha el servidor de sonido?</translation>
     </message>
     <message>
         <source>The sound is missing since the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el sonido desde que se cerró el servidor de sonido.</translation>
     </message>
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Falta el sonido: el sitio solo ha entregado la imagen.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>El sonido. %1 solo admite imágenes.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -2301,47 +2413,47 @@
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>El disco completo, sector a sector, en un archivo que se reproduce como el disco.</translation>
     </message>
     <message>
         <source>The whole film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Se conserva la película completa.</translation>
     </message>
     <message>
         <source>The window is too small to be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La ventana es demasiado pequeña para grabarla.</translation>
     </message>
     <message>
         <source>There are no black bars.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay franjas negras.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay varias películas en esta dirección. Añádala de nuevo para elegir entre ellas.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay demasiados preajustes. Elimine algunos primero.</translation>
     </message>
     <message>
         <source>There is no connection to the network. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay conexión de red. Compruébela e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>There is no disc. Put it in, or choose an image or a folder, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ningún disco. Insértelo, o elija una imagen o una carpeta, e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>There is no display whose picture could be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna pantalla cuya imagen se pueda grabar.</translation>
     </message>
     <message>
         <source>There is no film at this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna película en esta dirección.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna película en esta dirección. Busque la página que la reproduce.</translation>
     </message>
     <message>
         <source>There is no log yet</source>
@@ -2349,11 +2461,11 @@
     </message>
     <message>
         <source>There is no picture at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay imagen en este punto.</translation>
     </message>
     <message>
         <source>There is no screen "%1". There is: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>No existe la pantalla “%1”. Disponibles: %2.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -2361,7 +2473,7 @@
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and try again; what has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>No queda espacio en el disco. Libere espacio e inténtelo de nuevo; lo recibido se conserva.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -2369,11 +2481,11 @@
     </message>
     <message>
         <source>There is no video or sound file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No contiene ningún archivo de vídeo ni de sonido.</translation>
     </message>
     <message>
         <source>There is no window %1 to be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay ninguna ventana %1 visible.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
@@ -2381,19 +2493,19 @@
     </message>
     <message>
         <source>There is not enough memory to read this disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay memoria suficiente para leer este disco.</translation>
     </message>
     <message>
         <source>There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay espacio suficiente: se necesitan %1 y hay %2 libres. Libere espacio o elija otra carpeta en los ajustes.</translation>
     </message>
     <message>
         <source>There is nothing to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>No hay nada que convertir.</translation>
     </message>
     <message>
         <source>There is too little space on the disk to record.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hay muy poco espacio en el disco para grabar.</translation>
     </message>
     <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
@@ -2401,11 +2513,11 @@
     </message>
     <message>
         <source>This address is of no site that Kestrel knows. Check it, or look for the page that plays the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta dirección no es de ningún sitio que Kestrel conozca. Compruébela o busque la página que reproduce la película.</translation>
     </message>
     <message>
         <source>This choice is kept until you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta elección se conserva hasta salir de la aplicación.</translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -2413,11 +2525,11 @@
     </message>
     <message>
         <source>This disc is being copied to this folder already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este disco ya se está copiando en esta carpeta.</translation>
     </message>
     <message>
         <source>This disc is copy-protected and cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este disco está protegido contra copia y no se puede leer.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
@@ -2425,11 +2537,11 @@
     </message>
     <message>
         <source>This file has neither picture nor sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no tiene imagen ni sonido que convertir.</translation>
     </message>
     <message>
         <source>This file has no picture to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no tiene imagen que convertir.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -2437,7 +2549,7 @@
     </message>
     <message>
         <source>This file holds no presets of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este archivo no contiene preajustes de Kestrel.</translation>
     </message>
     <message>
         <source>This file is damaged, or it holds neither video nor sound.</source>
@@ -2445,7 +2557,7 @@
     </message>
     <message>
         <source>This film has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta película no tiene sonido.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
@@ -2453,11 +2565,15 @@
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este es otro disco: %1 en lugar de %2.</translation>
+    </message>
+    <message>
+        <source>This is no address that can be downloaded from.</source>
+        <translation>Desde esta dirección no se puede descargar nada.</translation>
     </message>
     <message>
         <source>This is no preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esto no es un preajuste.</translation>
     </message>
     <message>
         <source>This is no text file</source>
@@ -2465,71 +2581,67 @@
     </message>
     <message>
         <source>This is no video DVD: there is no VIDEO_TS on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>No es un DVD de vídeo: no contiene VIDEO_TS.</translation>
     </message>
     <message>
         <source>This is no video or sound file.</source>
         <translation>No es un archivo de vídeo ni de sonido.</translation>
     </message>
     <message>
-        <source>This part is still being made and comes with an update.</source>
-        <translation>Esta parte aún está en desarrollo y llegará con una actualización.</translation>
-    </message>
-    <message>
         <source>This preset has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este preajuste no tiene nombre.</translation>
     </message>
     <message>
         <source>This preset keeps neither picture nor sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este preajuste no conserva imagen ni sonido.</translation>
     </message>
     <message>
         <source>This preset was made by a newer version of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este preajuste se creó con una versión más reciente de Kestrel.</translation>
     </message>
     <message>
         <source>This title has no sound to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>Este título no tiene sonido que conservar.</translation>
     </message>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Línea de tiempo</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Título</translation>
     </message>
     <message>
         <source>Title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Título %1</translation>
     </message>
     <message>
         <source>Title %1 of the copy has %2 chapters instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>El título %1 de la copia tiene %2 capítulos en lugar de %3.</translation>
     </message>
     <message>
         <source>Title %1 of the copy has other tracks than the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>El título %1 de la copia tiene pistas distintas de las del disco.</translation>
     </message>
     <message>
         <source>Title %1 of the copy is %2 s long instead of %3 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>El título %1 de la copia dura %2 s en lugar de %3 s.</translation>
     </message>
     <message>
         <source>Title %1, the main film</source>
-        <translation type="unfinished"></translation>
+        <translation>Título %1, la película principal</translation>
     </message>
     <message>
         <source>Titles as MPEG-2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Títulos como archivos MPEG-2</translation>
     </message>
     <message>
         <source>Titles of the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Títulos del disco</translation>
     </message>
     <message>
         <source>Titles, unchanged (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Títulos, sin cambios (MKV)</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2537,19 +2649,19 @@
     </message>
     <message>
         <source>Too many requests: the server is asked again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Demasiadas peticiones: se consultará de nuevo al servidor en %1 s</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la izquierda</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>Arriba a la derecha</translation>
     </message>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Pista %1</translation>
     </message>
     <message>
         <source>Transcoder</source>
@@ -2557,19 +2669,19 @@
     </message>
     <message>
         <source>Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Prueba</translation>
     </message>
     <message>
         <source>Try 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Probar 10 segundos</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Girar</translation>
     </message>
     <message>
         <source>Turned into standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertir en estándar</translation>
     </message>
     <message>
         <source>Unable to connect to update server.</source>
@@ -2581,19 +2693,23 @@
     </message>
     <message>
         <source>Unknown language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma desconocido</translation>
     </message>
     <message>
         <source>Unlimited</source>
         <translation>Sin límite</translation>
     </message>
     <message>
+        <source>Until it is stopped</source>
+        <translation>Hasta que se detenga</translation>
+    </message>
+    <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Sin título</translation>
     </message>
     <message>
         <source>Upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Invertida</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2601,11 +2717,11 @@
     </message>
     <message>
         <source>Use the graphics hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Usar el hardware gráfico</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Habitual</translation>
     </message>
     <message>
         <source>Version: %@</source>
@@ -2613,7 +2729,7 @@
     </message>
     <message>
         <source>Very Small MP4 Video (480p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo MP4 muy pequeño (480p)</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2629,11 +2745,11 @@
     </message>
     <message>
         <source>Video or sound file</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivo de vídeo o de sonido</translation>
     </message>
     <message>
-        <source>Videos from the web, on your disk</source>
-        <translation>Vídeos de la web, en su disco</translation>
+        <source>Videos and music from the web are saved in the form that you choose.</source>
+        <translation>Los vídeos y la música de la web se guardan en la forma que elija.</translation>
     </message>
     <message>
         <source>Visit our website:</source>
@@ -2645,19 +2761,19 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volumen</translation>
     </message>
     <message>
         <source>WAV Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio WAV</translation>
     </message>
     <message>
         <source>WMA Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio WMA</translation>
     </message>
     <message>
         <source>WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo WMV</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -2665,39 +2781,39 @@
     </message>
     <message>
         <source>Waiting for a network connection</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando una conexión de red</translation>
     </message>
     <message>
         <source>Waiting for space on the disk: %1 needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando espacio en el disco: se necesitan %1</translation>
     </message>
     <message>
         <source>Waiting for the network, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando la red, próximo intento en %1 s</translation>
     </message>
     <message>
         <source>Waiting for the server…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esperando al servidor…</translation>
     </message>
     <message>
         <source>Waiting: %1 downloads from this server are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>En espera: hay %1 descargas de este servidor en curso</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Marca de agua</translation>
     </message>
     <message>
         <source>Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Web</translation>
     </message>
     <message>
         <source>WebM Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo WebM (AV1, Opus)</translation>
     </message>
     <message>
         <source>WebM Video (VP8, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vídeo WebM (VP8, Vorbis)</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
@@ -2705,39 +2821,47 @@
     </message>
     <message>
         <source>What the server sent is no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que ha enviado el servidor no es una película.</translation>
     </message>
     <message>
         <source>What the site answered could not be understood.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido entender la respuesta del sitio.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que crea este preajuste no se puede ajustar a un tamaño.</translation>
+    </message>
+    <message>
+        <source>What to record</source>
+        <translation>Qué grabar</translation>
     </message>
     <message>
         <source>What you stop now is offered to you again at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo que detenga ahora se le ofrecerá de nuevo en el próximo inicio.</translation>
     </message>
     <message>
         <source>Where it is needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Donde sea necesario</translation>
     </message>
     <message>
         <source>Whole Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Imagen completa</translation>
     </message>
     <message>
         <source>Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Anchura de la imagen</translation>
     </message>
     <message>
         <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>No se aceptará. Ejemplo: http://proxy.example.com o socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>Window</source>
         <translation>Ventana</translation>
+    </message>
+    <message>
+        <source>Window: %1</source>
+        <translation>Ventana: %1</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>
@@ -2761,11 +2885,11 @@
     </message>
     <message>
         <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sus ajustes no se pueden guardar en este momento. Kestrel lo intentará de nuevo al salir.</translation>
     </message>
     <message>
         <source>Your settings could not be saved when Kestrel was last quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se pudieron guardar sus ajustes la última vez que salió de Kestrel.</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -2785,7 +2909,7 @@
     </message>
     <message>
         <source>another commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>otro comentario</translation>
     </message>
     <message>
         <source>closetip</source>
@@ -2793,31 +2917,31 @@
     </message>
     <message>
         <source>commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>comentario</translation>
     </message>
     <message>
         <source>for children</source>
-        <translation type="unfinished"></translation>
+        <translation>para niños</translation>
     </message>
     <message>
         <source>for the hard of hearing</source>
-        <translation type="unfinished"></translation>
+        <translation>para personas con discapacidad auditiva</translation>
     </message>
     <message>
         <source>for the visually impaired</source>
-        <translation type="unfinished"></translation>
+        <translation>para personas con discapacidad visual</translation>
     </message>
     <message>
         <source>forced</source>
-        <translation type="unfinished"></translation>
+        <translation>forzados</translation>
     </message>
     <message>
         <source>kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>sin cambios</translation>
     </message>
     <message>
         <source>large</source>
-        <translation type="unfinished"></translation>
+        <translation>grandes</translation>
     </message>
     <message>
         <source>less than a minute left</source>
@@ -2825,7 +2949,7 @@
     </message>
     <message>
         <source>same as title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>igual que el título %1</translation>
     </message>
     <message>
         <source>showtip</source>
@@ -2833,11 +2957,11 @@
     </message>
     <message>
         <source>{name}, {preset}, {folder} and {date} are filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>{name}, {preset}, {folder} y {date} se sustituyen por sus valores.</translation>
     </message>
     <message>
         <source>“%1” could not be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>No se ha podido reproducir “%1”.</translation>
     </message>
 </context>
 </TS>

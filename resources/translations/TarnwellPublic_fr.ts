@@ -8,80 +8,88 @@
         <translation>%1 (%2 threads)</translation>
     </message>
     <message>
+        <source>%1 (sound only)</source>
+        <translation>%1 (son seul)</translation>
+    </message>
+    <message>
         <source>%1 - Title %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - Titre %2</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mo</translation>
     </message>
     <message>
         <source>%1 MB are too few for a file of this length.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Mo ne suffisent pas pour un fichier de cette durée.</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 et %2 autres</translation>
     </message>
     <message>
         <source>%1 angles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 angles</translation>
     </message>
     <message>
         <source>%1 chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 chapitres</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>%1 files selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 fichiers sélectionnés</translation>
     </message>
     <message>
         <source>%1 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read, %3 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s sur %2 ont pu être lues, %3 erreurs</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s sur %2 ont pu être lues.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 s could be read, %2 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s ont pu être lues, %2 erreurs</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 secteurs du disque n’ont pas pu être lus et sont vides dans la copie.</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 secteurs du disque n’ont pas pu être lus et sont vides dans l’image.</translation>
     </message>
     <message>
         <source>%1 sectors of the film could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 secteurs du film n’ont pas pu être lus.</translation>
     </message>
     <message>
         <source>%1 titles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 titres</translation>
     </message>
     <message>
         <source>%1 to go</source>
-        <translation type="unfinished"></translation>
+        <translation>encore %1</translation>
     </message>
     <message>
         <source>%1 ×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ×</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -93,95 +101,95 @@
     </message>
     <message>
         <source>128 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbit/s</translation>
     </message>
     <message>
         <source>160 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbit/s</translation>
     </message>
     <message>
         <source>192 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbit/s</translation>
     </message>
     <message>
         <source>23.976</source>
-        <translation type="unfinished"></translation>
+        <translation>23,976</translation>
     </message>
     <message>
         <source>24</source>
-        <translation type="unfinished"></translation>
+        <translation>24</translation>
     </message>
     <message>
         <source>25</source>
-        <translation type="unfinished"></translation>
+        <translation>25</translation>
     </message>
     <message>
         <source>256 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbit/s</translation>
     </message>
     <message>
         <source>2560 × 1440</source>
-        <translation type="unfinished"></translation>
+        <translation>2560 × 1440</translation>
     </message>
     <message>
         <source>29.97</source>
-        <translation type="unfinished"></translation>
+        <translation>29,97</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>320 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbit/s</translation>
     </message>
     <message>
         <source>448 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>448 kbit/s</translation>
     </message>
     <message>
         <source>4K (3840 × 2160)</source>
-        <translation type="unfinished"></translation>
+        <translation>4K (3840 × 2160)</translation>
     </message>
     <message>
         <source>50</source>
-        <translation type="unfinished"></translation>
+        <translation>50</translation>
     </message>
     <message>
         <source>59.94</source>
-        <translation type="unfinished"></translation>
+        <translation>59,94</translation>
     </message>
     <message>
         <source>60</source>
-        <translation type="unfinished"></translation>
+        <translation>60</translation>
     </message>
     <message>
         <source>64 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbit/s</translation>
     </message>
     <message>
         <source>640 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>640 kbit/s</translation>
     </message>
     <message>
         <source>96 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbit/s</translation>
     </message>
     <message>
         <source>A chapter for each joined file</source>
-        <translation type="unfinished"></translation>
+        <translation>Un chapitre par fichier réuni</translation>
     </message>
     <message>
         <source>A disc of the chosen title alone, without menus, that players start at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disque avec le seul titre choisi, sans menus, que les lecteurs lancent aussitôt.</translation>
     </message>
     <message>
         <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un fichier de type %1 ne peut pas contenir ce que demande ce préréglage : %2.</translation>
     </message>
     <message>
         <source>A folder has no sectors to copy. Choose another way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un dossier n’a pas de secteurs à copier. Choisissez un autre mode.</translation>
     </message>
     <message>
         <source>A new version of %@ is available!</source>
@@ -189,27 +197,27 @@
     </message>
     <message>
         <source>A preset needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un préréglage doit avoir un nom.</translation>
     </message>
     <message>
         <source>AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio AC-3</translation>
     </message>
     <message>
         <source>AIFF Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio AIFF</translation>
     </message>
     <message>
         <source>APNG Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation APNG</translation>
     </message>
     <message>
         <source>AVI Video (MPEG-4, MP3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo AVI (MPEG-4, MP3)</translation>
     </message>
     <message>
         <source>AVI Video (Motion JPEG, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo AVI (Motion JPEG, PCM)</translation>
     </message>
     <message>
         <source>About</source>
@@ -217,7 +225,7 @@
     </message>
     <message>
         <source>About %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Environ %1.</translation>
     </message>
     <message>
         <source>About %@</source>
@@ -232,36 +240,48 @@
         <translation>À propos de notre société Tarnwell Software, Inc.</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Ajouter</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>Ajouter %1</translation>
+    </message>
+    <message>
         <source>Add Files…</source>
         <translation>Ajouter des fichiers…</translation>
     </message>
     <message>
         <source>Add Subtitle File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajouter un fichier de sous-titres…</translation>
     </message>
     <message>
         <source>Adding the subtitles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajout des sous-titres…</translation>
     </message>
     <message>
         <source>Address</source>
         <translation>Adresse</translation>
     </message>
     <message>
+        <source>Address of a video or a page, such as https://…</source>
+        <translation>Adresse d’une vidéo ou d’une page, par exemple https://…</translation>
+    </message>
+    <message>
         <source>Aim</source>
-        <translation type="unfinished"></translation>
+        <translation>Objectif</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous</translation>
     </message>
     <message>
         <source>All Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les formats</translation>
     </message>
     <message>
         <source>All Formats…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les formats…</translation>
     </message>
     <message>
         <source>All files</source>
@@ -269,35 +289,39 @@
     </message>
     <message>
         <source>All files of the disc in a folder, with its menus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tous les fichiers du disque dans un dossier, avec ses menus.</translation>
     </message>
     <message>
         <source>All jobs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les tâches sont terminées.</translation>
     </message>
     <message>
         <source>All jobs have ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les tâches ont pris fin.</translation>
     </message>
     <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Toutes les pistes audio des titres choisis, avec leurs chapitres.</translation>
+    </message>
+    <message>
+        <source>Allow Many From One Server</source>
+        <translation>Autoriser plusieurs depuis un serveur</translation>
     </message>
     <message>
         <source>Already in the list: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Déjà dans la liste : %1</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours</translation>
     </message>
     <message>
         <source>Always kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours conservée</translation>
     </message>
     <message>
         <source>Always, twice the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Toujours, deux fois plus d’images</translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -305,7 +329,7 @@
     </message>
     <message>
         <source>Another folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Autre dossier…</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -313,11 +337,11 @@
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Appliquer</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivage</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -329,19 +353,19 @@
     </message>
     <message>
         <source>As the format has it</source>
-        <translation type="unfinished"></translation>
+        <translation>Selon le format</translation>
     </message>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Comme la source</translation>
     </message>
     <message>
         <source>Asking the site…</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrogation du site…</translation>
     </message>
     <message>
         <source>At most</source>
-        <translation type="unfinished"></translation>
+        <translation>Au plus</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -356,28 +380,32 @@
         <translation>Sauvegardez vos DVD selon 6 modes et convertissez un DVD entier vers plus de 180 formats pour le lire sur Mac et appareils mobiles, le stocker sur disque dur ou le regarder sur un téléviseur, etc. Un DVD entier en 5 minutes !</translation>
     </message>
     <message>
+        <source>Begin at once</source>
+        <translation>Commencer aussitôt</translation>
+    </message>
+    <message>
         <source>Beside the source</source>
-        <translation type="unfinished"></translation>
+        <translation>À côté de la source</translation>
     </message>
     <message>
         <source>Bit rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit</translation>
     </message>
     <message>
         <source>Bit rate of a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Débit d’une piste</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à gauche</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>En bas à droite</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosité</translation>
     </message>
     <message>
         <source>Build on: %@</source>
@@ -385,11 +413,15 @@
     </message>
     <message>
         <source>Burnt into the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Incrustés dans l’image</translation>
     </message>
     <message>
         <source>CAF Audio (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio CAF (ALAC)</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Caméra %1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -397,19 +429,19 @@
     </message>
     <message>
         <source>Cancel the Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Annuler l’essai</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulé</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulés : %1</translation>
     </message>
     <message>
         <source>Cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Inutilisable</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -421,19 +453,19 @@
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Canaux</translation>
     </message>
     <message>
         <source>Chapter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Chapitre %1</translation>
     </message>
     <message>
         <source>Chapters are missing in the finished file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des chapitres manquent dans le fichier obtenu.</translation>
     </message>
     <message>
         <source>Chapters, languages and the colours of subtitles, which MPEG-2 files cannot hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Les chapitres, les langues et les couleurs des sous-titres, que les fichiers MPEG-2 ne peuvent pas contenir</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
@@ -445,19 +477,31 @@
     </message>
     <message>
         <source>Checking the copy…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification de la copie…</translation>
     </message>
     <message>
         <source>Checking the finished file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérification du fichier obtenu…</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Choisir</translation>
+    </message>
+    <message>
+        <source>Choose Films</source>
+        <translation>Choisir des films</translation>
     </message>
     <message>
         <source>Choose a Folder</source>
         <translation>Choisir un dossier</translation>
+    </message>
+    <message>
+        <source>Choose above what is recorded, then press Record.</source>
+        <translation>Choisissez ci-dessus ce qui est enregistré, puis cliquez sur « Enregistrer ».</translation>
+    </message>
+    <message>
+        <source>Choose an Area</source>
+        <translation>Choisir une zone</translation>
     </message>
     <message>
         <source>Choose another one, or allow yourself to write to it: %1</source>
@@ -473,7 +517,7 @@
     </message>
     <message>
         <source>Clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers la droite</translation>
     </message>
     <message>
         <source>Close</source>
@@ -488,8 +532,12 @@
         <translation>Général</translation>
     </message>
     <message>
+        <source>Computer and microphone</source>
+        <translation>Ordinateur et micro</translation>
+    </message>
+    <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connexion…</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -497,7 +545,7 @@
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contraste</translation>
     </message>
     <message>
         <source>Convert</source>
@@ -513,11 +561,11 @@
     </message>
     <message>
         <source>Converting ten seconds: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion de dix secondes : %1 %</translation>
     </message>
     <message>
         <source>Converting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversion…</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -537,15 +585,23 @@
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Coin</translation>
+    </message>
+    <message>
+        <source>Count down from three</source>
+        <translation>Compte à rebours de trois</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Compte à rebours</translation>
     </message>
     <message>
         <source>Counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>Vers la gauche</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Pochette</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -553,43 +609,43 @@
     </message>
     <message>
         <source>Cut and Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper et modifier</translation>
     </message>
     <message>
         <source>Cut and Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>Couper et modifier…</translation>
     </message>
     <message>
         <source>Cut exactly (encodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupe exacte (réencode)</translation>
     </message>
     <message>
         <source>Cut off bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Rogner en bas</translation>
     </message>
     <message>
         <source>Cut off left</source>
-        <translation type="unfinished"></translation>
+        <translation>Rogner à gauche</translation>
     </message>
     <message>
         <source>Cut off right</source>
-        <translation type="unfinished"></translation>
+        <translation>Rogner à droite</translation>
     </message>
     <message>
         <source>Cut off top</source>
-        <translation type="unfinished"></translation>
+        <translation>Rogner en haut</translation>
     </message>
     <message>
         <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Coupé sans réencodage : le début est la dernière image clé avant %1 s.</translation>
     </message>
     <message>
         <source>DTS</source>
-        <translation type="unfinished"></translation>
+        <translation>DTS</translation>
     </message>
     <message>
         <source>DV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo DV</translation>
     </message>
     <message>
         <source>DVD</source>
@@ -597,7 +653,7 @@
     </message>
     <message>
         <source>DVD (720 × 576)</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD (720 × 576)</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -605,7 +661,7 @@
     </message>
     <message>
         <source>Data of the camera, such as time code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Données de la caméra, comme le timecode.</translation>
     </message>
     <message>
         <source>Default</source>
@@ -613,11 +669,11 @@
     </message>
     <message>
         <source>Deinterlacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Désentrelacement</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Supprimer</translation>
     </message>
     <message>
         <source>Details</source>
@@ -629,31 +685,31 @@
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Appareils</translation>
     </message>
     <message>
         <source>Disc Player (VOB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecteur de disques (VOB)</translation>
     </message>
     <message>
         <source>Disc folder with menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier de disque avec menus</translation>
     </message>
     <message>
         <source>Disc image (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Image disque (ISO)</translation>
     </message>
     <message>
         <source>Disc images</source>
-        <translation type="unfinished"></translation>
+        <translation>Images disque</translation>
     </message>
     <message>
         <source>Dolby Digital</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolby Digital</translation>
     </message>
     <message>
         <source>Don't Shut Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne pas éteindre</translation>
     </message>
     <message>
         <source>Done</source>
@@ -661,15 +717,15 @@
     </message>
     <message>
         <source>Done with problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminé avec des problèmes</translation>
     </message>
     <message>
         <source>Done with problems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminés avec des problèmes : %1</translation>
     </message>
     <message>
         <source>Done: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminés : %1</translation>
     </message>
     <message>
         <source>Download</source>
@@ -704,8 +760,12 @@
         <translation>Téléchargements simultanés</translation>
     </message>
     <message>
+        <source>Draw an area, then press Return</source>
+        <translation>Tracez une zone, puis appuyez sur Entrée</translation>
+    </message>
+    <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecteur</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -717,7 +777,7 @@
     </message>
     <message>
         <source>E-AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio E-AC-3</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -725,55 +785,55 @@
     </message>
     <message>
         <source>Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifications</translation>
     </message>
     <message>
         <source>Encoding in software</source>
-        <translation type="unfinished"></translation>
+        <translation>Encodage logiciel</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Encodage, car les pistes n’ont pas pu être copiées</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fin</translation>
     </message>
     <message>
         <source>End Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Terminer ici</translation>
     </message>
     <message>
         <source>Even out the loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Égaliser le volume</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Exporter…</translation>
     </message>
     <message>
         <source>FLAC Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio FLAC</translation>
     </message>
     <message>
         <source>FLV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo FLV (H.264, AAC)</translation>
     </message>
     <message>
         <source>Fade in</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondu d’ouverture</translation>
     </message>
     <message>
         <source>Fade out</source>
-        <translation type="unfinished"></translation>
+        <translation>Fondu de fermeture</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Échec</translation>
     </message>
     <message>
         <source>Failed: %1</source>
@@ -781,27 +841,31 @@
     </message>
     <message>
         <source>Faster, larger file</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus rapide, fichier plus gros</translation>
     </message>
     <message>
         <source>Fastest, largest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus rapide, fichier le plus gros</translation>
     </message>
     <message>
         <source>File size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille maximale du fichier</translation>
     </message>
     <message>
         <source>Files can be cut or joined, but not both at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les fichiers peuvent être coupés ou réunis, mais pas les deux à la fois.</translation>
     </message>
     <message>
         <source>Film from television (24)</source>
-        <translation type="unfinished"></translation>
+        <translation>Film de la télévision (24)</translation>
+    </message>
+    <message>
+        <source>Films at this address</source>
+        <translation>Films à cette adresse</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtrer</translation>
     </message>
     <message>
         <source>Find</source>
@@ -809,7 +873,7 @@
     </message>
     <message>
         <source>Find Black Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Détecter les bandes noires</translation>
     </message>
     <message>
         <source>Find Next</source>
@@ -821,15 +885,15 @@
     </message>
     <message>
         <source>Finishing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Finalisation…</translation>
     </message>
     <message>
         <source>First pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Première passe</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier</translation>
     </message>
     <message>
         <source>Follow</source>
@@ -837,19 +901,19 @@
     </message>
     <message>
         <source>For all files</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour tous les fichiers</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Par exemple : %1</translation>
     </message>
     <message>
         <source>For the DVD ripper, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour l’extraction de DVD, en cours de réalisation.</translation>
     </message>
     <message>
         <source>For the downloader, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Pour le téléchargement, en cours de réalisation.</translation>
     </message>
     <message>
         <source>Format</source>
@@ -857,11 +921,11 @@
     </message>
     <message>
         <source>Format and options in use are kept under this name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Le format et les options utilisés sont enregistrés sous ce nom :</translation>
     </message>
     <message>
         <source>Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formats</translation>
     </message>
     <message>
         <source>Found after going around the end of the log.</source>
@@ -869,23 +933,23 @@
     </message>
     <message>
         <source>Full HD (1920 × 1080)</source>
-        <translation type="unfinished"></translation>
+        <translation>Full HD (1920 × 1080)</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
-        <translation type="unfinished"></translation>
+        <translation>Autres images en plus de la première (autres angles ou aperçus).</translation>
     </message>
     <message>
         <source>GIF Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animation GIF</translation>
     </message>
     <message>
         <source>Game Console</source>
-        <translation type="unfinished"></translation>
+        <translation>Console de jeux</translation>
     </message>
     <message>
         <source>Go On</source>
-        <translation type="unfinished"></translation>
+        <translation>Reprendre</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -905,7 +969,7 @@
     </message>
     <message>
         <source>HD (1280 × 720)</source>
-        <translation type="unfinished"></translation>
+        <translation>HD (1280 × 720)</translation>
     </message>
     <message>
         <source>HEVC decoders</source>
@@ -929,15 +993,15 @@
     </message>
     <message>
         <source>High dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Plage dynamique étendue</translation>
     </message>
     <message>
         <source>High dynamic range becomes standard range.</source>
-        <translation type="unfinished"></translation>
+        <translation>La plage dynamique étendue devient standard.</translation>
     </message>
     <message>
         <source>High quality (slower)</source>
-        <translation type="unfinished"></translation>
+        <translation>Haute qualité (plus lent)</translation>
     </message>
     <message>
         <source>Highest Resolution</source>
@@ -945,15 +1009,15 @@
     </message>
     <message>
         <source>How the disc is kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Comment le disque est conservé</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importer…</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -961,91 +1025,67 @@
     </message>
     <message>
         <source>Interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompu</translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
         <translation>Il s’affichera ici dès qu’il sera écrit : %1</translation>
     </message>
     <message>
-        <source>It will fetch several at a time, in the resolution that you prefer.</source>
-        <translation>Plusieurs pourront être récupérées à la fois, dans la résolution de votre choix.</translation>
-    </message>
-    <message>
-        <source>It will go through your proxy where you have one.</source>
-        <translation>Votre proxy sera utilisé si vous en avez un.</translation>
-    </message>
-    <message>
-        <source>It will record the sound of the computer and of a microphone.</source>
-        <translation>Le son de l’ordinateur et d’un micro pourra être enregistré.</translation>
-    </message>
-    <message>
-        <source>It will record the whole screen, a window or a part of it.</source>
-        <translation>L’écran entier, une fenêtre ou une partie pourront être enregistrés.</translation>
-    </message>
-    <message>
-        <source>It will save videos and music from addresses that you paste.</source>
-        <translation>Il suffira de coller une adresse pour enregistrer vidéos et musique.</translation>
-    </message>
-    <message>
-        <source>It will show mouse clicks where you want them seen.</source>
-        <translation>Les clics de souris pourront être montrés là où vous le souhaitez.</translation>
-    </message>
-    <message>
         <source>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ses titres sont conservés tels quels ou deviennent MP4, MKV ou MP3, selon votre choix.</translation>
     </message>
     <message>
         <source>Jobs are running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des tâches sont en cours.</translation>
     </message>
     <message>
         <source>Jobs are still running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des tâches sont encore en cours.</translation>
     </message>
     <message>
         <source>Join all files into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Réunir tous les fichiers en un seul</translation>
     </message>
     <message>
         <source>Join into One</source>
-        <translation type="unfinished"></translation>
+        <translation>Réunir en un seul</translation>
     </message>
     <message>
         <source>Joining</source>
-        <translation type="unfinished"></translation>
+        <translation>Réunion</translation>
     </message>
     <message>
         <source>Keep Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Laisser continuer</translation>
     </message>
     <message>
         <source>Keep the Rest Instead</source>
-        <translation type="unfinished"></translation>
+        <translation>Garder plutôt le reste</translation>
     </message>
     <message>
         <source>Keep the date of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver la date de la source</translation>
     </message>
     <message>
         <source>Keep tracks that fit as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Conserver telles quelles les pistes adaptées</translation>
     </message>
     <message>
         <source>Kept as a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservés comme piste</translation>
     </message>
     <message>
         <source>Kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservé jusqu’à la fermeture</translation>
     </message>
     <message>
         <source>Kept where it can be</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservée si possible</translation>
     </message>
     <message>
         <source>Kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Conservé : %1</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -1061,11 +1101,11 @@
     </message>
     <message>
         <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel ne connaît pas la durée de ce fichier et ne peut pas viser une taille.</translation>
     </message>
     <message>
         <source>Kestrel does not know the kind of file “%1” of this preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel ne connaît pas le type de fichier « %1 » de ce préréglage.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1077,15 +1117,15 @@
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclu</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Exclu : %1</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Durée</translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -1105,19 +1145,19 @@
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio M4A (AAC)</translation>
     </message>
     <message>
         <source>M4A Audio, Lossless (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio M4A, sans perte (ALAC)</translation>
     </message>
     <message>
         <source>MKA Audio (Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio MKA (Opus)</translation>
     </message>
     <message>
         <source>MKV Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MKV (AV1, Opus)</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
@@ -1125,31 +1165,31 @@
     </message>
     <message>
         <source>MKV Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MKV (H.265, AAC)</translation>
     </message>
     <message>
         <source>MKV Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MKV (VP9, Opus)</translation>
     </message>
     <message>
         <source>MKV Video, High Quality (H.265, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MKV, haute qualité (H.265, FLAC)</translation>
     </message>
     <message>
         <source>MKV Video, Lossless (FFV1, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MKV, sans perte (FFV1, FLAC)</translation>
     </message>
     <message>
         <source>MOV Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MOV (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MOV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MOV (H.264, AAC)</translation>
     </message>
     <message>
         <source>MOV Video (ProRes, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MOV (ProRes, PCM)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
@@ -1157,7 +1197,7 @@
     </message>
     <message>
         <source>MP4 Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MP4 (AV1, Opus)</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
@@ -1165,27 +1205,27 @@
     </message>
     <message>
         <source>MP4 Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MP4 (H.265, AAC)</translation>
     </message>
     <message>
         <source>MP4 Video for Web Pages (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MP4 pour pages web (1080p)</translation>
     </message>
     <message>
         <source>MPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG</translation>
     </message>
     <message>
         <source>MPEG Video (MPEG-2, MP2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MPEG (MPEG-2, MP2)</translation>
     </message>
     <message>
         <source>MXF Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MXF (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MXF Video (MPEG-2, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo MXF (MPEG-2, PCM)</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1197,11 +1237,15 @@
     </message>
     <message>
         <source>Messages of the tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Messages des outils</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Micro</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Centre</translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -1209,11 +1253,11 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Miroir</translation>
     </message>
     <message>
         <source>Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Mono</translation>
     </message>
     <message>
         <source>Music folder</source>
@@ -1221,7 +1265,7 @@
     </message>
     <message>
         <source>My Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Mes préréglages</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1229,19 +1273,19 @@
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nom du préréglage :</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Jamais</translation>
     </message>
     <message>
         <source>No camera was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune caméra n’a été trouvée.</translation>
     </message>
     <message>
         <source>No format matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun format ne correspond à la recherche.</translation>
     </message>
     <message>
         <source>No log was named</source>
@@ -1249,19 +1293,27 @@
     </message>
     <message>
         <source>No picture of the copy could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image de la copie n’a pu être décodée.</translation>
     </message>
     <message>
         <source>No picture of this film could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune image de ce film n’a pu être décodée.</translation>
     </message>
     <message>
         <source>No server answers at this address. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucun serveur ne répond à cette adresse. Vérifiez-la et réessayez.</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>Sans son</translation>
+    </message>
+    <message>
+        <source>No speed limit</source>
+        <translation>Sans limite de vitesse</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune</translation>
     </message>
     <message>
         <source>Not chosen yet</source>
@@ -1269,19 +1321,19 @@
     </message>
     <message>
         <source>Not turned</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans rotation</translation>
     </message>
     <message>
         <source>Not used yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore utilisé</translation>
     </message>
     <message>
         <source>Not used yet, kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Pas encore utilisé, conservé jusqu’à la fermeture</translation>
     </message>
     <message>
         <source>Nothing could be decoded at %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a pu être décodé à %1 s.</translation>
     </message>
     <message>
         <source>Nothing found.</source>
@@ -1289,31 +1341,31 @@
     </message>
     <message>
         <source>Nothing of the file could be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien dans le fichier n’a pu être converti.</translation>
     </message>
     <message>
         <source>Nothing of the film could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a pu être lu du film.</translation>
     </message>
     <message>
         <source>Nothing of the recording is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne reste rien de l’enregistrement.</translation>
     </message>
     <message>
         <source>Nothing of this file would be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien de ce fichier ne serait conservé.</translation>
     </message>
     <message>
         <source>Nothing was recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rien n’a été enregistré.</translation>
     </message>
     <message>
         <source>OGG Audio (Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio OGG (Vorbis)</translation>
     </message>
     <message>
         <source>OGV Video (Theora, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo OGV (Theora, Vorbis)</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1325,27 +1377,27 @@
     </message>
     <message>
         <source>Old Phone (3GP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Ancien téléphone (3GP)</translation>
     </message>
     <message>
         <source>One title as a disc folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Un titre dans un dossier de disque</translation>
     </message>
     <message>
         <source>Only %1 of %2 s have come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seules %1 s sur %2 sont arrivées.</translation>
     </message>
     <message>
         <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seuls des fichiers ayant tous une image, ou tous du son, peuvent être réunis.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
-        <translation type="unfinished"></translation>
+        <translation>Une seule piste de sous-titres peut être incrustée ; les autres sont exclues.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacité</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1353,11 +1405,11 @@
     </message>
     <message>
         <source>Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir un dossier…</translation>
     </message>
     <message>
         <source>Open Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Ouvrir une image…</translation>
     </message>
     <message>
         <source>Open the log with “App Log” in the Help menu of %1.</source>
@@ -1373,35 +1425,35 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Options</translation>
     </message>
     <message>
         <source>Opus Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio Opus</translation>
     </message>
     <message>
         <source>Original Sound, in an MKA File</source>
-        <translation type="unfinished"></translation>
+        <translation>Son d’origine, dans un fichier MKA</translation>
     </message>
     <message>
         <source>Original, in a MOV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, dans un fichier MOV</translation>
     </message>
     <message>
         <source>Original, in a TS File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, dans un fichier TS</translation>
     </message>
     <message>
         <source>Original, in an MKV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, dans un fichier MKV</translation>
     </message>
     <message>
         <source>Original, in an MP4 File</source>
-        <translation type="unfinished"></translation>
+        <translation>Original, dans un fichier MP4</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Sortie</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -1413,79 +1465,87 @@
     </message>
     <message>
         <source>PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>PCM</translation>
     </message>
     <message>
         <source>Page of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Page d’options</translation>
+    </message>
+    <message>
+        <source>Part of the screen…</source>
+        <translation>Partie de l’écran…</translation>
     </message>
     <message>
         <source>Parts of the finished file are missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Des parties du fichier obtenu manquent.</translation>
     </message>
     <message>
         <source>Paste</source>
         <translation>Coller</translation>
     </message>
     <message>
+        <source>Paste or drop addresses here</source>
+        <translation>Collez ou déposez des adresses ici</translation>
+    </message>
+    <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pause</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>En pause</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléphone</translation>
     </message>
     <message>
         <source>Phone (H.265)</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléphone (H.265)</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image</translation>
     </message>
     <message>
         <source>Picture, all sound, subtitles in their colours and chapters of the chosen titles, nothing encoded again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Image, tout le son, sous-titres avec leurs couleurs et chapitres des titres choisis, sans rien réencoder.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Images</translation>
     </message>
     <message>
         <source>Pictures a second</source>
-        <translation type="unfinished"></translation>
+        <translation>Images par seconde</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Partie %1 sur %2</translation>
     </message>
     <message>
         <source>Pieces that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Parties conservées</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire</translation>
     </message>
     <message>
         <source>Play Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Lire la source</translation>
     </message>
     <message>
         <source>Playing speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse de lecture</translation>
     </message>
     <message>
         <source>Plays Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisible partout</translation>
     </message>
     <message>
         <source>Please check that the disk has room and that this folder can be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Vérifiez qu’il reste de l’espace sur le disque et que l’écriture dans ce dossier est possible : %1</translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -1505,7 +1565,7 @@
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Position</translation>
     </message>
     <message>
         <source>Preferences…</source>
@@ -1517,7 +1577,7 @@
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Préréglages</translation>
     </message>
     <message>
         <source>Problem detected in last conversion.</source>
@@ -1529,7 +1589,7 @@
     </message>
     <message>
         <source>Processor cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Cœurs du processeur</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1545,15 +1605,15 @@
     </message>
     <message>
         <source>Put a DVD in, or drop a disc image or folder here</source>
-        <translation type="unfinished"></translation>
+        <translation>Insérez un DVD ou déposez ici une image disque ou un dossier</translation>
     </message>
     <message>
         <source>Putting picture and sound together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Assemblage de l’image et du son…</translation>
     </message>
     <message>
         <source>Quality (lower is better)</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité (plus bas = meilleur)</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -1561,11 +1621,11 @@
     </message>
     <message>
         <source>Reading the disc…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du disque…</translation>
     </message>
     <message>
         <source>Reading the disc… A drive may take half a minute for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lecture du disque… Un lecteur peut mettre une demi-minute.</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
@@ -1573,7 +1633,7 @@
     </message>
     <message>
         <source>Reading the file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Analyse du fichier…</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -1582,6 +1642,10 @@
     <message>
         <source>Ready</source>
         <translation>Prêt</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Enregistrer</translation>
     </message>
     <message>
         <source>Record Video</source>
@@ -1596,8 +1660,16 @@
         <translation>Enregistreur</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Recording begins in %1 s. Press Record to begin at once.</source>
+        <translation>L’enregistrement commence dans %1 s. Cliquez sur « Enregistrer » pour commencer aussitôt.</translation>
+    </message>
+    <message>
         <source>Recovered after an interruption.</source>
-        <translation type="unfinished"></translation>
+        <translation>Récupéré après une interruption.</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -1613,19 +1685,23 @@
     </message>
     <message>
         <source>Remove Piece</source>
-        <translation type="unfinished"></translation>
+        <translation>Retirer la partie</translation>
+    </message>
+    <message>
+        <source>Remove With Partial File</source>
+        <translation>Retirer avec le fichier partiel</translation>
     </message>
     <message>
         <source>Removes what is done from the list. The files stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Retire de la liste ce qui est terminé. Les fichiers restent.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Renommer…</translation>
     </message>
     <message>
         <source>Report Bug</source>
@@ -1641,19 +1717,19 @@
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Résultat</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>En cours</translation>
     </message>
     <message>
         <source>Safe mode: check the whole result</source>
-        <translation type="unfinished"></translation>
+        <translation>Mode sûr : vérifier tout le résultat</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturation</translation>
     </message>
     <message>
         <source>Save a Copy</source>
@@ -1665,23 +1741,27 @@
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer comme préréglage</translation>
     </message>
     <message>
         <source>Save as Preset…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrer comme préréglage…</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistré : %1</translation>
     </message>
     <message>
         <source>Saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Enregistrement…</translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
         <translation>Enregistrement… %1 % (Échap pour arrêter)</translation>
+    </message>
+    <message>
+        <source>Screen %1 (%2 × %3)</source>
+        <translation>Écran %1 (%2 × %3)</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
@@ -1701,11 +1781,11 @@
     </message>
     <message>
         <source>Search formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher des formats</translation>
     </message>
     <message>
         <source>Search: MKV, AV1, FLAC …</source>
-        <translation type="unfinished"></translation>
+        <translation>Rechercher : MKV, AV1, FLAC…</translation>
     </message>
     <message>
         <source>Searching… %1 % (Esc stops)</source>
@@ -1713,7 +1793,7 @@
     </message>
     <message>
         <source>Second pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Seconde passe</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1721,7 +1801,7 @@
     </message>
     <message>
         <source>Select one file in the list to choose among its tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sélectionnez un fichier dans la liste pour choisir parmi ses pistes.</translation>
     </message>
     <message>
         <source>Send Feedback</source>
@@ -1737,11 +1817,11 @@
     </message>
     <message>
         <source>Several formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Plusieurs formats</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher</translation>
     </message>
     <message>
         <source>Show File</source>
@@ -1749,7 +1829,7 @@
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Afficher dans le dossier</translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -1765,35 +1845,35 @@
     </message>
     <message>
         <source>Size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille maximale</translation>
     </message>
     <message>
         <source>Size: about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Taille : environ %1</translation>
     </message>
     <message>
         <source>Slower, smaller file</source>
-        <translation type="unfinished"></translation>
+        <translation>Plus lent, fichier plus petit</translation>
     </message>
     <message>
         <source>Slowest, smallest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Le plus lent, fichier le plus petit</translation>
     </message>
     <message>
         <source>Small (640 × 480)</source>
-        <translation type="unfinished"></translation>
+        <translation>Petit (640 × 480)</translation>
     </message>
     <message>
         <source>Small Files</source>
-        <translation type="unfinished"></translation>
+        <translation>Petits fichiers</translation>
     </message>
     <message>
         <source>Small MP4 Video (720p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Petite vidéo MP4 (720p)</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Capture</translation>
     </message>
     <message>
         <source>Snapshot folder</source>
@@ -1801,43 +1881,55 @@
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Son</translation>
+    </message>
+    <message>
+        <source>Sound level</source>
+        <translation>Niveau sonore</translation>
+    </message>
+    <message>
+        <source>Sound of the computer</source>
+        <translation>Son de l’ordinateur</translation>
     </message>
     <message>
         <source>Sound only, unchanged (MKA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son seul, inchangé (MKA)</translation>
     </message>
     <message>
         <source>Sound track %1, which this film does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>La piste audio %1, que ce film ne contient pas</translation>
     </message>
     <message>
         <source>Sound: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Son : %1</translation>
     </message>
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Son : %1. %2 ne contient qu’une seule piste audio.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Source</translation>
     </message>
     <message>
         <source>Source (drag to crop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Source (faites glisser pour rogner)</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Vitesse</translation>
+    </message>
+    <message>
+        <source>Speed limit of each download</source>
+        <translation>Limite de vitesse par téléchargement</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Début</translation>
     </message>
     <message>
         <source>Start Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Commencer ici</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1849,19 +1941,31 @@
     </message>
     <message>
         <source>Steady quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualité constante</translation>
     </message>
     <message>
         <source>Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>Stéréo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Arrêter</translation>
+    </message>
+    <message>
+        <source>Stop after</source>
+        <translation>Arrêter après</translation>
+    </message>
+    <message>
+        <source>Stop after %1 min</source>
+        <translation>Arrêter après %1 min</translation>
     </message>
     <message>
         <source>Stop and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et quitter</translation>
     </message>
     <message>
         <source>Stop and Restart</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêter et redémarrer</translation>
     </message>
     <message>
         <source>Stopped.</source>
@@ -1869,27 +1973,27 @@
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>Arrêt en cours…</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-titres</translation>
     </message>
     <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-titres sous forme d’images : %1. %2 ne peut pas les contenir ; incrustez-les ou choisissez MKV.</translation>
     </message>
     <message>
         <source>Subtitles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-titres : %1</translation>
     </message>
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-titres : %1. %2 ne peut pas les contenir.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sous-titres : %1. Ils ne peuvent pas suivre les temps modifiés ; incrustez-les pour les conserver.</translation>
     </message>
     <message>
         <source>Suggestions</source>
@@ -1897,27 +2001,27 @@
     </message>
     <message>
         <source>Surround 5.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Surround 5.1</translation>
     </message>
     <message>
         <source>TS Video (H.264, AC-3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo TS (H.264, AC-3)</translation>
     </message>
     <message>
         <source>TV (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléviseur (1080p)</translation>
     </message>
     <message>
         <source>TV (4K, HDR)</source>
-        <translation type="unfinished"></translation>
+        <translation>Téléviseur (4K, HDR)</translation>
     </message>
     <message>
         <source>Tablet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablette</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Texte</translation>
     </message>
     <message>
         <source>That is the log itself. Choose another name.</source>
@@ -1925,31 +2029,35 @@
     </message>
     <message>
         <source>The area to be recorded is outside the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>La zone à enregistrer est hors de l’écran.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier joint %1. %2 ne peut pas le contenir.</translation>
     </message>
     <message>
         <source>The broadcast has not begun yet. Try again when it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>La diffusion n’a pas encore commencé. Réessayez une fois qu’elle aura commencé.</translation>
+    </message>
+    <message>
+        <source>The camera's picture is not shown before it is recorded.</source>
+        <translation>L’image de la caméra n’est pas affichée avant l’enregistrement.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les chapitres. %1 ne peut pas les contenir.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les titres choisis deviennent des fichiers du format indiqué à côté, aussi petits que vous le souhaitez.</translation>
     </message>
     <message>
         <source>The computer will shut down in %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’ordinateur s’éteindra dans %1 secondes.</translation>
     </message>
     <message>
         <source>The conversion was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversion a été arrêtée avant la fin.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -1965,7 +2073,7 @@
     </message>
     <message>
         <source>The converter did not answer any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le convertisseur ne répond plus.</translation>
     </message>
     <message>
         <source>The converter is missing. Please install the application again.</source>
@@ -1973,7 +2081,7 @@
     </message>
     <message>
         <source>The copy could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de relire la copie.</translation>
     </message>
     <message>
         <source>The copy could not be saved: %1</source>
@@ -1981,11 +2089,11 @@
     </message>
     <message>
         <source>The copy has %1 titles instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie contient %1 titres au lieu de %2.</translation>
     </message>
     <message>
         <source>The copy was broken off. It goes on where it is when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copie a été interrompue. Elle reprendra au même endroit au prochain démarrage.</translation>
     </message>
     <message>
         <source>The copy was saved.</source>
@@ -1993,39 +2101,39 @@
     </message>
     <message>
         <source>The cover picture. %1 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image de pochette. %1 ne peut pas la contenir.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image de pochette. Elle est perdue quand des fichiers sont réunis ainsi.</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le disque.</translation>
     </message>
     <message>
         <source>The disc did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque n’a pas répondu à temps.</translation>
     </message>
     <message>
         <source>The disc has no such title, chapter or angle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque ne contient pas ce titre, ce chapitre ou cet angle.</translation>
     </message>
     <message>
         <source>The disc image ends before its film does.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image disque se termine avant la fin du film.</translation>
     </message>
     <message>
         <source>The disc is damaged: what it holds could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est endommagé : son contenu n’a pas pu être lu.</translation>
     </message>
     <message>
         <source>The disc may not be read by this user.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cet utilisateur n’est pas autorisé à lire le disque.</translation>
     </message>
     <message>
         <source>The disc tools could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lancer les outils de disque. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -2033,7 +2141,7 @@
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque est trop plein pour finaliser l’enregistrement : il reste un fichier Matroska.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
@@ -2041,31 +2149,31 @@
     </message>
     <message>
         <source>The display %1 could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’ouvrir l’écran %1.</translation>
     </message>
     <message>
         <source>The download engine does not work. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moteur de téléchargement ne fonctionne pas. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le moteur de téléchargement est introuvable. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le téléchargement a échoué. Les détails indiquent le message du moteur.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’encodeur pour %1 n’est pas installé.</translation>
     </message>
     <message>
         <source>The file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire le fichier.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire le fichier.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -2085,47 +2193,47 @@
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film est protégé contre la copie et n’est pas téléchargé.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’est plus disponible. Cherchez-le à une autre adresse.</translation>
     </message>
     <message>
         <source>The film is not there in the form that was wanted. Choose another resolution or format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film n’est pas disponible sous la forme souhaitée. Choisissez une autre résolution ou un autre format.</translation>
     </message>
     <message>
         <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film est privé ou réservé aux membres ; il ne peut donc pas être téléchargé.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film des titres choisis tel qu’il est sur le disque ; sans chapitres ni noms de langues.</translation>
     </message>
     <message>
         <source>The finished file could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de relire le fichier obtenu.</translation>
     </message>
     <message>
         <source>The finished file has %1 bytes instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier obtenu fait %1 octets au lieu de %2.</translation>
     </message>
     <message>
         <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier obtenu contient d’autres pistes que celles souhaitées : %1 au lieu de %2.</translation>
     </message>
     <message>
         <source>The finished file is %1 s long instead of %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier obtenu dure %1 s au lieu de %2 s.</translation>
     </message>
     <message>
         <source>The finished file is damaged: %1 faults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier obtenu est endommagé : %1 erreurs.</translation>
     </message>
     <message>
         <source>The finished file is larger than wanted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le fichier obtenu est plus gros que souhaité.</translation>
     </message>
     <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
@@ -2137,7 +2245,11 @@
     </message>
     <message>
         <source>The folder for temporary files cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire dans le dossier des fichiers temporaires.</translation>
+    </message>
+    <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation>Les dernières %1 s sont sans son : le serveur de son a disparu.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -2149,15 +2261,15 @@
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire les options de cette tâche. Ajoutez de nouveau l’adresse.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire les options de cette tâche. Ajoutez de nouveau le fichier.</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire la sortie.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -2169,51 +2281,51 @@
     </message>
     <message>
         <source>The picture has to be encoded (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image doit être encodée (%1).</translation>
     </message>
     <message>
         <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image est réduite à %1 × %2 pour respecter la taille.</translation>
     </message>
     <message>
         <source>The picture is missing: the site handed out the sound alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image manque : le site n’a fourni que le son.</translation>
     </message>
     <message>
         <source>The picture of the finished file does not stand upright.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’image du fichier obtenu n’est pas à l’endroit.</translation>
     </message>
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Les parties à conserver se trouvent après la fin du fichier.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le lecteur est introuvable. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing. Please install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le programme dvdauthor est introuvable. Veuillez l’installer.</translation>
     </message>
     <message>
         <source>The proxy refuses the connection. Check its address in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le proxy refuse la connexion. Vérifiez son adresse dans les réglages.</translation>
     </message>
     <message>
         <source>The recording could not be finished: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement n’a pas pu être finalisé : il reste un fichier Matroska.</translation>
     </message>
     <message>
         <source>The recording ended because the disk is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement a pris fin car le disque est presque plein.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’enregistrement a été interrompu.</translation>
     </message>
     <message>
         <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’écran d’une session Wayland ne peut pas être enregistré. Pour l’enregistrer, ouvrez une session X11 (Xorg).</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2221,67 +2333,67 @@
     </message>
     <message>
         <source>The server broke off or could not answer. What has come is kept; try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a coupé la connexion ou n’a pas pu répondre. Ce qui a été reçu est conservé ; réessayez plus tard.</translation>
     </message>
     <message>
         <source>The server broke off, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur a coupé la connexion, prochain essai dans %1 s</translation>
     </message>
     <message>
         <source>The server has sent only part of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur n’a envoyé qu’une partie du film.</translation>
     </message>
     <message>
         <source>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur refuse de fournir le film. Réessayez plus tard, ou ouvrez la page dans un navigateur pour en connaître la raison.</translation>
     </message>
     <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le serveur n’accepte plus de demandes pour le moment. Réessayez dans quelque temps.</translation>
     </message>
     <message>
         <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le certificat du serveur n’est pas valide ; il se peut que ce ne soit pas le bon serveur. Rien n’a été téléchargé.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Dossier des réglages</translation>
     </message>
     <message>
         <source>The site does not show this film in your country. A proxy of another country can be set in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le site ne montre pas ce film dans votre pays. Vous pouvez indiquer un proxy d’un autre pays dans les réglages.</translation>
     </message>
     <message>
         <source>The site has changed and the download engine does not know it any more. Update the engine and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le site a changé et le moteur de téléchargement ne le reconnaît plus. Mettez le moteur à jour et réessayez.</translation>
     </message>
     <message>
         <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le site ne montre ce film qu’aux personnes connectées à un compte, ce que Kestrel ne fait pas.</translation>
     </message>
     <message>
         <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le site demande d’abord l’âge du spectateur, qu’il n’apprend que par une connexion à un compte.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible d’écrire la capture.</translation>
     </message>
     <message>
         <source>The sound could not be recorded. Is the sound server running?</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son n’a pas pu être enregistré. Le serveur audio est-il lancé ?</translation>
     </message>
     <message>
         <source>The sound is missing since the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son manque depuis l’arrêt du serveur audio.</translation>
     </message>
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son manque : le site n’a fourni que l’image.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le son. %1 ne contient que des images.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -2301,47 +2413,47 @@
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le disque entier, secteur par secteur, dans un fichier qui se lit comme le disque.</translation>
     </message>
     <message>
         <source>The whole film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le film entier est conservé.</translation>
     </message>
     <message>
         <source>The window is too small to be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La fenêtre est trop petite pour être enregistrée.</translation>
     </message>
     <message>
         <source>There are no black bars.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de bandes noires.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a plusieurs films à cette adresse. Ajoutez-la de nouveau pour choisir parmi eux.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il y a trop de préréglages. Supprimez-en d’abord quelques-uns.</translation>
     </message>
     <message>
         <source>There is no connection to the network. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de connexion réseau. Vérifiez-la et réessayez.</translation>
     </message>
     <message>
         <source>There is no disc. Put it in, or choose an image or a folder, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de disque. Insérez-le, ou choisissez une image ou un dossier, puis réessayez.</translation>
     </message>
     <message>
         <source>There is no display whose picture could be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a aucun écran dont l’image puisse être enregistrée.</translation>
     </message>
     <message>
         <source>There is no film at this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de film à cette adresse.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas de film à cette adresse. Cherchez la page qui le diffuse.</translation>
     </message>
     <message>
         <source>There is no log yet</source>
@@ -2349,11 +2461,11 @@
     </message>
     <message>
         <source>There is no picture at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’image à cet endroit.</translation>
     </message>
     <message>
         <source>There is no screen "%1". There is: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a pas d’écran « %1 ». Disponibles : %2.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -2361,7 +2473,7 @@
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and try again; what has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a plus d’espace sur le disque. Libérez de l’espace et réessayez ; ce qui a été reçu est conservé.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -2369,11 +2481,11 @@
     </message>
     <message>
         <source>There is no video or sound file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il ne contient aucun fichier vidéo ou audio.</translation>
     </message>
     <message>
         <source>There is no window %1 to be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Aucune fenêtre %1 n’est visible.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
@@ -2381,19 +2493,19 @@
     </message>
     <message>
         <source>There is not enough memory to read this disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>La mémoire est insuffisante pour lire ce disque.</translation>
     </message>
     <message>
         <source>There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’espace est insuffisant : %1 sont nécessaires et %2 sont libres. Libérez de l’espace ou choisissez un autre dossier dans les réglages.</translation>
     </message>
     <message>
         <source>There is nothing to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il n’y a rien à convertir.</translation>
     </message>
     <message>
         <source>There is too little space on the disk to record.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’espace sur le disque est insuffisant pour enregistrer.</translation>
     </message>
     <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
@@ -2401,11 +2513,11 @@
     </message>
     <message>
         <source>This address is of no site that Kestrel knows. Check it, or look for the page that plays the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette adresse n’appartient à aucun site connu de Kestrel. Vérifiez-la, ou cherchez la page qui diffuse le film.</translation>
     </message>
     <message>
         <source>This choice is kept until you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce choix est conservé jusqu’à la fermeture de l’application.</translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -2413,11 +2525,11 @@
     </message>
     <message>
         <source>This disc is being copied to this folder already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce disque est déjà en cours de copie dans ce dossier.</translation>
     </message>
     <message>
         <source>This disc is copy-protected and cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce disque est protégé contre la copie et ne peut pas être lu.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
@@ -2425,11 +2537,11 @@
     </message>
     <message>
         <source>This file has neither picture nor sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne contient ni image ni son à convertir.</translation>
     </message>
     <message>
         <source>This file has no picture to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne contient pas d’image à convertir.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -2437,7 +2549,7 @@
     </message>
     <message>
         <source>This file holds no presets of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce fichier ne contient aucun préréglage de Kestrel.</translation>
     </message>
     <message>
         <source>This file is damaged, or it holds neither video nor sound.</source>
@@ -2445,7 +2557,7 @@
     </message>
     <message>
         <source>This film has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce film n’a pas de son.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
@@ -2453,11 +2565,15 @@
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>C’est un autre disque : %1 au lieu de %2.</translation>
+    </message>
+    <message>
+        <source>This is no address that can be downloaded from.</source>
+        <translation>Rien ne peut être téléchargé depuis cette adresse.</translation>
     </message>
     <message>
         <source>This is no preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un préréglage.</translation>
     </message>
     <message>
         <source>This is no text file</source>
@@ -2465,71 +2581,67 @@
     </message>
     <message>
         <source>This is no video DVD: there is no VIDEO_TS on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce n’est pas un DVD vidéo : il ne contient pas de dossier VIDEO_TS.</translation>
     </message>
     <message>
         <source>This is no video or sound file.</source>
         <translation>Ce n’est pas un fichier vidéo ou audio.</translation>
     </message>
     <message>
-        <source>This part is still being made and comes with an update.</source>
-        <translation>Cette partie est en cours de réalisation et arrivera avec une mise à jour.</translation>
-    </message>
-    <message>
         <source>This preset has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce préréglage n’a pas de nom.</translation>
     </message>
     <message>
         <source>This preset keeps neither picture nor sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce préréglage ne conserve ni image ni son.</translation>
     </message>
     <message>
         <source>This preset was made by a newer version of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce préréglage a été créé par une version plus récente de Kestrel.</translation>
     </message>
     <message>
         <source>This title has no sound to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce titre n’a pas de son à conserver.</translation>
     </message>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Chronologie</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre</translation>
     </message>
     <message>
         <source>Title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre %1</translation>
     </message>
     <message>
         <source>Title %1 of the copy has %2 chapters instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le titre %1 de la copie contient %2 chapitres au lieu de %3.</translation>
     </message>
     <message>
         <source>Title %1 of the copy has other tracks than the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le titre %1 de la copie contient d’autres pistes que le disque.</translation>
     </message>
     <message>
         <source>Title %1 of the copy is %2 s long instead of %3 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le titre %1 de la copie dure %2 s au lieu de %3 s.</translation>
     </message>
     <message>
         <source>Title %1, the main film</source>
-        <translation type="unfinished"></translation>
+        <translation>Titre %1, le film principal</translation>
     </message>
     <message>
         <source>Titles as MPEG-2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Titres en fichiers MPEG-2</translation>
     </message>
     <message>
         <source>Titles of the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Titres du disque</translation>
     </message>
     <message>
         <source>Titles, unchanged (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Titres, inchangés (MKV)</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2537,19 +2649,19 @@
     </message>
     <message>
         <source>Too many requests: the server is asked again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Trop de demandes : le serveur sera de nouveau interrogé dans %1 s</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à gauche</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>En haut à droite</translation>
     </message>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Piste %1</translation>
     </message>
     <message>
         <source>Transcoder</source>
@@ -2557,19 +2669,19 @@
     </message>
     <message>
         <source>Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Essai</translation>
     </message>
     <message>
         <source>Try 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Essayer 10 secondes</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Rotation</translation>
     </message>
     <message>
         <source>Turned into standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Convertie en standard</translation>
     </message>
     <message>
         <source>Unable to connect to update server.</source>
@@ -2581,19 +2693,23 @@
     </message>
     <message>
         <source>Unknown language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue inconnue</translation>
     </message>
     <message>
         <source>Unlimited</source>
         <translation>Illimité</translation>
     </message>
     <message>
+        <source>Until it is stopped</source>
+        <translation>Jusqu’à l’arrêt</translation>
+    </message>
+    <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Sans titre</translation>
     </message>
     <message>
         <source>Upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>À l’envers</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2601,11 +2717,11 @@
     </message>
     <message>
         <source>Use the graphics hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Utiliser le matériel graphique</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Habituel</translation>
     </message>
     <message>
         <source>Version: %@</source>
@@ -2613,7 +2729,7 @@
     </message>
     <message>
         <source>Very Small MP4 Video (480p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Très petite vidéo MP4 (480p)</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2629,11 +2745,11 @@
     </message>
     <message>
         <source>Video or sound file</source>
-        <translation type="unfinished"></translation>
+        <translation>Fichier vidéo ou audio</translation>
     </message>
     <message>
-        <source>Videos from the web, on your disk</source>
-        <translation>Les vidéos du web sur votre disque</translation>
+        <source>Videos and music from the web are saved in the form that you choose.</source>
+        <translation>Les vidéos et la musique du web sont enregistrées sous la forme que vous choisissez.</translation>
     </message>
     <message>
         <source>Visit our website:</source>
@@ -2645,19 +2761,19 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>WAV Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio WAV</translation>
     </message>
     <message>
         <source>WMA Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio WMA</translation>
     </message>
     <message>
         <source>WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo WMV</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -2665,39 +2781,39 @@
     </message>
     <message>
         <source>Waiting for a network connection</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente d’une connexion réseau</translation>
     </message>
     <message>
         <source>Waiting for space on the disk: %1 needed</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente d’espace sur le disque : %1 nécessaires</translation>
     </message>
     <message>
         <source>Waiting for the network, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente du réseau, prochain essai dans %1 s</translation>
     </message>
     <message>
         <source>Waiting for the server…</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente du serveur…</translation>
     </message>
     <message>
         <source>Waiting: %1 downloads from this server are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>En attente : %1 téléchargements depuis ce serveur sont en cours</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Filigrane</translation>
     </message>
     <message>
         <source>Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Web</translation>
     </message>
     <message>
         <source>WebM Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo WebM (AV1, Opus)</translation>
     </message>
     <message>
         <source>WebM Video (VP8, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vidéo WebM (VP8, Vorbis)</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
@@ -2705,39 +2821,47 @@
     </message>
     <message>
         <source>What the server sent is no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que le serveur a envoyé n’est pas un film.</translation>
     </message>
     <message>
         <source>What the site answered could not be understood.</source>
-        <translation type="unfinished"></translation>
+        <translation>La réponse du site n’a pas pu être comprise.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que produit ce préréglage ne peut pas être ajusté à une taille.</translation>
+    </message>
+    <message>
+        <source>What to record</source>
+        <translation>Source à enregistrer</translation>
     </message>
     <message>
         <source>What you stop now is offered to you again at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce que vous arrêtez maintenant vous sera de nouveau proposé au prochain démarrage.</translation>
     </message>
     <message>
         <source>Where it is needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Si nécessaire</translation>
     </message>
     <message>
         <source>Whole Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Image entière</translation>
     </message>
     <message>
         <source>Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Largeur de l’image</translation>
     </message>
     <message>
         <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Ne sera pas accepté. Exemple : http://proxy.example.com ou socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>Window</source>
         <translation>Fenêtre</translation>
+    </message>
+    <message>
+        <source>Window: %1</source>
+        <translation>Fenêtre : %1</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>
@@ -2761,11 +2885,11 @@
     </message>
     <message>
         <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos réglages ne peuvent pas être enregistrés pour le moment. Kestrel réessaiera à sa fermeture.</translation>
     </message>
     <message>
         <source>Your settings could not be saved when Kestrel was last quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Vos réglages n’ont pas pu être enregistrés lors de la dernière fermeture de Kestrel.</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -2785,7 +2909,7 @@
     </message>
     <message>
         <source>another commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>autre commentaire</translation>
     </message>
     <message>
         <source>closetip</source>
@@ -2793,31 +2917,31 @@
     </message>
     <message>
         <source>commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>commentaire</translation>
     </message>
     <message>
         <source>for children</source>
-        <translation type="unfinished"></translation>
+        <translation>pour enfants</translation>
     </message>
     <message>
         <source>for the hard of hearing</source>
-        <translation type="unfinished"></translation>
+        <translation>pour malentendants</translation>
     </message>
     <message>
         <source>for the visually impaired</source>
-        <translation type="unfinished"></translation>
+        <translation>pour malvoyants</translation>
     </message>
     <message>
         <source>forced</source>
-        <translation type="unfinished"></translation>
+        <translation>forcés</translation>
     </message>
     <message>
         <source>kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>conservé tel quel</translation>
     </message>
     <message>
         <source>large</source>
-        <translation type="unfinished"></translation>
+        <translation>grands</translation>
     </message>
     <message>
         <source>less than a minute left</source>
@@ -2825,7 +2949,7 @@
     </message>
     <message>
         <source>same as title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>identique au titre %1</translation>
     </message>
     <message>
         <source>showtip</source>
@@ -2833,11 +2957,11 @@
     </message>
     <message>
         <source>{name}, {preset}, {folder} and {date} are filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>{name}, {preset}, {folder} et {date} sont remplacés par leur valeur.</translation>
     </message>
     <message>
         <source>“%1” could not be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossible de lire « %1 ».</translation>
     </message>
 </context>
 </TS>

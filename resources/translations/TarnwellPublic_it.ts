@@ -8,80 +8,88 @@
         <translation>%1 (%2 thread)</translation>
     </message>
     <message>
+        <source>%1 (sound only)</source>
+        <translation>%1 (solo audio)</translation>
+    </message>
+    <message>
         <source>%1 - Title %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 - Titolo %2</translation>
     </message>
     <message>
         <source>%1 MB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB</translation>
     </message>
     <message>
         <source>%1 MB are too few for a file of this length.</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 MB sono troppo pochi per un file di questa durata.</translation>
     </message>
     <message>
         <source>%1 and %2 more</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 e altri %2</translation>
     </message>
     <message>
         <source>%1 angles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 angolazioni</translation>
     </message>
     <message>
         <source>%1 chapters</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 capitoli</translation>
     </message>
     <message>
         <source>%1 dB</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 dB</translation>
     </message>
     <message>
         <source>%1 files selected</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 file selezionati</translation>
     </message>
     <message>
         <source>%1 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 kbit/s</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read, %3 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Letti %1 di %2 s, %3 errori</translation>
     </message>
     <message>
         <source>%1 of %2 s could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Letti %1 di %2 s.</translation>
     </message>
     <message>
         <source>%1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 s</translation>
     </message>
     <message>
         <source>%1 s could be read, %2 faults</source>
-        <translation type="unfinished"></translation>
+        <translation>Letti %1 s, %2 errori</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile leggere %1 settori del disco; nella copia sono vuoti.</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile leggere %1 settori del disco; nell’immagine sono vuoti.</translation>
     </message>
     <message>
         <source>%1 sectors of the film could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile leggere %1 settori del filmato.</translation>
     </message>
     <message>
         <source>%1 titles</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 titoli</translation>
     </message>
     <message>
         <source>%1 to go</source>
-        <translation type="unfinished"></translation>
+        <translation>ancora %1</translation>
     </message>
     <message>
         <source>%1 ×</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 ×</translation>
+    </message>
+    <message>
+        <source>%1/s</source>
+        <translation>%1/s</translation>
     </message>
     <message>
         <source>%@ %@ is currently the latest version available.</source>
@@ -93,95 +101,95 @@
     </message>
     <message>
         <source>128 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>128 kbit/s</translation>
     </message>
     <message>
         <source>160 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>160 kbit/s</translation>
     </message>
     <message>
         <source>192 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>192 kbit/s</translation>
     </message>
     <message>
         <source>23.976</source>
-        <translation type="unfinished"></translation>
+        <translation>23,976</translation>
     </message>
     <message>
         <source>24</source>
-        <translation type="unfinished"></translation>
+        <translation>24</translation>
     </message>
     <message>
         <source>25</source>
-        <translation type="unfinished"></translation>
+        <translation>25</translation>
     </message>
     <message>
         <source>256 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>256 kbit/s</translation>
     </message>
     <message>
         <source>2560 × 1440</source>
-        <translation type="unfinished"></translation>
+        <translation>2560 × 1440</translation>
     </message>
     <message>
         <source>29.97</source>
-        <translation type="unfinished"></translation>
+        <translation>29,97</translation>
     </message>
     <message>
         <source>30</source>
-        <translation type="unfinished"></translation>
+        <translation>30</translation>
     </message>
     <message>
         <source>320 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>320 kbit/s</translation>
     </message>
     <message>
         <source>448 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>448 kbit/s</translation>
     </message>
     <message>
         <source>4K (3840 × 2160)</source>
-        <translation type="unfinished"></translation>
+        <translation>4K (3840 × 2160)</translation>
     </message>
     <message>
         <source>50</source>
-        <translation type="unfinished"></translation>
+        <translation>50</translation>
     </message>
     <message>
         <source>59.94</source>
-        <translation type="unfinished"></translation>
+        <translation>59,94</translation>
     </message>
     <message>
         <source>60</source>
-        <translation type="unfinished"></translation>
+        <translation>60</translation>
     </message>
     <message>
         <source>64 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>64 kbit/s</translation>
     </message>
     <message>
         <source>640 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>640 kbit/s</translation>
     </message>
     <message>
         <source>96 kbit/s</source>
-        <translation type="unfinished"></translation>
+        <translation>96 kbit/s</translation>
     </message>
     <message>
         <source>A chapter for each joined file</source>
-        <translation type="unfinished"></translation>
+        <translation>Un capitolo per ogni file unito</translation>
     </message>
     <message>
         <source>A disc of the chosen title alone, without menus, that players start at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un disco con il solo titolo scelto, senza menu, che i lettori avviano subito.</translation>
     </message>
     <message>
         <source>A file of the kind %1 cannot hold what this preset asks for: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un file di tipo %1 non può contenere ciò che questo preset richiede: %2.</translation>
     </message>
     <message>
         <source>A folder has no sectors to copy. Choose another way.</source>
-        <translation type="unfinished"></translation>
+        <translation>Una cartella non ha settori da copiare. Scegli un altro modo.</translation>
     </message>
     <message>
         <source>A new version of %@ is available!</source>
@@ -189,27 +197,27 @@
     </message>
     <message>
         <source>A preset needs a name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Un preset deve avere un nome.</translation>
     </message>
     <message>
         <source>AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio AC-3</translation>
     </message>
     <message>
         <source>AIFF Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio AIFF</translation>
     </message>
     <message>
         <source>APNG Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animazione APNG</translation>
     </message>
     <message>
         <source>AVI Video (MPEG-4, MP3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video AVI (MPEG-4, MP3)</translation>
     </message>
     <message>
         <source>AVI Video (Motion JPEG, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video AVI (Motion JPEG, PCM)</translation>
     </message>
     <message>
         <source>About</source>
@@ -217,7 +225,7 @@
     </message>
     <message>
         <source>About %1.</source>
-        <translation type="unfinished"></translation>
+        <translation>Circa %1.</translation>
     </message>
     <message>
         <source>About %@</source>
@@ -232,36 +240,48 @@
         <translation>Informazioni sulla nostra azienda Tarnwell Software, Inc.</translation>
     </message>
     <message>
+        <source>Add</source>
+        <translation>Aggiungi</translation>
+    </message>
+    <message>
+        <source>Add %1</source>
+        <translation>Aggiungi %1</translation>
+    </message>
+    <message>
         <source>Add Files…</source>
         <translation>Aggiungi file…</translation>
     </message>
     <message>
         <source>Add Subtitle File…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiungi file di sottotitoli…</translation>
     </message>
     <message>
         <source>Adding the subtitles…</source>
-        <translation type="unfinished"></translation>
+        <translation>Aggiunta dei sottotitoli…</translation>
     </message>
     <message>
         <source>Address</source>
         <translation>Indirizzo</translation>
     </message>
     <message>
+        <source>Address of a video or a page, such as https://…</source>
+        <translation>Indirizzo di un video o di una pagina, per esempio https://…</translation>
+    </message>
+    <message>
         <source>Aim</source>
-        <translation type="unfinished"></translation>
+        <translation>Obiettivo</translation>
     </message>
     <message>
         <source>All</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti</translation>
     </message>
     <message>
         <source>All Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i formati</translation>
     </message>
     <message>
         <source>All Formats…</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i formati…</translation>
     </message>
     <message>
         <source>All files</source>
@@ -269,35 +289,39 @@
     </message>
     <message>
         <source>All files of the disc in a folder, with its menus.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutti i file del disco in una cartella, con i suoi menu.</translation>
     </message>
     <message>
         <source>All jobs are done.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le operazioni sono completate.</translation>
     </message>
     <message>
         <source>All jobs have ended.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le operazioni sono terminate.</translation>
     </message>
     <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tutte le tracce audio dei titoli scelti con i relativi capitoli.</translation>
+    </message>
+    <message>
+        <source>Allow Many From One Server</source>
+        <translation>Consenti molti da un solo server</translation>
     </message>
     <message>
         <source>Already in the list: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Già nell’elenco: %1</translation>
     </message>
     <message>
         <source>Always</source>
-        <translation type="unfinished"></translation>
+        <translation>Sempre</translation>
     </message>
     <message>
         <source>Always kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni sempre</translation>
     </message>
     <message>
         <source>Always, twice the pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Sempre, il doppio delle immagini</translation>
     </message>
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
@@ -305,7 +329,7 @@
     </message>
     <message>
         <source>Another folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Altra cartella…</translation>
     </message>
     <message>
         <source>App Log</source>
@@ -313,11 +337,11 @@
     </message>
     <message>
         <source>Apply</source>
-        <translation type="unfinished"></translation>
+        <translation>Applica</translation>
     </message>
     <message>
         <source>Archive</source>
-        <translation type="unfinished"></translation>
+        <translation>Archivio</translation>
     </message>
     <message>
         <source>Are you sure you want to reset profile?</source>
@@ -329,19 +353,19 @@
     </message>
     <message>
         <source>As the format has it</source>
-        <translation type="unfinished"></translation>
+        <translation>Come da formato</translation>
     </message>
     <message>
         <source>As the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Come la sorgente</translation>
     </message>
     <message>
         <source>Asking the site…</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrogazione del sito…</translation>
     </message>
     <message>
         <source>At most</source>
-        <translation type="unfinished"></translation>
+        <translation>Al massimo</translation>
     </message>
     <message>
         <source>Automatic</source>
@@ -356,28 +380,32 @@
         <translation>Esegui il backup dei DVD in 6 modalità e converti un intero DVD in oltre 180 formati per riprodurlo su Mac e dispositivi mobili, archiviarlo sul disco rigido, guardarlo in TV e altro. Un intero DVD in 5 minuti!</translation>
     </message>
     <message>
+        <source>Begin at once</source>
+        <translation>Inizia subito</translation>
+    </message>
+    <message>
         <source>Beside the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Accanto alla sorgente</translation>
     </message>
     <message>
         <source>Bit rate</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate</translation>
     </message>
     <message>
         <source>Bit rate of a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitrate di una traccia</translation>
     </message>
     <message>
         <source>Bottom left</source>
-        <translation type="unfinished"></translation>
+        <translation>In basso a sinistra</translation>
     </message>
     <message>
         <source>Bottom right</source>
-        <translation type="unfinished"></translation>
+        <translation>In basso a destra</translation>
     </message>
     <message>
         <source>Brightness</source>
-        <translation type="unfinished"></translation>
+        <translation>Luminosità</translation>
     </message>
     <message>
         <source>Build on: %@</source>
@@ -385,11 +413,15 @@
     </message>
     <message>
         <source>Burnt into the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Impressi nell’immagine</translation>
     </message>
     <message>
         <source>CAF Audio (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio CAF (ALAC)</translation>
+    </message>
+    <message>
+        <source>Camera %1</source>
+        <translation>Videocamera %1</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -397,19 +429,19 @@
     </message>
     <message>
         <source>Cancel the Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Annulla la prova</translation>
     </message>
     <message>
         <source>Cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullato</translation>
     </message>
     <message>
         <source>Cancelled: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Annullati: %1</translation>
     </message>
     <message>
         <source>Cannot be used</source>
-        <translation type="unfinished"></translation>
+        <translation>Non utilizzabile</translation>
     </message>
     <message>
         <source>Change video &amp; audio formats, resize video files, edit 4K, 5K, 8K videos, like cut, merge, split, rotate, subtitle, watermark, etc. Experience No.1 fast hardware-accelerated processing.</source>
@@ -421,19 +453,19 @@
     </message>
     <message>
         <source>Channels</source>
-        <translation type="unfinished"></translation>
+        <translation>Canali</translation>
     </message>
     <message>
         <source>Chapter %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Capitolo %1</translation>
     </message>
     <message>
         <source>Chapters are missing in the finished file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nel file finito mancano dei capitoli.</translation>
     </message>
     <message>
         <source>Chapters, languages and the colours of subtitles, which MPEG-2 files cannot hold</source>
-        <translation type="unfinished"></translation>
+        <translation>Capitoli, lingue e colori dei sottotitoli, che i file MPEG-2 non possono contenere</translation>
     </message>
     <message>
         <source>Check for Updates…</source>
@@ -445,19 +477,31 @@
     </message>
     <message>
         <source>Checking the copy…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica della copia…</translation>
     </message>
     <message>
         <source>Checking the finished file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica del file finito…</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Scegli</translation>
+    </message>
+    <message>
+        <source>Choose Films</source>
+        <translation>Scegli i filmati</translation>
     </message>
     <message>
         <source>Choose a Folder</source>
         <translation>Scegli una cartella</translation>
+    </message>
+    <message>
+        <source>Choose above what is recorded, then press Record.</source>
+        <translation>Scegli in alto che cosa registrare, poi premi Registra.</translation>
+    </message>
+    <message>
+        <source>Choose an Area</source>
+        <translation>Scegli un’area</translation>
     </message>
     <message>
         <source>Choose another one, or allow yourself to write to it: %1</source>
@@ -473,7 +517,7 @@
     </message>
     <message>
         <source>Clockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>In senso orario</translation>
     </message>
     <message>
         <source>Close</source>
@@ -488,8 +532,12 @@
         <translation>Generali</translation>
     </message>
     <message>
+        <source>Computer and microphone</source>
+        <translation>Computer e microfono</translation>
+    </message>
+    <message>
         <source>Connecting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Connessione…</translation>
     </message>
     <message>
         <source>Continue</source>
@@ -497,7 +545,7 @@
     </message>
     <message>
         <source>Contrast</source>
-        <translation type="unfinished"></translation>
+        <translation>Contrasto</translation>
     </message>
     <message>
         <source>Convert</source>
@@ -513,11 +561,11 @@
     </message>
     <message>
         <source>Converting ten seconds: %1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversione di dieci secondi: %1%</translation>
     </message>
     <message>
         <source>Converting…</source>
-        <translation type="unfinished"></translation>
+        <translation>Conversione…</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -537,15 +585,23 @@
     </message>
     <message>
         <source>Corner</source>
-        <translation type="unfinished"></translation>
+        <translation>Angolo</translation>
+    </message>
+    <message>
+        <source>Count down from three</source>
+        <translation>Conto alla rovescia da tre</translation>
+    </message>
+    <message>
+        <source>Countdown</source>
+        <translation>Conto alla rovescia</translation>
     </message>
     <message>
         <source>Counterclockwise</source>
-        <translation type="unfinished"></translation>
+        <translation>In senso antiorario</translation>
     </message>
     <message>
         <source>Cover</source>
-        <translation type="unfinished"></translation>
+        <translation>Copertina</translation>
     </message>
     <message>
         <source>Cut</source>
@@ -553,43 +609,43 @@
     </message>
     <message>
         <source>Cut and Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia e modifica</translation>
     </message>
     <message>
         <source>Cut and Edit…</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglia e modifica…</translation>
     </message>
     <message>
         <source>Cut exactly (encodes)</source>
-        <translation type="unfinished"></translation>
+        <translation>Taglio esatto (ricodifica)</translation>
     </message>
     <message>
         <source>Cut off bottom</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritaglia in basso</translation>
     </message>
     <message>
         <source>Cut off left</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritaglia a sinistra</translation>
     </message>
     <message>
         <source>Cut off right</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritaglia a destra</translation>
     </message>
     <message>
         <source>Cut off top</source>
-        <translation type="unfinished"></translation>
+        <translation>Ritaglia in alto</translation>
     </message>
     <message>
         <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tagliato senza ricodifica: inizia dall’ultima immagine chiave prima di %1 s.</translation>
     </message>
     <message>
         <source>DTS</source>
-        <translation type="unfinished"></translation>
+        <translation>DTS</translation>
     </message>
     <message>
         <source>DV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video DV</translation>
     </message>
     <message>
         <source>DVD</source>
@@ -597,7 +653,7 @@
     </message>
     <message>
         <source>DVD (720 × 576)</source>
-        <translation type="unfinished"></translation>
+        <translation>DVD (720 × 576)</translation>
     </message>
     <message>
         <source>DVD Ripper</source>
@@ -605,7 +661,7 @@
     </message>
     <message>
         <source>Data of the camera, such as time code.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dati della videocamera, come il timecode.</translation>
     </message>
     <message>
         <source>Default</source>
@@ -613,11 +669,11 @@
     </message>
     <message>
         <source>Deinterlacing</source>
-        <translation type="unfinished"></translation>
+        <translation>Deinterlacciamento</translation>
     </message>
     <message>
         <source>Delete</source>
-        <translation type="unfinished"></translation>
+        <translation>Elimina</translation>
     </message>
     <message>
         <source>Details</source>
@@ -629,31 +685,31 @@
     </message>
     <message>
         <source>Devices</source>
-        <translation type="unfinished"></translation>
+        <translation>Dispositivi</translation>
     </message>
     <message>
         <source>Disc Player (VOB)</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettore di dischi (VOB)</translation>
     </message>
     <message>
         <source>Disc folder with menus</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella del disco con menu</translation>
     </message>
     <message>
         <source>Disc image (ISO)</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine disco (ISO)</translation>
     </message>
     <message>
         <source>Disc images</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini disco</translation>
     </message>
     <message>
         <source>Dolby Digital</source>
-        <translation type="unfinished"></translation>
+        <translation>Dolby Digital</translation>
     </message>
     <message>
         <source>Don't Shut Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Non spegnere</translation>
     </message>
     <message>
         <source>Done</source>
@@ -661,15 +717,15 @@
     </message>
     <message>
         <source>Done with problems</source>
-        <translation type="unfinished"></translation>
+        <translation>Completato con problemi</translation>
     </message>
     <message>
         <source>Done with problems: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Completati con problemi: %1</translation>
     </message>
     <message>
         <source>Done: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Completati: %1</translation>
     </message>
     <message>
         <source>Download</source>
@@ -704,8 +760,12 @@
         <translation>Download simultanei</translation>
     </message>
     <message>
+        <source>Draw an area, then press Return</source>
+        <translation>Traccia un’area, poi premi Invio</translation>
+    </message>
+    <message>
         <source>Drive</source>
-        <translation type="unfinished"></translation>
+        <translation>Unità</translation>
     </message>
     <message>
         <source>Drop videos or folders anywhere in this window, choose a format below and press Convert. The results go to the output folder; your own files stay as they are.</source>
@@ -717,7 +777,7 @@
     </message>
     <message>
         <source>E-AC-3 Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio E-AC-3</translation>
     </message>
     <message>
         <source>Edit</source>
@@ -725,55 +785,55 @@
     </message>
     <message>
         <source>Editing</source>
-        <translation type="unfinished"></translation>
+        <translation>Modifiche</translation>
     </message>
     <message>
         <source>Encoding in software</source>
-        <translation type="unfinished"></translation>
+        <translation>Codifica software</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
-        <translation type="unfinished"></translation>
+        <translation>Codifica, perché le tracce non possono essere copiate</translation>
     </message>
     <message>
         <source>End</source>
-        <translation type="unfinished"></translation>
+        <translation>Fine</translation>
     </message>
     <message>
         <source>End Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Termina qui</translation>
     </message>
     <message>
         <source>Even out the loudness</source>
-        <translation type="unfinished"></translation>
+        <translation>Uniforma il volume</translation>
     </message>
     <message>
         <source>Export</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta</translation>
     </message>
     <message>
         <source>Export…</source>
-        <translation type="unfinished"></translation>
+        <translation>Esporta…</translation>
     </message>
     <message>
         <source>FLAC Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio FLAC</translation>
     </message>
     <message>
         <source>FLV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video FLV (H.264, AAC)</translation>
     </message>
     <message>
         <source>Fade in</source>
-        <translation type="unfinished"></translation>
+        <translation>Dissolvenza iniziale</translation>
     </message>
     <message>
         <source>Fade out</source>
-        <translation type="unfinished"></translation>
+        <translation>Dissolvenza finale</translation>
     </message>
     <message>
         <source>Failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Non riuscito</translation>
     </message>
     <message>
         <source>Failed: %1</source>
@@ -781,27 +841,31 @@
     </message>
     <message>
         <source>Faster, larger file</source>
-        <translation type="unfinished"></translation>
+        <translation>Più veloce, file più grande</translation>
     </message>
     <message>
         <source>Fastest, largest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Il più veloce, file più grande di tutti</translation>
     </message>
     <message>
         <source>File size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni massime del file</translation>
     </message>
     <message>
         <source>Files can be cut or joined, but not both at once.</source>
-        <translation type="unfinished"></translation>
+        <translation>I file si possono tagliare o unire, ma non entrambe le cose insieme.</translation>
     </message>
     <message>
         <source>Film from television (24)</source>
-        <translation type="unfinished"></translation>
+        <translation>Film dalla televisione (24)</translation>
+    </message>
+    <message>
+        <source>Films at this address</source>
+        <translation>Filmati a questo indirizzo</translation>
     </message>
     <message>
         <source>Filter</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtra</translation>
     </message>
     <message>
         <source>Find</source>
@@ -809,7 +873,7 @@
     </message>
     <message>
         <source>Find Black Bars</source>
-        <translation type="unfinished"></translation>
+        <translation>Trova bande nere</translation>
     </message>
     <message>
         <source>Find Next</source>
@@ -821,15 +885,15 @@
     </message>
     <message>
         <source>Finishing…</source>
-        <translation type="unfinished"></translation>
+        <translation>Completamento…</translation>
     </message>
     <message>
         <source>First pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Prima passata</translation>
     </message>
     <message>
         <source>Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella</translation>
     </message>
     <message>
         <source>Follow</source>
@@ -837,19 +901,19 @@
     </message>
     <message>
         <source>For all files</source>
-        <translation type="unfinished"></translation>
+        <translation>Per tutti i file</translation>
     </message>
     <message>
         <source>For example: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Per esempio: %1</translation>
     </message>
     <message>
         <source>For the DVD ripper, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per il ripper DVD, ancora in lavorazione.</translation>
     </message>
     <message>
         <source>For the downloader, which is still being made.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per il downloader, ancora in lavorazione.</translation>
     </message>
     <message>
         <source>Format</source>
@@ -857,11 +921,11 @@
     </message>
     <message>
         <source>Format and options in use are kept under this name:</source>
-        <translation type="unfinished"></translation>
+        <translation>Il formato e le opzioni in uso vengono salvati con questo nome:</translation>
     </message>
     <message>
         <source>Formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Formati</translation>
     </message>
     <message>
         <source>Found after going around the end of the log.</source>
@@ -869,23 +933,23 @@
     </message>
     <message>
         <source>Full HD (1920 × 1080)</source>
-        <translation type="unfinished"></translation>
+        <translation>Full HD (1920 × 1080)</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
-        <translation type="unfinished"></translation>
+        <translation>Altre immagini oltre alla prima (altre angolazioni o anteprime).</translation>
     </message>
     <message>
         <source>GIF Animation</source>
-        <translation type="unfinished"></translation>
+        <translation>Animazione GIF</translation>
     </message>
     <message>
         <source>Game Console</source>
-        <translation type="unfinished"></translation>
+        <translation>Console di gioco</translation>
     </message>
     <message>
         <source>Go On</source>
-        <translation type="unfinished"></translation>
+        <translation>Riprendi</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -905,7 +969,7 @@
     </message>
     <message>
         <source>HD (1280 × 720)</source>
-        <translation type="unfinished"></translation>
+        <translation>HD (1280 × 720)</translation>
     </message>
     <message>
         <source>HEVC decoders</source>
@@ -929,15 +993,15 @@
     </message>
     <message>
         <source>High dynamic range</source>
-        <translation type="unfinished"></translation>
+        <translation>Gamma dinamica estesa</translation>
     </message>
     <message>
         <source>High dynamic range becomes standard range.</source>
-        <translation type="unfinished"></translation>
+        <translation>La gamma dinamica estesa diventa standard.</translation>
     </message>
     <message>
         <source>High quality (slower)</source>
-        <translation type="unfinished"></translation>
+        <translation>Alta qualità (più lento)</translation>
     </message>
     <message>
         <source>Highest Resolution</source>
@@ -945,15 +1009,15 @@
     </message>
     <message>
         <source>How the disc is kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Come viene conservato il disco</translation>
     </message>
     <message>
         <source>Import</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa</translation>
     </message>
     <message>
         <source>Import…</source>
-        <translation type="unfinished"></translation>
+        <translation>Importa…</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -961,91 +1025,67 @@
     </message>
     <message>
         <source>Interrupted</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrotto</translation>
     </message>
     <message>
         <source>It is shown here as soon as it is written: %1</source>
         <translation>Sarà mostrato qui non appena verrà scritto: %1</translation>
     </message>
     <message>
-        <source>It will fetch several at a time, in the resolution that you prefer.</source>
-        <translation>Ne scaricherà più di uno alla volta, nella risoluzione che preferisci.</translation>
-    </message>
-    <message>
-        <source>It will go through your proxy where you have one.</source>
-        <translation>Userà il tuo proxy, se ne hai uno.</translation>
-    </message>
-    <message>
-        <source>It will record the sound of the computer and of a microphone.</source>
-        <translation>Registrerà l’audio del computer e di un microfono.</translation>
-    </message>
-    <message>
-        <source>It will record the whole screen, a window or a part of it.</source>
-        <translation>Registrerà l’intero schermo, una finestra o una sua parte.</translation>
-    </message>
-    <message>
-        <source>It will save videos and music from addresses that you paste.</source>
-        <translation>Salverà video e musica dagli indirizzi che incolli.</translation>
-    </message>
-    <message>
-        <source>It will show mouse clicks where you want them seen.</source>
-        <translation>Mostrerà i clic del mouse dove vuoi che si vedano.</translation>
-    </message>
-    <message>
         <source>Its titles are kept as they are, or become MP4, MKV or MP3, as you choose.</source>
-        <translation type="unfinished"></translation>
+        <translation>I suoi titoli restano come sono o diventano MP4, MKV o MP3, a tua scelta.</translation>
     </message>
     <message>
         <source>Jobs are running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ci sono operazioni in corso.</translation>
     </message>
     <message>
         <source>Jobs are still running.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ci sono ancora operazioni in corso.</translation>
     </message>
     <message>
         <source>Join all files into one</source>
-        <translation type="unfinished"></translation>
+        <translation>Unisci tutti i file in uno</translation>
     </message>
     <message>
         <source>Join into One</source>
-        <translation type="unfinished"></translation>
+        <translation>Unisci in uno</translation>
     </message>
     <message>
         <source>Joining</source>
-        <translation type="unfinished"></translation>
+        <translation>Unione</translation>
     </message>
     <message>
         <source>Keep Running</source>
-        <translation type="unfinished"></translation>
+        <translation>Continua l’esecuzione</translation>
     </message>
     <message>
         <source>Keep the Rest Instead</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni invece il resto</translation>
     </message>
     <message>
         <source>Keep the date of the source</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni la data della sorgente</translation>
     </message>
     <message>
         <source>Keep tracks that fit as they are</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni invariate le tracce adatte</translation>
     </message>
     <message>
         <source>Kept as a track</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenuti come traccia</translation>
     </message>
     <message>
         <source>Kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenuto fino all’uscita</translation>
     </message>
     <message>
         <source>Kept where it can be</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantieni se possibile</translation>
     </message>
     <message>
         <source>Kept: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Mantenuto: %1</translation>
     </message>
     <message>
         <source>Kestrel Help</source>
@@ -1061,11 +1101,11 @@
     </message>
     <message>
         <source>Kestrel does not know how long this file is, and cannot aim at a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel non conosce la durata di questo file e non può puntare a una dimensione.</translation>
     </message>
     <message>
         <source>Kestrel does not know the kind of file “%1” of this preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kestrel non conosce il tipo di file “%1” di questo preset.</translation>
     </message>
     <message>
         <source>Language</source>
@@ -1077,15 +1117,15 @@
     </message>
     <message>
         <source>Left out</source>
-        <translation type="unfinished"></translation>
+        <translation>Escluso</translation>
     </message>
     <message>
         <source>Left out: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Escluso: %1</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Durata</translation>
     </message>
     <message>
         <source>Lines with this text: %1</source>
@@ -1105,19 +1145,19 @@
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio M4A (AAC)</translation>
     </message>
     <message>
         <source>M4A Audio, Lossless (ALAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio M4A, senza perdita (ALAC)</translation>
     </message>
     <message>
         <source>MKA Audio (Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio MKA (Opus)</translation>
     </message>
     <message>
         <source>MKV Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MKV (AV1, Opus)</translation>
     </message>
     <message>
         <source>MKV Video (H.264, AAC)</source>
@@ -1125,31 +1165,31 @@
     </message>
     <message>
         <source>MKV Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MKV (H.265, AAC)</translation>
     </message>
     <message>
         <source>MKV Video (VP9, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MKV (VP9, Opus)</translation>
     </message>
     <message>
         <source>MKV Video, High Quality (H.265, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MKV, alta qualità (H.265, FLAC)</translation>
     </message>
     <message>
         <source>MKV Video, Lossless (FFV1, FLAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MKV, senza perdita (FFV1, FLAC)</translation>
     </message>
     <message>
         <source>MOV Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MOV (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MOV Video (H.264, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MOV (H.264, AAC)</translation>
     </message>
     <message>
         <source>MOV Video (ProRes, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MOV (ProRes, PCM)</translation>
     </message>
     <message>
         <source>MP3 Audio</source>
@@ -1157,7 +1197,7 @@
     </message>
     <message>
         <source>MP4 Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MP4 (AV1, Opus)</translation>
     </message>
     <message>
         <source>MP4 Video (H.264, AAC)</source>
@@ -1165,27 +1205,27 @@
     </message>
     <message>
         <source>MP4 Video (H.265, AAC)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MP4 (H.265, AAC)</translation>
     </message>
     <message>
         <source>MP4 Video for Web Pages (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MP4 per pagine web (1080p)</translation>
     </message>
     <message>
         <source>MPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>MPEG</translation>
     </message>
     <message>
         <source>MPEG Video (MPEG-2, MP2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MPEG (MPEG-2, MP2)</translation>
     </message>
     <message>
         <source>MXF Video (DNxHR, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MXF (DNxHR, PCM)</translation>
     </message>
     <message>
         <source>MXF Video (MPEG-2, PCM)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MXF (MPEG-2, PCM)</translation>
     </message>
     <message>
         <source>Media files</source>
@@ -1197,11 +1237,15 @@
     </message>
     <message>
         <source>Messages of the tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Messaggi degli strumenti</translation>
+    </message>
+    <message>
+        <source>Microphone</source>
+        <translation>Microfono</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Centro</translation>
     </message>
     <message>
         <source>Minimize</source>
@@ -1209,11 +1253,11 @@
     </message>
     <message>
         <source>Mirror</source>
-        <translation type="unfinished"></translation>
+        <translation>Rifletti</translation>
     </message>
     <message>
         <source>Mono</source>
-        <translation type="unfinished"></translation>
+        <translation>Mono</translation>
     </message>
     <message>
         <source>Music folder</source>
@@ -1221,7 +1265,7 @@
     </message>
     <message>
         <source>My Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>I miei preset</translation>
     </message>
     <message>
         <source>Name</source>
@@ -1229,19 +1273,19 @@
     </message>
     <message>
         <source>Name of the preset:</source>
-        <translation type="unfinished"></translation>
+        <translation>Nome del preset:</translation>
     </message>
     <message>
         <source>Never</source>
-        <translation type="unfinished"></translation>
+        <translation>Mai</translation>
     </message>
     <message>
         <source>No camera was found.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna videocamera trovata.</translation>
     </message>
     <message>
         <source>No format matches the search.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessun formato corrisponde alla ricerca.</translation>
     </message>
     <message>
         <source>No log was named</source>
@@ -1249,19 +1293,27 @@
     </message>
     <message>
         <source>No picture of the copy could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile decodificare alcuna immagine della copia.</translation>
     </message>
     <message>
         <source>No picture of this film could be decoded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile decodificare alcuna immagine di questo filmato.</translation>
     </message>
     <message>
         <source>No server answers at this address. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>A questo indirizzo non risponde alcun server. Verificalo e riprova.</translation>
+    </message>
+    <message>
+        <source>No sound</source>
+        <translation>Senza audio</translation>
+    </message>
+    <message>
+        <source>No speed limit</source>
+        <translation>Nessun limite di velocità</translation>
     </message>
     <message>
         <source>None</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna</translation>
     </message>
     <message>
         <source>Not chosen yet</source>
@@ -1269,19 +1321,19 @@
     </message>
     <message>
         <source>Not turned</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ruotata</translation>
     </message>
     <message>
         <source>Not used yet</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ancora usata</translation>
     </message>
     <message>
         <source>Not used yet, kept until you quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ancora usata, mantenuta fino all’uscita</translation>
     </message>
     <message>
         <source>Nothing could be decoded at %1 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile decodificare nulla a %1 s.</translation>
     </message>
     <message>
         <source>Nothing found.</source>
@@ -1289,31 +1341,31 @@
     </message>
     <message>
         <source>Nothing of the file could be converted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile convertire nulla del file.</translation>
     </message>
     <message>
         <source>Nothing of the film could be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile leggere nulla del filmato.</translation>
     </message>
     <message>
         <source>Nothing of the recording is left.</source>
-        <translation type="unfinished"></translation>
+        <translation>Della registrazione non è rimasto nulla.</translation>
     </message>
     <message>
         <source>Nothing of this file would be kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Di questo file non verrebbe mantenuto nulla.</translation>
     </message>
     <message>
         <source>Nothing was recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato registrato nulla.</translation>
     </message>
     <message>
         <source>OGG Audio (Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio OGG (Vorbis)</translation>
     </message>
     <message>
         <source>OGV Video (Theora, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video OGV (Theora, Vorbis)</translation>
     </message>
     <message>
         <source>OK</source>
@@ -1325,27 +1377,27 @@
     </message>
     <message>
         <source>Old Phone (3GP)</source>
-        <translation type="unfinished"></translation>
+        <translation>Vecchio telefono (3GP)</translation>
     </message>
     <message>
         <source>One title as a disc folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Un titolo come cartella del disco</translation>
     </message>
     <message>
         <source>Only %1 of %2 s have come.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sono arrivati solo %1 di %2 s.</translation>
     </message>
     <message>
         <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si possono unire solo file che hanno tutti un’immagine o tutti l’audio.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
-        <translation type="unfinished"></translation>
+        <translation>Si può imprimere una sola traccia di sottotitoli; le altre vengono escluse.</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opacità</translation>
     </message>
     <message>
         <source>Open</source>
@@ -1353,11 +1405,11 @@
     </message>
     <message>
         <source>Open Folder…</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri cartella…</translation>
     </message>
     <message>
         <source>Open Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>Apri immagine…</translation>
     </message>
     <message>
         <source>Open the log with “App Log” in the Help menu of %1.</source>
@@ -1373,35 +1425,35 @@
     </message>
     <message>
         <source>Options</source>
-        <translation type="unfinished"></translation>
+        <translation>Opzioni</translation>
     </message>
     <message>
         <source>Opus Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio Opus</translation>
     </message>
     <message>
         <source>Original Sound, in an MKA File</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio originale, in un file MKA</translation>
     </message>
     <message>
         <source>Original, in a MOV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Originale, in un file MOV</translation>
     </message>
     <message>
         <source>Original, in a TS File</source>
-        <translation type="unfinished"></translation>
+        <translation>Originale, in un file TS</translation>
     </message>
     <message>
         <source>Original, in an MKV File</source>
-        <translation type="unfinished"></translation>
+        <translation>Originale, in un file MKV</translation>
     </message>
     <message>
         <source>Original, in an MP4 File</source>
-        <translation type="unfinished"></translation>
+        <translation>Originale, in un file MP4</translation>
     </message>
     <message>
         <source>Output</source>
-        <translation type="unfinished"></translation>
+        <translation>Destinazione</translation>
     </message>
     <message>
         <source>Output folder:</source>
@@ -1413,79 +1465,87 @@
     </message>
     <message>
         <source>PCM</source>
-        <translation type="unfinished"></translation>
+        <translation>PCM</translation>
     </message>
     <message>
         <source>Page of options</source>
-        <translation type="unfinished"></translation>
+        <translation>Pagina delle opzioni</translation>
+    </message>
+    <message>
+        <source>Part of the screen…</source>
+        <translation>Parte dello schermo…</translation>
     </message>
     <message>
         <source>Parts of the finished file are missing.</source>
-        <translation type="unfinished"></translation>
+        <translation>Mancano parti del file finito.</translation>
     </message>
     <message>
         <source>Paste</source>
         <translation>Incolla</translation>
     </message>
     <message>
+        <source>Paste or drop addresses here</source>
+        <translation>Incolla o trascina qui gli indirizzi</translation>
+    </message>
+    <message>
         <source>Pause</source>
-        <translation type="unfinished"></translation>
+        <translation>Pausa</translation>
     </message>
     <message>
         <source>Paused</source>
-        <translation type="unfinished"></translation>
+        <translation>In pausa</translation>
     </message>
     <message>
         <source>Phone</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefono</translation>
     </message>
     <message>
         <source>Phone (H.265)</source>
-        <translation type="unfinished"></translation>
+        <translation>Telefono (H.265)</translation>
     </message>
     <message>
         <source>Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine</translation>
     </message>
     <message>
         <source>Picture, all sound, subtitles in their colours and chapters of the chosen titles, nothing encoded again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine, tutto l’audio, sottotitoli nei loro colori e capitoli dei titoli scelti, senza ricodificare nulla.</translation>
     </message>
     <message>
         <source>Pictures</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini</translation>
     </message>
     <message>
         <source>Pictures a second</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagini al secondo</translation>
     </message>
     <message>
         <source>Piece %1 of %2</source>
-        <translation type="unfinished"></translation>
+        <translation>Parte %1 di %2</translation>
     </message>
     <message>
         <source>Pieces that are kept</source>
-        <translation type="unfinished"></translation>
+        <translation>Parti mantenute</translation>
     </message>
     <message>
         <source>Play</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci</translation>
     </message>
     <message>
         <source>Play Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproduci sorgente</translation>
     </message>
     <message>
         <source>Playing speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità di riproduzione</translation>
     </message>
     <message>
         <source>Plays Everywhere</source>
-        <translation type="unfinished"></translation>
+        <translation>Riproducibile ovunque</translation>
     </message>
     <message>
         <source>Please check that the disk has room and that this folder can be written: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Verifica che sul disco ci sia spazio e che si possa scrivere in questa cartella: %1</translation>
     </message>
     <message>
         <source>Please wait. Getting update information from the server...</source>
@@ -1505,7 +1565,7 @@
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Posizione</translation>
     </message>
     <message>
         <source>Preferences…</source>
@@ -1517,7 +1577,7 @@
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Preset</translation>
     </message>
     <message>
         <source>Problem detected in last conversion.</source>
@@ -1529,7 +1589,7 @@
     </message>
     <message>
         <source>Processor cores</source>
-        <translation type="unfinished"></translation>
+        <translation>Core del processore</translation>
     </message>
     <message>
         <source>Progress</source>
@@ -1545,15 +1605,15 @@
     </message>
     <message>
         <source>Put a DVD in, or drop a disc image or folder here</source>
-        <translation type="unfinished"></translation>
+        <translation>Inserisci un DVD o trascina qui un’immagine disco o una cartella</translation>
     </message>
     <message>
         <source>Putting picture and sound together…</source>
-        <translation type="unfinished"></translation>
+        <translation>Unione di immagine e audio…</translation>
     </message>
     <message>
         <source>Quality (lower is better)</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualità (più basso è meglio)</translation>
     </message>
     <message>
         <source>Quit Kestrel</source>
@@ -1561,11 +1621,11 @@
     </message>
     <message>
         <source>Reading the disc…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura del disco…</translation>
     </message>
     <message>
         <source>Reading the disc… A drive may take half a minute for it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura del disco… Un’unità può impiegare mezzo minuto.</translation>
     </message>
     <message>
         <source>Reading the file or writing to the output folder is not allowed. Check their permissions.</source>
@@ -1573,7 +1633,7 @@
     </message>
     <message>
         <source>Reading the file…</source>
-        <translation type="unfinished"></translation>
+        <translation>Lettura del file…</translation>
     </message>
     <message>
         <source>Reading…</source>
@@ -1582,6 +1642,10 @@
     <message>
         <source>Ready</source>
         <translation>Pronto</translation>
+    </message>
+    <message>
+        <source>Record</source>
+        <translation>Registra</translation>
     </message>
     <message>
         <source>Record Video</source>
@@ -1596,8 +1660,16 @@
         <translation>Registratore</translation>
     </message>
     <message>
+        <source>Recording</source>
+        <translation>Registrazione</translation>
+    </message>
+    <message>
+        <source>Recording begins in %1 s. Press Record to begin at once.</source>
+        <translation>La registrazione inizia tra %1 s. Premi Registra per iniziare subito.</translation>
+    </message>
+    <message>
         <source>Recovered after an interruption.</source>
-        <translation type="unfinished"></translation>
+        <translation>Recuperato dopo un’interruzione.</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -1613,19 +1685,23 @@
     </message>
     <message>
         <source>Remove Piece</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuovi parte</translation>
+    </message>
+    <message>
+        <source>Remove With Partial File</source>
+        <translation>Rimuovi con il file parziale</translation>
     </message>
     <message>
         <source>Removes what is done from the list. The files stay.</source>
-        <translation type="unfinished"></translation>
+        <translation>Rimuove dall’elenco ciò che è completato. I file restano.</translation>
     </message>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina</translation>
     </message>
     <message>
         <source>Rename…</source>
-        <translation type="unfinished"></translation>
+        <translation>Rinomina…</translation>
     </message>
     <message>
         <source>Report Bug</source>
@@ -1641,19 +1717,19 @@
     </message>
     <message>
         <source>Result</source>
-        <translation type="unfinished"></translation>
+        <translation>Risultato</translation>
     </message>
     <message>
         <source>Running</source>
-        <translation type="unfinished"></translation>
+        <translation>In corso</translation>
     </message>
     <message>
         <source>Safe mode: check the whole result</source>
-        <translation type="unfinished"></translation>
+        <translation>Modalità sicura: verifica l’intero risultato</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Saturazione</translation>
     </message>
     <message>
         <source>Save a Copy</source>
@@ -1665,23 +1741,27 @@
     </message>
     <message>
         <source>Save as Preset</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva come preset</translation>
     </message>
     <message>
         <source>Save as Preset…</source>
-        <translation type="unfinished"></translation>
+        <translation>Salva come preset…</translation>
     </message>
     <message>
         <source>Saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvato: %1</translation>
     </message>
     <message>
         <source>Saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Salvataggio…</translation>
     </message>
     <message>
         <source>Saving… %1 % (Esc stops)</source>
         <translation>Salvataggio… %1% (Esc per interrompere)</translation>
+    </message>
+    <message>
+        <source>Screen %1 (%2 × %3)</source>
+        <translation>Schermo %1 (%2 × %3)</translation>
     </message>
     <message>
         <source>Screen Record Unavailable!</source>
@@ -1701,11 +1781,11 @@
     </message>
     <message>
         <source>Search formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca formati</translation>
     </message>
     <message>
         <source>Search: MKV, AV1, FLAC …</source>
-        <translation type="unfinished"></translation>
+        <translation>Cerca: MKV, AV1, FLAC…</translation>
     </message>
     <message>
         <source>Searching… %1 % (Esc stops)</source>
@@ -1713,7 +1793,7 @@
     </message>
     <message>
         <source>Second pass</source>
-        <translation type="unfinished"></translation>
+        <translation>Seconda passata</translation>
     </message>
     <message>
         <source>Select All</source>
@@ -1721,7 +1801,7 @@
     </message>
     <message>
         <source>Select one file in the list to choose among its tracks.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seleziona un file nell’elenco per scegliere fra le sue tracce.</translation>
     </message>
     <message>
         <source>Send Feedback</source>
@@ -1737,11 +1817,11 @@
     </message>
     <message>
         <source>Several formats</source>
-        <translation type="unfinished"></translation>
+        <translation>Più formati</translation>
     </message>
     <message>
         <source>Show</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra</translation>
     </message>
     <message>
         <source>Show File</source>
@@ -1749,7 +1829,7 @@
     </message>
     <message>
         <source>Show in Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Mostra nella cartella</translation>
     </message>
     <message>
         <source>Show notifications</source>
@@ -1765,35 +1845,35 @@
     </message>
     <message>
         <source>Size at most</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni massime</translation>
     </message>
     <message>
         <source>Size: about %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dimensioni: circa %1</translation>
     </message>
     <message>
         <source>Slower, smaller file</source>
-        <translation type="unfinished"></translation>
+        <translation>Più lento, file più piccolo</translation>
     </message>
     <message>
         <source>Slowest, smallest file</source>
-        <translation type="unfinished"></translation>
+        <translation>Il più lento, file più piccolo di tutti</translation>
     </message>
     <message>
         <source>Small (640 × 480)</source>
-        <translation type="unfinished"></translation>
+        <translation>Piccolo (640 × 480)</translation>
     </message>
     <message>
         <source>Small Files</source>
-        <translation type="unfinished"></translation>
+        <translation>File piccoli</translation>
     </message>
     <message>
         <source>Small MP4 Video (720p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MP4 piccolo (720p)</translation>
     </message>
     <message>
         <source>Snapshot</source>
-        <translation type="unfinished"></translation>
+        <translation>Istantanea</translation>
     </message>
     <message>
         <source>Snapshot folder</source>
@@ -1801,43 +1881,55 @@
     </message>
     <message>
         <source>Sound</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio</translation>
+    </message>
+    <message>
+        <source>Sound level</source>
+        <translation>Livello audio</translation>
+    </message>
+    <message>
+        <source>Sound of the computer</source>
+        <translation>Audio del computer</translation>
     </message>
     <message>
         <source>Sound only, unchanged (MKA)</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo l’audio, invariato (MKA)</translation>
     </message>
     <message>
         <source>Sound track %1, which this film does not have</source>
-        <translation type="unfinished"></translation>
+        <translation>La traccia audio %1, che questo filmato non contiene</translation>
     </message>
     <message>
         <source>Sound: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio: %1</translation>
     </message>
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio: %1. %2 può contenere una sola traccia audio.</translation>
     </message>
     <message>
         <source>Source</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorgente</translation>
     </message>
     <message>
         <source>Source (drag to crop)</source>
-        <translation type="unfinished"></translation>
+        <translation>Sorgente (trascina per ritagliare)</translation>
     </message>
     <message>
         <source>Speed</source>
-        <translation type="unfinished"></translation>
+        <translation>Velocità</translation>
+    </message>
+    <message>
+        <source>Speed limit of each download</source>
+        <translation>Limite di velocità di ogni download</translation>
     </message>
     <message>
         <source>Start</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizio</translation>
     </message>
     <message>
         <source>Start Here</source>
-        <translation type="unfinished"></translation>
+        <translation>Inizia qui</translation>
     </message>
     <message>
         <source>Status</source>
@@ -1849,19 +1941,31 @@
     </message>
     <message>
         <source>Steady quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Qualità costante</translation>
     </message>
     <message>
         <source>Stereo</source>
-        <translation type="unfinished"></translation>
+        <translation>Stereo</translation>
+    </message>
+    <message>
+        <source>Stop</source>
+        <translation>Interrompi</translation>
+    </message>
+    <message>
+        <source>Stop after</source>
+        <translation>Interrompi dopo</translation>
+    </message>
+    <message>
+        <source>Stop after %1 min</source>
+        <translation>Interrompi dopo %1 min</translation>
     </message>
     <message>
         <source>Stop and Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompi ed esci</translation>
     </message>
     <message>
         <source>Stop and Restart</source>
-        <translation type="unfinished"></translation>
+        <translation>Interrompi e riavvia</translation>
     </message>
     <message>
         <source>Stopped.</source>
@@ -1869,27 +1973,27 @@
     </message>
     <message>
         <source>Stopping…</source>
-        <translation type="unfinished"></translation>
+        <translation>Interruzione…</translation>
     </message>
     <message>
         <source>Subtitles</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottotitoli</translation>
     </message>
     <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottotitoli come immagini: %1. %2 non può contenerli; imprimili o scegli MKV.</translation>
     </message>
     <message>
         <source>Subtitles: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottotitoli: %1</translation>
     </message>
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottotitoli: %1. %2 non può contenerli.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sottotitoli: %1. Non possono seguire i tempi modificati; imprimili per mantenerli.</translation>
     </message>
     <message>
         <source>Suggestions</source>
@@ -1897,27 +2001,27 @@
     </message>
     <message>
         <source>Surround 5.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Surround 5.1</translation>
     </message>
     <message>
         <source>TS Video (H.264, AC-3)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video TS (H.264, AC-3)</translation>
     </message>
     <message>
         <source>TV (1080p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Televisore (1080p)</translation>
     </message>
     <message>
         <source>TV (4K, HDR)</source>
-        <translation type="unfinished"></translation>
+        <translation>Televisore (4K, HDR)</translation>
     </message>
     <message>
         <source>Tablet</source>
-        <translation type="unfinished"></translation>
+        <translation>Tablet</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Testo</translation>
     </message>
     <message>
         <source>That is the log itself. Choose another name.</source>
@@ -1925,31 +2029,35 @@
     </message>
     <message>
         <source>The area to be recorded is outside the screen.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’area da registrare è fuori dallo schermo.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file allegato %1. %2 non può contenerlo.</translation>
     </message>
     <message>
         <source>The broadcast has not begun yet. Try again when it has.</source>
-        <translation type="unfinished"></translation>
+        <translation>La trasmissione non è ancora iniziata. Riprova quando sarà iniziata.</translation>
+    </message>
+    <message>
+        <source>The camera's picture is not shown before it is recorded.</source>
+        <translation>L’immagine della videocamera non viene mostrata prima della registrazione.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
-        <translation type="unfinished"></translation>
+        <translation>I capitoli. %1 non può contenerli.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
-        <translation type="unfinished"></translation>
+        <translation>I titoli scelti diventano file del formato indicato a lato, piccoli quanto desideri.</translation>
     </message>
     <message>
         <source>The computer will shut down in %1 seconds.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il computer verrà spento tra %1 secondi.</translation>
     </message>
     <message>
         <source>The conversion was stopped before the end.</source>
-        <translation type="unfinished"></translation>
+        <translation>La conversione è stata interrotta prima della fine.</translation>
     </message>
     <message>
         <source>The converter cannot make this format. Choose another one.</source>
@@ -1965,7 +2073,7 @@
     </message>
     <message>
         <source>The converter did not answer any more.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il convertitore non risponde più.</translation>
     </message>
     <message>
         <source>The converter is missing. Please install the application again.</source>
@@ -1973,7 +2081,7 @@
     </message>
     <message>
         <source>The copy could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile rileggere la copia.</translation>
     </message>
     <message>
         <source>The copy could not be saved: %1</source>
@@ -1981,11 +2089,11 @@
     </message>
     <message>
         <source>The copy has %1 titles instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia contiene %1 titoli invece di %2.</translation>
     </message>
     <message>
         <source>The copy was broken off. It goes on where it is when it is started again.</source>
-        <translation type="unfinished"></translation>
+        <translation>La copia è stata interrotta. Riprenderà da questo punto quando verrà avviata di nuovo.</translation>
     </message>
     <message>
         <source>The copy was saved.</source>
@@ -1993,39 +2101,39 @@
     </message>
     <message>
         <source>The cover picture. %1 cannot hold it.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine di copertina. %1 non può contenerla.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine di copertina. Va persa quando i file vengono uniti in questo modo.</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere il disco.</translation>
     </message>
     <message>
         <source>The disc did not answer in time.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disco non ha risposto in tempo.</translation>
     </message>
     <message>
         <source>The disc has no such title, chapter or angle.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disco non contiene questo titolo, capitolo o angolazione.</translation>
     </message>
     <message>
         <source>The disc image ends before its film does.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine disco finisce prima del filmato.</translation>
     </message>
     <message>
         <source>The disc is damaged: what it holds could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disco è danneggiato: impossibile leggerne il contenuto.</translation>
     </message>
     <message>
         <source>The disc may not be read by this user.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo utente non ha il permesso di leggere il disco.</translation>
     </message>
     <message>
         <source>The disc tools could not be started. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile avviare gli strumenti per i dischi. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>The disk could not be read or written.</source>
@@ -2033,7 +2141,7 @@
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il disco è troppo pieno per completare la registrazione: resta un file Matroska.</translation>
     </message>
     <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
@@ -2041,31 +2149,31 @@
     </message>
     <message>
         <source>The display %1 could not be opened.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile aprire lo schermo %1.</translation>
     </message>
     <message>
         <source>The download engine does not work. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il motore di download non funziona. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il motore di download non è presente. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il download non è riuscito. I dettagli riportano il messaggio del motore.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’encoder per %1 non è installato.</translation>
     </message>
     <message>
         <source>The file could not be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere il file.</translation>
     </message>
     <message>
         <source>The file could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere il file.</translation>
     </message>
     <message>
         <source>The file holds neither video nor sound that can be converted.</source>
@@ -2085,47 +2193,47 @@
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il filmato è protetto dalla copia e non viene scaricato.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il filmato non è più disponibile. Cercalo a un altro indirizzo.</translation>
     </message>
     <message>
         <source>The film is not there in the form that was wanted. Choose another resolution or format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il filmato non è disponibile nella forma voluta. Scegli un’altra risoluzione o un altro formato.</translation>
     </message>
     <message>
         <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il filmato è privato o riservato ai membri, quindi non può essere scaricato.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il filmato dei titoli scelti così com’è sul disco; senza capitoli né nomi delle lingue.</translation>
     </message>
     <message>
         <source>The finished file could not be read back.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile rileggere il file finito.</translation>
     </message>
     <message>
         <source>The finished file has %1 bytes instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file finito è di %1 byte invece di %2.</translation>
     </message>
     <message>
         <source>The finished file holds other tracks than were wanted: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file finito contiene tracce diverse da quelle volute: %1 invece di %2.</translation>
     </message>
     <message>
         <source>The finished file is %1 s long instead of %2 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file finito dura %1 s invece di %2 s.</translation>
     </message>
     <message>
         <source>The finished file is damaged: %1 faults.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file finito è danneggiato: %1 errori.</translation>
     </message>
     <message>
         <source>The finished file is larger than wanted.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il file finito è più grande di quanto voluto.</translation>
     </message>
     <message>
         <source>The first %1 were copied. Save a copy to have all of it.</source>
@@ -2137,7 +2245,11 @@
     </message>
     <message>
         <source>The folder for temporary files cannot be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere nella cartella dei file temporanei.</translation>
+    </message>
+    <message>
+        <source>The last %1 s have no sound: the sound server went away.</source>
+        <translation>Gli ultimi %1 s sono senza audio: il server audio non era più disponibile.</translation>
     </message>
     <message>
         <source>The log cannot be read</source>
@@ -2149,15 +2261,15 @@
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere le opzioni di questa operazione. Aggiungi di nuovo l’indirizzo.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile leggere le opzioni di questa operazione. Aggiungi di nuovo il file.</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere il risultato.</translation>
     </message>
     <message>
         <source>The output directory does not exist. Please check the setting.</source>
@@ -2169,51 +2281,51 @@
     </message>
     <message>
         <source>The picture has to be encoded (%1).</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine deve essere codificata (%1).</translation>
     </message>
     <message>
         <source>The picture is made smaller, %1 × %2, so that it fits the size.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine viene ridotta a %1 × %2 per rientrare nelle dimensioni.</translation>
     </message>
     <message>
         <source>The picture is missing: the site handed out the sound alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca l’immagine: il sito ha fornito solo l’audio.</translation>
     </message>
     <message>
         <source>The picture of the finished file does not stand upright.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’immagine del file finito non è diritta.</translation>
     </message>
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Le parti da mantenere si trovano oltre la fine del file.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il lettore non è presente. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>The program dvdauthor is missing. Please install it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il programma dvdauthor non è presente. Installalo.</translation>
     </message>
     <message>
         <source>The proxy refuses the connection. Check its address in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il proxy rifiuta la connessione. Verificane l’indirizzo nelle impostazioni.</translation>
     </message>
     <message>
         <source>The recording could not be finished: it stays a Matroska file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile completare la registrazione: resta un file Matroska.</translation>
     </message>
     <message>
         <source>The recording ended because the disk is nearly full.</source>
-        <translation type="unfinished"></translation>
+        <translation>La registrazione è terminata perché il disco è quasi pieno.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
-        <translation type="unfinished"></translation>
+        <translation>La registrazione è stata interrotta.</translation>
     </message>
     <message>
         <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo schermo di una sessione Wayland non può essere registrato. Per registrarlo, accedi a una sessione X11 (Xorg).</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2221,67 +2333,67 @@
     </message>
     <message>
         <source>The server broke off or could not answer. What has come is kept; try again later.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server ha interrotto la connessione o non ha potuto rispondere. Ciò che è arrivato viene mantenuto; riprova più tardi.</translation>
     </message>
     <message>
         <source>The server broke off, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server ha interrotto la connessione, prossimo tentativo tra %1 s</translation>
     </message>
     <message>
         <source>The server has sent only part of the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server ha inviato solo una parte del filmato.</translation>
     </message>
     <message>
         <source>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il server rifiuta di fornire il filmato. Riprova più tardi o apri la pagina in un browser per scoprirne il motivo.</translation>
     </message>
     <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
-        <translation type="unfinished"></translation>
+        <translation>Per ora il server non accetta altre richieste. Riprova tra un po’.</translation>
     </message>
     <message>
         <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il certificato del server non è valido, quindi potrebbe non essere il server che dice di essere. Non è stato scaricato nulla.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Cartella delle impostazioni</translation>
     </message>
     <message>
         <source>The site does not show this film in your country. A proxy of another country can be set in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sito non mostra questo filmato nel tuo paese. Nelle impostazioni puoi indicare un proxy di un altro paese.</translation>
     </message>
     <message>
         <source>The site has changed and the download engine does not know it any more. Update the engine and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sito è cambiato e il motore di download non lo riconosce più. Aggiorna il motore e riprova.</translation>
     </message>
     <message>
         <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sito mostra questo filmato solo a chi ha effettuato l’accesso, cosa che Kestrel non fa.</translation>
     </message>
     <message>
         <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il sito vuole prima conoscere l’età dello spettatore, che apprende solo tramite un accesso.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile scrivere l’istantanea.</translation>
     </message>
     <message>
         <source>The sound could not be recorded. Is the sound server running?</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile registrare l’audio. Il server audio è in esecuzione?</translation>
     </message>
     <message>
         <source>The sound is missing since the sound server went away.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’audio manca da quando il server audio si è chiuso.</translation>
     </message>
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
-        <translation type="unfinished"></translation>
+        <translation>Manca l’audio: il sito ha fornito solo l’immagine.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’audio. %1 può contenere solo immagini.</translation>
     </message>
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
@@ -2301,47 +2413,47 @@
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>L’intero disco, settore per settore, in un file che si riproduce come il disco.</translation>
     </message>
     <message>
         <source>The whole film is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Viene mantenuto l’intero filmato.</translation>
     </message>
     <message>
         <source>The window is too small to be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>La finestra è troppo piccola per essere registrata.</translation>
     </message>
     <message>
         <source>There are no black bars.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non ci sono bande nere.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
-        <translation type="unfinished"></translation>
+        <translation>A questo indirizzo ci sono più filmati. Aggiungilo di nuovo per scegliere tra questi.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ci sono troppi preset. Eliminane prima qualcuno.</translation>
     </message>
     <message>
         <source>There is no connection to the network. Check it and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è connessione di rete. Verificala e riprova.</translation>
     </message>
     <message>
         <source>There is no disc. Put it in, or choose an image or a folder, and try again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è alcun disco. Inseriscilo, oppure scegli un’immagine o una cartella, e riprova.</translation>
     </message>
     <message>
         <source>There is no display whose picture could be recorded.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è alcuno schermo la cui immagine si possa registrare.</translation>
     </message>
     <message>
         <source>There is no film at this address.</source>
-        <translation type="unfinished"></translation>
+        <translation>A questo indirizzo non c’è alcun filmato.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
-        <translation type="unfinished"></translation>
+        <translation>A questo indirizzo non c’è alcun filmato. Cerca la pagina che lo riproduce.</translation>
     </message>
     <message>
         <source>There is no log yet</source>
@@ -2349,11 +2461,11 @@
     </message>
     <message>
         <source>There is no picture at this place.</source>
-        <translation type="unfinished"></translation>
+        <translation>In questo punto non c’è alcuna immagine.</translation>
     </message>
     <message>
         <source>There is no screen "%1". There is: %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo schermo “%1” non esiste. Disponibili: %2.</translation>
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and convert again.</source>
@@ -2361,7 +2473,7 @@
     </message>
     <message>
         <source>There is no space left on the disk. Free some space and try again; what has come is kept.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo spazio su disco è esaurito. Libera spazio e riprova; ciò che è arrivato viene mantenuto.</translation>
     </message>
     <message>
         <source>There is no such file.</source>
@@ -2369,11 +2481,11 @@
     </message>
     <message>
         <source>There is no video or sound file in it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non contiene alcun file video o audio.</translation>
     </message>
     <message>
         <source>There is no window %1 to be seen.</source>
-        <translation type="unfinished"></translation>
+        <translation>Nessuna finestra %1 è visibile.</translation>
     </message>
     <message>
         <source>There is not enough memory to convert this file.</source>
@@ -2381,19 +2493,19 @@
     </message>
     <message>
         <source>There is not enough memory to read this disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>La memoria non è sufficiente per leggere questo disco.</translation>
     </message>
     <message>
         <source>There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder in the settings.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lo spazio non è sufficiente: servono %1 e ne sono liberi %2. Libera spazio o scegli un’altra cartella nelle impostazioni.</translation>
     </message>
     <message>
         <source>There is nothing to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non c’è nulla da convertire.</translation>
     </message>
     <message>
         <source>There is too little space on the disk to record.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sul disco c’è troppo poco spazio per registrare.</translation>
     </message>
     <message>
         <source>They become MP4, MKV, WebM or MP3, as you choose.</source>
@@ -2401,11 +2513,11 @@
     </message>
     <message>
         <source>This address is of no site that Kestrel knows. Check it, or look for the page that plays the film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo indirizzo non appartiene ad alcun sito noto a Kestrel. Verificalo o cerca la pagina che riproduce il filmato.</translation>
     </message>
     <message>
         <source>This choice is kept until you quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questa scelta vale fino all’uscita dall’applicazione.</translation>
     </message>
     <message>
         <source>This computer has no hardware encoder for H.264 video.</source>
@@ -2413,11 +2525,11 @@
     </message>
     <message>
         <source>This disc is being copied to this folder already.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo disco è già in fase di copia in questa cartella.</translation>
     </message>
     <message>
         <source>This disc is copy-protected and cannot be read.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo disco è protetto dalla copia e non può essere letto.</translation>
     </message>
     <message>
         <source>This file could not be read.</source>
@@ -2425,11 +2537,11 @@
     </message>
     <message>
         <source>This file has neither picture nor sound to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non contiene né immagine né audio da convertire.</translation>
     </message>
     <message>
         <source>This file has no picture to convert.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non contiene un’immagine da convertire.</translation>
     </message>
     <message>
         <source>This file has no sound to convert.</source>
@@ -2437,7 +2549,7 @@
     </message>
     <message>
         <source>This file holds no presets of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo file non contiene preset di Kestrel.</translation>
     </message>
     <message>
         <source>This file is damaged, or it holds neither video nor sound.</source>
@@ -2445,7 +2557,7 @@
     </message>
     <message>
         <source>This film has no sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo filmato non ha audio.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
@@ -2453,11 +2565,15 @@
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo è un altro disco: %1 invece di %2.</translation>
+    </message>
+    <message>
+        <source>This is no address that can be downloaded from.</source>
+        <translation>Da questo indirizzo non si può scaricare nulla.</translation>
     </message>
     <message>
         <source>This is no preset.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non è un preset.</translation>
     </message>
     <message>
         <source>This is no text file</source>
@@ -2465,71 +2581,67 @@
     </message>
     <message>
         <source>This is no video DVD: there is no VIDEO_TS on it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo non è un DVD video: non contiene VIDEO_TS.</translation>
     </message>
     <message>
         <source>This is no video or sound file.</source>
         <translation>Non è un file video o audio.</translation>
     </message>
     <message>
-        <source>This part is still being made and comes with an update.</source>
-        <translation>Questa parte è ancora in lavorazione e arriverà con un aggiornamento.</translation>
-    </message>
-    <message>
         <source>This preset has no name.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo preset non ha un nome.</translation>
     </message>
     <message>
         <source>This preset keeps neither picture nor sound.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo preset non mantiene né immagine né audio.</translation>
     </message>
     <message>
         <source>This preset was made by a newer version of Kestrel.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo preset è stato creato da una versione più recente di Kestrel.</translation>
     </message>
     <message>
         <source>This title has no sound to keep.</source>
-        <translation type="unfinished"></translation>
+        <translation>Questo titolo non ha audio da mantenere.</translation>
     </message>
     <message>
         <source>Time line</source>
-        <translation type="unfinished"></translation>
+        <translation>Timeline</translation>
     </message>
     <message>
         <source>Title</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo</translation>
     </message>
     <message>
         <source>Title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo %1</translation>
     </message>
     <message>
         <source>Title %1 of the copy has %2 chapters instead of %3.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il titolo %1 della copia contiene %2 capitoli invece di %3.</translation>
     </message>
     <message>
         <source>Title %1 of the copy has other tracks than the disc.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il titolo %1 della copia contiene tracce diverse da quelle del disco.</translation>
     </message>
     <message>
         <source>Title %1 of the copy is %2 s long instead of %3 s.</source>
-        <translation type="unfinished"></translation>
+        <translation>Il titolo %1 della copia dura %2 s invece di %3 s.</translation>
     </message>
     <message>
         <source>Title %1, the main film</source>
-        <translation type="unfinished"></translation>
+        <translation>Titolo %1, il film principale</translation>
     </message>
     <message>
         <source>Titles as MPEG-2 files</source>
-        <translation type="unfinished"></translation>
+        <translation>Titoli come file MPEG-2</translation>
     </message>
     <message>
         <source>Titles of the disc</source>
-        <translation type="unfinished"></translation>
+        <translation>Titoli del disco</translation>
     </message>
     <message>
         <source>Titles, unchanged (MKV)</source>
-        <translation type="unfinished"></translation>
+        <translation>Titoli, invariati (MKV)</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2537,19 +2649,19 @@
     </message>
     <message>
         <source>Too many requests: the server is asked again in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>Troppe richieste: il server verrà interrogato di nuovo tra %1 s</translation>
     </message>
     <message>
         <source>Top left</source>
-        <translation type="unfinished"></translation>
+        <translation>In alto a sinistra</translation>
     </message>
     <message>
         <source>Top right</source>
-        <translation type="unfinished"></translation>
+        <translation>In alto a destra</translation>
     </message>
     <message>
         <source>Track %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Traccia %1</translation>
     </message>
     <message>
         <source>Transcoder</source>
@@ -2557,19 +2669,19 @@
     </message>
     <message>
         <source>Trial</source>
-        <translation type="unfinished"></translation>
+        <translation>Prova</translation>
     </message>
     <message>
         <source>Try 10 Seconds</source>
-        <translation type="unfinished"></translation>
+        <translation>Prova 10 secondi</translation>
     </message>
     <message>
         <source>Turn</source>
-        <translation type="unfinished"></translation>
+        <translation>Ruota</translation>
     </message>
     <message>
         <source>Turned into standard</source>
-        <translation type="unfinished"></translation>
+        <translation>Converti in standard</translation>
     </message>
     <message>
         <source>Unable to connect to update server.</source>
@@ -2581,19 +2693,23 @@
     </message>
     <message>
         <source>Unknown language</source>
-        <translation type="unfinished"></translation>
+        <translation>Lingua sconosciuta</translation>
     </message>
     <message>
         <source>Unlimited</source>
         <translation>Illimitati</translation>
     </message>
     <message>
+        <source>Until it is stopped</source>
+        <translation>Fino all’interruzione</translation>
+    </message>
+    <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Senza titolo</translation>
     </message>
     <message>
         <source>Upside down</source>
-        <translation type="unfinished"></translation>
+        <translation>Capovolta</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2601,11 +2717,11 @@
     </message>
     <message>
         <source>Use the graphics hardware</source>
-        <translation type="unfinished"></translation>
+        <translation>Usa l’hardware grafico</translation>
     </message>
     <message>
         <source>Usual</source>
-        <translation type="unfinished"></translation>
+        <translation>Consueto</translation>
     </message>
     <message>
         <source>Version: %@</source>
@@ -2613,7 +2729,7 @@
     </message>
     <message>
         <source>Very Small MP4 Video (480p)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video MP4 molto piccolo (480p)</translation>
     </message>
     <message>
         <source>Video</source>
@@ -2629,11 +2745,11 @@
     </message>
     <message>
         <source>Video or sound file</source>
-        <translation type="unfinished"></translation>
+        <translation>File video o audio</translation>
     </message>
     <message>
-        <source>Videos from the web, on your disk</source>
-        <translation>I video del web, sul tuo disco</translation>
+        <source>Videos and music from the web are saved in the form that you choose.</source>
+        <translation>I video e la musica del web vengono salvati nella forma che scegli.</translation>
     </message>
     <message>
         <source>Visit our website:</source>
@@ -2645,19 +2761,19 @@
     </message>
     <message>
         <source>Volume</source>
-        <translation type="unfinished"></translation>
+        <translation>Volume</translation>
     </message>
     <message>
         <source>WAV Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio WAV</translation>
     </message>
     <message>
         <source>WMA Audio</source>
-        <translation type="unfinished"></translation>
+        <translation>Audio WMA</translation>
     </message>
     <message>
         <source>WMV Video</source>
-        <translation type="unfinished"></translation>
+        <translation>Video WMV</translation>
     </message>
     <message>
         <source>Waiting</source>
@@ -2665,39 +2781,39 @@
     </message>
     <message>
         <source>Waiting for a network connection</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa di una connessione di rete</translation>
     </message>
     <message>
         <source>Waiting for space on the disk: %1 needed</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa di spazio su disco: servono %1</translation>
     </message>
     <message>
         <source>Waiting for the network, next attempt in %1 s</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa della rete, prossimo tentativo tra %1 s</translation>
     </message>
     <message>
         <source>Waiting for the server…</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa del server…</translation>
     </message>
     <message>
         <source>Waiting: %1 downloads from this server are under way</source>
-        <translation type="unfinished"></translation>
+        <translation>In attesa: sono in corso %1 download da questo server</translation>
     </message>
     <message>
         <source>Watermark</source>
-        <translation type="unfinished"></translation>
+        <translation>Filigrana</translation>
     </message>
     <message>
         <source>Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Web</translation>
     </message>
     <message>
         <source>WebM Video (AV1, Opus)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video WebM (AV1, Opus)</translation>
     </message>
     <message>
         <source>WebM Video (VP8, Vorbis)</source>
-        <translation type="unfinished"></translation>
+        <translation>Video WebM (VP8, Vorbis)</translation>
     </message>
     <message>
         <source>WebM Video (VP9, Opus)</source>
@@ -2705,39 +2821,47 @@
     </message>
     <message>
         <source>What the server sent is no film.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che il server ha inviato non è un filmato.</translation>
     </message>
     <message>
         <source>What the site answered could not be understood.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile comprendere la risposta del sito.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che questo preset crea non si può adattare a una dimensione.</translation>
+    </message>
+    <message>
+        <source>What to record</source>
+        <translation>Cosa registrare</translation>
     </message>
     <message>
         <source>What you stop now is offered to you again at the next start.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ciò che interrompi ora ti verrà riproposto al prossimo avvio.</translation>
     </message>
     <message>
         <source>Where it is needed</source>
-        <translation type="unfinished"></translation>
+        <translation>Dove serve</translation>
     </message>
     <message>
         <source>Whole Picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Immagine intera</translation>
     </message>
     <message>
         <source>Width of the picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Larghezza dell’immagine</translation>
     </message>
     <message>
         <source>Will not be accepted. Example: http://proxy.example.com or socks5://10.0.0.1</source>
-        <translation type="unfinished"></translation>
+        <translation>Non verrà accettato. Esempio: http://proxy.example.com o socks5://10.0.0.1</translation>
     </message>
     <message>
         <source>Window</source>
         <translation>Finestra</translation>
+    </message>
+    <message>
+        <source>Window: %1</source>
+        <translation>Finestra: %1</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>
@@ -2761,11 +2885,11 @@
     </message>
     <message>
         <source>Your settings cannot be saved at the moment. Kestrel tries again when it is quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Al momento non è possibile salvare le impostazioni. Kestrel riproverà all’uscita.</translation>
     </message>
     <message>
         <source>Your settings could not be saved when Kestrel was last quit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Non è stato possibile salvare le impostazioni all’ultima uscita da Kestrel.</translation>
     </message>
     <message>
         <source>Zoom</source>
@@ -2785,7 +2909,7 @@
     </message>
     <message>
         <source>another commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>altro commento</translation>
     </message>
     <message>
         <source>closetip</source>
@@ -2793,31 +2917,31 @@
     </message>
     <message>
         <source>commentary</source>
-        <translation type="unfinished"></translation>
+        <translation>commento</translation>
     </message>
     <message>
         <source>for children</source>
-        <translation type="unfinished"></translation>
+        <translation>per bambini</translation>
     </message>
     <message>
         <source>for the hard of hearing</source>
-        <translation type="unfinished"></translation>
+        <translation>per non udenti</translation>
     </message>
     <message>
         <source>for the visually impaired</source>
-        <translation type="unfinished"></translation>
+        <translation>per non vedenti</translation>
     </message>
     <message>
         <source>forced</source>
-        <translation type="unfinished"></translation>
+        <translation>forzati</translation>
     </message>
     <message>
         <source>kept as it is</source>
-        <translation type="unfinished"></translation>
+        <translation>invariato</translation>
     </message>
     <message>
         <source>large</source>
-        <translation type="unfinished"></translation>
+        <translation>grandi</translation>
     </message>
     <message>
         <source>less than a minute left</source>
@@ -2825,7 +2949,7 @@
     </message>
     <message>
         <source>same as title %1</source>
-        <translation type="unfinished"></translation>
+        <translation>come il titolo %1</translation>
     </message>
     <message>
         <source>showtip</source>
@@ -2833,11 +2957,11 @@
     </message>
     <message>
         <source>{name}, {preset}, {folder} and {date} are filled in.</source>
-        <translation type="unfinished"></translation>
+        <translation>{name}, {preset}, {folder} e {date} vengono sostituiti con i rispettivi valori.</translation>
     </message>
     <message>
         <source>“%1” could not be played.</source>
-        <translation type="unfinished"></translation>
+        <translation>Impossibile riprodurre “%1”.</translation>
     </message>
 </context>
 </TS>

@@ -86,7 +86,7 @@ class ConversionTest(ProgramTest):
         with open(path, 'w') as file:
             file.write('no film at all')
         app = self.launch(path)
-        app.find('list item', re.compile('letter.mp4.*no video or sound file'))
+        app.find('list item', re.compile('letter.mp4.*damaged or incomplete'))
         self.assertNotIn('sensitive', states(app.find('push button', 'Convert')))
 
 

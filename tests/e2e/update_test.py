@@ -93,7 +93,6 @@ class UpdateTest(ProgramTest):
         begun = today()
         self.publish(NEWS, PROMOTION)
         app = self.start('All your films')
-        app.find('text', None)
         self.click(app, 'push button', 'No, Thanks')
         self.wait_until_closed(app)
         self.assertEqual(app.end(), 0)

@@ -54,7 +54,7 @@ class WindowsTest(ProgramTest):
         self.desktop.key('Return')
         app.wait_for_window('Kestrel 4K - Video Converter')
         self.desktop.key('ctrl+o')
-        app.find('dialog', 'Add Files')
+        app.find('dialog', 'Add Files…')
         self.desktop.key('Escape')
         wait_for(lambda: not app.find_all('dialog'), 'the file dialog to close')
         self.desktop.key('F10')

@@ -1,7 +1,7 @@
+#include "../modules/ModuleSettings.h"
 #include "jobs/JobQueue.h"
 #include "modules/heron/DiscPlan.h"
 #include "modules/heron/ui/HeronController.h"
-#include "tests/modules/ModuleSettings.h"
 
 #include <gtest/gtest.h>
 

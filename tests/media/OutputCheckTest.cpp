@@ -179,7 +179,7 @@ TranscodeFacts goodFacts()
             .sourceTellsDuration = true,
             .copiesTracks = false,
             .findings = good.findings(),
-            .decodingFaults = 0};
+            .readingFaults = 0};
 }
 
 TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
@@ -234,11 +234,11 @@ TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
              f.messages.readLine("[error] no frame!");
          },
          JobState::DoneWithProblems, "60 of 60 s"},
-        {"encoded pictures that do not decode", [](TranscodeFacts &f) { f.decodingFaults = 3; }, JobState::Failed,
+        {"encoded pictures that do not decode", [](TranscodeFacts &f) { f.readingFaults = 3; }, JobState::Failed,
          "The finished file is damaged: 3 faults."},
         {"copied pictures that do not decode",
          [](TranscodeFacts &f) {
-             f.decodingFaults = 3;
+             f.readingFaults = 3;
              f.copiesTracks = true;
          },
          JobState::DoneWithProblems, "60 of 60 s could be read, 3 faults"},

@@ -2,7 +2,7 @@
 """catalogue.py TOOL [PATTERN…]: samples of every kind through the transcoder with the arguments that Kestrel makes.
 
 Each case converts a generated sample and looks at what arrived with ffprobe. With patterns only the cases run whose
-names contain one of them; `presets` writes and reads back every preset. Samples are made anew, or kept in the folder
+names contain one of them; `presets [ID…]` writes and reads back every preset. Samples are made anew, or kept in the folder
 that CATALOGUE_SAMPLES names. The exit status is the number of failures."""
 import json
 import os
@@ -18,7 +18,7 @@ FFPROBE = ['ffprobe', '-v', 'error', '-protocol_whitelist', 'file']
 
 
 def run(arguments, **options):
-    return subprocess.run(arguments, stdin=subprocess.DEVNULL, capture_output=True, timeout=300, **options)
+    return subprocess.run(arguments, stdin=subprocess.DEVNULL, capture_output=True, timeout=900, **options)
 
 
 def report(path):
@@ -159,10 +159,12 @@ class Catalogue:
         return result
 
 
-def preset_faults(catalogue):
-    """Every preset on a second of picture and sound, written, read back, decoded."""
+def preset_faults(catalogue, ids):
+    """Every preset (or those whose ids are given) on a second of picture and sound, written, read back, decoded."""
     faults, tried = [], 0
     for name, preset in catalogue.presets.items():
+        if ids and name not in ids:
+            continue
         tried += 1
         try:
             result = catalogue.convert('second', name)
@@ -201,7 +203,7 @@ def main():
                 print(faults[-1], flush=True)
         print(f'{tried} cases, {len(faults)} failed', flush=True)
         if not patterns or 'presets' in patterns:
-            faults += preset_faults(catalogue)
+            faults += preset_faults(catalogue, patterns[1:])
     return min(len(faults), 100)
 
 

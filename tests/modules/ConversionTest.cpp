@@ -4,6 +4,7 @@
 #include "modules/marlin/Cropping.h"
 #include "modules/marlin/Pieces.h"
 #include "modules/marlin/PlanOptions.h"
+#include "settings/JSettingBase.h"
 
 #include <gtest/gtest.h>
 
@@ -63,7 +64,9 @@ TEST(ConversionTest, FoldersForFilmMusicAndBesideTheSource)
     plan.preset = *presetOfId(u"mkv-h264"_s);
     EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), settings.folder());
     plan.preset.videoCodec = QString();
-    EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), settings.dispatcher().getMusicDir());
+    EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), settings.folder());
+    settings.dispatcher().currentSetting()->setMusicOutputPath(u"/music"_s);
+    EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), u"/music");
     plan.besideSource = true;
     EXPECT_EQ(conversionFolder(settings.dispatcher(), plan), u"/films");
 }

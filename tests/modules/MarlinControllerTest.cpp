@@ -62,7 +62,7 @@ protected:
     TranscodePlan planAt(int row) { return *TranscodePlan::fromJson(recordAt(row).plan); }
     bool isIn(int row, JobState state)
     {
-        return waitUntil([&] { return idAt(row) > 0 && recordAt(row).state == state; }, 30'000);
+        return waitUntil([&] { return idAt(row) > 0 && recordAt(row).state == state; }, 100'000);
     }
     void convert()
     {
@@ -102,7 +102,7 @@ TEST_F(MarlinControllerTest, AddsEachFileOnceLooksAtItAndConverts)
     ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Unusable));
     EXPECT_TRUE(shown(0, Qt::DisplayRole, JobList::DetailColumn).toString().startsWith(u"0:02"));
     EXPECT_TRUE(shown(0, Qt::AccessibleTextRole).toString().contains(u"Ready"));
-    EXPECT_TRUE(waitUntil([&] { return !shown(0, Qt::DecorationRole).value<QPixmap>().isNull(); }, 20'000));
+    EXPECT_TRUE(waitUntil([&] { return !shown(0, Qt::DecorationRole).value<QPixmap>().isNull(); }, 60'000));
 
     convert();
     ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();

@@ -3,7 +3,7 @@ kestrel_test(modules
         ConversionTest.cpp
         MarlinControllerTest.cpp
         ModuleSettings.cpp ModuleSettings.h
-        OverviewControllerTest.cpp
         OwnPresetsTest.cpp
         PloversControllerTest.cpp
+        PetrelControllerTest.cpp
     LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover_ui kestrel_test_product)

@@ -43,7 +43,6 @@ TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
                             .soundOnly = true,
                             .extension = u"mp3"_s,
                             .subtitles = {u"en"_s},
-                            .cover = false,
                             .proxy = u"socks5://p.example:1"_s,
                             .bytesPerSecond = 5000,
                             .title = u"Title"_s,

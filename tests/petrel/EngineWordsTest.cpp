@@ -55,6 +55,9 @@ TEST(EngineFailureTest, WordsBecomeOneSentence)
         EXPECT_EQ(failure.kind, row.kind) << row.words;
         EXPECT_FALSE(failure.sentence.isEmpty()) << row.words;
     }
+    const ToolEnding refused{.exitCode = 1, .lastWords = u"ERROR: <urlopen error [Errno 111] Connection refused>"_s};
+    EXPECT_EQ(engineFailure(refused).kind, Kind::NotThere);
+    EXPECT_EQ(engineFailure(refused, u"http://p.example:1"_s).kind, Kind::Proxy);
     EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::CouldNotStart}).kind, Kind::EngineBroken);
     EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::Silence}).kind, Kind::Server);
 }

@@ -48,7 +48,7 @@ class DownloadTest(unittest.TestCase):
         return process
 
     def finish(self, process):
-        output, self.errors = process.communicate(timeout=100)
+        output, self.errors = process.communicate(timeout=300)
         events = [json.loads(line) for line in output.splitlines()]
         return process.returncode, [event for event in events if event["event"] == "result"]
 
@@ -225,7 +225,7 @@ class DownloadTest(unittest.TestCase):
     def wait_for_bytes(self, count):
         self.wait_until(lambda: self.part_bytes() >= count)
 
-    def wait_until(self, condition, limit=60):
+    def wait_until(self, condition, limit=120):
         deadline = time.monotonic() + limit
         while not condition():
             self.assertLess(time.monotonic(), deadline, "it did not come about")

@@ -176,6 +176,7 @@ class Handler(BaseHTTPRequestHandler):
     def break_off(self, reset):
         self.wfile.flush()
         if reset:
+            time.sleep(0.5)  # what was sent is thrown away with the connection
             self.connection.setsockopt(socket.SOL_SOCKET, socket.SO_LINGER, struct.pack("ii", 1, 0))
         self.close_connection = True
 

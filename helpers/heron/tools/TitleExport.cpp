@@ -143,6 +143,7 @@ bool TitleExport::takeFilm(Sector sector)
 
 bool TitleExport::append(Sector sector)
 {
+    keepPackClockAhead(sector, m_packClock);
     m_buffer.append(reinterpret_cast<const char *>(sector.data()), sectorBytes);
     return m_buffer.size() < bufferBytes || flush();
 }

@@ -54,6 +54,7 @@ private:
     QElapsedTimer m_sinceReport;
     std::map<int, qint64> m_soundTimes;  ///< the latest of each track
     QList<double> m_chapters;
+    std::optional<qint64> m_packClock;  ///< of the last pack
     std::optional<DiscError> m_error;
     qint64 m_lead = 0;  ///< when its first picture is shown
     qint64 m_zero = 0;  ///< when its first picture or sound is played

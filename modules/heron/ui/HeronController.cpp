@@ -287,6 +287,7 @@ void HeronController::showChoice()
 {
     if (!m_page)
         return;
+    showSizes();
     m_presets->setVisible(way() == DiscWay::Rip);
     m_disc->setChoosing(!takesWholeDisc(way()));
     const QList<disc::DiscTitle> titles = chosenTitles();
@@ -304,6 +305,24 @@ void HeronController::showChoice()
             u' ' + Sentence("About %1."_key, {sizeText(resultBytes(way(), preset(), *m_contents, titles))}).localized();
     m_disc->setChoiceText(m_contents ? text : QString());
     showArea();
+}
+
+/// Beside each way and each format.
+void HeronController::showSizes()
+{
+    const QList<disc::DiscTitle> titles = chosenTitles();
+    const auto named = [&](const QString &name, DiscWay way, const Preset &preset) {
+        const qint64 bytes = m_contents ? resultBytes(way, preset, *m_contents, titles) : 0;
+        return bytes > 0 ? name + u" · "_s + sizeText(bytes) : name;
+    };
+    int index = 0;
+    for (const DiscWayRow &row : discWayRows())
+        m_ways->setItemText(
+            index++, row.way == DiscWay::Rip ? row.name.localized() : named(row.name.localized(), row.way, preset()));
+    for (index = 0; index < m_presets->count(); ++index) {
+        if (const Preset *preset = presetOfId(m_presets->itemData(index).toString()))
+            m_presets->setItemText(index, named(preset->name, DiscWay::Rip, *preset));
+    }
 }
 
 /// The list takes no place where there is a disc and no job, the disc none where there is no disc.

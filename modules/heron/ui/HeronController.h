@@ -53,6 +53,7 @@ private:
     void discAnswered(const DiscProbe::Answer &answer);
     void showDrives();
     void showChoice();
+    void showSizes();
     void showArea();
 
     DiscWay way() const;

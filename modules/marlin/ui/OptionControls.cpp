@@ -30,9 +30,9 @@ void OptionControls::addPage(OptionPage page, QFormLayout *form)
 /// Labels stand above their controls: in a narrow panel there is no room beside them in every language.
 void OptionControls::add(const PlanOption &option, QFormLayout *form)
 {
-    const Bound bound = option.kind == PlanOption::Kind::Switch   ? makeSwitch(option)
-                        : option.kind == PlanOption::Kind::Choice ? makeChoice(option)
-                                                                  : makeNumber(option);
+    Bound bound = option.kind == PlanOption::Kind::Switch   ? makeSwitch(option)
+                  : option.kind == PlanOption::Kind::Choice ? makeChoice(option)
+                                                            : makeNumber(option);
     bound.control->setObjectName(QString::fromLatin1(option.id));
     bound.control->setAccessibleName(option.label.localized());
     bound.control->setFocusPolicy(Qt::StrongFocus);
@@ -45,6 +45,7 @@ void OptionControls::add(const PlanOption &option, QFormLayout *form)
         label->setBuddy(bound.control);
         form->addRow(label, bound.control);
     }
+    bound.form = form;
     m_bound.push_back(bound);
 }
 
@@ -52,7 +53,7 @@ OptionControls::Bound OptionControls::makeSwitch(const PlanOption &option)
 {
     auto *box = new QCheckBox(option.label.localized());
     connect(box, &QCheckBox::toggled, this, [this, &option](bool isOn) { tell(option, isOn ? 1 : 0); });
-    return {&option, box, [box](double value) { box->setChecked(value != 0); }};
+    return {&option, box, [box](double value) { box->setChecked(value != 0); }, nullptr};
 }
 
 OptionControls::Bound OptionControls::makeChoice(const PlanOption &option)
@@ -63,12 +64,14 @@ OptionControls::Bound OptionControls::makeChoice(const PlanOption &option)
         box->addItem(choice.text.localized(), choice.value);
     connect(box, &QComboBox::activated, this,
             [this, &option, box](int index) { tell(option, box->itemData(index).toDouble()); });
-    return {&option, box, [box](double value) {
+    return {&option, box,
+            [box](double value) {
                 for (int i = 0; i < box->count(); ++i) {
                     if (std::abs(box->itemData(i).toDouble() - value) < sameChoice)
                         box->setCurrentIndex(i);
                 }
-            }};
+            },
+            nullptr};
 }
 
 OptionControls::Bound OptionControls::makeNumber(const PlanOption &option)
@@ -83,7 +86,7 @@ OptionControls::Bound OptionControls::makeNumber(const PlanOption &option)
     box->setSuffix(around.value(1));
     box->setKeyboardTracking(false);
     connect(box, &QDoubleSpinBox::valueChanged, this, [this, &option](double value) { tell(option, value); });
-    return {&option, box, [box](double value) { box->setValue(value); }};
+    return {&option, box, [box](double value) { box->setValue(value); }, nullptr};
 }
 
 void OptionControls::tell(const PlanOption &option, double value)
@@ -106,7 +109,11 @@ void OptionControls::show(const TranscodePlan &plan)
     m_isShowing = true;
     for (const Bound &bound : m_bound) {
         bound.show(bound.option->get(plan));
-        bound.control->setEnabled(!bound.option->applies || bound.option->applies(plan));
+        const bool applies = !bound.option->applies || bound.option->applies(plan);
+        bound.control->setEnabled(applies);
+        // Numbers that belong to a choice come and go with it.
+        if (bound.option->kind == PlanOption::Kind::Number)
+            bound.form->setRowVisible(bound.control, applies);
     }
     m_isShowing = false;
 }

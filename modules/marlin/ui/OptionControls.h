@@ -37,6 +37,7 @@ private:
         const PlanOption *option;
         QWidget *control;
         std::function<void(double)> show;
+        QFormLayout *form;
     };
     Bound makeSwitch(const PlanOption &option);
     Bound makeChoice(const PlanOption &option);

@@ -1,23 +1,417 @@
 #include "PetrelController.h"
 
-#include <QtGlobal>
+#include "FilmListDialog.h"
+
+#include "foundation/Bundle.h"
+#include "jobs/JobQueue.h"
+#include "jobs/ui/JobListView.h"
+#include "jobs/ui/JobPage.h"
+#include "modules/common/LateView.h"
+#include "modules/common/OutputFolderLine.h"
+#include "modules/petrel/Download.h"
+#include "modules/petrel/DownloadList.h"
+#include "modules/petrel/PartFolder.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/Alerts.h"
+#include "tarnwell/Localization.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QHBoxLayout>
+#include <QLineEdit>
+#include <QLocale>
+#include <QMenu>
+#include <QPushButton>
+#include <QThread>
+
+using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+using tarnwell::operator""_key;
+
 namespace {
 
-constexpr ModuleOverview petrelOverview = {
-    .kind = ModuleSettingDownload,
-    .image = "petrel_module",
-    .headline = QT_TRANSLATE_NOOP("TarnwellPublic", "Videos from the web, on your disk"),
-    .plans = {QT_TRANSLATE_NOOP("TarnwellPublic", "It will save videos and music from addresses that you paste."),
-              QT_TRANSLATE_NOOP("TarnwellPublic",
-                                "It will fetch several at a time, in the resolution that you prefer."),
-              QT_TRANSLATE_NOOP("TarnwellPublic", "It will go through your proxy where you have one.")},
+constexpr JobPageTexts petrelTexts = {
+    .title = "Downloader"_key,
+    .emptyHeadline = "Paste or drop addresses here"_key,
+    .emptyText = "Videos and music from the web are saved in the form that you choose."_key,
+    .emptyButton = {},
+    .start = "Download"_key,
+    .emptyImage = "petrel_module",
 };
+
+/// What "Download" starts: everything that is not done.
+constexpr std::initializer_list<JobState> startable = {JobState::Ready, JobState::Failed, JobState::Cancelled,
+                                                       JobState::Interrupted};
+
+constexpr int offeredHeights[] = {240, 360, 480, 720, 1080, 1440, 2160};
+constexpr qint64 offeredLimits[] = {100'000, 500'000, 1'000'000, 5'000'000, 10'000'000};
+constexpr qint64 maximumTextFile = 4 * 1024 * 1024;
+
+QString sizeText(qint64 bytes)
+{
+    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
+}
+
+void addRow(QComboBox &box, const QString &text, const QVariant &value)
+{
+    box.addItem(text, value);
+}
 
 }  // namespace
 
-PetrelController::PetrelController(const ModuleConfigure &configure) : OverviewController(petrelOverview, configure) {}
+PetrelController::PetrelController(const ModuleConfigure &configure, ModuleServices &services)
+    : m_services(services),
+      m_settings(configure.value(moduleSettingKey.toString())),
+      m_recipe([this] { return downloadTools(*m_settings, QThread::idealThreadCount()); }),
+      m_view(std::make_unique<LateView>([this] { return makeContents(); }))
+{
+}
+
+PetrelController::~PetrelController()
+{
+    if (m_list)
+        queue().setRecipe(petrelJobs.toString(), nullptr);
+}
+
+JobQueue &PetrelController::queue()
+{
+    return m_services.queue();
+}
+
+std::unique_ptr<QWidget> PetrelController::makeContents()
+{
+    queue().setRecipe(petrelJobs.toString(), &m_recipe);
+    const QString answers = downloadDataFolder() + "/answers"_L1;
+    AnswerStore(answers).sweep();
+    m_analysis = std::make_unique<Analysis>([this] { return engineTools(*m_settings); }, answers);
+    m_list = std::make_unique<DownloadList>(queue());
+    auto page = std::make_unique<JobPage>(queue(), *m_list, petrelJobs.toString(), petrelTexts);
+    m_page = page.get();
+    page->setTopArea(makeAddressLine());
+    addChoices();
+    connectPage();
+    followSettings();
+    for (const JobId id : queue().idsIn({JobState::Checking}, petrelJobs.toString()))
+        lookAt(id);
+    showState();
+    return page;
+}
+
+QWidget *PetrelController::makeAddressLine()
+{
+    auto *line = new QWidget;
+    auto *layout = new QHBoxLayout(line);
+    layout->setContentsMargins({});
+    layout->setSpacing(8);
+    m_address = new QLineEdit;
+    m_address->setObjectName(u"addressField"_s);
+    m_address->setAccessibleName("Address"_key.localized());
+    m_address->setPlaceholderText("Address of a video or a page, such as https://…"_key.localized());
+    m_address->setClearButtonEnabled(true);
+    auto *addButton = new QPushButton("Add"_key.localized());
+    addButton->setObjectName(u"addButton"_s);
+    layout->addWidget(m_address, 1);
+    layout->addWidget(addButton);
+    const auto take = [this] { takeText(m_address->text()); };
+    connect(m_address, &QLineEdit::returnPressed, this, take);
+    connect(addButton, &QPushButton::clicked, this, take);
+    return line;
+}
+
+void PetrelController::addChoices()
+{
+    m_formats = new QComboBox;
+    m_formats->setObjectName(u"formatComboBox"_s);
+    m_formats->setAccessibleName("Output format"_key.localized());
+    for (const QString &format : downloadFormats())
+        addRow(*m_formats, format.toUpper(), format);
+    for (const QString &format : soundFormats())
+        addRow(*m_formats, tarnwell::Sentence("%1 (sound only)"_key, {format.toUpper()}).localized(), format);
+    m_resolutions = new QComboBox;
+    m_resolutions->setObjectName(u"resolutionComboBox"_s);
+    m_resolutions->setAccessibleName("Resolution"_key.localized());
+    addRow(*m_resolutions, tarnwell::AppLocalizedString(u"Highest Resolution"_s), 0);
+    for (const int height : offeredHeights)
+        addRow(*m_resolutions, u"%1p"_s.arg(height), height);
+    m_limits = new QComboBox;
+    m_limits->setObjectName(u"limitComboBox"_s);
+    m_limits->setAccessibleName("Speed limit of each download"_key.localized());
+    addRow(*m_limits, "No speed limit"_key.localized(), 0);
+    for (const qint64 limit : offeredLimits)
+        addRow(*m_limits, tarnwell::Sentence("%1/s"_key, {sizeText(limit)}).localized(), limit);
+    const DownloadPlan usual = downloadPlan(*m_settings, {});
+    m_formats->setCurrentIndex(m_formats->findData(usual.extension));
+    m_resolutions->setCurrentIndex(std::max(0, m_resolutions->findData(usual.height)));
+    for (QComboBox *box : {m_formats.data(), m_resolutions.data(), m_limits.data()}) {
+        connect(box, &QComboBox::currentIndexChanged, this, &PetrelController::applyChoices);
+        m_page->addChoice(box);
+    }
+    auto *folder = new OutputFolderLine;
+    folder->setDispatcher(m_settings);
+    m_page->addChoice(folder, 1);
+}
+
+void PetrelController::connectPage()
+{
+    connect(m_analysis.get(), &Analysis::answered, this, &PetrelController::answered);
+    connect(m_page, &JobPage::backClicked, this, &PetrelController::doBackAction);
+    connect(m_page, &JobPage::startClicked, this, &PetrelController::download);
+    connect(m_page, &JobPage::pathsDropped, this, &PetrelController::takeFiles);
+    connect(m_page, &JobPage::textDropped, this, &PetrelController::takeText);
+    connect(m_page->list(), &JobListView::menuRequested, this, &PetrelController::extendMenu);
+    connect(&queue(), &JobQueue::changed, this, &PetrelController::showState);
+    connect(&queue(), &JobQueue::ended, this, &PetrelController::followSettings);
+    connect(&queue(), &JobQueue::removed, this, [this] {
+        for (const JobId id : QSet<JobId>(m_asked)) {
+            if (queue().record(id))
+                continue;
+            m_analysis->stop(id);
+            m_asked.remove(id);
+        }
+        showState();
+    });
+}
+
+void PetrelController::setCompletedHandler(CompletedHandler handler)
+{
+    m_completedHandler = std::move(handler);
+}
+
+QWidget *PetrelController::view()
+{
+    return m_view.get();
+}
+
+QString PetrelController::windowTitle() const
+{
+    return tarnwell::AppLocalizedString(u"Downloader"_s);
+}
+
+/// Downloads go on while another module is open.
+void PetrelController::doBackAction()
+{
+    if (m_completedHandler)
+        m_completedHandler(this);
+}
+
+bool PetrelController::shouldTerminate()
+{
+    return true;
+}
+
+void PetrelController::markAppear()
+{
+    if (m_page)
+        followSettings();
+}
+
+void PetrelController::checkCoreUpdateInBackground()
+{
+    if (!m_update)
+        m_update = std::make_unique<EngineUpdate>(
+            engineStore(), engineTools(*m_settings), EngineUpdate::productSource(),
+            std::make_shared<foundation::Fetcher>(
+                foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s)));
+    m_update->start();
+}
+
+void PetrelController::takeText(const QString &text)
+{
+    const QStringList addresses = addressesIn(text);
+    add(addresses);
+    if (!addresses.isEmpty())
+        m_address->clear();
+    else if (!text.trimmed().isEmpty())
+        m_page->showMessage("This is no address that can be downloaded from."_key.localized());
+}
+
+/// Text files of addresses.
+void PetrelController::takeFiles(const QStringList &paths)
+{
+    for (const QString &path : paths) {
+        QFile file(path);
+        if (file.size() <= maximumTextFile && file.open(QIODevice::ReadOnly))
+            takeText(QString::fromUtf8(file.readAll()));
+    }
+}
+
+void PetrelController::add(const QStringList &addresses)
+{
+    for (const QString &address : addresses) {
+        DownloadPlan plan = downloadPlan(*m_settings, address);
+        readChoices(plan);
+        JobRecord record = downloadJob(plan, downloadFolder(*m_settings, plan));
+        record.state = JobState::Checking;
+        lookAt(queue().add(record));
+    }
+}
+
+void PetrelController::lookAt(JobId id)
+{
+    if (const auto plan = DownloadPlan::fromJson(queue().record(id)->plan)) {
+        m_asked.insert(id);
+        m_analysis->ask(id, *plan);
+    }
+}
+
+void PetrelController::answered(JobId id, const Analysis::Answer &answer)
+{
+    m_asked.remove(id);
+    if (!queue().record(id))
+        return;
+    if (answer && !answer->entries.isEmpty())
+        return chooseAmong(id, *answer);
+    queue().change(id, [&](JobRecord &record) {
+        record.state = JobState::Ready;
+        if (answer) {
+            setFilm(record, *answer);
+        } else if (!passesByItself(answer.reason().kind) && !mayBeTheEngine(answer.reason().kind)) {
+            record.state = JobState::Unusable;
+            record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
+        }
+    });
+}
+
+void PetrelController::chooseAmong(JobId id, const EngineAnswer &answer)
+{
+    auto *dialog = new FilmListDialog(answer, m_page->window());
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    connect(dialog, &QDialog::finished, this, [this, dialog, id, answer](int result) {
+        const JobRecord *record = queue().record(id);
+        const auto plan = record ? DownloadPlan::fromJson(record->plan) : std::nullopt;
+        if (result == QDialog::Accepted && plan) {
+            for (const JobRecord &job : downloadJobs(*plan, answer, record->folder, dialog->chosenItems()))
+                queue().add(job);
+        }
+        queue().remove({id});
+    });
+    dialog->open();
+}
+
+void PetrelController::readChoices(DownloadPlan &plan) const
+{
+    plan.extension = m_formats->currentData().toString();
+    plan.soundOnly = soundFormats().contains(plan.extension);
+    plan.height = m_resolutions->currentData().toInt();
+    plan.bytesPerSecond = m_limits->currentData().toLongLong();
+}
+
+/// For what was chosen in the list, else for everything that is still to be downloaded.
+void PetrelController::applyChoices()
+{
+    QList<JobId> ids = m_page->list()->selectedIds();
+    if (ids.isEmpty())
+        ids = queue().idsIn({JobState::Checking, JobState::Ready}, petrelJobs.toString());
+    changePlans(ids, [this](DownloadPlan &plan) { readChoices(plan); });
+}
+
+void PetrelController::changePlans(const QList<JobId> &ids, const std::function<void(DownloadPlan &)> &edit)
+{
+    for (const JobId id : ids) {
+        const JobState state = queue().record(id)->state;
+        if (isActive(state) || state == JobState::Waiting || state == JobState::Unusable)
+            continue;
+        queue().change(id, [&](JobRecord &record) {
+            auto plan = DownloadPlan::fromJson(record.plan);
+            if (!plan)
+                return;
+            edit(*plan);
+            setDownloadPlan(record, *plan);
+            record.folder = downloadFolder(*m_settings, *plan);
+            if (record.state != JobState::Checking)
+                record.state = JobState::Ready;
+        });
+    }
+}
+
+void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
+{
+    const JobRecord *record = queue().record(ids.first());
+    const FilmFacts facts = filmFacts(*record);
+    menu->addSeparator();
+    if (!facts.resolutions.isEmpty()) {
+        QMenu *resolutions = menu->addMenu("Resolution"_key.localized());
+        for (const auto &[height, bytes] : facts.resolutions) {
+            const QString size = bytes > 0 ? u"  ·  "_s + sizeText(bytes) : QString();
+            resolutions->addAction(u"%1p"_s.arg(height) + size, this, [this, ids, lines = height] {
+                changePlans(ids, [lines](DownloadPlan &plan) { plan.height = lines; });
+            });
+        }
+    }
+    if (!facts.subtitles.isEmpty()) {
+        QMenu *subtitles = menu->addMenu("Subtitles"_key.localized());
+        const auto plan = DownloadPlan::fromJson(record->plan);
+        for (const QString &language : facts.subtitles) {
+            QAction *action = subtitles->addAction(QString(language).replace(u'&', u"&&"_s));
+            action->setCheckable(true);
+            action->setChecked(plan && plan->subtitles.contains(language));
+            connect(action, &QAction::toggled, this, [this, ids, language](bool isWanted) {
+                changePlans(ids, [&](DownloadPlan &changed) {
+                    changed.subtitles.removeAll(language);
+                    if (isWanted)
+                        changed.subtitles.append(language);
+                });
+            });
+        }
+    }
+    menu->addAction("Allow Many From One Server"_key.localized(), this,
+                    [this, ids] { changePlans(ids, [](DownloadPlan &plan) { plan.manyFromServer = true; }); });
+    menu->addAction("Remove With Partial File"_key.localized(), this, [this, ids] { removeWithParts(ids); });
+}
+
+/// Those that run keep their parts until they have ended, so they end first.
+void PetrelController::removeWithParts(const QList<JobId> &ids)
+{
+    QList<std::pair<QString, DownloadPlan>> parts;
+    for (const JobId id : ids) {
+        const JobRecord *record = queue().record(id);
+        if (const auto plan = record ? DownloadPlan::fromJson(record->plan) : std::nullopt)
+            parts.append({record->folder, *plan});
+    }
+    queue().remove(ids);
+    // What ran ends within 100 ms and goes then.
+    const auto removed = std::make_shared<QMetaObject::Connection>();
+    const auto sweep = [this, ids, parts, removed] {
+        if (std::any_of(ids.begin(), ids.end(), [this](JobId id) { return queue().record(id); }))
+            return;
+        for (const auto &[folder, plan] : parts)
+            PartFolder::removeLeft(folder, plan);
+        disconnect(*removed);
+    };
+    *removed = connect(&queue(), &JobQueue::removed, this, sweep);
+    sweep();
+}
+
+void PetrelController::download()
+{
+    followSettings();
+    if (QString obstacle; !m_settings->check(&obstacle)) {
+        tarnwell::runAlert({.message = obstacle,
+                            .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
+                            .alternateButton = {},
+                            .informativeText = {},
+                            .style = tarnwell::AlertStyle::Warning});
+        return;
+    }
+    queue().start(queue().idsIn(startable, petrelJobs.toString()));
+}
+
+/// The settings window announces no change of these.
+void PetrelController::followSettings()
+{
+    if (const int atOnce = downloadsAtOnce(*m_settings); atOnce != m_atOnce) {
+        m_atOnce = atOnce;
+        queue().setLaneLimit(Lane::Net, atOnce);
+    }
+}
+
+void PetrelController::showState()
+{
+    if (m_page)
+        m_page->setStartEnabled(!queue().idsIn(startable, petrelJobs.toString()).isEmpty());
+}
 
 }  // namespace kestrel

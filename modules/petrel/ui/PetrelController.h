@@ -1,13 +1,79 @@
 #pragma once
 
-#include "modules/common/OverviewController.h"
+#include "modules/Module.h"
+#include "modules/petrel/Analysis.h"
+#include "modules/petrel/DownloadRecipe.h"
+#include "modules/petrel/EngineUpdate.h"
+
+#include <QObject>
+#include <QPointer>
+#include <QSet>
+
+class QComboBox;
+class QLineEdit;
+class QMenu;
 
 namespace kestrel {
 
-/// The download module. It has no engine yet that could be updated, so it does not ask for that message.
-class PetrelController final : public OverviewController {
+class DownloadList;
+class JobPage;
+class JobQueue;
+class LateView;
+
+/// The download module: addresses that are added become jobs, looked at at once and downloaded when the user says so.
+class PetrelController final : public QObject,
+                               public ModuleController,
+                               public ModuleAppearance,
+                               public ModuleCoreUpdate {
+    Q_OBJECT
 public:
-    explicit PetrelController(const ModuleConfigure &configure);
+    PetrelController(const ModuleConfigure &configure, ModuleServices &services);
+    ~PetrelController() override;
+
+    void setCompletedHandler(CompletedHandler handler) override;
+    QWidget *view() override;
+    QString windowTitle() const override;
+    void doBackAction() override;
+    bool shouldTerminate() override;
+    void markAppear() override;
+    void checkCoreUpdateInBackground() override;
+
+private:
+    std::unique_ptr<QWidget> makeContents();
+    QWidget *makeAddressLine();
+    void addChoices();
+    void connectPage();
+    JobQueue &queue();
+
+    void takeText(const QString &text);
+    void takeFiles(const QStringList &paths);
+    void add(const QStringList &addresses);
+    void lookAt(JobId id);
+    void answered(JobId id, const Analysis::Answer &answer);
+    void chooseAmong(JobId id, const EngineAnswer &answer);
+    void readChoices(DownloadPlan &plan) const;
+    void applyChoices();
+    void changePlans(const QList<JobId> &ids, const std::function<void(DownloadPlan &)> &edit);
+    void extendMenu(QMenu *menu, const QList<JobId> &ids);
+    void removeWithParts(const QList<JobId> &ids);
+    void download();
+    void followSettings();
+    void showState();
+
+    ModuleServices &m_services;
+    std::shared_ptr<JKestrelSettingDispatcher> m_settings;
+    CompletedHandler m_completedHandler;
+    DownloadRecipe m_recipe;
+    std::unique_ptr<LateView> m_view;
+    std::unique_ptr<EngineUpdate> m_update;
+    QSet<JobId> m_asked;
+    int m_atOnce = 0;
+    // From the making of the view's contents on
+    std::unique_ptr<Analysis> m_analysis;
+    std::unique_ptr<DownloadList> m_list;
+    QPointer<JobPage> m_page;
+    QPointer<QLineEdit> m_address;
+    QPointer<QComboBox> m_formats, m_resolutions, m_limits;
 };
 
 }  // namespace kestrel
