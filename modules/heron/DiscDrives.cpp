@@ -55,10 +55,10 @@ QList<DiscDrive> drivesIn(const Objects &objects)
 
 }  // namespace
 
+/// The process's own connection, which is never closed: what comes while nobody watches is not asked about.
 class DiscDrives::Bus {
 public:
     explicit Bus(QDBusConnection connection) : m_connection(std::move(connection)) {}
-    ~Bus() { QDBusConnection::disconnectFromBus(m_connection.name()); }
     Q_DISABLE_COPY(Bus)
 
     QDBusConnection &connection() { return m_connection; }
@@ -76,10 +76,8 @@ void DiscDrives::start()
 {
     if (m_bus || std::exchange(m_isToAsk, true))
         return;
-    static int connections = 0;
-    const QString name = u"kestrel-discs-%1"_s.arg(++connections);
-    foundation::queue::asyncGlobal([self = QPointer(this), name] {
-        const QDBusConnection connection = QDBusConnection::connectToBus(QDBusConnection::SystemBus, name);
+    foundation::queue::asyncGlobal([self = QPointer(this)] {
+        const QDBusConnection connection = QDBusConnection::systemBus();
         foundation::queue::asyncMain([self, connection] {
             auto bus = std::make_unique<Bus>(connection);
             if (!self || !self->m_isToAsk)

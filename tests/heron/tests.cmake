@@ -2,7 +2,7 @@ kestrel_test(heron
     SOURCES DiscContentsTest.cpp DiscPlanTest.cpp TitleClockTest.cpp
     LINKS kestrel_disc kestrel_disc_reading kestrel_heron)
 kestrel_test(heron_window
-    SOURCES ../heron/DiscDrivesTest.cpp ../heron/HeronControllerTest.cpp ../modules/ModuleSettings.cpp
+    SOURCES ../heron/HeronControllerTest.cpp ../modules/ModuleSettings.cpp
         ../modules/ModuleSettings.h
     LINKS kestrel_heron_ui kestrel_test_product Qt6::DBus)
 
