@@ -24,3 +24,6 @@ foreach(name instructions a_second_later)
                      "$<TARGET_FILE:kestrel_first_paint>" StartTest.test_${name})
     set_tests_properties(start.${name} PROPERTIES LABELS e2e TIMEOUT 600 SKIP_REGULAR_EXPRESSION "skipped=")
 endforeach()
+
+# Waits out slow servers for minutes and measures the window meanwhile
+set_tests_properties(e2e.hostile PROPERTIES LABELS "e2e;long")
