@@ -50,13 +50,6 @@ def extents(node):
     return rect.x, rect.y, rect.width, rect.height
 
 
-def dialog_of(node):
-    """The dialog that a control stands in, if it does."""
-    while node is not None and node.get_role_name() not in ('dialog', 'alert'):
-        node = node.get_parent()
-    return node
-
-
 def outline(node, depth=0):
     """The tree as text, for failures."""
     try:

@@ -19,7 +19,7 @@ import subprocess
 import tempfile
 import time
 
-from accessible import PATIENCE, Failure, children, dialog_of, extents, outline, states, wait_for, walk
+from accessible import PATIENCE, Failure, children, extents, outline, states, wait_for, walk
 from material import bundle_information
 
 BECOME_REAPER_OF_ORPHANS = 36  # prctl's PR_SET_CHILD_SUBREAPER
@@ -271,14 +271,6 @@ class Desktop:
         x, y, width, height = place[-1]
         # Controls report points, the pointer moves in pixels.
         self.move(round((x + width / 2) * self.scale), round((y + height / 2) * self.scale))
-        if (box := dialog_of(node)) is not None:  # its controls have their places before it is mapped
-            wait_for(lambda: self.size_under_pointer() == tuple(round(side * self.scale) for side in extents(box)[2:]),
-                     f'"{node.get_name()}" to come under the pointer')
-
-    def size_under_pointer(self):
-        """Pixels, of the window."""
-        window = re.search(r'WINDOW=(\d+)', self.x('xdotool', 'getmouselocation', '--shell'))[1]
-        return tuple(int(side) for side in re.findall(r'(?:WIDTH|HEIGHT)=(\d+)', self.x('xdotool', 'getwindowgeometry', '--shell', window)))
 
     def move(self, x, y):
         self.x('xdotool', 'mousemove', x, y)
