@@ -76,26 +76,6 @@ QString makeTool(const QTemporaryDir &folder, const QByteArray &script)
     return path;
 }
 
-QString failureOf(const QString &path)
-{
-    CodecQuery query(path, std::chrono::milliseconds(300));
-    std::optional<QString> failure;
-    QObject::connect(&query, &CodecQuery::answered, &query,
-                     [&failure](const TranscoderCodecs &codecs) { failure = codecs.failure.english(); });
-    query.start();
-    EXPECT_FALSE(failure) << "later than it returns";
-    EXPECT_TRUE(test::waitUntil([&failure] { return failure.has_value(); }));
-    return failure.value_or(QString());
-}
-
-TEST(HardwareInformation, TranscodersThatDoNotAnswer)
-{
-    const QTemporaryDir folder;
-    EXPECT_TRUE(failureOf(folder.path()).contains(u"is missing"_s));
-    for (const char *script : {"exec sleep 60", "exec yes", "exit 3", "echo '------' >&2"})
-        EXPECT_EQ(failureOf(makeTool(folder, script)), u"The transcoder did not answer as it should."_s) << script;
-}
-
 TEST(HardwareInformation, WindowLooksAnewEachTime)
 {
     const QTemporaryDir folder;
