@@ -2,8 +2,8 @@
 """catalogue.py TOOL [PATTERN…]: samples of every kind through the transcoder with the arguments that Kestrel makes.
 
 Each case converts a generated sample and looks at what arrived with ffprobe. With patterns only the cases run whose
-names contain one of them; `presets [ID…]` writes and reads back every preset. Samples are made anew, or kept in the folder
-that CATALOGUE_SAMPLES names. The exit status is the number of failures."""
+names contain one of them. Samples are made anew, or kept in the folder that CATALOGUE_SAMPLES names. The exit status is the
+number of failures."""
 import json
 import os
 import pathlib
@@ -156,27 +156,6 @@ class Catalogue:
         return result
 
 
-def preset_faults(catalogue, ids):
-    """Every preset (or those whose ids are given) on a second of picture and sound, written, read back, decoded."""
-    faults, tried = [], 0
-    for name, preset in catalogue.presets.items():
-        if ids and name not in ids:
-            continue
-        tried += 1
-        try:
-            result = catalogue.convert('second', name)
-            decoded = run(['ffmpeg', '-v', 'error', '-i', f'file:{result.path}', '-f', 'null', '-'])
-            assert decoded.returncode == 0 and not decoded.stderr.strip(), decoded.stderr.decode(errors='replace')[:300]
-            if preset.get('video') not in (None, 'copy'):
-                assert result.packets >= 8, f'{result.packets} pictures'
-            result.path.unlink()
-        except (AssertionError, subprocess.TimeoutExpired, KeyError, IndexError, ValueError) as error:
-            faults.append(f'preset {name}: {str(error)[:1200]}')
-            print(faults[-1], flush=True)
-    print(f'{tried} presets written and read back, {len(faults)} failed', flush=True)
-    return faults
-
-
 def main():
     import cases
     tool, patterns = sys.argv[1], sys.argv[2:]
@@ -199,8 +178,6 @@ def main():
                 faults.append(f'{name}: {traceback.format_exc(limit=-3)}')
                 print(faults[-1], flush=True)
         print(f'{tried} cases, {len(faults)} failed', flush=True)
-        if not patterns or 'presets' in patterns:
-            faults += preset_faults(catalogue, patterns[1:])
     return min(len(faults), 100)
 
 
