@@ -286,7 +286,7 @@ TEST(ToolProcessTest, ACancelIsToldAtOnce)
         EXPECT_EQ(running.end(), Cause::Cancelled);
         cancelling += timer.nsecsElapsed();
     }
-    EXPECT_LE(cancelling, 10 * starting) << "a start takes some milliseconds, on any machine as many as it takes";
+    EXPECT_LE(cancelling, 4 * starting) << "a cancel is about as much work as a start";
     ToolRun unstarted({.program = u"/nowhere"_s});
     unstarted.tool->cancel();
     EXPECT_EQ(unstarted.end(), Cause::Cancelled);
