@@ -82,7 +82,7 @@ class Bench:
         for extension, options in SOURCES.items():
             path = self.samples[extension] = os.path.join(folder, "film." + extension)
             subprocess.run([FFMPEG, "-v", "error", "-nostdin", "-y", "-f", "lavfi", "-i",
-                            f"testsrc2=s=192x144:r=25:d={SECONDS}", "-f", "lavfi", "-i", f"sine=r=48000:d={SECONDS}", *options, path],
+                            f"testsrc2=s=256x144:r=25:d={SECONDS}", "-f", "lavfi", "-i", f"sine=r=48000:d={SECONDS}", *options, path],
                            check=True)
 
     def write(self, name, data):
