@@ -109,8 +109,9 @@ QList<MediaTrack> MediaInformation::tracksOf(MediaTrack::Kind kind) const
 bool MediaInformation::headerTellsDuration() const
 {
     // Elsewhere ffprobe takes the last time stamp that it finds, or guesses by the bit rate.
-    constexpr QLatin1StringView telling[] = {"mov"_L1,  "matroska"_L1, "asf"_L1, "flv"_L1, "wav"_L1, "w64"_L1,
-                                             "aiff"_L1, "flac"_L1,     "caf"_L1, "mxf"_L1, "ape"_L1, "tta"_L1};
+    constexpr QLatin1StringView telling[] = {"mov"_L1, "matroska"_L1, "asf"_L1,  "flv"_L1, "wav"_L1,
+                                             "w64"_L1, "aiff"_L1,     "flac"_L1, "caf"_L1, "mxf"_L1,
+                                             "ape"_L1, "tta"_L1,      "wv"_L1};
     const QString first = format.section(u',', 0, 0);
     return duration && std::find(std::begin(telling), std::end(telling), first) != std::end(telling);
 }

@@ -66,6 +66,13 @@ TEST(OutputCheckTest, WhatIsWrongWithAnOutput)
              c.found.packets[1] = 5;
          },
          Good},
+        {"WAV of what nobody parses",
+         [](Case &c) {
+             c.found.information.format = u"wav"_s;
+             c.found.information.tracks[1].codec = c.expected.tracks[1].codec = u"wmav2"_s;
+             c.found.packets[1] = 5;
+         },
+         Good},
         {"FLAC's header",
          [](Case &c) {
              c.found.information.tracks[1].codec = c.expected.tracks[1].codec = u"flac"_s;
