@@ -112,11 +112,28 @@ void drawPicture(QPainter &painter, const QRect &area, const QModelIndex &index)
     painter.drawPath(frame);
 }
 
+bool hasBar(JobState state)
+{
+    return state == JobState::Running || state == JobState::Paused || state == JobState::Stopping;
+}
+
+/// What a short state does not need of its share is for the texts.
+int stateWidthOf(const QModelIndex &index, const QFont &font, int most)
+{
+    const StateLook &look = stateLookOf(index);
+    if (hasBar(look.state))
+        return most;
+    QFont small = font;
+    small.setPixelSize(detailPixels);
+    const QString text = index.siblingAtColumn(JobList::StateColumn).data().toString();
+    return std::min(most, QFontMetrics(small).horizontalAdvance(text) + (look.mark ? markSize + 8 : 0) + 2);
+}
+
 void drawState(QPainter &painter, QRect area, const QModelIndex &index)
 {
     const StateLook &look = stateLookOf(index);
     const QString text = index.siblingAtColumn(JobList::StateColumn).data().toString();
-    if (look.state == JobState::Running || look.state == JobState::Paused || look.state == JobState::Stopping) {
+    if (hasBar(look.state)) {
         const QRectF bar(area.x(), area.center().y() - 10, area.width(), barHeight);
         drawBar(painter, bar, index.data(JobList::FractionRole));
         drawElided(painter, QRect(area.x(), area.center().y(), area.width(), 20), text, look.color, Qt::ElideRight);
@@ -177,7 +194,7 @@ void JobRowDelegate::paint(QPainter *painter, const QStyleOptionViewItem &option
     const QRect picture(QPoint(inner.x(), inner.y() + (inner.height() - pictureSize.height()) / 2), pictureSize);
     drawPicture(*painter, picture, index);
 
-    const int stateWidth = int(row.width() * stateShare);
+    const int stateWidth = stateWidthOf(index, option.font, int(row.width() * stateShare));
     const QRect texts(picture.right() + gap, inner.y(), inner.right() - picture.right() - 2 * gap - stateWidth,
                       inner.height());
     drawTexts(*painter, texts, option.font, index);
