@@ -87,18 +87,23 @@ QPushButton[quiet="true"]:pressed { background: <accentTint> }
 QPushButton[quiet="true"]:focus { border: 2px solid <accent>; padding: 0 6px }
 QPushButton[quiet="true"]:disabled { color: <disabledText> }
 
-QLineEdit, QComboBox { background: <surface>; border: 1px solid <strongLine>; border-radius: 6px; padding: 0 8px;
+QLineEdit, QComboBox, QAbstractSpinBox { background: <surface>; border: 1px solid <strongLine>; border-radius: 6px; padding: 0 8px;
     min-height: 26px }
-QLineEdit:focus, QComboBox:focus { border: 2px solid <accent>; padding: 0 7px; min-height: 24px }
+QLineEdit:focus, QComboBox:focus, QAbstractSpinBox:focus { border: 2px solid <accent>; padding: 0 7px; min-height: 24px }
 QLineEdit[refused="true"] { border-color: <error> }
-QLineEdit:disabled, QComboBox:disabled { background: <quietSurface>; border-color: <line>; color: <disabledText> }
+QLineEdit:disabled, QComboBox:disabled, QAbstractSpinBox:disabled { background: <quietSurface>; border-color: <line>;
+    color: <disabledText> }
 QComboBox { combobox-popup: 0; padding-right: 4px }
 QComboBox:hover { border-color: <accent> }
 QComboBox::drop-down { border: none; width: 22px }
 QComboBox::down-arrow { image: url("<combo_arrow>"); width: 12px; height: 8px }
 QComboBox QAbstractItemView, QComboBox QAbstractItemView:focus { border: 1px solid <strongLine>; border-radius: 0;
     padding: 4px }
-QAbstractSpinBox { min-height: 24px }
+QAbstractSpinBox { padding-right: 4px }
+QAbstractSpinBox::up-button, QAbstractSpinBox::down-button { border: none; background: transparent; width: 18px }
+QAbstractSpinBox::up-button:hover, QAbstractSpinBox::down-button:hover { background: <accentTint> }
+QAbstractSpinBox::up-arrow { image: url("<spin_up>"); width: 9px; height: 6px }
+QAbstractSpinBox::down-arrow { image: url("<combo_arrow>"); width: 9px; height: 6px }
 
 QCheckBox, QRadioButton { spacing: 8px; min-height: 20px }
 QCheckBox::indicator, QRadioButton::indicator { width: 16px; height: 16px; border: 1px solid <strongLine>;
@@ -249,7 +254,7 @@ QString houseStyleSheet(qreal scale)
     QString sheet = sheetTemplate;
     for (const auto &[name, color] : namedColors)
         sheet.replace(name, QColor(color).name());
-    for (const QString &image : {u"combo_arrow"_s, u"check"_s}) {
+    for (const QString &image : {u"combo_arrow"_s, u"spin_up"_s, u"check"_s}) {
         QString path = namedImagePath(image, scale);
         path.replace(u'\\', u"\\\\"_s).replace(u'"', u"\\\""_s);
         sheet.replace(u'<' + image + u'>', path);
