@@ -2,7 +2,9 @@
 
 #include "tarnwell/Localization.h"
 
+#include <QComboBox>
 #include <QLabel>
+#include <QTabWidget>
 #include <QVariant>
 
 namespace kestrel::tarnwell {
@@ -26,14 +28,27 @@ void translateText(QWidget *widget, const char *property)
         widget->setProperty(property, text);
 }
 
+void translateEntries(QWidget *widget)
+{
+    if (auto *box = qobject_cast<QComboBox *>(widget)) {
+        for (int i = 0; i < box->count(); ++i)
+            box->setItemText(i, AppLocalizedString(box->itemText(i)));
+    } else if (auto *tabs = qobject_cast<QTabWidget *>(widget)) {
+        for (int i = 0; i < tabs->count(); ++i)
+            tabs->setTabText(i, AppLocalizedString(tabs->tabText(i)));
+    }
+}
+
 }  // namespace
 
 void TranslateControls(QWidget *root)
 {
-    for (QWidget *widget : QList<QWidget *>{root} + root->findChildren<QWidget *>())
+    for (QWidget *widget : QList<QWidget *>{root} + root->findChildren<QWidget *>()) {
         for (const auto &[className, property] : textProperties)
             if (widget->inherits(className))
                 translateText(widget, property);
+        translateEntries(widget);
+    }
 }
 
 void TranslateLabels(QWidget *root)
