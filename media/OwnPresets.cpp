@@ -47,6 +47,24 @@ QJsonObject readOptions(const QJsonObject &json, const Preset &preset)
     return plan ? withoutFileMembers(plan->toJson()) : QJsonObject();
 }
 
+/// What belongs to the plan's file stays.
+void putOptions(QJsonObject whole, const Preset &preset, TranscodePlan &plan)
+{
+    const QJsonObject former = plan.toJson();
+    for (const QLatin1StringView key : keysOfFiles) {
+        if (former.contains(key))
+            whole[key] = former[key];
+    }
+    whole[u"preset"_s] = preset.toJson();
+    if (plan.sources.isEmpty())
+        whole[u"sources"_s] = QJsonArray{u"/"_s};
+    const QStringList sources = plan.sources;
+    if (auto changed = TranscodePlan::fromJson(whole)) {
+        plan = *changed;
+        plan.sources = sources;
+    }
+}
+
 struct ReadPreset {
     Preset preset;
     QJsonObject options;
@@ -87,6 +105,16 @@ QString cleanName(const QString &name)
 
 }  // namespace
 
+QJsonObject optionsOf(const TranscodePlan &plan)
+{
+    return withoutFileMembers(plan.toJson());
+}
+
+void setOptions(const QJsonObject &options, TranscodePlan &plan)
+{
+    putOptions(withoutFileMembers(options), plan.preset, plan);
+}
+
 OwnPresets::OwnPresets(foundation::UserDefaults &defaults, QString key, QObject *parent)
     : QObject(parent),
       m_defaults(defaults),
@@ -115,20 +143,7 @@ void OwnPresets::apply(const QString &id, TranscodePlan &plan) const
     const Preset *preset = presetOfId(id);
     if (!preset)
         return;
-    QJsonObject whole = m_options.value(id);
-    const QJsonObject former = plan.toJson();
-    for (const QLatin1StringView key : keysOfFiles) {
-        if (former.contains(key))
-            whole[key] = former[key];
-    }
-    whole[u"preset"_s] = preset->toJson();
-    if (plan.sources.isEmpty())
-        whole[u"sources"_s] = QJsonArray{u"/"_s};
-    const QStringList sources = plan.sources;
-    if (auto changed = TranscodePlan::fromJson(whole)) {
-        plan = *changed;
-        plan.sources = sources;
-    }
+    putOptions(m_options.value(id), *preset, plan);
 }
 
 foundation::Result<QString, tarnwell::Sentence> OwnPresets::save(const QString &name, const TranscodePlan &plan)
@@ -139,7 +154,7 @@ foundation::Result<QString, tarnwell::Sentence> OwnPresets::save(const QString &
         return Refused{"There are too many presets. Delete some first."_key};
     Preset preset = plan.preset;
     preset.name = name;
-    const QString id = add(preset, withoutFileMembers(plan.toJson()));
+    const QString id = add(preset, optionsOf(plan));
     keep();
     return id;
 }

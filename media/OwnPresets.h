@@ -10,6 +10,11 @@ namespace foundation {
 class UserDefaults;
 }
 
+/// The options of a plan that serve other files as well, to be kept; without the preset.
+QJsonObject optionsOf(const TranscodePlan &plan);
+/// Puts kept ones into a plan; preset and what belongs to its file stay. Where they are none, all does.
+void setOptions(const QJsonObject &options, TranscodePlan &plan);
+
 /// The user's own presets: a form of output with the options that go with it, but nothing that belongs to one file
 /// (cuts, tracks, crop, watermark). Kept in the defaults under one key, with a version. What is read, from there or
 /// from a file of somebody else's, is untrusted. Main thread.

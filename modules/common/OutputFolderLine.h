@@ -2,7 +2,9 @@
 
 #include <QWidget>
 
+#include <functional>
 #include <memory>
+#include <optional>
 
 namespace Ui {
 class OutputFolderLine;
@@ -12,7 +14,8 @@ namespace kestrel {
 
 class JKestrelSettingDispatcher;
 
-/// Shows a module's output folder, as the settings have it at any time, with a button that opens it.
+/// Shows a module's output folder, as the settings have it at any time or as the module says, with a button that opens
+/// it.
 class OutputFolderLine : public QWidget {
     Q_OBJECT
 public:
@@ -20,13 +23,15 @@ public:
     ~OutputFolderLine() override;
 
     void setDispatcher(std::shared_ptr<JKestrelSettingDispatcher> dispatcher);
+    /// Asked whenever it is shown; nothing for the folder of each source.
+    void setFolder(std::function<std::optional<QString>()> folder);
+    void showFolder();
 
 private:
-    void showFolder();
     void openFolder();
 
     std::unique_ptr<Ui::OutputFolderLine> m_form;
-    std::shared_ptr<JKestrelSettingDispatcher> m_dispatcher;
+    std::function<std::optional<QString>()> m_folder;
 };
 
 }  // namespace kestrel

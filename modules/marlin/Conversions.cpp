@@ -8,6 +8,7 @@
 #include "tarnwell/Localization.h"
 
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QPointer>
 #include <QThread>
 
@@ -23,6 +24,9 @@ using tarnwell::operator""_key;
 
 const QString ownPresetsKey = u"marlinPresets"_s;
 const QString chosenPresetKey = u"marlinPreset"_s;
+const QString optionsKey = u"marlinOptions"_s;
+const QString folderKey = u"marlinFolder"_s;
+constexpr qsizetype largestOptions = 64 * 1024;
 constexpr qsizetype atOnce = 200;  ///< jobs that are changed in one go of the event loop
 
 /// What "Convert" starts: everything that is not done.
@@ -30,6 +34,10 @@ constexpr std::initializer_list<JobState> startableStates = {JobState::Ready, Jo
                                                              JobState::Interrupted};
 /// What the draft speaks for as well.
 constexpr std::initializer_list<JobState> openStates = {JobState::Checking, JobState::Ready};
+
+/// Changes to the film itself would be a surprise in the next one.
+constexpr QLatin1StringView notRemembered[] = {"brightness"_L1, "contrast"_L1, "saturation"_L1, "speedFactor"_L1,
+                                               "volume"_L1};
 
 }  // namespace
 
@@ -47,6 +55,10 @@ Conversions::Conversions(JobQueue &queue, std::shared_ptr<JKestrelSettingDispatc
         m_ownPresets.apply(id, m_draft);
     else if (const Preset *preset = kestrel::presetOfId(id))
         m_draft.preset = *preset;
+    if (const QByteArray options = defaults.dataForKey(optionsKey); options.size() <= largestOptions)
+        setOptions(QJsonDocument::fromJson(options).object(), m_draft);
+    if (const QString folder = defaults.stringForKey(folderKey); QFileInfo(folder).isDir())
+        m_draftFolder = folder;
     m_queue.setRecipe(marlinJobs.toString(), &m_recipe);
     connect(&m_prober, &MediaProber::probed, this, &Conversions::probed);
     connect(&m_queue, &JobQueue::removed, this, [this](const QString &module) {
@@ -203,8 +215,18 @@ void Conversions::edit(const QList<JobId> &ids, const Change &change)
     change(plan);
     writeSwitches(*m_settings, QThread::idealThreadCount(), plan);
     m_draft = plan;
+    rememberDraft();
     emit draftChanged();
     inTurns(m_queue.idsIn(openStates, marlinJobs.toString()), changePlan);
+}
+
+void Conversions::rememberDraft()
+{
+    QJsonObject options = optionsOf(m_draft);
+    for (const QLatin1StringView key : notRemembered)
+        options.remove(key);
+    m_defaults.setObject(QJsonDocument(options).toJson(QJsonDocument::Compact), optionsKey);
+    m_defaults.setObject(m_draftFolder.isEmpty() ? QVariant() : m_draftFolder, folderKey);
 }
 
 void Conversions::choosePreset(const QList<JobId> &ids, const QString &presetId)
@@ -228,8 +250,11 @@ void Conversions::choosePreset(const QList<JobId> &ids, const QString &presetId)
 
 void Conversions::chooseFolder(const QList<JobId> &ids, const QString &folder)
 {
-    if (ids.isEmpty())
+    if (ids.isEmpty()) {
         m_draftFolder = folder;
+        rememberDraft();
+        emit draftChanged();
+    }
     inTurns(ids.isEmpty() ? m_queue.idsIn(openStates, marlinJobs.toString()) : ids, [this, folder](JobId id) {
         changeJob(id, [&](JobRecord &record) {
             setOwnFolder(record, folder);
@@ -245,6 +270,13 @@ QString Conversions::folderOf(JobId id) const
     return record ? ownFolder(*record) : m_draftFolder;
 }
 
+std::optional<QString> Conversions::draftFolder() const
+{
+    if (m_draft.besideSource)
+        return {};
+    return m_draftFolder.isEmpty() ? conversionFolder(*m_settings, m_draft) : m_draftFolder;
+}
+
 const Preset *Conversions::presetOfId(const QString &id) const
 {
     const Preset *own = m_ownPresets.presetOfId(id);
@@ -254,7 +286,8 @@ const Preset *Conversions::presetOfId(const QString &id) const
 void Conversions::reset()
 {
     m_ownPresets.removeAll();
-    m_defaults.removeObjectForKey(chosenPresetKey);
+    for (const QString &key : {chosenPresetKey, optionsKey, folderKey})
+        m_defaults.removeObjectForKey(key);
     m_draft = {};
     m_draft.preset = builtInPresets().first();
     m_draftFolder.clear();

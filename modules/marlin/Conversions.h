@@ -17,7 +17,8 @@ class JobQueue;
 
 /// The conversions of the queue: adds files, looks at them, and changes what is to become of them. What is chosen while
 /// nothing is selected is the draft: for all that are still to be converted or to be added. The draft's switches are
-/// the settings' (read and written through the dispatcher). Main thread.
+/// the settings' (read and written through the dispatcher); its other options are there again at the next start, but
+/// for those that change the film itself. Main thread.
 class Conversions : public QObject {
     Q_OBJECT
 public:
@@ -53,6 +54,8 @@ public:
     /// Null stands for the settings' folder.
     void chooseFolder(const QList<JobId> &ids, const QString &folder);
     QString folderOf(JobId id) const;  ///< own one; of the draft for 0
+    /// Where results go as the draft is; nothing for beside their sources.
+    std::optional<QString> draftFolder() const;
 
     const Preset *presetOfId(const QString &id) const;  ///< own ones and all others
     /// The preset of the draft again, and no own ones.
@@ -89,6 +92,7 @@ private:
     void inTurns(const QList<JobId> &ids, const std::function<void(JobId)> &task);
     void takeTurn(qsizetype most);
     void forgetRemoved();
+    void rememberDraft();
 
     JobQueue &m_queue;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;

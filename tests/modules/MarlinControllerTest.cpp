@@ -15,8 +15,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDir>
+#include <QDoubleSpinBox>
 #include <QDropEvent>
 #include <QFileInfo>
+#include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
 
@@ -184,6 +186,22 @@ TEST_F(MarlinControllerTest, OptionsChangeThePlansAndTheSwitches)
     EXPECT_EQ(recordAt(1).folder, settings.folder());
     find<QCheckBox>(u"mergeMedia"_s)->click();
     EXPECT_TRUE(settings.dispatcher().mergeMedia());
+}
+
+TEST_F(MarlinControllerTest, WhatIsChosenForAllIsThereAgain)
+{
+    QLineEdit *name = find<QLineEdit>(u"namePattern"_s);
+    name->setText(u"{name} small"_s);
+    emit name->textEdited(name->text());
+    find<QDoubleSpinBox>(u"speedFactor"_s)->setValue(2);
+    emit find<QComboBox>(u"folderBox"_s)->activated(1);
+    start();
+    EXPECT_EQ(find<QLineEdit>(u"namePattern"_s)->text(), u"{name} small");
+    EXPECT_EQ(find<QComboBox>(u"folderBox"_s)->currentIndex(), 1);
+    EXPECT_EQ(find<QDoubleSpinBox>(u"speedFactor"_s)->value(), 1) << "changes the film";
+    foundation::NotificationCenter::defaultCenter().postNotificationName(keyResetProfilesNotification.toString());
+    start();
+    EXPECT_EQ(find<QLineEdit>(u"namePattern"_s)->text(), u"");
 }
 
 TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)

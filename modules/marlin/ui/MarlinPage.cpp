@@ -87,7 +87,8 @@ void MarlinController::addChoices()
     connect(m_presets, &PresetChooser::allFormatsWanted, this, &MarlinController::showFormats);
     m_page->addChoice(m_presets);
     auto *folder = new OutputFolderLine;
-    folder->setDispatcher(m_settings);
+    folder->setFolder([this] { return m_conversions->draftFolder(); });
+    connect(m_conversions.get(), &Conversions::draftChanged, folder, &OutputFolderLine::showFolder);
     m_page->addChoice(folder, 1);
     m_options = new OptionsPanel(*m_conversions);
     connect(m_options, &OptionsPanel::editWanted, this, &MarlinController::editCurrent);

@@ -212,6 +212,9 @@ void OptionsPanel::showFolder()
         m_folderBox->addItem(own);
     m_folderBox->setCurrentIndex(plan.besideSource ? BesideSource : own.isEmpty() ? SettingsFolder : OwnFolder);
     TranscodePlan example = plan;
+    if (const JobRecord *row = m_conversions.queue().record(m_conversions.startable().value(0));
+        row && example.sources.isEmpty())
+        example.sources = {row->source};
     if (example.sources.isEmpty())
         example.sources = {u"/Videos/Holiday.mov"_s};
     m_exampleLabel->setText(tarnwell::Sentence("For example: %1"_key, {outputBaseName(example, QDate::currentDate()) +
