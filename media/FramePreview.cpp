@@ -37,7 +37,7 @@ QString fittingFilter(QSize size)
 }  // namespace
 
 QStringList previewArguments(const TranscodePlan &wanted, const MediaInformation &source, double seconds, QSize size,
-                             PreviewPicture picture)
+                             PreviewPicture picture, PreviewPlace place)
 {
     TranscodePlan plan = timeless(wanted);
     auto tracks = planTracks(plan, {source}, {});
@@ -48,23 +48,12 @@ QStringList previewArguments(const TranscodePlan &wanted, const MediaInformation
     if (tracks->video->encoder)
         tracks->video->frameRate = 0;
 
-    QStringList arguments{u"-hide_banner"_s,
-                          u"-nostdin"_s,
-                          u"-loglevel"_s,
-                          u"error"_s,
-                          u"-protocol_whitelist"_s,
-                          u"file"_s,
-                          u"-threads"_s,
-                          u"1"_s,
-                          u"-filter_threads"_s,
-                          u"1"_s,
-                          u"-skip_frame"_s,
-                          u"nokey"_s,
-                          u"-noaccurate_seek"_s,
-                          u"-ss"_s,
-                          numberText(std::max(0.0, seconds)),
-                          u"-i"_s,
-                          u"file:"_s + plan.sources.first()};
+    QStringList arguments{u"-hide_banner"_s,        u"-nostdin"_s, u"-loglevel"_s, u"error"_s,
+                          u"-protocol_whitelist"_s, u"file"_s,     u"-threads"_s,  u"1"_s,
+                          u"-filter_threads"_s,     u"1"_s};
+    if (place == PreviewPlace::KeyPicture)
+        arguments << u"-skip_frame"_s << u"nokey"_s << u"-noaccurate_seek"_s;
+    arguments << u"-ss"_s << numberText(std::max(0.0, seconds)) << u"-i"_s << u"file:"_s + plan.sources.first();
     QString map = u"0:%1"_s.arg(tracks->video->source->index), filter = fittingFilter(size), graph;
     if (isChanged) {
         GraphInputs inputs{.pieces = {{.source = 0, .start = seconds, .end = {}, .seconds = {}}}, .sources = {source}};

@@ -416,7 +416,9 @@ TEST(TranscodeCommand, ATrialIsTenSecondsOfTheWhole)
     EXPECT_EQ(trial.pieces.at(0).start, 50);
     EXPECT_EQ(trial.pieces.at(0).end, 60);
     EXPECT_EQ(trial.maximumBytes, 2'000'000);
-    EXPECT_TRUE(previewArguments(planFor(u"mp3"_s), film({sound(0)}), 1, {100, 100}, PreviewPicture::Result).isEmpty());
+    EXPECT_TRUE(previewArguments(planFor(u"mp3"_s), film({sound(0)}), 1, {100, 100}, PreviewPicture::Result,
+                                 PreviewPlace::KeyPicture)
+                    .isEmpty());
 }
 
 }  // namespace kestrel

@@ -391,3 +391,7 @@ def case_preview(c):
             answer = c.tool.ask(dict(question, preview=[seconds, 1000, 1000, result]))
             width, height, _ = parse_ppm(run(['ffmpeg'] + answer['arguments']).stdout)
             assert (width, height) == (size if result else (320, 180)), f'{options}: {width}x{height}'
+    question = c.question('long', 'mp4-h264')
+    at = [run(['ffmpeg'] + c.tool.ask(dict(question, preview=[seconds, 320, 180, False, exact]))['arguments']).stdout
+          for seconds, exact in ((4.2, False), (4.8, False), (4.2, True), (4.8, True))]
+    assert at[0] == at[1] != at[2] != at[3], 'key pictures, then exact ones'

@@ -65,9 +65,10 @@ QJsonObject answer(const QJsonObject &question)
     if (question.contains(u"preview"_s)) {
         const QJsonArray preview = question[u"preview"_s].toArray();
         const auto picture = preview.at(3).toBool() ? PreviewPicture::Result : PreviewPicture::Source;
-        return {{u"arguments"_s, QJsonArray::fromStringList(
-                                     previewArguments(*plan, sources.first(), preview.at(0).toDouble(),
-                                                      {preview.at(1).toInt(), preview.at(2).toInt()}, picture))}};
+        const auto place = preview.at(4).toBool() ? PreviewPlace::Exact : PreviewPlace::KeyPicture;
+        return {{u"arguments"_s, QJsonArray::fromStringList(previewArguments(
+                                     *plan, sources.first(), preview.at(0).toDouble(),
+                                     {preview.at(1).toInt(), preview.at(2).toInt()}, picture, place))}};
     }
     const auto steps = transcodeSteps(
         *plan, sources, {},

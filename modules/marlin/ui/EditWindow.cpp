@@ -276,7 +276,8 @@ void EditWindow::takeSnapshot()
                           .source = m_subject.source,
                           .seconds = m_timeLine->position(),
                           .size = largest,
-                          .picture = PreviewPicture::Result});
+                          .picture = PreviewPicture::Result,
+                          .place = PreviewPlace::Exact});
 }
 
 void EditWindow::saveSnapshot(const QImage &image)

@@ -19,17 +19,20 @@ FrameMaker::~FrameMaker() = default;
 void FrameMaker::request(const Request &request)
 {
     m_next = request;
+    if (std::exchange(m_isRefining, false))
+        m_process.reset();  // which may take seconds, and nobody waits for it any more
     if (!m_process)
         start();
 }
 
 void FrameMaker::start()
 {
-    Request request = *std::exchange(m_next, std::nullopt);
+    const Request request = *std::exchange(m_next, std::nullopt);
     m_path = std::make_unique<ToolPath>(request.plan.sources.value(0));
-    request.plan.sources = {m_path->path()};
+    TranscodePlan plan = request.plan;
+    plan.sources = {m_path->path()};
     const QStringList arguments =
-        previewArguments(request.plan, request.source, request.seconds, request.size, request.picture);
+        previewArguments(plan, request.source, request.seconds, request.size, request.picture, request.place);
     if (arguments.isEmpty()) {
         emit made({});
         return;
@@ -39,14 +42,26 @@ void FrameMaker::start()
                                                           .timeLimit = framePatience,
                                                           .outputLimit = largestFrame,
                                                           .collectsOutput = true});
-    connect(m_process.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
-        const QImage image = ending.isGood() ? QImage::fromData(ending.output, "PPM") : QImage();
+    connect(m_process.get(), &ToolProcess::ended, this, [this, request](const ToolEnding &ending) {
         m_process.release()->deleteLater();
-        if (m_next)
-            start();
-        emit made(image);
+        take(request, ending.isGood() ? QImage::fromData(ending.output, "PPM") : QImage());
     });
     m_process->start();
+}
+
+void FrameMaker::take(const Request &request, const QImage &image)
+{
+    const bool wasRefining = std::exchange(m_isRefining, false);
+    if (!m_next && request.place == PreviewPlace::KeyPicture && !image.isNull()) {
+        m_isRefining = true;
+        m_next = request;
+        m_next->place = PreviewPlace::Exact;
+    }
+    if (m_next)
+        start();
+    // Where the exact one takes too long, the first one stays.
+    if (!image.isNull() || !wasRefining)
+        emit made(image);
 }
 
 }  // namespace kestrel

@@ -13,8 +13,8 @@ namespace kestrel {
 class ToolPath;
 class ToolProcess;
 
-/// One picture of a source or of what becomes of it, computed in the background. Of several requests only the latest is
-/// carried out. Main thread.
+/// One picture of a source or of what becomes of it, computed in the background: the key picture before it first, then
+/// the exact one. Of several requests only the latest is carried out. Main thread.
 class FrameMaker : public QObject {
     Q_OBJECT
 public:
@@ -25,6 +25,7 @@ public:
         double seconds = 0;
         QSize size;  ///< pixels
         PreviewPicture picture = PreviewPicture::Source;
+        PreviewPlace place = PreviewPlace::KeyPicture;  ///< of the first picture
     };
 
     explicit FrameMaker(QObject *parent = nullptr);
@@ -38,8 +39,10 @@ signals:
 
 private:
     void start();
+    void take(const Request &request, const QImage &image);
 
     std::optional<Request> m_next;
+    bool m_isRefining = false;
     std::unique_ptr<ToolPath> m_path;
     std::unique_ptr<ToolProcess> m_process;
 };
