@@ -409,6 +409,20 @@ const SoundEncoder *soundEncoderOf(QStringView codec, const QStringList &missing
     return row == std::end(soundTable) ? nullptr : row;
 }
 
+QStringList missingEncoders(const QStringList &there)
+{
+    QStringList missing;
+    const auto look = [&](const auto &rows) {
+        for (const auto &row : rows) {
+            if (const QString name = QString::fromLatin1(row.encoder); !there.contains(name))
+                missing.append(name);
+        }
+    };
+    look(videoTable);
+    look(soundTable);
+    return missing;
+}
+
 QString codecLabel(const QString &codec)
 {
     if (const VideoEncoder *video = videoEncoderOf(codec))

@@ -58,6 +58,9 @@ std::span<const SoundEncoder> soundEncoders();
 const VideoEncoder *videoEncoderOf(QStringView codec, const QStringList &missing = {}, bool twoPasses = false);
 const SoundEncoder *soundEncoderOf(QStringView codec, const QStringList &missing = {});
 
+/// Encoders of the tables that are not among those of an ffmpeg.
+QStringList missingEncoders(const QStringList &there);
+
 /// The name that people know a codec by; the codec itself where it is unknown.
 QString codecLabel(const QString &codec);
 

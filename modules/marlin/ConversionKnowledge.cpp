@@ -2,6 +2,8 @@
 
 #include "Conversion.h"
 #include "jobs/JobQueue.h"
+#include "media/Encoders.h"
+#include "media/TranscoderCodecs.h"
 #include "settings/JKestrelSettingDispatcher.h"
 
 #include <algorithm>
@@ -10,6 +12,22 @@ using namespace Qt::StringLiterals;
 
 /// What Conversions knows of the sources.
 namespace kestrel {
+
+/// What cannot be made here is said in the rows before the start.
+void Conversions::askForEncoders()
+{
+    m_codecs = std::make_unique<CodecQuery>(m_settings->getTranscoderPath());
+    connect(m_codecs.get(), &CodecQuery::answered, this, [this](const TranscoderCodecs &codecs) {
+        m_missingEncoders = codecs.failure.isEmpty() ? missingEncoders(codecs.encoders.all) : QStringList();
+        if (m_missingEncoders.isEmpty())
+            return;
+        for (auto known = m_known.begin(); known != m_known.end(); ++known) {
+            known->warnings.reset();
+            emit informed(known.key());
+        }
+    });
+    m_codecs->start();
+}
 
 void Conversions::lookAt(JobId id)
 {

@@ -4,9 +4,11 @@
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
 #include "jobs/JobQueue.h"
+#include "media/TranscoderCodecs.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Localization.h"
 
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QJsonDocument>
 #include <QPointer>
@@ -27,7 +29,9 @@ const QString chosenPresetKey = u"marlinPreset"_s;
 const QString optionsKey = u"marlinOptions"_s;
 const QString folderKey = u"marlinFolder"_s;
 constexpr qsizetype largestOptions = 64 * 1024;
-constexpr qsizetype atOnce = 200;  ///< jobs that are changed in one go of the event loop
+// Jobs that are changed in one go of the event loop: so many, and more while there is time
+constexpr qsizetype atOnce = 20;
+constexpr qint64 turnMs = 6;
 
 /// What "Convert" starts: everything that is not done.
 constexpr std::initializer_list<JobState> startableStates = {JobState::Ready, JobState::Failed, JobState::Cancelled,
@@ -68,6 +72,7 @@ Conversions::Conversions(JobQueue &queue, std::shared_ptr<JKestrelSettingDispatc
                     guard->forgetRemoved();
             });
     });
+    askForEncoders();
     for (const JobId id : m_queue.idsIn({JobState::Checking}, marlinJobs.toString()))
         lookAt(id);
 }
@@ -81,6 +86,7 @@ TranscodeTools Conversions::tools() const
 {
     TranscodeTools tools = transcodeTools(*m_settings, QThread::idealThreadCount());
     tools.machine.language = m_defaults.stringArrayForKey(u"AppleLanguages"_s).value(0, tools.machine.language);
+    tools.machine.missingEncoders = m_missingEncoders;
     return tools;
 }
 
@@ -311,9 +317,11 @@ void Conversions::inTurns(std::deque<std::function<void()>> turns)
         takeTurn(atOnce);
 }
 
-void Conversions::takeTurn(qsizetype most)
+void Conversions::takeTurn(qsizetype least)
 {
-    for (; most > 0 && !m_turns.empty(); --most) {
+    QElapsedTimer time;
+    time.start();
+    for (; !m_turns.empty() && (least > 0 || !time.hasExpired(turnMs)); --least) {
         const std::function<void()> turn = std::move(m_turns.front());
         m_turns.pop_front();
         turn();

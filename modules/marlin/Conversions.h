@@ -12,6 +12,7 @@
 
 namespace kestrel {
 
+class CodecQuery;
 class JKestrelSettingDispatcher;
 class JobQueue;
 
@@ -83,6 +84,7 @@ private:
         qint64 bytes = 0;
     };
 
+    void askForEncoders();
     void lookAt(JobId id);
     void probed(qint64 look, const MediaProber::Answer &answer);
     void know(JobId id);
@@ -90,7 +92,7 @@ private:
     void addOne(const QString &path);
     void inTurns(std::deque<std::function<void()>> turns);
     void inTurns(const QList<JobId> &ids, const std::function<void(JobId)> &task);
-    void takeTurn(qsizetype most);
+    void takeTurn(qsizetype least);
     void forgetRemoved();
     void rememberDraft();
 
@@ -100,6 +102,8 @@ private:
     OwnPresets m_ownPresets;
     TranscodeRecipe m_recipe;
     MediaProber m_prober;
+    std::unique_ptr<CodecQuery> m_codecs;
+    QStringList m_missingEncoders;
     TranscodePlan m_draft;
     QString m_draftFolder;
     QHash<JobId, Knowledge> m_known;

@@ -141,6 +141,12 @@ TEST_F(MarlinControllerTest, WhatIsLeftOutStandsInTheRowBeforeTheStart)
     EXPECT_EQ(shown(0, JobList::WarningRole).toString(), QString());
     choose(u"mp3"_s);
     EXPECT_TRUE(shown(0, JobList::WarningRole).toString().contains(u"Japanese"));
+
+    settings.replaceTranscoder("ffmpeg \"$@\" | grep -v libx264");
+    start();
+    controller->openFiles({film});
+    choose(u"mp4-h264"_s);
+    EXPECT_TRUE(waitUntil([&] { return shown(0, JobList::WarningRole).toString().contains(u"not installed"); }));
 }
 
 TEST_F(MarlinControllerTest, PresetIsForTheSelectedOrForAllAndIsRemembered)
