@@ -2,6 +2,7 @@
 
 #include "JobDetails.h"
 #include "JobRowDelegate.h"
+#include "foundation/Queues.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "tarnwell/TextKey.h"
@@ -9,10 +10,12 @@
 
 #include <QClipboard>
 #include <QContextMenuEvent>
+#include <QElapsedTimer>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
 #include <QMimeData>
+#include <QPointer>
 #include <QShortcut>
 #include <QSortFilterProxyModel>
 
@@ -28,37 +31,76 @@ using tarnwell::operator""_key;
 
 }  // namespace
 
-/// Rows that contain a text in their title or details.
+/// Rows that contain a text in their title or details. What they contain is kept while somebody searches, and made in
+/// turns: for ten thousand rows that would be felt at the first key.
 class JobListView::Filter : public QSortFilterProxyModel {
 public:
-    using QSortFilterProxyModel::QSortFilterProxyModel;
+    Filter(JobList &list, QObject *parent) : QSortFilterProxyModel(parent), m_list(list)
+    {
+        // Before the connections of setSourceModel, which ask again.
+        connect(&list, &JobList::dataChanged, this, [this](const QModelIndex &from, const QModelIndex &to) {
+            for (int row = from.row(); !m_texts.isEmpty() && row <= to.row(); ++row)
+                m_texts.remove(m_list.idAt(row));
+        });
+        setSourceModel(&list);
+    }
 
     void setText(const QString &text)
     {
-        m_text = text;
-        invalidateFilter();
+        m_wanted = text;
+        if (text.isEmpty())
+            m_texts.clear();
+        if (!m_isTurnComing)
+            takeTurn(0);
     }
 
 protected:
-    bool filterAcceptsRow(int row, const QModelIndex &parent) const override
+    bool filterAcceptsRow(int row, const QModelIndex &) const override
     {
-        const auto contains = [&](int column) {
-            return sourceModel()->index(row, column, parent).data().toString().contains(m_text, Qt::CaseInsensitive);
-        };
-        return m_text.isEmpty() || contains(JobList::TitleColumn) || contains(JobList::DetailColumn);
+        return m_text.isEmpty() || textOf(row).contains(m_text, Qt::CaseInsensitive);
     }
 
 private:
-    QString m_text;
+    const QString &textOf(int row) const
+    {
+        QString &text = m_texts[m_list.idAt(row)];
+        if (text.isNull())
+            text = m_list.index(row, JobList::TitleColumn).data().toString() + u'\n' +
+                   m_list.index(row, JobList::DetailColumn).data().toString();
+        return text;
+    }
+
+    void takeTurn(int row)
+    {
+        constexpr qint64 turnMs = 6;
+        QElapsedTimer time;
+        time.start();
+        while (!m_wanted.isEmpty() && row < m_list.rowCount() && !time.hasExpired(turnMs))
+            textOf(row++);
+        m_isTurnComing = !m_wanted.isEmpty() && row < m_list.rowCount();
+        if (m_isTurnComing) {
+            foundation::queue::asyncMain([guard = QPointer(this), row] {
+                if (guard)
+                    guard->takeTurn(row);
+            });
+        } else if (m_text != m_wanted) {
+            m_text = m_wanted;
+            invalidateFilter();
+        }
+    }
+
+    JobList &m_list;
+    QString m_text, m_wanted;
+    mutable QHash<JobId, QString> m_texts;
+    bool m_isTurnComing = false;
 };
 
 JobListView::JobListView(JobQueue &queue, JobList &list, QWidget *parent)
     : QListView(parent),
       m_queue(queue),
       m_list(list),
-      m_filter(new Filter(this))
+      m_filter(new Filter(list, this))
 {
-    m_filter->setSourceModel(&list);
     setModel(m_filter);
     setItemDelegate(new JobRowDelegate(this));
     setSelectionMode(ExtendedSelection);
@@ -96,11 +138,15 @@ void JobListView::setUpKeys()
 QList<JobId> JobListView::selectedIds() const
 {
     // Not selectedRows(): in a list only the title's column is selected, which makes no row.
-    QModelIndexList rows = selectedIndexes();
+    QList<int> rows;
+    for (const QItemSelectionRange &range : selectionModel()->selection()) {
+        for (int row = range.top(); row <= range.bottom(); ++row)
+            rows.append(row);
+    }
     std::sort(rows.begin(), rows.end());
     QList<JobId> ids;
-    for (const QModelIndex &row : rows)
-        ids.append(row.data(JobList::IdRole).toLongLong());
+    for (const int row : rows)
+        ids.append(m_filter->index(row, 0).data(JobList::IdRole).toLongLong());
     return ids;
 }
 

@@ -83,8 +83,9 @@ QVariant ConversionList::data(const QModelIndex &index, int role) const
     if (role == Qt::DisplayRole && index.column() == DetailColumn)
         return detailText(record);
     if (role == Qt::ToolTipRole && index.column() != StateColumn) {
-        const QString warning = warningText(record);
-        return tarnwell::hoverTextShowing(warning.isEmpty() ? record.source : record.source + u'\n' + warning);
+        QStringList lines{record.source, detailText(record), warningText(record)};
+        lines.removeAll(QString());
+        return tarnwell::hoverTextShowing(lines.join(u'\n'));
     }
     return JobList::data(index, role);
 }

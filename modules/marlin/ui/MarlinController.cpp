@@ -26,6 +26,8 @@
 #include <QFileInfo>
 #include <QMenu>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -119,10 +121,24 @@ void MarlinController::showFirstOpenAppTip(bool show)
                           show);
 }
 
+/// Folders, and many files, are looked at in the background.
 void MarlinController::openFiles(const QStringList &paths)
 {
     m_view->makeContents();
-    const QStringList files = mediaFiles(paths);
+    constexpr qsizetype few = 100;
+    const auto isFolder = [](const QString &path) { return QFileInfo(path).isDir(); };
+    if (paths.size() <= few && std::ranges::none_of(paths, isFolder))
+        return addFiles(mediaFiles(paths));
+    foundation::queue::asyncGlobal([paths, guard = QPointer(this)] {
+        foundation::queue::asyncMain([files = mediaFiles(paths), guard] {
+            if (guard && guard->m_page)
+                guard->addFiles(files);
+        });
+    });
+}
+
+void MarlinController::addFiles(const QStringList &files)
+{
     const int added = m_conversions->add(files);
     if (files.isEmpty())
         m_page->showMessage("There is no video or sound file in it."_key.localized());
@@ -153,6 +169,22 @@ void MarlinController::showFormats()
                                     m_conversions->plan(id).value_or(m_conversions->draft()), m_page->window());
     connect(dialog, &PresetDialog::chosen, this, &MarlinController::choosePreset);
     dialog->open();
+}
+
+/// A drag over rows changes it many times.
+void MarlinController::showSelection()
+{
+    if (std::exchange(m_isToShowSelection, true))
+        return;
+    foundation::queue::asyncMain([guard = QPointer(this)] {
+        if (!guard)
+            return;
+        guard->m_isToShowSelection = false;
+        if (!guard->m_page)
+            return;
+        guard->m_options->setSelection(guard->m_page->list()->selectedIds());
+        guard->showPreset();
+    });
 }
 
 void MarlinController::showPreset()

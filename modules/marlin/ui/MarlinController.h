@@ -53,10 +53,12 @@ private:
     JobQueue &queue();
     QVariant pictureOf(const JobRecord &record) const;
 
+    void addFiles(const QStringList &files);
     void chooseFiles();
     void choosePreset(const QString &id);
     void showFormats();
     void showPreset();
+    void showSelection();
     void convert();
     void extendMenu(QMenu *menu, const QList<JobId> &ids);
     void editCurrent();
@@ -80,6 +82,7 @@ private:
     QPointer<PresetChooser> m_presets;
     QPointer<OptionsPanel> m_options;
     bool m_isToShow = false;
+    bool m_isToShowSelection = false;
 };
 
 }  // namespace kestrel

@@ -105,10 +105,7 @@ void MarlinController::connectPage()
     connect(list, &JobListView::playRequested, this, &MarlinController::play);
     connect(list, &JobListView::editRequested, this, &MarlinController::edit);
     connect(list, &JobListView::menuRequested, this, &MarlinController::extendMenu);
-    connect(list, &JobListView::selectedChanged, this, [this] {
-        m_options->setSelection(m_page->list()->selectedIds());
-        showPreset();
-    });
+    connect(list, &JobListView::selectedChanged, this, &MarlinController::showSelection);
     connect(m_conversions.get(), &Conversions::draftChanged, this, &MarlinController::showPreset);
     connect(&queue(), &JobQueue::changed, this, &MarlinController::showState);
     connect(&queue(), &JobQueue::removed, this, &MarlinController::showState);

@@ -141,6 +141,12 @@ void OptionsPanel::addOutputPage(QFormLayout *form, QVBoxLayout *below)
     below->addWidget(m_mergeBox);
 }
 
+void OptionsPanel::showEvent(QShowEvent *event)
+{
+    QWidget::showEvent(event);
+    showLater();
+}
+
 void OptionsPanel::setSelection(const QList<JobId> &ids)
 {
     m_ids = ids;
@@ -232,10 +238,17 @@ void OptionsPanel::showEstimate(const TranscodePlan &plan)
         pieces = tarnwell::Sentence("Kept: %1"_key, {parts.join(u", "_s)}).localized();
     }
     m_cutLabel->setText(pieces);
+    // Of all or of none: part of a sum would be read as the whole.
+    constexpr qsizetype mostCounted = 20;
+    const QList<JobId> ids = m_ids.isEmpty() ? m_conversions.startable() : m_ids;
     qint64 bytes = 0;
-    for (const JobId id : m_ids.mid(0, 100))
-        bytes += m_conversions.expectedBytes(id);
-    m_form->estimateLabel->setVisible(bytes > 0);
+    bool isWhole = ids.size() <= mostCounted && isVisible();
+    for (qsizetype i = 0; isWhole && i < ids.size(); ++i) {
+        const qint64 each = m_conversions.expectedBytes(ids[i]);
+        isWhole = each > 0;
+        bytes += each;
+    }
+    m_form->estimateLabel->setVisible(isWhole && bytes > 0);
     m_form->estimateLabel->setText(
         tarnwell::Sentence("Size: about %1"_key, {QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat)})
             .localized());

@@ -38,6 +38,9 @@ public:
 signals:
     void editWanted();  ///< the button of the cuts
 
+protected:
+    void showEvent(QShowEvent *event) override;
+
 private:
     QFormLayout *addPage(OptionPage page, QVBoxLayout **below = nullptr);
     void addCutPage(QVBoxLayout *below);
