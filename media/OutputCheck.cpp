@@ -96,13 +96,16 @@ Sentence mismatchIn(const OutputExpectation &expected, const MediaInformation &f
 
 }  // namespace
 
-ToolCommand outputReportCommand(const QString &proberPath, const QString &argument)
+ToolCommand outputReportCommand(const QString &proberPath, const QString &argument, qint64 fileBytes)
 {
+    constexpr qint64 slowBytesPerSecond = 5'000'000;  // of a disk behind a network
+    constexpr std::chrono::seconds leastLimit = std::chrono::minutes(15);
     return {.program = proberPath,
             .arguments = {u"-v"_s, u"repeat+level+error"_s, u"-protocol_whitelist"_s, u"file"_s, u"-count_packets"_s,
                           u"-show_format"_s, u"-show_streams"_s, u"-show_chapters"_s, u"-of"_s, u"json"_s, u"-i"_s,
                           argument},
-            .timeLimit = std::chrono::minutes(15),  // it says nothing before it has read everything
+            // It says nothing before it has read everything.
+            .timeLimit = std::max(leastLimit, std::chrono::seconds(fileBytes / slowBytesPerSecond)),
             .outputLimit = maximumReportBytes,
             .collectsOutput = true};
 }

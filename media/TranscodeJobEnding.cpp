@@ -25,12 +25,15 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
     const QString part = m_output->partPath();
     m_reading = ToolMessages({part});
     const ToolProcess &tool = run(
-        outputReportCommand(m_request.tools.prober, ToolPath(part).argument()),
+        outputReportCommand(m_request.tools.prober, ToolPath(part).argument(), QFileInfo(part).size()),
         [this, ending, part](const ToolEnding &probing) {
             const auto found =
                 probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
-            if (!found)
+            if (!found) {
+                // Another attempt would take as long to read.
+                m_isSecondAttempt |= probing.cause == ToolEnding::Cause::TimeLimit;
                 return judge(ending, std::nullopt);
+            }
             const OutputFindings findings = compareOutput(
                 m_steps.expected,
                 {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},

@@ -32,8 +32,6 @@ namespace {
 constexpr int waits[] = {5, 15, 45, 120, 300};
 constexpr int serverWaits = 2;
 
-constexpr auto lookLimit = 2min;
-
 }  // namespace
 
 DownloadJob::DownloadJob(DownloadPlan plan, QString folder, DownloadTools tools, QObject *parent)
@@ -193,9 +191,9 @@ void DownloadJob::look()
 {
     tellStage("Checking the finished file…"_key);
     const QString path = m_part->downloaded();
-    ToolCommand command = outputReportCommand(m_tools.transcode.prober, ToolPath(path).argument());
-    command.timeLimit = lookLimit;
-    run(command, [this, path](const ToolEnding &ending) { looked(ending, path); });
+    const qint64 bytes = QFileInfo(path).size();
+    run(outputReportCommand(m_tools.transcode.prober, ToolPath(path).argument(), bytes),
+        [this, path](const ToolEnding &ending) { looked(ending, path); });
 }
 
 void DownloadJob::looked(const ToolEnding &ending, const QString &path)

@@ -287,7 +287,8 @@ void RecordJob::check(const ToolEnding &joining)
     if (!joining.isGood())
         return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
     const QString part = m_output->partPath();
-    run(outputReportCommand(m_tools.prober, ToolPath(part).argument()), [this, part](const ToolEnding &probing) {
+    const qint64 bytes = QFileInfo(part).size();
+    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes), [this, part](const ToolEnding &probing) {
         const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
         OutputExpectation expected;
         expected.tracks = recordedTracks(m_recording.plan);

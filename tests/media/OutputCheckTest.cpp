@@ -153,6 +153,8 @@ TEST(OutputCheckTest, PacketsOfAReport)
     EXPECT_EQ(found->packets, (QList<qint64>{75, 0, 0}));
     EXPECT_EQ(found->bytes, 5);
     EXPECT_FALSE(parseOutputReport("{}", 5));
+    EXPECT_EQ(outputReportCommand({}, {}, 5).timeLimit, std::chrono::minutes(15));
+    EXPECT_EQ(outputReportCommand({}, {}, 36'000'000'000).timeLimit, std::chrono::hours(2)) << "all of it is read";
 }
 
 TEST(OutputCheckTest, KeptTracksMayBeShorterThanTheFile)
