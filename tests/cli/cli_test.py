@@ -44,9 +44,13 @@ class CliTest(unittest.TestCase):
         self.assertEqual({each['source']: each['state'] for each in results}, {missing: 'failed', self.clip: 'done'})
         self.assertTrue(all(not name.startswith('.') for name in os.listdir(self.out)), os.listdir(self.out))
 
+        # Whose tracks nobody knows is not begun with all of them.
+        status, results = self.cli.results('convert', '--audio', '1', '--to', self.out, missing)
+        self.assertEqual((status, results[0]['state'], self.cli.run('jobs')[1][-1]['state']), (1, 'failed', 'unusable'))
+
         status, jobs, _ = self.cli.run('jobs')
         self.assertEqual((status, sorted(each['state'] for each in jobs)),
-                         (0, ['done', 'done', 'done', 'done-with-problems', 'failed']))
+                         (0, ['done', 'done', 'done', 'done-with-problems', 'failed', 'unusable']))
 
     def test_wrong_usage_is_one_sentence_and_makes_nothing(self):
         rows = [[], ['nonsense'], ['convert'], ['convert', '--preset', 'none', self.clip], ['convert', '--nonsense', self.clip],
