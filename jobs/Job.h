@@ -32,20 +32,20 @@ signals:
     void finished(const kestrel::JobOutcome &outcome);
 };
 
+/// What a job takes.
+struct JobNeeds {
+    Lane lane = Lane::Encode;
+    qint64 bytes = 0;   ///< that its output will take in the record's folder, or an upper guess; 0 for not known
+    double weight = 1;  ///< among the module's jobs, in whatever measure they share: seconds of film, bytes
+};
+
 /// How a module's jobs are run: all that the queue knows of a module.
 class JobRecipe {
 public:
     virtual ~JobRecipe() = default;
 
-    virtual Lane lane(const JobRecord &record) const = 0;
-    /// Bytes that the output will take in the record's folder, or an upper guess; 0 where nothing is known.
-    virtual qint64 expectedBytes(const JobRecord &record) const = 0;
-    /// How much of a run's work this job is, in whatever measure the module's jobs share: seconds of film, bytes.
-    virtual double weight(const JobRecord &record) const
-    {
-        Q_UNUSED(record);
-        return 1;
-    }
+    /// Asked once whenever the job begins to wait.
+    virtual JobNeeds needs(const JobRecord &record) const = 0;
     /// Null where it cannot be run; it has failed then.
     virtual std::unique_ptr<Job> makeJob(const JobRecord &record) = 0;
 };

@@ -59,9 +59,10 @@ void JobQueue::beginWaiting(Entry &entry)
     entry.turn = ++m_lastTurn;
     double weight = 1;
     if (module.recipe) {
-        entry.lane = module.recipe->lane(record);
-        entry.expectedBytes = std::max<qint64>(0, module.recipe->expectedBytes(record));
-        weight = module.recipe->weight(record);
+        const JobNeeds needs = module.recipe->needs(record);
+        entry.lane = needs.lane;
+        entry.expectedBytes = std::max<qint64>(0, needs.bytes);
+        weight = needs.weight;
     }
     module.batch.add(record.id, weight);
     ++module.waiting[size_t(entry.lane)];

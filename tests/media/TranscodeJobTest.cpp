@@ -252,7 +252,7 @@ TEST_F(TranscodeJobTest, RealOnes)
     unlink(oddName.constData());
 }
 
-TEST_F(TranscodeJobTest, TheRecipeKnowsTheLane)
+TEST_F(TranscodeJobTest, TheRecipeKnowsWhatAJobNeeds)
 {
     TranscodeRecipe recipe([this] { return m_tools; });
     const auto recordOf = [](JobId id, const TranscodePlan &plan) {
@@ -262,7 +262,7 @@ TEST_F(TranscodeJobTest, TheRecipeKnowsTheLane)
         return record;
     };
     const JobRecord encoding = recordOf(1, planFor({film(u"mp4"_s)}, u"mp4-h264"_s));
-    EXPECT_EQ(int(recipe.lane(encoding)), int(Lane::Encode)) << "it may be anything";
+    EXPECT_EQ(int(recipe.needs(encoding).lane), int(Lane::Encode)) << "it may be anything";
     MediaInformation information;
     information.format = u"mov,mp4,m4a,3gp,3g2,mj2"_s;
     information.duration = 60;
@@ -275,11 +275,15 @@ TEST_F(TranscodeJobTest, TheRecipeKnowsTheLane)
     video.height = 360;
     information.tracks = {video};
     recipe.setInformation(1, {information});
-    EXPECT_EQ(int(recipe.lane(encoding)), int(Lane::Copy)) << "it is what is wanted already";
-    EXPECT_GE(recipe.expectedBytes(encoding), 5'000'000);
-    EXPECT_EQ(int(recipe.lane(recordOf(2, planFor({film(u"mp4"_s)}, u"mp3"_s)))), int(Lane::Sound));
-    EXPECT_EQ(int(recipe.lane(recordOf(3, planFor({film(u"mp4"_s)}, u"mkv-copy"_s)))), int(Lane::Copy));
-    EXPECT_EQ(recipe.expectedBytes(recordOf(4, planFor({film(u"mp4"_s)}, u"mp3"_s))), QFileInfo(film(u"mp4"_s)).size());
+    const JobNeeds copying = recipe.needs(encoding);
+    EXPECT_EQ(int(copying.lane), int(Lane::Copy)) << "it is what is wanted already";
+    EXPECT_GE(copying.bytes, 5'000'000);
+    EXPECT_DOUBLE_EQ(copying.weight, 60 / 20.0);
+    const JobNeeds unknown = recipe.needs(recordOf(2, planFor({film(u"mp4"_s)}, u"mp3"_s)));
+    EXPECT_EQ(int(unknown.lane), int(Lane::Sound));
+    EXPECT_EQ(unknown.bytes, QFileInfo(film(u"mp4"_s)).size());
+    EXPECT_DOUBLE_EQ(unknown.weight, double(unknown.bytes) / 500'000 / 5);
+    EXPECT_EQ(int(recipe.needs(recordOf(3, planFor({film(u"mp4"_s)}, u"mkv-copy"_s))).lane), int(Lane::Copy));
     JobRecord foreign;
     foreign.plan = {{u"version"_s, 99}};
     const auto job = recipe.makeJob(foreign);
