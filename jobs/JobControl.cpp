@@ -93,6 +93,7 @@ void JobQueue::setPaused(const QList<JobId> &ids, bool paused)
         if (!entry || !entry->run || entry->record.state != from || !entry->run->job().canPause())
             continue;
         entry->run->setPaused(paused);
+        moduleOf(*entry).batch.restartClock();
         entry->record.state = paused ? JobState::Paused : JobState::Running;
         tell(*entry);
     }
