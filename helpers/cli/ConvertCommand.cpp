@@ -13,6 +13,8 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel::cli {
@@ -117,10 +119,12 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
         return wrongUsage(paths.reason());
     if (isHelp)
         return AllDone;
-    const QStringList files = mediaFiles(*paths);
-    if (files.isEmpty())
+    const MediaFiles files = mediaFiles(*paths);
+    if (files.paths.isEmpty())
         return wrongUsage(u"Name the files to convert."_s);
-    const auto conversions = conversionsOf(files, request, settings);
+    if (files.isPart)
+        std::fprintf(stderr, "kestrel-cli: a folder is too large; only some of its files are converted\n");
+    const auto conversions = conversionsOf(files.paths, request, settings);
     if (!conversions)
         return wrongUsage(conversions.reason());
 

@@ -100,7 +100,9 @@ TEST(MediaFilesTest, FoldersInNaturalOrder)
     ASSERT_TRUE(QFile::link(folder.path(), folder.filePath(u"b/round"_s)));
     ASSERT_TRUE(QDir().mkpath(folder.filePath(u"folder.mp4"_s)));
     QList<QByteArray> found;
-    for (const QString &path : mediaFiles({folder.path(), folder.filePath(u"notes.txt"_s)}))
+    const MediaFiles files = mediaFiles({folder.path(), folder.filePath(u"notes.txt"_s)});
+    EXPECT_FALSE(files.isPart);
+    for (const QString &path : files.paths)
         found.append(encodedFileName(path).mid(root.size()));
     EXPECT_EQ(found, (QList<QByteArray>{"/b/1.gif", "/b/deep/x.TS", "/caf\xe9.avi", "/Film 2.mkv", "/film 10.mp4",
                                         "/notes.txt"}));

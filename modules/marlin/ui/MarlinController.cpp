@@ -122,13 +122,24 @@ void MarlinController::showFirstOpenAppTip(bool show)
 void MarlinController::openFiles(const QStringList &paths)
 {
     m_view->makeContents();
-    const QStringList files = mediaFiles(paths);
-    const int added = m_conversions->add(files);
-    if (files.isEmpty())
+    foundation::queue::asyncGlobal([self = QPointer(this), paths] {
+        const MediaFiles files = mediaFiles(paths);
+        foundation::queue::asyncMain([self, files] {
+            if (self)
+                self->addFiles(files);
+        });
+    });
+}
+
+void MarlinController::addFiles(const MediaFiles &files)
+{
+    const qsizetype known = files.paths.size() - m_conversions->add(files.paths);
+    if (files.isPart)
+        m_page->showMessage("The folder is too large: only some of its files were added."_key.localized());
+    else if (files.paths.isEmpty())
         m_page->showMessage("There is no video or sound file in it."_key.localized());
-    else if (added < files.size())
-        m_page->showMessage(
-            tarnwell::Sentence("Already in the list: %1"_key, {QString::number(files.size() - added)}).localized());
+    else if (known > 0)
+        m_page->showMessage(tarnwell::Sentence("Already in the list: %1"_key, {QString::number(known)}).localized());
     showState();
 }
 
