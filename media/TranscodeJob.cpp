@@ -21,6 +21,8 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr std::chrono::seconds lookLimit{30};
+/// After a stop the tool may rewrite the whole of a large file. Whoever does not want to wait cancels.
+constexpr std::chrono::minutes stopPatience{30};
 
 }  // namespace
 
@@ -163,7 +165,8 @@ void TranscodeJob::runStep()
     const ToolProcess &tool = run({.program = m_request.tools.transcoder,
                                    .arguments = step.arguments,
                                    .workingFolder = m_workFolder->path(),
-                                   .silenceLimit = m_request.tools.silenceLimit},
+                                   .silenceLimit = m_request.tools.silenceLimit,
+                                   .patience = stopPatience},
                                   [this](const ToolEnding &ending) { stepEnded(ending); });
     connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
     connect(&tool, &ToolProcess::outputLine, this, [this](const QByteArray &line) {

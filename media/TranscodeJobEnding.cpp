@@ -29,6 +29,9 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
         [this, ending, part](const ToolEnding &probing) {
             const auto found =
                 probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
+            // What was to be stopped has been written already; it is worth a look.
+            if (probing.cause == ToolEnding::Cause::Stopped)
+                return checkOutput(ending);
             if (!found) {
                 // Another attempt would take as long to read.
                 m_isSecondAttempt |= probing.cause == ToolEnding::Cause::TimeLimit;

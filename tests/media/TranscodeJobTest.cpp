@@ -169,6 +169,24 @@ TEST_F(TranscodeJobTest, ShortcutsThatLeadToNothing)
     EXPECT_EQ(runs(), 1) << "a full disk stays full";
 }
 
+TEST_F(TranscodeJobTest, StoppedWhileItsOutputIsLookedAt)
+{
+    const QString begun = path(u"begun"_s);
+    m_tools.prober =
+        makeScript(path(u"ffprobe"_s), "case \"$*\" in *-count_packets*) [ -e '" + begun.toUtf8() + "' ] || { > '" +
+                                           begun.toUtf8() + "'; sleep 60; };; esac\nexec '" +
+                                           test::toolPath(u"ffprobe"_s).toUtf8() + "' \"$@\"");
+    const auto job = makeJob(planFor({film(u"mkv"_s)}, u"mp4-h264"_s));
+    std::optional<JobOutcome> outcome;
+    QObject::connect(job.get(), &Job::finished, job.get(), [&outcome](const JobOutcome &told) { outcome = told; });
+    job->start();
+    ASSERT_TRUE(test::waitUntil([&begun] { return QFile::exists(begun); }, 30'000));
+    job->stop();
+    ASSERT_TRUE(test::waitUntil([&outcome] { return outcome.has_value(); }, 30'000));
+    EXPECT_EQ(int(outcome->state), int(JobState::Done));
+    EXPECT_EQ(outputs(), QStringList{u"film.mp4"_s});
+}
+
 TEST_F(TranscodeJobTest, CancelledAtOnce)
 {
     useTool("echo begun > '" + path(u"begun"_s).toUtf8() + "'; sleep 60");
