@@ -32,6 +32,15 @@ void lookForOutputs(JobRecord &record)
     record.state = JobState::DoneWithProblems;
 }
 
+/// Of processes of another machine or container nobody knows; but no job takes a week.
+bool isAbandoned(const PartOwner &owner, const JobRecord &record)
+{
+    constexpr qint64 days = 7;
+    const QDateTime &since = record.started.isValid() ? record.started : record.added;
+    return owner.hasEnded() ||
+           (owner.machine != PartOwner::self().machine && since.daysTo(QDateTime::currentDateTimeUtc()) > days);
+}
+
 }  // namespace
 
 JobRow storedJob(const JobRecord &record, double position)
@@ -57,7 +66,7 @@ std::optional<LoadedJob> loadedJob(const JobRow &row)
     record.state = *state;
     if (isHeld(*state)) {
         const std::optional<PartOwner> owner = PartOwner::fromTag(row.owner);
-        if (owner && *owner != PartOwner::self() && !owner->hasEnded())
+        if (owner && *owner != PartOwner::self() && !isAbandoned(*owner, record))
             return std::nullopt;
         const bool isInterrupted = isActive(*state);
         record.state = isInterrupted ? JobState::Interrupted : JobState::Ready;
