@@ -16,20 +16,11 @@ using tarnwell::operator""_key;
 
 namespace {
 
-QStringList codecsOf(const QList<OutputExpectation::Track> &tracks, MediaTrack::Kind kind)
+template <typename Track>
+QStringList codecsOf(const QList<Track> &tracks, MediaTrack::Kind kind)
 {
     QStringList codecs;
-    for (const OutputExpectation::Track &track : tracks) {
-        if (track.kind == kind)
-            codecs.append(track.codec);
-    }
-    return codecs;
-}
-
-QStringList codecsOf(const QList<MediaTrack> &tracks, MediaTrack::Kind kind)
-{
-    QStringList codecs;
-    for (const MediaTrack &track : tracks) {
+    for (const Track &track : tracks) {
         if (track.kind == kind)
             codecs.append(track.codec);
     }
@@ -133,7 +124,7 @@ std::optional<double> secondsOfKept(const OutputExpectation &expected, const Med
         for (const MediaTrack &track : source.tracksOf(kind)) {
             if (!track.duration)
                 return expected.seconds;
-            longest = std::max(longest, track.duration);  // nothing is least
+            longest = std::max(longest, track.duration);  // none is less than any
         }
     }
     return expected.seconds && longest ? std::min(expected.seconds, longest) : expected.seconds;
