@@ -1,8 +1,8 @@
 #include "OutputFile.h"
 
-#include "FileNames.h"
 #include "PartOwner.h"
 #include "PartPlacing.h"
+#include "PortableNames.h"
 #include "SystemFailure.h"
 #include "foundation/StandardFolders.h"
 #include "tarnwell/Log.h"

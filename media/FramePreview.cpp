@@ -57,8 +57,8 @@ QStringList pictureAt(double seconds, const QString &path)
 }
 
 /// Adds the files that lie over the picture.
-GraphInputs addInputs(const TranscodePlan &plan, const TrackPlan &tracks, const MediaInformation &source,
-                      double seconds, QStringList &arguments)
+GraphInputs addOverlays(const TranscodePlan &plan, const TrackPlan &tracks, const MediaInformation &source,
+                        double seconds, QStringList &arguments)
 {
     GraphInputs inputs{.pieces = {{.source = 0, .start = seconds, .end = {}, .seconds = {}}}, .sources = {source}};
     if (plan.watermark && !plan.watermark->imagePath.isEmpty()) {
@@ -90,7 +90,7 @@ QStringList previewArguments(const TranscodePlan &wanted, const MediaInformation
     QStringList arguments = pictureAt(seconds, plan.sources.first());
     QString map = u"0:%1"_s.arg(tracks->video->source->index), filter = fittingFilter(size), graph;
     if (isChanged) {
-        const GraphInputs inputs = addInputs(plan, *tracks, source, seconds, arguments);
+        const GraphInputs inputs = addOverlays(plan, *tracks, source, seconds, arguments);
         const FilterGraph whole = filterGraph(plan, *tracks, inputs, {}, false);
         if (whole.graph.isEmpty()) {
             filter = whole.pictureFilters + u',' + filter;

@@ -1,5 +1,5 @@
 // What comes after the last run of the tool: the look at the output, the judgement, the name.
-#include "OutputPlacing.h"
+#include "Placing.h"
 #include "TranscodeJob.h"
 #include "TranscodeVerdict.h"
 

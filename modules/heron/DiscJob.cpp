@@ -9,7 +9,7 @@
 
 #include "jobs/OutputFile.h"
 #include "jobs/SystemFailure.h"
-#include "media/OutputPlacing.h"
+#include "media/Placing.h"
 #include "tarnwell/Log.h"
 
 #include <QJsonDocument>

@@ -5,7 +5,7 @@
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 #include "media/MediaProber.h"
-#include "media/OutputPlacing.h"
+#include "media/Placing.h"
 #include "media/Preset.h"
 #include "media/ToolPath.h"
 #include "tarnwell/Log.h"

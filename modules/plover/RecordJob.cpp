@@ -3,7 +3,7 @@
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 #include "media/OutputCheck.h"
-#include "media/OutputPlacing.h"
+#include "media/Placing.h"
 #include "media/ToolPath.h"
 #include "tarnwell/Log.h"
 

@@ -1,4 +1,4 @@
-#include "OutputPlacing.h"
+#include "Placing.h"
 
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
