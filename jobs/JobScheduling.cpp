@@ -102,7 +102,7 @@ void JobQueue::startIn(Lane lane, Spaces &spaces)
         Entry *entry = nextIn(lane, blocked);
         if (!entry)
             return;
-        blocked.insert(entry->record.id);  // or gone from those that wait
+        blocked.insert(entry->record.id);  // no harm where it runs: it does not wait any more
         if (isFree(*entry) && hasSpace(*entry, spaces))
             run(*entry);
     }

@@ -59,7 +59,7 @@ void TranscodeJob::lookAtSource()
     tellStage("Reading the file…"_key);
     run(probeCommand(m_request.tools.prober, m_sources[number].argument(), lookLimit),
         [this](const ToolEnding &ending) {
-            if (isStopping())  // which the look may not have survived
+            if (isStopping())  // the look was stopped with the job
                 return finishStopped();
             auto result = probeResult(ending);
             if (result)

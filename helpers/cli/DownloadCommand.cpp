@@ -3,6 +3,7 @@
 #include "CliSession.h"
 #include "JobRunner.h"
 #include "Options.h"
+#include "foundation/FileNames.h"
 #include "foundation/TerminationSignals.h"
 #include "modules/petrel/Analysis.h"
 #include "modules/petrel/Download.h"
@@ -46,7 +47,7 @@ bool readProxy(const QString &value, DownloadRequest &request)
 constexpr Option<DownloadRequest> optionTable[] = {
     {"to", "folder", "where the results go, instead of the settings' folders",
      [](const QString &value, DownloadRequest &request) {
-         request.folder = QFileInfo(value).absoluteFilePath();
+         request.folder = foundation::absoluteFileName(value);
          return QFileInfo(value).isDir();
      }},
     {"resolution", "lines", "\"720P\": at most so many lines, where there is such a picture; \"best\"",

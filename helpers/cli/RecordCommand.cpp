@@ -3,6 +3,7 @@
 #include "CliSession.h"
 #include "JobRunner.h"
 #include "Options.h"
+#include "foundation/FileNames.h"
 #include "media/MediaProber.h"
 #include "modules/plover/RecordRecipe.h"
 
@@ -94,7 +95,7 @@ constexpr Option<Request> options[] = {
      }},
     {"to", "FOLDER", "where the recording goes (the settings' folder)",
      [](const QString &value, Request &request) {
-         request.folder = QDir::cleanPath(QDir::current().absoluteFilePath(value));
+         request.folder = foundation::absoluteFileName(value);
          return QFileInfo(request.folder).isDir();
      }},
     {"recover", nullptr, "only finish recordings that were interrupted",

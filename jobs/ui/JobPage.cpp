@@ -219,7 +219,7 @@ void JobPage::togglePause()
     if (running.isEmpty())
         m_queue.setPaused(m_queue.idsIn({JobState::Paused}, m_module), false);
     else
-        m_queue.setPaused(running + m_queue.idsIn({JobState::Waiting}, m_module), true);
+        m_queue.setPaused(running, true);
 }
 
 void JobPage::dragEnterEvent(QDragEnterEvent *event)
