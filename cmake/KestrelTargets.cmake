@@ -11,12 +11,16 @@ set(CMAKE_VISIBILITY_INLINES_HIDDEN ON)
 
 option(KESTREL_WARNINGS_AS_ERRORS "Treat compiler warnings as errors" OFF)
 option(KESTREL_BENCHMARKS "Build the benchmarks" OFF)
+option(KESTREL_PRECOMPILED_HEADERS "Read the commonest headers once; hides a missing #include" OFF)
 option(KESTREL_FUZZ "Build the fuzz targets; needs clang" OFF)
 set(KESTREL_SANITIZE "" CACHE STRING "Sanitizers to build with, as -fsanitize takes them")
 
 find_program(CCACHE_PROGRAM ccache)
 if(CCACHE_PROGRAM)
     set(CMAKE_CXX_COMPILER_LAUNCHER "${CCACHE_PROGRAM}")
+    if(KESTREL_PRECOMPILED_HEADERS)  # which the cache takes only when told to
+        list(PREPEND CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env CCACHE_SLOPPINESS=pch_defines,time_macros)
+    endif()
 endif()
 
 add_compile_options(-Wall -Wextra -Wpedantic -Wshadow -Wnon-virtual-dtor -Woverloaded-virtual)
@@ -51,6 +55,31 @@ function(kestrel_floor target scope)
     target_include_directories(${target} ${scope} "${root}")
 endfunction()
 
+# kestrel_precompiled_headers(<set> LINKS … HEADERS …): reads headers once, for the targets that kestrel_precompile() names.
+function(kestrel_precompiled_headers set)
+    cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "LINKS;HEADERS")
+    if(KESTREL_PRECOMPILED_HEADERS)
+        file(CONFIGURE OUTPUT "precompiled_${set}.cpp" CONTENT "")
+        add_library(kestrel_precompiled_${set} OBJECT "${CMAKE_CURRENT_BINARY_DIR}/precompiled_${set}.cpp")
+        set_target_properties(kestrel_precompiled_${set} PROPERTIES AUTOMOC OFF AUTOUIC OFF UNITY_BUILD OFF)
+        target_precompile_headers(kestrel_precompiled_${set} PRIVATE ${arg_HEADERS})
+        target_link_libraries(kestrel_precompiled_${set} PRIVATE ${arg_LINKS})
+    endif()
+endfunction()
+
+# kestrel_precompile(<target> <set>): the target must link what the set links.
+function(kestrel_precompile target set)
+    if(KESTREL_PRECOMPILED_HEADERS)
+        target_precompile_headers(${target} REUSE_FROM kestrel_precompiled_${set})
+    endif()
+endfunction()
+
+set(KESTREL_CORE_HEADERS <algorithm> <array> <chrono> <functional> <memory> <optional> <span> <vector>
+    <QByteArray> <QDateTime> <QDir> <QFile> <QHash> <QJsonArray> <QJsonDocument> <QJsonObject> <QList> <QLocale> <QMap> <QObject>
+    <QPointer> <QProcess> <QRegularExpression> <QSet> <QString> <QStringList> <QThread> <QUrl> <QVariant>)
+set(KESTREL_WIDGETS_HEADERS ${KESTREL_CORE_HEADERS}
+    <QAction> <QApplication> <QBoxLayout> <QImage> <QLabel> <QPainter> <QPushButton> <QWidget>)
+
 # kestrel_library(<name> SOURCES … [PUBLIC …] [PRIVATE …])
 # The static library of the present folder, and what of it others may include.
 function(kestrel_library name)
@@ -60,4 +89,9 @@ function(kestrel_library name)
     list(FILTER headers INCLUDE REGEX "\\.h$")
     kestrel_floor(${name} PUBLIC ${headers})
     target_link_libraries(${name} PUBLIC ${arg_PUBLIC} PRIVATE ${arg_PRIVATE})
+    if(name MATCHES "_ui$" AND NOT "Qt6::Gui" IN_LIST arg_PUBLIC)
+        kestrel_precompile(${name} widgets)
+    else()
+        kestrel_precompile(${name} core)
+    endif()
 endfunction()

@@ -11,10 +11,12 @@
 
 namespace kestrel {
 
-JobQueue::JobQueue(JobStore *store, QObject *parent, DiskSpaceFunction diskSpace)
+JobQueue::JobQueue(JobStore *store, QObject *parent, DiskSpaceFunction diskSpace,
+                   std::chrono::milliseconds blockedInterval)
     : QObject(parent),
       m_store(store),
-      m_diskSpace(std::move(diskSpace))
+      m_diskSpace(std::move(diskSpace)),
+      m_blockedInterval(blockedInterval)
 {
     m_lanes[size_t(Lane::Encode)].limit = std::max(1, QThread::idealThreadCount() / 4);
     m_lanes[size_t(Lane::Net)].limit = 3;

@@ -23,8 +23,10 @@ class JobStore;
 class JobQueue : public QObject {
     Q_OBJECT
 public:
-    /// `store` may be null: nothing is kept then. It outlives the queue.
-    explicit JobQueue(JobStore *store, QObject *parent = nullptr, DiskSpaceFunction diskSpace = diskSpaceOf);
+    /// `store` may be null: nothing is kept then. It outlives the queue. What waits for space or a drive is looked at
+    /// again after `blockedInterval`.
+    explicit JobQueue(JobStore *store, QObject *parent = nullptr, DiskSpaceFunction diskSpace = diskSpaceOf,
+                      std::chrono::milliseconds blockedInterval = std::chrono::seconds(10));
     /// Ends what runs, which will be Interrupted.
     ~JobQueue() override;
 
@@ -133,6 +135,7 @@ private:
 
     JobStore *m_store;
     DiskSpaceFunction m_diskSpace;
+    std::chrono::milliseconds m_blockedInterval;
     std::unordered_map<JobId, Entry> m_entries;
     std::map<QString, Module> m_modules;
     std::array<LaneUse, laneCount> m_lanes;

@@ -6,8 +6,6 @@
 
 #include <algorithm>
 
-using namespace std::chrono_literals;
-
 namespace kestrel {
 
 using tarnwell::operator""_key;
@@ -15,8 +13,7 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr qint64 spaceReserve = 200'000'000;  ///< bytes that are left free beside the output
-constexpr auto blockedInterval = 10s;
-constexpr int maximumBlocked = 64;  ///< looked at in one lane, past those that wait for space
+constexpr int maximumBlocked = 64;            ///< looked at in one lane, past those that wait for space
 
 qint64 bytesStillNeeded(qint64 expectedBytes, const JobProgress &progress)
 {
@@ -153,7 +150,7 @@ void JobQueue::block(Entry &entry, const tarnwell::Sentence &reason)
 {
     if (!m_isToLookAgain) {
         m_isToLookAgain = true;
-        later(blockedInterval, [this] {
+        later(m_blockedInterval, [this] {
             m_isToLookAgain = false;
             schedule();
         });

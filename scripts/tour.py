@@ -86,9 +86,7 @@ class Walk:
         wait_for(lambda: value_of(bar) > 0.2 * bar.get_maximum_value(), 'the progress to move')
 
     def show_options(self):
-        """By the last of the buttons in the converter's header."""
-        self.desktop.click(max((button for button in self.app.find_all('push button') if extents(button)[1] < 400),
-                               key=extents))
+        self.desktop.click(self.app.find('check box'))
         self.desktop.move(0, 0)
 
     def edit_film(self):

@@ -25,9 +25,7 @@ struct RecordRequest {
     bool onlyRecovers = false;
 };
 
-using Request = RecordRequest;
-
-bool readArea(const QString &text, Request &request)
+bool readArea(const QString &text, RecordRequest &request)
 {
     const QStringList parts = text.split(u',');
     int x = 0, y = 0, width = 0, height = 0;
@@ -40,7 +38,7 @@ bool readArea(const QString &text, Request &request)
 }
 
 /// Decimal or, as X11's tools print it, "0x1a00003".
-bool readWindow(const QString &text, Request &request)
+bool readWindow(const QString &text, RecordRequest &request)
 {
     bool isNumber = false;
     request.plan.what = RecordPlan::What::Window;
@@ -48,13 +46,13 @@ bool readWindow(const QString &text, Request &request)
     return isNumber && request.plan.window != 0;
 }
 
-constexpr Option<Request> options[] = {
+constexpr Option<RecordRequest> recordOptions[] = {
     {"seconds", "N", "stop by itself after so many",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          return readTime(value, request.plan.seconds) && request.plan.seconds > 0;
      }},
     {"screen", "NAME", "a monitor (the first one)",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          request.plan.what = RecordPlan::What::Screen;
          request.plan.screen = value;
          return !value.isEmpty();
@@ -62,44 +60,44 @@ constexpr Option<Request> options[] = {
     {"window", "ID", "a window by its number: 0x1a00003", &readWindow},
     {"area", "X,Y,W,H", "a part of the desktop, in pixels", &readArea},
     {"camera", "DEVICE", "a camera instead of the screen: /dev/video0",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          request.plan.what = RecordPlan::What::Camera;
          request.plan.camera = value;
          return !value.isEmpty();
      }},
     {"sound", "WHICH", "none, system (what the computer plays), microphone or both",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          return readChoice(value, {"none", "system", "microphone", "both"}, request.plan.sound);
      }},
     {"separate-tracks", nullptr, "with both: a track for each instead of a mix",
-     [](const QString &, Request &request) {
+     [](const QString &, RecordRequest &request) {
          request.plan.separateTracks = true;
          return true;
      }},
     {"rate", "N", "pictures a second (the settings')",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          return readNumber(value, RecordPlan::minimumRate, RecordPlan::maximumRate, request.plan.rate);
      }},
     {"quality", "WHICH", "small, good or best (the settings')",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          return readChoice(value, {"small", "good", "best"}, request.plan.quality);
      }},
     {"format", "WHICH", "mov or mp4 (mov)",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          return readChoice(value, {"mov", "mp4"}, request.plan.container);
      }},
     {"no-pointer", nullptr, "leave the pointer out of the picture",
-     [](const QString &, Request &request) {
+     [](const QString &, RecordRequest &request) {
          request.plan.pointer = false;
          return true;
      }},
     {"to", "FOLDER", "where the recording goes (the settings' folder)",
-     [](const QString &value, Request &request) {
+     [](const QString &value, RecordRequest &request) {
          request.folder = foundation::absoluteFileName(value);
          return QFileInfo(request.folder).isDir();
      }},
     {"recover", nullptr, "only finish recordings that were interrupted",
-     [](const QString &, Request &request) {
+     [](const QString &, RecordRequest &request) {
          request.onlyRecovers = true;
          return true;
      }},
@@ -133,9 +131,9 @@ ExitStatus runRecord(const Surroundings &surroundings, const QStringList &argume
 {
     CliSession session(ModuleSettingRecord);
     const JKestrelSettingDispatcher &settings = session.settings();
-    Request request{.plan = recordPlan(settings), .folder = {}};
+    RecordRequest request{.plan = recordPlan(settings), .folder = {}};
     bool isHelp = false;
-    const auto left = readArguments<Request>("record", options, QString(), arguments, request, isHelp);
+    const auto left = readArguments<RecordRequest>("record", recordOptions, QString(), arguments, request, isHelp);
     if (!left)
         return wrongUsage(left.reason());
     if (isHelp)

@@ -19,11 +19,6 @@ namespace kestrel {
 
 namespace {
 
-struct LinkDelegate final : tarnwell::WebLinkDelegate {
-    QString traceSuffix(const QString &tag) const override { return u"?from="_s + tag; }
-    QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
-};
-
 class JKestrelAboutControllerTest : public testing::Test {
 protected:
     template <class Widget>
@@ -88,8 +83,7 @@ TEST_F(JKestrelAboutControllerTest, home_button_begins_where_the_visit_label_end
 
 TEST_F(JKestrelAboutControllerTest, leads_to_the_home_page_and_to_the_support)
 {
-    LinkDelegate links;
-    const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(links);
+    const test::TagAsQuery links;
     test::RecordingMailProgram mail;
     m_controller.presentForWindow(nullptr);
     find<QPushButton>(u"homeBtn"_s)->click();

@@ -144,7 +144,6 @@ TEST_F(LaunchCheckTest, the_automatic_check_shows_one_window_at_most)
         {"unreachable", descriptorLink, {}, {}, 0, {}, {}, u"kestrel.plist"_s},
         {"newer", descriptorLink, u"9.0"_s, {}, 0, u"update"_s, {}, read},
         {"promotion", descriptorLink, u"1.0.0"_s, {}, 129, u"promotion"_s, today, read + " picture.png"_L1},
-        {"against the draw", descriptorLink, u"1.0.0"_s, {}, 130, {}, {}, read},
         {"shown today", descriptorLink, u"1.0.0"_s, shownOn(today), 0, {}, today, read},
         {"declined before, another day", descriptorLink, u"1.0.0"_s, declined, 5, {}, u"2025-12-31"_s, read},
     };

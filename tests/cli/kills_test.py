@@ -4,10 +4,21 @@ left, and nothing is done without its file."""
 import json
 import os
 import random
+import resource
 import sys
 import time
 
 from harness import Cli, make_clip
+
+
+def work_of(process):
+    """Seconds of processor time of a process and all below it; none where it has ended."""
+    try:
+        with open(f'/proc/{process}/stat', encoding='utf-8') as stat, open(f'/proc/{process}/task/{process}/children', encoding='utf-8') as children:
+            ticks = sum(map(int, stat.read().rpartition(')')[2].split()[11:15]))
+            return ticks / os.sysconf('SC_CLK_TCK') + sum(work_of(child) for child in children.read().split())
+    except OSError:
+        return 0
 
 
 def main():
@@ -16,13 +27,16 @@ def main():
     out = cli.folder('out')
     clip = make_clip(cli.path('film.mkv'), 8)
     moments, faults = {}, []
-    started = time.monotonic()
+    before = resource.getrusage(resource.RUSAGE_CHILDREN)
     cli.results('convert', '--no-copy', '--to', out, clip)
-    longest = (time.monotonic() - started) * 1.1
+    after = resource.getrusage(resource.RUSAGE_CHILDREN)
+    work = after.ru_utime + after.ru_stime - before.ru_utime - before.ru_stime
     known = 1
     for attempt in range(times):
         process = cli.start('--json', 'convert', '--no-copy', '--to', out, clip)
-        time.sleep(draw.uniform(0, longest))
+        moment = draw.uniform(0, work * 1.1)
+        while process.poll() is None and work_of(process.pid) < moment:
+            time.sleep(0.001)
         process.kill()
         output, _ = process.communicate()
         # Whatever was told of a job, it was stored before.

@@ -1,10 +1,10 @@
-"""Starts and ends: what is stored, and one program a user."""
+"""Starts and ends: the flag of a run, and one program a user."""
 import os
 import signal
 
 from accessible import wait_for
 from harness import ProgramTest, main
-from material import copy_bundle, unarchived
+from material import copy_bundle
 
 ENDED_BADLY = 'KestrelNotSafeTerminate'
 
@@ -31,11 +31,6 @@ class LifecycleTest(ProgramTest):
                 end(app)
                 self.assertEqual(app.wait_for_end(), 0, app.output())
                 self.assertIs(self.stored(ENDED_BADLY), False)
-                settings = unarchived(self.stored('setting'))
-                self.assertEqual({key: value.get('class') for key, value in settings.items()},
-                                 {'video': 'JVideoSetting', 'dvd': 'JDVDSetting', 'downloader': 'JDownloaderSetting',
-                                  'recorder': 'JRecorderSetting', 'vars': None})
-                self.assertEqual(settings['vars'], {'openFolder': True, 'shutdown': False, 'notify': True})
 
     def test_second_start_raises_the_first(self):
         first = self.launch()

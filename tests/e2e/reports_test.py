@@ -48,6 +48,7 @@ class ReportsTest(ProgramTest):
         """Starts anew, where the question comes over the first window."""
         app = self.desktop.launch(self.bundle)
         app.wait_for_text(QUESTION)
+        wait_for(lambda: len(app.windows()) == 2, 'the question to be mapped: its button has a place before')
         self.click(app, 'push button', button)
         wait_for(lambda: not any(text == QUESTION for text in app.texts()), 'the question to close')
         return app

@@ -1,5 +1,4 @@
-"""The update check by itself and on demand, and the promotion: against a server of the test's own."""
-import datetime
+"""The update check by itself: against a server of the test's own."""
 import json
 import plistlib
 import re
@@ -15,15 +14,8 @@ from servers import HOSTILE, Server
 SITE = 'https://www.example.org/'
 NEWER = {'LastestVersion': '9.0', 'DownloadURLReg': SITE + 'get',
          'UpdateLog': [{'content': 'Converts <b>faster</b>.', 'color': '0074CC'}, {'content': 'Mends the rest.'}]}
-NEWS = {'LastestVersion': '0.9', 'DownloadURLReg': SITE + 'get', 'NotificationTitle': 'Spring has come',
-        'NotificationContent': 'A new guide to films from the garden.', 'NotificationURL': SITE + 'news?from=kestrel'}
 PROMOTION = {'title': 'All your films', 'details': ['<b>One</b> place', ' for all.'], 'button': 'Take a Look',
              'label': 'No, Thanks', 'url': SITE + 'offer', 'rate': '100', 'next_rate': 100, 'max_count': 1}
-DAY, RATE, DECLINES = '_AdvertisementDateString', '_AdvertisementRate', '_AdvertisementRefuse'
-
-
-def today():
-    return datetime.datetime.now(datetime.timezone.utc).strftime('%Y-%m-%d')
 
 
 class UpdateTest(ProgramTest):
@@ -46,18 +38,6 @@ class UpdateTest(ProgramTest):
         app.wait_for_text(text)
         return app
 
-    def start_quietly(self):
-        """Starts the program, which shows its home screen and nothing else once it has asked the server."""
-        self.server.requests.clear()
-        app = self.launch()
-        wait_for(lambda: self.logged(app, 'Update check:'), 'the automatic check')
-        self.assertEqual(len(app.windows()), 1)
-        return app
-
-    def logged(self, app, text):
-        with open(self.desktop.log_path(self.bundle)) as log:
-            return text in log.read()
-
     def wait_until_closed(self, app):
         wait_for(lambda: len(app.windows()) == 1, 'the window to close')
 
@@ -78,27 +58,8 @@ class UpdateTest(ProgramTest):
         self.wait_until_closed(app)
         self.assertTrue(self.opened().startswith(SITE + 'get?'))
         self.assertEqual(app.end(), 0)
-        self.assertNotIn(DAY, self.defaults())
+        self.assertNotIn('_AdvertisementDateString', self.defaults())
         self.assertEqual(self.server.requests, ['/kestrel.plist', '/configuration.json'] * 2)
-
-    def test_promotion(self):
-        def remembered():
-            return tuple(self.defaults().get(key) for key in (DAY, RATE, DECLINES))
-
-        def assert_remembered(*rest):
-            day, *others = remembered()
-            self.assertIn(day, (begun, today()))
-            self.assertEqual(others, list(rest))
-
-        begun = today()
-        self.publish(NEWS, PROMOTION)
-        app = self.start('All your films')
-        self.click(app, 'push button', 'No, Thanks')
-        self.wait_until_closed(app)
-        self.assertEqual(app.end(), 0)
-        assert_remembered(100, 1)
-        if begun == today():
-            self.assertEqual(self.start_quietly().end(), 0, 'once a day')
 
     def test_another_application_keeps_the_keyboard(self):
         self.publish(NEWER)

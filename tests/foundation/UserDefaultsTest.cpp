@@ -244,8 +244,8 @@ TEST_F(UserDefaultsTest, ACrashLeavesOneWholeValue)
 
 TEST_F(UserDefaultsTest, ASaveRemovesWhatKilledOnesLeft)
 {
-    const QStringList kept = {u"BackUp"_s, u"backup"_s};
-    for (const QString &suffix : kept + QStringList{u"saving-fGh2Ij"_s})
+    const QStringList left = {u"saving-fGh2Ij"_s, u"saving-aBcdEf"_s}, kept = {u"BackUp"_s, u"saving"_s};
+    for (const QString &suffix : left + kept)
         ASSERT_TRUE(QFile(m_path + u'.' + suffix).open(QIODevice::WriteOnly));
     UserDefaults defaults(m_path);
     defaults.setObject(1, u"key"_s);

@@ -168,12 +168,6 @@ class Titles(DiscCommand):
         pixels = zip(picture[0::3], picture[1::3], picture[2::3])
         self.assertGreater(sum(r > 200 and g > 200 and b < 90 for r, g, b in pixels), 100)
 
-    def test_two_clocks_become_one(self):
-        found = probe(self.keep_one("copy", "--way", "mkv", disc("steps.iso")))
-        self.assertAlmostEqual(length(found), 12.012, delta=0.2)
-        self.assertEqual(found["streams"][0]["display_aspect_ratio"], "16:9")
-        self.assertEqual(len(found["chapters"]), 4)
-
     def test_all_kinds_of_sound(self):
         found = probe(self.keep_one("copy", "--way", "mkv", disc("sound.iso")))
         self.assertEqual(tracks(found, "audio"), [("ac3", "eng"), ("pcm_s16le", "ita")])

@@ -8,9 +8,7 @@
 
 #include <QDir>
 #include <QProcess>
-#include <QRandomGenerator>
 #include <QTemporaryDir>
-#include <QThread>
 
 #include <sys/file.h>
 #include <sys/resource.h>
@@ -71,45 +69,6 @@ protected:
     QTemporaryDir folder;
     QString path = folder.filePath(u"jobs.sqlite"_s);
 };
-
-/// Kills a process that writes, `rounds` times, and looks whether all that it knew to be on the disk is there.
-class KilledWriterTest : public JobStoreTest {
-protected:
-    void killRepeatedly(int rounds);
-};
-
-void KilledWriterTest::killRepeatedly(int rounds)
-{
-    std::map<JobId, int> known;
-    for (int kill = 0; kill < rounds; ++kill) {
-        const auto process = helper({u"change"_s});
-        ASSERT_TRUE(process->waitForReadyRead(20'000));
-        // At a random moment of what it does, not of the clock: it is busy all the time.
-        const int lines = int(QRandomGenerator::global()->bounded(40));
-        QByteArray said;
-        while (said.count('\n') < lines && process->waitForReadyRead(20'000))
-            said += process->readAll();
-        QThread::usleep(QRandomGenerator::global()->bounded(3000));
-        process->kill();
-        process->waitForFinished();
-        said += process->readAll();
-        for (const QByteArray &line : said.first(said.lastIndexOf('\n') + 1).split('\n')) {
-            if (const QByteArrayList words = line.split(' '); words.size() == 2)
-                known[words[0].toLongLong()] = words[1].toInt();
-        }
-        const auto store = open();
-        ASSERT_TRUE(store);
-        const auto records = loaded(*store);
-        for (const auto &[id, round] : known) {
-            ASSERT_TRUE(records.contains(id)) << "kill " << kill;
-            const JobRecord &record = records.at(id);
-            ASSERT_GE(record.plan[u"round"_s].toInt(), round);
-            ASSERT_TRUE(record.state == JobState::Interrupted || record.state == JobState::Cancelled);
-        }
-    }
-    EXPECT_TRUE(asideFiles().isEmpty());
-    EXPECT_GE(known.size(), size_t(rounds / 2));
-}
 
 }  // namespace
 
@@ -366,11 +325,6 @@ TEST_F(JobStoreTest, WithoutItsLibraryOrAFolderThereIsNone)
     EXPECT_FALSE(openJobStore(path, folder.filePath(u"none.dylib"_s)));
     write("a file");
     EXPECT_FALSE(openJobStore(path + u"/below/jobs.sqlite"_s, QStringLiteral(KESTREL_JOB_STORE_LIBRARY)));
-}
-
-TEST_F(KilledWriterTest, NothingIsLostIn30Kills)
-{
-    killRepeatedly(30);
 }
 
 }  // namespace kestrel

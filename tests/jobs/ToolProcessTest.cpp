@@ -271,20 +271,22 @@ TEST(ToolProcessTest, ToolsRunWithoutAGuardian)
     EXPECT_EQ(program.readAllStandardOutput(), "here\n");
 }
 
-TEST(ToolProcessTest, ACancelIsToldWithin100Ms)
+TEST(ToolProcessTest, ACancelIsToldAtOnce)
 {
-    qint64 longest = 0;
+    qint64 starting = 0, cancelling = 0;
     for (int run = 0; run < 10; ++run) {
-        ToolRun running(shell(u"echo $$; while :; do :; done"_s));
-        running.processes(1);
         QElapsedTimer timer;
+        timer.start();
+        ToolRun running(shell(u"trap '' INT TERM; echo $$; while :; do :; done"_s));
+        running.processes(1);
+        starting += timer.nsecsElapsed();
         timer.start();
         running.tool->cancel();
         running.tool->cancel();
         EXPECT_EQ(running.end(), Cause::Cancelled);
-        longest = std::max(longest, timer.elapsed());
+        cancelling += timer.nsecsElapsed();
     }
-    EXPECT_LE(longest, 100);
+    EXPECT_LE(cancelling, 4 * starting) << "a cancel is about as much work as a start";
     ToolRun unstarted({.program = u"/nowhere"_s});
     unstarted.tool->cancel();
     EXPECT_EQ(unstarted.end(), Cause::Cancelled);

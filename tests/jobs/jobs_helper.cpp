@@ -27,23 +27,6 @@ void say(const QString &text)
     QTextStream(stdout) << text << Qt::endl;
 }
 
-/// Changes jobs until it is killed, and says which of them are on the disk: "id round" for each flush.
-int change(JobStore &store)
-{
-    QList<JobRecord> records;
-    for (int round = 0;; ++round) {
-        if (round % 4 == 0)
-            records.append(record(store, JobState::Running));
-        JobRecord &next = records[round % records.size()];
-        next.plan[u"round"_s] = round;
-        next.state = round % 3 == 0 ? JobState::Running : JobState::Cancelled;
-        next.outcome.state = JobState::Cancelled;
-        store.put(next, double(next.id));
-        if (store.flush())
-            say(u"%1 %2"_s.arg(next.id).arg(round));
-    }
-}
-
 /// <count>: adds so many and says their ids.
 int add(JobStore &store, int count)
 {
@@ -77,7 +60,5 @@ int main(int argc, char **argv)
     if (!store)
         return 2;
     const QString task = arguments.value(1);
-    if (task == "change"_L1)
-        return change(*store);
     return task == "add"_L1 ? add(*store, arguments.value(4).toInt()) : hold(*store);
 }

@@ -14,7 +14,3 @@ target_compile_definitions(kestrel_jobs_tests PRIVATE
     KESTREL_TOOLS_HELPER="$<TARGET_FILE:kestrel_tools_helper>"
     KESTREL_TOOL_GUARDIAN="$<TARGET_FILE:toolGuardian>"
     KESTREL_JOB_STORE_LIBRARY="$<TARGET_FILE:JobStore>")
-
-add_test(NAME jobs.NothingIsLostIn300Kills COMMAND kestrel_jobs_tests
-    --gtest_also_run_disabled_tests --gtest_filter=KilledWriterTest.DISABLED_NothingIsLostIn300Kills)
-set_tests_properties(jobs.NothingIsLostIn300Kills PROPERTIES LABELS long TIMEOUT 900)

@@ -1,3 +1,5 @@
+#include "MediaSamples.h"
+
 #include "media/HardwareInformation_linux.h"
 #include "media/TranscoderCodecs.h"
 #include "media/ui/NXHardwareInfoController.h"
@@ -40,22 +42,18 @@ TEST(HardwareInformation, ProcessorTables)
     }
 }
 
-void writeFile(const QString &path, const QByteArray &content)
-{
-    QDir().mkpath(QFileInfo(path).path());
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(content);
-}
-
 TEST(HardwareInformation, GraphicsDevices)
 {
     const QTemporaryDir folder;
     const QString root = folder.path();
-    writeFile(root + u"/card10/device/vendor"_s, "0x8086\n");
-    writeFile(root + u"/card10/device/device"_s, "0x9a49\n");
-    writeFile(root + u"/card3/device/vendor"_s, "nonsense");
-    writeFile(root + u"/card0-HDMI-A-1/status"_s, "connected");
+    const auto write = [](const QString &path, const QByteArray &content) {
+        QDir().mkpath(QFileInfo(path).path());
+        test::writeBytes(path, content);
+    };
+    write(root + u"/card10/device/vendor"_s, "0x8086\n");
+    write(root + u"/card10/device/device"_s, "0x9a49\n");
+    write(root + u"/card3/device/vendor"_s, "nonsense");
+    write(root + u"/card0-HDMI-A-1/status"_s, "connected");
     ASSERT_TRUE(QDir(root).mkpath(u"i915"_s) && QFile::link(root + u"/i915"_s, root + u"/card10/device/driver"_s));
     EXPECT_EQ(graphicsDevicesIn(root), (QStringList{u"card3"_s, u"Intel 8086:9a49 (i915)"_s}));
 }
@@ -65,35 +63,6 @@ TEST(HardwareInformation, CodecTables)
     EXPECT_EQ(parseCodecTable(encoderTable),
               (CodecNames{{u"libx264"_s, u"aac"_s, u"hevc_vaapi"_s}, {u"libx264"_s}, {u"hevc_vaapi"_s}}));
     EXPECT_EQ(parseCodecTable(" V....D libx264 (codec h264)"), std::nullopt) << "no dashes";
-}
-
-/// A program that does what `script` says.
-QString makeTool(const QTemporaryDir &folder, const QByteArray &script)
-{
-    const QString path = folder.filePath(u"tool"_s);
-    writeFile(path, "#!/bin/sh\n" + script);
-    QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    return path;
-}
-
-QString failureOf(const QString &path)
-{
-    CodecQuery query(path, std::chrono::milliseconds(300));
-    std::optional<QString> failure;
-    QObject::connect(&query, &CodecQuery::answered, &query,
-                     [&failure](const TranscoderCodecs &codecs) { failure = codecs.failure.english(); });
-    query.start();
-    EXPECT_FALSE(failure) << "later than it returns";
-    EXPECT_TRUE(test::waitUntil([&failure] { return failure.has_value(); }));
-    return failure.value_or(QString());
-}
-
-TEST(HardwareInformation, TranscodersThatDoNotAnswer)
-{
-    const QTemporaryDir folder;
-    EXPECT_TRUE(failureOf(folder.path()).contains(u"is missing"_s));
-    for (const char *script : {"exec sleep 60", "exec yes", "exit 3", "echo '------' >&2"})
-        EXPECT_EQ(failureOf(makeTool(folder, script)), u"The transcoder did not answer as it should."_s) << script;
 }
 
 TEST(HardwareInformation, WindowLooksAnewEachTime)
@@ -114,7 +83,8 @@ TEST(HardwareInformation, WindowLooksAnewEachTime)
         controller.onCloseAction();
         return texts;
     };
-    EXPECT_TRUE(shownFor(makeTool(folder, "cat <<END\n" + encoderTable + "END\n")).contains(u"encoders\nlibx264\n"_s));
+    EXPECT_TRUE(shownFor(test::makeScript(folder.filePath(u"tool"_s), "cat <<END\n" + encoderTable + "END\n"))
+                    .contains(u"encoders\nlibx264\n"_s));
     const QString second = shownFor(folder.filePath(u"none"_s));
     EXPECT_TRUE(second.contains(u"The transcoder is missing."_s) && !second.contains(u"encoders"_s));
 }

@@ -9,7 +9,6 @@ namespace kestrel {
 namespace {
 
 using Kind = MediaTrack::Kind;
-using FieldOrder = MediaTrack::FieldOrder;
 
 MediaInformation informationOf(const QByteArray &streams,
                                const QByteArray &format = R"("format_name": "matroska,webm")")
@@ -89,7 +88,7 @@ TEST(MediaReportTest, PicturesStandUpright)
     }
 }
 
-TEST(MediaReportTest, RatesAndFields)
+TEST(MediaReportTest, RatesAndDepths)
 {
     const struct {
         const char *average, *base;
@@ -109,14 +108,6 @@ TEST(MediaReportTest, RatesAndFields)
         EXPECT_NEAR(track.frameRate, rate, 0.001) << average << ' ' << base;
         EXPECT_EQ(track.isVariableRate, isVariable) << average << ' ' << base;
     }
-    const std::pair<const char *, FieldOrder> orders[] = {{"tt", FieldOrder::TopFirst},
-                                                          {"tb", FieldOrder::TopFirst},
-                                                          {"bb", FieldOrder::BottomFirst},
-                                                          {"bt", FieldOrder::BottomFirst},
-                                                          {"progressive", FieldOrder::Progressive},
-                                                          {"unknown", FieldOrder::Unknown}};
-    for (const auto &[word, order] : orders)
-        EXPECT_EQ(videoOf(QByteArray(R"("field_order": ")") + word + '"').fieldOrder, order) << word;
     const std::pair<const char *, int> depths[] = {{"yuv420p", 8},  {"yuv422p12be", 12}, {"p010le", 10},
                                                    {"rgb48le", 16}, {"y210le", 10},      {"rgb565le", 8},
                                                    {"nv12", 8},     {"gray16le", 16}};

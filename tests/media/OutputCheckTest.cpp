@@ -55,11 +55,9 @@ TEST(OutputCheckTest, WhatIsWrongWithAnOutput)
         Expected expected;
     } rows[] = {
         {"good", [](Case &) {}, Good},
-        {"larger than told", [](Case &c) { c.found.bytes = 1001; }, Damage},
         {"smaller than told", [](Case &c) { c.found.bytes = 999; }, Damage},
         {"size not told", [](Case &c) { c.told.bytes.reset(); }, Good},
         {"a picture too few", [](Case &c) { c.found.packets[0] = 1499; }, Damage},
-        {"a picture too many", [](Case &c) { c.found.packets[0] = 1501; }, Damage},
         {"sound lost", [](Case &c) { c.found.packets[1] = 2000; }, Damage},
         {"packets not told", [](Case &c) { c.told.tracks.clear(), c.found.packets[0] = 3; }, Good},
         {"uncompressed sound",
@@ -105,7 +103,6 @@ TEST(OutputCheckTest, WhatIsWrongWithAnOutput)
         {"nearly as long", [](Case &c) { c.found.information.duration = 59.1; }, Good},
         {"an hour less 30 s", [](Case &c) { c.expected.seconds = 3600, c.found.information.duration = 3570; }, Good},
         {"an hour less 40 s", [](Case &c) { c.expected.seconds = 3600, c.found.information.duration = 3560; }, Short},
-        {"double speed", [](Case &c) { c.found.information.duration = 30; }, Short},
         {"half speed", [](Case &c) { c.found.information.duration = 120; }, Long},
         {"cut at a keyframe",
          [](Case &c) {

@@ -47,31 +47,6 @@ TEST(PictureScanTest, BlackBarsOfTheLastPicture)
     EXPECT_EQ(scan.picture(), QRect(0, 24, 320, 240));
 }
 
-TEST(PictureScanTest, WhatIsLookedAt)
-{
-    const struct {
-        const char *codec;
-        int height;
-        double rate;
-        FieldOrder flag;
-        bool isWorthwhile;
-    } rows[] = {{"mpeg2video", 576, 25, FieldOrder::Unknown, true},
-                {"h264", 1080, 29.97, FieldOrder::Unknown, true},
-                {"mpeg2video", 576, 25, FieldOrder::TopFirst, false},
-                {"h264", 1080, 59.94, FieldOrder::Unknown, false},
-                {"mpeg2video", 576, 25, FieldOrder::Progressive, false},
-                {"h264", 720, 25, FieldOrder::Unknown, false},
-                {"vp9", 1080, 25, FieldOrder::Unknown, false}};
-    for (const auto &[codec, height, rate, flag, isWorthwhile] : rows) {
-        MediaTrack track;
-        track.codec = QString::fromLatin1(codec);
-        track.height = height;
-        track.frameRate = rate;
-        track.fieldOrder = flag;
-        EXPECT_EQ(PictureScan::isWorthwhile(track), isWorthwhile) << codec << ' ' << height << ' ' << rate;
-    }
-}
-
 }  // namespace
 
 }  // namespace kestrel

@@ -1,4 +1,3 @@
-#include "media/FilterText.h"
 #include "media/FramePreview.h"
 #include "media/TranscodeCommand.h"
 
@@ -97,16 +96,6 @@ std::string lineFor(const Plan &plan, const MediaInformation &source = film(), c
 }
 
 }  // namespace
-
-TEST(TranscodeCommand, BeginsAndEndsAsEveryRun)
-{
-    EXPECT_EQ(lineFor(planFor(u"mp4-h264"_s)),
-              "-hide_banner -nostdin -nostats -loglevel repeat+level+verbose -progress pipe:1 -stats_period 0.2 -y "
-              "-protocol_whitelist file -probesize 50M -analyzeduration 100M -i file:/films/a.mp4 -map 0:0 -c:v:0 copy "
-              "-map 0:1 -c:a:0 copy "
-              "-map_metadata 0 -map_chapters -1 -disposition:a:0 0 -metadata:s:a:0 language=eng -dn "
-              "-max_muxing_queue_size 4096 -movflags +faststart -strict experimental -f mp4 file:/out/.part");
-}
 
 TEST(TranscodeCommand, KeepsATrackOnlyWhereNothingIsLostOrAsked)
 {
@@ -218,9 +207,7 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
         t.lightLevel = u"1000,400"_s;
     });
     const Case cases[] = {
-        {"usual quality", u"mp4-h264"_s, video(), encoding(), "-c:v:0 libx264 -preset medium -crf 21 "},
-        {"best quality", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.best = true; }),
-         "-preset slow -crf 18 "},
+        {"nothing but local files", u"mp4-h264"_s, video(), {}, "-protocol_whitelist file -"},
         {"faster", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.speed = 2; }), "-preset veryfast"},
         {"a preset's own quality at its best", u"mp4-web-1080p"_s, video(),
          encoding([](Plan &plan) { plan.best = true; }), "-crf 19 "},
@@ -229,7 +216,6 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
              plan.quality = 99;
          }),
          "-crf 63 -b:v 0"},
-        {"no constant rate", u"mp4-h264"_s, video(), encoding(), "-fps_mode:v:0 vfr"},
         {"constant where it must be", u"avi-mpeg4"_s,
          changed(video(),
                  [](auto &t) {
@@ -237,26 +223,12 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
                      t.frameRate = 23;
                  }),
          encoding(), "fps=24000/1001"},
-        {"HDR is kept whole", u"mkv-h265"_s, hdr, encoding(),
-         "hdr10=1:repeat-headers=1:master-display=G(13250,34500)B(7500,3000)R(34000,16000)WP(15635,16450)L(10000000,1):"
-         "max-cll=1000,400",
-         "tonemap"},
         {"HDR in units of another encoder", u"mkv-av1"_s, hdr, encoding(),
          "mastering-display=G(0.2650,0.6900)B(0.1500,0.0600)R(0.6800,0.3200)WP(0.3127,0.3290)L(1000.0000,0.0001):"
          "content-light=1000,400"},
-        {"HDR becomes standard", u"mp4-h264"_s, hdr, encoding(),
-         "setparams=color_primaries=bt2020:color_trc=smpte2084:colorspace=bt2020nc,zscale=t=linear:npl=100,"},
-        {"fields",
-         u"mp4-h264"_s,
-         changed(video(), [](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::TopFirst; }),
-         {},
-         "bwdif=mode=send_frame:deint=interlaced"},
         {"fields that stay", u"mpg-mpeg2"_s,
          changed(video(), [](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::BottomFirst; }),
          [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::Off; }, "-flags:v +ilme+ildct -top 0", "bwdif"},
-        {"film", u"mp4-h264"_s, video(), [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::Film; },
-         "fps=30000/1001,fieldmatch,decimate"},
-        {"never larger", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.maximumWidth = 4000; }), "", "scale="},
         {"smaller, both sides alike", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.maximumHeight = 500; }),
          "scale=888:500,setsar=1"},
         {"turned on its side by the camera",
@@ -271,22 +243,6 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
          "crop=540:960:540:480"},
         {"full range", u"mp4-h264"_s, changed(video(), [](auto &t) { t.colorRange = u"pc"_s; }), encoding(),
          "out_range=tv"},
-        {"4:2:2 stays", u"mkv-h264"_s,
-         changed(video(),
-                 [](auto &t) {
-                     t.pixelFormat = u"yuv422p10le"_s;
-                     t.bitDepth = 10;
-                 }),
-         encoding(), "format=yuv422p10le"},
-        {"4:2:2 where plain is promised", u"mp4-h264"_s,
-         changed(video(),
-                 [](auto &t) {
-                     t.pixelFormat = u"yuv422p10le"_s;
-                     t.bitDepth = 10;
-                 }),
-         encoding(), "format=yuv420p "},
-        {"twice as fast", u"mp4-h264"_s, video(), [](Plan &plan) { plan.speedFactor = 4; },
-         "-filter:a:0 atempo=2,atempo=2"},
         {"fading out at the new end", u"mp4-h264"_s, video(),
          [](Plan &plan) {
              plan.speedFactor = 2;
@@ -295,28 +251,13 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
          "fade=t=out:st=27:d=3"},
         {"louder without clipping", u"mp4-h264"_s, video(), [](Plan &plan) { plan.volume = 6; },
          "volume=6dB,alimiter=limit=0.97"},
-        {"evened out", u"mp4-h264"_s, video(), [](Plan &plan) { plan.normalizes = true; },
-         "-filter:a:0 loudnorm=I=-16:TP=-1.5:LRA=11 -c:a:0 aac -b:a:0 160000 -ar:a:0 48000"},
         {"H.265 under the name that players ask for", u"mp4-h265"_s, video(), {}, "-tag:v:0 hvc1"},
         {"threads", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.threads = 3; }), "-threads 3 "},
-        {"a cut", u"mp4-h264"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 4.17, .end = 100}}; },
-         "-ss 4.17 -to 60 -i file:/films/a.mp4"},
-        {"several pieces", u"mp4-h264"_s, video(),
+        {"burnt text, the second of the subtitles", u"mp4-h264"_s, video(),
          [](Plan &plan) {
-             plan.pieces = {{.start = 5, .end = 6}, {.start = 1, .end = 2}};
-         },
-         "[piece0][piece1]concat=n=2:v=1:a=0,format=yuv420p[picture]"},
-        {"burnt text keeps its own time", u"mp4-h264"_s, video(),
-         [](Plan &plan) {
-             plan.pieces = {{.start = 5, .end = 6}};
              plan.subtitles = {{3, Plan::SubtitleUse::Burn}};
          },
-         "setpts=PTS+5/TB,subtitles=filename=/films/a.mp4:si=1,setpts=PTS-5/TB"},
-        {"burnt pictures", u"mp4-h264"_s, video(),
-         [](Plan &plan) {
-             plan.subtitles = {{2, Plan::SubtitleUse::Burn}};
-         },
-         "[bare0][0:2]overlay=x=(W-w)/2:y=H-h:eof_action=pass:format=auto"},
+         "subtitles=filename=/films/a.mp4:si=1"},
         {"one palette", u"gif"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 0, .end = 2}}; },
          "stats_mode=diff"},
         {"a palette each where all would fill the memory", u"gif"_s, video(), {}, "stats_mode=single"},
@@ -346,40 +287,12 @@ TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
                                               t.fileName = u"a.ttf"_s;
                                               t.mimeType = u"font/ttf"_s;
                                           })});
-    const auto mkv = stepsFor(planFor(u"mkv-h264"_s), source);
-    ASSERT_TRUE(mkv);
-    EXPECT_TRUE(mkv->leftOut.isEmpty());
-    EXPECT_EQ(mkv->expected.tracks.size(), 6);
-    EXPECT_NE(lineOf(*mkv).find("-filter:a:1 aformat=channel_layouts=5.1 -c:a:1 aac -b:a:1 384000"), std::string::npos)
-        << lineOf(*mkv);
-    EXPECT_NE(lineOf(*mkv).find("-disposition:a:0 0 -metadata:s:a:0 language=ger -disposition:a:1 default"),
-              std::string::npos);
-    EXPECT_NE(lineOf(*mkv).find("-map 0:3 -c:s:0 copy"), std::string::npos);
-
-    const auto mp4 = stepsFor(planFor(u"mp4-h264"_s), source);
-    ASSERT_TRUE(mp4);
-    EXPECT_NE(lineOf(*mp4).find("-map 0:3 -c:s:0 mov_text"), std::string::npos);
-    ASSERT_EQ(mp4->leftOut.size(), 2);
-    EXPECT_TRUE(mp4->leftOut.at(0).english().contains(u"French"_s)) << mp4->leftOut.at(0).english().toStdString();
-    EXPECT_TRUE(mp4->leftOut.at(1).english().contains(u"a.ttf"_s));
-
     const auto mp3 = stepsFor(planFor(u"mp3"_s), source);
     ASSERT_TRUE(mp3);
+    EXPECT_EQ(mp3->work, TranscodeSteps::Work::Sound);
     EXPECT_NE(lineOf(*mp3).find("-map 0:2 "), std::string::npos) << "the default one is kept: " << lineOf(*mp3);
     EXPECT_EQ(lineOf(*mp3).find("-map 0:1 "), std::string::npos);
     EXPECT_TRUE(mp3->leftOut.value(0).english().contains(u"German"_s));
-}
-
-TEST(TranscodeCommand, CoversGoTheContainersOwnWay)
-{
-    const MediaInformation song = film({sound(0, {}, u"flac"_s), track(1, Kind::Cover, u"mjpeg"_s)});
-    const auto mp3 = stepsFor(planFor(u"mp3"_s), song);
-    EXPECT_NE(lineOf(*mp3).find("-map 0:1 -c:v:0 copy -disposition:v:0 attached_pic"), std::string::npos);
-    EXPECT_EQ(mp3->work, TranscodeSteps::Work::Sound);
-    const auto mka = stepsFor(planFor(u"mka-opus"_s), song);
-    ASSERT_EQ(mka->runs.size(), 2);
-    EXPECT_NE(lineOf(*mka, 0).find("-frames:v 1 -f image2pipe file:/work/cover.jpg"), std::string::npos);
-    EXPECT_NE(lineOf(*mka).find("-attach file:/work/cover.jpg -metadata:s:t:0 mimetype=image/jpeg"), std::string::npos);
 }
 
 TEST(TranscodeCommand, AimsBelowTheSizeInTwoPasses)
@@ -391,16 +304,10 @@ TEST(TranscodeCommand, AimsBelowTheSizeInTwoPasses)
     }));
     ASSERT_TRUE(steps);
     ASSERT_EQ(steps->runs.size(), 2);
-    EXPECT_NE(lineOf(*steps, 0).find("-pass 1 -passlogfile /work/passes -fps_mode:v:0 vfr -an -sn -dn -f null -"),
-              std::string::npos)
-        << lineOf(*steps, 0);
-    EXPECT_NE(lineOf(*steps).find("-pass 2"), std::string::npos);
-    EXPECT_DOUBLE_EQ(steps->runs[0].share + steps->runs[1].share, 1);
     const qsizetype place = steps->runs[1].arguments.indexOf(u"-b:v"_s);
     const double bits = steps->runs[1].arguments.at(place + 1).toDouble() + 160'000;
     EXPECT_LT(bits * 60 / 8, 25e6 * 0.97);
     EXPECT_GT(bits * 60 / 8, 25e6 * 0.95);
-    EXPECT_EQ(steps->expected.maximumBytes, 25'000'000);
 
     const auto smaller = [](qint64 bytes, const QString &preset = u"mp4-h264"_s) {
         return lineFor(planFor(preset, [&](Plan &plan) {
@@ -424,9 +331,6 @@ TEST(TranscodeCommand, JoinsUnequalFilesByEncodingThem)
     EXPECT_EQ(alike->work, TranscodeSteps::Work::Copy);
     EXPECT_TRUE(alike->expected.decodesAll);
     EXPECT_EQ(alike->expected.seconds, 120);
-    EXPECT_EQ(alike->files.value(u"/work/list.txt"_s),
-              QByteArray("ffconcat version 1.0\nfile 'file:/films/a.mp4'\nfile 'file:/films/it'\\''s.mp4'\n"));
-    EXPECT_TRUE(alike->files.value(u"/work/chapters.txt"_s).contains("START=60000\nEND=120000\ntitle=it's\n"));
 
     const std::function<void(MediaTrack &)> differences[] = {[](auto &t) { t.width = 1280; },
                                                              [](auto &t) { t.frameRate = 30; },
@@ -500,14 +404,6 @@ TEST(TranscodeCommand, TakesTheHardwareOnlyWhereItDoesTheSame)
     EXPECT_FALSE(stepsFor(withoutShortcuts(encoding), film(), machine)->takesShortcut);
     for (const auto &plan : {withoutShortcuts(encoding), planFor(u"mp4-h265"_s), planFor(u"webm-vp9"_s)})
         EXPECT_EQ(lineFor(plan, film(), machine).find("vaapi"), std::string::npos);
-}
-
-TEST(TranscodeCommand, AnyTextReachesAFilterWhole)
-{
-    EXPECT_EQ(filterValue(u"/a b/it's [1], x;y:z\\"_s), uR"(/a b/it\\\'s \[1\]\, x\;y\\:z\\\\)"_s);
-    EXPECT_EQ(rateText(29.97002997), u"30000/1001"_s);
-    EXPECT_EQ(rateText(25), u"25"_s);
-    EXPECT_EQ(rateText(12.5), u"12.5"_s);
 }
 
 TEST(TranscodeCommand, ATrialIsTenSecondsOfTheWhole)

@@ -1,4 +1,5 @@
-// Converts one file as a job and prints how it ended as a line of JSON:
+// Converts one file as a job and prints how it ended as a line of JSON, or prints the ids of the presets:
+// media_helper --presets
 // media_helper FFMPEG FFPROBE PRESET FOLDER [--safe] [--encode] SOURCE…
 #include "media/TranscodeJob.h"
 
@@ -38,6 +39,11 @@ int main(int argc, char **argv)
 {
     QCoreApplication application(argc, argv);
     QStringList words = QCoreApplication::arguments().mid(1);
+    if (words == QStringList(u"--presets"_s)) {
+        for (const Preset &preset : allPresets())
+            std::puts(preset.id.toUtf8().constData());
+        return 0;
+    }
     const Preset *preset = presetOfId(words.value(2));
     if (words.size() < 5 || !preset) {
         std::fputs("usage: media_helper FFMPEG FFPROBE PRESET FOLDER [OPTION…] SOURCE…\n", stderr);

@@ -160,7 +160,6 @@ class Samples:
 PQ = ['-c:v', 'libx265', '-preset', 'ultrafast', '-pix_fmt', 'yuv420p10le', '-color_primaries', 'bt2020', '-colorspace', 'bt2020nc', '-c:a', 'aac']
 MASTER = 'master-display=G(13250,34500)B(7500,3000)R(34000,16000)WP(15635,16450)L(10000000,1):max-cll=1000,400'
 LISTED = {
-    'second': dict(encoding=[*H264, '-c:a', 'aac', '-ac', '2'], seconds=1),
     'flat': dict(encoding=[*H264, '-g', '50', '-c:a', 'aac']),
     'still': dict(encoding=[*H264, '-color_primaries', 'bt709', '-color_trc', 'bt709', '-colorspace', 'bt709', '-c:a', 'aac']),
     'hdr10': dict(encoding=[*PQ, '-color_trc', 'smpte2084', '-x265-params', f'log-level=none:hdr10=1:repeat-headers=1:colorprim=bt2020:transfer=smpte2084:colormatrix=bt2020nc:{MASTER}'], seconds=2),
@@ -179,6 +178,6 @@ LISTED = {
     'animation': dict(encoding=['-pix_fmt', 'rgb8'], seconds=2, rate='10', sound=False),
     'other': dict(encoding=[*H264, '-c:a', 'aac', '-ac', '2'], size='480x360', rate='30', seconds=3),
 }
-EXTENSIONS = {'rotated': 'mov', 'flat': 'mp4', 'second': 'mp4', 'topfield': 'mpg', 'bottomfield': 'dv', 'telecine': 'mpg', 'film': 'mp4', 'cues': 'sup',
+EXTENSIONS = {'rotated': 'mov', 'flat': 'mp4', 'topfield': 'mpg', 'bottomfield': 'dv', 'telecine': 'mpg', 'film': 'mp4', 'cues': 'sup',
               'song': 'flac', 'mark': 'png', 'words': 'srt', 'xvid': 'avi', 'stream': 'ts', 'animation': 'gif', 'full': 'avi', 'other': 'mp4',
               'still': 'mp4', 'quadrants': 'mp4', 'long': 'mp4', 'grey': 'mp4', 'vfr': 'mp4', 'anamorphic': 'mp4'}

@@ -14,22 +14,16 @@ using namespace kestrel;
 
 namespace {
 
-QJsonArray sentencesJson(const QList<tarnwell::Sentence> &sentences)
-{
-    QJsonArray json;
-    for (const tarnwell::Sentence &sentence : sentences)
-        json.append(sentence.english());
-    return json;
-}
-
 QJsonObject stepsJson(const TranscodeSteps &steps)
 {
     constexpr const char *kinds[] = {"video", "cover", "audio", "subtitle", "attachment", "data"};
-    QJsonArray runs, tracks;
+    QJsonArray runs, tracks, leftOut;
     for (const TranscodeRun &run : steps.runs)
         runs.append(QJsonArray::fromStringList(run.arguments));
     for (const OutputExpectation::Track &track : steps.expected.tracks)
         tracks.append(QJsonArray{QString::fromLatin1(kinds[int(track.kind)]), track.codec});
+    for (const tarnwell::Sentence &sentence : steps.leftOut)
+        leftOut.append(sentence.english());
     QJsonObject files;
     for (auto file = steps.files.begin(); file != steps.files.end(); ++file)
         files.insert(file.key(), QString::fromUtf8(file.value()));
@@ -42,9 +36,7 @@ QJsonObject stepsJson(const TranscodeSteps &steps)
             {u"chapters"_s, steps.expected.chapters},
             {u"decodesAll"_s, steps.expected.decodesAll},
             {u"work"_s, int(steps.work)},
-            {u"expectedBytes"_s, steps.expectedBytes},
-            {u"leftOut"_s, sentencesJson(steps.leftOut)},
-            {u"notes"_s, sentencesJson(steps.notes)}};
+            {u"leftOut"_s, leftOut}};
 }
 
 QJsonValue presetsJson()
@@ -77,10 +69,8 @@ QJsonObject answer(const QJsonObject &question)
                                      previewArguments(*plan, sources.first(), preview.at(0).toDouble(),
                                                       {preview.at(1).toInt(), preview.at(2).toInt()}, picture))}};
     }
-    const TranscodePlan wanted =
-        question.contains(u"trial"_s) ? trialPlan(*plan, sources.first(), question[u"trial"_s].toDouble()) : *plan;
     const auto steps = transcodeSteps(
-        wanted, sources, {.hardwareDevice = question[u"device"_s].toString()},
+        *plan, sources, {},
         {.output = question[u"output"_s].toString(), .workFolder = question[u"workFolder"_s].toString()});
     return steps ? stepsJson(*steps) : QJsonObject{{u"refused"_s, steps.reason().english()}};
 }

@@ -55,10 +55,6 @@ class Handler(BaseHTTPRequestHandler):
         """Each connection breaks after a third of the file."""
         self.send_file(name, stop_after=self.size(name) // 3, reset=True)
 
-    def way_lying(self, name):
-        """Says that it is longer than it is, always."""
-        self.send_file(name, extra_length=100_000)
-
     def way_cut(self, name):
         """Hands out two thirds and calls them everything."""
         self.send_file(name, length=self.size(name) * 2 // 3)
@@ -132,7 +128,7 @@ class Handler(BaseHTTPRequestHandler):
         if self.command == "GET":
             self.wfile.write(body)
 
-    def send_file(self, name, ranges=True, bytes_per_second=None, stop_after=None, reset=False, extra_length=0, length=None):
+    def send_file(self, name, ranges=True, bytes_per_second=None, stop_after=None, reset=False, length=None):
         path = os.path.join(self.server.folder, os.path.basename(name))
         if not os.path.isfile(path):
             return self.answer(404)
@@ -156,12 +152,12 @@ class Handler(BaseHTTPRequestHandler):
             self.send_header("Accept-Ranges", "bytes")
         if ranges and wanted:
             self.send_header("Content-Range", f"bytes {start}-{end}/{len(data)}")
-        self.send_header("Content-Length", str(len(piece) + extra_length))
+        self.send_header("Content-Length", str(len(piece)))
         self.end_headers()
         if self.command != "GET":
             return
         self.send_piece(piece if stop_after is None else piece[:stop_after], bytes_per_second)
-        if extra_length or (stop_after is not None and stop_after < len(piece)):
+        if stop_after is not None and stop_after < len(piece):
             self.break_off(reset)
 
     def send_piece(self, piece, bytes_per_second):

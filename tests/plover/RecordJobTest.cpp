@@ -172,15 +172,6 @@ TEST_F(RecordJobTest, WhatAnEndOfTheProgramLeavesIsFinished)
     EXPECT_FALSE(QFileInfo::exists(left.note));
 }
 
-TEST_F(RecordJobTest, StopsAfterTheSecondsOfThePlan)
-{
-    m_plan.seconds = 1;
-    begin();
-    ASSERT_TRUE(waitForEnd());
-    EXPECT_EQ(m_outcome->state, JobState::Done);
-    EXPECT_NEAR(double(pictures(m_outcome->outputs.first()).size()) / 30, 1, 0.1);
-}
-
 }  // namespace
 
 }  // namespace kestrel

@@ -67,11 +67,6 @@ QByteArray slowGif()
     return gif;
 }
 
-struct TagAsQuery final : tarnwell::WebLinkDelegate {
-    QString traceSuffix(const QString &tag) const override { return u"?from="_s + tag; }
-    QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
-};
-
 class JAdvertisementWinControllerTest : public testing::Test {
 protected:
     JAdvertisementWinControllerTest()
@@ -83,8 +78,7 @@ protected:
 
     test::ProductFolder m_product{test::productInformation()};
     test::TestDesktop m_desktop;
-    TagAsQuery m_links;
-    tarnwell::Installed<tarnwell::WebLinkDelegate> m_installedLinks{m_links};
+    test::TagAsQuery m_links;
     foundation::UserDefaults m_defaults{m_product.contentsPath(u"defaults.plist"_s)};
 };
 

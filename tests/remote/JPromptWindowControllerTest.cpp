@@ -22,11 +22,6 @@ using namespace kestrel;
 
 namespace {
 
-struct PromptLinkDelegate final : tarnwell::WebLinkDelegate {
-    QString traceSuffix(const QString &tag) const override { return u"?from="_s + tag; }
-    QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
-};
-
 class JPromptWindowControllerTest : public testing::Test {
 protected:
     std::optional<XMLDictionary> promptFor(const QString &language, const QByteArray &file)
@@ -136,8 +131,7 @@ TEST_F(JPromptWindowControllerTest, LinksOpenAndTheWindowClosesInItsTime)
         "</headerLink><learnMoreLink>https://l.example/</learnMoreLink>");
     tarnwell::TitledWindow *window = controller->window();
     const auto click = [&](const QString &name) { window->findChild<QPushButton *>(name)->click(); };
-    PromptLinkDelegate links;
-    const tarnwell::Installed<tarnwell::WebLinkDelegate> installedLinks(links);
+    const test::TagAsQuery links;
     const QUrl header(u"https://h.example/?from=adui"_s);
     const struct {
         const char *name;

@@ -332,18 +332,6 @@ TEST_F(JKestrelSettingControllerTest, return_does_what_the_control_with_the_keyb
     EXPECT_FALSE(m_controller.isPresented());
 }
 
-TEST_F(JKestrelSettingControllerTest, what_is_typed_is_stored_without_closing)
-{
-    m_controller.storeProxy();
-    EXPECT_TRUE(m_setting.downloader()->proxyURL().isNull()) << "no window, no edits";
-    present();
-    find<QAbstractButton>(u"downloaderProxyEnableButton"_s)->click();
-    find<QLineEdit>(u"downloaderProxyURLField"_s)->setText(u"http://proxy"_s);
-    m_controller.storeProxy();
-    EXPECT_EQ(m_setting.downloader()->proxyURL(), u"http://proxy"_s);
-    EXPECT_TRUE(m_setting.downloader()->proxyEnabled() && m_controller.isPresented());
-}
-
 TEST_F(JKestrelSettingControllerTest, settings_that_cannot_be_saved_say_so)
 {
     present();

@@ -9,6 +9,16 @@
 
 namespace kestrel::test {
 
+/// While it lives, addresses tell where visitors come from by the tag as it stands.
+class TagAsQuery final : public tarnwell::WebLinkDelegate {
+public:
+    QString traceSuffix(const QString &tag) const override { return QStringLiteral("?from=") + tag; }
+    QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
+
+private:
+    tarnwell::Installed<tarnwell::WebLinkDelegate> m_installed{*this};
+};
+
 /// The alerts, folder panel and web browser while it lives: answers as it is told and notes what it was asked.
 class TestDesktop final : public tarnwell::AlertPresenter, public tarnwell::FolderPanel, public tarnwell::WebOpener {
 public:

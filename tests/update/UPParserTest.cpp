@@ -148,25 +148,15 @@ TEST(UPParser, RefusesDamagedDescriptors)
 
 TEST(UPParser, ReadsHostileDescriptorsQuickly)
 {
-    const auto nested = [](qsizetype depth) {
-        return QByteArray("<array>").repeated(depth) + QByteArray("</array>").repeated(depth);
-    };
-    const struct {
-        const char *name;
-        QByteArray repeated;
-        bool isRead;
-    } table[] = {{"values", "<true/>", true},
-                 {"entries", "<dict><key>content</key><string>a</string></dict>", true},
-                 {"deepest", nested(498), true},
-                 {"too deep", nested(499), false}};
-    for (const auto &row : table) {
+    for (const QByteArray &repeated :
+         {QByteArray("<true/>"), QByteArray("<dict><key>content</key><string>a</string></dict>"),
+          QByteArray("<array>").repeated(498) + QByteArray("</array>").repeated(498)}) {
         const QByteArray bytes = "<plist><dict><key>UpdateLog</key><array>" +
-                                 row.repeated.repeated(1'000'000 / row.repeated.size()) + "</array></dict></plist>";
+                                 repeated.repeated(1'000'000 / repeated.size()) + "</array></dict></plist>";
         const std::clock_t start = std::clock();
         const auto parser = UPParser::initWithData(bytes, {u"en"_s, u"3.4"_s});
-        EXPECT_TRUE(!parser || plainText((*parser)->updateLog()).size() > 500) << row.name;
-        EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 2) << row.name;
-        EXPECT_EQ(bool(parser), row.isRead) << row.name;
+        EXPECT_TRUE(parser && plainText((*parser)->updateLog()).size() > 500) << repeated.left(20).constData();
+        EXPECT_LT(std::clock() - start, CLOCKS_PER_SEC / 2) << repeated.left(20).constData();
     }
 }
 

@@ -28,11 +28,6 @@ namespace kestrel {
 
 namespace {
 
-struct TagAsQuery final : tarnwell::WebLinkDelegate {
-    QString traceSuffix(const QString &tag) const override { return u"?"_s + tag; }
-    QString phpRedirectLink(const QString &, const QString &) const override { return {}; }
-};
-
 const QVariantMap newVersion = {
     {u"LastestVersion"_s, u"6.10"_s},
     {u"DownloadURLReg"_s, u"https://k.example/get"_s},
@@ -84,8 +79,7 @@ protected:
 
     test::ProductFolder m_product{test::productInformation()};
     test::TestDesktop m_desktop;
-    TagAsQuery m_links;
-    tarnwell::Installed<tarnwell::WebLinkDelegate> m_installedLinks{m_links};
+    test::TagAsQuery m_links;
     std::atomic<int> m_fetches = 0;
     QSemaphore m_answers;
     const std::shared_ptr<int> m_inUse = std::make_shared<int>();
@@ -182,7 +176,7 @@ TEST_F(UpgradeWindowControllerTest, WhatWasOnItsWayWhenTheUserCancelledIsNotShow
 
 TEST_F(UpgradeWindowControllerTest, ButtonsCloseOpenAndTerminate)
 {
-    const QList get{QUrl(u"https://k.example/get?upui"_s)};
+    const QList get{QUrl(u"https://k.example/get?from=upui"_s)};
     const struct {
         const char *name;
         QVariantMap root;
@@ -196,7 +190,7 @@ TEST_F(UpgradeWindowControllerTest, ButtonsCloseOpenAndTerminate)
         {"compulsory download", compulsory, "downloadNowBtn", true, get, 0},
         {"compulsory, declined", compulsory, "cancelDownloadBtn", false, {}, 1},
         {"compulsory, window closed", compulsory, nullptr, false, {}, 1},
-        {"learn more", news, "learMoreBtn", false, {QUrl(u"https://k.example/news?upui"_s)}, 0},
+        {"learn more", news, "learMoreBtn", false, {QUrl(u"https://k.example/news?from=upui"_s)}, 0},
         {"visit website", news, "visitSiteBtn", false, get, 0},
         {"learn more without link", {}, "learMoreBtn", false, {}, 0},
         {"no news wanted", news, "cancelNewsBtn", false, {}, 0},
