@@ -89,12 +89,17 @@ protected:
         });
         job->start();
         EXPECT_FALSE(hasFinished) << "later than it returns";
+        if (!m_stopSign.isEmpty()) {
+            EXPECT_TRUE(test::waitUntil([this] { return QFile::exists(m_stopSign); }, 100'000));
+            job->stop();
+        }
         EXPECT_TRUE(test::waitUntil([&] { return hasFinished; }, 100'000));
         EXPECT_TRUE(std::is_sorted(result.fractions.begin(), result.fractions.end()));
         return result;
     }
 
     QTemporaryDir m_folder;
+    QString m_stopSign;  ///< the job is stopped once this file is there
     TranscodeTools m_tools{.transcoder = test::toolPath(u"ffmpeg"_s),
                            .prober = test::toolPath(u"ffprobe"_s),
                            .machine = {.processors = 2}};
@@ -163,19 +168,12 @@ TEST_F(TranscodeJobTest, ShortcutsThatLeadToNothing)
 
 TEST_F(TranscodeJobTest, StoppedWhileItsOutputIsLookedAt)
 {
-    const QString begun = path(u"begun"_s);
-    m_tools.prober =
-        makeScript(path(u"ffprobe"_s), "case \"$*\" in *-count_packets*) [ -e '" + begun.toUtf8() + "' ] || { > '" +
-                                           begun.toUtf8() + "'; sleep 60; };; esac\nexec '" +
-                                           test::toolPath(u"ffprobe"_s).toUtf8() + "' \"$@\"");
-    const auto job = makeJob(planFor({film(u"mkv"_s)}, u"mp4-h264"_s));
-    std::optional<JobOutcome> outcome;
-    QObject::connect(job.get(), &Job::finished, job.get(), [&outcome](const JobOutcome &told) { outcome = told; });
-    job->start();
-    ASSERT_TRUE(test::waitUntil([&begun] { return QFile::exists(begun); }, 30'000));
-    job->stop();
-    ASSERT_TRUE(test::waitUntil([&outcome] { return outcome.has_value(); }, 30'000));
-    EXPECT_EQ(int(outcome->state), int(JobState::Done));
+    m_stopSign = path(u"looking"_s);
+    const QByteArray sign = '\'' + m_stopSign.toUtf8() + '\'', prober = m_tools.prober.toUtf8();
+    m_tools.prober = makeScript(path(u"ffprobe"_s), "case \"$*\" in *-count_packets*) [ -e " + sign + " ] || { > " +
+                                                        sign + "; sleep 60; };; esac\nexec '" + prober + "' \"$@\"");
+    const JobOutcome outcome = run(planFor({film(u"mkv"_s)}, u"mp4-h264"_s)).outcome;
+    EXPECT_EQ(int(outcome.state), int(JobState::Done)) << outcome.sentence.english().toStdString();
     EXPECT_EQ(outputs(), QStringList{u"film.mp4"_s});
 }
 
