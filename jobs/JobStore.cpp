@@ -29,6 +29,18 @@ constexpr int firstIdCount = 16;
 constexpr int maximumIdCount = 8192;
 constexpr size_t maximumWrites = 512;  ///< in one transaction, so that identifiers need not wait long for their turn
 
+/// Null where it cannot be loaded, which `report` tells then.
+QFunctionPointer entry(const QString &libraryPath, const char *symbol, QString &report)
+{
+    QLibrary library(libraryPath.isNull() ? foundation::Bundle::main().contentsPath(u"Frameworks/libJobStore.dylib"_s)
+                                          : libraryPath);
+    library.setLoadHints(QLibrary::PreventUnloadHint);
+    const QFunctionPointer function = library.resolve(symbol);
+    if (!function)
+        report = library.errorString();
+    return function;
+}
+
 /// The store on its thread. What is asked of that stands in members under one lock; the file is the thread's alone.
 class ThreadedJobStore final : public JobStore {
 public:
@@ -183,13 +195,10 @@ void ThreadedJobStore::work(const QString &path, const QString &libraryPath)
 std::unique_ptr<JobDatabase> ThreadedJobStore::opened(const QString &path, const QString &libraryPath)
 {
     std::unique_ptr<JobDatabase> database;
-    QLibrary library(libraryPath);
-    library.setLoadHints(QLibrary::PreventUnloadHint);
     QString report;
-    if (const auto open = reinterpret_cast<OpenJobDatabaseFunction *>(library.resolve(openJobDatabaseSymbol)))
+    if (const auto open =
+            reinterpret_cast<OpenJobDatabaseFunction *>(entry(libraryPath, openJobDatabaseSymbol, report)))
         open(path, database, report);
-    else
-        report = library.errorString();
     if (!report.isEmpty())
         tarnwell::DNFootLog(u"Job store %1: %2"_s, path, report);
     return database;
@@ -215,7 +224,7 @@ void ThreadedJobStore::read(Lock &lock, JobDatabase &database)
     QList<Row> loaded, changed;
     for (const JobRow &row : database.rows()) {
         std::optional<LoadedJob> job = loadedJob(row);
-        if (!job)
+        if (!job || job->holder != 0)
             continue;
         if (job->isToBeStored)
             changed.append(job->row);
@@ -287,10 +296,34 @@ std::unique_ptr<JobStore> openJobStore(const QString &path, const QString &libra
     const QString folder = QFileInfo(path).absolutePath();
     QDir().mkpath(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QString library =
-        libraryPath.isNull() ? foundation::Bundle::main().contentsPath(u"Frameworks/libJobStore.dylib"_s) : libraryPath;
-    auto store = std::make_unique<ThreadedJobStore>(path, library);
+    auto store = std::make_unique<ThreadedJobStore>(path, libraryPath);
     return store->isOpen() ? std::move(store) : nullptr;
+}
+
+foundation::Result<QList<ListedJob>> listJobs(const QString &path, const QString &libraryPath)
+{
+    QList<JobRow> rows;
+    QString report;
+    JobFileState state = JobFileState::Inaccessible;
+    if (const auto read =
+            reinterpret_cast<ReadJobDatabaseFunction *>(entry(libraryPath, readJobDatabaseSymbol, report)))
+        state = read(path, rows, report);
+    switch (state) {
+        case JobFileState::Damaged:
+            return foundation::Failure{u"The list of jobs is damaged, %1: %2"_s.arg(path, report.simplified())};
+        case JobFileState::Newer:
+            return foundation::Failure{u"The list of jobs was written by a newer version, %1"_s.arg(path)};
+        case JobFileState::Inaccessible:
+            return foundation::Failure{u"The list of jobs cannot be read, %1: %2"_s.arg(path, report.simplified())};
+        default:
+            break;
+    }
+    QList<ListedJob> jobs;
+    for (const JobRow &row : rows) {
+        if (const auto job = loadedJob(row))
+            jobs.append({job->row.record, job->holder, job->isToBeStored});
+    }
+    return jobs;
 }
 
 }  // namespace kestrel

@@ -2,6 +2,8 @@
 
 #include "JobRecord.h"
 
+#include "foundation/Result.h"
+
 #include <chrono>
 #include <memory>
 
@@ -38,5 +40,16 @@ public:
 /// bundle, loaded here, so that the program's start does not pay for it.
 std::unique_ptr<JobStore> openJobStore(const QString &path, const QString &libraryPath = {});
 QString jobStorePath();  ///< of this user
+
+struct ListedJob {
+    JobRecord record;
+    qint64 holder = 0;          ///< the living process that has it running or waiting; 0 for none
+    bool hasLostOwner = false;  ///< it waited or ran in a process that has ended
+};
+
+/// For who only looks: all jobs in their order, as they are now, also those of other processes. Nothing is written,
+/// moved aside or begun. A sentence in English where the file cannot be read, is damaged or of a newer version; no jobs
+/// where there is none.
+foundation::Result<QList<ListedJob>> listJobs(const QString &path, const QString &libraryPath = {});
 
 }  // namespace kestrel

@@ -57,8 +57,10 @@ std::optional<LoadedJob> loadedJob(const JobRow &row)
     record.state = *state;
     if (isHeld(*state)) {
         const std::optional<PartOwner> owner = PartOwner::fromTag(row.owner);
-        if (owner && *owner != PartOwner::self() && !owner->hasEnded())
-            return std::nullopt;
+        if (owner && *owner != PartOwner::self() && !owner->hasEnded()) {
+            loaded.holder = owner->process;
+            return loaded;
+        }
         const bool isInterrupted = isActive(*state);
         record.state = isInterrupted ? JobState::Interrupted : JobState::Ready;
         if (isInterrupted)

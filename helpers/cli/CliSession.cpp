@@ -1,5 +1,7 @@
 #include "CliSession.h"
 
+#include <cstdio>
+
 namespace kestrel::cli {
 
 CliSession::CliSession(ModuleSettingKind kind)
@@ -7,6 +9,8 @@ CliSession::CliSession(ModuleSettingKind kind)
       m_store(openJobStore(jobStorePath())),
       m_queue(m_store.get())
 {
+    if (!m_store)
+        std::fprintf(stderr, "kestrel-cli: The list of jobs cannot be opened; what is done now is not kept in it.\n");
     m_queue.load();
 }
 

@@ -88,6 +88,9 @@ class CliTest(unittest.TestCase):
         while b'"fraction"' not in process.stdout.readline():
             pass
         self.assertEqual(len(os.listdir(self.out)), 1)
+        _, jobs, _ = self.cli.run('jobs')
+        self.assertEqual([(each['state'], each['process']) for each in jobs], [('running', process.pid)])
+        self.assertEqual([self.cli.run('jobs', verb, '1')[0] for verb in ('retry', 'clear')], [1, 1])
         process.kill()
         process.communicate()
         _, jobs, _ = self.cli.run('jobs')
@@ -97,6 +100,24 @@ class CliTest(unittest.TestCase):
         while subprocess.run(['pgrep', '-f', self.clip], stdout=subprocess.DEVNULL).returncode == 0:
             self.assertLess(time.monotonic(), until, 'ffmpeg lives on')
             time.sleep(0.05)
+
+    def test_jobs_are_run_again_and_cleared(self):
+        other = self.cli.path('other.mkv')
+        self.cli.results('convert', '--to', self.out, other, self.clip)
+        os.rename(self.clip, other)
+        self.assertEqual(self.cli.run('jobs', 'retry')[:2], (0, []), 'nothing was interrupted')
+        status, results = self.cli.results('jobs', 'retry', '1')
+        self.assertEqual((status, results[0]['outputs']), (0, [os.path.join(self.out, 'other.mp4')]))
+        status, results = self.cli.results('jobs', 'retry', '2')
+        self.assertEqual((status, results[0]['state']), (1, 'failed'))
+        self.assertEqual([self.cli.run('jobs', 'clear', *which)[0] for which in ([], ['1'])], [0, 1])
+        self.assertEqual([each['job'] for each in self.cli.run('jobs')[1]], [2])
+        store = self.cli.path('data/Kestrel Converter 4K/jobs.sqlite')
+        subprocess.run(['sqlite3', store, 'PRAGMA user_version = 9'], check=True)
+        for verb in ([], ['retry'], ['clear', '2']):
+            status, objects, errors = self.cli.run('jobs', *verb)
+            self.assertEqual((status, objects, errors.count('\n')), (1, [], 1))
+        self.assertEqual([name for name in os.listdir(os.path.dirname(store)) if 'damaged' in name], [])
 
     def test_presets_are_told_an_object_a_line(self):
         by_id = {each['id']: each for each in self.cli.run('presets', '--all')[1]}

@@ -144,12 +144,26 @@ TEST_F(JobStoreTest, WhatAnotherProcessHoldsIsLeftOutUntilItEnds)
     const auto process = helper({u"hold"_s});
     ASSERT_TRUE(process->waitForReadyRead(20'000));
     ASSERT_EQ(process->readAll().trimmed(), "held");
+    const auto listed = [this] {
+        QList<std::tuple<JobState, qint64, bool>> rows;
+        const auto jobs = listJobs(path, QStringLiteral(KESTREL_JOB_STORE_LIBRARY));
+        for (const ListedJob &job : jobs ? *jobs : QList<ListedJob>())
+            rows.append({job.record.state, job.holder, job.hasLostOwner});
+        return rows;
+    };
+    const qint64 holder = process->processId();
+    EXPECT_THAT(listed(),
+                ElementsAre(std::tuple(JobState::Running, holder, false), std::tuple(JobState::Waiting, holder, false),
+                            std::tuple(JobState::Ready, 0, false)));
     const auto store = open();
     auto records = loaded(*store);
     ASSERT_EQ(records.size(), 1);
     EXPECT_EQ(records.begin()->second.state, JobState::Ready);
     process->kill();
     process->waitForFinished();
+    for (int round = 0; round < 2; ++round)  // it changes nothing
+        EXPECT_THAT(listed(), ElementsAre(std::tuple(JobState::Interrupted, 0, true),
+                                          std::tuple(JobState::Ready, 0, true), std::tuple(JobState::Ready, 0, false)));
     records = loaded(*store);
     ASSERT_EQ(records.size(), 3);
     EXPECT_EQ(records.begin()->second.state, JobState::Interrupted);
@@ -235,6 +249,9 @@ TEST_F(JobStoreTest, WhatIsNoStoreIsMovedAside)
         for (const QString &name : QDir(folder.path()).entryList(QDir::Files))
             QFile::remove(folder.filePath(name));
         write(row.bytes);
+        const auto listed = listJobs(path, QStringLiteral(KESTREL_JOB_STORE_LIBRARY));
+        EXPECT_EQ(bool(listed), !row.isMoved);
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(u"jobs.sqlite"_s));
         {
             const auto store = open();
             ASSERT_TRUE(store);
