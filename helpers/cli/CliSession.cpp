@@ -1,5 +1,7 @@
 #include "CliSession.h"
 
+#include <QEventLoop>
+
 #include <cstdio>
 
 namespace kestrel::cli {
@@ -15,5 +17,16 @@ CliSession::CliSession(ModuleSettingKind kind)
 }
 
 CliSession::~CliSession() = default;
+
+bool CliSession::wait(QEventLoop &loop)
+{
+    QObject::connect(&m_signals, &foundation::TerminationSignals::received, &loop, [this, &loop] {
+        m_isInterrupted = true;
+        loop.quit();
+    });
+    if (!m_isInterrupted)
+        loop.exec();
+    return !m_isInterrupted;
+}
 
 }  // namespace kestrel::cli

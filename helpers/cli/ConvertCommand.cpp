@@ -20,7 +20,7 @@ namespace kestrel::cli {
 namespace {
 
 /// What a file holds; nothing where it cannot be read, which its job will tell.
-std::optional<MediaInformation> lookedAt(const QString &path, const JKestrelSettingDispatcher &settings)
+std::optional<MediaInformation> lookedAt(const QString &path, CliSession &session)
 {
     MediaProber prober;
     QEventLoop loop;
@@ -30,8 +30,8 @@ std::optional<MediaInformation> lookedAt(const QString &path, const JKestrelSett
             information = *answer;
         loop.quit();
     });
-    prober.probe(1, proberBeside(settings.getTranscoderPath()), path);
-    loop.exec();
+    prober.probe(1, proberBeside(session.settings().getTranscoderPath()), path);
+    session.wait(loop);
     return information;
 }
 
@@ -75,7 +75,7 @@ bool chooseTracks(const ConvertRequest &request, const MediaInformation &informa
 
 /// The plans for the files: one each, or one for all of them.
 foundation::Result<QList<TranscodePlan>> plansFor(const QStringList &files, const ConvertRequest &request,
-                                                  const JKestrelSettingDispatcher &settings)
+                                                  CliSession &session)
 {
     QList<TranscodePlan> plans;
     const bool namesTracks = request.audioNumbers || request.subtitleNumbers || request.burnedSubtitle > 0;
@@ -86,7 +86,7 @@ foundation::Result<QList<TranscodePlan>> plansFor(const QStringList &files, cons
         }
         TranscodePlan plan = request.plan;
         plan.sources = {file};
-        if (const auto information = namesTracks ? lookedAt(file, settings) : std::nullopt;
+        if (const auto information = namesTracks ? lookedAt(file, session) : std::nullopt;
             information && !chooseTracks(request, *information, plan))
             return foundation::Failure{u"%1 has no track of that number"_s.arg(QFileInfo(file).fileName())};
         plans.append(plan);
@@ -111,7 +111,9 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
     const QStringList files = mediaFiles(*paths);
     if (files.isEmpty())
         return wrongUsage(u"Name the files to convert."_s);
-    const auto plans = plansFor(files, request, settings);
+    const auto plans = plansFor(files, request, session);
+    if (session.isInterrupted())
+        return InterruptedBySignal;
     if (!plans)
         return wrongUsage(plans.reason());
 
@@ -125,7 +127,7 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
             QDir().mkpath(folder);
         ids.append(session.queue().add(conversionJob(plan, folder)));
     }
-    return runJobs(session.queue(), ids, surroundings);
+    return runJobs(session, ids, surroundings);
 }
 
 }  // namespace kestrel::cli

@@ -113,7 +113,7 @@ ExitStatus retry(const Surroundings &surroundings, const Choice &choice)
         if (const JobState state = queue.record(id)->state; state == JobState::Checking || state == JobState::Unusable)
             queue.change(id, [](JobRecord &record) { record.state = JobState::Ready; });
     }
-    return ids.isEmpty() ? AllDone : runJobs(queue, ids, surroundings);
+    return ids.isEmpty() ? AllDone : runJobs(session, ids, surroundings);
 }
 
 ExitStatus clear(const Choice &choice)

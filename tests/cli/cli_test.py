@@ -1,5 +1,6 @@
 #!/usr/bin/python3
 """cli_test.py BUNDLE: the converter's work without a window."""
+import json
 import os
 import signal
 import subprocess
@@ -73,14 +74,17 @@ class CliTest(unittest.TestCase):
         make_clip(self.clip, 60)
         for number in (signal.SIGINT, signal.SIGTERM):
             with self.subTest(number):
-                process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, self.clip)
+                process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, *[self.clip] * 3)
                 while b'"fraction"' not in process.stdout.readline():
                     pass
                 process.send_signal(number)
                 output, _ = process.communicate(timeout=20)
                 self.assertEqual(process.returncode, 130)
-                self.assertIn(b'"cancelled"', output.splitlines()[-1])
+                results = [each for each in map(json.loads, output.splitlines()) if each['event'] == 'result']
+                self.assertEqual(sorted((each['job'], each['state']) for each in results),
+                                 [(1, 'cancelled'), (2, 'cancelled'), (3, 'cancelled')])
                 self.assertEqual(os.listdir(self.out), [])
+        self.assertEqual([each['state'] for each in self.cli.run('jobs')[1]], ['cancelled'] * 6)
 
     def test_what_was_killed_is_interrupted_and_its_part_goes(self):
         make_clip(self.clip, 60)
