@@ -132,7 +132,8 @@ Sentence OutputFile::makePart()
         foundation::makePrivateFolder(registrations);
         if (!QFile::link(path, registration))
             tarnwell::DNFootLog(u"An output could not be written down; it stays where Kestrel is killed"_s);
-        error = placing::makeNew(path, m_kind == Kind::Folder);
+        error = m_kind == Kind::PrivateFolder ? placing::makePrivateFolder(path)
+                                              : placing::makeNew(path, m_kind == Kind::Folder);
         if (error == 0) {
             m_partPath = path;
             m_registration = registration;
@@ -166,7 +167,7 @@ foundation::Result<QString, Sentence> OutputFile::publish()
         QString path;
         for (const qsizetype limit : nameBytes) {
             path = m_folder + u'/' + fittingName(m_baseName, numbering + suffixOf(m_extension), limit);
-            error = placing::renameToNew(m_partPath, path, m_kind == Kind::Folder);
+            error = placing::renameToNew(m_partPath, path, m_kind != Kind::File);
             if (error != ENAMETOOLONG)
                 break;
         }

@@ -7,6 +7,8 @@ namespace kestrel::placing {
 
 /// Makes an empty file or folder that was not there.
 int makeNew(const QString &path, bool isFolder);
+/// A folder for its owner alone.
+int makePrivateFolder(const QString &path);
 
 /// Gives `from` the name `to`. EEXIST where that is taken: nothing is ever written over.
 int renameToNew(const QString &from, const QString &to, bool isFolder);

@@ -56,6 +56,11 @@ int makeNew(const QString &path, bool isFolder)
     return 0;
 }
 
+int makePrivateFolder(const QString &path)
+{
+    return errorOf(mkdir(QFile::encodeName(path).constData(), 0700));
+}
+
 int renameToNew(const QString &from, const QString &to, bool isFolder)
 {
     const QByteArray fromName = QFile::encodeName(from);

@@ -123,7 +123,7 @@ void TranscodeJob::prepare()
                                             m_request.plan.preset.extension);
     if (!m_output->isValid())
         return fail(m_output->reason());
-    m_workFolder = std::make_unique<QTemporaryDir>();
+    m_workFolder = std::make_unique<WorkFolder>();
     if (!m_workFolder->isValid())
         return fail("The folder for temporary files cannot be written."_key);
     m_request.plan = planWithToolPaths();

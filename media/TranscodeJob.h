@@ -8,8 +8,7 @@
 #include "TranscodeProgress.h"
 
 #include "jobs/ToolJob.h"
-
-#include <QTemporaryDir>
+#include "jobs/WorkFolder.h"
 
 #include <vector>
 
@@ -71,7 +70,7 @@ private:
     TranscodeRequest m_request;
     std::vector<ToolPath> m_sources;
     std::shared_ptr<OutputFile> m_output;
-    std::unique_ptr<QTemporaryDir> m_workFolder;
+    std::unique_ptr<WorkFolder> m_workFolder;
     std::shared_ptr<Placing> m_placing;
     std::vector<ToolPath> m_companions;
     TranscodeSteps m_steps;

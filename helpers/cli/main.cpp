@@ -12,8 +12,11 @@
 
 #include <QCoreApplication>
 
+#include <unistd.h>
 #include <algorithm>
 #include <cstdio>
+#include <future>
+#include <thread>
 
 using namespace Qt::StringLiterals;
 
@@ -53,6 +56,33 @@ ExitStatus runCommand(QStringList arguments)
     return found->run(surroundings, arguments);
 }
 
+/// What killed runs have left goes meanwhile. A disk that hangs holds the end of the program up for a moment only.
+class Sweep {
+public:
+    Sweep()
+    {
+        std::packaged_task<void()> task(OutputFile::sweepDeadOwners);
+        m_end = task.get_future();
+        m_thread = std::thread(std::move(task));
+    }
+    Sweep(const Sweep &) = delete;
+    Sweep &operator=(const Sweep &) = delete;
+
+    void end(ExitStatus status)
+    {
+        constexpr auto patience = std::chrono::seconds(2);
+        if (m_end.wait_for(patience) != std::future_status::ready) {
+            std::fflush(nullptr);
+            _exit(status);
+        }
+        m_thread.join();
+    }
+
+private:
+    std::future<void> m_end;
+    std::thread m_thread;
+};
+
 QString interfaceLanguage()
 {
     const QStringList chosen = foundation::UserDefaults::standardUserDefaults().stringArrayForKey(u"AppleLanguages"_s);
@@ -90,10 +120,12 @@ int main(int argc, char **argv)
     tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s),
                                         cli::interfaceLanguage());
     const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
-    OutputFile::sweepDeadOwners();
+    cli::Sweep sweep;
 
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments.append(foundation::decodedFileName(argv[index]));
-    return cli::runCommand(arguments);
+    const cli::ExitStatus status = cli::runCommand(arguments);
+    sweep.end(status);
+    return status;
 }

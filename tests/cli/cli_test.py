@@ -91,7 +91,7 @@ class CliTest(unittest.TestCase):
         process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, self.clip)
         while b'"fraction"' not in process.stdout.readline():
             pass
-        self.assertEqual(len(os.listdir(self.out)), 1)
+        self.assertEqual((len(os.listdir(self.out)), len(os.listdir(self.cli.folder('tmp')))), (1, 1))
         _, jobs, _ = self.cli.run('jobs')
         self.assertEqual([(each['state'], each['process']) for each in jobs], [('running', process.pid)])
         self.assertEqual([self.cli.run('jobs', verb, '1')[0] for verb in ('retry', 'clear')], [1, 1])
@@ -99,7 +99,7 @@ class CliTest(unittest.TestCase):
         process.communicate()
         _, jobs, _ = self.cli.run('jobs')
         self.assertEqual([each['state'] for each in jobs], ['interrupted'])
-        self.assertEqual(os.listdir(self.out), [])
+        self.assertEqual((os.listdir(self.out), os.listdir(self.cli.folder('tmp'))), ([], []))
         until = time.monotonic() + 10
         while subprocess.run(['pgrep', '-f', self.clip], stdout=subprocess.DEVNULL).returncode == 0:
             self.assertLess(time.monotonic(), until, 'ffmpeg lives on')
