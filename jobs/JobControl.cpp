@@ -116,7 +116,9 @@ void JobQueue::interrupt(QList<JobId> ids)
     // Stored first: ending the tools may take its time, and this may be the program's last moment.
     for (const JobId id : ids) {
         Entry &entry = *find(id);
-        entry.record.state = entry.record.outcome.state = JobState::Interrupted;
+        entry.record.state = JobState::Interrupted;
+        entry.record.outcome = {.state = JobState::Interrupted};
+        entry.record.placing.reset();
         leaveLane(entry);
         entry.run->job().disconnect(this);
         if (m_store && entry.run->isToBeRemoved)

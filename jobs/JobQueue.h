@@ -127,6 +127,7 @@ private:
     void block(Entry &entry, const tarnwell::Sentence &reason);
     void run(Entry &entry);
     void takeProgress(JobId id, const JobProgress &progress);
+    void notePlacing(JobId id, const JobOutcome &outcome, const QString &partPath, std::function<void()> then);
     void showProgress();
     void finish(JobId id, JobOutcome outcome);
     void endCancelled(const QList<JobId> &ids);

@@ -206,10 +206,25 @@ void JobQueue::run(Entry &entry)
         find(id)->record.note = note;
         emit changed(id);
     });
+    job.setNotary([this, id](const JobOutcome &outcome, const QString &partPath, std::function<void()> then) {
+        notePlacing(id, outcome, partPath, std::move(then));
+    });
     connect(&job, &Job::finished, this, [this, id](const JobOutcome &outcome) { finish(id, outcome); });
     job.start();
     if (const Entry *started = find(id); started && started->run)
         tell(entry);
+}
+
+/// So that a kill after the output got its name is no reason to make it again.
+void JobQueue::notePlacing(JobId id, const JobOutcome &outcome, const QString &partPath, std::function<void()> then)
+{
+    Entry *entry = find(id);
+    if (!m_store || !entry || !entry->run || !entry->run->hasJob())
+        return then();
+    entry->record.placing = PlacedPart::of(partPath);
+    entry->record.outcome = outcome;
+    store(*entry);
+    m_store->whenWritten(std::move(then));
 }
 
 void JobQueue::takeProgress(JobId id, const JobProgress &progress)
@@ -277,6 +292,7 @@ void JobQueue::finish(JobId id, JobOutcome outcome)
     entry.run.reset();
     entry.record.state = outcome.state;
     entry.record.outcome = std::move(outcome);
+    entry.record.placing.reset();
     leaveLane(entry);
     const QString module = entry.record.module;
     tell(entry);

@@ -2,6 +2,7 @@
 
 #include "StoredJob.h"
 #include "foundation/Bundle.h"
+#include "foundation/Queues.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/ProductInformation.h"
 #include "tarnwell/SystemInformation.h"
@@ -53,6 +54,7 @@ public:
     JobId nextId() override;
     void put(const JobRecord &record, double position) override;
     void remove(const QList<JobId> &ids) override;
+    void whenWritten(std::function<void()> then) override;
     bool flush(std::chrono::milliseconds patience) override;
 
 private:
@@ -74,6 +76,7 @@ private:
     bool m_isToWrite = false;
     bool m_isFailing = false, m_isFailureLogged = false;
     quint64 m_flushesAsked = 0, m_flushesDone = 0;
+    std::multimap<quint64, std::function<void()>> m_toBeTold;  ///< by the flush that they wait for
     bool m_isLoadAsked = false;
     QList<Row> m_loaded;
     JobId m_nextId = 0, m_idsEnd = 0;      ///< of the present identifiers
@@ -154,6 +157,14 @@ bool ThreadedJobStore::flush(std::chrono::milliseconds patience)
     m_isToWrite = true;
     m_asked.notify_one();
     return m_answered.wait_for(lock, patience, [this, mine] { return m_flushesDone >= mine; }) && !m_isFailing;
+}
+
+void ThreadedJobStore::whenWritten(std::function<void()> then)
+{
+    const Lock lock(m_mutex);
+    m_toBeTold.emplace(++m_flushesAsked, std::move(then));
+    m_isToWrite = true;
+    m_asked.notify_one();
 }
 
 QList<JobStore::Row> ThreadedJobStore::load()
@@ -273,8 +284,13 @@ void ThreadedJobStore::write(Lock &lock, JobDatabase &database)
     } else if (!changes.empty()) {
         m_isFailureLogged = false;
     }
-    if (wasLast || !isWritten)
-        m_flushesDone = flush;
+    if (!wasLast && isWritten)
+        return;
+    m_flushesDone = flush;
+    const auto end = m_toBeTold.upper_bound(flush);
+    for (auto told = m_toBeTold.begin(); told != end; ++told)
+        foundation::queue::asyncMain(std::move(told->second));
+    m_toBeTold.erase(m_toBeTold.begin(), end);
 }
 
 /// Once until it is well again: a full disk would fill the log too.
@@ -285,6 +301,11 @@ void ThreadedJobStore::note(const QString &failure)
 }
 
 }  // namespace
+
+void JobStore::whenWritten(std::function<void()> then)
+{
+    foundation::queue::asyncMain(std::move(then));
+}
 
 QString jobStorePath()
 {

@@ -5,6 +5,7 @@
 #include "foundation/Result.h"
 
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace kestrel {
@@ -31,6 +32,8 @@ public:
     /// again with the next.
     virtual void put(const JobRecord &record, double position) = 0;
     virtual void remove(const QList<JobId> &ids) = 0;
+    /// Calls `then` on the main thread, later, when everything so far is on the disk or could not be written.
+    virtual void whenWritten(std::function<void()> then);
     /// Waits until everything so far is on the disk. False where it could not be written, or not in that time.
     virtual bool flush(std::chrono::milliseconds patience = std::chrono::seconds(10)) = 0;
 };

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kestrel {
 
@@ -30,6 +31,20 @@ void lookForOutputs(JobRecord &record)
         return;
     outcome.problems.prepend(gone);
     record.state = JobState::DoneWithProblems;
+}
+
+/// What its process had under way when it was killed: the output may have got its name just before.
+void endInterrupted(JobRecord &record)
+{
+    const auto placing = std::exchange(record.placing, {});
+    const JobState intended = record.outcome.state;
+    const bool wasMade = intended == JobState::Done || intended == JobState::DoneWithProblems;
+    const QString output = placing && wasMade ? placing->placedPath() : QString();
+    record.state = output.isNull() ? JobState::Interrupted : intended;
+    if (output.isNull())
+        record.outcome = {.state = JobState::Interrupted};
+    else
+        record.outcome.outputs = {output};
 }
 
 }  // namespace
@@ -61,10 +76,9 @@ std::optional<LoadedJob> loadedJob(const JobRow &row)
             loaded.holder = owner->process;
             return loaded;
         }
-        const bool isInterrupted = isActive(*state);
-        record.state = isInterrupted ? JobState::Interrupted : JobState::Ready;
-        if (isInterrupted)
-            record.outcome = {.state = JobState::Interrupted};
+        record.state = JobState::Ready;
+        if (isActive(*state))
+            endInterrupted(record);
         loaded.isToBeStored = true;
     } else if (*state == JobState::Done || *state == JobState::DoneWithProblems) {
         if (record.outcome.state != JobState::DoneWithProblems)

@@ -60,7 +60,8 @@ private:
     void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);
     void judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings);
     void tryWithoutShortcuts();
-    void place(JobOutcome outcome);
+    void place(const JobOutcome &outcome);
+    void giveName(JobOutcome outcome);
     void fail(const tarnwell::Sentence &sentence);
     void finishStopped();
     void tellProgress();

@@ -104,9 +104,16 @@ void TranscodeJob::tryWithoutShortcuts()
     carryOut();
 }
 
-void TranscodeJob::place(JobOutcome outcome)
+void TranscodeJob::place(const JobOutcome &outcome)
 {
     tellStage("Saving…"_key);
+    beforePlacing(outcome, m_output->partPath(), [this, outcome] { giveName(outcome); });
+}
+
+void TranscodeJob::giveName(JobOutcome outcome)
+{
+    if (!m_output)  // cancelled meanwhile
+        return;
     const QString &source = m_sources.front().path();
     m_placing =
         std::make_shared<Placing>(std::exchange(m_output, nullptr),

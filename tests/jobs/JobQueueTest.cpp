@@ -176,6 +176,22 @@ TEST_F(JobQueueTest, AllAreCancelledWithinATenthOfASecond)
     EXPECT_EQ(store.rows[ids[0]].record.state, JobState::Cancelled);
 }
 
+TEST_F(JobQueueTest, WhatIsToGetItsNameIsStoredBefore)
+{
+    const QList<JobId> ids = add(1);
+    queue.start(ids);
+    ASSERT_TRUE(waitForState(ids[0], JobState::Running));
+    bool mayGoOn = false;
+    recipe.jobOf(ids[0])->beforePlacing(done, QStringLiteral(KESTREL_TEST_HELPER), [&] { mayGoOn = true; });
+    EXPECT_FALSE(mayGoOn);
+    EXPECT_TRUE(store.rows[ids[0]].record.placing);
+    EXPECT_EQ(store.rows[ids[0]].record.outcome.state, JobState::Done);
+    ASSERT_TRUE(waitUntil([&] { return mayGoOn; }));
+    recipe.jobOf(ids[0])->end(done);
+    ASSERT_TRUE(waitForState(ids[0], JobState::Done));
+    EXPECT_FALSE(store.rows[ids[0]].record.placing);
+}
+
 TEST_F(JobQueueTest, WhatEndsWellAlthoughItWasCancelledIsDone)
 {
     const JobId id = add(1).first();

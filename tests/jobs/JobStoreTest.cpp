@@ -187,6 +187,39 @@ TEST_F(JobStoreTest, DoneIsWhatIsThere)
     EXPECT_TRUE(loaded(*store).at(record.id).outcome.problems.isEmpty());
 }
 
+TEST_F(JobStoreTest, WhatHadJustGotItsNameIsNotInterrupted)
+{
+    const QString part = folder.filePath(u".film.part.mp4"_s), whole = folder.filePath(u"film (1).mp4"_s);
+    const struct {
+        const char *name;
+        std::function<void()> change;
+        JobState state;
+    } rows[] = {
+        {"not yet", [] {}, JobState::Interrupted},
+        {"placed", [&] { QFile::rename(part, whole); }, JobState::DoneWithProblems},
+        {"swept, and another made", [&] { QFile::copy(part, whole), QFile::remove(part); }, JobState::Interrupted},
+        {"placed and cut", [&] { QFile::rename(part, whole), QFile::resize(whole, 3); }, JobState::Interrupted}};
+    for (const auto &[name, change, state] : rows) {
+        QFile::remove(whole);
+        QFile file(part);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("a film") > 0);
+        file.close();
+        const auto store = open();
+        JobRecord record = scriptedRecord(u"film"_s);
+        record.id = store->nextId();
+        record.state = JobState::Running;
+        record.placing = PlacedPart::of(part);
+        record.outcome = {.state = JobState::DoneWithProblems, .problems = {{outputIsGone, {u"x"_s}}}};
+        store->put(record, 1);
+        change();
+        const JobRecord found = loaded(*store).at(record.id);
+        EXPECT_EQ(found.state, state) << name;
+        const bool isMade = state == JobState::DoneWithProblems;
+        EXPECT_EQ(found.outcome.outputs, isMade ? QStringList(whole) : QStringList()) << name;
+        EXPECT_EQ(found.outcome.problems, isMade ? record.outcome.problems : QList<tarnwell::Sentence>()) << name;
+    }
+}
+
 TEST_F(JobStoreTest, TwoProcessesShareTheFile)
 {
     constexpr int count = 300;
