@@ -1,6 +1,7 @@
 #include "JobObstacle.h"
 #include "JobQueue.h"
 #include "JobRun.h"
+#include "JobStore.h"
 
 #include <QLocale>
 
@@ -12,13 +13,19 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr qint64 spaceReserve = 200'000'000;  ///< bytes that are left free beside the output
-constexpr int maximumBlocked = 64;            ///< looked at in one lane, past those that wait for space
+constexpr int maximumBlocked = 64;  ///< looked at in one lane, past those that wait for space
 
 qint64 bytesStillNeeded(qint64 expectedBytes, const JobProgress &progress)
 {
     const qint64 written = std::max(progress.bytes, qint64(double(expectedBytes) * progress.fraction.value_or(0)));
     return std::max<qint64>(0, expectedBytes - written);
+}
+
+/// Bytes that are left free beside the output.
+qint64 reserveOn(const DiskSpace &disk)
+{
+    constexpr qint64 maximum = 200'000'000, share = 20;  // a stick is small
+    return disk.total > 0 ? std::min(maximum, disk.total / share) : maximum;
 }
 
 }  // namespace
@@ -178,7 +185,7 @@ bool JobQueue::hasSpace(Entry &entry, Spaces &spaces)
         if (active.device == space->device)
             available -= bytesStillNeeded(active.expectedBytes, active.record.progress);
     }
-    const qint64 needed = entry.expectedBytes + spaceReserve;
+    const qint64 needed = entry.expectedBytes + reserveOn(*space);
     if (needed <= available)
         return true;
     block(entry, {"Waiting for space on the disk: %1 needed"_key,
