@@ -47,7 +47,8 @@ constexpr Option<DownloadRequest> optionTable[] = {
      [](const QString &value, DownloadRequest &request) {
          request.folder = QFileInfo(value).absoluteFilePath();
          return QFileInfo(value).isDir();
-     }},
+     },
+     noFolder},
     {"resolution", "lines", "\"720P\": at most so many lines, where there is such a picture; \"best\"",
      [](const QString &value, DownloadRequest &request) {
          request.plan.height = heightOfResolution(value);

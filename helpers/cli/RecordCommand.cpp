@@ -94,7 +94,8 @@ constexpr Option<RecordRequest> recordOptions[] = {
      [](const QString &value, RecordRequest &request) {
          request.folder = QDir::cleanPath(QDir::current().absoluteFilePath(value));
          return QFileInfo(request.folder).isDir();
-     }},
+     },
+     noFolder},
     {"recover", nullptr, "only finish recordings that were interrupted",
      [](const QString &, RecordRequest &request) {
          request.onlyRecovers = true;
