@@ -19,7 +19,8 @@ int syncTree(const QString &path);
 /// Waits until the names in a folder are on the disk.
 void syncFolder(const QString &path);
 
-/// Removes a file or a folder with all that is in it; leaves links and other things alone.
-void removePart(const QString &path);
+/// Removes a file or a folder with all that is in it; leaves links and other things alone. False where it is still
+/// there.
+bool removePart(const QString &path);
 
 }  // namespace kestrel::placing

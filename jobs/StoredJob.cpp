@@ -2,7 +2,8 @@
 
 #include "PartOwner.h"
 
-#include <QFileInfo>
+#include "foundation/FileNames.h"
+
 #include <QJsonDocument>
 
 #include <algorithm>
@@ -25,8 +26,9 @@ void lookForOutputs(JobRecord &record)
     const tarnwell::Sentence gone(outputIsGone);
     outcome.problems.removeAll(gone);
     record.state = outcome.state;
-    const bool isThere = std::all_of(outcome.outputs.begin(), outcome.outputs.end(),
-                                     [](const QString &path) { return QFileInfo::exists(path); });
+    const bool isThere = std::all_of(outcome.outputs.begin(), outcome.outputs.end(), [](const QString &path) {
+        return foundation::fileFacts(path).kind != foundation::FileKind::Missing;
+    });
     if (isThere)
         return;
     outcome.problems.prepend(gone);

@@ -22,8 +22,10 @@ struct TranscodeTools {
     QString transcoder;  ///< absolute path of ffmpeg
     QString prober;      ///< of ffprobe
     TranscodeMachine machine;
-    /// After that long without a word from ffmpeg it is taken for hung. Rewriting a large file at the end is silent.
-    std::chrono::milliseconds silenceLimit = std::chrono::minutes(30);
+    /// `ToolCommand::silenceLimit` of a conversion from files: ffmpeg that comes on nowhere for twice as long is hung.
+    std::chrono::milliseconds stallLimit = std::chrono::minutes(1);
+    /// That of one that is fed from a disc, whose damaged places take their time.
+    std::chrono::milliseconds silenceLimit = std::chrono::minutes(15);
 };
 
 struct TranscodeRequest {
@@ -71,6 +73,7 @@ private:
     TranscodeRequest m_request;
     std::vector<ToolPath> m_sources;
     std::shared_ptr<OutputFile> m_output;
+    std::optional<ToolPath> m_outputPath;  ///< its part, for tools
     std::unique_ptr<WorkFolder> m_workFolder;
     std::shared_ptr<Placing> m_placing;
     std::vector<ToolPath> m_companions;

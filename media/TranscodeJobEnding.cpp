@@ -7,8 +7,6 @@
 #include "jobs/OutputFile.h"
 #include "tarnwell/Log.h"
 
-#include <QFileInfo>
-
 #include <algorithm>
 #include <utility>
 
@@ -23,12 +21,12 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
 {
     tellStage("Checking the finished file…"_key);
     const QString part = m_output->partPath();
-    m_reading = ToolMessages({part});
+    m_reading = ToolMessages({m_outputPath->path()});
     const ToolProcess &tool = run(
-        outputReportCommand(m_request.tools.prober, ToolPath(part).argument()),
+        outputReportCommand(m_request.tools.prober, m_outputPath->argument()),
         [this, ending, part](const ToolEnding &probing) {
             const auto found =
-                probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
+                probing.isGood() ? parseOutputReport(probing.output, foundation::fileFacts(part).bytes) : std::nullopt;
             if (!found)
                 return judge(ending, std::nullopt);
             const OutputFindings findings = compareOutput(
@@ -52,13 +50,13 @@ Decoding TranscodeJob::neededDecoding() const
         return Decoding::All;
     if (m_steps.work == TranscodeSteps::Work::Encode)
         return Decoding::None;
-    return QFileInfo(m_output->partPath()).size() <= smallBytes ? Decoding::All : Decoding::KeyPictures;
+    return foundation::fileFacts(m_output->partPath()).bytes <= smallBytes ? Decoding::All : Decoding::KeyPictures;
 }
 
 void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &findings)
 {
     const ToolProcess &tool =
-        run(decodingCommand(m_request.tools.transcoder, ToolPath(m_output->partPath()).argument(), neededDecoding()),
+        run(decodingCommand(m_request.tools.transcoder, m_outputPath->argument(), neededDecoding()),
             [this, ending, findings](const ToolEnding &decoding) {
                 if (!decoding.isGood() && !isStopping() && m_reading.faults() == 0)
                     m_reading.readLine("[error] The finished file could not be decoded");
@@ -152,6 +150,7 @@ void TranscodeJob::discard()
         m_placing->takeBack();
     m_placing.reset();
     m_output.reset();
+    m_outputPath.reset();
     m_workFolder.reset();
 }
 
