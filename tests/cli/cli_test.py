@@ -2,6 +2,7 @@
 """cli_test.py BUNDLE: the converter's work without a window."""
 import json
 import os
+import resource
 import signal
 import subprocess
 import sys
@@ -122,6 +123,26 @@ class CliTest(unittest.TestCase):
             status, objects, errors = self.cli.run('jobs', *verb)
             self.assertEqual((status, objects, errors.count('\n')), (1, [], 1))
         self.assertEqual([name for name in os.listdir(os.path.dirname(store)) if 'damaged' in name], [])
+
+    def test_what_cannot_be_written_is_told(self):
+        with open('/dev/full', 'wb') as full:
+            rows = [{'stdout': full}, {'preexec_fn': lambda: os.close(1)}]
+            for options in rows:
+                done = subprocess.run([self.cli.program, 'presets'], env=self.cli.environment, stderr=subprocess.PIPE, **options)
+                self.assertEqual((done.returncode, done.stderr.count(b'\n')), (1, 1), done.stderr)
+        make_clip(self.clip, 20)
+        process = self.cli.start('--json', 'convert', '--no-copy', '--to', self.out, self.clip,
+                                 preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (100_000, 100_000)))
+        result = json.loads(process.communicate(timeout=60)[0].splitlines()[-1])
+        self.assertEqual((process.returncode, result['state']), (1, 'failed'))
+        self.assertRegex(result['problems'][0], 'cannot hold a file of this size')
+
+    def test_a_folder_of_any_name_takes_results(self):
+        out = os.fsencode(self.cli.home) + b'/\xff out'
+        os.mkdir(out)
+        status, results = self.cli.results('convert', '--to', out, self.clip)
+        self.assertEqual((status, results[0]['state'], os.listdir(out)), (0, 'done', [b'film.mp4']))
+        self.assertEqual([each['state'] for each in self.cli.run('jobs')[1]], ['done'])
 
     def test_presets_are_told_an_object_a_line(self):
         by_id = {each['id']: each for each in self.cli.run('presets', '--all')[1]}
