@@ -98,7 +98,8 @@ ExitStatus retry(const Surroundings &surroundings, const Choice &choice)
     QList<JobId> ids;
     for (const ListedJob &job : choice.jobs) {
         const JobRecord &listed = job.record;
-        const bool isOpen = listed.state == JobState::Interrupted || job.hasLostOwner;
+        const bool isOpen =
+            listed.state == JobState::Interrupted || (listed.state == JobState::Ready && job.hasLostOwner);
         const JobRecord *record = queue.record(listed.id);
         if (!record || !recipes.knows(listed.module) || !choice.isMeant(job, isOpen))
             continue;
