@@ -93,6 +93,8 @@ class CliTest(unittest.TestCase):
         while b'"fraction"' not in process.stdout.readline():
             pass
         self.assertEqual((len(os.listdir(self.out)), len(os.listdir(self.cli.folder('tmp')))), (1, 1))
+        work = os.path.join(self.cli.path('tmp'), os.listdir(self.cli.path('tmp'))[0])
+        self.assertEqual(os.stat(work).st_mode & 0o77, 0, 'others can look into it')
         _, jobs, _ = self.cli.run('jobs')
         self.assertEqual([(each['state'], each['process']) for each in jobs], [('running', process.pid)])
         self.assertEqual([self.cli.run('jobs', verb, '1')[0] for verb in ('retry', 'clear')], [1, 1])
