@@ -42,6 +42,7 @@
 #include <QTranslator>
 
 #include <unistd.h>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -193,6 +194,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     tarnwell::applyTheme(application);
 
     foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s));
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that grows too large is a failure to be told
     ProgramJobs jobs([] { return openJobStore(jobStorePath()); },
                      [](const QString &) { return wishesOf(JKestrelSetting::ShareInst()); });
     AppDelegate delegate(surroundings(defaults, fetcher, jobs));

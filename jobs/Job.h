@@ -3,7 +3,9 @@
 #include "JobRecord.h"
 
 #include <QObject>
+#include <QPointer>
 
+#include <functional>
 #include <memory>
 
 namespace kestrel {
@@ -24,12 +26,33 @@ public:
     /// Only where it can.
     virtual void setPaused(bool paused) { Q_UNUSED(paused); }
 
+    /// Keeps record of what is about to get its name, with the outcome as it will be but for `outputs`, and calls
+    /// `then` when that cannot get lost any more.
+    using Notary = std::function<void(const JobOutcome &outcome, const QString &partPath, std::function<void()> then)>;
+    void setNotary(Notary notary) { m_notary = std::move(notary); }
+
 signals:
     void progressed(const kestrel::JobProgress &progress);
     /// Something that the user should know while it runs; told in the row.
     void noted(const kestrel::tarnwell::Sentence &note);
     /// Once, later than `start` returns. Nothing follows.
     void finished(const kestrel::JobOutcome &outcome);
+
+protected:
+    /// Calls `then`, unless the job is gone by then, when what is about to be placed is on record; at once where nobody
+    /// keeps any.
+    void beforePlacing(const JobOutcome &outcome, const QString &partPath, std::function<void()> then)
+    {
+        if (!m_notary)
+            return then();
+        m_notary(outcome, partPath, [self = QPointer(this), then = std::move(then)] {
+            if (self)
+                then();
+        });
+    }
+
+private:
+    Notary m_notary;
 };
 
 /// What a job takes.

@@ -32,9 +32,9 @@ void JobQueue::start(const QList<JobId> &ids)
     schedule();
 }
 
-void JobQueue::cancel(const QList<JobId> &ids)
+void JobQueue::cancel(const QList<JobId> &ids, Waiting waiting)
 {
-    QList<JobId> active;
+    QList<JobId> active, ended;
     QSet<QString> modules;
     for (const JobId id : ids) {
         Entry *entry = find(id);
@@ -43,9 +43,16 @@ void JobQueue::cancel(const QList<JobId> &ids)
         } else if (entry && entry->record.state == JobState::Waiting) {
             modules.insert(entry->record.module);
             endWaiting(*entry);
+            if (waiting == Waiting::IsCancelled) {
+                entry->record.state = entry->record.outcome.state = JobState::Cancelled;
+                entry->record.ended = QDateTime::currentDateTimeUtc();
+                ended.append(id);
+            }
             tell(*entry);
         }
     }
+    for (const JobId id : std::as_const(ended))
+        emit this->ended(id);
     // Now that none of them waits any more to take the place of what ends.
     for (const JobId id : std::as_const(active)) {
         if (Entry *entry = find(id); entry && entry->run) {
@@ -110,7 +117,9 @@ void JobQueue::interrupt(QList<JobId> ids)
     // Stored first: ending the tools may take its time, and this may be the program's last moment.
     for (const JobId id : ids) {
         Entry &entry = *find(id);
-        entry.record.state = entry.record.outcome.state = JobState::Interrupted;
+        entry.record.state = JobState::Interrupted;
+        entry.record.outcome = {.state = JobState::Interrupted};
+        entry.record.placing.reset();
         leaveLane(entry);
         entry.run->job().disconnect(this);
         if (m_store && entry.run->isToBeRemoved)

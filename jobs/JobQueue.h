@@ -51,8 +51,9 @@ public:
 
     /// Puts what is Ready or has ended into Waiting; the first of them run at once where their lanes have room.
     void start(const QList<JobId> &ids);
-    /// What waits becomes Ready again, what runs is Cancelled within 100 ms.
-    void cancel(const QList<JobId> &ids);
+    /// What runs is Cancelled within 100 ms. What waits becomes Ready again, or is Cancelled as well.
+    enum class Waiting { BecomesReady, IsCancelled };
+    void cancel(const QList<JobId> &ids, Waiting waiting = Waiting::BecomesReady);
     void stop(const QList<JobId> &ids);  ///< ends active ones with what there is
     void setPaused(const QList<JobId> &ids, bool paused);
     /// For the end of the program: what runs ends at once and is Interrupted in the store before this returns, which
@@ -126,6 +127,7 @@ private:
     void block(Entry &entry, const tarnwell::Sentence &reason);
     void run(Entry &entry);
     void takeProgress(JobId id, const JobProgress &progress);
+    void notePlacing(JobId id, const JobOutcome &outcome, const QString &partPath, std::function<void()> then);
     void showProgress();
     void finish(JobId id, JobOutcome outcome);
     void endCancelled(const QList<JobId> &ids);

@@ -22,7 +22,7 @@ namespace kestrel::cli {
 namespace {
 
 /// What a file holds, or why it cannot be read.
-MediaProber::Answer lookedAt(const QString &path, const JKestrelSettingDispatcher &settings)
+MediaProber::Answer lookedAt(const QString &path, CliSession &session)
 {
     MediaProber prober;
     QEventLoop loop;
@@ -31,8 +31,8 @@ MediaProber::Answer lookedAt(const QString &path, const JKestrelSettingDispatche
         told = answer;
         loop.quit();
     });
-    prober.probe(1, proberBeside(settings.getTranscoderPath()), path);
-    loop.exec();
+    prober.probe(1, proberBeside(session.settings().getTranscoderPath()), path);
+    session.wait(loop);
     return *told;
 }
 
@@ -81,7 +81,7 @@ struct Conversion {
 
 /// What is to be done with the files: one conversion each, or one for all of them.
 foundation::Result<QList<Conversion>> conversionsOf(const QStringList &files, const ConvertRequest &request,
-                                                    const JKestrelSettingDispatcher &settings)
+                                                    CliSession &session)
 {
     QList<Conversion> conversions;
     const bool namesTracks = request.audioNumbers || request.subtitleNumbers || request.burnedSubtitle > 0;
@@ -94,7 +94,7 @@ foundation::Result<QList<Conversion>> conversionsOf(const QStringList &files, co
         conversion.plan.sources = {file};
         if (namesTracks) {
             // Without the look nobody knows which tracks are meant, and the job would take all of them.
-            const MediaProber::Answer answer = lookedAt(file, settings);
+            const MediaProber::Answer answer = lookedAt(file, session);
             if (!answer)
                 conversion.unusable = answer.reason();
             else if (!chooseTracks(request, *answer, conversion.plan))
@@ -124,7 +124,9 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
         return wrongUsage(u"Name the files to convert."_s);
     if (files.isPart)
         std::fprintf(stderr, "kestrel-cli: a folder is too large; only some of its files are converted\n");
-    const auto conversions = conversionsOf(files.paths, request, settings);
+    const auto conversions = conversionsOf(files.paths, request, session);
+    if (session.isInterrupted())
+        return InterruptedBySignal;
     if (!conversions)
         return wrongUsage(conversions.reason());
 
@@ -143,7 +145,7 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
         }
         ids.append(session.queue().add(record));
     }
-    return runJobs(session.queue(), ids, surroundings);
+    return runJobs(session, ids, surroundings);
 }
 
 }  // namespace kestrel::cli

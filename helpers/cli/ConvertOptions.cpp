@@ -103,13 +103,15 @@ constexpr Option<Request> options[] = {
              request.plan.preset = *preset;
          request.presetId = value;
          return preset != nullptr;
-     }},
+     },
+     "\"presets --all\" lists what there is"},
     {"preset-file", "FILE", "a preset that was exported", &readPresetFile},
     {"to", "FOLDER", "where the results go (the settings' folder)",
      [](const QString &value, Request &request) {
          request.folder = absoluteFileName(value);
-         return QFileInfo(request.folder).isDir();
-     }},
+         return foundation::fileFacts(request.folder).kind == foundation::FileKind::Folder;
+     },
+     noFolder},
     {"beside-source", nullptr, "results go beside their sources",
      [](const QString &, Request &request) {
          request.plan.besideSource = true;

@@ -266,7 +266,7 @@ void RecordJob::join()
     constexpr qint64 margin = 10'000'000;
     if (space && space->available < bytes + margin)
         return placeAsItIs("The disk is too full to finish the recording: it stays a Matroska file."_key);
-    m_workFolder = std::make_unique<QTemporaryDir>();
+    m_workFolder = std::make_unique<WorkFolder>();
     m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
     const QString list = m_workFolder->filePath(u"list.txt"_s);
     QSaveFile file(list);

@@ -28,6 +28,8 @@ public:
             this, [this, outcome] { emit finished(outcome); }, Qt::QueuedConnection);
     }
 
+    using Job::beforePlacing;
+
     const JobId id;
     bool hasStarted = false;
     bool isPaused = false;

@@ -193,13 +193,13 @@ TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
     } rows[] = {
         {"good", [](TranscodeFacts &) {}, JobState::Done, ""},
         {"a fault of the source", [](TranscodeFacts &f) { f.messages.readLine("[error] no frame!"); },
-         JobState::DoneWithProblems, "60 of 60 s could be read, 1 faults"},
+         JobState::DoneWithProblems, "60 of 60 s could be read, 1 fault"},
         {"a fault of a source without a length",
          [](TranscodeFacts &f) {
              f.messages.readLine("[error] no frame!");
              f.sourceTellsDuration = false;
          },
-         JobState::DoneWithProblems, "60 s could be read, 1 faults"},
+         JobState::DoneWithProblems, "60 s could be read, 1 fault"},
         {"short",
          [](TranscodeFacts &f) {
              f.findings->isShort = true;

@@ -132,7 +132,7 @@ TEST_F(TranscodeJobTest, ToolsThatDoNotDoAsTheySay)
         SCOPED_TRACE(name);
         QFile::remove(path(u"runs"_s));
         useTool(lines);
-        m_tools.silenceLimit = std::chrono::milliseconds(QByteArray(name) == "hang" ? 300 : 60'000);
+        m_tools.stallLimit = std::chrono::milliseconds(QByteArray(name) == "hang" ? 300 : 60'000);
         const JobOutcome outcome = run(planFor({film(u"mkv"_s)}, u"mp4-h264"_s)).outcome;
         EXPECT_EQ(int(outcome.state), int(state)) << outcome.details.toStdString();
         EXPECT_TRUE(outcome.sentence.english().contains(QString::fromLatin1(sentence)))
