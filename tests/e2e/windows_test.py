@@ -1,30 +1,32 @@
 """Windows where people put them: on the screen, dragged, under a sheet, worked by the keyboard alone."""
+import os
 import re
 import subprocess
 
 from accessible import states, wait_for
 from harness import ProgramTest, main
-from material import unarchived
+from material import make_clip, unarchived
 
 
 class WindowsTest(ProgramTest):
-    def frame(self, app):
-        window = app.wait_for_window()
+    screen = '1920x1080x24'
+
+    def frame(self, window):
         place = self.desktop.x('xwininfo', '-id', window['id'])
         return [int(re.search(rf'{name}:\s+(-?\d+)', place)[1])
                 for name in ('Absolute upper-left X', 'Absolute upper-left Y', 'Width', 'Height')]
 
     def test_dragging_keeps_up_with_the_pointer(self):
         app = self.launch()
-        x, y, width, _ = self.frame(app)
+        x, y, width, _ = self.frame(app.wait_for_window())
         self.desktop.move(x + width // 2, y + 15)
         self.desktop.x('xdotool', 'mousedown', 1)
         for step in range(1, 9):
             self.desktop.move(x + width // 2 + 8 * step, y + 15 + 4 * step)
             if step > 1:  # the desktop has taken over
-                wait_for(lambda: self.frame(app)[0] > x, 'the window to move')
+                wait_for(lambda: self.frame(app.wait_for_window())[0] > x, 'the window to move')
         self.desktop.x('xdotool', 'mouseup', 1)
-        wait_for(lambda: self.frame(app)[:2] == [x + 64, y + 32], f'the window to go from {x}, {y} by 64, 32')
+        wait_for(lambda: self.frame(app.wait_for_window())[:2] == [x + 64, y + 32], f'the window to go from {x}, {y} by 64, 32')
 
     def test_menus_and_their_shortcuts_work_under_a_sheet(self):
         app = self.launch()
@@ -59,6 +61,25 @@ class WindowsTest(ProgramTest):
         wait_for(lambda: not app.find_all('dialog'), 'the file dialog to close')
         self.desktop.key('F10')
         app.find('menu item', 'Check for Updates…')
+
+    def test_everything_fits_a_screen_of_large_points(self):
+        film = make_clip(self.desktop.home + '/Film.mkv')
+        app = self.launch(film, QT_SCALE_FACTOR='2')
+        viewer = os.path.join(self.bundle, 'Contents/Resources/KestrelLogWatcher.app/Contents/MacOS/KestrelLogWatcher')
+        app.find('list item', re.compile('Film.mkv'))
+        def check(app, name):
+            x, y, width, height = self.frame(app.windows()[-1])
+            self.assertTrue(x >= 0 and y >= 0 and x + width <= 1920 and y + height <= 1080, name)
+        check(app, 'converter')
+        for keys in ('ctrl+e', 'ctrl+f', 'ctrl+comma'):
+            self.desktop.key(keys)
+            app.find('dialog')
+            check(app, keys)
+            self.desktop.key('Escape')
+            wait_for(lambda: not app.find_all('dialog'), f'what {keys} opened to close')
+        viewer = self.desktop.launch_program(viewer, self.desktop.log_path(self.bundle), QT_SCALE_FACTOR='2')
+        viewer.wait_for_window()
+        check(viewer, 'log viewer')
 
     def test_what_is_typed_is_kept_when_the_display_goes(self):
         with subprocess.Popen(['Xvfb', '-displayfd', '1', '-nolisten', 'tcp', '-noreset', '-screen', '0', '1440x900x24'],
