@@ -53,7 +53,6 @@ JobPage::JobPage(JobQueue &queue, JobList &list, const QString &module, const Jo
     m_form->listLayout->addWidget(m_list);
     m_list->setObjectName(u"jobList"_s);
     m_list->setAccessibleName(texts.title.localized());
-    setTabOrder(m_form->filterEdit, m_list);
     setUpTexts(texts);
     setUpActions();
     showRows();

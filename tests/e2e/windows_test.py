@@ -2,10 +2,29 @@
 import os
 import re
 import subprocess
+from itertools import pairwise
 
-from accessible import states, wait_for
+from accessible import children, extents, states, wait_for
 from harness import ProgramTest, main
 from material import make_clip, unarchived
+
+
+def focused(node):
+    """Place and name of the control below `node` that has the keyboard."""
+    for child in children(node):
+        found = states(child)
+        if 'focused' in found:
+            return *extents(child), child.get_name()
+        if 'showing' in found and (place := focused(child)):
+            return place
+    return None
+
+
+def is_read_next(before, after):
+    """Whether it begins below, or right of it in the same line."""
+    x, y, width, height, _ = before
+    next_x, next_y, _, next_height, _ = after
+    return next_y >= y + height or (next_x >= x + width and next_y < y + height and next_y + next_height > y)
 
 
 class WindowsTest(ProgramTest):
@@ -61,6 +80,21 @@ class WindowsTest(ProgramTest):
         wait_for(lambda: not app.find_all('dialog'), 'the file dialog to close')
         self.desktop.key('F10')
         app.find('menu item', 'Check for Updates…')
+
+    def test_tab_goes_as_one_reads(self):
+        app = self.launch()
+        for module in 'Video Converter', 'DVD Ripper', 'Downloader', 'Recorder':
+            self.click(app, 'push button', module)
+            app.wait_for_window(f'Kestrel 4K - {module}')
+            stops = [focused(app.node())]
+            while len(stops) < 3 or stops[-1] != stops[1]:  # the first may be none that Tab comes back to
+                self.desktop.key('Tab')
+                stops.append(wait_for(lambda: (now := focused(app.node())) != stops[-1] and now, 'the next control'))
+            stops = stops[2:]
+            top = stops.index(min(stops, key=lambda stop: stop[1]))
+            for before, after in pairwise(stops[top:] + stops[:top]):
+                self.assertTrue(is_read_next(before, after), f'{module}: {after} comes after {before}')
+            self.click(app, 'push button', 'Back')
 
     def test_everything_fits_a_screen_of_large_points(self):
         film = make_clip(self.desktop.home + '/Film.mkv')

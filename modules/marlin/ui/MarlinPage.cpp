@@ -14,6 +14,7 @@
 #include "modules/marlin/Conversions.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TabOrder.h"
 
 #include <QMenu>
 #include <QPushButton>
@@ -59,6 +60,7 @@ std::unique_ptr<QWidget> MarlinController::makeContents()
     addKeys();
     showPreset();
     showState();
+    tarnwell::tabInLayoutOrder(*page);
     return page;
 }
 

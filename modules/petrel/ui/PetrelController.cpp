@@ -14,6 +14,7 @@
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
+#include "tarnwell/ui/TabOrder.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -97,6 +98,7 @@ std::unique_ptr<QWidget> PetrelController::makeContents()
     for (const JobId id : queue().idsIn({JobState::Checking}, petrelJobs.toString()))
         lookAt(id);
     showState();
+    tarnwell::tabInLayoutOrder(*page);
     return page;
 }
 
