@@ -37,26 +37,34 @@ class WindowsTest(ProgramTest):
 
     def test_dragging_keeps_up_with_the_pointer(self):
         app = self.launch()
-        x, y, width, _ = self.frame(app.wait_for_window())
+        window = app.wait_for_window()
+        x, y, width, _ = self.frame(window)
         self.desktop.move(x + width // 2, y + 15)
         self.desktop.x('xdotool', 'mousedown', 1)
         for step in range(1, 9):
             self.desktop.move(x + width // 2 + 8 * step, y + 15 + 4 * step)
             if step > 1:  # the desktop has taken over
-                wait_for(lambda: self.frame(app.wait_for_window())[0] > x, 'the window to move')
+                wait_for(lambda: self.frame(window)[0] > x, 'the window to move')
         self.desktop.x('xdotool', 'mouseup', 1)
-        wait_for(lambda: self.frame(app.wait_for_window())[:2] == [x + 64, y + 32], f'the window to go from {x}, {y} by 64, 32')
+        wait_for(lambda: self.frame(window)[:2] == [x + 64, y + 32], f'the window to go from {x}, {y} by 64, 32')
 
     def test_menus_and_their_shortcuts_work_under_a_sheet(self):
         app = self.launch()
         self.click(app, 'push button', 'Settings')
         app.find('dialog', 'Settings')
-        self.desktop.key('F1')
-        wait_for(lambda: any('help' in call[0] for call in self.desktop.calls('xdg-open')), 'the help page')
+        def help_is_shown(times):
+            self.desktop.key('F1')
+            wait_for(lambda: sum('help' in call[0] for call in self.desktop.calls('xdg-open')) == times, 'the help page')
+        help_is_shown(1)
         self.click(app, 'menu item', 'Help')
         app.find('menu item', 'Report Bug')
         self.desktop.key('Escape')
         wait_for(lambda: not app.find_all('menu item', 'Report Bug'), 'the menu to close')
+        self.click(app, 'push button', 'Details…')
+        wait_for(lambda: len(app.find_all('dialog')) == 2, 'a sheet over the sheet')
+        help_is_shown(2)
+        self.desktop.key('ctrl+w')
+        wait_for(lambda: len(app.find_all('dialog')) == 1, 'the upper one to close')
         self.desktop.key('ctrl+w')
         wait_for(lambda: not app.find_all('dialog'), 'the settings to close')
         self.click(app, 'push button', 'About')
