@@ -7,12 +7,12 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <climits>
 #include <cmath>
+#include <ctime>
 #include <limits>
 #include <random>
 
@@ -173,14 +173,13 @@ TEST(PropertyList, RefusesBrokenBinaryOnes)
         {"a million levels", binaryPlist(chain + QList<QByteArray>{"\x09"}, 4), "nested deeper than 512"},
         {"references that multiply", binaryPlist(multiplying + QList<QByteArray>{"\x09"}), "more than 2000000 values"},
     };
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock();
     for (const auto &row : table) {
         const PropertyListResult result = readPropertyList(row.bytes);
         EXPECT_FALSE(result.value) << row.name;
         EXPECT_TRUE(result.error.message.contains(QLatin1StringView(row.message))) << row.name;
     }
-    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_LT(std::clock() - start, 5 * CLOCKS_PER_SEC);
 }
 
 TEST(PropertyList, KeepsToItsLimits)
