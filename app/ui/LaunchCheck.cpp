@@ -87,7 +87,7 @@ void LaunchCheck::showWhatIsDue(const std::shared_ptr<const UPParser> &descripto
     setDescriptor(descriptor);
     foundation::NotificationCenter::defaultCenter().postNotificationName(tarnwell::RMTConfigureDidParse.toString(),
                                                                          descriptor.get());
-    if (m_upgradeWindow) {
+    if (m_wasAskedByHand) {
         tarnwell::DNFootLog(u"Update check: the user has asked for one in the meantime"_s);
         return;
     }
@@ -126,6 +126,7 @@ void LaunchCheck::showUpdateWindow()
 {
     if (m_upgradeWindow)
         return m_upgradeWindow->window()->makeKeyAndOrderFront();
+    m_wasAskedByHand = true;
     runUpgradeWindow(descriptorURL(), &UpgradeWindowController::showUpgradeWindow);
 }
 
