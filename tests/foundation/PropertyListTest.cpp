@@ -133,6 +133,8 @@ TEST(PropertyList, ForgivesWhatCanBeUnderstoodWhereThatIsWanted)
          "<?xml version=\"1.0\" encoding=\"Windows-1252\"?><plist><string>\x80 \xFC\x84</string></plist>", u"€ ü„"_s},
         {"all of it", "\n<?xml version=\"1.0\" encoding=\"cp1252\"?>" + dictionary,
          QVariantMap{{u"a"_s, 2}, {u"b"_s, u"„"_s}}},
+        {"a key twice in a binary list",
+         binaryPlist({fromHex("d201020304"), "\x51k", "\x51k", "\x09", fromHex("1002")}), QVariantMap{{u"k"_s, 2}}},
         {"another encoding", plistFile(u"broken_plists/unknown_encoding.plist"_s), {}},
         {"a key without a value", plistFile(u"broken_plists/key_without_value.plist"_s), {}},
         {"text before the declaration", "x<?xml version=\"1.0\"?><plist><true/></plist>", {}},
