@@ -109,8 +109,9 @@ bool JKestrelSetting::sync()
         tarnwell::DNFootLog(u"The settings could not be archived"_s);
         return false;
     }
-    if (std::exchange(m_isStoredUnreadable, false))
-        m_defaults.keepAside(settingKey);
+    if (m_isStoredUnreadable && !m_defaults.keepAside(settingKey))
+        return false;
+    m_isStoredUnreadable = false;
     m_defaults.setObject(archive, settingKey);
     return m_defaults.synchronize();
 }

@@ -41,7 +41,7 @@ public:
     static JKestrelSetting &ShareInst();
 
     /// Writes the model to the defaults and the defaults to the disk. False where that failed: where it cannot be
-    /// archived, the stored value stays. A stored one that could not be read is kept beside the defaults.
+    /// archived, the stored value stays, and so does one that could not be read and cannot be kept beside the defaults.
     bool sync();
 
     JVideoSetting *video() const { return m_video.get(); }
