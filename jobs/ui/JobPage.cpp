@@ -19,6 +19,8 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -182,6 +184,8 @@ void JobPage::showRun()
         control->setVisible(isBusy);
     if (hadFocus && !isBusy)
         m_list->setFocus();
+    if (std::exchange(m_showsRun, isBusy) && !isBusy)
+        m_form->statusLabel->clear();  // the list says what came out
     if (!isBusy)
         return;
     const JobProgress progress = m_queue.overallProgress(m_module);
