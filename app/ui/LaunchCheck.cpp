@@ -4,8 +4,8 @@
 #include "foundation/NotificationCenter.h"
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
+#include "foundation/ui/OutsidePicture.h"
 #include "remote/Promotion.h"
-#include "remote/PromotionPicture.h"
 #include "remote/ui/JAdvertisementWinController.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/Notifications.h"
@@ -112,7 +112,7 @@ void LaunchCheck::fetchPromotion(const std::shared_ptr<const UPParser> &descript
                 m_sources.fetch({.address = promotion.pictureURL(), .maximumBytes = maximumPictureBytes});
             if (!result.body)
                 tarnwell::DNFootLog(u"The picture of the promotion could not be fetched: %1"_s, result.reason);
-            picture = promotionPicture(result.body.value_or(QByteArray()));
+            picture = foundation::pictureFromOutside(result.body.value_or(QByteArray()));
         }
         foundation::queue::asyncMain([self = QPointer(this), descriptor, picture] {
             if (self && !self->m_hasRunEnded && !self->m_upgradeWindow)

@@ -47,12 +47,12 @@ EngineUpdate::Source EngineUpdate::productSource()
     return {bundle.infoString(u"TWDownloadEngineLink"_s), bundle.infoString(u"TWDownloadEngineKey"_s).toLatin1()};
 }
 
-void EngineUpdate::start(bool isAsked)
+void EngineUpdate::start(Asked asked)
 {
     if (m_isUnderWay)
         return;
     m_isUnderWay = true;
-    if (m_source.address.isEmpty() || (!m_store.takeTurn(QDateTime::currentDateTimeUtc()) && !isAsked))
+    if (m_source.address.isEmpty() || (!m_store.takeTurn(QDateTime::currentDateTimeUtc()) && asked == Asked::ByItself))
         return end(End::NotDue, u"not due"_s);
     m_tools.engine = m_store.engine();
     foundation::makePrivateFolder(m_tools.home);
