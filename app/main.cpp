@@ -37,7 +37,6 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSessionManager>
-#include <QStandardPaths>
 #include <QThread>
 #include <QTranslator>
 
@@ -86,7 +85,7 @@ bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &file
 QStringList instanceFolders()
 {
     const QString identifier = foundation::Bundle::main().identifier();
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString runtime = foundation::runtimeDirectory();
     return {runtime.isEmpty() ? QString() : runtime + u'/' + identifier,
             foundation::stateDirectory() + u'/' + identifier,
             QDir::tempPath() + u'/' + identifier + u'-' + QString::number(::getuid())};

@@ -3,11 +3,11 @@
 #include "StoredJob.h"
 #include "foundation/Bundle.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/ProductInformation.h"
 #include "tarnwell/SystemInformation.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QRandomGenerator>
@@ -315,7 +315,7 @@ QString jobStorePath()
 std::unique_ptr<JobStore> openJobStore(const QString &path, const QString &libraryPath)
 {
     const QString folder = QFileInfo(path).absolutePath();
-    QDir().mkpath(folder);
+    foundation::makePrivateFolder(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     auto store = std::make_unique<ThreadedJobStore>(path, libraryPath);
     return store->isOpen() ? std::move(store) : nullptr;

@@ -43,7 +43,7 @@ ExitStatus update(const Surroundings &surroundings, CliSession &session)
         tell(surroundings, QString::fromLatin1(states[int(end)]), text);
         loop.quit();
     });
-    update.start(true);
+    update.start(EngineUpdate::Asked::ByUser);
     return session.wait(loop) ? status : InterruptedBySignal;
 }
 

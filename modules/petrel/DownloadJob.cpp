@@ -3,6 +3,7 @@
 #include "PartFolder.h"
 
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "jobs/OutputFile.h"
 #include "media/MediaProber.h"
 #include "media/Placing.h"
@@ -10,7 +11,6 @@
 #include "media/ToolPath.h"
 #include "tarnwell/Log.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -55,7 +55,7 @@ void DownloadJob::start()
         return fail("The options of this job could not be read. Add the address again."_key);
     if (!QFileInfo(m_tools.engine.engine).isExecutable())
         return fail("The download engine is missing. Please install the application again."_key);
-    QDir().mkpath(m_tools.engine.home);
+    foundation::makePrivateFolder(m_tools.engine.home);
     auto part = PartFolder::take(m_folder, m_plan);
     if (!part)
         return fail(part.reason());
