@@ -50,6 +50,7 @@ public:
     void move(const QList<JobId> &ids, JobId before);
 
     /// Puts what is Ready or has ended into Waiting; the first of them run at once where their lanes have room.
+    /// Thousands begin to wait in later turns of the event loop.
     void start(const QList<JobId> &ids);
     /// What runs is Cancelled within 100 ms. What waits becomes Ready again, or is Cancelled as well.
     enum class Waiting { BecomesReady, IsCancelled };
@@ -117,6 +118,8 @@ private:
     void removeRows(Module &module, const QString &name, const QList<JobId> &ids);
     void moveRanges(const QString &name, const QList<JobOrder::Range> &ranges, int to);
 
+    void startSome();
+    bool isStarting(const QString &module) const;
     void beginWaiting(Entry &entry);
     void endWaiting(Entry &entry);
     void schedule();
@@ -142,11 +145,13 @@ private:
     std::map<QString, Module> m_modules;
     std::array<LaneUse, laneCount> m_lanes;
     QList<JobId> m_active;
+    QList<JobId> m_toStart;  ///< not Waiting yet
     QSet<JobId> m_unshown;  ///< progress that came too soon after the last
     JobId m_lastId = 0;
     quint64 m_lastTurn = 0;
     bool m_isScheduling = false;
     bool m_isToScheduleAgain = false;
+    bool m_isStartingLater = false;
     bool m_isShowingLater = false;
     bool m_isToLookAgain = false;
     bool m_isEnding = false;

@@ -314,7 +314,7 @@ void JobQueue::finish(JobId id, JobOutcome outcome)
 void JobQueue::settleIdle(const QString &module)
 {
     Module &ofModule = m_modules[module];
-    if (!ofModule.isBusy || !ofModule.batch.isIdle() || m_isEnding)
+    if (!ofModule.isBusy || !ofModule.batch.isIdle() || isStarting(module) || m_isEnding)
         return;
     ofModule.isBusy = false;
     ofModule.batch = {};

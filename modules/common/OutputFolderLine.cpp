@@ -6,6 +6,7 @@
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/TextStyles.h"
+#include "tarnwell/ui/TranslateControls.h"
 #include "ui_OutputFolderLine.h"
 
 #include <QDir>
@@ -17,6 +18,7 @@ namespace kestrel {
 OutputFolderLine::OutputFolderLine(QWidget *parent) : QWidget(parent), m_form(std::make_unique<Ui::OutputFolderLine>())
 {
     m_form->setupUi(this);
+    tarnwell::TranslateControls(this);
     m_form->openFolderButton->setIcon(tarnwell::namedIcon(u"marlin_folder"_s));
     tarnwell::setTextStyle(m_form->folderCaption, 13, QFont::Normal, tarnwell::palette::quietText);
     m_form->openFolderButton->setAccessibleDescription(tarnwell::AppLocalizedString(u"Open the output folder"_s));

@@ -90,6 +90,12 @@ class SettingsTest(ProgramTest):
         self.desktop.set_defaults(self.bundle, kAppCustomizeLanguage='de')
         app = self.launch()
         shown = names_below(app.node())
+        for module in ('Video Converter', 'DVD Ripper', 'Downloader', 'Recorder'):
+            self.click(app, 'push button', german[module])
+            back = app.find('push button', german['Back'])
+            shown |= names_below(app.node())
+            self.desktop.click(back)
+            app.find('push button', german[module])
         self.click(app, 'push button', german['About'])
         shown |= names_below(app.find('dialog'))
         self.desktop.key('Escape')
