@@ -37,11 +37,11 @@
 #include <QProcess>
 #include <QRandomGenerator>
 #include <QSessionManager>
-#include <QStandardPaths>
 #include <QThread>
 #include <QTranslator>
 
 #include <unistd.h>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -85,7 +85,7 @@ bool isTheOne(SingleInstance &instance, int argc, char **argv, QStringList &file
 QStringList instanceFolders()
 {
     const QString identifier = foundation::Bundle::main().identifier();
-    const QString runtime = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
+    const QString runtime = foundation::runtimeDirectory();
     return {runtime.isEmpty() ? QString() : runtime + u'/' + identifier,
             foundation::stateDirectory() + u'/' + identifier,
             QDir::tempPath() + u'/' + identifier + u'-' + QString::number(::getuid())};
@@ -193,6 +193,7 @@ int run(QApplication &application, SingleInstance &instance, const QStringList &
     tarnwell::applyTheme(application);
 
     foundation::Fetcher fetcher(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s));
+    std::signal(SIGXFSZ, SIG_IGN);  // a file that grows too large is a failure to be told
     ProgramJobs jobs([] { return openJobStore(jobStorePath()); },
                      [](const QString &) { return wishesOf(JKestrelSetting::ShareInst()); });
     AppDelegate delegate(surroundings(defaults, fetcher, jobs));

@@ -21,9 +21,10 @@ constexpr qint64 binaryTrailerSize = 32;
 /// limit.
 class BinaryPropertyListReader {
 public:
-    BinaryPropertyListReader(const QByteArray &bytes, const PropertyListLimits &limits)
+    BinaryPropertyListReader(const QByteArray &bytes, const PropertyListLimits &limits, PropertyListManner manner)
         : m_bytes(bytes),
-          m_limits(limits)
+          m_limits(limits),
+          m_manner(manner)
     {
     }
 
@@ -57,6 +58,7 @@ private:
 
     const QByteArray &m_bytes;
     PropertyListLimits m_limits;
+    PropertyListManner m_manner;
     PropertyListError m_error;
 
     int m_offsetSize = 0;
@@ -337,7 +339,7 @@ bool BinaryPropertyListReader::decodeContainer(Object &object, qint64 offset, qs
         if (!value)
             return false;
         map.insert(map.cend(), m_objects[key].value.toString(), *value);
-        if (map.size() != i + 1)
+        if (map.size() != i + 1 && m_manner == PropertyListManner::Strict)
             return fail(u"a key is there twice"_s, reference);
     }
     object.value = isDictionary ? QVariant(map) : QVariant(list);
@@ -346,9 +348,10 @@ bool BinaryPropertyListReader::decodeContainer(Object &object, qint64 offset, qs
 
 }  // namespace
 
-PropertyListResult readBinaryPropertyList(const QByteArray &bytes, const PropertyListLimits &limits)
+PropertyListResult readBinaryPropertyList(const QByteArray &bytes, const PropertyListLimits &limits,
+                                          PropertyListManner manner)
 {
-    return BinaryPropertyListReader(bytes, limits).read();
+    return BinaryPropertyListReader(bytes, limits, manner).read();
 }
 
 }  // namespace kestrel::foundation

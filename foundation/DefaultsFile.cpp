@@ -11,7 +11,6 @@
 #include <QTemporaryFile>
 #include <QThread>
 
-#include <algorithm>
 #include <cerrno>
 #include <chrono>
 #include <cstdio>
@@ -41,26 +40,14 @@ QString resolvedPath(QString path)
     return path;
 }
 
-/// Former versions put six random letters behind the name; a word there is somebody's own copy.
-bool isLeftReplacement(const QString &suffix)
-{
-    const auto isLower = [](QChar letter) { return letter >= u'a' && letter <= u'z'; };
-    const auto isUpper = [](QChar letter) { return letter >= u'A' && letter <= u'Z'; };
-    const auto isLetter = [&](QChar letter) { return isLower(letter) || isUpper(letter); };
-    return suffix.startsWith(replacementSuffix.sliced(1)) ||
-           (suffix.size() == 6 && std::ranges::all_of(suffix, isLetter) && std::ranges::any_of(suffix, isLower) &&
-            std::ranges::any_of(suffix.sliced(1), isUpper));
-}
-
 /// Removes what processes left that were killed while they replaced the file. Nobody else replaces it meanwhile.
 void removeLeftReplacements(const QString &path)
 {
     const QFileInfo info(path);
     const QDir folder = info.dir();
-    const qsizetype nameLength = info.fileName().size() + 1;
-    for (const QString &name : folder.entryList({info.fileName() + ".*"_L1}, QDir::Files | QDir::NoSymLinks))
-        if (isLeftReplacement(name.sliced(nameLength)))
-            QFile::remove(folder.filePath(name));
+    const QString names = info.fileName() + replacementSuffix + u'*';
+    for (const QString &name : folder.entryList({names}, QDir::Files | QDir::NoSymLinks))
+        QFile::remove(folder.filePath(name));
 }
 
 /// A free name beside the file, which tells the time.

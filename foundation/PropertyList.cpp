@@ -58,7 +58,7 @@ PropertyListResult readPropertyList(const QByteArray &bytes, const PropertyListL
 {
     if (bytes.size() > limits.bytes)
         return {{}, {}, {u"longer than %1 bytes"_s.arg(limits.bytes), limits.bytes, 0}};
-    return bytes.startsWith("bplist") ? readBinaryPropertyList(bytes, limits)
+    return bytes.startsWith("bplist") ? readBinaryPropertyList(bytes, limits, manner)
                                       : readXmlPropertyList(bytes, limits, manner);
 }
 

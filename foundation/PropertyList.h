@@ -39,9 +39,9 @@ struct PropertyListLimits {
 
 enum class PropertyListFormat { Xml, Binary };
 
-/// How XML that is unsound but can be understood is taken: an archive has none of it, while a document that somebody
-/// has written may have a dictionary with a key twice (the last counts), blanks before its declaration, or characters
-/// of windows-1252.
+/// How a list that is unsound but can be understood is taken: an archive has none of it, while a document that somebody
+/// has written may have a dictionary with a key twice (the last counts) or, in XML, blanks before its declaration, or
+/// characters of windows-1252.
 enum class PropertyListManner { Strict, Forgiving };
 
 struct PropertyListResult {

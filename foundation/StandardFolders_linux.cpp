@@ -3,6 +3,9 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QStandardPaths>
+
+#include <unistd.h>
 
 using namespace Qt::StringLiterals;
 
@@ -32,6 +35,15 @@ QString dataDirectory()
 QString stateDirectory()
 {
     return baseDirectory("XDG_STATE_HOME", u".local/state"_s);
+}
+
+QString runtimeDirectory()
+{
+    // Whoever starts from outside the session does not have the variable.
+    const QString usual = u"/run/user/%1"_s.arg(::geteuid());
+    if (!qEnvironmentVariableIsSet("XDG_RUNTIME_DIR") && QFileInfo(usual).isDir())
+        return usual;
+    return QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
 }
 
 bool makePrivateFolder(const QString &path)

@@ -193,12 +193,14 @@ bool UserDefaults::synchronize()
     return true;
 }
 
-void UserDefaults::keepAside(const QString &key)
+bool UserDefaults::keepAside(const QString &key)
 {
     const QByteArray bytes = dataForKey(key);
     DefaultsFile file(m_domainPath);
-    if (!bytes.isEmpty() && (!file.lock(lockPatience) || !file.keepAside(bytes, key)))
+    const bool isKept = bytes.isEmpty() || (file.lock(lockPatience) && file.keepAside(bytes, key));
+    if (!isKept)
         reportFailure(file.error());
+    return isKept;
 }
 
 void UserDefaults::load()

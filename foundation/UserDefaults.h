@@ -49,8 +49,8 @@ public:
     /// Why the last attempt to read or write failed, in English; null where it did not.
     QString failure() const { return m_failure; }
     /// Puts the data of a key, which its reader cannot make sense of, into a file "<name>.<key>.corrupt-<time>" beside
-    /// the domain, before it is replaced. Nothing where the key holds none.
-    void keepAside(const QString &key);
+    /// the domain, before it is replaced. Nothing where the key holds none. False where that failed.
+    bool keepAside(const QString &key);
 
 private:
     void load();

@@ -2,10 +2,12 @@
 
 #include <QDateTime>
 #include <QFile>
+#include <QFileInfo>
 #include <QSqlDatabase>
 #include <QSqlError>
 #include <QSqlQuery>
 #include <QThread>
+#include <QUrl>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -33,6 +35,8 @@ constexpr const char *schema[] = {
     "CREATE TABLE jobs (id INTEGER PRIMARY KEY, module TEXT NOT NULL, position REAL NOT NULL, state TEXT NOT NULL, "
     "owner TEXT NOT NULL, value TEXT NOT NULL)",
     "CREATE TABLE ids (next INTEGER NOT NULL)", "INSERT INTO ids VALUES (1)"};
+
+constexpr const char *columns = "SELECT id, module, position, state, owner, value FROM jobs LIMIT 0";
 
 constexpr const char *selection =
     "SELECT id, module, position, state, owner, CAST(value AS BLOB) FROM jobs "
@@ -72,14 +76,23 @@ private:
     bool m_isHeld = false;
 };
 
-enum class FileState { Good, Unusable, Inaccessible };
+/// Damaged, Newer: no use to this version.
+using FileState = JobFileState;
+
+enum class Access {
+    Full,
+    Reading,
+    ReadingAtRest,  ///< of a file that nobody has open; makes none beside it
+};
 
 class SqliteJobs final : public JobDatabase {
 public:
-    explicit SqliteJobs(const QString &path);
+    explicit SqliteJobs(const QString &path, Access access = Access::Full);
     ~SqliteJobs() override;
 
     FileState open();
+    /// Opens it and looks whether it is whole and one of ours; writes nothing.
+    FileState inspect();
     QList<JobRow> rows() override;
     bool write(const QList<JobRow> &changed, const QList<qint64> &removed) override;
     qint64 reserveIds(int count) override;
@@ -92,7 +105,7 @@ private:
     /// Runs the task in a transaction of its own, which is taken back where it fails.
     bool transact(const std::function<bool()> &task);
     bool create();
-    bool isOurs();
+    FileState kind();
     FileState failure() const;
 
     QString m_connection;
@@ -100,12 +113,20 @@ private:
     QSqlError m_error;
 };
 
-SqliteJobs::SqliteJobs(const QString &path)
+SqliteJobs::SqliteJobs(const QString &path, Access access)
     : m_connection(u"jobs-%1"_s.arg(quintptr(this), 0, 16)),
       m_database(QSqlDatabase::addDatabase(u"QSQLITE"_s, m_connection))
 {
-    m_database.setDatabaseName(path);
-    m_database.setConnectOptions(u"QSQLITE_BUSY_TIMEOUT=%1"_s.arg(busyTimeoutMs));
+    QString options = u"QSQLITE_BUSY_TIMEOUT=%1"_s.arg(busyTimeoutMs);
+    QString name = path;
+    if (access != Access::Full)
+        options += u";QSQLITE_OPEN_READONLY"_s;
+    if (access == Access::ReadingAtRest) {
+        options += u";QSQLITE_OPEN_URI"_s;
+        name = QUrl::fromLocalFile(path).toString(QUrl::FullyEncoded) + u"?immutable=1"_s;
+    }
+    m_database.setDatabaseName(name);
+    m_database.setConnectOptions(options);
 }
 
 SqliteJobs::~SqliteJobs()
@@ -154,7 +175,7 @@ FileState SqliteJobs::failure() const
 {
     constexpr int basicCode = 0xff, schemaError = 1, corrupt = 11, notADatabase = 26;
     const int code = m_error.nativeErrorCode().toInt() & basicCode;
-    return code == schemaError || code == corrupt || code == notADatabase ? FileState::Unusable
+    return code == schemaError || code == corrupt || code == notADatabase ? FileState::Damaged
                                                                           : FileState::Inaccessible;
 }
 
@@ -172,13 +193,18 @@ bool SqliteJobs::create()
     });
 }
 
-bool SqliteJobs::isOurs()
+FileState SqliteJobs::kind()
 {
-    return number(u"PRAGMA application_id"_s) == applicationId && number(u"PRAGMA user_version"_s) == schemaVersion &&
-           number(u"SELECT count(*) FROM ids"_s) == 1;
+    const auto application = number(u"PRAGMA application_id"_s), version = number(u"PRAGMA user_version"_s);
+    if (application == applicationId && version > schemaVersion)
+        return FileState::Newer;
+    if (application == applicationId && version == schemaVersion && number(u"SELECT count(*) FROM ids"_s) == 1 &&
+        run(QString::fromLatin1(columns)))
+        return FileState::Good;
+    return m_error.isValid() ? failure() : FileState::Damaged;
 }
 
-FileState SqliteJobs::open()
+FileState SqliteJobs::inspect()
 {
     if (!m_database.open()) {
         m_error = m_database.lastError();
@@ -188,16 +214,20 @@ FileState SqliteJobs::open()
     const std::optional<qint64> tables = number(u"SELECT count(*) FROM sqlite_master"_s);
     if (!tables)
         return failure();
-    if (*tables > 0 && !isOurs())
-        return failure() == FileState::Unusable || !m_error.isValid() ? FileState::Unusable : failure();
+    if (const FileState state = *tables > 0 ? kind() : FileState::Good; state != FileState::Good)
+        return state;
     QSqlQuery check(m_database);
     if (!noted(check, check.exec(u"PRAGMA quick_check(1)"_s) && check.next()))
         return failure();
-    if (check.value(0).toString() != "ok"_L1)
-        return FileState::Unusable;
-    check.finish();
+    return check.value(0).toString() == "ok"_L1 ? FileState::Good : FileState::Damaged;
+}
+
+FileState SqliteJobs::open()
+{
+    if (const FileState state = inspect(); state != FileState::Good)
+        return state;
     if (!run(u"PRAGMA journal_mode = WAL"_s) || !run(u"PRAGMA synchronous = FULL"_s) || !create() ||
-        !run(u"SELECT id, module, position, state, owner, value FROM jobs LIMIT 0"_s))
+        !run(QString::fromLatin1(columns)))
         return failure();
     return FileState::Good;
 }
@@ -254,6 +284,21 @@ qint64 SqliteJobs::reserveIds(int count)
     return isReserved ? first : 0;
 }
 
+/// What is read of a file that somebody began to write meanwhile is not to be relied on: nothing then.
+std::optional<FileState> readAtRest(const QString &path, QList<JobRow> &rows, QString &report)
+{
+    const QString log = path + u"-wal"_s;
+    const QDateTime modified = QFileInfo(path).lastModified();
+    if (QFile::exists(log))
+        return std::nullopt;
+    SqliteJobs jobs(path, Access::ReadingAtRest);
+    const FileState state = jobs.inspect();
+    if (state == FileState::Good)
+        rows = jobs.rows();
+    report = jobs.lastError();
+    return QFile::exists(log) || QFileInfo(path).lastModified() != modified ? std::nullopt : std::optional(state);
+}
+
 /// Null where that fails; `asidePath` is where it went.
 bool movedAside(const QString &path, QString &asidePath)
 {
@@ -285,7 +330,7 @@ extern "C" __attribute__((visibility("default"))) void openJobDatabase(const QSt
     }
     auto jobs = std::make_unique<SqliteJobs>(path);
     FileState state = jobs->open();
-    if (state == FileState::Unusable) {
+    if (state == FileState::Damaged || state == FileState::Newer) {
         report = jobs->lastError().isEmpty() ? u"not of this version"_s : jobs->lastError();
         jobs.reset();
         QString asidePath;
@@ -301,4 +346,20 @@ extern "C" __attribute__((visibility("default"))) void openJobDatabase(const QSt
         database = std::move(jobs);
     else
         report += jobs->lastError();
+}
+
+extern "C" __attribute__((visibility("default"))) kestrel::JobFileState readJobDatabase(const QString &path,
+                                                                                        QList<kestrel::JobRow> &rows,
+                                                                                        QString &report)
+{
+    using namespace kestrel;
+    if (!QFile::exists(path))
+        return JobFileState::Missing;
+    if (const auto state = readAtRest(path, rows, report))
+        return *state;
+    SqliteJobs jobs(path, Access::Reading);
+    const JobFileState state = jobs.inspect();
+    rows = state == JobFileState::Good ? jobs.rows() : QList<JobRow>();
+    report = jobs.lastError();
+    return state;
 }

@@ -19,8 +19,8 @@ class JobQueue;
 /// all in the task bar; when a module has become idle: opens its folder, tells the desktop (with "Show"), shuts the
 /// machine down, each where the settings say so at that moment. One object for the program.
 ///
-/// Shutting down is announced first and can be stopped for a minute; nothing shuts down where a job failed, was
-/// cancelled or waits. Every service is asked over D-Bus (org.freedesktop.login1 on the system bus,
+/// Shutting down is announced first and can be stopped for a minute; nothing shuts down where a job failed, has
+/// problems, was cancelled or waits. Every service is asked over D-Bus (org.freedesktop.login1 on the system bus,
 /// org.freedesktop.Notifications and com.canonical.Unity.LauncherEntry on the session bus); one that is missing is left
 /// out, without delay.
 class AfterRun : public QObject {

@@ -51,6 +51,8 @@ public:
     {
         if (m_connection)
             return use(*m_connection);
+        if (m_hasFailed)
+            return;
         m_waiting.push_back(std::move(use));
         if (!std::exchange(m_isConnecting, true))
             connectInBackground();
@@ -92,6 +94,7 @@ private:
     void connected(const QDBusConnection &connection)
     {
         if (!connection.isConnected()) {
+            m_hasFailed = true;
             m_waiting.clear();
             return;
         }
@@ -103,6 +106,7 @@ private:
     QDBusConnection::BusType m_type;
     QObject *m_owner;
     bool m_isConnecting = false;
+    bool m_hasFailed = false;
     std::optional<QDBusConnection> m_connection;
     std::vector<Use> m_waiting;
 };

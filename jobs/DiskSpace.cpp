@@ -18,7 +18,8 @@ std::optional<DiskSpace> diskSpaceOf(const QString &folder)
     if (!storage.isValid() || !storage.isReady() || storage.bytesAvailable() < 0)
         return std::nullopt;
     // The root path as well: file systems in memory are all called "tmpfs".
-    return DiskSpace{storage.device() + '\n' + storage.rootPath().toUtf8(), storage.bytesAvailable()};
+    return DiskSpace{storage.device() + '\n' + storage.rootPath().toUtf8(), storage.bytesAvailable(),
+                     std::max<qint64>(0, storage.bytesTotal())};
 }
 
 }  // namespace kestrel

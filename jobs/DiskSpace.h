@@ -11,6 +11,7 @@ namespace kestrel {
 struct DiskSpace {
     QByteArray device;     ///< which file system; the same for folders that share their space
     qint64 available = 0;  ///< bytes
+    qint64 total = 0;      ///< bytes; 0 where that is not known
 };
 
 /// Of the folder, or the nearest one above it that exists; nothing where the system cannot tell.

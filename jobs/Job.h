@@ -3,7 +3,9 @@
 #include "JobRecord.h"
 
 #include <QObject>
+#include <QPointer>
 
+#include <functional>
 #include <memory>
 
 namespace kestrel {
@@ -24,12 +26,40 @@ public:
     /// Only where it can.
     virtual void setPaused(bool paused) { Q_UNUSED(paused); }
 
+    /// Keeps record of what is about to get its name, with the outcome as it will be but for `outputs`, and calls
+    /// `then` when that cannot get lost any more.
+    using Notary = std::function<void(const JobOutcome &outcome, const QString &partPath, std::function<void()> then)>;
+    void setNotary(Notary notary) { m_notary = std::move(notary); }
+
 signals:
     void progressed(const kestrel::JobProgress &progress);
     /// Something that the user should know while it runs; told in the row.
     void noted(const kestrel::tarnwell::Sentence &note);
     /// Once, later than `start` returns. Nothing follows.
     void finished(const kestrel::JobOutcome &outcome);
+
+protected:
+    /// Calls `then`, unless the job is gone by then, when what is about to be placed is on record; at once where nobody
+    /// keeps any.
+    void beforePlacing(const JobOutcome &outcome, const QString &partPath, std::function<void()> then)
+    {
+        if (!m_notary)
+            return then();
+        m_notary(outcome, partPath, [self = QPointer(this), then = std::move(then)] {
+            if (self)
+                then();
+        });
+    }
+
+private:
+    Notary m_notary;
+};
+
+/// What a job takes.
+struct JobNeeds {
+    Lane lane = Lane::Encode;
+    qint64 bytes = 0;   ///< that its output will take in the record's folder, or an upper guess; 0 for not known
+    double weight = 1;  ///< among the module's jobs, in whatever measure they share: seconds of film, bytes
 };
 
 /// How a module's jobs are run: all that the queue knows of a module.
@@ -37,15 +67,8 @@ class JobRecipe {
 public:
     virtual ~JobRecipe() = default;
 
-    virtual Lane lane(const JobRecord &record) const = 0;
-    /// Bytes that the output will take in the record's folder, or an upper guess; 0 where nothing is known.
-    virtual qint64 expectedBytes(const JobRecord &record) const = 0;
-    /// How much of a run's work this job is, in whatever measure the module's jobs share: seconds of film, bytes.
-    virtual double weight(const JobRecord &record) const
-    {
-        Q_UNUSED(record);
-        return 1;
-    }
+    /// Asked once whenever the job begins to wait.
+    virtual JobNeeds needs(const JobRecord &record) const = 0;
     /// Null where it cannot be run; it has failed then.
     virtual std::unique_ptr<Job> makeJob(const JobRecord &record) = 0;
 };

@@ -10,8 +10,7 @@ void JobBatch::add(JobId id, double weight)
     const double sound = std::isfinite(weight) && weight > 0 ? weight : 1;
     m_waiting.insert(id, sound);
     m_totalWeight += sound;
-    // There is more to do than what the guess so far was made for.
-    m_clock.invalidate();
+    restartClock();  // there is more to do than what the guess so far was made for
 }
 
 void JobBatch::begin(JobId id)
@@ -43,6 +42,12 @@ void JobBatch::finish(JobId id)
 void JobBatch::withdraw(JobId id)
 {
     m_totalWeight -= m_waiting.take(id) + m_running.take(id).weight;
+    restartClock();
+}
+
+void JobBatch::restartClock()
+{
+    m_clock.invalidate();
 }
 
 double JobBatch::finishedWeight() const

@@ -16,6 +16,7 @@ public:
     void setProgress(JobId id, const JobProgress &progress);
     void finish(JobId id);    ///< what ran has ended, well or not
     void withdraw(JobId id);  ///< what waited or ran never counted
+    void restartClock();      ///< some of it was paused or goes on: the guess of the time begins anew
 
     bool isIdle() const { return m_waiting.isEmpty() && m_running.isEmpty(); }
     double totalWeight() const { return m_totalWeight; }

@@ -41,4 +41,12 @@ extern "C" using OpenJobDatabaseFunction =
 
 inline constexpr char openJobDatabaseSymbol[] = "openJobDatabase";
 
+enum class JobFileState { Good, Missing, Damaged, Newer, Inaccessible };
+
+/// Or, for who only looks: the rows as they stand. Nothing is written, moved or begun; `report` says, in English, why
+/// the file is not Good.
+extern "C" using ReadJobDatabaseFunction = JobFileState(const QString &path, QList<JobRow> &rows, QString &report);
+
+inline constexpr char readJobDatabaseSymbol[] = "readJobDatabase";
+
 }  // namespace kestrel

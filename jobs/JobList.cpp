@@ -138,6 +138,17 @@ int JobList::columnCount(const QModelIndex &parent) const
     return parent.isValid() ? 0 : ColumnCount;
 }
 
+void JobList::setPictures(std::function<QVariant(const JobRecord &)> pictures)
+{
+    m_pictures = std::move(pictures);
+}
+
+void JobList::showPicturesAgain()
+{
+    if (rowCount() > 0)
+        emit dataChanged(index(0, TitleColumn), index(rowCount() - 1, TitleColumn), {Qt::DecorationRole});
+}
+
 QVariant JobList::data(const QModelIndex &index, int role) const
 {
     if (!index.isValid())
@@ -148,6 +159,8 @@ QVariant JobList::data(const QModelIndex &index, int role) const
             return cellText(record, index.column());
         case Qt::ToolTipRole:
             return tarnwell::hoverTextShowing(hoverText(record, index.column()));
+        case Qt::DecorationRole:
+            return index.column() == TitleColumn && m_pictures ? m_pictures(record) : QVariant();
         case Qt::AccessibleTextRole:
             return accessibleText(index);
         case IdRole:

@@ -4,6 +4,8 @@
 
 #include <QAbstractTableModel>
 
+#include <functional>
+
 namespace kestrel {
 
 class JobQueue;
@@ -19,6 +21,10 @@ public:
     enum Role { IdRole = Qt::UserRole, StateRole, FractionRole, RecordRole, WarningRole };
 
     JobList(JobQueue &queue, const QString &module, QObject *parent = nullptr);
+
+    /// Where the small pictures of the rows come from: a pixmap, or nothing while there is none.
+    void setPictures(std::function<QVariant(const JobRecord &)> pictures);
+    void showPicturesAgain();
 
     JobId idAt(int row) const;  ///< 0 where there is none
     int rowOf(JobId id) const;  ///< -1 where there is none
@@ -50,6 +56,7 @@ private:
 
     JobQueue &m_queue;
     QString m_module;
+    std::function<QVariant(const JobRecord &)> m_pictures;
     QList<JobId> m_idsOfIndexes;  ///< of the persistent ones, while rows are reordered
 };
 

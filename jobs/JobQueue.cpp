@@ -260,9 +260,9 @@ QList<JobId> JobQueue::idsIn(std::initializer_list<JobState> states, const QStri
 
 bool JobQueue::hasWork(const QString &module) const
 {
-    return std::any_of(m_modules.begin(), m_modules.end(), [&module](const auto &row) {
-        return (module.isNull() || row.first == module) && !row.second.batch.isIdle();
-    });
+    return isStarting(module) || std::any_of(m_modules.begin(), m_modules.end(), [&module](const auto &row) {
+               return (module.isNull() || row.first == module) && !row.second.batch.isIdle();
+           });
 }
 
 JobProgress JobQueue::overallProgress(const QString &module) const

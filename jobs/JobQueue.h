@@ -50,9 +50,11 @@ public:
     void move(const QList<JobId> &ids, JobId before);
 
     /// Puts what is Ready or has ended into Waiting; the first of them run at once where their lanes have room.
+    /// Thousands begin to wait in later turns of the event loop.
     void start(const QList<JobId> &ids);
-    /// What waits becomes Ready again, what runs is Cancelled within 100 ms.
-    void cancel(const QList<JobId> &ids);
+    /// What runs is Cancelled within 100 ms. What waits becomes Ready again, or is Cancelled as well.
+    enum class Waiting { BecomesReady, IsCancelled };
+    void cancel(const QList<JobId> &ids, Waiting waiting = Waiting::BecomesReady);
     void stop(const QList<JobId> &ids);  ///< ends active ones with what there is
     void setPaused(const QList<JobId> &ids, bool paused);
     /// For the end of the program: what runs ends at once and is Interrupted in the store before this returns, which
@@ -116,6 +118,8 @@ private:
     void removeRows(Module &module, const QString &name, const QList<JobId> &ids);
     void moveRanges(const QString &name, const QList<JobOrder::Range> &ranges, int to);
 
+    void startSome();
+    bool isStarting(const QString &module) const;
     void beginWaiting(Entry &entry);
     void endWaiting(Entry &entry);
     void schedule();
@@ -126,6 +130,7 @@ private:
     void block(Entry &entry, const tarnwell::Sentence &reason);
     void run(Entry &entry);
     void takeProgress(JobId id, const JobProgress &progress);
+    void notePlacing(JobId id, const JobOutcome &outcome, const QString &partPath, std::function<void()> then);
     void showProgress();
     void finish(JobId id, JobOutcome outcome);
     void endCancelled(const QList<JobId> &ids);
@@ -140,11 +145,13 @@ private:
     std::map<QString, Module> m_modules;
     std::array<LaneUse, laneCount> m_lanes;
     QList<JobId> m_active;
+    QList<JobId> m_toStart;  ///< not Waiting yet
     QSet<JobId> m_unshown;  ///< progress that came too soon after the last
     JobId m_lastId = 0;
     quint64 m_lastTurn = 0;
     bool m_isScheduling = false;
     bool m_isToScheduleAgain = false;
+    bool m_isStartingLater = false;
     bool m_isShowingLater = false;
     bool m_isToLookAgain = false;
     bool m_isEnding = false;

@@ -121,7 +121,9 @@ QJsonObject jobRecordToJson(const JobRecord &record)
                      {u"added"_s, record.added.toUTC().toString(Qt::ISODateWithMs)},
                      {u"started"_s, record.started.toUTC().toString(Qt::ISODateWithMs)},
                      {u"ended"_s, record.ended.toUTC().toString(Qt::ISODateWithMs)}};
-    if (isEnded(record.state) || record.state == JobState::Unusable)
+    if (record.placing)
+        json.insert(u"placing"_s, record.placing->toJson());
+    if (isEnded(record.state) || record.state == JobState::Unusable || record.placing)
         json.insert(u"outcome"_s, outcomeToJson(record.outcome));
     return json;
 }
@@ -138,6 +140,7 @@ bool readJobRecord(const QJsonObject &json, JobRecord &record)
     record.added = timeFromJson(json.value("added"_L1));
     record.started = timeFromJson(json.value("started"_L1));
     record.ended = timeFromJson(json.value("ended"_L1));
+    record.placing = PlacedPart::fromJson(json.value("placing"_L1).toObject());
     if (json.contains("outcome"_L1))
         record.outcome = outcomeFromJson(json.value("outcome"_L1).toObject());
     return true;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "PlacedPart.h"
+
 #include "tarnwell/TextKey.h"
 
 #include <QDateTime>
@@ -74,6 +76,8 @@ struct JobRecord {
     QString folder = {};      ///< absolute; where the output goes
     JobOutcome outcome = {};  ///< since it ended, or became unusable
     QDateTime added = {}, started = {}, ended = {};
+    /// While its output gets its name; `outcome` is then what it will be, but for the name.
+    std::optional<PlacedPart> placing = {};
 
     // Not stored
     JobProgress progress = {};

@@ -1,6 +1,7 @@
 #include "JobObstacle.h"
 #include "JobQueue.h"
 #include "JobRun.h"
+#include "JobStore.h"
 
 #include <QLocale>
 
@@ -12,13 +13,19 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr qint64 spaceReserve = 200'000'000;  ///< bytes that are left free beside the output
-constexpr int maximumBlocked = 64;            ///< looked at in one lane, past those that wait for space
+constexpr int maximumBlocked = 64;  ///< looked at in one lane, past those that wait for space
 
 qint64 bytesStillNeeded(qint64 expectedBytes, const JobProgress &progress)
 {
     const qint64 written = std::max(progress.bytes, qint64(double(expectedBytes) * progress.fraction.value_or(0)));
     return std::max<qint64>(0, expectedBytes - written);
+}
+
+/// Bytes that are left free beside the output.
+qint64 reserveOn(const DiskSpace &disk)
+{
+    constexpr qint64 maximum = 200'000'000, share = 20;  // a stick is small
+    return disk.total > 0 ? std::min(maximum, disk.total / share) : maximum;
 }
 
 }  // namespace
@@ -56,9 +63,10 @@ void JobQueue::beginWaiting(Entry &entry)
     entry.turn = ++m_lastTurn;
     double weight = 1;
     if (module.recipe) {
-        entry.lane = module.recipe->lane(record);
-        entry.expectedBytes = std::max<qint64>(0, module.recipe->expectedBytes(record));
-        weight = module.recipe->weight(record);
+        const JobNeeds needs = module.recipe->needs(record);
+        entry.lane = needs.lane;
+        entry.expectedBytes = std::max<qint64>(0, needs.bytes);
+        weight = needs.weight;
     }
     module.batch.add(record.id, weight);
     ++module.waiting[size_t(entry.lane)];
@@ -98,7 +106,7 @@ void JobQueue::startIn(Lane lane, Spaces &spaces)
         Entry *entry = nextIn(lane, blocked);
         if (!entry)
             return;
-        blocked.insert(entry->record.id);  // or gone from those that wait
+        blocked.insert(entry->record.id);  // no harm where it runs: it does not wait any more
         if (isFree(*entry) && hasSpace(*entry, spaces))
             run(*entry);
     }
@@ -178,7 +186,7 @@ bool JobQueue::hasSpace(Entry &entry, Spaces &spaces)
         if (active.device == space->device)
             available -= bytesStillNeeded(active.expectedBytes, active.record.progress);
     }
-    const qint64 needed = entry.expectedBytes + spaceReserve;
+    const qint64 needed = entry.expectedBytes + reserveOn(*space);
     if (needed <= available)
         return true;
     block(entry, {"Waiting for space on the disk: %1 needed"_key,
@@ -206,10 +214,25 @@ void JobQueue::run(Entry &entry)
         find(id)->record.note = note;
         emit changed(id);
     });
+    job.setNotary([this, id](const JobOutcome &outcome, const QString &partPath, std::function<void()> then) {
+        notePlacing(id, outcome, partPath, std::move(then));
+    });
     connect(&job, &Job::finished, this, [this, id](const JobOutcome &outcome) { finish(id, outcome); });
     job.start();
     if (const Entry *started = find(id); started && started->run)
         tell(entry);
+}
+
+/// So that a kill after the output got its name is no reason to make it again.
+void JobQueue::notePlacing(JobId id, const JobOutcome &outcome, const QString &partPath, std::function<void()> then)
+{
+    Entry *entry = find(id);
+    if (!m_store || !entry || !entry->run || !entry->run->hasJob())
+        return then();
+    entry->record.placing = PlacedPart::of(partPath);
+    entry->record.outcome = outcome;
+    store(*entry);
+    m_store->whenWritten(std::move(then));
 }
 
 void JobQueue::takeProgress(JobId id, const JobProgress &progress)
@@ -277,6 +300,7 @@ void JobQueue::finish(JobId id, JobOutcome outcome)
     entry.run.reset();
     entry.record.state = outcome.state;
     entry.record.outcome = std::move(outcome);
+    entry.record.placing.reset();
     leaveLane(entry);
     const QString module = entry.record.module;
     tell(entry);
@@ -290,7 +314,7 @@ void JobQueue::finish(JobId id, JobOutcome outcome)
 void JobQueue::settleIdle(const QString &module)
 {
     Module &ofModule = m_modules[module];
-    if (!ofModule.isBusy || !ofModule.batch.isIdle() || m_isEnding)
+    if (!ofModule.isBusy || !ofModule.batch.isIdle() || isStarting(module) || m_isEnding)
         return;
     ofModule.isBusy = false;
     ofModule.batch = {};

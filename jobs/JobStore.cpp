@@ -2,11 +2,12 @@
 
 #include "StoredJob.h"
 #include "foundation/Bundle.h"
+#include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/ProductInformation.h"
 #include "tarnwell/SystemInformation.h"
 
-#include <QDir>
 #include <QFileInfo>
 #include <QLibrary>
 #include <QRandomGenerator>
@@ -29,6 +30,18 @@ constexpr int firstIdCount = 16;
 constexpr int maximumIdCount = 8192;
 constexpr size_t maximumWrites = 512;  ///< in one transaction, so that identifiers need not wait long for their turn
 
+/// Null where it cannot be loaded, which `report` tells then.
+QFunctionPointer entry(const QString &libraryPath, const char *symbol, QString &report)
+{
+    QLibrary library(libraryPath.isNull() ? foundation::Bundle::main().contentsPath(u"Frameworks/libJobStore.dylib"_s)
+                                          : libraryPath);
+    library.setLoadHints(QLibrary::PreventUnloadHint);
+    const QFunctionPointer function = library.resolve(symbol);
+    if (!function)
+        report = library.errorString();
+    return function;
+}
+
 /// The store on its thread. What is asked of that stands in members under one lock; the file is the thread's alone.
 class ThreadedJobStore final : public JobStore {
 public:
@@ -41,6 +54,7 @@ public:
     JobId nextId() override;
     void put(const JobRecord &record, double position) override;
     void remove(const QList<JobId> &ids) override;
+    void whenWritten(std::function<void()> then) override;
     bool flush(std::chrono::milliseconds patience) override;
 
 private:
@@ -62,6 +76,7 @@ private:
     bool m_isToWrite = false;
     bool m_isFailing = false, m_isFailureLogged = false;
     quint64 m_flushesAsked = 0, m_flushesDone = 0;
+    std::multimap<quint64, std::function<void()>> m_toBeTold;  ///< by the flush that they wait for
     bool m_isLoadAsked = false;
     QList<Row> m_loaded;
     JobId m_nextId = 0, m_idsEnd = 0;      ///< of the present identifiers
@@ -144,6 +159,14 @@ bool ThreadedJobStore::flush(std::chrono::milliseconds patience)
     return m_answered.wait_for(lock, patience, [this, mine] { return m_flushesDone >= mine; }) && !m_isFailing;
 }
 
+void ThreadedJobStore::whenWritten(std::function<void()> then)
+{
+    const Lock lock(m_mutex);
+    m_toBeTold.emplace(++m_flushesAsked, std::move(then));
+    m_isToWrite = true;
+    m_asked.notify_one();
+}
+
 QList<JobStore::Row> ThreadedJobStore::load()
 {
     Lock lock(m_mutex);
@@ -183,13 +206,10 @@ void ThreadedJobStore::work(const QString &path, const QString &libraryPath)
 std::unique_ptr<JobDatabase> ThreadedJobStore::opened(const QString &path, const QString &libraryPath)
 {
     std::unique_ptr<JobDatabase> database;
-    QLibrary library(libraryPath);
-    library.setLoadHints(QLibrary::PreventUnloadHint);
     QString report;
-    if (const auto open = reinterpret_cast<OpenJobDatabaseFunction *>(library.resolve(openJobDatabaseSymbol)))
+    if (const auto open =
+            reinterpret_cast<OpenJobDatabaseFunction *>(entry(libraryPath, openJobDatabaseSymbol, report)))
         open(path, database, report);
-    else
-        report = library.errorString();
     if (!report.isEmpty())
         tarnwell::DNFootLog(u"Job store %1: %2"_s, path, report);
     return database;
@@ -215,7 +235,7 @@ void ThreadedJobStore::read(Lock &lock, JobDatabase &database)
     QList<Row> loaded, changed;
     for (const JobRow &row : database.rows()) {
         std::optional<LoadedJob> job = loadedJob(row);
-        if (!job)
+        if (!job || job->holder != 0)
             continue;
         if (job->isToBeStored)
             changed.append(job->row);
@@ -264,8 +284,13 @@ void ThreadedJobStore::write(Lock &lock, JobDatabase &database)
     } else if (!changes.empty()) {
         m_isFailureLogged = false;
     }
-    if (wasLast || !isWritten)
-        m_flushesDone = flush;
+    if (!wasLast && isWritten)
+        return;
+    m_flushesDone = flush;
+    const auto end = m_toBeTold.upper_bound(flush);
+    for (auto told = m_toBeTold.begin(); told != end; ++told)
+        foundation::queue::asyncMain(std::move(told->second));
+    m_toBeTold.erase(m_toBeTold.begin(), end);
 }
 
 /// Once until it is well again: a full disk would fill the log too.
@@ -277,6 +302,11 @@ void ThreadedJobStore::note(const QString &failure)
 
 }  // namespace
 
+void JobStore::whenWritten(std::function<void()> then)
+{
+    foundation::queue::asyncMain(std::move(then));
+}
+
 QString jobStorePath()
 {
     return tarnwell::GetApplicationSupportDir() + u'/' + tarnwell::GetApplicationName() + u"/jobs.sqlite"_s;
@@ -285,12 +315,36 @@ QString jobStorePath()
 std::unique_ptr<JobStore> openJobStore(const QString &path, const QString &libraryPath)
 {
     const QString folder = QFileInfo(path).absolutePath();
-    QDir().mkpath(folder);
+    foundation::makePrivateFolder(folder);
     QFile::setPermissions(folder, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    const QString library =
-        libraryPath.isNull() ? foundation::Bundle::main().contentsPath(u"Frameworks/libJobStore.dylib"_s) : libraryPath;
-    auto store = std::make_unique<ThreadedJobStore>(path, library);
+    auto store = std::make_unique<ThreadedJobStore>(path, libraryPath);
     return store->isOpen() ? std::move(store) : nullptr;
+}
+
+foundation::Result<QList<ListedJob>> listJobs(const QString &path, const QString &libraryPath)
+{
+    QList<JobRow> rows;
+    QString report;
+    JobFileState state = JobFileState::Inaccessible;
+    if (const auto read =
+            reinterpret_cast<ReadJobDatabaseFunction *>(entry(libraryPath, readJobDatabaseSymbol, report)))
+        state = read(path, rows, report);
+    switch (state) {
+        case JobFileState::Damaged:
+            return foundation::Failure{u"The list of jobs is damaged, %1: %2"_s.arg(path, report.simplified())};
+        case JobFileState::Newer:
+            return foundation::Failure{u"The list of jobs was written by a newer version, %1"_s.arg(path)};
+        case JobFileState::Inaccessible:
+            return foundation::Failure{u"The list of jobs cannot be read, %1: %2"_s.arg(path, report.simplified())};
+        default:
+            break;
+    }
+    QList<ListedJob> jobs;
+    for (const JobRow &row : rows) {
+        if (const auto job = loadedJob(row))
+            jobs.append({job->row.record, job->holder, job->isToBeStored});
+    }
+    return jobs;
 }
 
 }  // namespace kestrel

@@ -2,7 +2,10 @@
 
 #include "JobRecord.h"
 
+#include "foundation/Result.h"
+
 #include <chrono>
+#include <functional>
 #include <memory>
 
 namespace kestrel {
@@ -29,6 +32,8 @@ public:
     /// again with the next.
     virtual void put(const JobRecord &record, double position) = 0;
     virtual void remove(const QList<JobId> &ids) = 0;
+    /// Calls `then` on the main thread, later, when everything so far is on the disk or could not be written.
+    virtual void whenWritten(std::function<void()> then);
     /// Waits until everything so far is on the disk. False where it could not be written, or not in that time.
     virtual bool flush(std::chrono::milliseconds patience = std::chrono::seconds(10)) = 0;
 };
@@ -38,5 +43,16 @@ public:
 /// bundle, loaded here, so that the program's start does not pay for it.
 std::unique_ptr<JobStore> openJobStore(const QString &path, const QString &libraryPath = {});
 QString jobStorePath();  ///< of this user
+
+struct ListedJob {
+    JobRecord record;
+    qint64 holder = 0;          ///< the living process that has it running or waiting; 0 for none
+    bool hasLostOwner = false;  ///< it waited or ran in a process that has ended
+};
+
+/// For who only looks: all jobs in their order, as they are now, also those of other processes. Nothing is written,
+/// moved aside or begun. A sentence in English where the file cannot be read, is damaged or of a newer version; no jobs
+/// where there is none.
+foundation::Result<QList<ListedJob>> listJobs(const QString &path, const QString &libraryPath = {});
 
 }  // namespace kestrel

@@ -1,9 +1,10 @@
 #include "OutputFile.h"
 
-#include "FileNames.h"
 #include "PartOwner.h"
 #include "PartPlacing.h"
+#include "PortableNames.h"
 #include "SystemFailure.h"
+#include "foundation/FileNames.h"
 #include "foundation/StandardFolders.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/ProductInformation.h"
@@ -59,12 +60,12 @@ QString targetOf(const QString &link)
 {
     char target[PATH_MAX];
     const ssize_t length = readlink(QFile::encodeName(link).constData(), target, sizeof target);
-    return length > 0 ? QFile::decodeName(QByteArray(target, length)) : QString();
+    return length > 0 ? foundation::decodedFileName({target, length}) : QString();
 }
 
 Sentence sentenceFor(int error, const QString &folder)
 {
-    if (!QFileInfo(folder).isDir())
+    if (foundation::fileFacts(folder).kind != foundation::FileKind::Folder)
         return "The output directory does not exist. Please check the setting."_key;
     const Sentence sentence = systemFailure(error).sentence;
     return sentence.isEmpty() ? Sentence("The output could not be written."_key) : sentence;
@@ -86,10 +87,9 @@ void sweep(const QString &registration, const QString &partId)
     const QString path = targetOf(registration);
     if (isPartOf(path, partId)) {
         // A disk that is away may come back with the part.
-        if (!QFileInfo(path).dir().exists())
+        if (foundation::fileFacts(path.left(path.lastIndexOf(u'/') + 1)).kind != foundation::FileKind::Folder)
             return;
-        placing::removePart(path);
-        if (const QFileInfo left(path); left.exists() && !left.isSymLink())
+        if (!placing::removePart(path))
             return;
         tarnwell::DNFootLog(u"Removed what a run that ended had begun: %1"_s, path);
     }
@@ -130,9 +130,10 @@ Sentence OutputFile::makePart()
             m_folder + u'/' + fittingName(u'.' + m_baseName, partMark + partId + suffixOf(m_extension), limit);
         // Written down before it is there, so that there is no moment in which it could be forgotten.
         foundation::makePrivateFolder(registrations);
-        if (!QFile::link(path, registration))
+        if (symlink(foundation::encodedFileName(path).constData(), QFile::encodeName(registration).constData()) != 0)
             tarnwell::DNFootLog(u"An output could not be written down; it stays where Kestrel is killed"_s);
-        error = placing::makeNew(path, m_kind == Kind::Folder);
+        error = m_kind == Kind::PrivateFolder ? placing::makePrivateFolder(path)
+                                              : placing::makeNew(path, m_kind == Kind::Folder);
         if (error == 0) {
             m_partPath = path;
             m_registration = registration;
@@ -166,7 +167,7 @@ foundation::Result<QString, Sentence> OutputFile::publish()
         QString path;
         for (const qsizetype limit : nameBytes) {
             path = m_folder + u'/' + fittingName(m_baseName, numbering + suffixOf(m_extension), limit);
-            error = placing::renameToNew(m_partPath, path, m_kind == Kind::Folder);
+            error = placing::renameToNew(m_partPath, path, m_kind != Kind::File);
             if (error != ENAMETOOLONG)
                 break;
         }

@@ -16,7 +16,7 @@ namespace kestrel {
 /// Any thread; `publish` waits for the disk, which takes its time with a large file: not for the main thread.
 class OutputFile {
 public:
-    enum class Kind { File, Folder };
+    enum class Kind { File, Folder, PrivateFolder };
 
     /// `baseName` is what it should be called, without its extension ("mp4"; empty for none). Characters that file
     /// systems refuse are replaced, names that they find too long are cut.

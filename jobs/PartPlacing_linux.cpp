@@ -1,6 +1,6 @@
 #include "PartPlacing.h"
 
-#include <QFile>
+#include "foundation/FileNames.h"
 
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -35,7 +35,7 @@ int renameOverOwn(const QByteArray &from, const QString &to, bool isFolder)
 {
     if (const int error = makeNew(to, isFolder); error != 0)
         return error;
-    const QByteArray name = QFile::encodeName(to);
+    const QByteArray name = foundation::encodedFileName(to);
     const int error = errorOf(rename(from.constData(), name.constData()));
     if (error != 0)
         isFolder ? rmdir(name.constData()) : unlink(name.constData());
@@ -46,7 +46,7 @@ int renameOverOwn(const QByteArray &from, const QString &to, bool isFolder)
 
 int makeNew(const QString &path, bool isFolder)
 {
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = foundation::encodedFileName(path);
     if (isFolder)
         return errorOf(mkdir(name.constData(), 0777));
     const int file = open(name.constData(), O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC, 0666);
@@ -56,10 +56,15 @@ int makeNew(const QString &path, bool isFolder)
     return 0;
 }
 
+int makePrivateFolder(const QString &path)
+{
+    return errorOf(mkdir(foundation::encodedFileName(path).constData(), 0700));
+}
+
 int renameToNew(const QString &from, const QString &to, bool isFolder)
 {
-    const QByteArray fromName = QFile::encodeName(from);
-    const QByteArray toName = QFile::encodeName(to);
+    const QByteArray fromName = foundation::encodedFileName(from);
+    const QByteArray toName = foundation::encodedFileName(to);
     const int error =
         errorOf(renameat2(AT_FDCWD, fromName.constData(), AT_FDCWD, toName.constData(), RENAME_NOREPLACE));
     return error == EINVAL || error == ENOSYS ? renameOverOwn(fromName, to, isFolder) : error;
@@ -68,7 +73,7 @@ int renameToNew(const QString &from, const QString &to, bool isFolder)
 int syncTree(const QString &path)
 {
     namespace fs = std::filesystem;
-    const QByteArray name = QFile::encodeName(path);
+    const QByteArray name = foundation::encodedFileName(path);
     struct stat status = {};
     if (lstat(name.constData(), &status) != 0)
         return errno;
@@ -89,16 +94,18 @@ int syncTree(const QString &path)
 
 void syncFolder(const QString &path)
 {
-    syncOne(QFile::encodeName(path).constData(), O_DIRECTORY);
+    syncOne(foundation::encodedFileName(path).constData(), O_DIRECTORY);
 }
 
-void removePart(const QString &path)
+bool removePart(const QString &path)
 {
-    const std::filesystem::path name(QFile::encodeName(path).toStdString());
+    const std::filesystem::path name(foundation::encodedFileName(path).toStdString());
     std::error_code error;
     const std::filesystem::file_status kind = std::filesystem::symlink_status(name, error);
-    if (std::filesystem::is_regular_file(kind) || std::filesystem::is_directory(kind))
-        std::filesystem::remove_all(name, error);  // which takes links for what they are
+    if (!std::filesystem::is_regular_file(kind) && !std::filesystem::is_directory(kind))
+        return true;
+    std::filesystem::remove_all(name, error);  // which takes links for what they are
+    return std::filesystem::symlink_status(name, error).type() == std::filesystem::file_type::not_found;
 }
 
 }  // namespace kestrel::placing

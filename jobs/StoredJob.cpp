@@ -2,11 +2,13 @@
 
 #include "PartOwner.h"
 
-#include <QFileInfo>
+#include "foundation/FileNames.h"
+
 #include <QJsonDocument>
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace kestrel {
 
@@ -24,12 +26,36 @@ void lookForOutputs(JobRecord &record)
     const tarnwell::Sentence gone(outputIsGone);
     outcome.problems.removeAll(gone);
     record.state = outcome.state;
-    const bool isThere = std::all_of(outcome.outputs.begin(), outcome.outputs.end(),
-                                     [](const QString &path) { return QFileInfo::exists(path); });
+    const bool isThere = std::all_of(outcome.outputs.begin(), outcome.outputs.end(), [](const QString &path) {
+        return foundation::fileFacts(path).kind != foundation::FileKind::Missing;
+    });
     if (isThere)
         return;
     outcome.problems.prepend(gone);
     record.state = JobState::DoneWithProblems;
+}
+
+/// Of processes of another machine or container nobody knows; but no job takes a week.
+bool isAbandoned(const PartOwner &owner, const JobRecord &record)
+{
+    constexpr qint64 days = 7;
+    const QDateTime &since = record.started.isValid() ? record.started : record.added;
+    return owner.hasEnded() ||
+           (owner.machine != PartOwner::self().machine && since.daysTo(QDateTime::currentDateTimeUtc()) > days);
+}
+
+/// What its process had under way when it was killed: the output may have got its name just before.
+void endInterrupted(JobRecord &record)
+{
+    const auto placing = std::exchange(record.placing, {});
+    const JobState intended = record.outcome.state;
+    const bool wasMade = intended == JobState::Done || intended == JobState::DoneWithProblems;
+    const QString output = placing && wasMade ? placing->placedPath() : QString();
+    record.state = output.isNull() ? JobState::Interrupted : intended;
+    if (output.isNull())
+        record.outcome = {.state = JobState::Interrupted};
+    else
+        record.outcome.outputs = {output};
 }
 
 }  // namespace
@@ -57,12 +83,13 @@ std::optional<LoadedJob> loadedJob(const JobRow &row)
     record.state = *state;
     if (isHeld(*state)) {
         const std::optional<PartOwner> owner = PartOwner::fromTag(row.owner);
-        if (owner && *owner != PartOwner::self() && !owner->hasEnded())
-            return std::nullopt;
-        const bool isInterrupted = isActive(*state);
-        record.state = isInterrupted ? JobState::Interrupted : JobState::Ready;
-        if (isInterrupted)
-            record.outcome = {.state = JobState::Interrupted};
+        if (owner && *owner != PartOwner::self() && !isAbandoned(*owner, record)) {
+            loaded.holder = owner->process;
+            return loaded;
+        }
+        record.state = JobState::Ready;
+        if (isActive(*state))
+            endInterrupted(record);
         loaded.isToBeStored = true;
     } else if (*state == JobState::Done || *state == JobState::DoneWithProblems) {
         if (record.outcome.state != JobState::DoneWithProblems)

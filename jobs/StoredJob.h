@@ -12,11 +12,13 @@ JobRow storedJob(const JobRecord &record, double position);
 struct LoadedJob {
     JobStore::Row row;
     bool isToBeStored = false;  ///< it is not what was stored any more
+    qint64 holder = 0;          ///< the living process that has it running or waiting; 0 for none
 };
 
-/// The job as it is now: interrupted where the process that ran it has ended, Ready where it waited in such a one. One
+/// The job as it is now: interrupted where the process that ran it has ended, or done where its output had just got its
+/// name, Ready where it waited in such a one. One
 /// that is done but whose outputs are gone is DoneWithProblems, `outputIsGone`, for as long as they are: the store
-/// still has it as it ended. Nothing for rows that are no job and for those that a living process holds.
+/// still has it as it ended. Nothing for rows that are no job.
 std::optional<LoadedJob> loadedJob(const JobRow &row);
 
 }  // namespace kestrel

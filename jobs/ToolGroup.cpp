@@ -34,6 +34,7 @@ std::function<void()> beforeTool(int guardianChannel)
         ToolGuardian::announce(guardianChannel, getpid());
         for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
             std::signal(number, SIG_DFL);
+        std::signal(SIGXFSZ, SIG_IGN);  // a file too large is a failure to be told, not a crash
         sigset_t none;
         sigemptyset(&none);
         sigprocmask(SIG_SETMASK, &none, nullptr);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "GroupActivity.h"
+
 #include <QObject>
 
 #include <memory>
@@ -26,6 +28,7 @@ public:
     void send(int signal);
 
     bool isAlive() const { return m_group > 0; }
+    GroupActivity activity() const { return isAlive() ? GroupActivity::of(m_group) : GroupActivity(); }
     bool hasStarted() const { return m_hasStarted; }
     bool hasCrashed() const;
     /// As shells have it: 128 and the signal where it was ended by one.

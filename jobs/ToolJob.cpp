@@ -40,7 +40,7 @@ void ToolJob::stop()
         return;
     m_isStopping = true;
     if (m_tool)
-        m_tool->stop();  // first: one that is held does not begin
+        m_tool->stop();  // before what follows would start one that was held
     setPaused(false);
 }
 

@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <csignal>
+#include <cstdlib>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -47,6 +48,7 @@ public:
     void end(ToolEnding::Cause why);
     void setPaused(bool paused);
     void sendToAll(int signal);
+    void noteProgress() { m_sinceLastByte.start(); }
     bool isUnderWay() const { return m_isStarted && !m_isOver; }
 
     const ToolCommand &command() const { return m_command; }
@@ -59,6 +61,12 @@ public:
 private:
     void connectTool();
     void startLimits();
+    void noteWord()
+    {
+        if (!m_command.saysItLives)
+            noteProgress();
+    }
+    bool isIdle(const GroupActivity &now);
     void readOutput(const QByteArray &piece);
     void readError(LineCutter &cutter, const QByteArray &piece);
     void checkSilence();
@@ -76,6 +84,8 @@ private:
     QTimer m_time, m_silence, m_death;
     std::chrono::milliseconds m_timeLeft;
     QElapsedTimer m_sinceLastByte;
+    std::optional<GroupActivity> m_watched;  ///< as it was when it was looked at last in this silence
+    int m_spins = 0;
     bool m_isStarted = false;
     bool m_isOver = false;
 };
@@ -133,7 +143,9 @@ void ToolProcess::Private::startLimits()
 {
     if (m_command.timeLimit > 0ms)
         m_time.start(std::max(m_timeLeft, 1ms));
-    m_sinceLastByte.start();
+    noteProgress();
+    m_watched.reset();
+    m_spins = 0;
     if (m_command.silenceLimit > 0ms)
         m_silence.start(m_command.silenceLimit);
 }
@@ -178,7 +190,7 @@ void ToolProcess::Private::sendToAll(int signal)
 
 void ToolProcess::Private::readOutput(const QByteArray &piece)
 {
-    m_sinceLastByte.start();
+    noteWord();
     if (m_isOver || cause == ToolEnding::Cause::Cancelled || cause == ToolEnding::Cause::OutputLimit)
         return;
     const qint64 limit = m_command.outputLimit > 0  ? m_command.outputLimit
@@ -201,7 +213,7 @@ void ToolProcess::Private::readOutput(const QByteArray &piece)
 
 void ToolProcess::Private::readError(LineCutter &cutter, const QByteArray &piece)
 {
-    m_sinceLastByte.start();
+    noteWord();
     if (m_isOver || cause == ToolEnding::Cause::Cancelled)
         return;
     m_lastWords += piece;
@@ -217,10 +229,30 @@ void ToolProcess::Private::readError(LineCutter &cutter, const QByteArray &piece
 void ToolProcess::Private::checkSilence()
 {
     const auto left = m_command.silenceLimit - std::chrono::milliseconds(m_sinceLastByte.elapsed());
-    if (left > 0ms)
+    if (left > 0ms) {
+        m_watched.reset();
         m_silence.start(left);
-    else
-        end(ToolEnding::Cause::Silence);
+        return;
+    }
+    GroupActivity now = m_tool->activity();
+    if (m_feeder)
+        now += m_feeder->activity();
+    if (m_watched && isIdle(now))
+        return end(ToolEnding::Cause::Silence);
+    m_watched = now;
+    m_silence.start(m_command.silenceLimit);
+}
+
+/// A large file that is rewritten at the end, or a picture that takes minutes, is silent work.
+bool ToolProcess::Private::isIdle(const GroupActivity &now)
+{
+    constexpr qint64 bytesOfLife = 1'000'000;  // reports that repeat themselves stay below
+    constexpr qint64 shareOfLife = 100;
+    const qint64 processorMs = now.processorMs - m_watched->processorMs;
+    m_spins = std::abs(now.bytes - m_watched->bytes) < bytesOfLife ? m_spins + 1 : 0;
+    if (m_spins == 0)
+        return false;
+    return m_spins >= ToolCommand::maximumSpins || processorMs <= m_command.silenceLimit.count() / shareOfLife;
 }
 
 void ToolProcess::Private::toolEnded()
@@ -311,6 +343,11 @@ void ToolProcess::cancel()
 void ToolProcess::setPaused(bool paused)
 {
     d->setPaused(paused);
+}
+
+void ToolProcess::noteProgress()
+{
+    d->noteProgress();
 }
 
 bool ToolProcess::isRunning() const

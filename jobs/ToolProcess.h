@@ -20,9 +20,14 @@ struct ToolCommand {
     QStringList arguments = {};
     QProcessEnvironment environment = QProcessEnvironment(QProcessEnvironment::InheritFromParent);
     QString workingFolder = {};
-    std::chrono::milliseconds timeLimit{0};     ///< killed after that; 0 for none
-    std::chrono::milliseconds silenceLimit{0};  ///< killed after that long without a byte from it; 0 for none
-    qint64 outputLimit = 0;                     ///< bytes of standard output, then it is killed; 0 for none
+    std::chrono::milliseconds timeLimit{0};  ///< killed after that; 0 for none
+    /// After that long without a byte from it, it is looked at what it does: killed where for as long again it says
+    /// nothing, takes no processor time worth the name and moves no data, and after `maximumSpins` times as long where
+    /// it moves none; 0 for none.
+    std::chrono::milliseconds silenceLimit{0};
+    static constexpr int maximumSpins = 30;
+    bool saysItLives = false;     ///< only `noteProgress` breaks its silence, not each byte: it may go round in circles
+    qint64 outputLimit = 0;       ///< bytes of standard output, then it is killed; 0 for none
     bool collectsOutput = false;  ///< all of standard output is in the ending, instead of lines; 64 MiB without a limit
     PoliteEnd politeEnd = PoliteEnd::Interrupt;
     std::chrono::milliseconds patience{5000};  ///< between the polite end and the kill
@@ -69,6 +74,9 @@ public:
     void cancel();
     /// Holds the whole group, which then takes no processor time, and lets it go on.
     void setPaused(bool paused);
+
+    /// It has come on; see `saysItLives`.
+    void noteProgress();
 
     bool isRunning() const;
 

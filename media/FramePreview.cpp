@@ -34,6 +34,34 @@ QString fittingFilter(QSize size)
         .arg(size.height());
 }
 
+/// With one thread: there may be many of these.
+QStringList pictureAt(double seconds, const QString &path, PreviewPlace place)
+{
+    QStringList arguments{u"-hide_banner"_s,        u"-nostdin"_s, u"-loglevel"_s, u"error"_s,
+                          u"-protocol_whitelist"_s, u"file"_s,     u"-threads"_s,  u"1"_s,
+                          u"-filter_threads"_s,     u"1"_s};
+    if (place == PreviewPlace::KeyPicture)
+        arguments << u"-skip_frame"_s << u"nokey"_s << u"-noaccurate_seek"_s;
+    return arguments << u"-ss"_s << numberText(std::max(0.0, seconds)) << u"-i"_s << u"file:"_s + path;
+}
+
+/// Adds the files that lie over the picture.
+GraphInputs addOverlays(const TranscodePlan &plan, const TrackPlan &tracks, const MediaInformation &source,
+                        double seconds, QStringList &arguments)
+{
+    GraphInputs inputs{.pieces = {{.source = 0, .start = seconds, .end = {}, .seconds = {}}}, .sources = {source}};
+    if (plan.watermark && !plan.watermark->imagePath.isEmpty()) {
+        arguments << u"-i"_s << u"file:"_s + plan.watermark->imagePath;
+        inputs.watermark = 1;
+    }
+    if (tracks.burned && tracks.burned->file >= 0 && isBitmapBurnt(tracks)) {
+        inputs.subtitles = inputs.watermark < 0 ? 1 : 2;
+        arguments << u"-seek_timestamp"_s << u"1"_s << u"-itsoffset"_s << numberText(-seconds) << u"-i"_s
+                  << u"file:"_s + plan.externalSubtitles.at(tracks.burned->file).path;
+    }
+    return inputs;
+}
+
 }  // namespace
 
 QStringList previewArguments(const TranscodePlan &wanted, const MediaInformation &source, double seconds, QSize size,
@@ -48,24 +76,10 @@ QStringList previewArguments(const TranscodePlan &wanted, const MediaInformation
     if (tracks->video->encoder)
         tracks->video->frameRate = 0;
 
-    QStringList arguments{u"-hide_banner"_s,        u"-nostdin"_s, u"-loglevel"_s, u"error"_s,
-                          u"-protocol_whitelist"_s, u"file"_s,     u"-threads"_s,  u"1"_s,
-                          u"-filter_threads"_s,     u"1"_s};
-    if (place == PreviewPlace::KeyPicture)
-        arguments << u"-skip_frame"_s << u"nokey"_s << u"-noaccurate_seek"_s;
-    arguments << u"-ss"_s << numberText(std::max(0.0, seconds)) << u"-i"_s << u"file:"_s + plan.sources.first();
+    QStringList arguments = pictureAt(seconds, plan.sources.first(), place);
     QString map = u"0:%1"_s.arg(tracks->video->source->index), filter = fittingFilter(size), graph;
     if (isChanged) {
-        GraphInputs inputs{.pieces = {{.source = 0, .start = seconds, .end = {}, .seconds = {}}}, .sources = {source}};
-        if (plan.watermark && !plan.watermark->imagePath.isEmpty()) {
-            arguments << u"-i"_s << u"file:"_s + plan.watermark->imagePath;
-            inputs.watermark = 1;
-        }
-        if (tracks->burned && tracks->burned->file >= 0 && isBitmapBurnt(*tracks)) {
-            inputs.subtitles = inputs.watermark < 0 ? 1 : 2;
-            arguments << u"-seek_timestamp"_s << u"1"_s << u"-itsoffset"_s << numberText(-seconds) << u"-i"_s
-                      << u"file:"_s + plan.externalSubtitles.at(tracks->burned->file).path;
-        }
+        const GraphInputs inputs = addOverlays(plan, *tracks, source, seconds, arguments);
         const FilterGraph whole = filterGraph(plan, *tracks, inputs, {}, false);
         if (whole.graph.isEmpty()) {
             filter = whole.pictureFilters + u',' + filter;

@@ -41,6 +41,55 @@ QByteArray listFile(const QStringList &paths)
     return list;
 }
 
+/// Of the tracks that are played, in their order.
+QList<int> indexesOf(const TrackPlan &tracks)
+{
+    QList<int> indexes;
+    if (tracks.video)
+        indexes << tracks.video->source->index;
+    for (const SoundTrackPlan &sound : tracks.sounds)
+        indexes << sound.source->index;
+    return indexes;
+}
+
+/// Cuts each piece of the one source into a file of its own, which `parts` names.
+QList<TranscodeRun> pieceRuns(const Plan &plan, const MediaInformation &source, const TrackPlan &tracks,
+                              const QList<SourcePiece> &pieces, const QStringList &parts)
+{
+    QList<TranscodeRun> runs;
+    for (qsizetype number = 0; number < pieces.size(); ++number) {
+        const SourcePiece &piece = pieces.at(number);
+        QStringList arguments = commonHead() + pieceInput(piece, source, plan.sources.first(), true);
+        for (const int index : indexesOf(tracks))
+            arguments << u"-map"_s << u"0:%1"_s.arg(index);
+        arguments << u"-c"_s << u"copy"_s << u"-map_chapters"_s << u"-1"_s << u"-avoid_negative_ts"_s << u"make_zero"_s;
+        arguments += commonTail(tracks, parts.at(number));
+        runs.append({.arguments = arguments,
+                     .stage = {"Piece %1 of %2"_key, {QString::number(number + 1), QString::number(pieces.size())}},
+                     .share = 0.5 / double(pieces.size()),
+                     .seconds = piece.seconds.value_or(0)});
+    }
+    return runs;
+}
+
+/// What the steps come to.
+void tellResult(const Plan &plan, const QList<MediaInformation> &sources, const TrackPlan &tracks,
+                std::optional<double> seconds, TranscodeSteps &steps)
+{
+    steps.expected.tracks = expectedTracks(tracks);
+    steps.expected.seconds = seconds;
+    steps.expected.mayBeLonger = !plan.pieces.isEmpty();
+    if (tracks.video)
+        steps.expected.rotation = tracks.video->source->rotation;
+    // Parameters that no report tells may differ still; only decoding shows it.
+    steps.expected.decodesAll = true;
+    steps.leftOut = tracks.leftOut;
+    steps.notes = tracks.notes;
+    steps.work = TranscodeSteps::Work::Copy;
+    steps.takesShortcut = true;
+    steps.expectedBytes = expectedSize(plan, tracks, {}, sources, seconds);
+}
+
 }  // namespace
 
 bool canBeJoined(const QList<MediaInformation> &sources)
@@ -64,31 +113,13 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
     }
     TranscodeSteps steps;
     const std::optional<double> seconds = secondsOf(pieces);
-    QStringList parts;
     const bool isCut = !plan.pieces.isEmpty();
-    QList<int> indexes;
-    if (tracks.video)
-        indexes << tracks.video->source->index;
-    for (const SoundTrackPlan &sound : tracks.sounds)
-        indexes << sound.source->index;
-    for (qsizetype number = 0; number < pieces.size(); ++number) {
-        const SourcePiece &piece = pieces.at(number);
-        if (!isCut) {
-            parts << plan.sources.at(piece.source);
-            continue;
-        }
-        parts << u"%1/piece%2.%3"_s.arg(paths.workFolder).arg(number).arg(plan.preset.extension);
-        QStringList arguments = commonHead() + pieceInput(piece, sources.first(), plan.sources.first(), true);
-        for (const int index : indexes)
-            arguments << u"-map"_s << u"0:%1"_s.arg(index);
-        arguments << u"-c"_s << u"copy"_s << u"-map_chapters"_s << u"-1"_s << u"-avoid_negative_ts"_s << u"make_zero"_s;
-        arguments += commonTail(tracks, parts.last());
-        steps.runs.append(
-            {.arguments = arguments,
-             .stage = {"Piece %1 of %2"_key, {QString::number(number + 1), QString::number(pieces.size())}},
-             .share = 0.5 / double(pieces.size()),
-             .seconds = piece.seconds.value_or(0)});
-    }
+    QStringList parts;
+    for (const SourcePiece &piece : pieces)
+        parts << (isCut ? u"%1/piece%2.%3"_s.arg(paths.workFolder).arg(parts.size()).arg(plan.preset.extension)
+                        : plan.sources.at(piece.source));
+    if (isCut)
+        steps.runs = pieceRuns(plan, sources.first(), tracks, pieces, parts);
 
     const QString list = paths.workFolder + u"/list.txt"_s;
     steps.files.insert(list, listFile(parts));
@@ -107,6 +138,7 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
             chapterInput = 2;
         }
     }
+    const QList<int> indexes = indexesOf(tracks);
     for (qsizetype number = 0; number < indexes.size(); ++number)
         arguments << u"-map"_s << u"0:%1"_s.arg(isCut ? number : indexes.at(number));
     arguments << u"-c"_s << u"copy"_s;
@@ -122,18 +154,7 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
                        .share = isCut ? 0.5 : 1,
                        .seconds = seconds.value_or(0)});
 
-    steps.expected.tracks = expectedTracks(tracks);
-    steps.expected.seconds = seconds;
-    steps.expected.mayBeLonger = isCut;
-    if (tracks.video)
-        steps.expected.rotation = tracks.video->source->rotation;
-    // Parameters that no report tells may differ still; only decoding shows it.
-    steps.expected.decodesAll = true;
-    steps.leftOut = tracks.leftOut;
-    steps.notes = tracks.notes;
-    steps.work = TranscodeSteps::Work::Copy;
-    steps.takesShortcut = true;
-    steps.expectedBytes = expectedSize(plan, tracks, {}, sources, seconds);
+    tellResult(plan, sources, tracks, seconds, steps);
     return steps;
 }
 

@@ -23,16 +23,19 @@ constexpr const char *mediaExtensions =
     "wma wmv wtv wv y4m";
 
 /// With the standard library, which hands names over as bytes: Qt leaves those out that are not UTF-8.
-QStringList mediaFilesBelow(const QString &folder)
+MediaFiles mediaFilesBelow(const QString &folder)
 {
     namespace fs = std::filesystem;
-    constexpr int maximumEntries = 20'000;  // what is walked on the main thread
+    constexpr int maximumEntries = 500'000;
     const QStringList extensions = QString::fromLatin1(mediaExtensions).split(u' ');
-    QStringList files;
+    MediaFiles files;
     std::error_code error;
     fs::recursive_directory_iterator entries(foundation::encodedFileName(folder).toStdString(),
                                              fs::directory_options::skip_permission_denied, error);
-    for (int count = 0; !error && entries != fs::end(entries) && count < maximumEntries; ++count) {
+    for (int count = 0; !error && entries != fs::end(entries); ++count) {
+        files.isPart = count == maximumEntries;
+        if (files.isPart)
+            break;
         const QString path = foundation::decodedFileName(entries->path().native());
         const QString name = path.mid(path.lastIndexOf(u'/') + 1);
         std::error_code entryError;
@@ -40,24 +43,27 @@ QStringList mediaFilesBelow(const QString &folder)
             entries.disable_recursion_pending();
         else if (extensions.contains(name.section(u'.', 1).section(u'.', -1), Qt::CaseInsensitive) &&
                  entries->is_regular_file(entryError))
-            files.append(path);
+            files.paths.append(path);
         entries.increment(error);
     }
-    sortNaturally(files);
+    sortNaturally(files.paths);
     return files;
 }
 
 }  // namespace
 
-QStringList mediaFiles(const QStringList &paths)
+MediaFiles mediaFiles(const QStringList &paths)
 {
-    QStringList files;
+    MediaFiles files;
     for (const QString &path : paths) {
         const QString absolute = foundation::absoluteFileName(path);
-        if (foundation::fileFacts(absolute).kind == foundation::FileKind::Folder)
-            files += mediaFilesBelow(absolute);
-        else
-            files.append(absolute);
+        if (foundation::fileFacts(absolute).kind == foundation::FileKind::Folder) {
+            const MediaFiles below = mediaFilesBelow(absolute);
+            files.paths += below.paths;
+            files.isPart |= below.isPart;
+        } else {
+            files.paths.append(absolute);
+        }
     }
     return files;
 }

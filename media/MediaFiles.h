@@ -4,10 +4,14 @@
 
 namespace kestrel {
 
+struct MediaFiles {
+    QStringList paths;    ///< absolute, in the form of foundation/FileNames.h
+    bool isPart = false;  ///< a folder was beyond all measure, and there may be more in it
+};
+
 /// The files that `paths` stand for: a file is itself, whatever it is called; a folder is the media files in it and
-/// below, in natural order ("2" before "10"). Links to folders are not followed and a tree beyond all measure is looked
-/// at in part. Absolute paths, in the form of foundation/FileNames.h.
-QStringList mediaFiles(const QStringList &paths);
+/// below, in natural order ("2" before "10"). Links to folders are not followed. Waits for the disk; any thread.
+MediaFiles mediaFiles(const QStringList &paths);
 
 /// Sorts paths as people count: folder by folder, digits by their number, letters without regard to case.
 void sortNaturally(QStringList &paths);

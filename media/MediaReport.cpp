@@ -303,7 +303,7 @@ std::optional<MediaInformation> parseMediaInformation(const QByteArray &json)
         information.tracks.append(trackIn(streams.at(index).toObject(), isStillPicture));
     if (!information.duration) {
         for (const MediaTrack &track : std::as_const(information.tracks))
-            information.duration = std::max(information.duration, track.duration);  // nothing is least
+            information.duration = std::max(information.duration, track.duration);  // none is less than any
     }
     // Ogg has its tags with the track.
     if (information.tags.isEmpty() && information.tracks.size() == 1)

@@ -16,20 +16,11 @@ using tarnwell::operator""_key;
 
 namespace {
 
-QStringList codecsOf(const QList<OutputExpectation::Track> &tracks, MediaTrack::Kind kind)
+template <typename Track>
+QStringList codecsOf(const QList<Track> &tracks, MediaTrack::Kind kind)
 {
     QStringList codecs;
-    for (const OutputExpectation::Track &track : tracks) {
-        if (track.kind == kind)
-            codecs.append(track.codec);
-    }
-    return codecs;
-}
-
-QStringList codecsOf(const QList<MediaTrack> &tracks, MediaTrack::Kind kind)
-{
-    QStringList codecs;
-    for (const MediaTrack &track : tracks) {
+    for (const Track &track : tracks) {
         if (track.kind == kind)
             codecs.append(track.codec);
     }
@@ -98,13 +89,16 @@ Sentence mismatchIn(const OutputExpectation &expected, const MediaInformation &f
 
 }  // namespace
 
-ToolCommand outputReportCommand(const QString &proberPath, const QString &argument)
+ToolCommand outputReportCommand(const QString &proberPath, const QString &argument, qint64 fileBytes)
 {
+    constexpr qint64 slowBytesPerSecond = 5'000'000;  // of a disk behind a network
+    constexpr std::chrono::seconds leastLimit = std::chrono::minutes(15);
     return {.program = proberPath,
             .arguments = {u"-v"_s, u"repeat+level+error"_s, u"-protocol_whitelist"_s, u"file"_s, u"-count_packets"_s,
                           u"-show_format"_s, u"-show_streams"_s, u"-show_chapters"_s, u"-of"_s, u"json"_s, u"-i"_s,
                           argument},
-            .timeLimit = std::chrono::minutes(15),  // it says nothing before it has read everything
+            // It says nothing before it has read everything.
+            .timeLimit = std::max(leastLimit, std::chrono::seconds(fileBytes / slowBytesPerSecond)),
             .outputLimit = maximumReportBytes,
             .collectsOutput = true};
 }
@@ -132,7 +126,7 @@ std::optional<double> secondsOfKept(const OutputExpectation &expected, const Med
         for (const MediaTrack &track : source.tracksOf(kind)) {
             if (!track.duration)
                 return expected.seconds;
-            longest = std::max(longest, track.duration);  // nothing is least
+            longest = std::max(longest, track.duration);  // none is less than any
         }
     }
     return expected.seconds && longest ? std::min(expected.seconds, longest) : expected.seconds;

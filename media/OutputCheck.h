@@ -34,9 +34,9 @@ struct OutputFindings {
     bool lacksChapters = false;
 };
 
-/// Reads a written file back; counting its packets takes about 0.1 s. What it says of packets that are none is for
-/// ToolMessages. `argument` as ToolPath has it.
-ToolCommand outputReportCommand(const QString &proberPath, const QString &argument);
+/// Reads a written file back, all of its `fileBytes`; what it says of packets that are none is for ToolMessages.
+/// `argument` as ToolPath has it.
+ToolCommand outputReportCommand(const QString &proberPath, const QString &argument, qint64 fileBytes);
 /// Nothing where the report is none.
 std::optional<FoundOutput> parseOutputReport(const QByteArray &json, qint64 fileBytes);
 

@@ -7,6 +7,7 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -70,26 +71,31 @@ struct ReadPreset {
     QJsonObject options;
 };
 
-foundation::Result<QList<ReadPreset>, tarnwell::Sentence> readCollection(const QByteArray &bytes)
+struct Collection {
+    QList<ReadPreset> presets;
+    tarnwell::Sentence refused;  ///< why some are left out; none where all were read
+};
+
+foundation::Result<Collection, tarnwell::Sentence> readCollection(const QByteArray &bytes)
 {
-    const QJsonObject root =
-        bytes.size() > maximumPresetFileBytes ? QJsonObject() : QJsonDocument::fromJson(bytes).object();
+    const QJsonObject root = QJsonDocument::fromJson(bytes).object();
     const int version = root[versionKey].toInt();
     if (version < 1)
         return Refused{"This file holds no presets of Kestrel."_key};
     if (version > collectionVersion)
         return Refused{"This preset was made by a newer version of Kestrel."_key};
-    QList<ReadPreset> list;
+    Collection collection;
     for (const QJsonValue &value : root[presetsKey].toArray()) {
         const QJsonObject json = value.toObject();
         auto preset = Preset::fromJson(json);
-        if (!preset)
-            return Refused{preset.reason()};
-        list.append({*preset, readOptions(json[optionsKey].toObject(), *preset)});
+        if (preset)
+            collection.presets.append({*preset, readOptions(json[optionsKey].toObject(), *preset)});
+        else
+            collection.refused = preset.reason();
     }
-    if (list.isEmpty())
+    if (collection.presets.isEmpty() && collection.refused.isEmpty())
         return Refused{"This file holds no presets of Kestrel."_key};
-    return list;
+    return collection;
 }
 
 QByteArray writtenCollection(const QJsonArray &presets)
@@ -120,10 +126,12 @@ OwnPresets::OwnPresets(foundation::UserDefaults &defaults, QString key, QObject 
       m_defaults(defaults),
       m_key(std::move(key))
 {
-    const auto stored = readCollection(m_defaults.dataForKey(m_key));
+    const QByteArray bytes = m_defaults.dataForKey(m_key);
+    const auto stored = readCollection(bytes);
+    m_isStoredUnreadable = !bytes.isEmpty() && (!stored || !stored->refused.isEmpty());
     if (!stored)
         return;
-    for (const ReadPreset &row : stored->mid(0, mostPresets)) {
+    for (const ReadPreset &row : stored->presets.mid(0, mostPresets)) {
         if (presetOfId(row.preset.id) || kestrel::presetOfId(row.preset.id))
             continue;
         m_presets.append(row.preset);
@@ -206,13 +214,13 @@ QByteArray OwnPresets::exported(const QString &id) const
 
 foundation::Result<QString, tarnwell::Sentence> OwnPresets::import(const QByteArray &file)
 {
-    const auto read = readCollection(file);
-    if (!read)
-        return Refused{read.reason()};
-    if (m_presets.size() + read->size() > mostPresets)
+    const auto read = readCollection(file.size() > maximumPresetFileBytes ? QByteArray() : file);
+    if (!read || !read->refused.isEmpty())
+        return Refused{read ? read->refused : read.reason()};
+    if (m_presets.size() + read->presets.size() > mostPresets)
         return Refused{"There are too many presets. Delete some first."_key};
     QString first;
-    for (const ReadPreset &row : *read) {
+    for (const ReadPreset &row : read->presets) {
         const QString id = add(row.preset, row.options);
         first = first.isNull() ? id : first;
     }
@@ -228,6 +236,8 @@ void OwnPresets::keep()
         json[optionsKey] = m_options.value(preset.id);
         all.append(json);
     }
+    if (std::exchange(m_isStoredUnreadable, false))
+        m_defaults.keepAside(m_key);
     if (all.isEmpty())
         m_defaults.removeObjectForKey(m_key);
     else

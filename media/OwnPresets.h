@@ -17,7 +17,8 @@ void setOptions(const QJsonObject &options, TranscodePlan &plan);
 
 /// The user's own presets: a form of output with the options that go with it, but nothing that belongs to one file
 /// (cuts, tracks, crop, watermark). Kept in the defaults under one key, with a version. What is read, from there or
-/// from a file of somebody else's, is untrusted. Main thread.
+/// from a file of somebody else's, is untrusted; stored presets that cannot be read are kept aside (UserDefaults).
+/// Main thread.
 class OwnPresets : public QObject {
     Q_OBJECT
 public:
@@ -51,6 +52,7 @@ private:
     QString m_key;
     QList<Preset> m_presets;
     QHash<QString, QJsonObject> m_options;
+    bool m_isStoredUnreadable = false;  ///< at least in part: it is put aside before it is replaced
 };
 
 /// A larger file holds no presets.

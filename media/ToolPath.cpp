@@ -31,7 +31,7 @@ ToolPath::ToolPath(const QString &path)
         m_path = path;
         return;
     }
-    m_folder = std::make_unique<QTemporaryDir>(QDir::tempPath() + "/kestrel-link-XXXXXX"_L1);
+    m_folder = std::make_unique<WorkFolder>();
     const QString link = m_folder->filePath("source"_L1 + plainEnding(path));
     const QByteArray target = foundation::encodedFileName(path);
     if (m_folder->isValid() && symlink(target.constData(), QFile::encodeName(link).constData()) == 0)

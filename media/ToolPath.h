@@ -1,7 +1,8 @@
 #pragma once
 
+#include "jobs/WorkFolder.h"
+
 #include <QString>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -19,7 +20,7 @@ public:
     QString argument() const { return QStringLiteral("file:") + m_path; }
 
 private:
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<WorkFolder> m_folder;
     QString m_path;
 };
 

@@ -21,6 +21,8 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr std::chrono::seconds lookLimit{30};
+/// After a stop the tool may rewrite the whole of a large file. Whoever does not want to wait cancels.
+constexpr std::chrono::minutes stopPatience{30};
 
 }  // namespace
 
@@ -57,7 +59,7 @@ void TranscodeJob::lookAtSource()
     tellStage("Reading the file…"_key);
     run(probeCommand(m_request.tools.prober, m_sources[number].argument(), lookLimit),
         [this](const ToolEnding &ending) {
-            if (isStopping())  // which the look may not have survived
+            if (isStopping())  // the look was stopped with the job
                 return finishStopped();
             auto result = probeResult(ending);
             if (result)
@@ -123,8 +125,9 @@ void TranscodeJob::prepare()
                                             m_request.plan.preset.extension);
     if (!m_output->isValid())
         return fail(m_output->reason());
-    m_workFolder = std::make_unique<QTemporaryDir>();
-    if (!m_workFolder->isValid())
+    m_outputPath.emplace(m_output->partPath());
+    m_workFolder = std::make_unique<WorkFolder>();
+    if (!m_workFolder->isValid() || m_outputPath->path().isNull())
         return fail("The folder for temporary files cannot be written."_key);
     m_request.plan = planWithToolPaths();
     carryOut();
@@ -133,7 +136,7 @@ void TranscodeJob::prepare()
 void TranscodeJob::carryOut()
 {
     auto steps = transcodeSteps(m_request.plan, m_request.information, m_request.tools.machine,
-                                {m_output->partPath(), m_workFolder->path()});
+                                {m_outputPath->path(), m_workFolder->path()});
     if (!steps)
         return fail(steps.reason());
     m_steps = *std::move(steps);
@@ -157,19 +160,24 @@ void TranscodeJob::runStep()
     const TranscodeRun &step = m_steps.runs[m_step];
     m_progress = {};
     m_reading = ToolMessages();
-    m_messages = ToolMessages(m_request.plan.sources + QStringList{m_output->partPath(), m_workFolder->path()});
+    m_messages = ToolMessages(m_request.plan.sources + QStringList{m_outputPath->path(), m_workFolder->path()});
     tellStage(step.stage);
     tarnwell::DNFootLog(u"Converting: %1"_s, step.arguments.join(u' '));
-    const ToolProcess &tool = run({.program = m_request.tools.transcoder,
-                                   .arguments = step.arguments,
-                                   .workingFolder = m_workFolder->path(),
-                                   .silenceLimit = m_request.tools.silenceLimit},
-                                  [this](const ToolEnding &ending) { stepEnded(ending); });
+    ToolProcess &tool = run({.program = m_request.tools.transcoder,
+                             .arguments = step.arguments,
+                             .workingFolder = m_workFolder->path(),
+                             .silenceLimit = m_request.tools.stallLimit,
+                             .saysItLives = true,
+                             .patience = stopPatience},
+                            [this](const ToolEnding &ending) { stepEnded(ending); });
     connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
-    connect(&tool, &ToolProcess::outputLine, this, [this](const QByteArray &line) {
+    connect(&tool, &ToolProcess::outputLine, this, [this, &tool](const QByteArray &line) {
         m_progress.readLine(line);
-        if (m_progress.isAtReportEnd())
-            tellProgress();
+        if (!m_progress.isAtReportEnd())
+            return;
+        if (m_progress.hasMoved())
+            tool.noteProgress();
+        tellProgress();
     });
 }
 

@@ -8,8 +8,7 @@
 #include "TranscodeProgress.h"
 
 #include "jobs/ToolJob.h"
-
-#include <QTemporaryDir>
+#include "jobs/WorkFolder.h"
 
 #include <vector>
 
@@ -23,8 +22,10 @@ struct TranscodeTools {
     QString transcoder;  ///< absolute path of ffmpeg
     QString prober;      ///< of ffprobe
     TranscodeMachine machine;
-    /// After that long without a word from ffmpeg it is taken for hung. Rewriting a large file at the end is silent.
-    std::chrono::milliseconds silenceLimit = std::chrono::minutes(30);
+    /// `ToolCommand::silenceLimit` of a conversion from files: ffmpeg that comes on nowhere for twice as long is hung.
+    std::chrono::milliseconds stallLimit = std::chrono::minutes(1);
+    /// That of one that is fed from a disc, whose damaged places take their time.
+    std::chrono::milliseconds silenceLimit = std::chrono::minutes(15);
 };
 
 struct TranscodeRequest {
@@ -61,7 +62,8 @@ private:
     void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);
     void judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings);
     void tryWithoutShortcuts();
-    void place(JobOutcome outcome);
+    void place(const JobOutcome &outcome);
+    void giveName(JobOutcome outcome);
     void fail(const tarnwell::Sentence &sentence);
     void finishStopped();
     void tellProgress();
@@ -71,7 +73,8 @@ private:
     TranscodeRequest m_request;
     std::vector<ToolPath> m_sources;
     std::shared_ptr<OutputFile> m_output;
-    std::unique_ptr<QTemporaryDir> m_workFolder;
+    std::optional<ToolPath> m_outputPath;  ///< its part, for tools
+    std::unique_ptr<WorkFolder> m_workFolder;
     std::shared_ptr<Placing> m_placing;
     std::vector<ToolPath> m_companions;
     TranscodeSteps m_steps;

@@ -1,13 +1,11 @@
 // What comes after the last run of the tool: the look at the output, the judgement, the name.
-#include "OutputPlacing.h"
+#include "Placing.h"
 #include "TranscodeJob.h"
 #include "TranscodeVerdict.h"
 
 #include "foundation/FileNames.h"
 #include "jobs/OutputFile.h"
 #include "tarnwell/Log.h"
-
-#include <QFileInfo>
 
 #include <algorithm>
 #include <utility>
@@ -23,14 +21,20 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
 {
     tellStage("Checking the finished file…"_key);
     const QString part = m_output->partPath();
-    m_reading = ToolMessages({part});
+    m_reading = ToolMessages({m_outputPath->path()});
     const ToolProcess &tool = run(
-        outputReportCommand(m_request.tools.prober, ToolPath(part).argument()),
+        outputReportCommand(m_request.tools.prober, m_outputPath->argument(), foundation::fileFacts(part).bytes),
         [this, ending, part](const ToolEnding &probing) {
             const auto found =
-                probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
-            if (!found)
+                probing.isGood() ? parseOutputReport(probing.output, foundation::fileFacts(part).bytes) : std::nullopt;
+            // What was to be stopped has been written already; it is worth a look.
+            if (probing.cause == ToolEnding::Cause::Stopped)
+                return checkOutput(ending);
+            if (!found) {
+                // Another attempt would take as long to read.
+                m_isSecondAttempt |= probing.cause == ToolEnding::Cause::TimeLimit;
                 return judge(ending, std::nullopt);
+            }
             const OutputFindings findings = compareOutput(
                 m_steps.expected,
                 {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},
@@ -52,13 +56,13 @@ Decoding TranscodeJob::neededDecoding() const
         return Decoding::All;
     if (m_steps.work == TranscodeSteps::Work::Encode)
         return Decoding::None;
-    return QFileInfo(m_output->partPath()).size() <= smallBytes ? Decoding::All : Decoding::KeyPictures;
+    return foundation::fileFacts(m_output->partPath()).bytes <= smallBytes ? Decoding::All : Decoding::KeyPictures;
 }
 
 void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &findings)
 {
     const ToolProcess &tool =
-        run(decodingCommand(m_request.tools.transcoder, ToolPath(m_output->partPath()).argument(), neededDecoding()),
+        run(decodingCommand(m_request.tools.transcoder, m_outputPath->argument(), neededDecoding()),
             [this, ending, findings](const ToolEnding &decoding) {
                 if (!decoding.isGood() && !isStopping() && m_reading.faults() == 0)
                     m_reading.readLine("[error] The finished file could not be decoded");
@@ -104,9 +108,16 @@ void TranscodeJob::tryWithoutShortcuts()
     carryOut();
 }
 
-void TranscodeJob::place(JobOutcome outcome)
+void TranscodeJob::place(const JobOutcome &outcome)
 {
     tellStage("Saving…"_key);
+    beforePlacing(outcome, m_output->partPath(), [this, outcome] { giveName(outcome); });
+}
+
+void TranscodeJob::giveName(JobOutcome outcome)
+{
+    if (!m_output)  // cancelled meanwhile
+        return;
     const QString &source = m_sources.front().path();
     m_placing =
         std::make_shared<Placing>(std::exchange(m_output, nullptr),
@@ -145,6 +156,7 @@ void TranscodeJob::discard()
         m_placing->takeBack();
     m_placing.reset();
     m_output.reset();
+    m_outputPath.reset();
     m_workFolder.reset();
 }
 

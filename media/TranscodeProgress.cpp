@@ -21,4 +21,13 @@ void TranscodeProgress::readLine(const QByteArray &line)
         m_hasEnded = value == "end";
 }
 
+bool TranscodeProgress::hasMoved()
+{
+    const bool hasMoved = m_bytes != m_bytesBefore || m_frames != m_framesBefore || m_seconds != m_secondsBefore;
+    m_bytesBefore = m_bytes;
+    m_framesBefore = m_frames;
+    m_secondsBefore = m_seconds;
+    return hasMoved;
+}
+
 }  // namespace kestrel

@@ -10,17 +10,23 @@ namespace kestrel {
 
 namespace {
 
-Lane laneOf(TranscodeSteps::Work work)
+/// Where a kind of work is done, and the time that it takes of what encoding does.
+struct Effort {
+    Lane lane;
+    double share;
+};
+
+Effort effortOf(TranscodeSteps::Work work)
 {
     switch (work) {
         case TranscodeSteps::Work::Copy:
-            return Lane::Copy;
+            return {Lane::Copy, 1 / 20.0};
         case TranscodeSteps::Work::Sound:
-            return Lane::Sound;
+            return {Lane::Sound, 1 / 5.0};
         case TranscodeSteps::Work::Encode:
             break;
     }
-    return Lane::Encode;
+    return {Lane::Encode, 1};
 }
 
 /// By the preset alone: what has not been looked at may be anything.
@@ -44,35 +50,34 @@ void TranscodeRecipe::setInformation(JobId id, const QList<MediaInformation> &in
         m_information.insert(id, information);
 }
 
-std::optional<TranscodeSteps> TranscodeRecipe::stepsOf(const JobRecord &record) const
+/// Weighed in seconds of film to be encoded.
+JobNeeds TranscodeRecipe::needs(const JobRecord &record) const
 {
-    const auto plan = TranscodePlan::fromJson(record.plan);
-    const QList<MediaInformation> information = m_information.value(record.id);
-    if (!plan || information.isEmpty() || information.size() != plan->sources.size())
-        return std::nullopt;
-    auto steps = transcodeSteps(*plan, information, m_tools().machine, {u"/output"_s, u"/work"_s});
-    return steps ? std::optional(*std::move(steps)) : std::nullopt;
-}
-
-Lane TranscodeRecipe::lane(const JobRecord &record) const
-{
-    if (const auto steps = stepsOf(record))
-        return laneOf(steps->work);
-    const auto plan = TranscodePlan::fromJson(record.plan);
-    return laneOf(plan ? workOf(plan->preset) : TranscodeSteps::Work::Copy);
-}
-
-qint64 TranscodeRecipe::expectedBytes(const JobRecord &record) const
-{
-    if (const auto steps = stepsOf(record); steps && steps->expectedBytes > 0)
-        return steps->expectedBytes;
     const auto plan = TranscodePlan::fromJson(record.plan);
     if (!plan)
-        return 0;
-    if (plan->maximumBytes > 0 && plan->rateControl == TranscodePlan::RateControl::Size)
-        return plan->maximumBytes;
-    return std::accumulate(plan->sources.begin(), plan->sources.end(), qint64(0),
-                           [](qint64 bytes, const QString &path) { return bytes + foundation::fileFacts(path).bytes; });
+        return {.lane = Lane::Copy};
+    auto work = workOf(plan->preset);
+    qint64 bytes = 0;
+    double seconds = 0;
+    const QList<MediaInformation> information = m_information.value(record.id);
+    if (!information.isEmpty() && information.size() == plan->sources.size()) {
+        const auto steps = transcodeSteps(*plan, information, m_tools().machine, {u"/output"_s, u"/work"_s});
+        work = steps ? steps->work : work;
+        bytes = steps ? steps->expectedBytes : 0;
+        seconds = steps ? steps->expected.seconds.value_or(0) : 0;
+    }
+    if (bytes <= 0 && plan->rateControl == TranscodePlan::RateControl::Size)
+        bytes = plan->maximumBytes;
+    if (bytes <= 0 || seconds <= 0) {
+        constexpr double bytesPerSecond = 500'000;  // of a middling film
+        const auto sourceBytes =
+            std::accumulate(plan->sources.begin(), plan->sources.end(), qint64(0),
+                            [](qint64 sum, const QString &path) { return sum + foundation::fileFacts(path).bytes; });
+        bytes = bytes > 0 ? bytes : sourceBytes;
+        seconds = seconds > 0 ? seconds : double(sourceBytes) / bytesPerSecond;
+    }
+    const Effort effort = effortOf(work);
+    return {.lane = effort.lane, .bytes = bytes, .weight = seconds * effort.share};
 }
 
 std::unique_ptr<Job> TranscodeRecipe::makeJob(const JobRecord &record)

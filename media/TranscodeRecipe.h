@@ -20,13 +20,10 @@ public:
     /// Of the job's sources, in their order. An empty list forgets them.
     void setInformation(JobId id, const QList<MediaInformation> &information);
 
-    Lane lane(const JobRecord &record) const override;
-    qint64 expectedBytes(const JobRecord &record) const override;
+    JobNeeds needs(const JobRecord &record) const override;
     std::unique_ptr<Job> makeJob(const JobRecord &record) override;
 
 private:
-    std::optional<TranscodeSteps> stepsOf(const JobRecord &record) const;
-
     std::function<TranscodeTools()> m_tools;
     QHash<JobId, QList<MediaInformation>> m_information;
 };

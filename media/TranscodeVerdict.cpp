@@ -17,6 +17,18 @@ QString secondsText(double seconds)
     return QString::number(seconds, 'f', seconds < 10 ? 1 : 0);
 }
 
+/// How much of the source there is.
+Sentence readSentence(double seconds, std::optional<double> wanted, int faults)
+{
+    const QString read = secondsText(seconds), all = wanted ? secondsText(*wanted) : QString();
+    const QString count = QString::number(faults);
+    if (wanted)
+        return faults == 1 ? Sentence("%1 of %2 s could be read, 1 fault"_key, {read, all})
+                           : Sentence("%1 of %2 s could be read, %3 faults"_key, {read, all, count});
+    return faults == 1 ? Sentence("%1 s could be read, 1 fault"_key, {read})
+                       : Sentence("%1 s could be read, %2 faults"_key, {read, count});
+}
+
 /// Why the tool did not end well; none where it did.
 Sentence toolFailure(const TranscodeFacts &facts)
 {
@@ -52,7 +64,9 @@ Sentence outputFailure(const TranscodeFacts &facts)
     if (!findings.mismatch.isEmpty() && !isSourceDamaged)
         return findings.mismatch;
     if (facts.readingFaults > 0 && !facts.copiesTracks)
-        return {"The finished file is damaged: %1 faults."_key, {QString::number(facts.readingFaults)}};
+        return facts.readingFaults == 1
+                   ? Sentence("The finished file is damaged: 1 fault."_key)
+                   : Sentence("The finished file is damaged: %1 faults."_key, {QString::number(facts.readingFaults)});
     return {};
 }
 
@@ -63,12 +77,10 @@ QList<Sentence> problemsIn(const TranscodeFacts &facts)
     const bool isShort = findings.isShort && facts.sourceTellsDuration;
     QList<Sentence> problems;
     if (facts.expected.seconds && (isShort || (faults > 0 && facts.sourceTellsDuration)))
-        problems.append({"%1 of %2 s could be read, %3 faults"_key,
-                         {secondsText(std::min(findings.seconds, *facts.expected.seconds)),
-                          secondsText(*facts.expected.seconds), QString::number(faults)}});
-    else if (faults > 0)
         problems.append(
-            {"%1 s could be read, %2 faults"_key, {secondsText(findings.seconds), QString::number(faults)}});
+            readSentence(std::min(findings.seconds, *facts.expected.seconds), facts.expected.seconds, faults));
+    else if (faults > 0)
+        problems.append(readSentence(findings.seconds, std::nullopt, faults));
     if (!findings.mismatch.isEmpty())
         problems.append(findings.mismatch);
     if (findings.isLong && facts.sourceTellsDuration)

@@ -5,6 +5,8 @@
 #include <QJsonDocument>
 #include <QStringConverter>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -17,7 +19,10 @@ constexpr std::chrono::seconds fetchTime(5);  ///< the update check waits for it
 /// JSON may come in any of Unicode's encodings, with or without a mark.
 QJsonObject jsonObject(const QByteArray &bytes)
 {
-    const auto encoding = QStringConverter::encodingForData(bytes, u'{').value_or(QStringConverter::Utf8);
+    // It begins with a brace or a blank, whose one byte that is not zero tells where the others are.
+    const auto first = std::find_if(bytes.begin(), bytes.end(), [](char byte) { return byte != 0; });
+    const char16_t character = first == bytes.end() ? u'{' : char16_t(uchar(*first));
+    const auto encoding = QStringConverter::encodingForData(bytes, character).value_or(QStringConverter::Utf8);
     if (encoding == QStringConverter::Utf8)
         return QJsonDocument::fromJson(bytes).object();
     QStringDecoder decoder(encoding);

@@ -94,7 +94,7 @@ void JKestrelSetting::setHardwareChoice(HardwareChoice choice)
     m_intelQSV = encodesInHardware(choice, canEncodeInHardware());
 }
 
-void JKestrelSetting::sync()
+bool JKestrelSetting::sync()
 {
     foundation::KeyedArchiver archiver;
     archiver.setObject(moduleKey(ModuleSettingVideo), *m_video);
@@ -107,12 +107,13 @@ void JKestrelSetting::sync()
     const QByteArray archive = archiver.archivedData();
     if (archive.isEmpty()) {
         tarnwell::DNFootLog(u"The settings could not be archived"_s);
-        return;
+        return false;
     }
-    if (std::exchange(m_isStoredUnreadable, false))
-        m_defaults.keepAside(settingKey);
+    if (m_isStoredUnreadable && !m_defaults.keepAside(settingKey))
+        return false;
+    m_isStoredUnreadable = false;
     m_defaults.setObject(archive, settingKey);
-    m_defaults.synchronize();
+    return m_defaults.synchronize();
 }
 
 QString JKestrelSetting::getFFmpegBundlePath() const

@@ -40,9 +40,9 @@ public:
     /// The shared object over the application's own defaults, made on first use.
     static JKestrelSetting &ShareInst();
 
-    /// Writes the model to the defaults and the defaults to the disk. Where it cannot be archived, the stored value
-    /// stays; a stored one that could not be read is kept beside the defaults.
-    void sync();
+    /// Writes the model to the defaults and the defaults to the disk. False where that failed: where it cannot be
+    /// archived, the stored value stays, and so does one that could not be read and cannot be kept beside the defaults.
+    bool sync();
 
     JVideoSetting *video() const { return m_video.get(); }
     JDVDSetting *dvd() const { return m_dvd.get(); }

@@ -31,7 +31,8 @@ std::optional<SystemVersion> platformSystemVersion();
 /// The folder below which applications keep the user's data.
 QString GetApplicationSupportDir();
 
-/// Creates `path` with the folders above it. True where it is a folder afterwards.
+/// Creates `path` with the folders above it, for the user's own films and pictures: who may look into them is for the
+/// mask of the user's session to say. True where it is a folder afterwards.
 bool CreateDirectory(const QString &path);
 
 /// The name of the machine's processor where it is one of the platform maker's own; null on all others.

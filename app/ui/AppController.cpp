@@ -107,13 +107,13 @@ void AppController::recordInstalledVersion()
     m_surroundings.defaults.setObject(current, installedVersionKey);
 }
 
-void AppController::applicationWillTerminate()
+bool AppController::applicationWillTerminate()
 {
     if (m_surroundings.windows.storeEdits)
         m_surroundings.windows.storeEdits();
     for (const ModuleSettingKind kind : {ModuleSettingVideo, ModuleSettingDVD})
         sendIfImplemented(m_modules[kind].controller.get(), &ModuleSettingSync::syncSetting);
-    m_surroundings.setting.sync();
+    return m_surroundings.setting.sync();
 }
 
 void AppController::loadEachSubController()

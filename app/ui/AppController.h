@@ -58,7 +58,7 @@ public:
 
     void applicationWillFinishLaunching();
     void applicationDidFinishLaunching();
-    void applicationWillTerminate();
+    bool applicationWillTerminate();  ///< false where not all settings could be stored
 
     void showMenuWindow();
     void showMainMenuWindows() { showMenuWindow(); }

@@ -134,9 +134,9 @@ void AppDelegate::applicationWillTerminate()
 void AppDelegate::save()
 {
     m_surroundings.jobs.interrupt();
-    m_appController->applicationWillTerminate();
+    const bool areSettingsSaved = m_appController->applicationWillTerminate();
     m_reports.markEnded();
-    m_reports.noteSaved(m_surroundings.defaults.synchronize());
+    m_reports.noteSaved(m_surroundings.defaults.synchronize() && areSettingsSaved);
 }
 
 void AppDelegate::sessionWillEnd()

@@ -4,8 +4,8 @@
 #include "foundation/NotificationCenter.h"
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
+#include "foundation/ui/OutsidePicture.h"
 #include "remote/Promotion.h"
-#include "remote/PromotionPicture.h"
 #include "remote/ui/JAdvertisementWinController.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/Notifications.h"
@@ -87,7 +87,7 @@ void LaunchCheck::showWhatIsDue(const std::shared_ptr<const UPParser> &descripto
     setDescriptor(descriptor);
     foundation::NotificationCenter::defaultCenter().postNotificationName(tarnwell::RMTConfigureDidParse.toString(),
                                                                          descriptor.get());
-    if (m_upgradeWindow) {
+    if (m_wasAskedByHand) {
         tarnwell::DNFootLog(u"Update check: the user has asked for one in the meantime"_s);
         return;
     }
@@ -112,7 +112,7 @@ void LaunchCheck::fetchPromotion(const std::shared_ptr<const UPParser> &descript
                 m_sources.fetch({.address = promotion.pictureURL(), .maximumBytes = maximumPictureBytes});
             if (!result.body)
                 tarnwell::DNFootLog(u"The picture of the promotion could not be fetched: %1"_s, result.reason);
-            picture = promotionPicture(result.body.value_or(QByteArray()));
+            picture = foundation::pictureFromOutside(result.body.value_or(QByteArray()));
         }
         foundation::queue::asyncMain([self = QPointer(this), descriptor, picture] {
             if (self && !self->m_hasRunEnded && !self->m_upgradeWindow)
@@ -126,6 +126,7 @@ void LaunchCheck::showUpdateWindow()
 {
     if (m_upgradeWindow)
         return m_upgradeWindow->window()->makeKeyAndOrderFront();
+    m_wasAskedByHand = true;
     runUpgradeWindow(descriptorURL(), &UpgradeWindowController::showUpgradeWindow);
 }
 

@@ -57,6 +57,7 @@ private:
     std::function<void()> m_terminate;
     std::shared_ptr<const UPParser> m_descriptor;
     UpgradeWindowController *m_upgradeWindow = nullptr;  ///< the one that is shown
+    bool m_wasAskedByHand = false;  ///< and has its answer from that check, whether its window is still open or not
     bool m_hasRunEnded = false;
 };
 

@@ -16,21 +16,21 @@ namespace {
 
 constexpr HtmlElement htmlElements[] = {
     {"a", HtmlRole::Link},
-    {"address", HtmlRole::Boundary, 1},
-    {"article", HtmlRole::Boundary, 1},
+    {"address", HtmlRole::Plain, 1},
+    {"article", HtmlRole::Plain, 1},
     {"b", HtmlRole::Bold},
     {"big", HtmlRole::Big},
-    {"blockquote", HtmlRole::Boundary, 2},
+    {"blockquote", HtmlRole::Plain, 2},
     {"br", HtmlRole::LineBreak},
     {"center", HtmlRole::Center, 1},
-    {"dd", HtmlRole::Boundary, 1},
+    {"dd", HtmlRole::Entry, 1},
     {"del", HtmlRole::StrikeOut},
     {"div", HtmlRole::Plain, 1},
-    {"dl", HtmlRole::Boundary, 2},
-    {"dt", HtmlRole::Boundary, 1},
+    {"dl", HtmlRole::Table, 2},
+    {"dt", HtmlRole::Entry, 1},
     {"em", HtmlRole::Italic},
     {"font", HtmlRole::Font},
-    {"form", HtmlRole::Boundary, 1},
+    {"form", HtmlRole::Plain, 1},
     {"h1", HtmlRole::Heading, 2, 6},
     {"h2", HtmlRole::Heading, 2, 5},
     {"h3", HtmlRole::Heading, 2, 4},
@@ -43,19 +43,19 @@ constexpr HtmlElement htmlElements[] = {
     {"li", HtmlRole::Item, 1},
     {"ol", HtmlRole::NumberedList, 2},
     {"p", HtmlRole::Paragraph, 2},
-    {"pre", HtmlRole::Boundary, 2},
+    {"pre", HtmlRole::Plain, 2},
     {"s", HtmlRole::StrikeOut},
-    {"section", HtmlRole::Boundary, 1},
+    {"section", HtmlRole::Plain, 1},
     {"small", HtmlRole::Small},
     {"span", HtmlRole::Plain},
     {"strike", HtmlRole::StrikeOut},
     {"strong", HtmlRole::Bold},
     {"sub", HtmlRole::Subscript},
     {"sup", HtmlRole::Superscript},
-    {"table", HtmlRole::Boundary, 1},
+    {"table", HtmlRole::Table, 1},
     {"td", HtmlRole::Cell},
     {"th", HtmlRole::Cell},
-    {"tr", HtmlRole::Boundary, 1},
+    {"tr", HtmlRole::Row, 1},
     {"u", HtmlRole::Underline},
     {"ul", HtmlRole::BulletList, 2},
 };
@@ -82,6 +82,16 @@ const HtmlElement *htmlElementNamed(std::string_view name)
 bool isHtmlList(const HtmlElement &element)
 {
     return element.role == HtmlRole::BulletList || element.role == HtmlRole::NumberedList;
+}
+
+bool isHtmlPart(const HtmlElement &element)
+{
+    return element.role >= HtmlRole::Row && element.role <= HtmlRole::Entry;
+}
+
+bool isHtmlContainer(const HtmlElement &element)
+{
+    return isHtmlList(element) || element.role == HtmlRole::Table;
 }
 
 int htmlFontPoints(int size)

@@ -26,8 +26,11 @@ enum class HtmlRole {
     BulletList,
     NumberedList,
     Item,
-    LineBreak,  ///< from here on: without content that looks different
+    Table,  ///< or another list of parts that need no end tag
+    Row,
     Cell,
+    Entry,      ///< of a list of terms
+    LineBreak,  ///< from here on: without content
     Boundary
 };
 
@@ -41,6 +44,8 @@ struct HtmlElement {
 /// The element of that name in lower case; null where it shows no more than its text.
 const HtmlElement *htmlElementNamed(std::string_view name);
 bool isHtmlList(const HtmlElement &element);
+bool isHtmlPart(const HtmlElement &element);       ///< a row, cell or entry
+bool isHtmlContainer(const HtmlElement &element);  ///< a list or table: what is left open in it ends with it
 
 int htmlFontPoints(int size);                          ///< of the sizes 1 to 7; the nearest of them for others
 int htmlFontPoints(QStringView attribute);             ///< of a size attribute; 0 where it is empty

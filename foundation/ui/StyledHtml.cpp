@@ -41,6 +41,7 @@ private:
     void separate(int lines);
     void startItem();
     void open(const HtmlElement &element, const HtmlTokenizer::Attributes &attributes);
+    void closePart(const HtmlElement &part);
     void closeInList(HtmlRole role);
     std::vector<Level>::iterator innermostList();
     static void addLooks(const Level &level, TextStyle &style);
@@ -79,13 +80,17 @@ void HtmlReader::startElement(const HtmlElement &element, const HtmlTokenizer::A
 {
     if (element.role == HtmlRole::LineBreak)
         return breakLine();
+    if (isHtmlPart(element))
+        closePart(element);
     if (element.role == HtmlRole::Cell)
-        return addBlank();
+        addBlank();
     if (element.lines > 0) {
         closeInList(HtmlRole::Paragraph);
         separate(isHtmlList(element) && innermostList() != m_levels.end() ? 1 : element.lines);
     }
-    if (element.role == HtmlRole::Boundary)
+    // A part takes one of the levels only where it looks different.
+    const bool isFull = qsizetype(m_levels.size()) >= maximumLevels;
+    if (element.role == HtmlRole::Boundary || (isHtmlPart(element) && (attributes.style.isEmpty() || isFull)))
         return;
     if (element.role == HtmlRole::Item)
         startItem();
@@ -94,7 +99,9 @@ void HtmlReader::startElement(const HtmlElement &element, const HtmlTokenizer::A
 
 void HtmlReader::endElement(const HtmlElement &element)
 {
-    if (element.role >= HtmlRole::LineBreak)
+    if (isHtmlPart(element) && m_levelsBeyond == 0)
+        closePart(element);
+    if (isHtmlPart(element) || element.role >= HtmlRole::LineBreak)
         return separate(element.lines);
     if (element.role == HtmlRole::Item || isHtmlList(element))
         m_item.reset();
@@ -104,7 +111,7 @@ void HtmlReader::endElement(const HtmlElement &element)
         const auto level = std::find_if(m_levels.rbegin(), m_levels.rend(),
                                         [&](const Level &candidate) { return candidate.element == &element; });
         if (level != m_levels.rend())
-            m_levels.erase(level.base() - 1, isHtmlList(element) ? m_levels.end() : level.base());
+            m_levels.erase(level.base() - 1, isHtmlContainer(element) ? m_levels.end() : level.base());
     }
     m_style.reset();
     separate(isHtmlList(element) && innermostList() != m_levels.end() ? 1 : element.lines);
@@ -146,10 +153,18 @@ void HtmlReader::open(const HtmlElement &element, const HtmlTokenizer::Attribute
     m_style.reset();
 }
 
-/// The end of what needs no end tag, within the list that it stands in.
+/// With a row ends its last cell.
+void HtmlReader::closePart(const HtmlElement &part)
+{
+    if (part.role == HtmlRole::Row)
+        closeInList(HtmlRole::Cell);
+    closeInList(part.role);
+}
+
+/// The end of what needs no end tag, within the list or table that it stands in.
 void HtmlReader::closeInList(HtmlRole role)
 {
-    for (auto level = m_levels.end(); level != m_levels.begin() && !isHtmlList(*std::prev(level)->element);) {
+    for (auto level = m_levels.end(); level != m_levels.begin() && !isHtmlContainer(*std::prev(level)->element);) {
         if ((--level)->element->role != role)
             continue;
         m_levels.erase(level);

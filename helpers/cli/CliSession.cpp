@@ -1,5 +1,9 @@
 #include "CliSession.h"
 
+#include <QEventLoop>
+
+#include <cstdio>
+
 namespace kestrel::cli {
 
 CliSession::CliSession(ModuleSettingKind kind)
@@ -7,9 +11,22 @@ CliSession::CliSession(ModuleSettingKind kind)
       m_store(openJobStore(jobStorePath())),
       m_queue(m_store.get())
 {
+    if (!m_store)
+        std::fprintf(stderr, "kestrel-cli: The list of jobs cannot be opened; what is done now is not kept in it.\n");
     m_queue.load();
 }
 
 CliSession::~CliSession() = default;
+
+bool CliSession::wait(QEventLoop &loop)
+{
+    QObject::connect(&m_signals, &foundation::TerminationSignals::received, &loop, [this, &loop] {
+        m_isInterrupted = true;
+        loop.quit();
+    });
+    if (!m_isInterrupted)
+        loop.exec();
+    return !m_isInterrupted;
+}
 
 }  // namespace kestrel::cli

@@ -32,7 +32,8 @@ std::span<const Command> commands();
 
 /// One sentence on standard error.
 ExitStatus wrongUsage(const QString &sentence);
-/// A line on standard output, at once.
+/// A line on standard output, at once. Where that cannot be written, the program says so once on standard error and
+/// ends with SomeFailed.
 void printLine(const QByteArray &line);
 
 }  // namespace kestrel::cli

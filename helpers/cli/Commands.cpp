@@ -21,7 +21,8 @@ constexpr Command commandTable[] = {
     {"presets", "[--all]", "lists what files can be converted to", runPresets},
     {"record", "[--seconds N] [--screen NAME|--window ID|--area X,Y,W,H] [OPTION…]",
      "records the screen until it is interrupted", runRecord},
-    {"jobs", "", "lists the jobs of all modules, also of the window", runJobsCommand},
+    {"jobs", "[retry|clear [ID…]]", "lists the jobs of all modules, also of the window; runs or removes them",
+     runJobsCommand},
 };
 
 }  // namespace

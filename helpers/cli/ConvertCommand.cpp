@@ -13,26 +13,27 @@
 #include <QFileInfo>
 #include <QThread>
 
+#include <cstdio>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel::cli {
 
 namespace {
 
-/// What a file holds; nothing where it cannot be read, which its job will tell.
-std::optional<MediaInformation> lookedAt(const QString &path, const JKestrelSettingDispatcher &settings)
+/// What a file holds, or why it cannot be read.
+MediaProber::Answer lookedAt(const QString &path, CliSession &session)
 {
     MediaProber prober;
     QEventLoop loop;
-    std::optional<MediaInformation> information;
+    std::optional<MediaProber::Answer> told;
     QObject::connect(&prober, &MediaProber::probed, &loop, [&](qint64, const MediaProber::Answer &answer) {
-        if (answer)
-            information = *answer;
+        told = answer;
         loop.quit();
     });
-    prober.probe(1, proberBeside(settings.getTranscoderPath()), path);
-    loop.exec();
-    return information;
+    prober.probe(1, proberBeside(session.settings().getTranscoderPath()), path);
+    session.wait(loop);
+    return *told;
 }
 
 /// The index in the file of the track with this number among those of its kind, from 1; nothing where there is none.
@@ -73,25 +74,35 @@ bool chooseTracks(const ConvertRequest &request, const MediaInformation &informa
     return true;
 }
 
-/// The plans for the files: one each, or one for all of them.
-foundation::Result<QList<TranscodePlan>> plansFor(const QStringList &files, const ConvertRequest &request,
-                                                  const JKestrelSettingDispatcher &settings)
+struct Conversion {
+    TranscodePlan plan;
+    tarnwell::Sentence unusable = {};  ///< why it cannot be begun; none where it can
+};
+
+/// What is to be done with the files: one conversion each, or one for all of them.
+foundation::Result<QList<Conversion>> conversionsOf(const QStringList &files, const ConvertRequest &request,
+                                                    CliSession &session)
 {
-    QList<TranscodePlan> plans;
+    QList<Conversion> conversions;
     const bool namesTracks = request.audioNumbers || request.subtitleNumbers || request.burnedSubtitle > 0;
     for (const QString &file : files) {
-        if (request.joins && !plans.isEmpty()) {
-            plans.first().sources.append(file);
+        if (request.joins && !conversions.isEmpty()) {
+            conversions.first().plan.sources.append(file);
             continue;
         }
-        TranscodePlan plan = request.plan;
-        plan.sources = {file};
-        if (const auto information = namesTracks ? lookedAt(file, settings) : std::nullopt;
-            information && !chooseTracks(request, *information, plan))
-            return foundation::Failure{u"%1 has no track of that number"_s.arg(QFileInfo(file).fileName())};
-        plans.append(plan);
+        Conversion conversion{.plan = request.plan};
+        conversion.plan.sources = {file};
+        if (namesTracks) {
+            // Without the look nobody knows which tracks are meant, and the job would take all of them.
+            const MediaProber::Answer answer = lookedAt(file, session);
+            if (!answer)
+                conversion.unusable = answer.reason();
+            else if (!chooseTracks(request, *answer, conversion.plan))
+                return foundation::Failure{u"%1 has no track of that number"_s.arg(QFileInfo(file).fileName())};
+        }
+        conversions.append(conversion);
     }
-    return plans;
+    return conversions;
 }
 
 }  // namespace
@@ -108,24 +119,33 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
         return wrongUsage(paths.reason());
     if (isHelp)
         return AllDone;
-    const QStringList files = mediaFiles(*paths);
-    if (files.isEmpty())
+    const MediaFiles files = mediaFiles(*paths);
+    if (files.paths.isEmpty())
         return wrongUsage(u"Name the files to convert."_s);
-    const auto plans = plansFor(files, request, settings);
-    if (!plans)
-        return wrongUsage(plans.reason());
+    if (files.isPart)
+        std::fprintf(stderr, "kestrel-cli: a folder is too large; only some of its files are converted\n");
+    const auto conversions = conversionsOf(files.paths, request, session);
+    if (session.isInterrupted())
+        return InterruptedBySignal;
+    if (!conversions)
+        return wrongUsage(conversions.reason());
 
     TranscodeRecipe recipe([&settings] { return transcodeTools(settings, QThread::idealThreadCount()); });
     session.queue().setRecipe(marlinJobs.toString(), &recipe);
     QList<JobId> ids;
-    for (const TranscodePlan &plan : *plans) {
+    for (const auto &[plan, unusable] : *conversions) {
         const bool isGiven = !request.folder.isNull() && !plan.besideSource;
         const QString folder = isGiven ? request.folder : conversionFolder(settings, plan);
         if (!isGiven)
             QDir().mkpath(folder);
-        ids.append(session.queue().add(conversionJob(plan, folder)));
+        JobRecord record = conversionJob(plan, folder);
+        if (!unusable.isEmpty()) {
+            record.state = JobState::Unusable;
+            record.outcome.sentence = unusable;
+        }
+        ids.append(session.queue().add(record));
     }
-    return runJobs(session.queue(), ids, surroundings);
+    return runJobs(session, ids, surroundings);
 }
 
 }  // namespace kestrel::cli

@@ -13,12 +13,8 @@ namespace kestrel::cli {
 
 namespace {
 
+using foundation::absoluteFileName;
 using Request = ConvertRequest;
-
-QString absolutePath(const QString &path)
-{
-    return foundation::absoluteFileName(path);
-}
 
 bool readSize(const QString &text, int &width, int &height)
 {
@@ -74,7 +70,7 @@ bool addSubtitleFile(const QString &text, TranscodePlan::SubtitleUse use, Transc
     }
     if (!QFileInfo(path).isFile())
         return false;
-    plan.externalSubtitles.append({absolutePath(path), language, use});
+    plan.externalSubtitles.append({absoluteFileName(path), language, use});
     return true;
 }
 
@@ -107,19 +103,21 @@ constexpr Option<Request> options[] = {
              request.plan.preset = *preset;
          request.presetId = value;
          return preset != nullptr;
-     }},
+     },
+     "\"presets --all\" lists what there is"},
     {"preset-file", "FILE", "a preset that was exported", &readPresetFile},
     {"to", "FOLDER", "where the results go (the settings' folder)",
      [](const QString &value, Request &request) {
-         request.folder = absolutePath(value);
-         return QFileInfo(request.folder).isDir();
-     }},
+         request.folder = absoluteFileName(value);
+         return foundation::fileFacts(request.folder).kind == foundation::FileKind::Folder;
+     },
+     noFolder},
     {"beside-source", nullptr, "results go beside their sources",
      [](const QString &, Request &request) {
          request.plan.besideSource = true;
          return true;
      }},
-    {"name", "PATTERN", "of the results: {name}, {preset}, {date}",
+    {"name", "PATTERN", "of the results: {name}, {preset}, {folder}, {date}",
      [](const QString &value, Request &request) {
          request.plan.namePattern = value;
          return !value.isEmpty() && !value.contains(u'/');
@@ -176,9 +174,9 @@ constexpr Option<Request> options[] = {
      }},
     {"rate", "NUMBER", "pictures a second",
      [](const QString &value, Request &request) { return readNumber(value, 1, 240, request.plan.frameRate); }},
-    {"deinterlace", "HOW", "auto, off, on or double",
+    {"deinterlace", "HOW", "auto, off, on, double or film",
      [](const QString &value, Request &request) {
-         return readChoice(value, {"auto", "off", "on", "double"}, request.plan.deinterlace);
+         return readChoice(value, {"auto", "off", "on", "double", "film"}, request.plan.deinterlace);
      }},
     {"hdr", "HOW", "auto, keep or sdr",
      [](const QString &value, Request &request) {
@@ -208,7 +206,7 @@ constexpr Option<Request> options[] = {
      }},
     {"watermark-picture", "FILE", "a picture over the picture",
      [](const QString &value, Request &request) {
-         watermark(request).imagePath = absolutePath(value);
+         watermark(request).imagePath = absoluteFileName(value);
          return QFileInfo(value).isFile();
      }},
     {"watermark-opacity", "NUMBER", "0 to 1",

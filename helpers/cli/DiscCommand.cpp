@@ -26,9 +26,9 @@ struct Answer {
     DiscToolLines lines;
 };
 
-Answer askDisc(const JKestrelSettingDispatcher &settings, const QString &source)
+Answer askDisc(CliSession &session, const QString &source)
 {
-    ToolProcess tool(discInfoCommand(discTools(settings, QThread::idealThreadCount()), source));
+    ToolProcess tool(discInfoCommand(discTools(session.settings(), QThread::idealThreadCount()), source));
     QEventLoop loop;
     Answer answer;
     QObject::connect(&tool, &ToolProcess::ended, &loop, [&](const ToolEnding &ending) {
@@ -36,7 +36,7 @@ Answer askDisc(const JKestrelSettingDispatcher &settings, const QString &source)
         loop.quit();
     });
     tool.start();
-    loop.exec();
+    session.wait(loop);
     const QByteArray output = answer.ending.output.trimmed();
     answer.lines.read(output);
     if (answer.ending.isGood())
@@ -48,8 +48,10 @@ ExitStatus runInfo(const QStringList &arguments)
 {
     if (arguments.size() != 1 || arguments.first().startsWith(u'-'))
         return wrongUsage(u"\"disc info\" takes one drive, image or folder."_s);
-    const CliSession session(ModuleSettingDVD);
-    const Answer answer = askDisc(session.settings(), foundation::absoluteFileName(arguments.first()));
+    CliSession session(ModuleSettingDVD);
+    const Answer answer = askDisc(session, foundation::absoluteFileName(arguments.first()));
+    if (session.isInterrupted())
+        return InterruptedBySignal;
     if (!answer.contents) {
         std::fprintf(stderr, "kestrel-cli: %s\n", qUtf8Printable(discFailure(answer.lines, answer.ending).localized()));
         return SomeFailed;
@@ -107,14 +109,17 @@ ExitStatus runKeep(const Surroundings &surroundings, const QStringList &argument
 
     DiscRecipe recipe([&settings] { return discTools(settings, QThread::idealThreadCount()); });
     session.queue().setRecipe(heronJobs.toString(), &recipe);
+    const Answer answer = askDisc(session, choice.disc.source);
+    if (session.isInterrupted())
+        return InterruptedBySignal;
     QList<JobId> ids;
-    for (const DiscPlan &plan : plansFor(choice, askDisc(settings, choice.disc.source).contents)) {
+    for (const DiscPlan &plan : plansFor(choice, answer.contents)) {
         const QString folder = choice.folder.isNull() ? discFolder(settings, plan) : choice.folder;
         if (choice.folder.isNull())
             QDir().mkpath(folder);
         ids.append(session.queue().add(discJob(plan, folder)));
     }
-    return runJobs(session.queue(), ids, surroundings);
+    return runJobs(session, ids, surroundings);
 }
 
 }  // namespace

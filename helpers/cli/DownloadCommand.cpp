@@ -3,7 +3,7 @@
 #include "CliSession.h"
 #include "JobRunner.h"
 #include "Options.h"
-#include "foundation/TerminationSignals.h"
+#include "foundation/FileNames.h"
 #include "modules/petrel/Analysis.h"
 #include "modules/petrel/Download.h"
 #include "modules/petrel/DownloadRecipe.h"
@@ -46,9 +46,10 @@ bool readProxy(const QString &value, DownloadRequest &request)
 constexpr Option<DownloadRequest> optionTable[] = {
     {"to", "folder", "where the results go, instead of the settings' folders",
      [](const QString &value, DownloadRequest &request) {
-         request.folder = QFileInfo(value).absoluteFilePath();
+         request.folder = foundation::absoluteFileName(value);
          return QFileInfo(value).isDir();
-     }},
+     },
+     noFolder},
     {"resolution", "lines", "\"720P\": at most so many lines, where there is such a picture; \"best\"",
      [](const QString &value, DownloadRequest &request) {
          request.plan.height = heightOfResolution(value);
@@ -104,13 +105,13 @@ foundation::Result<QStringList> addressesOf(const QStringList &arguments, const 
 
 /// The jobs for the addresses, in their order, once all of them have been looked at. Nothing where a signal ended that.
 std::optional<QList<JobRecord>> lookedAt(const QStringList &addresses, const DownloadRequest &request,
-                                         const JKestrelSettingDispatcher &settings, const QString &folder)
+                                         CliSession &session, const QString &folder)
 {
+    const JKestrelSettingDispatcher &settings = session.settings();
     QEventLoop loop;
     Analysis analysis([&] { return engineTools(settings); }, downloadTools(settings, 1).answers);
     std::vector<QList<JobRecord>> records(size_t(addresses.size()));
     qsizetype open = addresses.size();
-    bool isInterrupted = false;
     const auto planOf = [&](qint64 number) {
         DownloadPlan plan = request.plan;
         plan.address = addresses[number];
@@ -132,15 +133,9 @@ std::optional<QList<JobRecord>> lookedAt(const QStringList &addresses, const Dow
         if (--open == 0)
             loop.quit();
     });
-    const foundation::TerminationSignals signalsOfTheSystem;
-    QObject::connect(&signalsOfTheSystem, &foundation::TerminationSignals::received, &loop, [&] {
-        isInterrupted = true;
-        loop.quit();
-    });
     for (qsizetype number = 0; number < addresses.size(); ++number)
         analysis.ask(number, planOf(number));
-    loop.exec();
-    if (isInterrupted)
+    if (!session.wait(loop))
         return std::nullopt;
     QList<JobRecord> all;
     for (const QList<JobRecord> &some : records)
@@ -172,13 +167,13 @@ ExitStatus runDownload(const Surroundings &surroundings, const QStringList &argu
     DownloadRecipe recipe([&settings] { return downloadTools(settings, QThread::idealThreadCount()); });
     session.queue().setRecipe(petrelJobs.toString(), &recipe);
     session.queue().setLaneLimit(Lane::Net, request.atOnce > 0 ? request.atOnce : downloadsAtOnce(settings));
-    const auto records = lookedAt(*addresses, request, settings, folder);
+    const auto records = lookedAt(*addresses, request, session, folder);
     if (!records)
         return InterruptedBySignal;
     QList<JobId> ids;
     for (const JobRecord &record : *records)
         ids.append(session.queue().add(record));
-    return runJobs(session.queue(), ids, surroundings);
+    return runJobs(session, ids, surroundings);
 }
 
 }  // namespace kestrel::cli

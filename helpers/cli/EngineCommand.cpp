@@ -30,10 +30,10 @@ void tell(const Surroundings &surroundings, const QString &state, const QString 
         printLine(text.toUtf8());
 }
 
-ExitStatus update(const Surroundings &surroundings, const EngineTools &tools)
+ExitStatus update(const Surroundings &surroundings, CliSession &session)
 {
     EngineUpdate update(
-        engineStore(), tools, EngineUpdate::productSource(),
+        engineStore(), engineTools(session.settings()), EngineUpdate::productSource(),
         std::make_shared<foundation::Fetcher>(foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s)));
     QEventLoop loop;
     ExitStatus status = AllDone;
@@ -43,9 +43,8 @@ ExitStatus update(const Surroundings &surroundings, const EngineTools &tools)
         tell(surroundings, QString::fromLatin1(states[int(end)]), text);
         loop.quit();
     });
-    update.start(true);
-    loop.exec();
-    return status;
+    update.start(EngineUpdate::Asked::ByUser);
+    return session.wait(loop) ? status : InterruptedBySignal;
 }
 
 }  // namespace
@@ -54,10 +53,10 @@ ExitStatus runEngine(const Surroundings &surroundings, const QStringList &argume
 {
     if (arguments != QStringList{u"--update"_s} && !arguments.isEmpty())
         return wrongUsage(u"\"engine\" takes nothing but --update."_s);
-    const CliSession session(ModuleSettingDownload);
+    CliSession session(ModuleSettingDownload);
     const EngineTools tools = engineTools(session.settings());
     if (!arguments.isEmpty())
-        return update(surroundings, tools);
+        return update(surroundings, session);
     const QString version = engineStore().version();
     tell(surroundings, u"in-use"_s,
          version.isEmpty() ? u"The engine that Kestrel came with: "_s + tools.engine : version);

@@ -8,6 +8,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 
 #include <cmath>
 #include <cstdio>
@@ -63,6 +64,9 @@ QString progressText(const JobProgress &progress)
         progress.fraction ? u"%1 %"_s.arg(std::floor(*progress.fraction * 100), 3) : durationText(progress.seconds);
     if (!progress.stage.isEmpty())
         text += u"  "_s + progress.stage.localized();
+    if (progress.bytesPerSecond > 0)
+        text += u"  "_s + QLocale().formattedDataSize(qint64(progress.bytesPerSecond), 1, QLocale::DataSizeSIFormat) +
+                "/s"_L1;
     if (progress.remainingSeconds)
         text += u"  "_s + remainingTimeText(*progress.remainingSeconds);
     return text;
@@ -94,6 +98,10 @@ void JobReporter::progress(qsizetype number, const JobRecord &record)
             {u"event"_s, u"progress"_s}, {u"job"_s, number}, {u"seconds"_s, rounded(progress.seconds, 10)}};
         if (progress.fraction)
             object[u"fraction"_s] = rounded(*progress.fraction, 1000);
+        if (progress.bytes > 0)
+            object[u"bytes"_s] = progress.bytes;
+        if (progress.bytesPerSecond > 0)
+            object[u"bytes_per_second"_s] = rounded(progress.bytesPerSecond, 1);
         if (!record.blocked.isEmpty())
             object[u"waiting"_s] = record.blocked.english();
         printObject(object);
@@ -143,9 +151,11 @@ void JobReporter::result(qsizetype number, const JobRecord &record)
             printLine(shown(u"  "_s + problem.localized()).toUtf8());
     }
     for (const Sentence &leftOut : outcome.leftOut)
-        printLine((u"  "_s + AppLocalizedString(u"Left out: %1"_s).arg(leftOut.localized())).toUtf8());
-    if (!isGood && !outcome.details.isEmpty())
-        std::fprintf(stderr, "%s\n", qUtf8Printable(outcome.details));
+        printLine(shown(u"  "_s + AppLocalizedString(u"Left out: %1"_s).arg(leftOut.localized())).toUtf8());
+    if (!isGood && !outcome.details.isEmpty()) {
+        for (const QString &words : outcome.details.split(u'\n'))
+            std::fprintf(stderr, "%s\n", qUtf8Printable(shown(words)));
+    }
 }
 
 void JobReporter::showLine(const QString &text)

@@ -1,14 +1,16 @@
 #include "JobRunner.h"
 
+#include "CliSession.h"
 #include "JobReporter.h"
-#include "foundation/TerminationSignals.h"
 
 #include <QEventLoop>
 
 namespace kestrel::cli {
 
-ExitStatus runJobs(JobQueue &queue, const QList<JobId> &ids, const Surroundings &surroundings, SignalMeaning meaning)
+ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundings &surroundings,
+                   SignalMeaning meaning)
 {
+    JobQueue &queue = session.queue();
     JobReporter reporter(surroundings, ids.size());
     QEventLoop loop;
     QList<JobId> open = ids;
@@ -27,22 +29,13 @@ ExitStatus runJobs(JobQueue &queue, const QList<JobId> &ids, const Surroundings 
     });
     QObject::connect(&queue, &JobQueue::ended, &loop, take);
 
-    const foundation::TerminationSignals signalsOfTheSystem;
-    QObject::connect(&signalsOfTheSystem, &foundation::TerminationSignals::received, &loop, [&] {
-        if (meaning == SignalMeaning::Stop && !isInterrupted) {
-            isInterrupted = true;
-            queue.stop(open);
-            return;
-        }
+    QObject::connect(&session.terminationSignals(), &foundation::TerminationSignals::received, &loop, [&] {
+        const bool stops = meaning == SignalMeaning::Stop && !isInterrupted;
         isInterrupted = true;
-        queue.cancel(open);
-        // What only waited is ready again and has no end of its own.
-        QList<JobId> waiting = open;
-        waiting.removeIf([&](JobId id) { return isActive(queue.record(id)->state); });
-        for (const JobId id : waiting)
-            open.removeOne(id);
-        if (open.isEmpty())
-            loop.quit();
+        if (stops)
+            queue.stop(open);
+        else
+            queue.cancel(open, JobQueue::Waiting::IsCancelled);
     });
 
     const QList<JobId> all = open;

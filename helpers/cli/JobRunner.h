@@ -1,16 +1,19 @@
 #pragma once
 
 #include "Command.h"
-#include "jobs/JobQueue.h"
+#include "jobs/JobRecord.h"
 
 namespace kestrel::cli {
+
+class CliSession;
 
 /// What SIGINT and SIGTERM mean: the end of the work, or, where the work lasts until it is ended, its success.
 enum class SignalMeaning { Cancel, Stop };
 
-/// Runs these jobs of the queue and reports them, until all have ended or a signal ends them. Jobs that the queue is
-/// not given to run, because their source is unusable, are reported as they are. Needs an application object.
-ExitStatus runJobs(JobQueue &queue, const QList<JobId> &ids, const Surroundings &surroundings,
+/// Runs these jobs of the session's queue and reports them, until all have ended or a signal ends them: each has a
+/// result then, also what only waited. Jobs that the queue is not given to run, because their source is unusable, are
+/// reported as they are. Needs an application object.
+ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundings &surroundings,
                    SignalMeaning meaning = SignalMeaning::Cancel);
 
 }  // namespace kestrel::cli

@@ -4,7 +4,7 @@
 
 namespace kestrel::cli {
 
-/// `jobs`: what the store knows, of all modules.
+/// `jobs`: what the store knows, of all modules, without changing it; `jobs retry`, `jobs clear`: what to do with it.
 ExitStatus runJobsCommand(const Surroundings &surroundings, const QStringList &arguments);
 
 }  // namespace kestrel::cli

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "foundation/FileNames.h"
 #include "foundation/Result.h"
 
 #include <QCommandLineParser>
@@ -17,7 +18,18 @@ struct Option {
     const char *valueName;    ///< null for a switch
     const char *description;  ///< in English
     bool (*apply)(const QString &value, Target &target);
+    const char *refusal = nullptr;  ///< why it makes no sense, where the description does not say that
 };
+
+template <typename Target>
+QString refusalOf(const Option<Target> &option, const QString &value)
+{
+    const QString name = QString::fromLatin1(option.name);
+    const QString expected =
+        QString::fromLatin1(option.valueName) + QStringLiteral(", ") + QString::fromUtf8(option.description);
+    const QString why = option.refusal ? QString::fromUtf8(option.refusal) : QStringLiteral("it wants ") + expected;
+    return QStringLiteral("--%1 takes no \"%2\": %3").arg(name, foundation::readableFileName(value), why);
+}
 
 /// Reads the arguments of a command and applies its options, in their order in the table. The positional arguments, or
 /// one sentence that says what is wrong. `--help` prints the options and gives no positional arguments and no wrong
@@ -51,11 +63,14 @@ foundation::Result<QStringList> readArguments(const char *command, std::span<con
         const QStringList values = option.valueName ? parser.values(name) : QStringList{QString()};
         for (const QString &value : values) {
             if (!option.apply(value, target))
-                return foundation::Failure{QStringLiteral("--%1 takes no \"%2\"").arg(name, value)};
+                return foundation::Failure{refusalOf(option, value)};
         }
     }
     return parser.positionalArguments();
 }
+
+/// The refusal of options that name a folder.
+inline constexpr char noFolder[] = "there is no such folder";
 
 /// A number in a range, for `apply`.
 template <typename Number>

@@ -3,6 +3,7 @@
 #include "CliSession.h"
 #include "JobRunner.h"
 #include "Options.h"
+#include "foundation/FileNames.h"
 #include "media/MediaProber.h"
 #include "modules/plover/RecordRecipe.h"
 
@@ -92,9 +93,10 @@ constexpr Option<RecordRequest> recordOptions[] = {
      }},
     {"to", "FOLDER", "where the recording goes (the settings' folder)",
      [](const QString &value, RecordRequest &request) {
-         request.folder = QDir::cleanPath(QDir::current().absoluteFilePath(value));
+         request.folder = foundation::absoluteFileName(value);
          return QFileInfo(request.folder).isDir();
-     }},
+     },
+     noFolder},
     {"recover", nullptr, "only finish recordings that were interrupted",
      [](const QString &, RecordRequest &request) {
          request.onlyRecovers = true;
@@ -103,8 +105,9 @@ constexpr Option<RecordRequest> recordOptions[] = {
 };
 
 /// Says on standard error what became of them.
-void recover(JobQueue &queue)
+void recover(CliSession &session)
 {
+    JobQueue &queue = session.queue();
     QList<JobId> open = addRecoveries(queue);
     if (open.isEmpty())
         return;
@@ -121,7 +124,7 @@ void recover(JobQueue &queue)
             loop.quit();
     });
     queue.start(open);
-    loop.exec();
+    session.wait(loop);
 }
 
 }  // namespace
@@ -150,10 +153,10 @@ ExitStatus runRecord(const Surroundings &surroundings, const QStringList &argume
     });
     session.queue().setRecipe(ploverJobs.toString(), &recipe);
     if (request.onlyRecovers)
-        return runJobs(session.queue(), addRecoveries(session.queue()), surroundings, SignalMeaning::Stop);
+        return runJobs(session, addRecoveries(session.queue()), surroundings, SignalMeaning::Stop);
     const JobId id = session.queue().add(recordingJob(request.plan, request.folder));
-    const ExitStatus status = runJobs(session.queue(), {id}, surroundings, SignalMeaning::Stop);
-    recover(session.queue());
+    const ExitStatus status = runJobs(session, {id}, surroundings, SignalMeaning::Stop);
+    recover(session);
     return status;
 }
 

@@ -12,8 +12,16 @@
 
 #include <QCoreApplication>
 
+#include <fcntl.h>
+#include <unistd.h>
 #include <algorithm>
+#include <cerrno>
+#include <csignal>
 #include <cstdio>
+#include <cstring>
+#include <future>
+#include <thread>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -53,6 +61,60 @@ ExitStatus runCommand(QStringList arguments)
     return found->run(surroundings, arguments);
 }
 
+/// Whether all that was said so far is written. Tells it once.
+bool isPrinted()
+{
+    static bool hasFailed = false;
+    if ((std::fflush(stdout) != 0 || std::ferror(stdout)) && !std::exchange(hasFailed, true))
+        std::fprintf(stderr, "kestrel-cli: The results cannot be written to standard output: %s\n",
+                     std::strerror(errno));
+    return !hasFailed;
+}
+
+/// Before anything is opened, which would take the place of a standard stream that is closed, and be written to. What
+/// is put there instead cannot be used.
+void fillStandardStreams()
+{
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(stream, F_GETFD) < 0)
+            open("/dev/null", stream == STDIN_FILENO ? O_WRONLY : O_RDONLY);
+    }
+}
+
+/// A reader that goes away and a file that grows too large are failures to be told, not the end.
+void ignoreWriteSignals()
+{
+    for (const int number : {SIGPIPE, SIGXFSZ})
+        std::signal(number, SIG_IGN);
+}
+
+/// What killed runs have left goes meanwhile. A disk that hangs holds the end of the program up for a moment only.
+class Sweep {
+public:
+    Sweep()
+    {
+        std::packaged_task<void()> task(OutputFile::sweepDeadOwners);
+        m_end = task.get_future();
+        m_thread = std::thread(std::move(task));
+    }
+    Sweep(const Sweep &) = delete;
+    Sweep &operator=(const Sweep &) = delete;
+
+    void end(ExitStatus status)
+    {
+        constexpr auto patience = std::chrono::seconds(2);
+        if (m_end.wait_for(patience) != std::future_status::ready) {
+            std::fflush(nullptr);
+            _exit(status);
+        }
+        m_thread.join();
+    }
+
+private:
+    std::future<void> m_end;
+    std::thread m_thread;
+};
+
 QString interfaceLanguage()
 {
     const QStringList chosen = foundation::UserDefaults::standardUserDefaults().stringArrayForKey(u"AppleLanguages"_s);
@@ -71,7 +133,7 @@ void printLine(const QByteArray &line)
 {
     std::fwrite(line.constData(), 1, size_t(line.size()), stdout);
     std::fputc('\n', stdout);
-    std::fflush(stdout);
+    isPrinted();
 }
 
 }  // namespace kestrel::cli
@@ -79,6 +141,8 @@ void printLine(const QByteArray &line)
 int main(int argc, char **argv)
 {
     using namespace kestrel;
+    cli::fillStandardStreams();
+    cli::ignoreWriteSignals();
     QCoreApplication application(argc, argv);
     QCoreApplication::setApplicationName(u"kestrel-cli"_s);
     QCoreApplication::setApplicationVersion(tarnwell::GetAppCurrentVersion());
@@ -90,10 +154,14 @@ int main(int argc, char **argv)
     tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s),
                                         cli::interfaceLanguage());
     const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
-    OutputFile::sweepDeadOwners();
+    cli::Sweep sweep;
 
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
         arguments.append(foundation::decodedFileName(argv[index]));
-    return cli::runCommand(arguments);
+    cli::ExitStatus status = cli::runCommand(arguments);
+    if (!cli::isPrinted() && (status == cli::AllDone || status == cli::SomeWithProblems))
+        status = cli::SomeFailed;
+    sweep.end(status);
+    return status;
 }

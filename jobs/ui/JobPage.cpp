@@ -19,6 +19,8 @@
 #include <QPointer>
 #include <QShortcut>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -53,7 +55,6 @@ JobPage::JobPage(JobQueue &queue, JobList &list, const QString &module, const Jo
     m_form->listLayout->addWidget(m_list);
     m_list->setObjectName(u"jobList"_s);
     m_list->setAccessibleName(texts.title.localized());
-    setTabOrder(m_form->filterEdit, m_list);
     setUpTexts(texts);
     setUpActions();
     showRows();
@@ -183,6 +184,8 @@ void JobPage::showRun()
         control->setVisible(isBusy);
     if (hadFocus && !isBusy)
         m_list->setFocus();
+    if (std::exchange(m_showsRun, isBusy) && !isBusy)
+        m_form->statusLabel->clear();  // the list says what came out
     if (!isBusy)
         return;
     const JobProgress progress = m_queue.overallProgress(m_module);
@@ -219,7 +222,7 @@ void JobPage::togglePause()
     if (running.isEmpty())
         m_queue.setPaused(m_queue.idsIn({JobState::Paused}, m_module), false);
     else
-        m_queue.setPaused(running + m_queue.idsIn({JobState::Waiting}, m_module), true);
+        m_queue.setPaused(running, true);
 }
 
 void JobPage::dragEnterEvent(QDragEnterEvent *event)

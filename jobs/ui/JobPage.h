@@ -83,6 +83,7 @@ private:
     std::unique_ptr<Ui::JobPage> m_form;
     JobListView *m_list;
     bool m_isToShowRun = false;
+    bool m_showsRun = false;
 };
 
 }  // namespace kestrel

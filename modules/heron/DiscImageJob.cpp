@@ -1,8 +1,8 @@
 #include "DiscImageJob.h"
 
 #include "foundation/Queues.h"
-#include "jobs/FileNames.h"
 #include "jobs/OutputFile.h"
+#include "jobs/PortableNames.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -9,7 +9,7 @@
 
 #include "jobs/OutputFile.h"
 #include "jobs/SystemFailure.h"
-#include "media/OutputPlacing.h"
+#include "media/Placing.h"
 #include "tarnwell/Log.h"
 
 #include <QJsonDocument>
@@ -167,7 +167,16 @@ void DiscJob::place(std::shared_ptr<OutputFile> output)
 {
     tellStage("Saving…"_key);
     m_workFolder.reset();
-    m_placing = std::make_shared<Placing>(std::move(output), std::nullopt);
+    m_output = std::move(output);
+    m_outcome.state = m_outcome.problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems;
+    beforePlacing(m_outcome, m_output->partPath(), [this] { giveName(); });
+}
+
+void DiscJob::giveName()
+{
+    if (!m_output)  // cancelled meanwhile
+        return;
+    m_placing = std::make_shared<Placing>(std::exchange(m_output, nullptr), std::nullopt);
     m_placing->start(this, [this](const foundation::Result<QString, Sentence> &path) {
         m_placing.reset();
         if (!path)

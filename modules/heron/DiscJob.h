@@ -59,6 +59,7 @@ protected:
     QList<tarnwell::Sentence> leftOut() const { return m_outcome.leftOut; }
     /// Gives the output its name; the job is done then, or done with problems.
     void place(std::shared_ptr<OutputFile> output);
+    void giveName();
     /// What is to happen once it has its name, before the job is done.
     virtual void placed(const QString &path) { Q_UNUSED(path); }
 

@@ -12,7 +12,7 @@ void DiscPictures::make(const DiscTools &tools, const QString &source, const QLi
     m_tools = tools;
     m_source = source;
     m_titles = titles;
-    m_folder = std::make_unique<QTemporaryDir>();
+    m_folder = std::make_unique<WorkFolder>();
     next();
 }
 

@@ -2,8 +2,9 @@
 
 #include "DiscTools.h"
 
+#include "jobs/WorkFolder.h"
+
 #include <QObject>
-#include <QTemporaryDir>
 
 #include <memory>
 
@@ -30,7 +31,7 @@ private:
     DiscTools m_tools;
     QString m_source;
     QList<int> m_titles;
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<WorkFolder> m_folder;
     std::unique_ptr<ToolProcess> m_tool;
 };
 

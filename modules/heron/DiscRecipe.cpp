@@ -8,8 +8,6 @@
 
 #include <QFileInfo>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -49,23 +47,14 @@ JobRecord discJob(const DiscPlan &plan, const QString &folder)
 
 DiscRecipe::DiscRecipe(std::function<DiscTools()> tools) : m_tools(std::move(tools)) {}
 
-Lane DiscRecipe::lane(const JobRecord &) const
-{
-    return Lane::Disc;
-}
-
-qint64 DiscRecipe::expectedBytes(const JobRecord &record) const
+JobNeeds DiscRecipe::needs(const JobRecord &record) const
 {
     const auto plan = DiscPlan::fromJson(record.plan);
-    return plan ? expectedBytesOf(*plan) : 0;
-}
-
-double DiscRecipe::weight(const JobRecord &record) const
-{
-    const auto plan = DiscPlan::fromJson(record.plan);
+    if (!plan)
+        return {.lane = Lane::Disc};
     // Encoding takes about as long as reading ten times as much.
-    const double effort = plan && plan->way == DiscWay::Rip ? 10 : 1;
-    return plan ? std::max(1.0, double(plan->bytes) * effort) : 1;
+    const double effort = plan->way == DiscWay::Rip ? 10 : 1;
+    return {.lane = Lane::Disc, .bytes = expectedBytesOf(*plan), .weight = double(plan->bytes) * effort};
 }
 
 std::unique_ptr<Job> DiscRecipe::makeJob(const JobRecord &record)

@@ -26,9 +26,7 @@ public:
     /// `tools` is asked for each job, so that settings take effect.
     explicit DiscRecipe(std::function<DiscTools()> tools);
 
-    Lane lane(const JobRecord &record) const override;
-    qint64 expectedBytes(const JobRecord &record) const override;
-    double weight(const JobRecord &record) const override;
+    JobNeeds needs(const JobRecord &record) const override;
     std::unique_ptr<Job> makeJob(const JobRecord &record) override;
 
 private:

@@ -1,7 +1,7 @@
 #include "TitleRipJob.h"
 
-#include "jobs/FileNames.h"
 #include "jobs/OutputFile.h"
+#include "jobs/PortableNames.h"
 
 using namespace Qt::StringLiterals;
 

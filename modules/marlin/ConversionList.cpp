@@ -47,19 +47,6 @@ ConversionList::ConversionList(Conversions &conversions, QObject *parent)
     });
 }
 
-void ConversionList::setPictures(std::function<QVariant(const JobRecord &)> pictures)
-{
-    m_pictures = std::move(pictures);
-}
-
-void ConversionList::showPictureAgain(const QString &source)
-{
-    for (int row = 0; row < rowCount(); ++row) {
-        if (recordAt(row).source == source)
-            emit dataChanged(index(row, TitleColumn), index(row, TitleColumn), {Qt::DecorationRole});
-    }
-}
-
 QString ConversionList::warningText(const JobRecord &record) const
 {
     if (record.state == JobState::Done || record.state == JobState::DoneWithProblems) {
@@ -78,8 +65,6 @@ QVariant ConversionList::data(const QModelIndex &index, int role) const
     const JobRecord &record = recordAt(index.row());
     if (role == WarningRole)
         return warningText(record);
-    if (role == Qt::DecorationRole && index.column() == TitleColumn && m_pictures)
-        return m_pictures(record);
     if (role == Qt::DisplayRole && index.column() == DetailColumn)
         return detailText(record);
     if (role == Qt::ToolTipRole && index.column() != StateColumn) {

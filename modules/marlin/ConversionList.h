@@ -2,8 +2,6 @@
 
 #include "jobs/JobList.h"
 
-#include <functional>
-
 namespace kestrel {
 
 class Conversions;
@@ -15,17 +13,12 @@ class ConversionList : public JobList {
 public:
     explicit ConversionList(Conversions &conversions, QObject *parent = nullptr);
 
-    /// Where the small pictures of sources come from.
-    void setPictures(std::function<QVariant(const JobRecord &)> pictures);
-    void showPictureAgain(const QString &source);
-
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
     QString warningText(const JobRecord &record) const;
 
     Conversions &m_conversions;
-    std::function<QVariant(const JobRecord &)> m_pictures;
 };
 
 }  // namespace kestrel

@@ -1,6 +1,6 @@
 #include "Analysis.h"
 
-#include <QDir>
+#include "foundation/StandardFolders.h"
 
 #include <algorithm>
 
@@ -38,7 +38,7 @@ void Analysis::startPending()
     while (!m_pending.isEmpty() && m_running.size() < size_t(maximumAtOnce)) {
         const Request request = m_pending.takeFirst();
         const EngineTools tools = m_tools();
-        QDir().mkpath(tools.home);
+        foundation::makePrivateFolder(tools.home);
         auto process = std::make_unique<ToolProcess>(analysisCommand(request.plan, tools));
         connect(process.get(), &ToolProcess::ended, this,
                 [this, id = request.id](const ToolEnding &ending) { ended(id, ending); });

@@ -2,6 +2,7 @@
 
 #include "DownloadPlan.h"
 #include "EngineCommand.h"
+#include "foundation/StandardFolders.h"
 
 #include <QCryptographicHash>
 #include <QDateTime>
@@ -58,7 +59,7 @@ std::optional<EngineAnswer> AnswerStore::answer(const DownloadPlan &plan) const
 void AnswerStore::keep(const DownloadPlan &plan, const EngineAnswer &answer) const
 {
     QSaveFile file(pathOf(plan));
-    if (answer.film.isEmpty() || !QDir().mkpath(m_folder) || !file.open(QIODevice::WriteOnly))
+    if (answer.film.isEmpty() || !foundation::makePrivateFolder(m_folder) || !file.open(QIODevice::WriteOnly))
         return;
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);  // addresses may carry the right to fetch
     QJsonObject film = answer.film;

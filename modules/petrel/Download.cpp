@@ -116,6 +116,7 @@ QList<JobRecord> downloadJobs(const DownloadPlan &plan, const EngineAnswer &answ
         one.title = answer.title;
         one.seconds = answer.seconds;
         one.bytes = answer.bytes;
+        one.picture = answer.picture;
         return {downloadJob(one, folder)};
     }
     QList<JobRecord> records;
@@ -126,6 +127,7 @@ QList<JobRecord> downloadJobs(const DownloadPlan &plan, const EngineAnswer &answ
         one.item = entry.isOfPage ? entry.item : 0;
         one.title = entry.title;
         one.seconds = entry.seconds;
+        one.picture = entry.picture;
         records.append(downloadJob(one, folder));
     }
     return records;

@@ -3,14 +3,14 @@
 #include "PartFolder.h"
 
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "jobs/OutputFile.h"
 #include "media/MediaProber.h"
-#include "media/OutputPlacing.h"
+#include "media/Placing.h"
 #include "media/Preset.h"
 #include "media/ToolPath.h"
 #include "tarnwell/Log.h"
 
-#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -31,8 +31,6 @@ namespace {
 /// Seconds between attempts at what passes by itself; after the last one it has failed.
 constexpr int waits[] = {5, 15, 45, 120, 300};
 constexpr int serverWaits = 2;
-
-constexpr auto lookLimit = 2min;
 
 }  // namespace
 
@@ -57,7 +55,7 @@ void DownloadJob::start()
         return fail("The options of this job could not be read. Add the address again."_key);
     if (!QFileInfo(m_tools.engine.engine).isExecutable())
         return fail("The download engine is missing. Please install the application again."_key);
-    QDir().mkpath(m_tools.engine.home);
+    foundation::makePrivateFolder(m_tools.engine.home);
     auto part = PartFolder::take(m_folder, m_plan);
     if (!part)
         return fail(part.reason());
@@ -193,9 +191,9 @@ void DownloadJob::look()
 {
     tellStage("Checking the finished file…"_key);
     const QString path = m_part->downloaded();
-    ToolCommand command = outputReportCommand(m_tools.transcode.prober, ToolPath(path).argument());
-    command.timeLimit = lookLimit;
-    run(command, [this, path](const ToolEnding &ending) { looked(ending, path); });
+    const qint64 bytes = QFileInfo(path).size();
+    run(outputReportCommand(m_tools.transcode.prober, ToolPath(path).argument(), bytes),
+        [this, path](const ToolEnding &ending) { looked(ending, path); });
 }
 
 void DownloadJob::looked(const ToolEnding &ending, const QString &path)

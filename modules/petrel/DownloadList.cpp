@@ -109,6 +109,7 @@ void setFilm(JobRecord &record, const EngineAnswer &answer)
         plan->title = answer.title;
         plan->seconds = answer.seconds;
         plan->bytes = answer.bytes;
+        plan->picture = answer.picture;
         setDownloadPlan(record, *plan);
     }
 }

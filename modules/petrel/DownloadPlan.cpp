@@ -50,7 +50,8 @@ QJsonObject DownloadPlan::toJson() const
             {u"manyFromServer"_s, manyFromServer},
             {u"title"_s, title},
             {u"seconds"_s, seconds},
-            {u"bytes"_s, bytes}};
+            {u"bytes"_s, bytes},
+            {u"picture"_s, picture}};
 }
 
 std::optional<DownloadPlan> DownloadPlan::fromJson(const QJsonObject &json)
@@ -72,6 +73,7 @@ std::optional<DownloadPlan> DownloadPlan::fromJson(const QJsonObject &json)
     plan.bytesPerSecond = bytesOf(json["bytesPerSecond"_L1]);
     plan.manyFromServer = json["manyFromServer"_L1].toBool();
     plan.title = json["title"_L1].toString();
+    plan.picture = downloadAddress(json["picture"_L1].toString());
     plan.seconds = std::max(0.0, json["seconds"_L1].toDouble());
     plan.bytes = bytesOf(json["bytes"_L1]);
     return plan;

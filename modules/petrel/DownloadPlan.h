@@ -22,8 +22,9 @@ struct DownloadPlan {
 
     // What was found there, for the row and the queue; nothing is promised by it
     QString title = {};
-    double seconds = 0;  ///< 0 where it is not told
-    qint64 bytes = 0;    ///< likewise
+    double seconds = 0;    ///< 0 where it is not told
+    qint64 bytes = 0;      ///< likewise
+    QString picture = {};  ///< address of the site's; null for none
 
     QJsonObject toJson() const;
     /// Nothing where it is none or of a newer version; nonsense in a field reads as its default.

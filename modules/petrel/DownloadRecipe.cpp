@@ -43,17 +43,12 @@ bool hasNetwork()
     return isThere;
 }
 
-qint64 DownloadRecipe::expectedBytes(const JobRecord &record) const
-{
-    return planOf(record).bytes;
-}
-
-/// Bytes, where they are told; films that do not tell count as middling ones.
-double DownloadRecipe::weight(const JobRecord &record) const
+/// Films that do not tell their bytes count as middling ones.
+JobNeeds DownloadRecipe::needs(const JobRecord &record) const
 {
     constexpr double middling = 100e6;
     const qint64 bytes = planOf(record).bytes;
-    return bytes > 0 ? double(bytes) : middling;
+    return {.lane = Lane::Net, .bytes = bytes, .weight = bytes > 0 ? double(bytes) : middling};
 }
 
 Sentence DownloadRecipe::obstacle(const JobRecord &record, const QList<const JobRecord *> &active) const

@@ -15,9 +15,7 @@ public:
 
     static constexpr int maximumFromServer = 3;  ///< at once, unless the user asks for more
 
-    Lane lane(const JobRecord &) const override { return Lane::Net; }
-    qint64 expectedBytes(const JobRecord &record) const override;
-    double weight(const JobRecord &record) const override;
+    JobNeeds needs(const JobRecord &record) const override;
     tarnwell::Sentence obstacle(const JobRecord &record, const QList<const JobRecord *> &active) const override;
     std::unique_ptr<Job> makeJob(const JobRecord &record) override;
 

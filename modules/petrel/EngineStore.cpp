@@ -1,5 +1,6 @@
 #include "EngineStore.h"
 
+#include "foundation/StandardFolders.h"
 #include "tarnwell/Log.h"
 
 #include <QDir>
@@ -55,7 +56,7 @@ EngineState readState(const QString &folder)
 bool writeState(const QString &folder, const EngineState &state)
 {
     QSaveFile file(folder + "/engine.json"_L1);
-    if (!QDir().mkpath(folder) || !file.open(QIODevice::WriteOnly))
+    if (!foundation::makePrivateFolder(folder) || !file.open(QIODevice::WriteOnly))
         return false;
     file.write(QJsonDocument(QJsonObject{{u"current"_s, state.current},
                                          {u"previous"_s, state.previous},
@@ -97,7 +98,7 @@ foundation::Result<QString> EngineStore::install(const EngineRelease &release, c
 {
     if (const QString obstacle = release.obstacle(bytes); !obstacle.isNull())
         return foundation::Failure{obstacle};
-    QDir().mkpath(m_folder);
+    foundation::makePrivateFolder(m_folder);
     QTemporaryDir coming(m_folder + "/coming-XXXXXX"_L1);
     QSaveFile file(coming.filePath(programName));
     const bool isWritten = coming.isValid() && file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();

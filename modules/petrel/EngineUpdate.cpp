@@ -2,10 +2,10 @@
 
 #include "foundation/Bundle.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "tarnwell/Log.h"
 #include "tarnwell/ProductInformation.h"
 
-#include <QDir>
 #include <QPointer>
 
 using namespace Qt::StringLiterals;
@@ -47,15 +47,15 @@ EngineUpdate::Source EngineUpdate::productSource()
     return {bundle.infoString(u"TWDownloadEngineLink"_s), bundle.infoString(u"TWDownloadEngineKey"_s).toLatin1()};
 }
 
-void EngineUpdate::start(bool isAsked)
+void EngineUpdate::start(Asked asked)
 {
     if (m_isUnderWay)
         return;
     m_isUnderWay = true;
-    if (m_source.address.isEmpty() || (!m_store.takeTurn(QDateTime::currentDateTimeUtc()) && !isAsked))
+    if (m_source.address.isEmpty() || (!m_store.takeTurn(QDateTime::currentDateTimeUtc()) && asked == Asked::ByItself))
         return end(End::NotDue, u"not due"_s);
     m_tools.engine = m_store.engine();
-    QDir().mkpath(m_tools.home);
+    foundation::makePrivateFolder(m_tools.home);
     m_process = std::make_unique<ToolProcess>(versionCommand(m_tools));
     connect(m_process.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
         m_process.release()->deleteLater();

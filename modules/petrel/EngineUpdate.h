@@ -20,6 +20,7 @@ public:
         QString address;       ///< of the document; null for none
         QByteArray publicKey;  ///< Base64
     };
+    enum class Asked { ByItself, ByUser };
     enum class End { NotDue, UpToDate, Updated, Failed };
 
     EngineUpdate(EngineStore store, EngineTools tools, Source source, std::shared_ptr<foundation::Fetcher> fetcher,
@@ -29,8 +30,8 @@ public:
     /// As Info.plist has it.
     static Source productSource();
 
-    /// At most once in six hours, unless `isAsked`, by a user. Does nothing while it is under way.
-    void start(bool isAsked = false);
+    /// At most once in six hours, unless a user asks. Does nothing while it is under way.
+    void start(Asked asked);
 
 signals:
     /// `text` is English: the version, or why not.

@@ -2,7 +2,7 @@
 
 #include "EngineCommand.h"
 
-#include "jobs/FileNames.h"
+#include "jobs/PortableNames.h"
 #include "jobs/SystemFailure.h"
 
 #include <QDir>

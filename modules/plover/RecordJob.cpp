@@ -3,7 +3,7 @@
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 #include "media/OutputCheck.h"
-#include "media/OutputPlacing.h"
+#include "media/Placing.h"
 #include "media/ToolPath.h"
 #include "tarnwell/Log.h"
 
@@ -266,7 +266,7 @@ void RecordJob::join()
     constexpr qint64 margin = 10'000'000;
     if (space && space->available < bytes + margin)
         return placeAsItIs("The disk is too full to finish the recording: it stays a Matroska file."_key);
-    m_workFolder = std::make_unique<QTemporaryDir>();
+    m_workFolder = std::make_unique<WorkFolder>();
     m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
     const QString list = m_workFolder->filePath(u"list.txt"_s);
     QSaveFile file(list);
@@ -287,7 +287,8 @@ void RecordJob::check(const ToolEnding &joining)
     if (!joining.isGood())
         return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
     const QString part = m_output->partPath();
-    run(outputReportCommand(m_tools.prober, ToolPath(part).argument()), [this, part](const ToolEnding &probing) {
+    const qint64 bytes = QFileInfo(part).size();
+    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes), [this, part](const ToolEnding &probing) {
         const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
         OutputExpectation expected;
         expected.tracks = recordedTracks(m_recording.plan);

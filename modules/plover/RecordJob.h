@@ -5,10 +5,10 @@
 
 #include "jobs/DiskSpace.h"
 #include "jobs/ToolJob.h"
+#include "jobs/WorkFolder.h"
 #include "media/ToolMessages.h"
 
 #include <QPointer>
-#include <QTemporaryDir>
 #include <QTimer>
 
 namespace kestrel {
@@ -81,7 +81,7 @@ private:
     ToolMessages m_messages;
     QList<tarnwell::Sentence> m_problems;
     QTimer m_watch;  ///< over disk and display
-    std::unique_ptr<QTemporaryDir> m_workFolder;
+    std::unique_ptr<WorkFolder> m_workFolder;
     std::shared_ptr<OutputFile> m_output;
     std::shared_ptr<Placing> m_placing;
 };

@@ -52,16 +52,10 @@ QList<JobId> addRecoveries(JobQueue &queue)
 
 RecordRecipe::RecordRecipe(std::function<RecordTools()> tools) : m_tools(std::move(tools)) {}
 
-Lane RecordRecipe::lane(const JobRecord &record) const
+/// No space: a recording looks after the disk itself, and waits for nothing.
+JobNeeds RecordRecipe::needs(const JobRecord &record) const
 {
-    return record.plan.contains(noteKey) ? Lane::Copy : Lane::Capture;
-}
-
-/// A recording looks after the disk itself, and waits for nothing.
-qint64 RecordRecipe::expectedBytes(const JobRecord &record) const
-{
-    Q_UNUSED(record);
-    return 0;
+    return {.lane = record.plan.contains(noteKey) ? Lane::Copy : Lane::Capture};
 }
 
 std::unique_ptr<Job> RecordRecipe::makeJob(const JobRecord &record)

@@ -26,8 +26,7 @@ public:
     /// `tools` is asked for each job, so that settings take effect.
     explicit RecordRecipe(std::function<RecordTools()> tools);
 
-    Lane lane(const JobRecord &record) const override;
-    qint64 expectedBytes(const JobRecord &record) const override;
+    JobNeeds needs(const JobRecord &record) const override;
     std::unique_ptr<Job> makeJob(const JobRecord &record) override;
 
 private:

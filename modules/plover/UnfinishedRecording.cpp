@@ -44,7 +44,7 @@ bool UnfinishedRecording::write()
 {
     if (note.isEmpty())
         note = newNote();
-    QDir().mkpath(noteFolder());
+    foundation::makePrivateFolder(noteFolder());
     QSaveFile file(note);
     const QJsonObject json{
         {u"plan"_s, plan.toJson()}, {u"folder"_s, folder}, {u"stretches"_s, QJsonArray::fromStringList(stretches)}};

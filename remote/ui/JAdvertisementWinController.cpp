@@ -1,7 +1,7 @@
 #include "JAdvertisementWinController.h"
 
+#include "foundation/ui/OutsidePicture.h"
 #include "remote/Promotion.h"
-#include "remote/PromotionPicture.h"
 #include "tarnwell/HoverText.h"
 #include "tarnwell/ProductInformation.h"
 #include "tarnwell/WebPages.h"
@@ -61,13 +61,13 @@ QImage shownPicture(const QImage &picture)
 
 QImage JAdvertisementWinController::imageFromData(const QByteArray &data)
 {
-    return shownPicture(promotionPicture(data));
+    return shownPicture(foundation::pictureFromOutside(data));
 }
 
 void JAdvertisementWinController::ShowAdvertisement(const std::optional<ADItem> &item, const QByteArray &data,
                                                     foundation::UserDefaults &defaults)
 {
-    ShowAdvertisementWithImage(item, promotionPicture(data), defaults);
+    ShowAdvertisementWithImage(item, foundation::pictureFromOutside(data), defaults);
 }
 
 void JAdvertisementWinController::ShowAdvertisementWithImage(const std::optional<ADItem> &item, const QImage &picture,

@@ -14,6 +14,7 @@
 #include "ui_JPromptWindowController.h"
 
 #include <QFile>
+#include <QScreen>
 #include <QStringDecoder>
 
 #include <algorithm>
@@ -143,10 +144,11 @@ void JPromptWindowController::fitHeight()
     for (const QWidget *view : {m_form->headerView, m_form->textsView})
         view->layout()->activate();
     const int textHeight = m_form->textsView->heightForWidth(promptWidth);
-    const int height = std::min(textHeight, maximumTextHeight) + m_form->buttonsView->sizeHint().height();
+    const int others = m_form->buttonsView->sizeHint().height() + int(tarnwell::TitledWindow::defaultTitleBarHeight);
+    const int most = std::min(maximumTextHeight, m_window->screen()->availableGeometry().height() - others);
     // A stop of the keyboard only where its arrows have something to move.
-    m_form->textsArea->setFocusPolicy(textHeight > maximumTextHeight ? Qt::TabFocus : Qt::NoFocus);
-    m_window->setFrame({0, 0, promptWidth, height + tarnwell::TitledWindow::defaultTitleBarHeight});
+    m_form->textsArea->setFocusPolicy(textHeight > most ? Qt::TabFocus : Qt::NoFocus);
+    m_window->setFrame({0, 0, promptWidth, double(std::min(textHeight, most) + others)});
 }
 
 QString JPromptWindowController::promptText(const QString &element) const

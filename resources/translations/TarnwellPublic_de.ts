@@ -52,6 +52,10 @@
         <translation>%1 von %2 s waren lesbar, %3 Fehler</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>%1 von %2 s waren lesbar, 1 Fehler</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%1 von %2 s waren lesbar.</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>%1 s waren lesbar, %2 Fehler</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>%1 s waren lesbar, 1 Fehler</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>Schließen</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>Tipp schließen</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>Allgemein</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>Zum Beispiel: %1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>Für den DVD-Ripper, der noch in Arbeit ist.</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>Für den Downloader, der noch in Arbeit ist.</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Format</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>Hardware wird untersucht</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>Nach einer neueren Download-Engine wird gesucht …</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>Der Bildschirm %1 konnte nicht geöffnet werden.</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>Die Download-Engine konnte nicht aktualisiert werden.</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>Die Download-Engine funktioniert nicht. Bitte installieren Sie das Programm erneut.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>Die Download-Engine fehlt. Bitte installieren Sie das Programm erneut.</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>Die Download-Engine hat jetzt die Version %1. Versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>Die fertige Datei ist beschädigt: %1 Fehler.</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>Die fertige Datei ist beschädigt: 1 Fehler.</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>Die fertige Datei ist größer als gewünscht.</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>In den Ordner für temporäre Dateien kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>Der Ordner ist zu groß: Nur ein Teil seiner Dateien wurde hinzugefügt.</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>Noch kein Protokoll vorhanden</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>Es gibt keine neuere Download-Engine.</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>Ohne Titel</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>Download-Engine aktualisieren</translation>
     </message>
     <message>
         <source>Upside down</source>

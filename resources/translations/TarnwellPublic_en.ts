@@ -52,6 +52,10 @@
         <translation>%1 of %2 s could be read, %3 faults</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>%1 of %2 s could be read, 1 fault</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%1 of %2 s could be read.</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>%1 s could be read, %2 faults</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>%1 s could be read, 1 fault</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>Close</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>Close the tip</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>Common</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>For example: %1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>For the DVD ripper, which is still being made.</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>For the downloader, which is still being made.</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Format</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>Looking at the hardware</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>Looking for a newer download engine…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>The display %1 could not be opened.</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>The download engine could not be updated.</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>The download engine does not work. Please install the application again.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>The download engine is missing. Please install the application again.</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>The download engine is now of version %1. Try again.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>The finished file is damaged: %1 faults.</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>The finished file is damaged: 1 fault.</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>The finished file is larger than wanted.</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>The folder for temporary files cannot be written.</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>The folder is too large: only some of its files were added.</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>There is no log yet</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>There is no newer download engine.</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>Untitled</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>Update Download Engine</translation>
     </message>
     <message>
         <source>Upside down</source>

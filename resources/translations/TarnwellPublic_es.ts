@@ -52,6 +52,10 @@
         <translation>Se han podido leer %1 de %2 s, %3 errores</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>Se han podido leer %1 de %2 s, 1 error</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>Se han podido leer %1 de %2 s.</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>Se han podido leer %1 s, %2 errores</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>Se han podido leer %1 s, 1 error</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>Cerrar</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>Cerrar el consejo</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>General</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>Por ejemplo: %1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>Para el extractor de DVD, que aún está en desarrollo.</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>Para las descargas, que aún están en desarrollo.</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Formato</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>Examinando el hardware</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>Buscando un motor de descarga más reciente…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>No se ha podido abrir la pantalla %1.</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>No se ha podido actualizar el motor de descarga.</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>El motor de descarga no funciona. Vuelva a instalar la aplicación.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>Falta el motor de descarga. Vuelva a instalar la aplicación.</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>El motor de descarga tiene ahora la versión %1. Inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>El archivo terminado está dañado: %1 errores.</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>El archivo terminado está dañado: 1 error.</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>El archivo terminado es más grande de lo deseado.</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>No se puede escribir en la carpeta de archivos temporales.</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>La carpeta es demasiado grande: solo se han añadido algunos de sus archivos.</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>Todavía no hay ningún registro</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>No hay ningún motor de descarga más reciente.</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>Sin título</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>Actualizar el motor de descarga</translation>
     </message>
     <message>
         <source>Upside down</source>

@@ -52,6 +52,10 @@
         <translation>%1 s sur %2 ont pu être lues, %3 erreurs</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>%1 s sur %2 ont pu être lues, 1 erreur</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%1 s sur %2 ont pu être lues.</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>%1 s ont pu être lues, %2 erreurs</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>%1 s ont pu être lues, 1 erreur</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>Fermer</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>Fermer l’astuce</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>Général</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>Par exemple : %1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>Pour l’extraction de DVD, en cours de réalisation.</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>Pour le téléchargement, en cours de réalisation.</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Format</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>Examen du matériel</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>Recherche d’un moteur de téléchargement plus récent…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>Impossible d’ouvrir l’écran %1.</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>Le moteur de téléchargement n’a pas pu être mis à jour.</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>Le moteur de téléchargement ne fonctionne pas. Veuillez réinstaller l’application.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>Le moteur de téléchargement est introuvable. Veuillez réinstaller l’application.</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>Le moteur de téléchargement est maintenant à la version %1. Réessayez.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>Le fichier obtenu est endommagé : %1 erreurs.</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>Le fichier obtenu est endommagé : 1 erreur.</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>Le fichier obtenu est plus gros que souhaité.</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>Impossible d’écrire dans le dossier des fichiers temporaires.</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>Le dossier est trop volumineux : seuls certains de ses fichiers ont été ajoutés.</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>Aucun journal pour le moment</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>Il n’y a pas de moteur de téléchargement plus récent.</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>Sans titre</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>Mettre à jour le moteur de téléchargement</translation>
     </message>
     <message>
         <source>Upside down</source>

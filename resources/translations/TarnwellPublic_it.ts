@@ -52,6 +52,10 @@
         <translation>Letti %1 di %2 s, %3 errori</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>Letti %1 di %2 s, 1 errore</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>Letti %1 di %2 s.</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>Letti %1 s, %2 errori</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>Letti %1 s, 1 errore</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>Chiudi</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>Chiudi il suggerimento</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>Generali</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>Per esempio: %1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>Per il ripper DVD, ancora in lavorazione.</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>Per il downloader, ancora in lavorazione.</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>Formato</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>Analisi dell’hardware</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>Ricerca di un motore di download più recente…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>Impossibile aprire lo schermo %1.</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>Impossibile aggiornare il motore di download.</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>Il motore di download non funziona. Installa di nuovo l’applicazione.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>Il motore di download non è presente. Installa di nuovo l’applicazione.</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>Il motore di download è ora alla versione %1. Riprova.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>Il file finito è danneggiato: %1 errori.</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>Il file finito è danneggiato: 1 errore.</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>Il file finito è più grande di quanto voluto.</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>Impossibile scrivere nella cartella dei file temporanei.</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>La cartella è troppo grande: sono stati aggiunti solo alcuni dei suoi file.</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>Non c’è ancora alcun log</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>Non c’è un motore di download più recente.</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>Senza titolo</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>Aggiorna il motore di download</translation>
     </message>
     <message>
         <source>Upside down</source>

@@ -52,6 +52,10 @@
         <translation>%2秒のうち%1秒を読み込めました（エラー%3件）</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>%2秒のうち%1秒を読み込めました（エラー1件）</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2秒のうち%1秒を読み込めました。</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>%1秒を読み込めました（エラー%2件）</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>%1秒を読み込めました（エラー1件）</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>閉じる</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>ヒントを閉じる</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>一般</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>例: %1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>開発中のDVDリッピング用です。</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>開発中のダウンロード用です。</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>形式</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>ハードウェアを確認しています</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>新しいダウンロードエンジンを探しています…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>ディスプレイ%1を開けませんでした。</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>ダウンロードエンジンをアップデートできませんでした。</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>ダウンロードエンジンが動作しません。アプリケーションをインストールし直してください。</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>ダウンロードエンジンが見つかりません。アプリケーションをインストールし直してください。</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>ダウンロードエンジンがバージョン %1 になりました。もう一度お試しください。</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>完成したファイルが破損しています（エラー%1件）。</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>完成したファイルが破損しています（エラー1件）。</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>完成したファイルが希望のサイズを超えています。</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>一時ファイル用のフォルダに書き込めません。</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>フォルダが大きすぎるため、一部のファイルだけが追加されました。</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>ログはまだありません</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>新しいダウンロードエンジンはありません。</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>名称未設定</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>ダウンロードエンジンをアップデート</translation>
     </message>
     <message>
         <source>Upside down</source>

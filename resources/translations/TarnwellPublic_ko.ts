@@ -52,6 +52,10 @@
         <translation>%2초 중 %1초를 읽었습니다(오류 %3개)</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>%2초 중 %1초를 읽었습니다(오류 1개)</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2초 중 %1초를 읽었습니다.</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>%1초를 읽었습니다(오류 %2개)</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>%1초를 읽었습니다(오류 1개)</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>닫기</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>팁 닫기</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>일반</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>예: %1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>아직 제작 중인 DVD 리퍼용입니다.</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>아직 제작 중인 다운로더용입니다.</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>포맷</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>하드웨어 확인 중</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>새 다운로드 엔진을 찾는 중…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>디스플레이 %1을(를) 열 수 없습니다.</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>다운로드 엔진을 업데이트할 수 없습니다.</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>다운로드 엔진이 작동하지 않습니다. 응용 프로그램을 다시 설치하십시오.</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>다운로드 엔진이 없습니다. 응용 프로그램을 다시 설치하십시오.</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>다운로드 엔진이 버전 %1(으)로 업데이트되었습니다. 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>완성된 파일이 손상되었습니다: 오류 %1개.</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>완성된 파일이 손상되었습니다: 오류 1개.</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>완성된 파일이 원하는 크기보다 큽니다.</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>임시 파일용 폴더에 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>폴더가 너무 커서 일부 파일만 추가되었습니다.</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>아직 로그가 없음</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>더 새로운 다운로드 엔진이 없습니다.</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>무제</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>다운로드 엔진 업데이트</translation>
     </message>
     <message>
         <source>Upside down</source>

@@ -52,6 +52,10 @@
         <translation>%2 秒中可读取 %1 秒，%3 处错误</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>%2 秒中可读取 %1 秒，1 处错误</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2 秒中可读取 %1 秒。</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>可读取 %1 秒，%2 处错误</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>可读取 %1 秒，1 处错误</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>关闭</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>关闭提示</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>通用</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>例如：%1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>用于仍在制作中的 DVD 提取功能。</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>用于仍在制作中的下载功能。</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>格式</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>正在检查硬件</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>正在查找更新的下载引擎…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>无法打开显示器 %1。</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>无法更新下载引擎。</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>下载引擎无法工作。请重新安装应用程序。</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>找不到下载引擎。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>下载引擎现在的版本是 %1。请重试。</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>完成的文件已损坏：%1 处错误。</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>完成的文件已损坏：1 处错误。</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>完成的文件比所需的大。</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>无法写入临时文件的文件夹。</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>文件夹过大：只添加了其中的部分文件。</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>尚无日志</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>没有更新的下载引擎。</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>未命名</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>更新下载引擎</translation>
     </message>
     <message>
         <source>Upside down</source>

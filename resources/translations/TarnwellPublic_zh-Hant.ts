@@ -52,6 +52,10 @@
         <translation>%2 秒中可讀取 %1 秒，%3 處錯誤</translation>
     </message>
     <message>
+        <source>%1 of %2 s could be read, 1 fault</source>
+        <translation>%2 秒中可讀取 %1 秒，1 處錯誤</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2 秒中可讀取 %1 秒。</translation>
     </message>
@@ -62,6 +66,10 @@
     <message>
         <source>%1 s could be read, %2 faults</source>
         <translation>可讀取 %1 秒，%2 處錯誤</translation>
+    </message>
+    <message>
+        <source>%1 s could be read, 1 fault</source>
+        <translation>可讀取 %1 秒，1 處錯誤</translation>
     </message>
     <message>
         <source>%1 sectors of the disc could not be read and are empty in the copy.</source>
@@ -524,10 +532,6 @@
         <translation>關閉</translation>
     </message>
     <message>
-        <source>Close the tip</source>
-        <translation>關閉提示</translation>
-    </message>
-    <message>
         <source>Common</source>
         <translation>一般</translation>
     </message>
@@ -908,14 +912,6 @@
         <translation>例如：%1</translation>
     </message>
     <message>
-        <source>For the DVD ripper, which is still being made.</source>
-        <translation>用於仍在製作中的 DVD 擷取功能。</translation>
-    </message>
-    <message>
-        <source>For the downloader, which is still being made.</source>
-        <translation>用於仍在製作中的下載功能。</translation>
-    </message>
-    <message>
         <source>Format</source>
         <translation>格式</translation>
     </message>
@@ -1142,6 +1138,10 @@
     <message>
         <source>Looking at the hardware</source>
         <translation>正在檢查硬體</translation>
+    </message>
+    <message>
+        <source>Looking for a newer download engine…</source>
+        <translation>正在尋找較新的下載引擎…</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -2152,12 +2152,20 @@
         <translation>無法打開顯示器 %1。</translation>
     </message>
     <message>
+        <source>The download engine could not be updated.</source>
+        <translation>無法更新下載引擎。</translation>
+    </message>
+    <message>
         <source>The download engine does not work. Please install the application again.</source>
         <translation>下載引擎無法運作。請重新安裝應用程式。</translation>
     </message>
     <message>
         <source>The download engine is missing. Please install the application again.</source>
         <translation>找不到下載引擎。請重新安裝應用程式。</translation>
+    </message>
+    <message>
+        <source>The download engine is now of version %1. Try again.</source>
+        <translation>下載引擎現在的版本是 %1。請再試一次。</translation>
     </message>
     <message>
         <source>The download failed. The details tell what the engine said.</source>
@@ -2232,6 +2240,10 @@
         <translation>完成的檔案已損毀：%1 處錯誤。</translation>
     </message>
     <message>
+        <source>The finished file is damaged: 1 fault.</source>
+        <translation>完成的檔案已損毀：1 處錯誤。</translation>
+    </message>
+    <message>
         <source>The finished file is larger than wanted.</source>
         <translation>完成的檔案比所需的大。</translation>
     </message>
@@ -2246,6 +2258,10 @@
     <message>
         <source>The folder for temporary files cannot be written.</source>
         <translation>無法寫入暫存檔案的檔案夾。</translation>
+    </message>
+    <message>
+        <source>The folder is too large: only some of its files were added.</source>
+        <translation>檔案夾過大：只加入了其中的部分檔案。</translation>
     </message>
     <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
@@ -2458,6 +2474,10 @@
     <message>
         <source>There is no log yet</source>
         <translation>尚無記錄</translation>
+    </message>
+    <message>
+        <source>There is no newer download engine.</source>
+        <translation>沒有較新的下載引擎。</translation>
     </message>
     <message>
         <source>There is no picture at this place.</source>
@@ -2706,6 +2726,10 @@
     <message>
         <source>Untitled</source>
         <translation>未命名</translation>
+    </message>
+    <message>
+        <source>Update Download Engine</source>
+        <translation>更新下載引擎</translation>
     </message>
     <message>
         <source>Upside down</source>

@@ -132,7 +132,7 @@ void JKestrelSettingController::setUpTexts()
     for (QLabel *headline :
          {m_form->titleLabel, m_form->commonLabel, m_form->videoLabel, m_form->dvdLabel, m_form->downloaderLabel})
         tarnwell::setTextStyle(headline, 18, QFont::Bold, colors::title);
-    for (QLabel *note : {m_form->hardwareNote, m_form->dvdNote, m_form->downloaderNote, m_form->downloaderProxyHint})
+    for (QLabel *note : {m_form->hardwareNote, m_form->downloaderProxyHint})
         tarnwell::setTextStyle(note, 12, QFont::Normal, colors::quietText);
     tarnwell::setTextStyle(m_form->saveNote, 12, QFont::Normal, colors::error);
     m_form->hardwareInfoButton->setAccessibleDescription(AppLocalizedString(u"Hardware Information"_s));

@@ -54,4 +54,10 @@ QRect fittedToScreen(QRect place, const QScreen &screen)
     return keptOnScreen(place, screen);
 }
 
+void leaveRoomForFrame(QWidget *window)
+{
+    constexpr QSize frame(16, 40);  // of what is seen of desktops, the largest
+    window->resize(window->size().boundedTo(window->screen()->availableGeometry().size() - frame));
+}
+
 }  // namespace kestrel::tarnwell

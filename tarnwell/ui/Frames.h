@@ -20,5 +20,7 @@ void setWindowFrame(QWidget *window, const foundation::Rect &frame);
 QRect keptOnScreen(QRect place, const QScreen &screen);
 /// The same for a window that can be made smaller: no larger than the free area.
 QRect fittedToScreen(QRect place, const QScreen &screen);
+/// Makes a window that the desktop frames and places, and that was not shown yet, no larger than there is room for.
+void leaveRoomForFrame(QWidget *window);
 
 }  // namespace kestrel::tarnwell

@@ -26,9 +26,15 @@ QSize JJustImageView::sizeHint() const
 void JJustImageView::paintEvent(QPaintEvent *)
 {
     QPainter painter(this);
-    const QPixmap image = namedImage(m_imageName, devicePixelRatioF());
-    const QSizeF size = image.deviceIndependentSize();
-    drawCrisp(painter, QPointF(width() - size.width(), height() - size.height()) / 2, image);
+    QPixmap image = namedImage(m_imageName, devicePixelRatioF());
+    const QSizeF own = image.deviceIndependentSize();
+    const QSizeF fitted = own.scaled(own.boundedTo(size()), Qt::KeepAspectRatio);
+    if (fitted != own) {
+        const qreal ratio = image.devicePixelRatio();
+        image = image.scaled((fitted * ratio).toSize(), Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+        image.setDevicePixelRatio(ratio);
+    }
+    drawCrisp(painter, QPointF(width() - fitted.width(), height() - fitted.height()) / 2, image);
 }
 
 }  // namespace kestrel::tarnwell

@@ -4,7 +4,8 @@
 
 namespace kestrel::tarnwell {
 
-/// An image of the bundle at its own size in the middle of the view; the mouse goes through it to what lies below.
+/// An image of the bundle in the middle of the view, at its own size or, where there is less room, as large as fits;
+/// the mouse goes through it to what lies below.
 class JJustImageView : public QWidget {
     Q_OBJECT
     Q_PROPERTY(QString imageName READ imageName WRITE setImageName)

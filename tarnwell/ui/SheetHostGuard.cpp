@@ -50,13 +50,16 @@ SheetHostGuard::SheetHostGuard(QWidget &host, QWidget &sheet)
     if (const auto *window = qobject_cast<TitledWindow *>(&host)) {
         m_titleBar = window->titleBarView();
         shareMenus();
+    } else {
+        // A sheet's sheet: what the first one was lent
+        share(host.actions());
     }
 }
 
 SheetHostGuard::~SheetHostGuard()
 {
-    for (QAction *entry : m_shared) {
-        if (m_sheet)
+    for (const QPointer<QAction> &entry : m_shared) {
+        if (m_sheet && entry)
             m_sheet->removeAction(entry);
     }
 }
@@ -66,15 +69,21 @@ void SheetHostGuard::shareMenus()
     auto *open = new QAction(this);
     open->setShortcut(Qt::Key_F10);
     connect(open, &QAction::triggered, m_titleBar.data(), &WindowTitleBar::openMenus);
-    m_shared.append(open);
+    QList<QAction *> entries{open};
     for (const QMenu *menu : m_titleBar->menus()) {
         connect(menu, &QMenu::aboutToHide, this, &SheetHostGuard::giveKeyboardBack);
         for (QAction *entry : menu->findChildren<QAction *>()) {
             if (!entry->shortcut().isEmpty())
-                m_shared.append(entry);
+                entries.append(entry);
         }
     }
-    m_sheet->addActions(m_shared);
+    share(entries);
+}
+
+void SheetHostGuard::share(const QList<QAction *> &entries)
+{
+    m_shared = {entries.begin(), entries.end()};
+    m_sheet->addActions(entries);
 }
 
 bool SheetHostGuard::eventFilter(QObject *watched, QEvent *event)

@@ -1,10 +1,10 @@
 #pragma once
 
+#include <QAction>
 #include <QObject>
 #include <QPointer>
 #include <QWindow>
 
-class QAction;
 class QWidget;
 
 namespace kestrel::tarnwell {
@@ -26,6 +26,7 @@ protected:
 
 private:
     void shareMenus();
+    void share(const QList<QAction *> &entries);
     bool isForTitleBar(const QEvent &event) const;
     void orderFront();
     void giveKeyboardBack();
@@ -34,8 +35,8 @@ private:
     QPointer<QWidget> m_sheet;
     QPointer<QWindow> m_handle;
     QPointer<WindowTitleBar> m_titleBar;
-    QList<QAction *> m_shared;
-    bool m_isPressed = false;  ///< a button went down in the title bar and has not come up
+    QList<QPointer<QAction>> m_shared;  ///< of this guard or of others
+    bool m_isPressed = false;           ///< a button went down in the title bar and has not come up
 };
 
 }  // namespace kestrel::tarnwell

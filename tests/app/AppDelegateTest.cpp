@@ -159,9 +159,16 @@ TEST_F(AppDelegateTest, after_the_launch_the_flag_is_armed_and_the_server_asked)
     foundation::queue::finishGlobal();
     EXPECT_EQ(m_fetches, 1);
     m_delegate->applicationWillTerminate();
-    foundation::UserDefaults read(m_folder.filePath(u"defaults.plist"_s));
-    EXPECT_EQ(read.objectForKey(flag), QVariant(false));
+    const QString path = m_folder.filePath(u"defaults.plist"_s);
+    EXPECT_EQ(foundation::UserDefaults(path).objectForKey(flag), QVariant(false));
     EXPECT_TRUE(m_events.contains(u"video syncSetting"_s));
+
+    ASSERT_TRUE(QFile::remove(path) && QDir().mkpath(path)) << "nothing can be saved there";
+    QDir().mkpath(foundation::stateDirectory() + u'/' + tarnwell::GetApplicationName());
+    m_defaults.setObject(u"new"_s, u"key"_s);
+    m_delegate->applicationWillTerminate();
+    ProblemReports(m_defaults).checkAtLaunch();
+    EXPECT_EQ(m_desktop.alerts.constLast().message, u"Your settings could not be saved when Kestrel was last quit."_s);
 }
 
 TEST_F(AppDelegateTest, running_jobs_are_asked_about_once_whatever_ends_the_program)

@@ -1,6 +1,8 @@
 #!/usr/bin/python3
 """cli_test.py BUNDLE: the converter's work without a window."""
+import json
 import os
+import resource
 import signal
 import subprocess
 import sys
@@ -44,9 +46,13 @@ class CliTest(unittest.TestCase):
         self.assertEqual({each['source']: each['state'] for each in results}, {missing: 'failed', self.clip: 'done'})
         self.assertTrue(all(not name.startswith('.') for name in os.listdir(self.out)), os.listdir(self.out))
 
+        # Whose tracks nobody knows is not begun with all of them.
+        status, results = self.cli.results('convert', '--audio', '1', '--to', self.out, missing)
+        self.assertEqual((status, results[0]['state'], self.cli.run('jobs')[1][-1]['state']), (1, 'failed', 'unusable'))
+
         status, jobs, _ = self.cli.run('jobs')
         self.assertEqual((status, sorted(each['state'] for each in jobs)),
-                         (0, ['done', 'done', 'done', 'done-with-problems', 'failed']))
+                         (0, ['done', 'done', 'done', 'done-with-problems', 'failed', 'unusable']))
 
     def test_wrong_usage_is_one_sentence_and_makes_nothing(self):
         rows = [[], ['nonsense'], ['convert'], ['convert', '--preset', 'none', self.clip], ['convert', '--nonsense', self.clip],
@@ -73,30 +79,76 @@ class CliTest(unittest.TestCase):
         make_clip(self.clip, 60)
         for number in (signal.SIGINT, signal.SIGTERM):
             with self.subTest(number):
-                process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, self.clip)
+                process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, *[self.clip] * 3)
                 while b'"fraction"' not in process.stdout.readline():
                     pass
                 process.send_signal(number)
                 output, _ = process.communicate(timeout=20)
                 self.assertEqual(process.returncode, 130)
-                self.assertIn(b'"cancelled"', output.splitlines()[-1])
+                results = [each for each in map(json.loads, output.splitlines()) if each['event'] == 'result']
+                self.assertEqual(sorted((each['job'], each['state']) for each in results),
+                                 [(1, 'cancelled'), (2, 'cancelled'), (3, 'cancelled')])
                 self.assertEqual(os.listdir(self.out), [])
+        self.assertEqual([each['state'] for each in self.cli.run('jobs')[1]], ['cancelled'] * 6)
 
     def test_what_was_killed_is_interrupted_and_its_part_goes(self):
         make_clip(self.clip, 60)
         process = self.cli.start('--json', 'convert', '--no-copy', '--speed', '-2', '--to', self.out, self.clip)
         while b'"fraction"' not in process.stdout.readline():
             pass
-        self.assertEqual(len(os.listdir(self.out)), 1)
+        self.assertEqual((len(os.listdir(self.out)), len(os.listdir(self.cli.folder('tmp')))), (1, 1))
+        work = os.path.join(self.cli.path('tmp'), os.listdir(self.cli.path('tmp'))[0])
+        self.assertEqual(os.stat(work).st_mode & 0o77, 0, 'others can look into it')
+        _, jobs, _ = self.cli.run('jobs')
+        self.assertEqual([(each['state'], each['process']) for each in jobs], [('running', process.pid)])
+        self.assertEqual([self.cli.run('jobs', verb, '1')[0] for verb in ('retry', 'clear')], [1, 1])
         process.kill()
         process.communicate()
         _, jobs, _ = self.cli.run('jobs')
         self.assertEqual([each['state'] for each in jobs], ['interrupted'])
-        self.assertEqual(os.listdir(self.out), [])
+        self.assertEqual((os.listdir(self.out), os.listdir(self.cli.folder('tmp'))), ([], []))
         until = time.monotonic() + 10
         while subprocess.run(['pgrep', '-f', self.clip], stdout=subprocess.DEVNULL).returncode == 0:
             self.assertLess(time.monotonic(), until, 'ffmpeg lives on')
             time.sleep(0.05)
+
+    def test_jobs_are_run_again_and_cleared(self):
+        other = self.cli.path('other.mkv')
+        self.cli.results('convert', '--to', self.out, other, self.clip)
+        os.rename(self.clip, other)
+        self.assertEqual(self.cli.run('jobs', 'retry')[:2], (0, []), 'nothing was interrupted')
+        status, results = self.cli.results('jobs', 'retry', '1')
+        self.assertEqual((status, results[0]['outputs']), (0, [os.path.join(self.out, 'other.mp4')]))
+        status, results = self.cli.results('jobs', 'retry', '2')
+        self.assertEqual((status, results[0]['state']), (1, 'failed'))
+        self.assertEqual([self.cli.run('jobs', 'clear', *which)[0] for which in ([], ['1'])], [0, 1])
+        self.assertEqual([each['job'] for each in self.cli.run('jobs')[1]], [2])
+        store = self.cli.path('data/Kestrel Converter 4K/jobs.sqlite')
+        subprocess.run(['sqlite3', store, 'PRAGMA user_version = 9'], check=True)
+        for verb in ([], ['retry'], ['clear', '2']):
+            status, objects, errors = self.cli.run('jobs', *verb)
+            self.assertEqual((status, objects, errors.count('\n')), (1, [], 1))
+        self.assertEqual([name for name in os.listdir(os.path.dirname(store)) if 'damaged' in name], [])
+
+    def test_what_cannot_be_written_is_told(self):
+        with open('/dev/full', 'wb') as full:
+            rows = [{'stdout': full}, {'preexec_fn': lambda: os.close(1)}]
+            for options in rows:
+                done = subprocess.run([self.cli.program, 'presets'], env=self.cli.environment, stderr=subprocess.PIPE, **options)
+                self.assertEqual((done.returncode, done.stderr.count(b'\n')), (1, 1), done.stderr)
+        make_clip(self.clip, 20)
+        process = self.cli.start('--json', 'convert', '--no-copy', '--to', self.out, self.clip,
+                                 preexec_fn=lambda: resource.setrlimit(resource.RLIMIT_FSIZE, (100_000, 100_000)))
+        result = json.loads(process.communicate(timeout=60)[0].splitlines()[-1])
+        self.assertEqual((process.returncode, result['state']), (1, 'failed'))
+        self.assertRegex(result['problems'][0], 'cannot hold a file of this size')
+
+    def test_a_folder_of_any_name_takes_results(self):
+        out = os.fsencode(self.cli.home) + b'/\xff out'
+        os.mkdir(out)
+        status, results = self.cli.results('convert', '--to', out, self.clip)
+        self.assertEqual((status, results[0]['state'], os.listdir(out)), (0, 'done', [b'film.mp4']))
+        self.assertEqual([each['state'] for each in self.cli.run('jobs')[1]], ['done'])
 
     def test_presets_are_told_an_object_a_line(self):
         by_id = {each['id']: each for each in self.cli.run('presets', '--all')[1]}

@@ -15,6 +15,7 @@ class Cli:
         self.environment = {**os.environ, 'HOME': self.home, 'LC_ALL': 'C.UTF-8', 'TZ': 'UTC'}
         for variable in ('CONFIG', 'DATA', 'STATE', 'CACHE'):
             self.environment[f'XDG_{variable}_HOME'] = self.path(variable.lower())
+        self.environment['TMPDIR'] = self.folder('tmp')
         self.environment.pop('DISPLAY', None)
 
     def path(self, name):

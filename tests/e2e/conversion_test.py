@@ -49,6 +49,7 @@ class ConversionTest(ProgramTest):
             first = file.read()
 
         app.find('list item', re.compile('a film.mkv.*Done'))
+        wait_for(lambda: not [text for text in app.texts() if 'to go' in text], 'what is to go to be gone')
         self.click(app, 'push button', 'Clear')
         self.hand_over(clip)
         self.click(app, 'push button', 'Convert')

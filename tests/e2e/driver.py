@@ -90,7 +90,10 @@ class App:
 
     def main_thread_seconds(self):
         """Processor time that the thread of its windows has had so far."""
-        with open(f'/proc/{self.pid}/task/{self.pid}/stat') as file:
+        return self.processor_seconds(f'task/{self.pid}/stat')
+
+    def processor_seconds(self, place='stat'):
+        with open(f'/proc/{self.pid}/{place}') as file:
             fields = file.read().rpartition(')')[2].split()
         return (int(fields[11]) + int(fields[12])) / os.sysconf('SC_CLK_TCK')
 

@@ -9,10 +9,12 @@ from driver import Desktop
 class ProgramTest(unittest.TestCase):
     """One display a file; a fresh user a test, whose programs end with it."""
 
+    screen = '1440x900x24'
+
     @classmethod
     def setUpClass(cls):
         cls.bundle = os.path.abspath(cls.bundle_argument)
-        cls.desktop = Desktop()
+        cls.desktop = Desktop(cls.screen)
 
     @classmethod
     def tearDownClass(cls):

@@ -1,6 +1,5 @@
 """The log viewer, a program of its own: what it shows of a file that lives, and how one finds a line in it."""
 import os
-import time
 
 from accessible import states, wait_for
 from harness import ProgramTest, main
@@ -55,10 +54,9 @@ class LogWatcherTest(ProgramTest):
     def test_a_huge_file_costs_nothing(self):
         self.write('')
         os.truncate(self.path, 1 << 30)
-        start = time.monotonic()
         app = self.launch_viewer(self.path)
         self.wait_for_rows(app, lambda rows: rows, 'its end')
-        self.assertLess(time.monotonic() - start, 2)
+        self.assertLess(app.processor_seconds(), 2)
         if not app.is_sanitized():
             self.assertLess(app.memory(), 100, 'MiB')
 

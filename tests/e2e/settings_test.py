@@ -1,5 +1,6 @@
 """The settings window: every kind of control changed, and German."""
 import os
+import re
 import xml.etree.ElementTree as ElementTree
 
 from accessible import states, wait_for, walk
@@ -89,6 +90,12 @@ class SettingsTest(ProgramTest):
         self.desktop.set_defaults(self.bundle, kAppCustomizeLanguage='de')
         app = self.launch()
         shown = names_below(app.node())
+        for module in ('Video Converter', 'DVD Ripper', 'Downloader', 'Recorder'):
+            self.click(app, 'push button', german[module])
+            back = app.find('push button', german['Back'])
+            shown |= names_below(app.node())
+            self.desktop.click(back)
+            app.find('push button', german[module])
         self.click(app, 'push button', german['About'])
         shown |= names_below(app.find('dialog'))
         self.desktop.key('Escape')
@@ -112,7 +119,8 @@ class SettingsTest(ProgramTest):
                  for language in ('en', 'de')}
         english = texts['en'] - texts['de'] | {key for key, text in german.items() if text and text != key}
         self.assertGreater(len(shown & (texts['de'] | set(german.values()))), 40)
-        self.assertEqual(shown & english, set())
+        with_arguments = re.compile('|'.join(re.sub('%[@1-9]', '.+', re.escape(text)) for text in english))
+        self.assertEqual([text for text in shown if with_arguments.fullmatch(text)], [])
 
 
 if __name__ == '__main__':

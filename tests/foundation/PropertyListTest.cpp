@@ -7,12 +7,12 @@
 #include <QDataStream>
 #include <QDateTime>
 #include <QDir>
-#include <QElapsedTimer>
 #include <QProcess>
 #include <QTemporaryDir>
 
 #include <climits>
 #include <cmath>
+#include <ctime>
 #include <limits>
 #include <random>
 
@@ -133,6 +133,8 @@ TEST(PropertyList, ForgivesWhatCanBeUnderstoodWhereThatIsWanted)
          "<?xml version=\"1.0\" encoding=\"Windows-1252\"?><plist><string>\x80 \xFC\x84</string></plist>", u"€ ü„"_s},
         {"all of it", "\n<?xml version=\"1.0\" encoding=\"cp1252\"?>" + dictionary,
          QVariantMap{{u"a"_s, 2}, {u"b"_s, u"„"_s}}},
+        {"a key twice in a binary list",
+         binaryPlist({fromHex("d201020304"), "\x51k", "\x51k", "\x09", fromHex("1002")}), QVariantMap{{u"k"_s, 2}}},
         {"another encoding", plistFile(u"broken_plists/unknown_encoding.plist"_s), {}},
         {"a key without a value", plistFile(u"broken_plists/key_without_value.plist"_s), {}},
         {"text before the declaration", "x<?xml version=\"1.0\"?><plist><true/></plist>", {}},
@@ -173,14 +175,13 @@ TEST(PropertyList, RefusesBrokenBinaryOnes)
         {"a million levels", binaryPlist(chain + QList<QByteArray>{"\x09"}, 4), "nested deeper than 512"},
         {"references that multiply", binaryPlist(multiplying + QList<QByteArray>{"\x09"}), "more than 2000000 values"},
     };
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock();
     for (const auto &row : table) {
         const PropertyListResult result = readPropertyList(row.bytes);
         EXPECT_FALSE(result.value) << row.name;
         EXPECT_TRUE(result.error.message.contains(QLatin1StringView(row.message))) << row.name;
     }
-    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_LT(std::clock() - start, 5 * CLOCKS_PER_SEC);
 }
 
 TEST(PropertyList, KeepsToItsLimits)

@@ -77,6 +77,11 @@ TEST(StyledHtml, ReadsFragments)
          "90{s} 80{s} 7{u} H2{_}O m2{^}"},
         {"<small>a<big>b</big></small><big><big>c</big>d</big><font size=7><big>e", "a{11}b{13}c{19}d{16}e{39}"},
         {"a<center>b<br>c</center>d<p style='text-align:center'>e", "a/b/c/{c}d//e{c}"},
+        {"<table style=color:red><tr><td style='font-weight:bold'>a<td>b<tr><th>c<table><td style=color:lime>d</table>e"
+         "</table><blockquote style=font-style:italic>f<hr style=color:red>g</blockquote>h",
+         "a{b ffff0000} b/c/{ffff0000}d/{ff00ff00}e//{ffff0000}f/g//{i}h"},
+        {"<dl><dt style=font-weight:bold>a<dd>b<dt><dl style=font-style:italic><dd>c</dl>d</dl>e",
+         "a/{b}b//c//{i}d//e"},
         {"<b style='font-weight:normal'>a</b><i style='font-style: normal'>b</i><u style=text-decoration:none>c</u>"
          "<span style='FONT-WEIGHT:700;font-style:oblique;text-decoration: Underline line-through red'>d</span>",
          "abcd{b i u s}"},

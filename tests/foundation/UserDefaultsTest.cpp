@@ -244,7 +244,7 @@ TEST_F(UserDefaultsTest, ACrashLeavesOneWholeValue)
 
 TEST_F(UserDefaultsTest, ASaveRemovesWhatKilledOnesLeft)
 {
-    const QStringList left = {u"saving-fGh2Ij"_s, u"saving-aBcdEf"_s}, kept = {u"backup"_s, u"saving"_s};
+    const QStringList left = {u"saving-fGh2Ij"_s, u"saving-aBcdEf"_s}, kept = {u"BackUp"_s, u"saving"_s};
     for (const QString &suffix : left + kept)
         ASSERT_TRUE(QFile(m_path + u'.' + suffix).open(QIODevice::WriteOnly));
     UserDefaults defaults(m_path);

@@ -1,6 +1,7 @@
 kestrel_test(foundation
     SOURCES
-        BasicsTest.cpp FetchTest.cpp KeyedArchiveTest.cpp PropertyListTest.cpp StyledHtmlTest.cpp UserDefaultsTest.cpp
+        BasicsTest.cpp FetchTest.cpp FileNamesTest.cpp KeyedArchiveTest.cpp PropertyListTest.cpp
+        StyledHtmlTest.cpp UserDefaultsTest.cpp
     LINKS kestrel_foundation kestrel_foundation_ui)
 
 # The other process of the tests that need one.

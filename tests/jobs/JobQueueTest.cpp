@@ -80,11 +80,11 @@ protected:
 
     MemoryStore store;
     test::ScriptedRecipe recipe;
-    qint64 freeBytes = 1'000'000'000'000;
+    qint64 freeBytes = 1'000'000'000'000, allBytes = 0;
     JobQueue queue{&store, nullptr, [this](const QString &folder) -> std::optional<DiskSpace> {
                        if (folder.startsWith("/unknown"_L1))
                            return std::nullopt;
-                       return DiskSpace{folder.toUtf8().left(2), freeBytes};
+                       return DiskSpace{folder.toUtf8().left(2), freeBytes, allBytes};
                    }};
 };
 
@@ -176,6 +176,22 @@ TEST_F(JobQueueTest, AllAreCancelledWithinATenthOfASecond)
     EXPECT_EQ(store.rows[ids[0]].record.state, JobState::Cancelled);
 }
 
+TEST_F(JobQueueTest, WhatIsToGetItsNameIsStoredBefore)
+{
+    const QList<JobId> ids = add(1);
+    queue.start(ids);
+    ASSERT_TRUE(waitForState(ids[0], JobState::Running));
+    bool mayGoOn = false;
+    recipe.jobOf(ids[0])->beforePlacing(done, QStringLiteral(KESTREL_TEST_HELPER), [&] { mayGoOn = true; });
+    EXPECT_FALSE(mayGoOn);
+    EXPECT_TRUE(store.rows[ids[0]].record.placing);
+    EXPECT_EQ(store.rows[ids[0]].record.outcome.state, JobState::Done);
+    ASSERT_TRUE(waitUntil([&] { return mayGoOn; }));
+    recipe.jobOf(ids[0])->end(done);
+    ASSERT_TRUE(waitForState(ids[0], JobState::Done));
+    EXPECT_FALSE(store.rows[ids[0]].record.placing);
+}
+
 TEST_F(JobQueueTest, WhatEndsWellAlthoughItWasCancelledIsDone)
 {
     const JobId id = add(1).first();
@@ -244,6 +260,20 @@ TEST_F(JobQueueTest, SpaceIsCheckedLessWhatRunningJobsNeed)
     recipe.jobOf(ids[3])->end(done);
     ASSERT_TRUE(waitForState(ids[1], JobState::Running));
     EXPECT_TRUE(queue.record(ids[1])->blocked.isEmpty());
+}
+
+TEST_F(JobQueueTest, OnASmallDiskLessIsLeftFree)
+{
+    freeBytes = 40'000'000;
+    allBytes = 100'000'000;
+    JobRecord record = scriptedRecord(u"film"_s, Lane::Copy);
+    record.folder = u"/a"_s;
+    for (const auto &[bytes, expected] : {std::pair{36'000'000, JobState::Waiting}, {34'000'000, JobState::Running}}) {
+        record.plan[u"bytes"_s] = bytes;
+        const JobId id = queue.add(record);
+        queue.start({id});
+        EXPECT_EQ(state(id), expected) << bytes;
+    }
 }
 
 TEST_F(JobQueueTest, SpaceIsLookedForAgainAfterAWhile)

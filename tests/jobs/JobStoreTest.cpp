@@ -144,12 +144,26 @@ TEST_F(JobStoreTest, WhatAnotherProcessHoldsIsLeftOutUntilItEnds)
     const auto process = helper({u"hold"_s});
     ASSERT_TRUE(process->waitForReadyRead(20'000));
     ASSERT_EQ(process->readAll().trimmed(), "held");
+    const auto listed = [this] {
+        QList<std::tuple<JobState, qint64, bool>> rows;
+        const auto jobs = listJobs(path, QStringLiteral(KESTREL_JOB_STORE_LIBRARY));
+        for (const ListedJob &job : jobs ? *jobs : QList<ListedJob>())
+            rows.append({job.record.state, job.holder, job.hasLostOwner});
+        return rows;
+    };
+    const qint64 holder = process->processId();
+    EXPECT_THAT(listed(),
+                ElementsAre(std::tuple(JobState::Running, holder, false), std::tuple(JobState::Waiting, holder, false),
+                            std::tuple(JobState::Ready, 0, false)));
     const auto store = open();
     auto records = loaded(*store);
     ASSERT_EQ(records.size(), 1);
     EXPECT_EQ(records.begin()->second.state, JobState::Ready);
     process->kill();
     process->waitForFinished();
+    for (int round = 0; round < 2; ++round)  // it changes nothing
+        EXPECT_THAT(listed(), ElementsAre(std::tuple(JobState::Interrupted, 0, true),
+                                          std::tuple(JobState::Ready, 0, true), std::tuple(JobState::Ready, 0, false)));
     records = loaded(*store);
     ASSERT_EQ(records.size(), 3);
     EXPECT_EQ(records.begin()->second.state, JobState::Interrupted);
@@ -171,6 +185,39 @@ TEST_F(JobStoreTest, DoneIsWhatIsThere)
     QFile(output).open(QIODevice::WriteOnly);
     EXPECT_EQ(loaded(*store).at(record.id).state, JobState::Done);
     EXPECT_TRUE(loaded(*store).at(record.id).outcome.problems.isEmpty());
+}
+
+TEST_F(JobStoreTest, WhatHadJustGotItsNameIsNotInterrupted)
+{
+    const QString part = folder.filePath(u".film.part.mp4"_s), whole = folder.filePath(u"film (1).mp4"_s);
+    const struct {
+        const char *name;
+        std::function<void()> change;
+        JobState state;
+    } rows[] = {
+        {"not yet", [] {}, JobState::Interrupted},
+        {"placed", [&] { QFile::rename(part, whole); }, JobState::DoneWithProblems},
+        {"swept, and another made", [&] { QFile::copy(part, whole), QFile::remove(part); }, JobState::Interrupted},
+        {"placed and cut", [&] { QFile::rename(part, whole), QFile::resize(whole, 3); }, JobState::Interrupted}};
+    for (const auto &[name, change, state] : rows) {
+        QFile::remove(whole);
+        QFile file(part);
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write("a film") > 0);
+        file.close();
+        const auto store = open();
+        JobRecord record = scriptedRecord(u"film"_s);
+        record.id = store->nextId();
+        record.state = JobState::Running;
+        record.placing = PlacedPart::of(part);
+        record.outcome = {.state = JobState::DoneWithProblems, .problems = {{outputIsGone, {u"x"_s}}}};
+        store->put(record, 1);
+        change();
+        const JobRecord found = loaded(*store).at(record.id);
+        EXPECT_EQ(found.state, state) << name;
+        const bool isMade = state == JobState::DoneWithProblems;
+        EXPECT_EQ(found.outcome.outputs, isMade ? QStringList(whole) : QStringList()) << name;
+        EXPECT_EQ(found.outcome.problems, isMade ? record.outcome.problems : QList<tarnwell::Sentence>()) << name;
+    }
 }
 
 TEST_F(JobStoreTest, TwoProcessesShareTheFile)
@@ -235,6 +282,9 @@ TEST_F(JobStoreTest, WhatIsNoStoreIsMovedAside)
         for (const QString &name : QDir(folder.path()).entryList(QDir::Files))
             QFile::remove(folder.filePath(name));
         write(row.bytes);
+        const auto listed = listJobs(path, QStringLiteral(KESTREL_JOB_STORE_LIBRARY));
+        EXPECT_EQ(bool(listed), !row.isMoved);
+        EXPECT_EQ(QDir(folder.path()).entryList(QDir::Files), QStringList(u"jobs.sqlite"_s));
         {
             const auto store = open();
             ASSERT_TRUE(store);

@@ -1,7 +1,7 @@
 #include "foundation/StandardFolders.h"
-#include "jobs/FileNames.h"
 #include "jobs/OutputFile.h"
 #include "jobs/PartOwner.h"
+#include "jobs/PortableNames.h"
 #include "jobs/SystemFailure.h"
 #include "tests/support/TestEnvironment.h"
 

@@ -28,6 +28,8 @@ public:
             this, [this, outcome] { emit finished(outcome); }, Qt::QueuedConnection);
     }
 
+    using Job::beforePlacing;
+
     const JobId id;
     bool hasStarted = false;
     bool isPaused = false;
@@ -37,12 +39,12 @@ public:
 /// Every job takes the lane, the bytes and the weight that its plan names.
 class ScriptedRecipe : public JobRecipe {
 public:
-    Lane lane(const JobRecord &record) const override { return Lane(record.plan[QStringLiteral("lane")].toInt()); }
-    qint64 expectedBytes(const JobRecord &record) const override
+    JobNeeds needs(const JobRecord &record) const override
     {
-        return record.plan[QStringLiteral("bytes")].toInteger();
+        return {.lane = Lane(record.plan[QStringLiteral("lane")].toInt()),
+                .bytes = record.plan[QStringLiteral("bytes")].toInteger(),
+                .weight = record.plan[QStringLiteral("weight")].toDouble(1)};
     }
-    double weight(const JobRecord &record) const override { return record.plan[QStringLiteral("weight")].toDouble(1); }
     std::unique_ptr<Job> makeJob(const JobRecord &record) override
     {
         auto job = std::make_unique<ScriptedJob>(record.id);

@@ -4,8 +4,6 @@
 
 #include <QDir>
 #include <QFile>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -44,49 +42,6 @@ void OddFile::make(const QByteArray &path)
     close(file);
 }
 
-TEST(FileNamesTest, EveryNameComesBack)
-{
-    const QByteArray names[] = {
-        "plain.mp4",    "\xc3\xa4\xf0\x9f\x8e\xac", "caf\xe9.avi", "\xff\xfe",     "\xed\xb2\x80",        "\xc0\xaf",
-        "\xe0\x80\xaf", "\xf4\x90\x80\x80",         "a\xc3",       "\xf0\x9f\xe9", "\x80\xf0\x9f\x8e\xac"};
-    QSet<QString> texts;
-    for (const QByteArray &name : names) {
-        const QString text = decodedFileName(name);
-        EXPECT_EQ(encodedFileName(text), name) << name.toHex().constData();
-        EXPECT_EQ(foundation::isPlainFileName(text), QString::fromUtf8(name).toUtf8() == name)
-            << name.toHex().constData();
-        EXPECT_FALSE(foundation::readableFileName(text).toUtf8().isNull());
-        const QByteArray json = QJsonDocument(QJsonObject{{u"path"_s, text}}).toJson();
-        EXPECT_EQ(QJsonDocument::fromJson(json)[u"path"].toString(), text)
-            << "as jobs are stored: " << json.constData();
-        texts.insert(text);
-    }
-    EXPECT_EQ(texts.size(), qsizetype(std::size(names)));
-    EXPECT_EQ(foundation::readableFileName(decodedFileName("caf\xe9.avi")), u"caf\uFFFD.avi");
-}
-
-TEST(FileNamesTest, WordsOfACommandLine)
-{
-    char program[] = "kestrel", file[] = "../b/./caf\xe9.avi";
-    char *words[] = {program, file};
-    const QStringList arguments = foundation::decodedArguments(2, words);
-    ASSERT_EQ(arguments.size(), 2);
-    EXPECT_EQ(encodedFileName(foundation::absoluteFileName(arguments[1])),
-              QFile::encodeName(QDir::cleanPath(QDir::currentPath() + u"/../b"_s)) + "/caf\xe9.avi");
-    EXPECT_EQ(foundation::absoluteFileName(u"/a/../b"_s), u"/b");
-}
-
-TEST(FileNamesTest, AddressesOfDroppedFiles)
-{
-    const std::pair<const char *, QByteArray> rows[] = {{"file:///a%20b.mp4", "/a b.mp4"},
-                                                        {"file:///caf%E9.avi", "/caf\xe9.avi"},
-                                                        {"file:///%C3%A4%23.avi", "/\xc3\xa4#.avi"},
-                                                        {"file:///a%00b", ""},
-                                                        {"https://host/a.mp4", ""}};
-    for (const auto &[address, path] : rows)
-        EXPECT_EQ(encodedFileName(foundation::pathOfUrl(QUrl::fromEncoded(address))), path) << address;
-}
-
 TEST(MediaFilesTest, FoldersInNaturalOrder)
 {
     const QTemporaryDir folder;
@@ -100,7 +55,9 @@ TEST(MediaFilesTest, FoldersInNaturalOrder)
     ASSERT_TRUE(QFile::link(folder.path(), folder.filePath(u"b/round"_s)));
     ASSERT_TRUE(QDir().mkpath(folder.filePath(u"folder.mp4"_s)));
     QList<QByteArray> found;
-    for (const QString &path : mediaFiles({folder.path(), folder.filePath(u"notes.txt"_s)}))
+    const MediaFiles files = mediaFiles({folder.path(), folder.filePath(u"notes.txt"_s)});
+    EXPECT_FALSE(files.isPart);
+    for (const QString &path : files.paths)
         found.append(encodedFileName(path).mid(root.size()));
     EXPECT_EQ(found, (QList<QByteArray>{"/b/1.gif", "/b/deep/x.TS", "/caf\xe9.avi", "/Film 2.mkv", "/film 10.mp4",
                                         "/notes.txt"}));

@@ -157,6 +157,8 @@ TEST(OutputCheckTest, PacketsOfAReport)
     EXPECT_EQ(found->packets, (QList<qint64>{75, 0, 0}));
     EXPECT_EQ(found->bytes, 5);
     EXPECT_FALSE(parseOutputReport("{}", 5));
+    EXPECT_EQ(outputReportCommand({}, {}, 5).timeLimit, std::chrono::minutes(15));
+    EXPECT_EQ(outputReportCommand({}, {}, 36'000'000'000).timeLimit, std::chrono::hours(2)) << "all of it is read";
 }
 
 TEST(OutputCheckTest, KeptTracksMayBeShorterThanTheFile)
@@ -198,13 +200,13 @@ TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
     } rows[] = {
         {"good", [](TranscodeFacts &) {}, JobState::Done, ""},
         {"a fault of the source", [](TranscodeFacts &f) { f.messages.readLine("[error] no frame!"); },
-         JobState::DoneWithProblems, "60 of 60 s could be read, 1 faults"},
+         JobState::DoneWithProblems, "60 of 60 s could be read, 1 fault"},
         {"a fault of a source without a length",
          [](TranscodeFacts &f) {
              f.messages.readLine("[error] no frame!");
              f.sourceTellsDuration = false;
          },
-         JobState::DoneWithProblems, "60 s could be read, 1 faults"},
+         JobState::DoneWithProblems, "60 s could be read, 1 fault"},
         {"short",
          [](TranscodeFacts &f) {
              f.findings->isShort = true;

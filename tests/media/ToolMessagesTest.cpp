@@ -65,6 +65,7 @@ TEST(ToolMessagesTest, TheCauseComesBeforeItsNoise)
         {"[error] /out/a.mp4: Permission denied", "Reading the file or writing", false},
         {"[fatal] Unknown encoder 'libx264'", "The converter cannot make this format", false},
         {"[error] file:/home/No space left on device.mkv: Input/output error", "The disk could not be read", false},
+        {"[error] av_interleaved_write_frame(): Stale file handle", "The disk could not be read", false},
         {"[error] something new", "The converter could not", false}};
     for (const auto &[text, beginning, isHopeless] : rows) {
         ToolMessages messages({u"/home/No space left on device.mkv"_s});

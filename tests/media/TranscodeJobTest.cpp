@@ -89,12 +89,17 @@ protected:
         });
         job->start();
         EXPECT_FALSE(hasFinished) << "later than it returns";
+        if (!m_stopSign.isEmpty()) {
+            EXPECT_TRUE(test::waitUntil([this] { return QFile::exists(m_stopSign); }, 100'000));
+            job->stop();
+        }
         EXPECT_TRUE(test::waitUntil([&] { return hasFinished; }, 100'000));
         EXPECT_TRUE(std::is_sorted(result.fractions.begin(), result.fractions.end()));
         return result;
     }
 
     QTemporaryDir m_folder;
+    QString m_stopSign;  ///< the job is stopped once this file is there
     TranscodeTools m_tools{.transcoder = test::toolPath(u"ffmpeg"_s),
                            .prober = test::toolPath(u"ffprobe"_s),
                            .machine = {.processors = 2}};
@@ -127,7 +132,7 @@ TEST_F(TranscodeJobTest, ToolsThatDoNotDoAsTheySay)
         SCOPED_TRACE(name);
         QFile::remove(path(u"runs"_s));
         useTool(lines);
-        m_tools.silenceLimit = std::chrono::milliseconds(QByteArray(name) == "hang" ? 300 : 60'000);
+        m_tools.stallLimit = std::chrono::milliseconds(QByteArray(name) == "hang" ? 300 : 60'000);
         const JobOutcome outcome = run(planFor({film(u"mkv"_s)}, u"mp4-h264"_s)).outcome;
         EXPECT_EQ(int(outcome.state), int(state)) << outcome.details.toStdString();
         EXPECT_TRUE(outcome.sentence.english().contains(QString::fromLatin1(sentence)))
@@ -159,6 +164,17 @@ TEST_F(TranscodeJobTest, ShortcutsThatLeadToNothing)
     useTool("echo '[error] No space left on device' >&2; exit 1");
     EXPECT_EQ(int(run(planFor({film(u"mp4"_s)}, u"mkv-h264"_s)).outcome.state), int(JobState::Failed));
     EXPECT_EQ(runs(), 1) << "a full disk stays full";
+}
+
+TEST_F(TranscodeJobTest, StoppedWhileItsOutputIsLookedAt)
+{
+    m_stopSign = path(u"looking"_s);
+    const QByteArray sign = '\'' + m_stopSign.toUtf8() + '\'', prober = m_tools.prober.toUtf8();
+    m_tools.prober = makeScript(path(u"ffprobe"_s), "case \"$*\" in *-count_packets*) [ -e " + sign + " ] || { > " +
+                                                        sign + "; sleep 60; };; esac\nexec '" + prober + "' \"$@\"");
+    const JobOutcome outcome = run(planFor({film(u"mkv"_s)}, u"mp4-h264"_s)).outcome;
+    EXPECT_EQ(int(outcome.state), int(JobState::Done)) << outcome.sentence.english().toStdString();
+    EXPECT_EQ(outputs(), QStringList{u"film.mp4"_s});
 }
 
 TEST_F(TranscodeJobTest, RealOnes)
@@ -211,7 +227,7 @@ TEST_F(TranscodeJobTest, RealOnes)
     unlink(oddName.constData());
 }
 
-TEST_F(TranscodeJobTest, TheRecipeKnowsTheLane)
+TEST_F(TranscodeJobTest, TheRecipeKnowsWhatAJobNeeds)
 {
     TranscodeRecipe recipe([this] { return m_tools; });
     const auto recordOf = [](JobId id, const TranscodePlan &plan) {
@@ -221,7 +237,7 @@ TEST_F(TranscodeJobTest, TheRecipeKnowsTheLane)
         return record;
     };
     const JobRecord encoding = recordOf(1, planFor({film(u"mp4"_s)}, u"mp4-h264"_s));
-    EXPECT_EQ(int(recipe.lane(encoding)), int(Lane::Encode)) << "it may be anything";
+    EXPECT_EQ(int(recipe.needs(encoding).lane), int(Lane::Encode)) << "it may be anything";
     MediaInformation information;
     information.format = u"mov,mp4,m4a,3gp,3g2,mj2"_s;
     information.duration = 60;
@@ -234,11 +250,15 @@ TEST_F(TranscodeJobTest, TheRecipeKnowsTheLane)
     video.height = 360;
     information.tracks = {video};
     recipe.setInformation(1, {information});
-    EXPECT_EQ(int(recipe.lane(encoding)), int(Lane::Copy)) << "it is what is wanted already";
-    EXPECT_GE(recipe.expectedBytes(encoding), 5'000'000);
-    EXPECT_EQ(int(recipe.lane(recordOf(2, planFor({film(u"mp4"_s)}, u"mp3"_s)))), int(Lane::Sound));
-    EXPECT_EQ(int(recipe.lane(recordOf(3, planFor({film(u"mp4"_s)}, u"mkv-copy"_s)))), int(Lane::Copy));
-    EXPECT_EQ(recipe.expectedBytes(recordOf(4, planFor({film(u"mp4"_s)}, u"mp3"_s))), QFileInfo(film(u"mp4"_s)).size());
+    const JobNeeds copying = recipe.needs(encoding);
+    EXPECT_EQ(int(copying.lane), int(Lane::Copy)) << "it is what is wanted already";
+    EXPECT_GE(copying.bytes, 5'000'000);
+    EXPECT_DOUBLE_EQ(copying.weight, 60 / 20.0);
+    const JobNeeds unknown = recipe.needs(recordOf(2, planFor({film(u"mp4"_s)}, u"mp3"_s)));
+    EXPECT_EQ(int(unknown.lane), int(Lane::Sound));
+    EXPECT_EQ(unknown.bytes, QFileInfo(film(u"mp4"_s)).size());
+    EXPECT_DOUBLE_EQ(unknown.weight, double(unknown.bytes) / 500'000 / 5);
+    EXPECT_EQ(int(recipe.needs(recordOf(3, planFor({film(u"mp4"_s)}, u"mkv-copy"_s))).lane), int(Lane::Copy));
     JobRecord foreign;
     foreign.plan = {{u"version"_s, 99}};
     const auto job = recipe.makeJob(foreign);

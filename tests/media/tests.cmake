@@ -6,6 +6,7 @@ kestrel_test(media
         MediaReportTest.cpp
         MediaSamples.cpp MediaSamples.h
         OutputCheckTest.cpp
+        OwnPresetsTest.cpp
         PresetTest.cpp
         PictureScanTest.cpp
         ToolMessagesTest.cpp

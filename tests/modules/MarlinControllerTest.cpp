@@ -2,6 +2,7 @@
 
 #include "ModuleSettings.h"
 #include "foundation/NotificationCenter.h"
+#include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
@@ -66,6 +67,17 @@ protected:
     {
         return waitUntil([&] { return idAt(row) > 0 && recordAt(row).state == state; }, 100'000);
     }
+    void open(const QStringList &paths)
+    {
+        controller->openFiles(paths);
+        wait();
+    }
+    /// For what is looked for in the background, and what comes of it.
+    static void wait()
+    {
+        foundation::queue::finishGlobal();
+        QCoreApplication::processEvents();
+    }
     void convert()
     {
         auto *button = find<QPushButton>(u"startButton"_s);
@@ -98,8 +110,8 @@ TEST_F(MarlinControllerTest, AddsEachFileOnceLooksAtItAndConverts)
 {
     const QString film = clip(u"film.mkv"_s), letter = settings.path(u"letter.mp4"_s);
     test::writeFile(letter, "no film at all");
-    controller->openFiles({film, letter});
-    controller->openFiles({film});
+    open({film, letter});
+    open({film});
     ASSERT_EQ(queue().order(module).size(), 2);
     ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Unusable));
     EXPECT_TRUE(shown(0, Qt::DisplayRole, JobList::DetailColumn).toString().startsWith(u"0:02"));
@@ -110,14 +122,14 @@ TEST_F(MarlinControllerTest, AddsEachFileOnceLooksAtItAndConverts)
     ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();
     EXPECT_EQ(settings.outputs(), QStringList{u"film.mp4"_s});
     // What is done does not stand in the way of doing it again.
-    controller->openFiles({film});
+    open({film});
     EXPECT_EQ(queue().order(module).size(), 3);
 }
 
 TEST_F(MarlinControllerTest, FilesCanBeDroppedOnTheRows)
 {
     const QString film = clip(u"film.mkv"_s);
-    controller->openFiles({film});
+    open({film});
     controller->view()->show();
     QMimeData files;
     files.setUrls({QUrl::fromLocalFile(film), QUrl::fromLocalFile(clip(u"other.mkv"_s))});
@@ -126,6 +138,7 @@ TEST_F(MarlinControllerTest, FilesCanBeDroppedOnTheRows)
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(find<JobListView>(u"jobList"_s)->viewport(), &drop);
+    wait();
     EXPECT_EQ(queue().order(module).size(), 2);
 }
 
@@ -135,7 +148,7 @@ TEST_F(MarlinControllerTest, WhatIsLeftOutStandsInTheRowBeforeTheStart)
     settings.makeClip(film, QLatin1StringView(test::shortVideo) +
                                 " -f lavfi -i sine=duration=2 -f lavfi -i sine=duration=2 -map 0 -map 1 -map 2 "
                                 "-metadata:s:a:1 language=jpn"_L1);
-    controller->openFiles({film});
+    open({film});
     ASSERT_TRUE(isIn(0, JobState::Ready));
     choose(u"mkv-h264"_s);
     EXPECT_EQ(shown(0, JobList::WarningRole).toString(), QString());
@@ -151,7 +164,7 @@ TEST_F(MarlinControllerTest, WhatIsLeftOutStandsInTheRowBeforeTheStart)
 
 TEST_F(MarlinControllerTest, PresetIsForTheSelectedOrForAllAndIsRemembered)
 {
-    controller->openFiles({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
+    open({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
     ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
     choose(u"mkv-h265"_s);
     EXPECT_EQ(planAt(0).preset.id, u"mkv-h265");
@@ -177,7 +190,7 @@ TEST_F(MarlinControllerTest, PresetIsForTheSelectedOrForAllAndIsRemembered)
 
 TEST_F(MarlinControllerTest, OptionsChangeThePlansAndTheSwitches)
 {
-    controller->openFiles({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
+    open({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
     ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
     find<QCheckBox>(u"safeMode"_s)->click();
     EXPECT_TRUE(planAt(0).safeMode && planAt(1).safeMode && settings.dispatcher().getSafeMode());
@@ -212,7 +225,7 @@ TEST_F(MarlinControllerTest, WhatIsChosenForAllIsThereAgain)
 
 TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)
 {
-    controller->openFiles({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
+    open({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
     ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
     settings.dispatcher().setMergeMedia(true);
     choose(u"mkv-copy"_s);
@@ -225,7 +238,7 @@ TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)
 
 TEST_F(MarlinControllerTest, AMissingFolderStartsNothing)
 {
-    controller->openFiles({clip(u"a.mkv"_s)});
+    open({clip(u"a.mkv"_s)});
     ASSERT_TRUE(isIn(0, JobState::Ready));
     QDir(settings.folder()).removeRecursively();
     Conversions conversions(queue(), settings.configure().value(moduleSettingKey.toString()), defaults);

@@ -3,7 +3,6 @@ kestrel_test(modules
         ConversionTest.cpp
         MarlinControllerTest.cpp
         ModuleSettings.cpp ModuleSettings.h
-        OwnPresetsTest.cpp
         PloversControllerTest.cpp
         PetrelControllerTest.cpp
     LINKS kestrel_marlin_ui kestrel_heron_ui kestrel_petrel_ui kestrel_plover_ui kestrel_test_product)

@@ -47,7 +47,8 @@ TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
                             .bytesPerSecond = 5000,
                             .title = u"Title"_s,
                             .seconds = 1.5,
-                            .bytes = 12};
+                            .bytes = 12,
+                            .picture = u"https://example.com/a.jpg"_s};
     EXPECT_EQ(DownloadPlan::fromJson(plan.toJson()), plan);
     QJsonObject json = plan.toJson();
     json[u"extension"_s] = u"exe"_s;

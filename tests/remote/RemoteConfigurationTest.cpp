@@ -56,7 +56,7 @@ TEST(RemoteConfiguration, ReadsEveryField)
 
 TEST(RemoteConfiguration, ReadsEveryEncodingOfUnicode)
 {
-    const QString text = u"{\"ads\": {\"full\": {\"title\": \"Frühling 🎬\"}}}"_s;
+    const QString text = u"\n{\"ads\": {\"full\": {\"title\": \"Frühling 🎬\"}}}"_s;
     using Encoding = QStringConverter::Encoding;
     for (const Encoding encoding : {Encoding::Utf8, Encoding::Utf16LE, Encoding::Utf16BE, Encoding::Utf32LE}) {
         for (const auto flag : {QStringConverter::Flag::Default, QStringConverter::Flag::WriteBom}) {

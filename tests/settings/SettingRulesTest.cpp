@@ -6,7 +6,7 @@
 
 #include <gtest/gtest.h>
 
-#include <QElapsedTimer>
+#include <ctime>
 
 using namespace Qt::StringLiterals;
 
@@ -31,13 +31,12 @@ TEST(SettingRulesTest, proxy_addresses)
                                u""_s,
                                {},
                                u"a["_s.repeated(500'000)};
-    QElapsedTimer timer;
-    timer.start();
+    const std::clock_t start = std::clock();
     for (const QString &url : valid)
         EXPECT_TRUE(validateTheProxy(url, u"abc"_s)) << qPrintable(url.left(40));
     for (const QString &url : invalid)
         EXPECT_FALSE(validateTheProxy(url, u"80"_s)) << qPrintable(url.left(40));
-    EXPECT_LT(timer.elapsed(), 5000);
+    EXPECT_LT(std::clock() - start, 5 * CLOCKS_PER_SEC);
 }
 
 TEST(SettingRulesTest, concurrency)

@@ -3,6 +3,7 @@
 #include "LogView.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/ProductInformation.h"
+#include "tarnwell/ui/Frames.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/Palette.h"
 #include "tarnwell/ui/TextStyles.h"
@@ -74,6 +75,7 @@ LogWindow::LogWindow(const QString &path)
     setUpShortcuts();
     connectWork();
     showState();
+    tarnwell::leaveRoomForFrame(this);
 }
 
 LogWindow::~LogWindow() = default;

@@ -14,6 +14,7 @@
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TabOrder.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -102,6 +103,7 @@ std::unique_ptr<QWidget> HeronController::makeContents()
     connect(m_list.get(), &QAbstractItemModel::rowsRemoved, this, &HeronController::showArea);
     showDrives();
     showArea();
+    tarnwell::tabInLayoutOrder(*page);
     return page;
 }
 

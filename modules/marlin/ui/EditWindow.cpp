@@ -15,6 +15,8 @@
 #include "modules/marlin/Cropping.h"
 #include "modules/marlin/Pieces.h"
 #include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/ui/Frames.h"
+#include "tarnwell/ui/TabOrder.h"
 #include "tarnwell/ui/TextStyles.h"
 #include "tarnwell/ui/TranslateControls.h"
 #include "ui_EditWindow.h"
@@ -58,6 +60,8 @@ EditWindow::EditWindow(Subject subject, const JKestrelSettingDispatcher &setting
     showPlan();
     m_timeLine->setPosition(duration() / 10);
     showFrames(true);
+    tarnwell::tabInLayoutOrder(*this);
+    tarnwell::leaveRoomForFrame(this);
 }
 
 EditWindow::~EditWindow() = default;

@@ -26,8 +26,6 @@
 #include <QFileInfo>
 #include <QMenu>
 
-#include <algorithm>
-
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -121,30 +119,27 @@ void MarlinController::showFirstOpenAppTip(bool show)
                           show);
 }
 
-/// Folders, and many files, are looked at in the background.
 void MarlinController::openFiles(const QStringList &paths)
 {
     m_view->makeContents();
-    constexpr qsizetype few = 100;
-    const auto isFolder = [](const QString &path) { return QFileInfo(path).isDir(); };
-    if (paths.size() <= few && std::ranges::none_of(paths, isFolder))
-        return addFiles(mediaFiles(paths));
-    foundation::queue::asyncGlobal([paths, guard = QPointer(this)] {
-        foundation::queue::asyncMain([files = mediaFiles(paths), guard] {
-            if (guard && guard->m_page)
-                guard->addFiles(files);
+    foundation::queue::asyncGlobal([self = QPointer(this), paths] {
+        const MediaFiles files = mediaFiles(paths);
+        foundation::queue::asyncMain([self, files] {
+            if (self)
+                self->addFiles(files);
         });
     });
 }
 
-void MarlinController::addFiles(const QStringList &files)
+void MarlinController::addFiles(const MediaFiles &files)
 {
-    const int added = m_conversions->add(files);
-    if (files.isEmpty())
+    const qsizetype known = files.paths.size() - m_conversions->add(files.paths);
+    if (files.isPart)
+        m_page->showMessage("The folder is too large: only some of its files were added."_key.localized());
+    else if (files.paths.isEmpty())
         m_page->showMessage("There is no video or sound file in it."_key.localized());
-    else if (added < files.size())
-        m_page->showMessage(
-            tarnwell::Sentence("Already in the list: %1"_key, {QString::number(files.size() - added)}).localized());
+    else if (known > 0)
+        m_page->showMessage(tarnwell::Sentence("Already in the list: %1"_key, {QString::number(known)}).localized());
     showState();
 }
 
@@ -171,19 +166,18 @@ void MarlinController::showFormats()
     dialog->open();
 }
 
-/// A drag over rows changes it many times.
+/// Options are for what is selected now; showing it can wait, for a drag over rows changes it many times.
 void MarlinController::showSelection()
 {
+    m_options->setSelection(m_page->list()->selectedIds());
     if (std::exchange(m_isToShowSelection, true))
         return;
     foundation::queue::asyncMain([guard = QPointer(this)] {
         if (!guard)
             return;
         guard->m_isToShowSelection = false;
-        if (!guard->m_page)
-            return;
-        guard->m_options->setSelection(guard->m_page->list()->selectedIds());
-        guard->showPreset();
+        if (guard->m_page)
+            guard->showPreset();
     });
 }
 
@@ -193,7 +187,9 @@ void MarlinController::showPreset()
     TranscodePlan plan = m_conversions->plan(ids.value(0)).value_or(m_conversions->draft());
     constexpr qsizetype lookedAt = 200;
     for (const JobId id : ids.mid(0, lookedAt)) {
-        if (const auto other = m_conversions->plan(id); other && other->preset.id != plan.preset.id) {
+        // Reading whole plans would be felt.
+        const JobRecord *record = queue().record(id);
+        if (record && record->plan[u"preset"_s].toObject()[u"id"_s].toString() != plan.preset.id) {
             m_presets->showPreset(nullptr);
             return;
         }

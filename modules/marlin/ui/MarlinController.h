@@ -20,6 +20,7 @@ class JobPage;
 class JobQueue;
 class LateView;
 class MediaPlayer;
+struct MediaFiles;
 class OptionsPanel;
 class PresetChooser;
 class Thumbnails;
@@ -53,7 +54,7 @@ private:
     JobQueue &queue();
     QVariant pictureOf(const JobRecord &record) const;
 
-    void addFiles(const QStringList &files);
+    void addFiles(const MediaFiles &files);
     void chooseFiles();
     void choosePreset(const QString &id);
     void showFormats();

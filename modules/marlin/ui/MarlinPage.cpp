@@ -14,6 +14,7 @@
 #include "modules/marlin/Conversions.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TabOrder.h"
 
 #include <QMenu>
 #include <QPushButton>
@@ -49,7 +50,7 @@ std::unique_ptr<QWidget> MarlinController::makeContents()
     auto page = std::make_unique<JobPage>(queue(), *m_list, marlinJobs.toString(), marlinTexts);
     m_page = page.get();
     m_list->setPictures([this](const JobRecord &record) { return pictureOf(record); });
-    connect(m_thumbnails, &Thumbnails::made, m_list.get(), &ConversionList::showPictureAgain);
+    connect(m_thumbnails, &Thumbnails::made, m_list.get(), &JobList::showPicturesAgain);
     connect(m_player, &MediaPlayer::failed, this, [](const QString &title) {
         warn(tarnwell::Sentence("“%1” could not be played."_key, {title}).localized());
     });
@@ -59,6 +60,7 @@ std::unique_ptr<QWidget> MarlinController::makeContents()
     addKeys();
     showPreset();
     showState();
+    tarnwell::tabInLayoutOrder(*page);
     return page;
 }
 

@@ -75,8 +75,6 @@ void Thumbnails::start(const Request &request)
                                                                            u"1"_s,
                                                                            u"-filter_threads"_s,
                                                                            u"1"_s,
-                                                                           u"-skip_frame"_s,
-                                                                           u"nokey"_s,
                                                                            u"-noaccurate_seek"_s,
                                                                            u"-protocol_whitelist"_s,
                                                                            u"file"_s,

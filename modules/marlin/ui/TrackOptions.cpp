@@ -3,6 +3,7 @@
 #include "foundation/LanguageTags.h"
 #include "media/Encoders.h"
 #include "tarnwell/TextKey.h"
+#include "tarnwell/ui/TabOrder.h"
 #include "tarnwell/ui/TextStyles.h"
 
 #include <QCheckBox>
@@ -76,11 +77,13 @@ void TrackOptions::show(const TranscodePlan &plan, const MediaInformation *sourc
         showSounds(plan, *source);
         showSubtitles(plan, *source);
         showFiles(plan);
-        return;
     }
     for (QVBoxLayout *layout : {m_soundLayout, m_subtitleLayout}) {
-        m_made.append(hintLabel("Select one file in the list to choose among its tracks."_key));
-        layout->addWidget(m_made.last());
+        if (!source) {
+            m_made.append(hintLabel("Select one file in the list to choose among its tracks."_key));
+            layout->addWidget(m_made.last());
+        }
+        tarnwell::tabInLayoutOrder(*layout->parentWidget());
     }
 }
 

@@ -3,7 +3,6 @@
 #include "media/TranscodeJob.h"
 
 #include <QObject>
-#include <QTemporaryDir>
 
 namespace kestrel {
 
@@ -25,7 +24,7 @@ signals:
     void ended(const QString &path, const QString &sentence);
 
 private:
-    QTemporaryDir m_folder;
+    WorkFolder m_folder;
     std::unique_ptr<TranscodeJob> m_job;
 };
 

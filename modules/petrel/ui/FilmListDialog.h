@@ -12,20 +12,28 @@ class FilmListDialog;
 
 namespace kestrel {
 
-/// The films of a page or a list, with check boxes and lengths; all are checked at first.
+class SitePictures;
+
+/// The films of a page or a list, with check boxes, lengths and the site's pictures; all are checked at first.
 class FilmListDialog : public QDialog {
     Q_OBJECT
 public:
-    FilmListDialog(const EngineAnswer &answer, QWidget *parent);
+    /// Without `pictures`, which outlives it, the site's are not fetched.
+    FilmListDialog(const EngineAnswer &answer, SitePictures *pictures, QWidget *parent);
     ~FilmListDialog() override;
 
     QList<int> chosenItems() const;  ///< as EngineAnswer::Entry has them
 
+protected:
+    void resizeEvent(QResizeEvent *event) override;
+
 private:
+    void showPictures();
     void checkAll(Qt::CheckState state);
     void showCount();
 
     std::unique_ptr<Ui::FilmListDialog> m_form;
+    SitePictures *m_pictures;
 };
 
 }  // namespace kestrel

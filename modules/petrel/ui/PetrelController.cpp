@@ -1,11 +1,13 @@
 #include "PetrelController.h"
 
 #include "FilmListDialog.h"
+#include "SitePictures.h"
 
 #include "foundation/Bundle.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
+#include "jobs/ui/JobRowDelegate.h"
 #include "modules/common/LateView.h"
 #include "modules/common/OutputFolderLine.h"
 #include "modules/petrel/Download.h"
@@ -14,6 +16,7 @@
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
+#include "tarnwell/ui/TabOrder.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -88,6 +91,9 @@ std::unique_ptr<QWidget> PetrelController::makeContents()
     AnswerStore(answers).sweep();
     m_analysis = std::make_unique<Analysis>([this] { return engineTools(*m_settings); }, answers);
     m_list = std::make_unique<DownloadList>(queue());
+    m_pictures = std::make_unique<SitePictures>(JobRowDelegate::pictureSize);
+    m_list->setPictures([this](const JobRecord &record) { return pictureOf(record); });
+    connect(m_pictures.get(), &SitePictures::made, m_list.get(), &JobList::showPicturesAgain);
     auto page = std::make_unique<JobPage>(queue(), *m_list, petrelJobs.toString(), petrelTexts);
     m_page = page.get();
     page->setTopArea(makeAddressLine());
@@ -97,6 +103,7 @@ std::unique_ptr<QWidget> PetrelController::makeContents()
     for (const JobId id : queue().idsIn({JobState::Checking}, petrelJobs.toString()))
         lookAt(id);
     showState();
+    tarnwell::tabInLayoutOrder(*page);
     return page;
 }
 
@@ -210,12 +217,48 @@ void PetrelController::markAppear()
 
 void PetrelController::checkCoreUpdateInBackground()
 {
+    engineUpdate().start(EngineUpdate::Asked::ByItself);
+}
+
+EngineUpdate &PetrelController::engineUpdate()
+{
     if (!m_update)
-        m_update = std::make_unique<EngineUpdate>(
-            engineStore(), engineTools(*m_settings), EngineUpdate::productSource(),
-            std::make_shared<foundation::Fetcher>(
-                foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s)));
-    m_update->start();
+        m_update =
+            std::make_unique<EngineUpdate>(engineStore(), engineTools(*m_settings), EngineUpdate::productSource(),
+                                           std::make_shared<foundation::Fetcher>(
+                                               foundation::Bundle::main().contentsPath(u"Frameworks/WebTransfer"_s)));
+    return *m_update;
+}
+
+/// As a user asks for it, who is told what came of it.
+void PetrelController::updateEngine()
+{
+    using End = EngineUpdate::End;
+    m_page->showMessage("Looking for a newer download engine…"_key.localized());
+    connect(
+        &engineUpdate(), &EngineUpdate::ended, this,
+        [this](End end, const QString &text) {
+            if (end == End::Updated)
+                m_page->showMessage(
+                    tarnwell::Sentence("The download engine is now of version %1. Try again."_key, {text}).localized());
+            else if (end == End::UpToDate)
+                m_page->showMessage("There is no newer download engine."_key.localized());
+            else
+                m_page->showMessage("The download engine could not be updated."_key.localized());
+        },
+        Qt::SingleShotConnection);
+    engineUpdate().start(EngineUpdate::Asked::ByUser);
+}
+
+/// Nothing goes another way than the film itself will.
+QVariant PetrelController::pictureOf(const JobRecord &record) const
+{
+    const auto plan = DownloadPlan::fromJson(record.plan);
+    if (!plan || !plan->proxy.isEmpty())
+        return {};
+    m_pictures->setScale(m_page->devicePixelRatioF());
+    const QPixmap picture = m_pictures->picture(plan->picture);
+    return picture.isNull() ? QVariant() : picture;
 }
 
 void PetrelController::takeText(const QString &text)
@@ -277,7 +320,9 @@ void PetrelController::answered(JobId id, const Analysis::Answer &answer)
 
 void PetrelController::chooseAmong(JobId id, const EngineAnswer &answer)
 {
-    auto *dialog = new FilmListDialog(answer, m_page->window());
+    const auto asked = DownloadPlan::fromJson(queue().record(id)->plan);
+    auto *dialog =
+        new FilmListDialog(answer, asked && asked->proxy.isEmpty() ? m_pictures.get() : nullptr, m_page->window());
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     connect(dialog, &QDialog::finished, this, [this, dialog, id, answer](int result) {
         const JobRecord *record = queue().record(id);
@@ -359,6 +404,7 @@ void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
     }
     menu->addAction("Allow Many From One Server"_key.localized(), this,
                     [this, ids] { changePlans(ids, [](DownloadPlan &plan) { plan.manyFromServer = true; }); });
+    menu->addAction("Update Download Engine"_key.localized(), this, &PetrelController::updateEngine);
     menu->addAction("Remove With Partial File"_key.localized(), this, [this, ids] { removeWithParts(ids); });
 }
 

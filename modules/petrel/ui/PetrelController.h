@@ -19,6 +19,7 @@ class DownloadList;
 class JobPage;
 class JobQueue;
 class LateView;
+class SitePictures;
 
 /// The download module: addresses that are added become jobs, looked at at once and downloaded when the user says so.
 class PetrelController final : public QObject,
@@ -44,6 +45,10 @@ private:
     void addChoices();
     void connectPage();
     JobQueue &queue();
+
+    QVariant pictureOf(const JobRecord &record) const;
+    EngineUpdate &engineUpdate();
+    void updateEngine();
 
     void takeText(const QString &text);
     void takeFiles(const QStringList &paths);
@@ -71,6 +76,7 @@ private:
     // From the making of the view's contents on
     std::unique_ptr<Analysis> m_analysis;
     std::unique_ptr<DownloadList> m_list;
+    std::unique_ptr<SitePictures> m_pictures;
     QPointer<JobPage> m_page;
     QPointer<QLineEdit> m_address;
     QPointer<QComboBox> m_formats, m_resolutions, m_limits;

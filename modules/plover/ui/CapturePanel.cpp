@@ -188,8 +188,10 @@ void CapturePanel::showPreview()
     QScreen *screen = QGuiApplication::primaryScreen();
     const double ratio = screen->devicePixelRatio();
     const QRect area((QPointF(target->area.topLeft()) / ratio).toPoint(), target->area.size() / ratio);
-    const QPixmap picture = screen->grabWindow(target->window, area.x(), area.y(), area.width(), area.height());
-    m_picture->setPixmap(picture.scaled(pictureSize, Qt::KeepAspectRatio, Qt::SmoothTransformation));
+    QPixmap picture = screen->grabWindow(target->window, area.x(), area.y(), area.width(), area.height());
+    picture = picture.scaled(pictureSize * devicePixelRatioF(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    m_picture->setPixmap(picture);
 }
 
 }  // namespace kestrel

@@ -15,6 +15,7 @@
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/Images.h"
+#include "tarnwell/ui/TabOrder.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -90,6 +91,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
     });
     queue().start(addRecoveries(queue()));
     showState();
+    tarnwell::tabInLayoutOrder(*page);
     return page;
 }
 

@@ -1,12 +1,14 @@
-#include "OutputPlacing.h"
+#include "Placing.h"
 
+#include "foundation/FileNames.h"
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
+#include "jobs/PartPlacing.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QPointer>
+
+#include <fcntl.h>
+#include <sys/stat.h>
 
 namespace kestrel {
 
@@ -27,30 +29,18 @@ void Placing::start(QObject *context, Placed then)
     });
 }
 
-namespace {
-
-void removeOutput(const QString &path)
-{
-    if (const QFileInfo output(path); output.isDir() && !output.isSymLink())
-        QDir(path).removeRecursively();
-    else
-        QFile::remove(path);
-}
-
-}  // namespace
-
 void Placing::place()
 {
     if (m_modified) {
-        QFile part(m_output->partPath());
-        if (part.open(QIODevice::ReadWrite | QIODevice::ExistingOnly))
-            part.setFileTime(*m_modified, QFileDevice::FileModificationTime);
+        const qint64 time = m_modified->toMSecsSinceEpoch();
+        const timespec times[] = {{0, UTIME_OMIT}, {time_t(time / 1000), long(time % 1000) * 1'000'000}};
+        utimensat(AT_FDCWD, foundation::encodedFileName(m_output->partPath()).constData(), times, 0);
     }
     auto result = m_output->publish();
     const std::lock_guard lock(m_mutex);
     m_output.reset();
     if (result && m_isTakenBack)
-        removeOutput(*result);
+        placing::removePart(*result);
     m_result = std::move(result);
 }
 
@@ -59,7 +49,7 @@ void Placing::takeBack()
     const std::lock_guard lock(m_mutex);
     m_isTakenBack = true;
     if (m_result && *m_result)
-        removeOutput(**m_result);
+        placing::removePart(**m_result);
 }
 
 }  // namespace kestrel

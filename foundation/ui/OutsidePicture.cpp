@@ -1,4 +1,4 @@
-#include "PromotionPicture.h"
+#include "OutsidePicture.h"
 
 #include <QIODevice>
 #include <QImageReader>
@@ -9,7 +9,7 @@
 
 #include <time.h>
 
-namespace kestrel {
+namespace kestrel::foundation {
 
 namespace {
 
@@ -152,7 +152,7 @@ QImage readPicture(const QByteArray &bytes, const char *format, int scans)
 
 }  // namespace
 
-QImage promotionPicture(const QByteArray &bytes)
+QImage pictureFromOutside(const QByteArray &bytes)
 {
     if (bytes.startsWith("\x89PNG"))
         return readPicture(barePng(bytes), "png", 0);
@@ -163,4 +163,4 @@ QImage promotionPicture(const QByteArray &bytes)
     return readPicture(bytes, bytes.startsWith("GIF") ? "gif" : "bmp", 0);
 }
 
-}  // namespace kestrel
+}  // namespace kestrel::foundation

@@ -1,4 +1,4 @@
-#include "FileNames.h"
+#include "PortableNames.h"
 
 #include "tarnwell/Localization.h"
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <QDir>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QSignalSpy>
@@ -121,6 +122,32 @@ TEST_F(OwnPresetsTest, RefuseWhatIsNone)
         EXPECT_FALSE(!id && id.reason().localized().isEmpty());
     }
     EXPECT_EQ(presets.presets().size(), before);
+}
+
+TEST_F(OwnPresetsTest, AllOfThemAreReadAgainAndWhatIsNotUnderstoodIsKeptAside)
+{
+    QJsonObject root = QJsonDocument::fromJson(presets.exported(*presets.save(u"mine"_s, plan))).object();
+    QJsonObject row = root[u"presets"_s].toArray().first().toObject();
+    row[u"name"_s] = QString(100, u'ä');
+    const auto store = [&](int count, int newerOnes) {
+        QJsonArray rows;
+        for (int i = 0; i < count; ++i) {
+            row[u"id"_s] = u"own-%1"_s.arg(i);
+            row[u"version"_s] = i < newerOnes ? 99 : 1;
+            rows.append(row);
+        }
+        root[u"presets"_s] = rows;
+        defaults.setObject(QJsonDocument(root).toJson(), key);
+        return defaults.dataForKey(key).size();
+    };
+    EXPECT_GT(store(500, 0), maximumPresetFileBytes);
+    EXPECT_EQ(OwnPresets(defaults, key).presets().size(), 500);
+    store(3, 1);
+    OwnPresets rest(defaults, key);
+    ASSERT_EQ(rest.presets().size(), 2);
+    rest.remove(u"own-1"_s);
+    rest.remove(u"own-2"_s);
+    EXPECT_EQ(QDir(folder.path()).entryList({u"*.presets.corrupt-*"_s}).size(), 1);
 }
 
 TEST_F(OwnPresetsTest, TakeNoFilesOfAnotherMachine)
