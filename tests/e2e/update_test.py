@@ -36,6 +36,7 @@ class UpdateTest(ProgramTest):
         """Starts the program and waits for what it shows by itself."""
         app = self.desktop.launch(self.bundle)
         app.wait_for_text(text)
+        wait_for(lambda: len(app.windows()) == 2, 'it to be mapped')
         return app
 
     def wait_until_closed(self, app):
