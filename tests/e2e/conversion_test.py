@@ -58,7 +58,7 @@ class ConversionTest(ProgramTest):
             self.assertEqual(file.read(), first)
 
     def test_goes_on_while_another_window_is_open(self):
-        app = self.launch(self.clip('long.mp4', seconds=40, size='1280x720'))
+        app = self.launch(self.clip('long.mp4', seconds=40, size='640x360'))
         app.find('list item', re.compile('long.mp4.*Ready'))
         self.desktop.key('ctrl+Return')
         app.find('progress bar')

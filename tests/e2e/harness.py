@@ -3,6 +3,7 @@ import os
 import sys
 import unittest
 
+from accessible import wait_for
 from driver import Desktop
 
 
@@ -46,6 +47,11 @@ class ProgramTest(unittest.TestCase):
 
     def click(self, app, role, name):
         self.desktop.click(app.find(role, name))
+
+    def answer(self, app, button):
+        """In a question over the only window. Not by the pointer: the desktop may still be about to place it."""
+        wait_for(lambda: len(app.windows()) == 2, 'the question')
+        app.find('push button', button).do_action(0)
 
     def choose_from_menu(self, app, *titles):
         for title in titles:

@@ -10,7 +10,7 @@ class LanguageTest(ProgramTest):
     def choose_german(self, app, answer):
         for item in ('Help', 'Language', 'Deutsch'):
             self.click(app, None, item)
-        self.click(app, 'push button', answer)
+        self.answer(app, answer)
 
     def test_choice_with_restart(self):
         app = self.launch()

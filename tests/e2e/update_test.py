@@ -36,6 +36,7 @@ class UpdateTest(ProgramTest):
         """Starts the program and waits for what it shows by itself."""
         app = self.desktop.launch(self.bundle)
         app.wait_for_text(text)
+        wait_for(lambda: len(app.windows()) == 2, 'it to be mapped')
         return app
 
     def wait_until_closed(self, app):
@@ -54,7 +55,7 @@ class UpdateTest(ProgramTest):
         app.wait_for_text("Kestrel Converter 4K 9.0 is now available -- you're running ")
         self.assertEqual(app.end(), 0, 'ends in order with the window open')
         app = self.start('A new version of')
-        self.click(app, 'push button', 'Download Now')
+        self.answer(app, 'Download Now')
         self.wait_until_closed(app)
         self.assertTrue(self.opened().startswith(SITE + 'get?'))
         self.assertEqual(app.end(), 0)
