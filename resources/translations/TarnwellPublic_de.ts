@@ -644,6 +644,10 @@
         <translation>Ohne Neucodierung geschnitten: Der Film beginnt mit dem letzten Schlüsselbild vor %1 s.</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>Schnitt</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

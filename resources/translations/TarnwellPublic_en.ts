@@ -644,6 +644,10 @@
         <translation>Cut without encoding: it begins at the last key picture before %1 s.</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>Cut</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

@@ -644,6 +644,10 @@
         <translation>Cortado sin volver a codificar: comienza en la última imagen clave anterior a %1 s.</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>Corte</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

@@ -644,6 +644,10 @@
         <translation>Coupé sans réencodage : le début est la dernière image clé avant %1 s.</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>Découpe</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

@@ -644,6 +644,10 @@
         <translation>Tagliato senza ricodifica: inizia dall’ultima immagine chiave prima di %1 s.</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>Taglio</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

@@ -644,6 +644,10 @@
         <translation>エンコードせずにカットしました。%1秒より前の最後のキーフレームから始まります。</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>カット</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

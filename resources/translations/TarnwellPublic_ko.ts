@@ -644,6 +644,10 @@
         <translation>인코딩 없이 잘랐습니다. %1초 이전의 마지막 키 프레임에서 시작합니다.</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>자르기</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

@@ -644,6 +644,10 @@
         <translation>未编码直接剪切：从 %1 秒之前的最后一个关键帧开始。</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>剪辑</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>

@@ -644,6 +644,10 @@
         <translation>未編碼直接剪輯：從 %1 秒之前的最後一個關鍵畫格開始。</translation>
     </message>
     <message>
+        <source>Cutting</source>
+        <translation>剪輯</translation>
+    </message>
+    <message>
         <source>DTS</source>
         <translation>DTS</translation>
     </message>
