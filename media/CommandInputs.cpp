@@ -169,7 +169,9 @@ std::optional<double> cutLength(const TranscodePlan &plan, const QList<SourcePie
 
 QStringList threadArguments(const TranscodePlan &plan)
 {
-    return plan.threads > 0 ? QStringList{u"-threads"_s, QString::number(plan.threads)} : QStringList();
+    if (plan.threads <= 0)
+        return {};
+    return {u"-threads"_s, QString::number(plan.threads)};
 }
 
 }  // namespace kestrel

@@ -88,9 +88,9 @@ ExitStatus runKeep(const Surroundings &surroundings, const QStringList &argument
     applySettings(settings, QThread::idealThreadCount(), choice.disc);
     choice.plan = choice.disc.transcode;
     bool isHelp = false;
-    const std::vector<Option<ConvertRequest>> options = rips ? ripOptions() : copyOptions();
-    const auto sources =
-        readArguments<ConvertRequest>(rips ? "disc rip" : "disc copy", options, u"SOURCE"_s, arguments, choice, isHelp);
+    const std::vector<Option<ConvertRequest>> discOptions = rips ? ripOptions() : copyOptions();
+    const auto sources = readArguments<ConvertRequest>(rips ? "disc rip" : "disc copy", discOptions, u"SOURCE"_s,
+                                                       arguments, choice, isHelp);
     if (!sources)
         return wrongUsage(sources.reason());
     if (isHelp)

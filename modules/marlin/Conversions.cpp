@@ -27,7 +27,7 @@ using tarnwell::operator""_key;
 const QString ownPresetsKey = u"marlinPresets"_s;
 const QString chosenPresetKey = u"marlinPreset"_s;
 const QString optionsKey = u"marlinOptions"_s;
-const QString folderKey = u"marlinFolder"_s;
+const QString draftFolderKey = u"marlinFolder"_s;
 constexpr qsizetype largestOptions = 64 * 1024;
 // Jobs that are changed in one go of the event loop: so many, and more while there is time
 constexpr qsizetype atOnce = 20;
@@ -61,7 +61,7 @@ Conversions::Conversions(JobQueue &queue, std::shared_ptr<JKestrelSettingDispatc
         m_draft.preset = *preset;
     if (const QByteArray options = defaults.dataForKey(optionsKey); options.size() <= largestOptions)
         setOptions(QJsonDocument::fromJson(options).object(), m_draft);
-    if (const QString folder = defaults.stringForKey(folderKey); QFileInfo(folder).isDir())
+    if (const QString folder = defaults.stringForKey(draftFolderKey); QFileInfo(folder).isDir())
         m_draftFolder = folder;
     m_queue.setRecipe(marlinJobs.toString(), &m_recipe);
     connect(&m_prober, &MediaProber::probed, this, &Conversions::probed);
@@ -232,7 +232,7 @@ void Conversions::rememberDraft()
     for (const QLatin1StringView key : notRemembered)
         options.remove(key);
     m_defaults.setObject(QJsonDocument(options).toJson(QJsonDocument::Compact), optionsKey);
-    m_defaults.setObject(m_draftFolder.isEmpty() ? QVariant() : m_draftFolder, folderKey);
+    m_defaults.setObject(m_draftFolder.isEmpty() ? QVariant() : m_draftFolder, draftFolderKey);
 }
 
 void Conversions::choosePreset(const QList<JobId> &ids, const QString &presetId)
@@ -292,7 +292,7 @@ const Preset *Conversions::presetOfId(const QString &id) const
 void Conversions::reset()
 {
     m_ownPresets.removeAll();
-    for (const QString &key : {chosenPresetKey, optionsKey, folderKey})
+    for (const QString &key : {chosenPresetKey, optionsKey, draftFolderKey})
         m_defaults.removeObjectForKey(key);
     m_draft = {};
     m_draft.preset = builtInPresets().first();
