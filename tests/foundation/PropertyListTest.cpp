@@ -130,7 +130,7 @@ TEST(PropertyList, ForgivesWhatCanBeUnderstoodWhereThatIsWanted)
          QVariantMap{{u"a"_s, 2}}},
         {"blanks before the declaration", " \n\t<?xml version=\"1.0\"?><plist><true/></plist>", true},
         {"windows-1252",
-         "<?xml version=\"1.0\" encoding=\"Windows-1252\"?><plist><string>\x80 \xFC\x84</string></plist>", u"€ ü„"_s},
+         "<?xml version=\"1.0\" encoding=\"Windows-1252\"?><plist><string>\x80 \xFC\x84\x91\x92</string></plist>", u"€ ü„‘’"_s},
         {"all of it", "\n<?xml version=\"1.0\" encoding=\"cp1252\"?>" + dictionary,
          QVariantMap{{u"a"_s, 2}, {u"b"_s, u"„"_s}}},
         {"a key twice in a binary list",

@@ -89,8 +89,9 @@ TEST(StyledHtml, ReadsFragments)
          "a{s}b"},
         {"<p style='font-size:20px'>a<span style='font-size:50%'>b</span><span style='font-size:1.5em'>c</span>"
          "<span style='font-size:smaller'>d</span><span style='font-size:900pt'>e</span>"
-         "<span style='font-size:-3px'>f</span><span style='font-size:x-small !important'>g</span>",
-         "a{20}b{10}c{30}d{17}e{39}f{20}g{10}"},
+         "<span style='font-size:-3px'>f</span><span style='font-size:x-small !important'>g</span>"
+         "<span style='font-size:12pt'>h</span>",
+         "a{20}b{10}c{30}d{17}e{39}f{20}g{10}h{16}"},
         {"&agrave;&Eacute;&ntilde;&yuml;&nbsp;&Alpha;&omega;&thetasym;&hearts;&frasl;&permil;&eacut;&Agrav;e",
          "\u00E0\u00C9\u00F1\u00FF\u00A0\u0391\u03C9\u03D1\u2665\u2044\u2030&eacut;&Agrav;e"},
         {"&lt;b&gt; &bogus; &amp &#65 &#x1F3AC; &#0;&#xD800;&#99999999999; &copy;",

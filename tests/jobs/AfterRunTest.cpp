@@ -247,6 +247,7 @@ TEST_F(AfterRunTest, wishes_are_granted_by_how_the_jobs_ended)
         {"one cancelled", {Done, Cancelled}, u"All jobs have ended. / Done: 1 · Cancelled: 1"_s, false, false},
         {"cancelled", {Cancelled}, {}, false, false},
         {"end of the program", {Done, Interrupted}, {}, false, false},
+        {"done after those", {Done}, u"<film>.mov / Done: 1"_s, true, true},
     };
     for (const auto &[name, endings, shown, opens, shutsDown] : rows) {
         SCOPED_TRACE(name);

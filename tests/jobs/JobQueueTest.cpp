@@ -19,6 +19,7 @@ namespace kestrel {
 
 namespace {
 
+using tarnwell::operator""_key;
 using test::marlin;
 using test::ScriptedJob;
 using test::scriptedRecord;
@@ -110,7 +111,7 @@ TEST_F(JobQueueTest, TheOrderOfTheListDecidesWhatIsNext)
 {
     const QList<JobId> ids = add(4);
     queue.start(ids);
-    queue.move({ids[3]}, ids[1]);
+    queue.move({ids[3]}, ids[0]);  // which runs
     recipe.jobOf(ids[0])->end(done);
     ASSERT_TRUE(waitForState(ids[0], JobState::Done));
     EXPECT_EQ(queue.idsIn({JobState::Running}), QList{ids[3]});
@@ -216,7 +217,9 @@ TEST_F(JobQueueTest, StopPauseAndRetry)
     EXPECT_EQ(queue.record(ids[0])->outcome.details, u"stopped");
     EXPECT_EQ(ended.size(), 1);
     const QPointer<ScriptedJob> former = recipe.made.first();
+    queue.change(ids[0], [](JobRecord &record) { record.note = tarnwell::Sentence("in software"_key); });
     queue.start(ids);
+    EXPECT_TRUE(queue.record(ids[0])->note.isEmpty());
     EXPECT_EQ(state(ids[0]), JobState::Running);
     EXPECT_EQ(queue.record(ids[0])->outcome, JobOutcome());
     EXPECT_FALSE(queue.record(ids[0])->ended.isValid());

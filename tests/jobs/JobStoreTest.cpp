@@ -171,12 +171,13 @@ TEST_F(JobStoreTest, WhatAnotherProcessHoldsIsLeftOutUntilItEnds)
 
 TEST_F(JobStoreTest, DoneIsWhatIsThere)
 {
-    const QString output = folder.filePath(u"film.mp4"_s);
+    const QString output = folder.filePath(u"film.mp4"_s), other = folder.filePath(u"film.srt"_s);
+    QFile(other).open(QIODevice::WriteOnly);
     const auto store = open();
     JobRecord record = scriptedRecord(u"film"_s);
     record.id = store->nextId();
     record.state = JobState::Done;
-    record.outcome = {.state = JobState::Done, .outputs = {output}};
+    record.outcome = {.state = JobState::Done, .outputs = {other, output}};
     store->put(record, 1);
     JobRecord gone = loaded(*store).at(record.id);
     EXPECT_EQ(gone.state, JobState::DoneWithProblems);

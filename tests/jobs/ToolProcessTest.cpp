@@ -305,13 +305,14 @@ TEST(ToolProcessTest, WhatIsPausedTakesNoTime)
 {
     ToolCommand command = shell(u"echo $$; while :; do :; done & echo $!; while :; do :; done"_s);
     command.timeLimit = 400ms;
+    command.silenceLimit = 300ms;
     ToolRun run(command);
     const QList<qint64> processes = run.processes(2);
     run.tool->setPaused(true);
     const auto isHeld = [](qint64 process) { return statusOf(process).value(0) == "T"; };
     ASSERT_TRUE(test::waitUntil([&] { return std::all_of(processes.begin(), processes.end(), isHeld); }));
     const qint64 before = ticksOf(processes[0]) + ticksOf(processes[1]);
-    EXPECT_FALSE(test::waitUntil([&] { return run.ending.has_value(); }, 700));  // beyond the limit of time
+    EXPECT_FALSE(test::waitUntil([&] { return run.ending.has_value(); }, 700));  // beyond both limits
     EXPECT_EQ(ticksOf(processes[0]) + ticksOf(processes[1]), before);
     run.tool->setPaused(false);
     EXPECT_EQ(run.end(), Cause::TimeLimit);

@@ -94,6 +94,10 @@ TEST_F(LogSearchTest, FilterKeepsTheNewestRowsAndGainsMore)
     EXPECT_FALSE(filter.isCapped());
     EXPECT_TRUE(filter.isShown(0));
     EXPECT_FALSE(filter.isShown(7));
+    LogSearch search(file);
+    const QSignalSpy notFound(&search, &LogSearch::notFound);
+    search.start(u"no"_s, 0, LogSearch::Direction::Forward, filter);
+    EXPECT_TRUE(test::waitUntil([&] { return notFound.size() == 1; })) << "it is hidden";
 
     write("ey\nno\nkey 5\n");
     file.check();

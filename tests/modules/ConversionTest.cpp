@@ -112,6 +112,9 @@ TEST(ConversionTest, EveryOptionComesBackAsItWasSet)
             EXPECT_NEAR(option.get(*stored), value, 1e-9) << option.id << " stored";
         }
     }
+    Plan plan;
+    planOption("maximumBytes"_L1)->set(plan, 25);
+    EXPECT_EQ(plan.maximumBytes, 25'000'000);
 }
 
 TEST(ConversionTest, TimesAreReadAsTheyAreWritten)
