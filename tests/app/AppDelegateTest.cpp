@@ -96,6 +96,7 @@ protected:
 TEST_F(AppDelegateTest, launch_adds_the_help_entries_and_the_data_folder)
 {
     const qsizetype before = help()->actions().size();
+    m_defaults.setObject(u"ja"_s, u"kAppCustomizeLanguage"_s);
     m_delegate->applicationWillFinishLaunching();
     EXPECT_EQ(helpTitles().mid(before),
               (QStringList{u"-"_s, u"App Log"_s, u"Report Bug"_s, u"Reset Profiles"_s, u"Language"_s}));
@@ -105,7 +106,7 @@ TEST_F(AppDelegateTest, launch_adds_the_help_entries_and_the_data_folder)
     ASSERT_EQ(languages.size(), 10);
     EXPECT_EQ(languages.at(2)->text(), u"日本語"_s);
     for (qsizetype i = 0; i < languages.size(); ++i)
-        EXPECT_EQ(languages.at(i)->isChecked(), i == 0) << i;
+        EXPECT_EQ(languages.at(i)->isChecked(), i == 2) << i;
 }
 
 TEST_F(AppDelegateTest, a_language_is_stored_whatever_the_answer_and_restarts_on_ok)

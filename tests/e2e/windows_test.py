@@ -88,6 +88,8 @@ class WindowsTest(ProgramTest):
         wait_for(lambda: not app.find_all('dialog'), 'the file dialog to close')
         self.desktop.key('F10')
         app.find('menu item', 'Check for Updates…')
+        self.desktop.key('Escape', 'Escape', 'ctrl+w')
+        app.wait_for_window('Kestrel')
 
     def test_tab_goes_as_one_reads(self):
         app = self.launch()

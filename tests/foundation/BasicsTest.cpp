@@ -1,5 +1,6 @@
 #include "foundation/LanguageTags.h"
 #include "foundation/Queues.h"
+#include "foundation/StandardFolders.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -36,6 +37,14 @@ TEST(LanguageTagsTest, MakesTagsOfLocaleNames)
         EXPECT_EQ(languageTag(name), tags[name]) << qPrintable(name);
     EXPECT_EQ(languageDisplayName(u"pt-BR"_s), u"português (Brasil)"_s);
     EXPECT_EQ(languageDisplayName(u"no code"_s), u"no code"_s);
+}
+
+TEST(StandardFoldersTest, OnlyWholePathsAreTaken)
+{
+    qputenv("XDG_DATA_HOME", "/elsewhere");
+    qputenv("XDG_STATE_HOME", "elsewhere");
+    EXPECT_EQ(dataDirectory(), u"/elsewhere");
+    EXPECT_EQ(stateDirectory(), qEnvironmentVariable("HOME") + u"/.local/state"_s);
 }
 
 }  // namespace kestrel::foundation

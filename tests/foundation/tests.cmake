@@ -1,6 +1,6 @@
 kestrel_test(foundation
     SOURCES
-        BasicsTest.cpp FetchTest.cpp FileNamesTest.cpp KeyedArchiveTest.cpp PropertyListTest.cpp
+        BasicsTest.cpp FetchTest.cpp FileNamesTest.cpp KeyedArchiveTest.cpp OutsidePictureTest.cpp PropertyListTest.cpp
         StyledHtmlTest.cpp UserDefaultsTest.cpp
     LINKS kestrel_foundation kestrel_foundation_ui)
 
