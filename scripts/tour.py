@@ -253,7 +253,7 @@ class Scene:
         self.app.find('push button')
 
 
-PICTURE = os.path.join(os.path.dirname(os.path.abspath(__file__)), '../../resources/screenshots/home.png')
+PICTURE = os.path.join(os.path.dirname(os.path.abspath(__file__)), '../resources/screenshots/home.png')
 SCENES = (  # picture, what shows it
     ('50-about', Scene.about),
     ('51-question', Scene.question_after_a_crash),
