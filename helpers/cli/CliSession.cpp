@@ -29,4 +29,10 @@ bool CliSession::wait(QEventLoop &loop)
     return !m_isInterrupted;
 }
 
+void CliSession::keepJobs()
+{
+    if (m_store)
+        m_store->flush(std::chrono::seconds(5));
+}
+
 }  // namespace kestrel::cli

@@ -26,6 +26,9 @@ public:
     bool wait(QEventLoop &loop);
     bool isInterrupted() const { return m_isInterrupted; }
 
+    /// Waits until the jobs that were added are on the disk: what is told of one must outlive a kill.
+    void keepJobs();
+
 private:
     foundation::TerminationSignals m_signals;
     bool m_isInterrupted = false;

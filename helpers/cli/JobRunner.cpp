@@ -38,6 +38,7 @@ ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundi
             queue.cancel(open, JobQueue::Waiting::IsCancelled);
     });
 
+    session.keepJobs();
     const QList<JobId> all = open;
     for (const JobId id : all) {
         if (queue.record(id)->state == JobState::Unusable)
