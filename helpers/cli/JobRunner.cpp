@@ -32,10 +32,13 @@ ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundi
     QObject::connect(&session.terminationSignals(), &foundation::TerminationSignals::received, &loop, [&] {
         const bool stops = meaning == SignalMeaning::Stop && !isInterrupted;
         isInterrupted = true;
-        if (stops)
-            queue.stop(open);
-        else
-            queue.cancel(open, JobQueue::Waiting::IsCancelled);
+        if (!stops)
+            return queue.cancel(open, JobQueue::Waiting::IsCancelled);
+        queue.stop(open);
+        // What has not begun has nothing to end with.
+        QList<JobId> waiting = queue.idsIn({JobState::Ready, JobState::Waiting});
+        waiting.removeIf([&](JobId id) { return !open.contains(id); });
+        queue.cancel(waiting, JobQueue::Waiting::IsCancelled);
     });
 
     session.keepJobs();

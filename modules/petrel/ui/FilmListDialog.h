@@ -3,6 +3,7 @@
 #include "modules/petrel/EngineAnswer.h"
 
 #include <QDialog>
+#include <QPointer>
 
 #include <memory>
 
@@ -18,7 +19,7 @@ class SitePictures;
 class FilmListDialog : public QDialog {
     Q_OBJECT
 public:
-    /// Without `pictures`, which outlives it, the site's are not fetched.
+    /// Without `pictures` the site's are not fetched.
     FilmListDialog(const EngineAnswer &answer, SitePictures *pictures, QWidget *parent);
     ~FilmListDialog() override;
 
@@ -33,7 +34,7 @@ private:
     void showCount();
 
     std::unique_ptr<Ui::FilmListDialog> m_form;
-    SitePictures *m_pictures;
+    QPointer<SitePictures> m_pictures;
 };
 
 }  // namespace kestrel
