@@ -68,6 +68,10 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> transcodeSteps(const Tran
                                                                       const TranscodeMachine &machine,
                                                                       const TranscodePaths &paths);
 
+/// Whether the plan cuts the film without encoding its pictures, which it can do at key pictures alone.
+bool cutsAtKeyPictures(const TranscodePlan &plan, const QList<MediaInformation> &sources,
+                       const TranscodeMachine &machine);
+
 /// The same plan without hardware and copied tracks, for a second attempt.
 TranscodePlan withoutShortcuts(TranscodePlan plan);
 

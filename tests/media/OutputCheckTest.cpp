@@ -175,6 +175,15 @@ TEST(OutputCheckTest, KeptTracksMayBeShorterThanTheFile)
     EXPECT_EQ(secondsOfKept({.tracks = sound.tracks, .seconds = 30}, source), 30) << "less was wanted";
 }
 
+TEST(OutputCheckTest, AnotherAttemptAllowsForWhatTheLastOneMissed)
+{
+    const std::tuple<qint64, qint64, qint64> rows[] = {{1000, 1001, 26}, {1000, 1000, 0},   {1000, 950, 0},
+                                                       {1000, 949, -26}, {1000, 501, -474}, {1000, 500, 0},
+                                                       {0, 500, 0}};
+    for (const auto &[wanted, found, correction] : rows)
+        EXPECT_EQ(sizeCorrection(wanted, found), correction) << found;
+}
+
 /// Of a good conversion from a source with a length.
 TranscodeFacts goodFacts()
 {
