@@ -154,7 +154,6 @@ void EditWindow::connectButtons()
     };
     for (const auto &[button, action, keys] : rows) {
         button->setAutoDefault(false);
-        button->setAccessibleName(button->text());
         connect(button, &QPushButton::clicked, this, action);
         if (!keys.isEmpty())
             connect(new QShortcut(keys, this), &QShortcut::activated, this, action);

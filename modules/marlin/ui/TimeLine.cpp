@@ -88,14 +88,14 @@ void TimeLine::click(double x)
 /// Not one beside the other: of such as stand closer only some are seen.
 void TimeLine::paintKeyPictures(QPainter &painter) const
 {
-    constexpr int closest = 4, markHeight = 8;
+    constexpr int closest = 5, markHeight = 10;
     double last = -closest;
     for (const double time : m_keys.times()) {
         const double x = xOf(time);
         if (x - last < closest)
             continue;
-        painter.fillRect(QRectF(x - 1, 0, 3, markHeight), QColor(palette::surface));
-        painter.fillRect(QRectF(x, 0, 1, markHeight), QColor(palette::text));
+        painter.fillRect(QRectF(x - 2, 0, 4, markHeight + 1), QColor(palette::surface));
+        painter.fillRect(QRectF(x - 1, 0, 2, markHeight), QColor(palette::accent));
         last = x;
     }
 }
