@@ -190,8 +190,8 @@ private:
             m_steps.expected.rotation = m_tracks.video->source->rotation;
         if (m_plan.rateControl == Plan::RateControl::Size)
             m_steps.expected.maximumBytes = m_plan.maximumBytes;
-        const bool tellsLength = std::ranges::all_of(m_sources, &MediaInformation::headerTellsDuration);
-        m_steps.expected.decodesAll = m_plan.safeMode || (m_tracks.copiesAny() && !tellsLength);
+        m_steps.expected.secondsAreTold = std::ranges::all_of(m_sources, &MediaInformation::headerTellsDuration);
+        m_steps.expected.decodesAll = m_plan.safeMode || (m_tracks.copiesAny() && !m_steps.expected.secondsAreTold);
         m_steps.work = m_tracks.copiesAll()                ? TranscodeSteps::Work::Copy
                        : m_tracks.video && !copiesPictures ? TranscodeSteps::Work::Encode
                                                            : TranscodeSteps::Work::Sound;

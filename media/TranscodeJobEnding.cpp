@@ -75,16 +75,12 @@ void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &
 
 void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings)
 {
-    const auto &information = m_request.information;
-    const TranscodeFacts facts{
-        .ending = ending,
-        .messages = m_messages,
-        .expected = m_steps.expected,
-        .sourceTellsDuration = std::all_of(information.begin(), information.end(),
-                                           [](const MediaInformation &file) { return file.headerTellsDuration(); }),
-        .copiesTracks = m_steps.work != TranscodeSteps::Work::Encode,
-        .findings = findings,
-        .readingFaults = m_reading.faults()};
+    const TranscodeFacts facts{.ending = ending,
+                               .messages = m_messages,
+                               .expected = m_steps.expected,
+                               .copiesTracks = m_steps.work != TranscodeSteps::Work::Encode,
+                               .findings = findings,
+                               .readingFaults = m_reading.faults()};
     JobOutcome outcome = transcodeVerdict(facts);
     if (m_reading.faults() > 0)
         outcome.details += u'\n' + m_reading.text();

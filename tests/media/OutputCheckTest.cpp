@@ -27,6 +27,7 @@ struct Case {
     OutputExpectation expected{
         .tracks = {{Kind::Video, u"h264"_s}, {Kind::Audio, u"aac"_s}, {Kind::Subtitle, u"ass"_s}},
         .seconds = 60,
+        .secondsAreTold = true,
         .chapters = 2};
     ToldOutput told{
         .bytes = 1000, .seconds = 60, .tracks = {{u"video"_s, 1500}, {u"audio"_s, 2813}, {u"subtitle"_s, 7}}};
@@ -191,7 +192,6 @@ TranscodeFacts goodFacts()
     return {.ending = {},
             .messages = ToolMessages(),
             .expected = good.expected,
-            .sourceTellsDuration = true,
             .copiesTracks = false,
             .findings = good.findings(),
             .readingFaults = 0};
@@ -213,7 +213,7 @@ TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
         {"a fault of a source without a length",
          [](TranscodeFacts &f) {
              f.messages.readLine("[error] no frame!");
-             f.sourceTellsDuration = false;
+             f.expected.secondsAreTold = false;
          },
          JobState::DoneWithProblems, "60 s could be read, 1 fault"},
         {"short",
@@ -225,7 +225,7 @@ TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
         {"short by a guess",
          [](TranscodeFacts &f) {
              f.findings->isShort = true;
-             f.sourceTellsDuration = false;
+             f.expected.secondsAreTold = false;
          },
          JobState::Done, ""},
         {"long", [](TranscodeFacts &f) { f.findings->isLong = true; }, JobState::DoneWithProblems,

@@ -355,8 +355,11 @@ TEST(TranscodeCommand, JoinsUnequalFilesByEncodingThem)
     const auto alike = transcodeSteps(plan, {film(), film()}, {}, paths);
     ASSERT_TRUE(alike);
     EXPECT_EQ(alike->work, TranscodeSteps::Work::Copy);
-    EXPECT_TRUE(alike->expected.decodesAll);
+    EXPECT_TRUE(alike->expected.decodesAll && alike->expected.secondsAreTold);
     EXPECT_EQ(alike->expected.seconds, 120);
+    MediaInformation stream = film({video(u"hevc"_s), sound(1)});
+    stream.format = u"mpegts"_s;
+    EXPECT_FALSE(transcodeSteps(plan, {film(), stream}, {}, paths)->expected.secondsAreTold) << "one only guesses";
 
     const std::function<void(MediaTrack &)> differences[] = {[](auto &t) { t.width = 1280; },
                                                              [](auto &t) { t.frameRate = 30; },
