@@ -10,6 +10,10 @@ def texts_of(path, number=0):
     return run(['ffmpeg', '-v', 'error', '-i', f'file:{path}', '-map', f'0:s:{number}', '-f', 'srt', '-']).stdout.decode()
 
 
+def near(found, wanted, distance):
+    return len(found) == len(wanted) and all(abs(a - b) <= distance for a, b in zip(found, wanted))
+
+
 def cue_times(path):
     return [float(part[-6:].replace(',', '.')) for l in texts_of(path).splitlines() if '-->' in l for part in l.split(' --> ')]
 
