@@ -74,7 +74,7 @@ private:
 
     void planSubtitle(const MediaTrack &track)
     {
-        const Plan::SubtitleUse use = m_plan.subtitles.value(track.index, Plan::SubtitleUse::Keep);
+        const Plan::SubtitleUse use = useOfSubtitle(m_plan, track);
         if (use == Plan::SubtitleUse::Leave || !m_plan.preset.takesVideo() || !m_tracks.video)
             return;
         if (use == Plan::SubtitleUse::Burn) {
@@ -192,6 +192,21 @@ void planCompanions(TrackPlan &tracks, const Plan &plan, const MediaInformation 
                     const TranscodeMachine &machine)
 {
     Companions(tracks, plan, source, machine).plan();
+}
+
+Plan::SubtitleUse useOfSubtitle(const Plan &plan, const MediaTrack &track)
+{
+    const bool isWanted = plan.subtitleLanguages.isEmpty() || isInLanguages(track, plan.subtitleLanguages);
+    return plan.subtitles.value(track.index, isWanted ? Plan::SubtitleUse::Keep : Plan::SubtitleUse::Leave);
+}
+
+bool isInLanguages(const MediaTrack &track, const QString &languages)
+{
+    const auto name = [](const QString &code) { return foundation::languageDisplayName(code.trimmed(), u"en"_s); };
+    const QStringList codes = languages.split(u',', Qt::SkipEmptyParts);
+    return !track.language.isEmpty() && std::ranges::any_of(codes, [&](const QString &code) {
+        return name(code).compare(name(track.language), Qt::CaseInsensitive) == 0;
+    });
 }
 
 QString trackName(const MediaTrack &track, const TranscodeMachine &machine)

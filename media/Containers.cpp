@@ -31,6 +31,7 @@ constexpr Container containerTable[] = {
      .sound = "aac ac3 alac dts eac3 mp3 opus truehd vorbis",
      .text = "mov_text",
      .keptText = "mov_text",
+     .bitmaps = "dvd_subtitle",
      // TrueHD is young here.
      .arguments = "-movflags +faststart -strict experimental"},
     {.id = "mkv",

@@ -393,14 +393,10 @@ std::span<const SoundEncoder> soundEncoders()
     return soundTable;
 }
 
-const VideoEncoder *videoEncoderOf(QStringView codec, const QStringList &missing, bool twoPasses)
+const VideoEncoder *videoEncoderOf(QStringView codec, const QStringList &missing)
 {
-    const VideoEncoder *found = nullptr;
-    for (const VideoEncoder &row : videoTable) {
-        if (makes(row, codec, missing) && (!found || (twoPasses && !found->twoPasses && row.twoPasses)))
-            found = &row;
-    }
-    return found;
+    const auto row = std::ranges::find_if(videoTable, [&](const auto &each) { return makes(each, codec, missing); });
+    return row == std::end(videoTable) ? nullptr : row;
 }
 
 const SoundEncoder *soundEncoderOf(QStringView codec, const QStringList &missing)

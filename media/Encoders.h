@@ -53,9 +53,8 @@ struct SoundEncoder {
 std::span<const VideoEncoder> videoEncoders();
 std::span<const SoundEncoder> soundEncoders();
 
-/// What makes `codec`: the first of the table that is not among `missing`, with `twoPasses` rather one that can take
-/// them. Null where there is none.
-const VideoEncoder *videoEncoderOf(QStringView codec, const QStringList &missing = {}, bool twoPasses = false);
+/// What makes `codec`: the first of the table that is not among `missing`. Null where there is none.
+const VideoEncoder *videoEncoderOf(QStringView codec, const QStringList &missing = {});
 const SoundEncoder *soundEncoderOf(QStringView codec, const QStringList &missing = {});
 
 /// Encoders of the tables that are not among those of an ffmpeg.

@@ -78,6 +78,7 @@ void tellResult(const Plan &plan, const QList<MediaInformation> &sources, const 
 {
     steps.expected.tracks = expectedTracks(tracks);
     steps.expected.seconds = seconds;
+    steps.expected.secondsAreTold = std::ranges::all_of(sources, &MediaInformation::headerTellsDuration);
     steps.expected.mayBeLonger = !plan.pieces.isEmpty();
     if (tracks.video)
         steps.expected.rotation = tracks.video->source->rotation;

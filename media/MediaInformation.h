@@ -32,6 +32,7 @@ struct MediaTrack {
     double sampleAspect = 1;  ///< width of a sample to its height
     double frameRate = 0;     ///< average, pictures a second; 0 where it is not known
     bool isVariableRate = false;
+    bool isReordered = false;  ///< pictures are stored before others that are seen earlier
     QString pixelFormat;  ///< "yuv420p10le"
     int bitDepth = 8;     ///< of a sample
     FieldOrder fieldOrder = FieldOrder::Unknown;
@@ -67,6 +68,7 @@ struct MediaChapter {
 struct MediaInformation {
     QString format;                  ///< ffprobe's short names: "mov,mp4,m4a,3gp,3g2,mj2"
     std::optional<double> duration;  ///< seconds, above 0; nothing where the file does not tell
+    double start = 0;                ///< seconds that its clock shows at the beginning
     qint64 bytes = 0;
     qint64 bitRate = 0;
     QList<MediaTrack> tracks;

@@ -207,6 +207,7 @@ void readRates(const QJsonObject &stream, MediaTrack &track)
 
 void readPicture(const QJsonObject &stream, const QHash<QString, QString> &tags, MediaTrack &track)
 {
+    track.isReordered = reportInteger(stream["has_b_frames"_L1], 64) > 0;
     track.width = reportInteger(stream["width"_L1], largestSide);
     track.height = reportInteger(stream["height"_L1], largestSide);
     const double aspect = reportRatio(stream["sample_aspect_ratio"_L1]).value_or(0);
@@ -294,6 +295,7 @@ std::optional<MediaInformation> parseMediaInformation(const QByteArray &json)
     if (information.format.isEmpty())
         return std::nullopt;
     information.duration = durationIn(reportNumber(format["duration"_L1]));
+    information.start = reportNumber(format["start_time"_L1]).value_or(0);
     information.bytes = reportCount(format["size"_L1]);
     information.bitRate = reportCount(format["bit_rate"_L1]);
     information.tags = tagsIn(format);

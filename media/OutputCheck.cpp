@@ -144,6 +144,13 @@ std::optional<FoundOutput> parseOutputReport(const QByteArray &json, qint64 file
     return found;
 }
 
+qint64 sizeCorrection(qint64 wanted, qint64 found)
+{
+    constexpr double aim = 0.975, least = 0.95, full = 0.5;
+    const double part = wanted > 0 ? double(found) / double(wanted) : aim;
+    return part > 1 || (part < least && part > full) ? found - qint64(double(wanted) * aim) : 0;
+}
+
 OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput &told, const FoundOutput &found)
 {
     const MediaInformation &information = found.information;

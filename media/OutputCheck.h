@@ -50,6 +50,10 @@ ToolCommand decodingCommand(const QString &transcoderPath, const QString &argume
 /// the whole where the file does not tell.
 std::optional<double> secondsOfKept(const OutputExpectation &expected, const MediaInformation &source);
 
+/// By how many bytes less another attempt at a size has to aim, after one of `wanted` bytes came out as `found`: where
+/// it is too large, or more than 5 % too small. 0 where it is near enough, or where a film has no more to fill it with.
+qint64 sizeCorrection(qint64 wanted, qint64 found);
+
 OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput &told, const FoundOutput &found);
 
 }  // namespace kestrel

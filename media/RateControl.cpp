@@ -17,8 +17,8 @@ using Plan = TranscodePlan;
 using Refused = foundation::Failure<tarnwell::Sentence>;
 using tarnwell::operator""_key;
 
-// Fewer bits than this a picture's sample show blocks, with any encoder.
-constexpr double fewestBitsPerPixel = 0.03;
+// With less than this part of their usual bits all encoders show blocks, and some give up.
+constexpr double fewestOfUsualBits = 0.27;
 constexpr int smallestHeight = 120;
 // The encoders miss their rate by a few parts in a hundred, and the container adds its own.
 constexpr double aim = 0.97;
@@ -69,9 +69,10 @@ bool shrinkToFit(VideoTrackPlan &video, double bitsPerSecond)
 {
     const double pixels = double(video.size.width()) * video.size.height();
     const double bits = bitsPerSecond / (pixels * picturesPerSecond(video));
-    if (video.size.isEmpty() || bits >= fewestBitsPerPixel)
+    const double fewestBits = video.encoder->bitsPerPixel * fewestOfUsualBits;
+    if (video.size.isEmpty() || bits >= fewestBits)
         return bitsPerSecond > 0;
-    const double factor = std::sqrt(bits / fewestBitsPerPixel);
+    const double factor = std::sqrt(bits / fewestBits);
     const int multiple = std::max(2, video.encoder->multiple);
     const auto side = [&](int length) { return std::max(multiple, int(length * factor / multiple) * multiple); };
     const QSize smaller(side(video.size.width()), side(video.size.height()));
@@ -241,7 +242,10 @@ QStringList videoArguments(const Plan &plan, const VideoTrackPlan &video, const 
     QStringList arguments{u"-c:v:0"_s, QString::fromLatin1(encoder.encoder)};
     arguments += tableWords(encoder.arguments);
     // Better settings take a step more time.
-    arguments += tableWords(encoder.speeds[std::clamp(2 + plan.speed - (plan.best ? 1 : 0), 0, 4)]);
+    QStringList speed = tableWords(encoder.speeds[std::clamp(2 + plan.speed - (plan.best ? 1 : 0), 0, 4)]);
+    if (pass > 0)  // what is made for live pictures takes no second look
+        speed.replaceInStrings(u"realtime"_s, u"good"_s);
+    arguments += speed;
     if (rate.bitRate > 0)
         arguments << u"-b:v"_s << QString::number(rate.bitRate);
     else

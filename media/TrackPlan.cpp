@@ -16,13 +16,16 @@ using tarnwell::operator""_key;
 /// The sound tracks that the user wants, in the file's order.
 QList<const MediaTrack *> wantedSounds(const Plan &plan, const MediaInformation &source)
 {
-    QList<const MediaTrack *> tracks;
+    QList<const MediaTrack *> tracks, inLanguages;
     for (const MediaTrack &track : source.tracks) {
         const bool isNamed = !plan.audioTracks || plan.audioTracks->contains(track.index);
-        if (track.kind == Kind::Audio && isNamed)
-            tracks.append(&track);
+        if (track.kind != Kind::Audio || !isNamed)
+            continue;
+        tracks.append(&track);
+        if (isInLanguages(track, plan.soundLanguages))
+            inLanguages.append(&track);
     }
-    return tracks;
+    return plan.audioTracks || inLanguages.isEmpty() ? tracks : inLanguages;
 }
 
 void planSoundTracks(TrackPlan &tracks, const Plan &plan, const MediaInformation &source,
@@ -133,6 +136,14 @@ std::optional<double> secondsOf(const QList<SourcePiece> &pieces)
         seconds += *piece.seconds;
     }
     return seconds;
+}
+
+QList<int> wantedSoundIndexes(const Plan &plan, const MediaInformation &source)
+{
+    QList<int> indexes;
+    for (const MediaTrack *track : wantedSounds(plan, source))
+        indexes.append(track->index);
+    return indexes;
 }
 
 foundation::Result<TrackPlan, tarnwell::Sentence> planTracks(const Plan &plan, const QList<MediaInformation> &sources,

@@ -87,6 +87,12 @@ QList<SoundTrackPlan> planSounds(const TranscodePlan &plan, const QList<const Me
 /// Subtitles, covers, attachments and chapters, with what stays behind.
 void planCompanions(TrackPlan &tracks, const TranscodePlan &plan, const MediaInformation &source,
                     const TranscodeMachine &machine);
+/// The tracks of sound that the plan keeps of a file, before it is known what the target holds, and what becomes of one
+/// of its subtitles.
+QList<int> wantedSoundIndexes(const TranscodePlan &plan, const MediaInformation &source);
+TranscodePlan::SubtitleUse useOfSubtitle(const TranscodePlan &plan, const MediaTrack &track);
+/// Whether the track is in one of these languages, each as a tag or code of any length: "en,ger".
+bool isInLanguages(const MediaTrack &track, const QString &languages);
 /// "Japanese", or what else tells one track from another.
 QString trackName(const MediaTrack &track, const TranscodeMachine &machine);
 

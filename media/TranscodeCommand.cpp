@@ -58,7 +58,7 @@ QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSi
     const VideoTrackPlan &video = *tracks.video;
     const bool isCutAtKeyframe = !video.encoder && !plan.pieces.isEmpty() && plan.pieces.first().start > 0;
     if (isCutAtKeyframe)
-        notes.append({"Cut without encoding: it begins at the last key picture before %1 s."_key,
+        notes.append({"Cut without encoding: it begins at the key picture at or before %1 s."_key,
                       {numberText(plan.pieces.first().start)}});
     if (video.encoder && plan.preset.videoCodec == "copy"_L1)
         notes.append({"The picture has to be encoded (%1)."_key, {codecLabel(video.codec)}});
@@ -97,6 +97,7 @@ public:
         m_inputs = commandInputs(m_plan, m_sources, m_tracks, m_pieces, m_paths);
         m_steps.runs = m_inputs.runs;
         m_steps.files = m_inputs.files;
+        m_steps.expected.mayBeLonger = m_tracks.video && !m_tracks.video->encoder && !m_plan.pieces.isEmpty();
         if (m_rate.hasTwoPasses) {
             addRun(firstPass(), "First pass"_key, 0.4);
             addRun(lastPass(2), "Second pass"_key, 0.6);
@@ -171,6 +172,9 @@ private:
                                         m_inputs.coverPath);
         arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_inputs.chapterInput);
         arguments += threadArguments(m_plan);
+        // Else players that mind the list of edits would not show what stands before the start.
+        if (m_steps.expected.mayBeLonger)
+            arguments << u"-avoid_negative_ts"_s << u"make_zero"_s;
         return arguments + commonTail(m_tracks, m_paths.output);
     }
 
@@ -184,11 +188,10 @@ private:
         const bool copiesPictures = m_tracks.video && !m_tracks.video->encoder;
         if (copiesPictures)
             m_steps.expected.rotation = m_tracks.video->source->rotation;
-        m_steps.expected.mayBeLonger = copiesPictures && !m_plan.pieces.isEmpty();
         if (m_plan.rateControl == Plan::RateControl::Size)
             m_steps.expected.maximumBytes = m_plan.maximumBytes;
-        const bool tellsLength = std::ranges::all_of(m_sources, &MediaInformation::headerTellsDuration);
-        m_steps.expected.decodesAll = m_plan.safeMode || (m_tracks.copiesAny() && !tellsLength);
+        m_steps.expected.secondsAreTold = std::ranges::all_of(m_sources, &MediaInformation::headerTellsDuration);
+        m_steps.expected.decodesAll = m_plan.safeMode || (m_tracks.copiesAny() && !m_steps.expected.secondsAreTold);
         m_steps.work = m_tracks.copiesAll()                ? TranscodeSteps::Work::Copy
                        : m_tracks.video && !copiesPictures ? TranscodeSteps::Work::Encode
                                                            : TranscodeSteps::Work::Sound;
@@ -230,6 +233,14 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> transcodeSteps(const Plan
     if (!tracks)
         return foundation::Failure{tracks.reason()};
     return Builder(encoding, sources, machine, paths, *tracks, pieces).steps();
+}
+
+bool cutsAtKeyPictures(const Plan &plan, const QList<MediaInformation> &sources, const TranscodeMachine &machine)
+{
+    if (plan.pieces.isEmpty() || plan.exactCuts)
+        return false;
+    const auto tracks = planTracks(plan, sources, machine);
+    return tracks && tracks->video && !tracks->video->encoder;
 }
 
 TranscodePlan withoutShortcuts(Plan plan)

@@ -25,6 +25,7 @@ struct OutputExpectation {
     };
     QList<Track> tracks;
     std::optional<double> seconds;  ///< nothing where the source does not tell
+    bool secondsAreTold = false;    ///< by the headers of all sources: what is shorter shows that one is damaged
     bool mayBeLonger = false;       ///< `seconds` is the least: cuts at keyframes keep what stands before
     qint64 maximumBytes = 0;        ///< 0 for no limit
     int rotation = 0;               ///< as MediaTrack has it
@@ -67,6 +68,10 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> transcodeSteps(const Tran
                                                                       const QList<MediaInformation> &sources,
                                                                       const TranscodeMachine &machine,
                                                                       const TranscodePaths &paths);
+
+/// Whether the plan cuts the film without encoding its pictures, which it can do at key pictures alone.
+bool cutsAtKeyPictures(const TranscodePlan &plan, const QList<MediaInformation> &sources,
+                       const TranscodeMachine &machine);
 
 /// The same plan without hardware and copied tracks, for a second attempt.
 TranscodePlan withoutShortcuts(TranscodePlan plan);

@@ -20,7 +20,6 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr std::chrono::seconds lookLimit{30};
 /// After a stop the tool may rewrite the whole of a large file. Whoever does not want to wait cancels.
 constexpr std::chrono::minutes stopPatience{30};
 
@@ -47,62 +46,6 @@ void TranscodeJob::start()
         m_sources.emplace_back(source);
     }
     lookAtSource();
-}
-
-void TranscodeJob::lookAtSource()
-{
-    if (isStopping())
-        return finishStopped();
-    const qsizetype number = m_request.information.size();
-    if (number >= qsizetype(m_sources.size()))
-        return scanPicture();
-    tellStage("Reading the file…"_key);
-    run(probeCommand(m_request.tools.prober, m_sources[number].argument(), lookLimit),
-        [this](const ToolEnding &ending) {
-            if (isStopping())  // the look was stopped with the job
-                return finishStopped();
-            auto result = probeResult(ending);
-            if (result)
-                lookAtPicture(*std::move(result));
-            else
-                fail(result.reason());
-        });
-}
-
-void TranscodeJob::lookAtPicture(MediaInformation information)
-{
-    const QString argument = m_sources[m_request.information.size()].argument();
-    const auto command = pictureDataCommand(m_request.tools.prober, argument, information, lookLimit);
-    m_request.information.append(std::move(information));
-    if (!command)
-        return lookAtSource();
-    run(*command, [this](const ToolEnding &ending) {
-        if (ending.isGood())
-            addPictureData(ending.output, m_request.information.last());
-        lookAtSource();
-    });
-}
-
-/// Of the first source, where its flags leave open whether it is interlaced.
-void TranscodeJob::scanPicture()
-{
-    const MediaTrack *video = m_request.information.first().firstOf(MediaTrack::Kind::Video);
-    const bool isWanted = m_request.plan.deinterlace == TranscodePlan::Deinterlace::Auto &&
-                          m_request.plan.preset.takesVideo() && m_request.plan.preset.videoCodec != "copy"_L1;
-    if (!isWanted || !video || !PictureScan::isWorthwhile(*video))
-        return prepare();
-    const ToolCommand command =
-        PictureScan::command(m_request.tools.transcoder, m_sources.front().argument(), m_request.information.first());
-    const ToolProcess &tool = run(command, [this](const ToolEnding &) {
-        if (isStopping())
-            return finishStopped();
-        MediaInformation &film = m_request.information.first();
-        MediaTrack &track = film.tracks[film.firstOf(MediaTrack::Kind::Video) - film.tracks.constData()];
-        track.fieldOrder = m_scan.fieldOrder();
-        track.fieldsAreSeen = true;
-        prepare();
-    });
-    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_scan.readLine(line); });
 }
 
 /// The plan as tools can read it.
@@ -135,11 +78,15 @@ void TranscodeJob::prepare()
 
 void TranscodeJob::carryOut()
 {
-    auto steps = transcodeSteps(m_request.plan, m_request.information, m_request.tools.machine,
+    TranscodePlan plan = m_request.plan;
+    plan.maximumBytes -= m_correction;
+    auto steps = transcodeSteps(plan, m_request.information, m_request.tools.machine,
                                 {m_outputPath->path(), m_workFolder->path()});
     if (!steps)
         return fail(steps.reason());
     m_steps = *std::move(steps);
+    if (m_steps.expected.maximumBytes > 0)
+        m_steps.expected.maximumBytes = m_request.plan.maximumBytes;
     for (auto file = m_steps.files.cbegin(); file != m_steps.files.cend(); ++file) {
         QSaveFile writing(file.key());
         if (!writing.open(QIODevice::WriteOnly) || writing.write(file.value()) < 0 || !writing.commit())

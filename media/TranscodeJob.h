@@ -1,5 +1,6 @@
 #pragma once
 
+#include "KeyPictures.h"
 #include "OutputCheck.h"
 #include "PictureScan.h"
 #include "ToolMessages.h"
@@ -53,6 +54,7 @@ private:
     void lookAtSource();
     void lookAtPicture(MediaInformation information);
     void scanPicture();
+    void findKeyPictures(qsizetype number);
     void prepare();
     void carryOut();
     void runStep();
@@ -61,6 +63,7 @@ private:
     Decoding neededDecoding() const;
     void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);
     void judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings);
+    bool aimsAgain(const OutputFindings &findings, qint64 bytes);
     void tryWithoutShortcuts();
     void place(const JobOutcome &outcome);
     void giveName(JobOutcome outcome);
@@ -85,7 +88,11 @@ private:
     ToolMessages m_messages;
     ToolMessages m_reading;  ///< of the output
     PictureScan m_scan;
+    QList<TranscodePlan::Piece> m_wantedPieces;  ///< before they were moved to key pictures
     bool m_isSecondAttempt = false;
+    int m_corrections = 0;
+    qint64 m_correction = 0;  ///< bytes by which the last attempts at a size were too large
+    qint64 m_lastBytes = 0;   ///< of the attempt before
 };
 
 }  // namespace kestrel

@@ -40,6 +40,8 @@ void TranscodeJob::checkOutput(const ToolEnding &ending)
                 {.bytes = m_progress.finalBytes(), .seconds = m_progress.seconds(), .tracks = m_messages.muxedTracks()},
                 *found);
             const bool isBroken = findings.isEmpty || !findings.damage.isEmpty();
+            if (ending.isGood() && !isBroken && !isStopping() && aimsAgain(findings, found->bytes))
+                return carryOut();
             if (neededDecoding() != Decoding::None && !isBroken && !isStopping())
                 decodeOutput(ending, findings);
             else
@@ -73,16 +75,12 @@ void TranscodeJob::decodeOutput(const ToolEnding &ending, const OutputFindings &
 
 void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFindings> &findings)
 {
-    const auto &information = m_request.information;
-    const TranscodeFacts facts{
-        .ending = ending,
-        .messages = m_messages,
-        .expected = m_steps.expected,
-        .sourceTellsDuration = std::all_of(information.begin(), information.end(),
-                                           [](const MediaInformation &file) { return file.headerTellsDuration(); }),
-        .copiesTracks = m_steps.work != TranscodeSteps::Work::Encode,
-        .findings = findings,
-        .readingFaults = m_reading.faults()};
+    const TranscodeFacts facts{.ending = ending,
+                               .messages = m_messages,
+                               .expected = m_steps.expected,
+                               .copiesTracks = m_steps.work != TranscodeSteps::Work::Encode,
+                               .findings = findings,
+                               .readingFaults = m_reading.faults()};
     JobOutcome outcome = transcodeVerdict(facts);
     if (m_reading.faults() > 0)
         outcome.details += u'\n' + m_reading.text();
@@ -97,6 +95,24 @@ void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFin
     finish(outcome);
 }
 
+/// Encoders keep to a rate as well as they can; what one attempt missed the next one allows for.
+bool TranscodeJob::aimsAgain(const OutputFindings &findings, qint64 bytes)
+{
+    constexpr int mostCorrections = 2;
+    const qint64 correction = sizeCorrection(m_steps.expected.maximumBytes, bytes);
+    // To fill the size with: pictures that are as good as they can be, sound that knows few rates.
+    const bool hasNoMore =
+        correction < 0 && ((m_correction < 0 && bytes <= m_lastBytes) || m_steps.work != TranscodeSteps::Work::Encode);
+    if (correction == 0 || hasNoMore || findings.isShort || m_corrections == mostCorrections ||
+        m_correction + correction >= m_request.plan.maximumBytes)
+        return false;
+    ++m_corrections;
+    m_lastBytes = bytes;
+    m_correction += correction;
+    emit noted(tarnwell::Sentence("Encoding once more, to meet the size"_key));
+    return true;
+}
+
 void TranscodeJob::tryWithoutShortcuts()
 {
     tarnwell::DNFootLog(u"Converting again in software, without copying: %1"_s, m_messages.text());
@@ -105,6 +121,7 @@ void TranscodeJob::tryWithoutShortcuts()
     m_isSecondAttempt = true;
     emit noted(hadHardware ? "Encoding in software"_key : "Encoding, because the tracks could not be copied"_key);
     m_request.plan = withoutShortcuts(std::move(m_request.plan));
+    m_request.plan.pieces = m_wantedPieces;
     carryOut();
 }
 

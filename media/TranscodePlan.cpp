@@ -114,6 +114,9 @@ void plainFields(Way &&way, AnyPlan &plan)
     way.number(u"volume"_s, plan.volume, -60, 60);
     way.number(u"audioBitRate"_s, plan.audioBitRate, 0, 1e8);
 
+    way.text(u"soundLanguages"_s, plan.soundLanguages, longestPlanText);
+    way.text(u"subtitleLanguages"_s, plan.subtitleLanguages, longestPlanText);
+
     way.flag(u"safeMode"_s, plan.safeMode);
     way.flag(u"keepsDate"_s, plan.keepsDate);
     way.text(u"namePattern"_s, plan.namePattern, longestPlanText);

@@ -69,6 +69,7 @@ struct TranscodePlan {
 
     // Sound
     std::optional<QList<int>> audioTracks;  ///< indexes of the file; nothing for all
+    QString soundLanguages;  ///< "en,ger": where a file has tracks in one of these, others stay behind; empty for all
     SoundMix mix = SoundMix::AsSource;
     bool normalizes = false;  ///< loudness evened out
     double volume = 0;        ///< decibels
@@ -76,6 +77,7 @@ struct TranscodePlan {
 
     // Subtitles
     QHash<int, SubtitleUse> subtitles;  ///< by index of the file; those not named are kept where the target can
+    QString subtitleLanguages;          ///< of those not named only these are kept, "none" for none; empty for all
     QList<ExternalSubtitle> externalSubtitles;
 
     // Output

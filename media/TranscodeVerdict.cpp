@@ -74,16 +74,16 @@ QList<Sentence> problemsIn(const TranscodeFacts &facts)
 {
     const OutputFindings &findings = *facts.findings;
     const int faults = std::max(facts.messages.faults(), facts.readingFaults);
-    const bool isShort = findings.isShort && facts.sourceTellsDuration;
+    const bool isShort = findings.isShort && facts.expected.secondsAreTold;
     QList<Sentence> problems;
-    if (facts.expected.seconds && (isShort || (faults > 0 && facts.sourceTellsDuration)))
+    if (facts.expected.seconds && (isShort || (faults > 0 && facts.expected.secondsAreTold)))
         problems.append(
             readSentence(std::min(findings.seconds, *facts.expected.seconds), facts.expected.seconds, faults));
     else if (faults > 0)
         problems.append(readSentence(findings.seconds, std::nullopt, faults));
     if (!findings.mismatch.isEmpty())
         problems.append(findings.mismatch);
-    if (findings.isLong && facts.sourceTellsDuration)
+    if (findings.isLong && facts.expected.secondsAreTold)
         problems.append({"The finished file is %1 s long instead of %2 s."_key,
                          {secondsText(findings.seconds), secondsText(*facts.expected.seconds)}});
     if (findings.isTooLarge)

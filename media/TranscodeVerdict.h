@@ -13,7 +13,6 @@ struct TranscodeFacts {
     ToolEnding ending;      ///< of the last run of the tool
     ToolMessages messages;  ///< of all runs
     OutputExpectation expected;
-    bool sourceTellsDuration = false;
     bool copiesTracks = false;  ///< packets went over undecoded, with their faults
     /// Nothing where the output could not be read back, or where the tool failed before.
     std::optional<OutputFindings> findings;

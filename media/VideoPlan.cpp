@@ -257,7 +257,7 @@ std::optional<VideoTrackPlan> planVideo(const Plan &plan, const MediaTrack &trac
     }
 
     video.codec = targetCodec(plan, track, container, machine);
-    video.encoder = videoEncoderOf(video.codec, machine.missingEncoders, plan.rateControl == Plan::RateControl::Size);
+    video.encoder = videoEncoderOf(video.codec, machine.missingEncoders);
     if (!video.encoder)
         return {};
     const VideoEncoder &encoder = *video.encoder;

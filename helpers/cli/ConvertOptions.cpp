@@ -209,6 +209,24 @@ constexpr Option<Request> options[] = {
          watermark(request).imagePath = absoluteFileName(value);
          return QFileInfo(value).isFile();
      }},
+    {"watermark-corner", "WHERE", "top-left, top-right, bottom-left, bottom-right or middle",
+     [](const QString &value, Request &request) {
+         static constexpr std::pair<QLatin1StringView, Qt::Alignment> corners[] = {
+             {"top-left"_L1, Qt::AlignTop | Qt::AlignLeft},
+             {"top-right"_L1, Qt::AlignTop | Qt::AlignRight},
+             {"bottom-left"_L1, Qt::AlignBottom | Qt::AlignLeft},
+             {"bottom-right"_L1, Qt::AlignBottom | Qt::AlignRight},
+             {"middle"_L1, Qt::AlignCenter}};
+         for (const auto &[name, corner] : corners) {
+             if (value == name) {
+                 watermark(request).corner = corner;
+                 return true;
+             }
+         }
+         return false;
+     }},
+    {"watermark-size", "NUMBER", "0.01 to 1, of the picture's width",
+     [](const QString &value, Request &request) { return readNumber(value, 0.01, 1, watermark(request).size); }},
     {"watermark-opacity", "NUMBER", "0 to 1",
      [](const QString &value, Request &request) { return readNumber(value, 0, 1, watermark(request).opacity); }},
 
@@ -233,6 +251,11 @@ constexpr Option<Request> options[] = {
 
     {"audio", "TRACKS", "all, none, or by number: 1,3",
      [](const QString &value, Request &request) { return readNumbers(value, request.audioNumbers); }},
+    {"audio-languages", "LIST", "only these, where a file has one of them: en,de",
+     [](const QString &value, Request &request) {
+         request.plan.soundLanguages = value;
+         return !value.isEmpty();
+     }},
     {"mix", "HOW", "source, mono, stereo or 5.1",
      [](const QString &value, Request &request) {
          return readChoice(value, {"source", "mono", "stereo", "5.1"}, request.plan.mix);
@@ -248,6 +271,11 @@ constexpr Option<Request> options[] = {
      [](const QString &value, Request &request) { return readBytes(value, request.plan.audioBitRate); }},
     {"subtitles", "TRACKS", "all, none, or by number: 1,3",
      [](const QString &value, Request &request) { return readNumbers(value, request.subtitleNumbers); }},
+    {"subtitle-languages", "LIST", "only these, or none: en,de",
+     [](const QString &value, Request &request) {
+         request.plan.subtitleLanguages = value;
+         return !value.isEmpty();
+     }},
     {"burn", "TRACK", "draw this subtitle into the picture",
      [](const QString &value, Request &request) { return readNumber(value, 1, 256, request.burnedSubtitle); }},
     {"subtitle-file", "FILE[:LANGUAGE]", "add these subtitles",

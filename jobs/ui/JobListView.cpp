@@ -270,6 +270,7 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
     const JobRecord *record = m_queue.record(current);
     const bool hasResult = !outputsOf({current}).isEmpty();
     QList<JobId> active, paused, again;
+    bool isNew = false;
     for (const JobId id : ids) {
         const JobState state = m_queue.record(id)->state;
         if (state == JobState::Running || state == JobState::Waiting)
@@ -278,6 +279,7 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
             paused.append(id);
         if (state == JobState::Ready || isEnded(state))
             again.append(id);
+        isNew |= state == JobState::Ready;
     }
     auto *menu = new QMenu(this);
     menu->setAttribute(Qt::WA_DeleteOnClose);
@@ -290,7 +292,8 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
         {"Show in Folder"_key, hasResult, [this, current] { showInFolder(current); }},
         {"Copy"_key, hasResult, [this, ids] { copyResults(ids); }},
         {},
-        {"Start"_key, !again.isEmpty(), [this, again] { m_queue.start(again); }},
+        {isNew || again.isEmpty() ? "Start"_key : "Retry"_key, !again.isEmpty(),
+         [this, again] { m_queue.start(again); }},
         {"Pause"_key, !active.isEmpty(), [this, active] { m_queue.setPaused(active, true); }},
         {"Go On"_key, !paused.isEmpty(), [this, paused] { m_queue.setPaused(paused, false); }},
         {"Cancel"_key, !active.isEmpty() || !paused.isEmpty(),

@@ -66,9 +66,14 @@ class CliTest(unittest.TestCase):
 
     def test_options_reach_the_file(self):
         make_clip(self.clip, 4)
+        words = self.cli.path('a: b.srt')
+        with open(words, 'w') as file:
+            file.write('1\n00:00:00,500 --> 00:00:01,500\nOne\n')
+        languages = lambda found: [each.get('tags', {}).get('language', 'und') for each in found['streams'] if each['codec_type'] == 'subtitle']
         rows = [(['--cut', '1-2.5'], lambda found: self.assertAlmostEqual(float(found['format']['duration']), 1.5, delta=0.1)),
                 (['--audio', '1'], lambda found: self.assertEqual(len(found['streams']), 2)),
                 (['--audio', 'none'], lambda found: self.assertEqual(len(found['streams']), 1)),
+                (['--subtitle-file', words, '--subtitle-file', words + ':fre'], lambda found: self.assertEqual(languages(found), ['und', 'fre'])),
                 (['--size', '200k', '--no-copy'], lambda found: self.assertLessEqual(int(found['format']['size']), 200_000))]
         for options, check in rows:
             with self.subTest(options):

@@ -27,6 +27,7 @@ struct Case {
     OutputExpectation expected{
         .tracks = {{Kind::Video, u"h264"_s}, {Kind::Audio, u"aac"_s}, {Kind::Subtitle, u"ass"_s}},
         .seconds = 60,
+        .secondsAreTold = true,
         .chapters = 2};
     ToldOutput told{
         .bytes = 1000, .seconds = 60, .tracks = {{u"video"_s, 1500}, {u"audio"_s, 2813}, {u"subtitle"_s, 7}}};
@@ -175,6 +176,15 @@ TEST(OutputCheckTest, KeptTracksMayBeShorterThanTheFile)
     EXPECT_EQ(secondsOfKept({.tracks = sound.tracks, .seconds = 30}, source), 30) << "less was wanted";
 }
 
+TEST(OutputCheckTest, AnotherAttemptAllowsForWhatTheLastOneMissed)
+{
+    const std::tuple<qint64, qint64, qint64> rows[] = {{1000, 1001, 26}, {1000, 1000, 0},   {1000, 950, 0},
+                                                       {1000, 949, -26}, {1000, 501, -474}, {1000, 500, 0},
+                                                       {0, 500, 0}};
+    for (const auto &[wanted, found, correction] : rows)
+        EXPECT_EQ(sizeCorrection(wanted, found), correction) << found;
+}
+
 /// Of a good conversion from a source with a length.
 TranscodeFacts goodFacts()
 {
@@ -182,7 +192,6 @@ TranscodeFacts goodFacts()
     return {.ending = {},
             .messages = ToolMessages(),
             .expected = good.expected,
-            .sourceTellsDuration = true,
             .copiesTracks = false,
             .findings = good.findings(),
             .readingFaults = 0};
@@ -204,7 +213,7 @@ TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
         {"a fault of a source without a length",
          [](TranscodeFacts &f) {
              f.messages.readLine("[error] no frame!");
-             f.sourceTellsDuration = false;
+             f.expected.secondsAreTold = false;
          },
          JobState::DoneWithProblems, "60 s could be read, 1 fault"},
         {"short",
@@ -216,7 +225,7 @@ TEST(TranscodeVerdictTest, WhatMayBeCalledDone)
         {"short by a guess",
          [](TranscodeFacts &f) {
              f.findings->isShort = true;
-             f.sourceTellsDuration = false;
+             f.expected.secondsAreTold = false;
          },
          JobState::Done, ""},
         {"long", [](TranscodeFacts &f) { f.findings->isLong = true; }, JobState::DoneWithProblems,

@@ -1,3 +1,4 @@
+#include "media/KeyPictures.h"
 #include "media/PictureScan.h"
 
 #include <gtest/gtest.h>
@@ -45,6 +46,32 @@ TEST(PictureScanTest, BlackBarsOfTheLastPicture)
         "crop=320:240:0:24");
     scan.readLine("[Parsed_cropdetect_1 @ 0x1] [info] black: crop=-318:-238:320:240");
     EXPECT_EQ(scan.picture(), QRect(0, 24, 320, 240));
+}
+
+TEST(KeyPicturesTest, OnAFilmsOwnClockAsFarAsItWasRead)
+{
+    MediaInformation film;
+    film.start = 1.4;
+    film.tracks.emplaceBack();
+    film.tracks[0].kind = MediaTrack::Kind::Video;
+    film.tracks[0].isReordered = true;
+    KeyPictures keys(film);
+    for (const char *line : {"1.400000,1.320000,K__", "1.480000,1.360000,___", "5.400000,5.320000,K__",
+                             "N/A,9.400000,K__", "10.4,10.3,___", "side data", ""})
+        keys.readLine(line);
+    const std::tuple<double, double, double> rows[] = {
+        {0, 0, 4}, {3.999, 4, 8}, {7.5, 4, 8}, {9, 8, -1}, {9.5, -1, -1}};
+    for (const auto &[seconds, before, after] : rows) {
+        EXPECT_NEAR(keys.atOrBefore(seconds).value_or(-1), before, 1e-6) << seconds;
+        EXPECT_NEAR(keys.after(seconds).value_or(-1), after, 1e-6) << seconds;
+    }
+    keys.finish();
+    EXPECT_NEAR(keys.atOrBefore(99).value_or(-1), 8, 1e-6);
+
+    EXPECT_TRUE(KeyPictures::command({}, {}, film, 40).arguments.contains(u"11.400%42.400"_s));
+    EXPECT_GT(copyStart(film, 4), 4.13);
+    film.format = u"mpegts"_s;
+    EXPECT_TRUE(copyStart(film, 4) < 4 && copyStart(film, 0) == 0);
 }
 
 }  // namespace

@@ -16,6 +16,7 @@ TEST(ToolMessagesTest, CountsWhatTheToolCallsAnError)
         {"[error] Error while decoding stream #0:0: Invalid data found", true},
         {"[mov,mp4,m4a @ 0x1] [matroska @ 0x2] [fatal] moov", true},
         {"[warning] file:a.ts: corrupt input packet in stream 0", true},
+        {"[warning] file:a.ts: corrupt decoded frame in stream 0", true},
         {"[warning] deprecated pixel format", false},
         {"[null @ 0x55bd] [error] Application provided invalid, non monotonically increasing dts to muxer", false},
         {"[info]     title           : [error] nothing", false},

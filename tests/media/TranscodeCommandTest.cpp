@@ -258,6 +258,19 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
              plan.subtitles = {{3, Plan::SubtitleUse::Burn}};
          },
          "subtitles=filename=/films/a.mp4:si=1"},
+        {"a second look takes its time", u"webm-vp9"_s, video(),
+         [](Plan &plan) {
+             plan.rateControl = Plan::RateControl::Size;
+             plan.maximumBytes = 20'000'000;
+             plan.speed = 2;
+         },
+         "-deadline good", "realtime"},
+        {"subtitles of a file, from where the cut begins", u"mkv-h264"_s, video(),
+         [](Plan &plan) {
+             plan.pieces = {{.start = 10, .end = 20}};
+             plan.externalSubtitles = {{.path = u"/films/a.sup"_s, .language = {}}};
+         },
+         "-itsoffset -10 -i file:/films/a.sup"},
         {"one palette", u"gif"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 0, .end = 2}}; },
          "stats_mode=diff"},
         {"a palette each where all would fill the memory", u"gif"_s, video(), {}, "stats_mode=single"},
@@ -293,6 +306,19 @@ TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
     EXPECT_NE(lineOf(*mp3).find("-map 0:2 "), std::string::npos) << "the default one is kept: " << lineOf(*mp3);
     EXPECT_EQ(lineOf(*mp3).find("-map 0:1 "), std::string::npos);
     EXPECT_TRUE(mp3->leftOut.value(0).english().contains(u"German"_s));
+
+    const auto inLanguages = [&](const QString &sounds, const QString &subtitles) {
+        const auto steps = stepsFor(planFor(u"mkv-copy"_s,
+                                            [&](Plan &plan) {
+                                                plan.soundLanguages = sounds;
+                                                plan.subtitleLanguages = subtitles;
+                                            }),
+                                    source);
+        return steps->expected.tracks.size();
+    };
+    EXPECT_EQ(inLanguages({}, {}), 6);
+    EXPECT_EQ(inLanguages(u"de, ja"_s, u"fr"_s), 5) << "the codes of files are others";
+    EXPECT_EQ(inLanguages(u"ja"_s, u"none"_s), 4) << "sound that is in none of them is kept";
 }
 
 TEST(TranscodeCommand, AimsBelowTheSizeInTwoPasses)
@@ -329,8 +355,11 @@ TEST(TranscodeCommand, JoinsUnequalFilesByEncodingThem)
     const auto alike = transcodeSteps(plan, {film(), film()}, {}, paths);
     ASSERT_TRUE(alike);
     EXPECT_EQ(alike->work, TranscodeSteps::Work::Copy);
-    EXPECT_TRUE(alike->expected.decodesAll);
+    EXPECT_TRUE(alike->expected.decodesAll && alike->expected.secondsAreTold);
     EXPECT_EQ(alike->expected.seconds, 120);
+    MediaInformation stream = film({video(u"hevc"_s), sound(1)});
+    stream.format = u"mpegts"_s;
+    EXPECT_FALSE(transcodeSteps(plan, {film(), stream}, {}, paths)->expected.secondsAreTold) << "one only guesses";
 
     const std::function<void(MediaTrack &)> differences[] = {[](auto &t) { t.width = 1280; },
                                                              [](auto &t) { t.frameRate = 30; },

@@ -1,9 +1,13 @@
 #include "MediaSamples.h"
 
 #include "foundation/FileNames.h"
+#include "foundation/Queues.h"
+#include "jobs/OutputFile.h"
+#include "media/Placing.h"
 #include "media/TranscodeRecipe.h"
 #include "tests/support/TestEnvironment.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QTemporaryDir>
@@ -35,6 +39,7 @@ protected:
         s_samples = new QTemporaryDir;
         ASSERT_TRUE(test::makeSample(film(u"mp4"_s), {u"-c:v"_s, u"libx264"_s, u"-preset"_s, u"ultrafast"_s, u"-g"_s,
                                                       u"25"_s, u"-c:a"_s, u"aac"_s}));
+        ASSERT_TRUE(test::makeSample(film(u"ts"_s), {u"-c:v"_s, u"libx264"_s, u"-g"_s, u"25"_s, u"-c:a"_s, u"aac"_s}));
         ASSERT_TRUE(
             test::makeSample(film(u"mkv"_s), {u"-c:v"_s, u"mpeg4"_s, u"-g"_s, u"10"_s, u"-c:a"_s, u"libmp3lame"_s}));
     }
@@ -225,6 +230,35 @@ TEST_F(TranscodeJobTest, RealOnes)
     }
     EXPECT_EQ(outputs().size(), qsizetype(std::size(rows))) << "no part is left";
     unlink(oddName.constData());
+}
+
+TEST_F(TranscodeJobTest, ACopyIsDecodedAndBeginsBeforeTheCut)
+{
+    useTool("case \"$*\" in *'-f null'*) echo \"$*\" > '" + path(u"decoding"_s).toUtf8() +
+            "';; esac\nexec \"$real\" \"$@\"");
+    TranscodePlan plan = planFor({film(u"ts"_s)}, u"mkv-copy"_s);
+    plan.pieces = {{.start = 0.6, .end = 2}};
+    plan.exactCuts = false;
+    const JobOutcome outcome = run(plan).outcome;
+    EXPECT_EQ(int(outcome.state), int(JobState::Done)) << outcome.sentence.english().toStdString();
+    EXPECT_GT(outcome.facts[u"seconds"_s].toDouble(), 1.9) << "nothing that was wanted is lost";
+    EXPECT_TRUE(QFile::exists(path(u"decoding"_s)) && !test::readBytes(path(u"decoding"_s)).contains("nokey"));
+}
+
+TEST_F(TranscodeJobTest, TakenBackAtTheLastMoment)
+{
+    auto output = std::make_shared<OutputFile>(outputFolder(), u"film"_s, u"mkv"_s);
+    ASSERT_TRUE(output->isValid());
+    test::writeBytes(output->partPath(), "film");
+    const auto placing = std::make_shared<Placing>(std::move(output), std::nullopt);
+    bool isTold = false;
+    placing->start(QCoreApplication::instance(), [&isTold](const auto &) { isTold = true; });
+    foundation::queue::finishGlobal();
+    ASSERT_EQ(outputs(), QStringList{u"film.mkv"_s}) << "it has its name, and nobody was told";
+    placing->takeBack();
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(isTold);
+    EXPECT_TRUE(outputs().isEmpty());
 }
 
 TEST_F(TranscodeJobTest, TheRecipeKnowsWhatAJobNeeds)

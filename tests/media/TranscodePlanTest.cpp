@@ -50,6 +50,8 @@ TranscodePlan fullPlan()
     plan.fadeIn = 1;
     plan.fadeOut = 2;
     plan.audioTracks = {2, 1};
+    plan.soundLanguages = u"en"_s;
+    plan.subtitleLanguages = u"none"_s;
     plan.mix = TranscodePlan::SoundMix::Surround51;
     plan.normalizes = true;
     plan.volume = -6;
@@ -73,7 +75,7 @@ TEST(TranscodePlan, ComesBackAsItWasStored)
     ASSERT_TRUE(plan);
     EXPECT_EQ(plan->toJson(), stored);
     // Each field differs from its default, so one that is not stored would be missing here.
-    EXPECT_EQ(stored.size(), 41);
+    EXPECT_EQ(stored.size(), 43);
 }
 
 TEST(TranscodePlan, DefaultsAreNotStored)

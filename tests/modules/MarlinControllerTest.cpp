@@ -132,14 +132,16 @@ TEST_F(MarlinControllerTest, FilesCanBeDroppedOnTheRows)
     open({film});
     controller->view()->show();
     QMimeData files;
-    files.setUrls({QUrl::fromLocalFile(film), QUrl::fromLocalFile(clip(u"other.mkv"_s))});
+    files.setUrls({QUrl::fromLocalFile(film), QUrl::fromLocalFile(clip(u"part 10.mkv"_s)),
+                   QUrl::fromLocalFile(clip(u"part 9.mkv"_s))});
     QDragEnterEvent enter({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(find<JobListView>(u"jobList"_s)->viewport(), &enter);
     EXPECT_TRUE(enter.isAccepted());
     QDropEvent drop({5, 5}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
     QApplication::sendEvent(find<JobListView>(u"jobList"_s)->viewport(), &drop);
     wait();
-    EXPECT_EQ(queue().order(module).size(), 2);
+    ASSERT_EQ(queue().order(module).size(), 3);
+    EXPECT_EQ(recordAt(1).title, u"part 9.mkv");
 }
 
 TEST_F(MarlinControllerTest, WhatIsLeftOutStandsInTheRowBeforeTheStart)
@@ -170,9 +172,12 @@ TEST_F(MarlinControllerTest, PresetIsForTheSelectedOrForAllAndIsRemembered)
     EXPECT_EQ(planAt(0).preset.id, u"mkv-h265");
     EXPECT_EQ(planAt(1).preset.id, u"mkv-h265");
     find<JobListView>(u"jobList"_s)->select(idAt(1));
+    emit find<QComboBox>(u"rateControl"_s)->activated(1);
+    EXPECT_EQ(planAt(1).rateControl, TranscodePlan::RateControl::Quality);
     choose(u"mkv-vp9"_s);
     EXPECT_EQ(planAt(0).preset.id, u"mkv-h265");
     EXPECT_EQ(planAt(1).preset.id, u"mkv-vp9");
+    EXPECT_EQ(planAt(1).rateControl, TranscodePlan::RateControl::Preset) << "a number for another encoder";
     start();
     EXPECT_EQ(find<QComboBox>(u"targetComboBox"_s)->currentData(), u"mkv-h265"_s);
 

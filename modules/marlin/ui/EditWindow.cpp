@@ -34,6 +34,7 @@ namespace {
 using tarnwell::operator""_key;
 
 constexpr QSize framePoints{420, 260};
+constexpr qsizetype shownAtOnce = 20;  // new marks on the time line
 
 }  // namespace
 
@@ -47,7 +48,8 @@ EditWindow::EditWindow(Subject subject, const JKestrelSettingDispatcher &setting
       m_sourceFrames(new FrameMaker(this)),
       m_resultFrames(new FrameMaker(this)),
       m_snapshots(new FrameMaker(this)),
-      m_controls(new OptionControls(this))
+      m_controls(new OptionControls(this)),
+      m_keys(m_subject.source)
 {
     setAttribute(Qt::WA_DeleteOnClose);
     m_form->setupUi(this);
@@ -60,6 +62,7 @@ EditWindow::EditWindow(Subject subject, const JKestrelSettingDispatcher &setting
     showPlan();
     m_timeLine->setPosition(duration() / 10);
     showFrames(true);
+    findKeyPictures();
     tarnwell::tabInLayoutOrder(*this);
     tarnwell::leaveRoomForFrame(this);
 }
@@ -151,7 +154,6 @@ void EditWindow::connectButtons()
     };
     for (const auto &[button, action, keys] : rows) {
         button->setAutoDefault(false);
-        button->setAccessibleName(button->text());
         connect(button, &QPushButton::clicked, this, action);
         if (!keys.isEmpty())
             connect(new QShortcut(keys, this), &QShortcut::activated, this, action);
@@ -199,6 +201,7 @@ void EditWindow::showPlan()
     m_sourceView->setCrop(plan.crop);
     m_timeLine->setPieces(plan.pieces);
     m_pieces->setPieces(plan.pieces);
+    showKeyPictures();
     const QRectF crop = plan.crop.isEmpty() ? QRectF(0, 0, 1, 1) : plan.crop;
     const double sides[] = {crop.left(), crop.top(), 1 - crop.right(), 1 - crop.bottom()};
     for (int side = 0; side < 4; ++side) {
@@ -228,6 +231,47 @@ void EditWindow::showFrames(bool sourceToo)
 void EditWindow::showMessage(const QString &text)
 {
     m_form->messageLabel->setText(text);
+}
+
+/// A cut that nothing is encoded for begins at one of them.
+void EditWindow::findKeyPictures()
+{
+    if (!m_subject.source.hasVideo())
+        return;
+    m_keyPath = std::make_unique<ToolPath>(m_subject.plan.sources.first());
+    m_keyScan = std::make_unique<ToolProcess>(
+        KeyPictures::command(m_subject.tools.prober, m_keyPath->argument(), m_subject.source));
+    connect(m_keyScan.get(), &ToolProcess::outputLine, this, [this](const QByteArray &line) {
+        if (m_keys.readLine(line) && m_keys.times().size() % shownAtOnce == 0)
+            showKeyPictures();
+    });
+    connect(m_keyScan.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
+        m_keyScan.release()->deleteLater();
+        if (ending.isGood())
+            m_keys.finish();
+        showKeyPictures();
+    });
+    m_keyScan->start();
+}
+
+void EditWindow::showKeyPictures()
+{
+    const TranscodePlan &plan = m_subject.plan;
+    m_timeLine->setKeyPictures(m_keys);
+    m_timeLine->setSnapping(!plan.exactCuts);
+    QString text;
+    if (cutsAtKeyPictures(plan, {m_subject.source}, m_subject.tools.machine)) {
+        for (const TranscodePlan::Piece &piece : plan.pieces) {
+            const auto key = m_keys.atOrBefore(piece.start);
+            if (text.isEmpty() && key && timeText(*key) != timeText(piece.start))
+                text = tarnwell::Sentence("Without encoding, what starts at %1 begins at %2."_key,
+                                          {timeText(piece.start), timeText(*key)})
+                           .localized();
+        }
+    }
+    if (!text.isEmpty() || m_form->messageLabel->text() == m_cutText)
+        showMessage(text);
+    m_cutText = text;
 }
 
 void EditWindow::findBars()

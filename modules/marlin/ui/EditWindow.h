@@ -2,6 +2,7 @@
 
 #include "TrialRun.h"
 
+#include "media/KeyPictures.h"
 #include "media/TranscodeJob.h"
 
 #include <QDialog>
@@ -56,6 +57,8 @@ private:
     void takeCropBoxes();
     void showPlan();
     void showFrames(bool sourceToo);
+    void findKeyPictures();
+    void showKeyPictures();
     void findBars();
     void takeBars(const class PictureScan &scan);
     void toggleTrial();
@@ -77,8 +80,10 @@ private:
     PieceList *m_pieces = nullptr;
     QDoubleSpinBox *m_cropBoxes[4] = {};  ///< left, top, right, bottom; percent that are cut off
     TrialRun m_trial;
-    std::unique_ptr<ToolPath> m_scanPath;
-    std::unique_ptr<ToolProcess> m_scan;
+    std::unique_ptr<ToolPath> m_scanPath, m_keyPath;
+    std::unique_ptr<ToolProcess> m_scan, m_keyScan;
+    KeyPictures m_keys;
+    QString m_cutText;  ///< where a cut without encoding really begins, as the message shows it
 };
 
 }  // namespace kestrel

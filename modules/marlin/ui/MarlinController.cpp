@@ -122,7 +122,8 @@ void MarlinController::showFirstOpenAppTip(bool show)
 void MarlinController::openFiles(const QStringList &paths)
 {
     m_view->makeContents();
-    foundation::queue::asyncGlobal([self = QPointer(this), paths] {
+    foundation::queue::asyncGlobal([self = QPointer(this), paths = paths]() mutable {
+        sortNaturally(paths);  // file managers hand them over in any order
         const MediaFiles files = mediaFiles(paths);
         foundation::queue::asyncMain([self, files] {
             if (self)

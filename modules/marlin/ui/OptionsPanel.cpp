@@ -196,9 +196,15 @@ void OptionsPanel::show()
         : m_ids.size() == 1 ? m_conversions.queue().record(first)->title
                             : tarnwell::Sentence("%1 files selected"_key, {QString::number(m_ids.size())}).localized());
     m_controls->show(plan);
-    const QList<MediaInformation> sources =
-        m_ids.size() == 1 ? m_conversions.information(first) : QList<MediaInformation>();
-    m_tracks->show(plan, sources.isEmpty() ? nullptr : &sources.first(), m_conversions.tools().machine.language);
+    constexpr qsizetype lookedAt = 50;
+    const QList<JobId> startable = m_ids.isEmpty() ? m_conversions.startable() : QList<JobId>();
+    QList<MediaInformation> sources;
+    for (const JobId id : (m_ids.isEmpty() ? startable : m_ids).mid(0, lookedAt))
+        sources += m_conversions.information(id).mid(0, 1);
+    TranscodePlan subject = plan;
+    if (m_ids.size() != 1)
+        subject.sources.clear();
+    m_tracks->show(subject, sources, m_conversions.tools().machine.language);
     if (!m_nameEdit->hasFocus())
         m_nameEdit->setText(plan.namePattern);
     const QSignalBlocker blocker(m_mergeBox);

@@ -22,6 +22,7 @@ constexpr int cells = 10;
 constexpr int lineHeight = 56;
 constexpr int barHeight = 4;
 constexpr int focusBorder = 2;
+constexpr double nextMark = 0.01;  ///< seconds, so that a mark that one stands on is left
 
 }  // namespace
 
@@ -49,6 +50,12 @@ void TimeLine::setPieces(const QList<TranscodePlan::Piece> &pieces)
     update();
 }
 
+void TimeLine::setKeyPictures(const KeyPictures &keys)
+{
+    m_keys = keys;
+    update();
+}
+
 void TimeLine::setPosition(double seconds)
 {
     m_position = std::clamp(seconds, 0.0, m_seconds);
@@ -70,6 +77,27 @@ void TimeLine::go(double seconds)
 {
     setPosition(seconds);
     emit moved(m_position);
+}
+
+void TimeLine::click(double x)
+{
+    const double seconds = std::clamp(x / width() * m_seconds, 0.0, m_seconds);
+    go(m_snaps ? m_keys.atOrBefore(seconds).value_or(seconds) : seconds);
+}
+
+/// Not one beside the other: of such as stand closer only some are seen.
+void TimeLine::paintKeyPictures(QPainter &painter) const
+{
+    constexpr int closest = 5, markHeight = 10;
+    double last = -closest;
+    for (const double time : m_keys.times()) {
+        const double x = xOf(time);
+        if (x - last < closest)
+            continue;
+        painter.fillRect(QRectF(x - 2, 0, 4, markHeight + 1), QColor(palette::surface));
+        painter.fillRect(QRectF(x - 1, 0, 2, markHeight), QColor(palette::accent));
+        last = x;
+    }
 }
 
 void TimeLine::paintEvent(QPaintEvent *)
@@ -97,6 +125,7 @@ void TimeLine::paintEvent(QPaintEvent *)
     shade.setAlphaF(0.7F);
     for (const QRect &part : dropped)
         painter.fillRect(part, shade);
+    paintKeyPictures(painter);
     painter.fillRect(QRectF(xOf(m_position) - 1, 0, 3, height()), QColor(palette::surface));
     painter.fillRect(QRectF(xOf(m_position), 0, 1, height()), QColor(palette::error));
     if (hasFocus()) {
@@ -107,22 +136,23 @@ void TimeLine::paintEvent(QPaintEvent *)
 
 void TimeLine::mousePressEvent(QMouseEvent *event)
 {
-    go(event->position().x() / width() * m_seconds);
+    click(event->position().x());
 }
 
 void TimeLine::mouseMoveEvent(QMouseEvent *event)
 {
-    go(event->position().x() / width() * m_seconds);
+    click(event->position().x());
 }
 
 void TimeLine::keyPressEvent(QKeyEvent *event)
 {
     const double step = event->modifiers() & Qt::ShiftModifier ? 10 : 1;
+    const bool isToMark = event->modifiers() & Qt::ControlModifier;
     switch (event->key()) {
         case Qt::Key_Left:
-            return go(m_position - step);
+            return go(isToMark ? m_keys.atOrBefore(m_position - nextMark).value_or(m_position) : m_position - step);
         case Qt::Key_Right:
-            return go(m_position + step);
+            return go(isToMark ? m_keys.after(m_position + nextMark).value_or(m_position) : m_position + step);
         case Qt::Key_Home:
             return go(0);
         case Qt::Key_End:

@@ -2,6 +2,7 @@
 
 #include "foundation/LanguageTags.h"
 #include "media/Encoders.h"
+#include "media/TrackPlan.h"
 #include "tarnwell/TextKey.h"
 #include "tarnwell/ui/TabOrder.h"
 #include "tarnwell/ui/TextStyles.h"
@@ -59,32 +60,83 @@ QString TrackOptions::nameOf(const MediaTrack &track) const
     return parts.join(u" · "_s);
 }
 
-void TrackOptions::show(const TranscodePlan &plan, const MediaInformation *source, const QString &language)
+void TrackOptions::show(const TranscodePlan &plan, const QList<MediaInformation> &sources, const QString &language)
 {
     m_language = language;
-    QString shown = plan.sources.join(u'\n') + (source ? u'+' : u'-');
+    const bool isOne = sources.size() == 1 && !plan.sources.isEmpty();
+    QStringList shown = plan.sources.mid(0, isOne ? 1 : 0);
+    for (const MediaInformation &source : sources) {
+        for (const MediaTrack &track : source.tracks)
+            shown.append(track.language);
+    }
     for (const Plan::ExternalSubtitle &file : plan.externalSubtitles)
-        shown += u'\n' + file.path;
+        shown.append(file.path);
     // Where another is burnt in now, this one no longer is.
-    shown += QString::number(plan.subtitles.key(Plan::SubtitleUse::Burn, -1));
+    shown +=
+        {QString::number(plan.subtitles.key(Plan::SubtitleUse::Burn, -1)), plan.soundLanguages, plan.subtitleLanguages};
     if (shown == m_shown)
         return;
     m_shown = shown;
-    for (QWidget *widget : std::as_const(m_made))
+    QString focused;
+    for (QWidget *widget : std::as_const(m_made)) {
+        if (widget->hasFocus())
+            focused = widget->objectName();
         widget->deleteLater();
+    }
     m_made.clear();
-    if (source) {
-        showSounds(plan, *source);
-        showSubtitles(plan, *source);
+    if (isOne) {
+        showSounds(plan, sources.first());
+        showSubtitles(plan, sources.first());
         showFiles(plan);
+    } else {
+        showLanguages(plan, sources, MediaTrack::Kind::Audio);
+        showLanguages(plan, sources, MediaTrack::Kind::Subtitle);
     }
     for (QVBoxLayout *layout : {m_soundLayout, m_subtitleLayout}) {
-        if (!source) {
+        if (!isOne) {
             m_made.append(hintLabel("Select one file in the list to choose among its tracks."_key));
             layout->addWidget(m_made.last());
         }
         tarnwell::tabInLayoutOrder(*layout->parentWidget());
     }
+    for (QWidget *widget : std::as_const(m_made)) {
+        if (!focused.isEmpty() && widget->objectName() == focused)
+            widget->setFocus();
+    }
+}
+
+/// Those that the files have, each once.
+void TrackOptions::showLanguages(const TranscodePlan &plan, const QList<MediaInformation> &sources,
+                                 MediaTrack::Kind kind)
+{
+    const bool isSound = kind == MediaTrack::Kind::Audio;
+    const QString chosen = isSound ? plan.soundLanguages : plan.subtitleLanguages;
+    auto *box = new QComboBox;
+    box->setObjectName(isSound ? u"soundLanguages"_s : u"subtitleLanguages"_s);
+    box->setAccessibleName((isSound ? "Languages of sound"_key : "Languages of subtitles"_key).localized());
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->addItem("All languages"_key.localized(), QString());
+    if (!isSound)
+        box->addItem("No subtitles"_key.localized(), u"none"_s);
+    const auto add = [&](const QString &code) {
+        const QString name = foundation::languageDisplayName(code, m_language);
+        if (!code.isEmpty() && box->findText(name) < 0)
+            box->addItem(name, code);
+    };
+    for (const MediaInformation &source : sources) {
+        for (const MediaTrack &track : source.tracksOf(kind))
+            add(track.language);
+    }
+    if (box->findData(chosen) < 0)
+        add(chosen);
+    box->setCurrentIndex(box->findData(chosen));
+    connect(box, &QComboBox::activated, this, [this, box, isSound](int index) {
+        emit changed([isSound, code = box->itemData(index).toString()](TranscodePlan &changing) {
+            (isSound ? changing.soundLanguages : changing.subtitleLanguages) = code;
+        });
+    });
+    (isSound ? m_soundLayout : m_subtitleLayout)->addWidget(box);
+    m_made.append(box);
 }
 
 void TrackOptions::showSounds(const TranscodePlan &plan, const MediaInformation &source)
@@ -93,17 +145,19 @@ void TrackOptions::showSounds(const TranscodePlan &plan, const MediaInformation 
     QList<int> all;
     for (const MediaTrack &track : tracks)
         all.append(track.index);
+    const QList<int> wanted = wantedSoundIndexes(plan, source);
     for (const MediaTrack &track : tracks) {
         auto *box = new QCheckBox(nameOf(track));
-        box->setChecked(!plan.audioTracks || plan.audioTracks->contains(track.index));
-        connect(box, &QCheckBox::toggled, this, [this, all, index = track.index](bool isKept) {
-            emit changed([all, index, isKept](TranscodePlan &changing) {
-                QList<int> kept = changing.audioTracks.value_or(all);
+        box->setChecked(wanted.contains(track.index));
+        connect(box, &QCheckBox::toggled, this, [this, all, wanted, index = track.index](bool isKept) {
+            emit changed([all, wanted, index, isKept](TranscodePlan &changing) {
+                QList<int> kept = changing.audioTracks.value_or(wanted);
                 kept.removeAll(index);
                 if (isKept)
                     kept.append(index);
                 std::sort(kept.begin(), kept.end());
-                changing.audioTracks = kept == all ? std::nullopt : std::optional(kept);
+                const bool isAll = kept == all && changing.soundLanguages.isEmpty();
+                changing.audioTracks = isAll ? std::nullopt : std::optional(kept);
             });
         });
         m_soundLayout->addWidget(box);
@@ -139,7 +193,7 @@ QWidget *TrackOptions::line(const QString &text, Plan::SubtitleUse use,
 void TrackOptions::showSubtitles(const TranscodePlan &plan, const MediaInformation &source)
 {
     for (const MediaTrack &track : source.tracksOf(MediaTrack::Kind::Subtitle)) {
-        line(nameOf(track), plan.subtitles.value(track.index, Plan::SubtitleUse::Keep),
+        line(nameOf(track), useOfSubtitle(plan, track),
              [index = track.index](TranscodePlan &changing, Plan::SubtitleUse use) {
                  // Only one can be burnt in.
                  if (use == Plan::SubtitleUse::Burn)

@@ -12,15 +12,16 @@ class QWidget;
 
 namespace kestrel {
 
-/// The tracks of one file by name: which sounds are kept, what becomes of each subtitle, and subtitles from files.
+/// The tracks of one file by name: which sounds are kept, what becomes of each subtitle, and subtitles from files. For
+/// several files the languages that are kept.
 class TrackOptions : public QObject {
     Q_OBJECT
 public:
     /// The two pages get controls of their own below what they have.
     TrackOptions(QVBoxLayout *sounds, QVBoxLayout *subtitles, QObject *parent = nullptr);
 
-    /// No information stands for no file, or several.
-    void show(const TranscodePlan &plan, const MediaInformation *source, const QString &language);
+    /// The plan is that of one file where it names sources.
+    void show(const TranscodePlan &plan, const QList<MediaInformation> &sources, const QString &language);
 
 signals:
     void changed(const std::function<void(kestrel::TranscodePlan &)> &change);
@@ -29,6 +30,7 @@ private:
     void showSounds(const TranscodePlan &plan, const MediaInformation &source);
     void showSubtitles(const TranscodePlan &plan, const MediaInformation &source);
     void showFiles(const TranscodePlan &plan);
+    void showLanguages(const TranscodePlan &plan, const QList<MediaInformation> &sources, MediaTrack::Kind kind);
     void chooseFile();
     QString nameOf(const MediaTrack &track) const;
     QWidget *line(const QString &text, TranscodePlan::SubtitleUse use,
@@ -37,7 +39,8 @@ private:
     QVBoxLayout *m_soundLayout;
     QVBoxLayout *m_subtitleLayout;
     QString m_language;
-    QString m_shown;  ///< what the controls were made for: as long as it is the same they stay, and with them the focus
+    QStringList
+        m_shown;  ///< what the controls were made for: as long as it is the same they stay, and with them the focus
     QList<QWidget *> m_made;
 };
 
