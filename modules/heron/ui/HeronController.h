@@ -10,6 +10,7 @@
 #include <QPointer>
 
 class QComboBox;
+class QPushButton;
 
 namespace kestrel {
 
@@ -18,6 +19,7 @@ class DiscView;
 class JobPage;
 class JobQueue;
 class LateView;
+class MediaPlayer;
 
 /// The DVD module: a disc, its titles and the way to keep them above the list of jobs. Drives are watched while the
 /// module is open; what is in one that was put in last is shown where no disc is.
@@ -44,9 +46,11 @@ private:
     std::unique_ptr<QWidget> makeContents();
     void makeHeader();
     void makeChoices();
+    void addKeys();
     JobQueue &queue();
     DiscTools tools() const;
 
+    static void warn(const QString &message);
     void chooseImage();
     void chooseFolder();
     void openSource(const QString &source);
@@ -55,6 +59,10 @@ private:
     void showChoice();
     void showSizes();
     void showArea();
+
+    void playTitle(int number);
+    void playResult(const QString &path);
+    void playFilm(const DiscPlan &plan, const QStringList &choice, const QString &name);
 
     DiscWay way() const;
     Preset preset() const;
@@ -77,7 +85,9 @@ private:
     std::unique_ptr<DiscList> m_list;
     QPointer<JobPage> m_page;
     QPointer<DiscView> m_disc;
+    QPointer<MediaPlayer> m_player;
     QPointer<QComboBox> m_driveBox, m_ways, m_presets;
+    QPointer<QPushButton> m_optionsButton;
 };
 
 }  // namespace kestrel
