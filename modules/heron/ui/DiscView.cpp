@@ -56,10 +56,10 @@ DiscView::DiscView(const QString &language, QWidget *parent)
     m_form->coverLabel->setFixedSize(coverSize);
     m_form->titles->setIconSize(titlePictureSize);
     m_form->titles->setHeaderLabels({"Title"_key.localized(), "Length"_key.localized(), "Details"_key.localized()});
-    m_form->titles->header()->setSectionResizeMode(0, QHeaderView::Stretch);
+    // What is long gives way: the details have it as a tooltip too.
+    m_form->titles->header()->setSectionResizeMode(0, QHeaderView::ResizeToContents);
     m_form->titles->header()->setSectionResizeMode(1, QHeaderView::ResizeToContents);
-    m_form->titles->header()->setSectionResizeMode(2, QHeaderView::ResizeToContents);
-    m_form->titles->header()->setStretchLastSection(false);
+    m_form->titles->header()->setSectionResizeMode(2, QHeaderView::Stretch);
     m_form->titles->setAccessibleName("Titles of the disc"_key.localized());
     m_form->layout->addWidget(m_options);
     m_options->hide();
@@ -154,8 +154,12 @@ void DiscView::addTitle(const disc::DiscTitle &title, const DiscPlan &plan)
     if (title.duplicateOf > 0)
         facts.append(Sentence("same as title %1"_key, {QString::number(title.duplicateOf)}).localized());
     item->setText(2, facts.join(u", "_s));
+    item->setToolTip(2, item->text(2));
     item->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
-    item->setSizeHint(0, QSize(0, titlePictureSize.height() + 6));
+    item->setSizeHint(2, QSize(0, titlePictureSize.height() + 6));
+    QPixmap place(titlePictureSize);
+    place.fill(Qt::transparent);
+    item->setIcon(0, QIcon(place));
     item->setData(0, NumberRole, title.number);
     item->setData(0, KindRole, TitleItem);
     item->setCheckState(0, title.isMain ? Qt::Checked : Qt::Unchecked);
