@@ -24,8 +24,9 @@ namespace {
 
 constexpr QSize coverSize{180, 120}, titlePictureSize{64, 40};
 
-/// As large as the place takes it, at its own shape.
-QPixmap pictureFor(const QString &path, QSize size, qreal scale)
+}  // namespace
+
+QPixmap discPicture(const QString &path, QSize size, qreal scale)
 {
     constexpr int mostPixels = 4096;
     QImageReader reader(path);
@@ -37,8 +38,6 @@ QPixmap pictureFor(const QString &path, QSize size, qreal scale)
     pixmap.setDevicePixelRatio(scale);
     return pixmap;
 }
-
-}  // namespace
 
 DiscView::DiscView(const QString &language, QWidget *parent)
     : QWidget(parent),
@@ -196,14 +195,14 @@ QTreeWidgetItem *DiscView::itemOf(int title) const
 void DiscView::setPicture(int title, const QString &path)
 {
     if (title == 0) {
-        const QPixmap cover = pictureFor(path, coverSize, devicePixelRatioF());
+        const QPixmap cover = discPicture(path, coverSize, devicePixelRatioF());
         if (!cover.isNull())
             m_form->coverLabel->setPixmap(cover);
         return;
     }
     const QSignalBlocker blocker(m_form->titles);
     if (QTreeWidgetItem *item = itemOf(title))
-        item->setIcon(0, QIcon(pictureFor(path, titlePictureSize, devicePixelRatioF())));
+        item->setIcon(0, QIcon(discPicture(path, titlePictureSize, devicePixelRatioF())));
     m_form->titles->viewport()->update();
 }
 

@@ -5,6 +5,7 @@
 #include "modules/heron/DiscTexts.h"
 
 #include <QHash>
+#include <QPixmap>
 #include <QWidget>
 
 #include <memory>
@@ -16,6 +17,9 @@ class DiscView;
 }
 
 namespace kestrel {
+
+/// Of a file, as large as the place takes it, at its own shape; null where it is none.
+QPixmap discPicture(const QString &path, QSize size, qreal scale);
 
 /// A disc as its owner sees it: cover, name and length, and its titles with their tracks, to be chosen by check boxes.
 class DiscView : public QWidget {

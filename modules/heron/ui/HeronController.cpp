@@ -5,6 +5,7 @@
 #include "jobs/DiskSpace.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobPage.h"
+#include "jobs/ui/JobRowDelegate.h"
 #include "modules/ModuleRow.h"
 #include "modules/common/LateView.h"
 #include "modules/common/MediaPlayer.h"
@@ -12,6 +13,7 @@
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
+#include "tarnwell/ui/Images.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -31,6 +33,11 @@ using tarnwell::Sentence;
 using tarnwell::operator""_key;
 
 namespace {
+
+QString pictureKey(const QString &source, int title)
+{
+    return source + u'\n' + QString::number(title);
+}
 
 QString sizeText(qint64 bytes)
 {
@@ -290,6 +297,22 @@ QList<DiscPlan> HeronController::plans() const
         plans.append(plan);
     }
     return plans;
+}
+
+void HeronController::keepPicture(int title, const QString &path)
+{
+    constexpr qsizetype mostPictures = 500;
+    if (m_rowPictures.size() >= mostPictures)
+        m_rowPictures.clear();
+    m_rowPictures.insert(pictureKey(m_source, title),
+                         discPicture(path, JobRowDelegate::pictureSize, m_page->devicePixelRatioF()));
+    m_list->showPicturesAgain();
+}
+
+QVariant HeronController::pictureOf(const JobRecord &record) const
+{
+    const QPixmap picture = m_rowPictures.value(pictureKey(record.source, record.plan["title"_L1].toInt()));
+    return picture.isNull() ? tarnwell::namedImage(u"heron_disc"_s, m_page->devicePixelRatioF()) : picture;
 }
 
 /// As it would be kept: the same chapters and angle, the sound that comes first, the subtitles in the picture.

@@ -6,7 +6,9 @@
 #include "modules/heron/DiscProbe.h"
 #include "modules/heron/DiscRecipe.h"
 
+#include <QHash>
 #include <QObject>
+#include <QPixmap>
 #include <QPointer>
 
 class QComboBox;
@@ -60,6 +62,8 @@ private:
     void showSizes();
     void showArea();
 
+    void keepPicture(int title, const QString &path);
+    QVariant pictureOf(const JobRecord &record) const;
     void playTitle(int number);
     void playResult(const QString &path);
     void playFilm(const DiscPlan &plan, const QStringList &choice, const QString &name);
@@ -78,6 +82,7 @@ private:
     DiscProbe m_probe;
     DiscPictures m_pictures;
     DiscDrives m_drives;
+    QHash<QString, QPixmap> m_rowPictures;         ///< of the discs that were shown, by source and title
     QString m_source;                              ///< of the disc that is shown; null for none
     std::optional<disc::DiscContents> m_contents;  ///< once it has answered
     std::unique_ptr<LateView> m_view;

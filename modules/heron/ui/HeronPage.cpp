@@ -57,6 +57,8 @@ std::unique_ptr<QWidget> HeronController::makeContents()
     connect(m_disc, &DiscView::choiceChanged, this, &HeronController::showChoice);
     connect(m_disc, &DiscView::playRequested, this, &HeronController::playTitle);
     connect(&m_pictures, &DiscPictures::made, m_disc, &DiscView::setPicture);
+    connect(&m_pictures, &DiscPictures::made, this, &HeronController::keepPicture);
+    m_list->setPictures([this](const JobRecord &record) { return pictureOf(record); });
     connect(m_page, &JobPage::backClicked, this, &HeronController::doBackAction);
     connect(m_page, &JobPage::addClicked, this, &HeronController::chooseImage);
     connect(m_page, &JobPage::pathsDropped, this, &HeronController::openFiles);
