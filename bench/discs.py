@@ -54,7 +54,7 @@ def main():
             ('contents', 'discinfo', [os.path.join(tools, 'discinfo'), disc], False),
             ('contents', 'lsdvd', ['lsdvd', '-x', disc], False),
             ('image', 'disc2iso', [os.path.join(tools, 'disc2iso'), disc, out + '/disc.iso'], False),
-            ('image', 'dd', ['dd', 'if=' + disc, f'of={out}/disc.iso', 'bs=2048'], False),
+            ('image', 'dd', ['dd', 'if=' + disc, f'of={out}/disc.iso', 'bs=1M', 'iflag=direct', 'status=none'], False),
             ('image, checked', 'kestrel-cli', [*keep, 'image', disc], False),
             ('folder, checked', 'kestrel-cli', [*keep, 'folder', disc], False),
             ('folder', 'dvdbackup', ['dvdbackup', '-M', '-i', disc, '-o', out], False),

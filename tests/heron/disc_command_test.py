@@ -5,6 +5,7 @@ say where things are."""
 import filecmp
 import json
 import os
+import plistlib
 import subprocess
 import tempfile
 import unittest
@@ -190,9 +191,24 @@ class Titles(DiscCommand):
         self.assertEqual([round(float(c["start_time"])) for c in found["chapters"]], [0, 3])
         self.assertAlmostEqual(length(probe(self.keep_one("copy", "--way", "mkv", "--angle", "2", disc("angles.iso")))), 9, delta=0.3)
 
+    def prefer(self, language):
+        """As the settings window stores it."""
+        uid, class_of = plistlib.UID, lambda name: {"$classname": name, "$classes": [name, "NSObject"]}
+        archive = {"$archiver": "NSKeyedArchiver", "$version": 100000, "$top": {"root": uid(1)}, "$objects": [
+            "$null", {"NS.keys": [uid(2)], "NS.objects": [uid(3)], "$class": uid(6)}, "dvd", {"DVDAudioLanCode": uid(4), "$class": uid(5)},
+            language, class_of("JDVDSetting"), class_of("NSMutableDictionary")]}
+        with open(os.path.join(self.out, "../config/com.tarnwell.kestrel/defaults.plist"), "wb") as file:
+            plistlib.dump({"setting": plistlib.dumps(archive, fmt=plistlib.FMT_BINARY)}, file)
+
     def test_the_preferred_language_comes_first(self):
-        found = probe(self.keep_one("rip", "--preset", "mkv-h264", "--audio", "2,1", "--speed", "2", "--burn", "1", disc("plain.iso")))
-        self.assertEqual([codec for codec, _ in tracks(found, "audio")][:1] and tracks(found, "audio")[0][1], "ger")
+        os.makedirs(os.path.join(self.out, "../config/com.tarnwell.kestrel"))
+        for language, order in (("fr", ["fre", "eng"]), ("ja", ["eng", "fre"])):
+            self.prefer(language)
+            found = probe(self.keep_one("copy", "--way", "sound", disc("steps.iso")))
+            self.assertEqual([language for _, language in tracks(found, "audio")], order)
+
+    def test_subtitles_are_drawn_into_the_picture(self):
+        found = probe(self.keep_one("rip", "--preset", "mkv-h264", "--speed", "2", "--burn", "1", disc("plain.iso")))
         self.assertEqual((tracks(found, "video")[0][0], tracks(found, "subtitle")), ("h264", []))
         self.assertAlmostEqual(length(found), 12, delta=0.3)
         self.assertEqual((found["streams"][0]["display_aspect_ratio"], len(found["chapters"])), ("4:3", 4))
