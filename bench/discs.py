@@ -60,7 +60,7 @@ def main():
             ('folder', 'dvdbackup', ['dvdbackup', '-M', '-i', disc, '-o', out], False),
             ('film as it is', 'kestrel-cli', [*keep, 'mkv', disc], True),
             ('film to H.264', 'kestrel-cli', [cli, 'disc', 'rip', '--preset', 'mkv-h264', '--to', out, disc], True),
-            ('film to H.264', 'HandBrakeCLI', ['HandBrakeCLI', '-i', disc, '--main-feature', '-f', 'av_mkv', '-e', 'x264', '-q', '21',
+            ('film to H.264', 'HandBrakeCLI', ['HandBrakeCLI', '-i', disc, '--main-feature', '--min-duration', '1', '-f', 'av_mkv', '-e', 'x264', '-q', '21',
                                                '--encoder-preset', 'medium', '--all-audio', '--all-subtitles', '-m', '-o', out + '/film.mkv'], True),
         )
         for what, program, command, is_film in rows:
