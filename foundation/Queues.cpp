@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <memory>
+#include <thread>
 #include <utility>
 
 #ifdef __SANITIZE_THREAD__
@@ -94,6 +95,11 @@ bool syncMain(const Job &job)
 void asyncGlobal(Job job)
 {
     backgroundThreads().start(announced(std::move(job)));
+}
+
+void asyncDetached(Job job)
+{
+    std::thread(announced(std::move(job))).detach();
 }
 
 void finishGlobal()

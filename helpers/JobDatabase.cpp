@@ -49,6 +49,13 @@ constexpr const char *upsert =
     "SET module = excluded.module, position = excluded.position, state = excluded.state, owner = excluded.owner, "
     "value = excluded.value";
 
+/// Of what has ended, all but the newest 20,000, and but what fits into half of what is read.
+constexpr const char *outlived =
+    "FROM jobs WHERE id IN (SELECT id FROM (SELECT id, row_number() OVER newest AS count, "
+    "sum(length(CAST(value AS BLOB))) OVER newest AS bytes FROM jobs "
+    "WHERE state IN ('done', 'done-with-problems', 'failed', 'cancelled') WINDOW newest AS (ORDER BY id DESC)) "
+    "WHERE count > 20000 OR bytes > 134217728)";
+
 /// Held while a file is looked at and perhaps moved aside, so that two processes do not do that to each other's.
 class OpeningLock {
 public:
@@ -94,7 +101,7 @@ public:
     /// Opens it and looks whether it is whole and one of ours; writes nothing.
     FileState inspect();
     QList<JobRow> rows() override;
-    bool write(const QList<JobRow> &changed, const QList<qint64> &removed) override;
+    bool write(const Changes &changes) override;
     qint64 reserveIds(int count) override;
     QString lastError() const override { return m_error.text(); }
 
@@ -105,6 +112,7 @@ private:
     /// Runs the task in a transaction of its own, which is taken back where it fails.
     bool transact(const std::function<bool()> &task);
     bool create();
+    void prune();
     FileState kind();
     FileState failure() const;
 
@@ -229,6 +237,7 @@ FileState SqliteJobs::open()
     if (!run(u"PRAGMA journal_mode = WAL"_s) || !run(u"PRAGMA synchronous = FULL"_s) || !create() ||
         !run(QString::fromLatin1(columns)))
         return failure();
+    prune();
     return FileState::Good;
 }
 
@@ -248,14 +257,22 @@ QList<JobRow> SqliteJobs::rows()
     return rows;
 }
 
-bool SqliteJobs::write(const QList<JobRow> &changed, const QList<qint64> &removed)
+/// Looked for first: who only looks does not wait for another writer.
+void SqliteJobs::prune()
+{
+    if (number(u"SELECT count(*) "_s + QLatin1StringView(outlived)) > 0)
+        run(u"DELETE "_s + QLatin1StringView(outlived));
+}
+
+bool SqliteJobs::write(const Changes &changes)
 {
     return transact([&] {
-        QSqlQuery put(m_database), remove(m_database);
+        QSqlQuery put(m_database), place(m_database), remove(m_database);
         if (!noted(put, put.prepare(QString::fromLatin1(upsert))) ||
+            !noted(place, place.prepare(u"UPDATE jobs SET position = ? WHERE id = ?"_s)) ||
             !noted(remove, remove.prepare(u"DELETE FROM jobs WHERE id = ?"_s)))
             return false;
-        for (const JobRow &row : changed) {
+        for (const JobRow &row : changes.put) {
             const QVariant values[] = {row.id,    row.module, row.position,
                                        row.state, row.owner,  QString::fromUtf8(row.value)};
             for (int i = 0; i < int(std::size(values)); ++i)
@@ -263,7 +280,13 @@ bool SqliteJobs::write(const QList<JobRow> &changed, const QList<qint64> &remove
             if (!noted(put, put.exec()))
                 return false;
         }
-        for (const qint64 id : removed) {
+        for (const auto &[id, position] : changes.placed) {
+            place.bindValue(0, position);
+            place.bindValue(1, id);
+            if (!noted(place, place.exec()))
+                return false;
+        }
+        for (const qint64 id : changes.removed) {
             remove.bindValue(0, id);
             if (!noted(remove, remove.exec()))
                 return false;

@@ -26,8 +26,13 @@ public:
 
     /// By position. Rows that are too long, or not of these types, are left out.
     virtual QList<JobRow> rows() = 0;
+    struct Changes {
+        QList<JobRow> put;                        ///< new ones, or instead of those of the same id
+        QList<std::pair<qint64, double>> placed;  ///< new positions of those that are there
+        QList<qint64> removed;
+    };
     /// All of it or nothing; it is on the disk when this returns.
-    virtual bool write(const QList<JobRow> &changed, const QList<qint64> &removed) = 0;
+    virtual bool write(const Changes &changes) = 0;
     /// The first of so many identifiers that nobody else gets; 0 where that could not be written.
     virtual qint64 reserveIds(int count) = 0;
     /// Of the last call that failed, in English.

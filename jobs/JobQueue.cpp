@@ -2,6 +2,7 @@
 
 #include "JobRun.h"
 #include "JobStore.h"
+#include "StoredJob.h"
 #include "foundation/Queues.h"
 
 #include <QPointer>
@@ -80,6 +81,37 @@ void JobQueue::load()
         }
         emit inserted(name);
     }
+    lookForOutputs();
+}
+
+void JobQueue::lookForOutputs()
+{
+    QList<JobRecord> made;
+    for (const JobId id : idsIn({JobState::Done, JobState::DoneWithProblems}))
+        made.append(*record(id));
+    foundation::queue::asyncDetached([self = QPointer(this), made] {
+        QList<JobId> gone;
+        for (const JobRecord &record : made) {
+            if (!outputsAreThere(record))
+                gone.append(record.id);
+        }
+        foundation::queue::asyncMain([self, gone] {
+            for (const JobId id : gone) {
+                if (self)
+                    self->noteGone(id);
+            }
+        });
+    });
+}
+
+/// Not stored: the disk may be back.
+void JobQueue::noteGone(JobId id)
+{
+    Entry *entry = find(id);
+    if (!entry || (entry->record.state != JobState::Done && entry->record.state != JobState::DoneWithProblems))
+        return;  // it has been started again
+    setOutputsGone(entry->record);
+    emit changed(id);
 }
 
 JobId JobQueue::add(JobRecord record)
@@ -208,8 +240,10 @@ void JobQueue::move(const QList<JobId> &ids, JobId before)
         return;
     moveRanges(name, ranges, to);
     module.firstWaiting = 0;
-    for (const JobId id : module.order.settlePositions({to - countBefore, count}))
-        store(*find(id));
+    for (const JobId id : module.order.settlePositions({to - countBefore, count})) {
+        if (m_store)
+            m_store->place(id, module.order.positionOf(id));
+    }
 }
 
 void JobQueue::moveRanges(const QString &name, const QList<JobOrder::Range> &ranges, int to)

@@ -35,7 +35,8 @@ public:
     void setRecipe(const QString &module, JobRecipe *recipe);
     void setLaneLimit(Lane lane, int jobs);  ///< 0 holds the lane; takes effect at once, what runs goes on
     /// Reads the store, once and before anything is added. Nothing starts by itself: what waited when the program ended
-    /// is Ready. What is Checking is the module's to go on with.
+    /// is Ready. What is Checking is the module's to go on with. Jobs that are done but whose outputs are gone say so
+    /// soon afterwards.
     void load();
 
     JobId add(JobRecord record);              ///< at the end of its module's order
@@ -116,6 +117,8 @@ private:
     void later(std::chrono::milliseconds delay, std::function<void()> task);
 
     void removeRows(Module &module, const QString &name, const QList<JobId> &ids);
+    void lookForOutputs();
+    void noteGone(JobId id);
     void moveRanges(const QString &name, const QList<JobOrder::Range> &ranges, int to);
 
     void startSome();
@@ -146,7 +149,7 @@ private:
     std::array<LaneUse, laneCount> m_lanes;
     QList<JobId> m_active;
     QList<JobId> m_toStart;  ///< not Waiting yet
-    QSet<JobId> m_unshown;  ///< progress that came too soon after the last
+    QSet<JobId> m_unshown;   ///< progress that came too soon after the last
     JobId m_lastId = 0;
     quint64 m_lastTurn = 0;
     bool m_isScheduling = false;

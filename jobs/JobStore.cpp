@@ -53,13 +53,18 @@ public:
     QList<Row> load() override;
     JobId nextId() override;
     void put(const JobRecord &record, double position) override;
+    void place(JobId id, double position) override;
     void remove(const QList<JobId> &ids) override;
     void whenWritten(std::function<void()> then) override;
     bool flush(std::chrono::milliseconds patience) override;
 
 private:
     using Lock = std::unique_lock<std::mutex>;
-    using Changes = std::map<JobId, std::optional<Row>>;  ///< none: removed
+    struct Change {
+        enum class Kind { Put, Place, Remove } kind;
+        Row row = {};  ///< of Place, only the position; of Remove, nothing
+    };
+    using Changes = std::map<JobId, Change>;
 
     void work(const QString &path, const QString &libraryPath);
     std::unique_ptr<JobDatabase> opened(const QString &path, const QString &libraryPath);
@@ -68,6 +73,7 @@ private:
     void read(Lock &lock, JobDatabase &database);
     void write(Lock &lock, JobDatabase &database);
     Changes takeChanges();
+    void addOlder(JobId id, Change change);
     void note(const QString &failure);
 
     std::mutex m_mutex;
@@ -136,7 +142,15 @@ JobId ThreadedJobStore::nextId()
 void ThreadedJobStore::put(const JobRecord &record, double position)
 {
     const Lock lock(m_mutex);
-    m_changes[record.id] = Row{record, position};
+    m_changes[record.id] = {Change::Kind::Put, {record, position}};
+    m_isToWrite = true;
+    m_asked.notify_one();
+}
+
+void ThreadedJobStore::place(JobId id, double position)
+{
+    const Lock lock(m_mutex);
+    m_changes.try_emplace(id, Change{Change::Kind::Place}).first->second.row.position = position;
     m_isToWrite = true;
     m_asked.notify_one();
 }
@@ -145,7 +159,7 @@ void ThreadedJobStore::remove(const QList<JobId> &ids)
 {
     const Lock lock(m_mutex);
     for (const JobId id : ids)
-        m_changes[id] = std::nullopt;
+        m_changes[id] = {Change::Kind::Remove};
     m_isToWrite = true;
     m_asked.notify_one();
 }
@@ -243,7 +257,7 @@ void ThreadedJobStore::read(Lock &lock, JobDatabase &database)
     }
     lock.lock();
     for (Row &row : changed)
-        m_changes.try_emplace(row.record.id, std::move(row));
+        addOlder(row.record.id, {Change::Kind::Put, std::move(row)});
     m_isToWrite = m_isToWrite || !changed.isEmpty();
     m_loaded = std::move(loaded);
     m_isLoadAsked = false;
@@ -259,6 +273,16 @@ ThreadedJobStore::Changes ThreadedJobStore::takeChanges()
     return changes;
 }
 
+/// One from before those that stand there, which count.
+void ThreadedJobStore::addOlder(JobId id, Change change)
+{
+    const auto [newer, isOnly] = m_changes.try_emplace(id, change);
+    if (isOnly || newer->second.kind != Change::Kind::Place || change.kind != Change::Kind::Put)
+        return;
+    change.row.position = newer->second.row.position;
+    newer->second = std::move(change);
+}
+
 void ThreadedJobStore::write(Lock &lock, JobDatabase &database)
 {
     const quint64 flush = m_flushesAsked;
@@ -266,20 +290,22 @@ void ThreadedJobStore::write(Lock &lock, JobDatabase &database)
     const bool wasLast = m_changes.empty();
     m_isToWrite = !wasLast;
     lock.unlock();
-    QList<JobRow> changed;
-    QList<JobId> removed;
-    for (const auto &[id, row] : changes) {
-        if (row)
-            changed.append(storedJob(row->record, row->position));
+    JobDatabase::Changes rows;
+    for (const auto &[id, change] : changes) {
+        if (change.kind == Change::Kind::Put)
+            rows.put.append(storedJob(change.row.record, change.row.position));
+        else if (change.kind == Change::Kind::Place)
+            rows.placed.append({id, change.row.position});
         else
-            removed.append(id);
+            rows.removed.append(id);
     }
-    const bool isWritten = changes.empty() || database.write(changed, removed);
+    const bool isWritten = changes.empty() || database.write(rows);
     lock.lock();
     m_isFailing = !isWritten;
     if (!isWritten) {
         note(database.lastError());
-        m_changes.merge(changes);  // what is newer stays
+        for (auto &[id, change] : changes)
+            addOlder(id, std::move(change));
         m_isToWrite = false;
     } else if (!changes.empty()) {
         m_isFailureLogged = false;
@@ -341,8 +367,12 @@ foundation::Result<QList<ListedJob>> listJobs(const QString &path, const QString
     }
     QList<ListedJob> jobs;
     for (const JobRow &row : rows) {
-        if (const auto job = loadedJob(row))
-            jobs.append({job->row.record, job->holder, job->isToBeStored});
+        auto job = loadedJob(row);
+        if (!job)
+            continue;
+        if (!outputsAreThere(job->row.record))
+            setOutputsGone(job->row.record);
+        jobs.append({job->row.record, job->holder, job->isToBeStored});
     }
     return jobs;
 }

@@ -11,9 +11,9 @@
 namespace kestrel {
 
 /// What must survive a kill: the jobs of all modules, their order, options and outcome, in an SQLite file in Kestrel's
-/// data folder, written by a thread of its own. The window and `kestrel-cli` may have it open at the same time. A
-/// damaged file, or one of a newer version, is moved aside ("jobs.sqlite.damaged-<time>") and a new one begun. Progress
-/// is not stored.
+/// data folder, written by a thread of its own. Of jobs that have ended the newest 20,000 stay, or what takes 128 MB.
+/// The window and `kestrel-cli` may have it open at the same time. A damaged file, or one of a newer version, is moved
+/// aside ("jobs.sqlite.damaged-<time>") and a new one begun. Progress is not stored.
 class JobStore {
 public:
     virtual ~JobStore() = default;
@@ -24,13 +24,15 @@ public:
     };
 
     /// All jobs, in their order. What ran and whose owner has ended is Interrupted; what another process runs now is
-    /// left out. Jobs that are done but whose outputs are gone say so.
+    /// left out. Whether what was made is still there is not looked at: a disk may not answer.
     virtual QList<Row> load() = 0;
     /// An identifier that was never used, also by another process that has the store open.
     virtual JobId nextId() = 0;
     /// Writes a new or a changed job, in the background; the order of calls is kept. What could not be written is tried
     /// again with the next.
     virtual void put(const JobRecord &record, double position) = 0;
+    /// In the same way, only where the job stands: the rest of it may be newer in the store, from another process.
+    virtual void place(JobId id, double position) = 0;
     virtual void remove(const QList<JobId> &ids) = 0;
     /// Calls `then` on the main thread, later, when everything so far is on the disk or could not be written.
     virtual void whenWritten(std::function<void()> then);

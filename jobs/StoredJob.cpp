@@ -19,22 +19,6 @@ bool isHeld(JobState state)
     return state == JobState::Waiting || isActive(state);
 }
 
-/// Asked again at each load: a disk may be there again.
-void lookForOutputs(JobRecord &record)
-{
-    JobOutcome &outcome = record.outcome;
-    const tarnwell::Sentence gone(outputIsGone);
-    outcome.problems.removeAll(gone);
-    record.state = outcome.state;
-    const bool isThere = std::all_of(outcome.outputs.begin(), outcome.outputs.end(), [](const QString &path) {
-        return foundation::fileFacts(path).kind != foundation::FileKind::Missing;
-    });
-    if (isThere)
-        return;
-    outcome.problems.prepend(gone);
-    record.state = JobState::DoneWithProblems;
-}
-
 /// Of processes of another machine or container nobody knows; but no job takes a week.
 bool isAbandoned(const PartOwner &owner, const JobRecord &record)
 {
@@ -94,9 +78,26 @@ std::optional<LoadedJob> loadedJob(const JobRow &row)
     } else if (*state == JobState::Done || *state == JobState::DoneWithProblems) {
         if (record.outcome.state != JobState::DoneWithProblems)
             record.outcome.state = JobState::Done;
-        lookForOutputs(record);
+        record.state = record.outcome.state;
+        record.outcome.problems.removeAll(tarnwell::Sentence(outputIsGone));
     }
     return loaded;
+}
+
+bool outputsAreThere(const JobRecord &record)
+{
+    if (record.state != JobState::Done && record.state != JobState::DoneWithProblems)
+        return true;
+    const QStringList &outputs = record.outcome.outputs;
+    return std::all_of(outputs.begin(), outputs.end(), [](const QString &path) {
+        return foundation::fileFacts(path).kind != foundation::FileKind::Missing;
+    });
+}
+
+void setOutputsGone(JobRecord &record)
+{
+    record.state = JobState::DoneWithProblems;
+    record.outcome.problems.prepend(outputIsGone);
 }
 
 }  // namespace kestrel

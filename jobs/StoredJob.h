@@ -16,9 +16,12 @@ struct LoadedJob {
 };
 
 /// The job as it is now: interrupted where the process that ran it has ended, or done where its output had just got its
-/// name, Ready where it waited in such a one. One
-/// that is done but whose outputs are gone is DoneWithProblems, `outputIsGone`, for as long as they are: the store
-/// still has it as it ended. Nothing for rows that are no job.
+/// name, Ready where it waited in such a one. Nothing for rows that are no job.
 std::optional<LoadedJob> loadedJob(const JobRow &row);
+
+/// False for a job that is done where a file that it made is not there any more. Asks the disk.
+bool outputsAreThere(const JobRecord &record);
+/// It is DoneWithProblems, `outputIsGone`, then, until it is loaded again: the disk may be back.
+void setOutputsGone(JobRecord &record);
 
 }  // namespace kestrel

@@ -13,7 +13,6 @@ CliSession::CliSession(ModuleSettingKind kind)
 {
     if (!m_store)
         std::fprintf(stderr, "kestrel-cli: The list of jobs cannot be opened; what is done now is not kept in it.\n");
-    m_queue.load();
 }
 
 CliSession::~CliSession() = default;

@@ -92,6 +92,7 @@ ExitStatus retry(const Surroundings &surroundings, const Choice &choice)
 {
     CliSession session(ModuleSettingVideo);
     JobQueue &queue = session.queue();
+    queue.load();
     const AllRecipes recipes(queue);
     // A recording does not begin anew, but what there is of it may be made a film.
     const QList<JobId> recoverable = addRecoveries(queue);

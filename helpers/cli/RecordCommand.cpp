@@ -142,6 +142,7 @@ ExitStatus runRecord(const Surroundings &surroundings, const QStringList &argume
         return AllDone;
     if (!left->isEmpty())
         return wrongUsage(u"\"record\" takes no \"%1\"."_s.arg(left->first()));
+    session.queue().load();
     if (request.folder.isNull()) {
         request.folder = settings.getVideoDir();
         QDir().mkpath(request.folder);

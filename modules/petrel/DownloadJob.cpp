@@ -226,6 +226,9 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
     plan.preset = *preset;
     m_conversion = std::make_unique<TranscodeJob>(
         TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});
+    m_conversion->setNotary([this](const JobOutcome &, const QString &partPath, std::function<void()> then) {
+        beforePlacing(goodOutcome(), partPath, std::move(then));
+    });
     connect(m_conversion.get(), &Job::progressed, this, [this](JobProgress progress) {
         if (progress.stage.isEmpty())
             progress.stage = "Converting…"_key;
@@ -257,11 +260,23 @@ void DownloadJob::place(const QString &path)
     tellStage("Saving…"_key);
     if (std::rename(QFile::encodeName(path).constData(), QFile::encodeName(output->partPath()).constData()) != 0)
         return fail("The output could not be written."_key);
+    const QString partPath = output->partPath();
     m_placing = std::make_shared<Placing>(std::move(output), std::nullopt);
-    m_placing->start(this, [this](const foundation::Result<QString, Sentence> &placed) {
-        m_placing.reset();
-        placed ? finishGood({*placed}) : fail(placed.reason());
+    beforePlacing(goodOutcome(), partPath, [this] {
+        if (!m_placing)
+            return;  // cancelled
+        m_placing->start(this, [this](const foundation::Result<QString, Sentence> &placed) {
+            m_placing.reset();
+            placed ? finishGood({*placed}) : fail(placed.reason());
+        });
     });
+}
+
+JobOutcome DownloadJob::goodOutcome() const
+{
+    return {.state = m_check.sentence.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
+            .sentence = m_check.sentence,
+            .facts = {{u"resumed_bytes"_s, m_resumed}}};
 }
 
 void DownloadJob::finishGood(const QStringList &outputs)
@@ -269,10 +284,8 @@ void DownloadJob::finishGood(const QStringList &outputs)
     m_part->remove();
     m_part.reset();
     m_answers.forget(m_plan);
-    JobOutcome outcome{.state = m_check.sentence.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
-                       .sentence = m_check.sentence,
-                       .outputs = outputs};
-    outcome.facts[u"resumed_bytes"_s] = m_resumed;
+    JobOutcome outcome = goodOutcome();
+    outcome.outputs = outputs;
     finish(outcome);
 }
 

@@ -54,6 +54,7 @@ private:
     void convert(const QString &path, const DownloadCheck &check);
     void converted(const JobOutcome &outcome);
     void place(const QString &path);
+    JobOutcome goodOutcome() const;
     void finishGood(const QStringList &outputs);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
     void tellStage(const tarnwell::Sentence &stage);

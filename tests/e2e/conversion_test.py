@@ -82,6 +82,27 @@ class ConversionTest(ProgramTest):
         self.finished('film.mp4')
         self.assertAlmostEqual(probe(os.path.join(self.library, 'film.mp4'))[1], 2, delta=0.2)
 
+    def test_quitting_asks_and_what_was_stopped_is_there_again(self):
+        folder = os.path.join(self.desktop.home, 'elsewhere')
+        os.mkdir(folder)
+        self.clip('elsewhere/long.mkv', seconds=40, size='640x360')
+        app = self.launch()
+        program = os.path.join(self.bundle, 'Contents/MacOS/Kestrel')
+        second = self.desktop.launch_program('/usr/bin/env', '-C', folder, program, 'long.mkv')
+        self.assertEqual(second.wait_for_end(), 0)
+        app.find('list item', re.compile('long.mkv.*Ready'))
+        self.click(app, 'push button', 'Convert')
+        self.click(app, 'push button', 'Pause')
+        for answer in 'Keep Running', 'Stop and Quit':
+            self.desktop.key('ctrl+q')
+            self.answer(app, answer)
+            wait_for(lambda: len(app.windows()) < 2, 'the question to close')
+        self.assertEqual(app.wait_for_end(), 0)
+        self.assertEqual(os.listdir(self.library), [])
+        app = self.launch()
+        self.click(app, 'push button', 'Video Converter')
+        app.find('list item', re.compile('long.mkv.*Interrupted'))
+
     def test_unusable_file_says_why(self):
         path = os.path.join(self.desktop.home, 'letter.mp4')
         with open(path, 'w') as file:

@@ -56,6 +56,11 @@ class WindowsTest(ProgramTest):
             self.desktop.key('F1')
             wait_for(lambda: sum('help' in call[0] for call in self.desktop.calls('xdg-open')) == times, 'the help page')
         help_is_shown(1)
+        window = app.windows()[0]['id']
+        self.desktop.x('xdotool', 'windowminimize', window)
+        wait_for(lambda: not app.windows(), 'the windows to be minimised')
+        self.desktop.x('xdotool', 'windowactivate', window)
+        wait_for(lambda: len(app.windows()) == 2, 'the window and its sheet')
         self.click(app, 'menu item', 'Help')
         app.find('menu item', 'Report Bug')
         self.desktop.key('Escape')

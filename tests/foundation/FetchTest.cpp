@@ -66,6 +66,11 @@ public:
         const std::lock_guard lock(m_mutex);
         return m_requests;
     }
+    QByteArray lastRequest() const
+    {
+        const std::lock_guard lock(m_mutex);
+        return m_lastRequest;
+    }
 
 private:
     void serve(int client)
@@ -76,6 +81,7 @@ private:
         {
             const std::lock_guard lock(m_mutex);
             m_requests.append(path);
+            m_lastRequest = request;
         }
         const Answer answer = m_answers.value(path);
         bool isThere = isSent(client, answer.bytes);
@@ -99,6 +105,7 @@ private:
     int m_port = 0;
     mutable std::mutex m_mutex;
     QByteArrayList m_requests;
+    QByteArray m_lastRequest;
     std::thread m_thread;
 };
 
@@ -277,9 +284,10 @@ TEST_F(FetchTest, AsksTheProxyOfTheSystemForEveryHop)
     EXPECT_EQ(m_fetcher.fetch({.address = server.url()}).body, "by proxy");
     EXPECT_EQ(server.requests(), QByteArrayList({"/"}));
     EXPECT_EQ(proxy.requests(), QByteArrayList({away}));
-    setProxy(proxy.url().toLatin1());
+    setProxy(proxy.url().replace(u"//"_s, u"//a%20user:p%40ss@"_s).toLatin1());
     EXPECT_EQ(m_fetcher.fetch({.address = server.url()}).body, std::nullopt);
     EXPECT_EQ(proxy.requests().value(1), server.url().toLatin1());
+    EXPECT_TRUE(proxy.lastRequest().contains("Proxy-Authorization: Basic " + QByteArray("a user:p@ss").toBase64()));
 }
 
 }  // namespace

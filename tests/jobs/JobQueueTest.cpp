@@ -33,6 +33,7 @@ public:
     QList<Row> load() override { return loaded; }
     JobId nextId() override { return ++lastId; }
     void put(const JobRecord &record, double position) override { rows[record.id] = {record, position}; }
+    void place(JobId id, double position) override { rows[id].position = position; }
     void remove(const QList<JobId> &ids) override
     {
         for (const JobId id : ids)

@@ -1,6 +1,7 @@
 #include "jobs/JobStore.h"
 
 #include "ScriptedJobs.h"
+#include "jobs/JobQueue.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gmock/gmock.h>
@@ -179,13 +180,48 @@ TEST_F(JobStoreTest, DoneIsWhatIsThere)
     record.state = JobState::Done;
     record.outcome = {.state = JobState::Done, .outputs = {other, output}};
     store->put(record, 1);
-    JobRecord gone = loaded(*store).at(record.id);
+    EXPECT_TRUE(store->flush());
+    const auto listed = [this] { return listJobs(path, QStringLiteral(KESTREL_JOB_STORE_LIBRARY))->first().record; };
+    JobRecord gone = listed();
     EXPECT_EQ(gone.state, JobState::DoneWithProblems);
     EXPECT_EQ(gone.outcome.problems, QList{tarnwell::Sentence(outputIsGone)});
-    store->put(gone, 2);  // such as by a move; the file comes back
+    JobQueue queue(store.get());
+    queue.load();
+    EXPECT_TRUE(test::waitUntil([&] { return queue.record(record.id)->state == JobState::DoneWithProblems; }));
+    EXPECT_EQ(queue.record(record.id)->outcome, gone.outcome);
+    store->put(gone, 2);  // whyever; the file comes back
     QFile(output).open(QIODevice::WriteOnly);
     EXPECT_EQ(loaded(*store).at(record.id).state, JobState::Done);
     EXPECT_TRUE(loaded(*store).at(record.id).outcome.problems.isEmpty());
+}
+
+TEST_F(JobStoreTest, AMoveLeavesWhatAnotherProcessHasWritten)
+{
+    const auto mine = open(), other = open();
+    JobRecord record = stored(*mine, 5);
+    ASSERT_TRUE(mine->flush());
+    record.state = JobState::Cancelled;
+    other->put(record, 5);
+    ASSERT_TRUE(other->flush());
+    mine->place(record.id, 7);
+    const QList<JobStore::Row> rows = mine->load();
+    ASSERT_EQ(rows.size(), 1);
+    EXPECT_EQ(rows[0].record.state, JobState::Cancelled);
+    EXPECT_EQ(rows[0].position, 7);
+}
+
+TEST_F(JobStoreTest, OfWhatHasEndedTheNewestStay)
+{
+    const JobId oldest = stored(*open(), 1).id;
+    QProcess sqlite;
+    sqlite.start(u"sqlite3"_s,
+                 {path,
+                  u"WITH RECURSIVE n(i) AS (SELECT 100 UNION ALL SELECT i + 1 FROM n WHERE i < 20119) INSERT INTO "
+                  "jobs SELECT i, 'marlin', i, 'done', '', '{\"title\":\"a\",\"plan\":{}}' FROM n"_s});
+    ASSERT_TRUE(sqlite.waitForFinished());
+    const auto records = loaded(*open());
+    EXPECT_EQ(records.size(), 1 + 20'000);
+    EXPECT_TRUE(records.contains(oldest) && records.contains(120) && !records.contains(119));
 }
 
 TEST_F(JobStoreTest, WhatHadJustGotItsNameIsNotInterrupted)

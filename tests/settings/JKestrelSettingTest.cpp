@@ -183,13 +183,13 @@ TEST_F(JKestrelSettingTest, missing_values_read_as_each_module_says)
 {
     const QVariantMap emptyTexts = {{u"DVDAudioLanCode"_s, u""_s}, {u"video_out"_s, u""_s}};
     m_defaults.setObject(archiveOf({{u"downloader"_s, {u"JDownloaderSetting"_s}},
-                                    {u"recorder"_s, {u"JRecorderSetting"_s}},
+                                    {u"recorder"_s, {u"JRecorderSetting"_s, {{u"maxFramerate"_s, qQNaN()}}}},
                                     {u"dvd"_s, {u"JDVDSetting"_s, emptyTexts}}}),
                          u"setting"_s);
     const JKestrelSetting setting(m_defaults);
     EXPECT_EQ(setting.downloader()->preferedConcurrent(), 0);
     EXPECT_EQ(setting.downloader()->preferedFormat(), u"mp4"_s);
-    EXPECT_EQ(setting.recorder()->maxFrameRate(), 0.0);
+    EXPECT_EQ(setting.recorder()->maxFrameRate(), 0.0) << "not a number";
     EXPECT_TRUE(setting.recorder()->recordVideoDeviceID().isNull());
     EXPECT_EQ(setting.dvd()->prefferLanguage(), u"Default"_s);
     EXPECT_EQ(setting.dvd()->videoOutputPath(), inHome(u"Movies/Mac Video Library"_s));

@@ -1,12 +1,17 @@
 #include "AreaChooser.h"
 
+#include "tarnwell/Localization.h"
 #include "tarnwell/TextKey.h"
 
 #include <QGuiApplication>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QPushButton>
 #include <QScreen>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -14,17 +19,89 @@ namespace kestrel {
 
 using tarnwell::operator""_key;
 
-AreaChooser::AreaChooser() : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+namespace {
+
+/// What films are usually made in: lying, square, standing. In pixels of the screen.
+constexpr QSize usualSizes[] = {{854, 480}, {1280, 720}, {1920, 1080}, {1080, 1080}, {720, 1280}, {1080, 1920}};
+
+QString sizeText(QSize size)
+{
+    return u"%1 × %2"_s.arg(size.width()).arg(size.height());
+}
+
+}  // namespace
+
+AreaChooser::AreaChooser()
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
+      m_bar(new QWidget(this))
 {
     setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"areaChooser"_s);
     setWindowTitle("Choose an Area"_key.localized());
     setCursor(Qt::CrossCursor);
+    setFocusPolicy(Qt::StrongFocus);
     const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
     m_screen =
         QGuiApplication::primaryScreen()->grabWindow(0, desktop.x(), desktop.y(), desktop.width(), desktop.height());
     m_area = {desktop.center() - QPoint(320, 180), QSize(640, 360)};
     setGeometry(desktop);
+    makeBar();
+}
+
+void AreaChooser::makeBar()
+{
+    m_bar->setObjectName(u"areaBar"_s);
+    m_bar->setCursor(Qt::ArrowCursor);
+    auto *layout = new QHBoxLayout(m_bar);
+    const auto addButton = [&](const QString &text) {
+        auto *button = new QPushButton(text);
+        layout->addWidget(button);
+        return button;
+    };
+    for (const QSize size : usualSizes) {
+        const QSize shown = size / devicePixelRatioF();
+        if (shown.width() > width() || shown.height() > height())
+            continue;
+        connect(addButton(sizeText(size)), &QPushButton::clicked, this, [this, shown] {
+            QRect area({}, shown);
+            area.moveCenter(m_area.center());
+            setArea(area);
+            setFocus();
+        });
+    }
+    auto *takeButton = addButton("Use This Area"_key.localized());
+    takeButton->setProperty("primary", true);
+    connect(takeButton, &QPushButton::clicked, this, &AreaChooser::take);
+    connect(addButton(tarnwell::AppLocalizedString(u"Cancel"_s)), &QPushButton::clicked, this, &QWidget::close);
+    setFocus();
+}
+
+/// Wholly on the screen.
+void AreaChooser::setArea(const QRect &area)
+{
+    m_area = area;
+    m_area.moveLeft(std::clamp(m_area.left(), 0, std::max(0, width() - m_area.width())));
+    m_area.moveTop(std::clamp(m_area.top(), 0, std::max(0, height() - m_area.height())));
+    m_area &= rect();
+    update();
+}
+
+void AreaChooser::take()
+{
+    if (m_area.width() < 2 || m_area.height() < 2)
+        return;
+    const double ratio = devicePixelRatioF();
+    const QRect area = m_area.translated(pos());
+    emit chosen({(QPointF(area.topLeft()) * ratio).toPoint(), area.size() * ratio});
+    close();
+}
+
+void AreaChooser::resizeEvent(QResizeEvent *)
+{
+    constexpr int margin = 32;
+    m_bar->adjustSize();
+    const QRect screen = QGuiApplication::primaryScreen()->geometry().translated(-pos());
+    m_bar->move(screen.center().x() - m_bar->width() / 2, screen.bottom() - m_bar->height() - margin);
 }
 
 void AreaChooser::paintEvent(QPaintEvent *)
@@ -36,21 +113,27 @@ void AreaChooser::paintEvent(QPaintEvent *)
     painter.setClipping(false);
     painter.setPen(Qt::white);
     painter.drawRect(m_area.adjusted(-1, -1, 0, 0));
-    const QString size = u"%1 × %2 — %3"_s.arg(m_area.width())
-                             .arg(m_area.height())
-                             .arg("Draw an area, then press Return"_key.localized());
-    painter.drawText(m_area.bottomLeft() + QPoint(0, 20), size);
+    const QString text = u"%1 — %2"_s.arg(sizeText(m_area.size() * devicePixelRatioF()),
+                                          "Draw an area, then press Return"_key.localized());
+    const QSize box = painter.fontMetrics().size(Qt::TextSingleLine, text) + QSize(16, 8);
+    const bool fitsBelow = m_area.bottom() + box.height() < height();
+    const QPoint corner = m_area.bottomLeft() + QPoint(0, fitsBelow ? 6 : -box.height());
+    painter.fillRect(QRect(corner, box), QColor(0, 0, 0, 170));
+    painter.drawText(QRect(corner, box), Qt::AlignCenter, text);
 }
 
 void AreaChooser::mousePressEvent(QMouseEvent *event)
 {
     m_start = event->position().toPoint();
+    m_isMoving = m_area.contains(m_start);
+    m_grip = m_start - m_area.topLeft();
+    setFocus();
 }
 
 void AreaChooser::mouseMoveEvent(QMouseEvent *event)
 {
-    m_area = QRect(m_start, event->position().toPoint()).normalized();
-    update();
+    const QPoint point = event->position().toPoint();
+    setArea(m_isMoving ? QRect(point - m_grip, m_area.size()) : QRect(m_start, point).normalized());
 }
 
 void AreaChooser::keyPressEvent(QKeyEvent *event)
@@ -62,19 +145,12 @@ void AreaChooser::keyPressEvent(QKeyEvent *event)
     for (const auto &[key, step] : steps) {
         if (event->key() != key)
             continue;
-        if (event->modifiers() & Qt::ShiftModifier)
-            m_area.setSize(m_area.size() + QSize(step.x(), step.y()));
-        else
-            m_area.translate(step);
-        update();
+        const bool isSized = event->modifiers() & Qt::ShiftModifier;
+        setArea(isSized ? QRect(m_area.topLeft(), m_area.size() + QSize(step.x(), step.y())) : m_area.translated(step));
     }
-    const bool isTaken = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (isTaken && m_area.width() >= 2 && m_area.height() >= 2) {
-        const double ratio = devicePixelRatioF();
-        const QRect area = m_area.translated(pos());
-        emit chosen({(QPointF(area.topLeft()) * ratio).toPoint(), area.size() * ratio});
-    }
-    if (isTaken || event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
+        take();
+    else if (event->key() == Qt::Key_Escape)
         close();
 }
 

@@ -4,8 +4,9 @@
 
 namespace kestrel {
 
-/// The screen, darkened, on which an area is drawn with the mouse; arrow keys move it by single pixels and, with Shift,
-/// change its size. Return takes it, Escape does not. Goes by itself.
+/// The screen, darkened, on which an area is drawn with the mouse; pressed within it, it is moved. Arrow keys move it
+/// by single pixels and, with Shift, change its size; buttons give it a usual one. Return takes it, Escape does not.
+/// Goes by itself.
 class AreaChooser : public QWidget {
     Q_OBJECT
 public:
@@ -19,10 +20,18 @@ protected:
     void mousePressEvent(QMouseEvent *event) override;
     void mouseMoveEvent(QMouseEvent *event) override;
     void keyPressEvent(QKeyEvent *event) override;
+    void resizeEvent(QResizeEvent *event) override;
 
 private:
+    void makeBar();
+    void setArea(const QRect &area);
+    void take();
+
     QPixmap m_screen;
+    QWidget *m_bar;
     QPoint m_start;
+    QPoint m_grip;  ///< within the area, while that is moved
+    bool m_isMoving = false;
     QRect m_area;
 };
 
