@@ -69,7 +69,7 @@ bool MediaPlayer::playStream(const QString &player, std::shared_ptr<const ToolCo
 }
 
 void MediaPlayer::show(std::unique_ptr<Showing> showing, const ToolCommand &command,
-                       std::function<bool(const ToolEnding &)> hasFailed)
+                       const std::function<bool(const ToolEnding &)> &hasFailed)
 {
     if (m_showing.size() >= mostWindows)
         m_showing.erase(m_showing.begin());

@@ -33,7 +33,7 @@ private:
     struct Showing;
 
     void show(std::unique_ptr<Showing> showing, const ToolCommand &command,
-              std::function<bool(const ToolEnding &)> hasFailed);
+              const std::function<bool(const ToolEnding &)> &hasFailed);
 
     std::vector<std::unique_ptr<Showing>> m_showing;
 };
