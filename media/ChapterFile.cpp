@@ -6,6 +6,9 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
 namespace {
 
 QByteArray metadataValue(const QString &text)
@@ -56,11 +59,12 @@ QList<MediaChapter> resultChapters(const TranscodePlan &plan, const QList<MediaI
 QByteArray chapterFile(const QList<MediaChapter> &chapters)
 {
     QByteArray text = ";FFMETADATA1\n";
+    int number = 0;
     for (const MediaChapter &chapter : chapters) {
         text += "[CHAPTER]\nTIMEBASE=1/1000\nSTART=" + QByteArray::number(qint64(chapter.start * 1000 + 0.5)) +
                 "\nEND=" + QByteArray::number(qint64(chapter.end * 1000 + 0.5)) + '\n';
-        if (!chapter.title.isEmpty())
-            text += "title=" + metadataValue(chapter.title) + '\n';
+        const Sentence otherName("Chapter %1"_key, {QString::number(++number)});
+        text += "title=" + metadataValue(chapter.title.isEmpty() ? otherName.localized() : chapter.title) + '\n';
     }
     return text;
 }

@@ -8,7 +8,7 @@ namespace kestrel {
 QList<MediaChapter> resultChapters(const TranscodePlan &plan, const QList<MediaInformation> &sources,
                                    const QList<SourcePiece> &pieces);
 
-/// As ffmpeg reads them from a file.
+/// As ffmpeg reads them from a file; those without a name are numbered.
 QByteArray chapterFile(const QList<MediaChapter> &chapters);
 
 }  // namespace kestrel

@@ -125,7 +125,12 @@ private:
     {
         m_result.chapters = m_sources.first().chapters.size();
         m_result.chapterInput = 0;
-        const bool isChanged = !m_plan.pieces.isEmpty() || m_sources.size() > 1 || m_plan.speedFactor != 1;
+        // Films of this kind have a track of the names, which readers miss where no chapter has one.
+        const bool lacksNames =
+            m_tracks.container->has(Container::HandlerNames) &&
+            std::ranges::any_of(m_sources.first().chapters, &QString::isEmpty, &MediaChapter::title);
+        const bool isChanged =
+            !m_plan.pieces.isEmpty() || m_sources.size() > 1 || m_plan.speedFactor != 1 || lacksNames;
         if (!m_tracks.keepsChapters) {
             m_result.chapters = 0;
             m_result.chapterInput = -1;

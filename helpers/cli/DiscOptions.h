@@ -12,7 +12,6 @@ struct DiscChoice : ConvertRequest {
     DiscPlan disc;
     bool namesWay = false;
     QList<int> titles;  ///< empty for the main one
-    int angle = 1;
 };
 
 /// Of `disc copy`, and of `disc rip`: the converter's too. They apply to a DiscChoice.

@@ -9,6 +9,7 @@
 #include <QDBusObjectPath>
 #include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
+#include <QDBusServiceWatcher>
 #include <QPointer>
 
 #include <algorithm>
@@ -62,9 +63,17 @@ public:
     Q_DISABLE_COPY(Bus)
 
     QDBusConnection &connection() { return m_connection; }
+    /// One that comes only now, or again, has its drives from the beginning and says nothing of them.
+    void watchService(DiscDrives &drives)
+    {
+        m_watcher =
+            std::make_unique<QDBusServiceWatcher>(diskService, m_connection, QDBusServiceWatcher::WatchForRegistration);
+        connect(m_watcher.get(), &QDBusServiceWatcher::serviceRegistered, &drives, &DiscDrives::askLater);
+    }
 
 private:
     QDBusConnection m_connection;
+    std::unique_ptr<QDBusServiceWatcher> m_watcher;
 };
 
 DiscDrives::DiscDrives(QObject *parent) : QObject(parent) {}
@@ -91,6 +100,7 @@ void DiscDrives::start()
             system.connect(diskService, diskPath, managerInterface, u"InterfacesAdded"_s, self.data(), slot);
             system.connect(diskService, diskPath, managerInterface, u"InterfacesRemoved"_s, self.data(), slot);
             system.connect(diskService, QString(), propertiesInterface, u"PropertiesChanged"_s, self.data(), slot);
+            self->m_bus->watchService(*self);
             self->ask();
         });
     });
@@ -127,13 +137,12 @@ void DiscDrives::ask()
 
 void DiscDrives::take(const QDBusMessage &reply)
 {
-    QList<DiscDrive> drives;
-    if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == "a{oa{sa{sv}}}"_L1)
-        drives = drivesIn(qdbus_cast<Objects>(reply.arguments().value(0)));
-    if (m_drives == drives)
+    // No answer, from a service that waits for a drive itself or is gone, says nothing about discs.
+    if (reply.type() != QDBusMessage::ReplyMessage || reply.signature() != "a{oa{sa{sv}}}"_L1)
         return;
-    m_drives = drives;
-    emit changed();
+    const QList<DiscDrive> drives = drivesIn(qdbus_cast<Objects>(reply.arguments().value(0)));
+    if (std::exchange(m_drives, drives) != drives)
+        emit changed();
 }
 
 }  // namespace kestrel

@@ -54,6 +54,14 @@ bool DiscToolLines::read(const QByteArray &line)
     return true;
 }
 
+bool hasReaderFailed(const ToolEnding &ending)
+{
+    DiscToolLines lines;
+    for (const QString &line : ending.lastWords.split(u'\n'))
+        lines.read(line.trimmed().toUtf8());
+    return !lines.error.isEmpty() && lines.error != "write"_L1;
+}
+
 Sentence discFailure(const QString &errorName)
 {
     if (errorName == "noSpace"_L1)

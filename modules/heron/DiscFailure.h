@@ -21,6 +21,9 @@ struct DiscToolLines {
     bool read(const QByteArray &line);
 };
 
+/// Whether a reader whose film another tool takes gave up by itself, and not because nobody takes it any more.
+bool hasReaderFailed(const ToolEnding &ending);
+
 /// What the error of that name means to the user.
 tarnwell::Sentence discFailure(const QString &errorName);
 /// The same where the tool may also have ended without a word.

@@ -55,13 +55,12 @@ void DiscImageJob::copy()
 void DiscImageJob::copied(const ToolEnding &ending)
 {
     const bool isOfAnother = lines().error == "otherDisc"_L1 || lines().error == "exists"_L1;
-    if (isOfAnother && !isStopping()) {
+    if (isOfAnother) {
         removeCopy();
         return copy();
     }
     const QString &error = lines().error;
-    m_staysForLater =
-        !isStopping() && (error == "read"_L1 || error == "missing"_L1 || ending.cause == ToolEnding::Cause::Crashed);
+    m_staysForLater = error == "read"_L1 || error == "missing"_L1 || ending.cause == ToolEnding::Cause::Crashed;
     if (m_staysForLater)
         return fail("The copy was broken off. It goes on where it is when it is started again."_key, ending.lastWords);
     if (!isGoodStep(ending))

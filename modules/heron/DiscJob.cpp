@@ -42,8 +42,6 @@ void DiscJob::start()
 
 void DiscJob::lookedAt(const ToolEnding &ending)
 {
-    if (isStopping())
-        return finish({.state = JobState::Cancelled});
     const QJsonObject object = QJsonDocument::fromJson(ending.output).object();
     auto contents = disc::discContentsFromJson(object);
     if (!ending.isGood() || !contents) {
@@ -87,18 +85,9 @@ ToolProcess &DiscJob::runDiscTool(const ToolCommand &command, double share, Cont
 
 std::shared_ptr<ToolCommand> DiscJob::titleReader(const QStringList &options) const
 {
-    const DiscPlan &plan = m_request.plan;
-    QStringList arguments{u"--title"_s, QString::number(title().number)};
-    if (!plan.takesAllChapters()) {
-        const int last = plan.lastChapter == 0 ? 999 : plan.lastChapter;
-        arguments << u"--chapters"_s << u"%1-%2"_s.arg(plan.firstChapter).arg(last);
-    }
-    if (plan.angle > 1)
-        arguments << u"--angle"_s << QString::number(plan.angle);
-    auto command = std::make_shared<ToolCommand>();
-    command->program = m_request.tools.title;
-    command->arguments = arguments + options + QStringList{plan.source};
-    return command;
+    DiscPlan plan = m_request.plan;
+    plan.title = title().number;
+    return titleReaderCommand(m_request.tools, plan, options);
 }
 
 void DiscJob::tellStage(const Sentence &stage)
@@ -125,11 +114,6 @@ void DiscJob::tellProgress(double fraction, double seconds, qint64 bytes)
 
 bool DiscJob::isGoodStep(const ToolEnding &ending)
 {
-    if (isStopping()) {
-        discard();
-        finish({.state = JobState::Cancelled});
-        return false;
-    }
     if (ending.isGood() && ending.feederExitCode == 0)
         return true;
     // A reader whose film nobody takes any more says that it could not write.

@@ -26,6 +26,8 @@ public:
     ~DiscJob() override;
 
     void start() override;
+    /// Half a film is nothing to end with.
+    void stop() final { cancel(); }
 
 protected:
     /// The disc was looked at, is not protected, and has the title.

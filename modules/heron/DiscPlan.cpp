@@ -153,8 +153,9 @@ bool describeDisc(const disc::DiscContents &contents, DiscPlan &plan)
     const disc::DiscTitle *title = titleOf(contents, plan);
     if (!title)
         return false;
-    plan.bytes = title->bytes;
-    plan.seconds = chosenSeconds(plan, *title);
+    const disc::DiscTitle part = chosenPart(plan, *title);
+    plan.bytes = part.bytes;
+    plan.seconds = part.seconds;
     return true;
 }
 
@@ -203,6 +204,15 @@ double chosenSeconds(const DiscPlan &plan, const disc::DiscTitle &title)
     const int last = lastChapterOf(plan, title);
     const double end = last < title.chapters.size() ? title.chapters[last] : title.seconds;
     return std::max(0.0, end - startOfChapter(plan, title));
+}
+
+disc::DiscTitle chosenPart(const DiscPlan &plan, disc::DiscTitle title)
+{
+    const double seconds = chosenSeconds(plan, title);
+    if (title.seconds > 0)
+        title.bytes = qint64(double(title.bytes) * seconds / title.seconds);
+    title.seconds = seconds;
+    return title;
 }
 
 QList<double> chosenChapters(const DiscPlan &plan, const disc::DiscTitle &title)

@@ -1,5 +1,7 @@
 #include "DiscTools.h"
 
+#include "DiscPlan.h"
+
 #include "media/MediaProber.h"
 #include "modules/marlin/Conversion.h"
 #include "settings/JKestrelSettingDispatcher.h"
@@ -34,6 +36,22 @@ ToolCommand discInfoCommand(const DiscTools &tools, const QString &source)
             .timeLimit = std::chrono::minutes(3),
             .outputLimit = maximumBytes,
             .collectsOutput = true};
+}
+
+std::shared_ptr<ToolCommand> titleReaderCommand(const DiscTools &tools, const DiscPlan &plan,
+                                                const QStringList &options)
+{
+    QStringList arguments;
+    if (plan.title > 0)
+        arguments << u"--title"_s << QString::number(plan.title);
+    if (!plan.takesAllChapters()) {
+        const int last = plan.lastChapter == 0 ? 999 : plan.lastChapter;
+        arguments << u"--chapters"_s << u"%1-%2"_s.arg(plan.firstChapter).arg(last);
+    }
+    if (plan.angle > 1)
+        arguments << u"--angle"_s << QString::number(plan.angle);
+    return std::make_shared<ToolCommand>(
+        ToolCommand{.program = tools.title, .arguments = arguments + options + QStringList{plan.source}});
 }
 
 ToolCommand discCoverCommand(const DiscTools &tools, const QString &source, int title, const QString &target)

@@ -6,6 +6,7 @@
 namespace kestrel {
 
 class JKestrelSettingDispatcher;
+struct DiscPlan;
 
 /// The tools that read discs and the ones that make something of them; absolute paths.
 struct DiscTools {
@@ -19,6 +20,10 @@ DiscTools discTools(const JKestrelSettingDispatcher &settings, int processors);
 
 /// Asks a disc what it holds; the object is the whole output. Its own limits of time hold.
 ToolCommand discInfoCommand(const DiscTools &tools, const QString &source);
+
+/// Writes the plan's title, or the main one, as a program stream to standard output; `options` say what else it does.
+std::shared_ptr<ToolCommand> titleReaderCommand(const DiscTools &tools, const DiscPlan &plan,
+                                                const QStringList &options = {});
 
 /// Writes a picture of the film, or of one of its titles, into the file `target`.
 ToolCommand discCoverCommand(const DiscTools &tools, const QString &source, int title, const QString &target);

@@ -179,7 +179,8 @@ QStringList fileArguments(const FilmPlan &film, const disc::DiscTitle &title, co
     for (const int place : subtitles.indexPlaces)
         arguments << u"-map"_s << u"1:s:%1"_s.arg(place);
     const QString chapterInput = hasSubtitles ? u"2"_s : u"1"_s;
-    arguments << u"-map_metadata"_s << u"-1"_s << u"-map_chapters"_s << chapterInput << u"-c"_s << u"copy"_s;
+    arguments << u"-map_metadata:g"_s << u"-1"_s << u"-map_metadata:s"_s << u"-1"_s << u"-map_chapters"_s
+              << chapterInput << u"-c"_s << u"copy"_s;
     const auto describe = [&](const QString &track, const QString &language, const QString &disposition) {
         if (!language.isEmpty())
             arguments << u"-metadata:s:"_s + track << u"language="_s + fileLanguage(language);

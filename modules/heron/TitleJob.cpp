@@ -26,8 +26,6 @@ void TitleJob::carryOut()
 {
     runDiscTool(filmStreamsCommand(request().tools.transcode.prober, titleReader({})), 0.02,
                 [this](const ToolEnding &ending) {
-                    if (isStopping())
-                        return (void)isGoodStep(ending);
                     const QList<FilmStream> streams = readFilmStreams(ending.output);
                     // It ends as soon as it knows enough, and the reader with it.
                     if (streams.isEmpty())
@@ -82,8 +80,6 @@ void TitleJob::checkFile(const QString &path, const OutputExpectation &expected,
 void TitleJob::compare(const QString &path, const OutputExpectation &expected, const ToldOutput &told,
                        const ToolEnding &ending)
 {
-    if (isStopping())
-        return (void)isGoodStep(ending);
     const auto found = ending.isGood() ? parseOutputReport(ending.output, QFileInfo(path).size()) : std::nullopt;
     if (!found)
         return fail("The finished file could not be read back."_key, ending.lastWords);
@@ -121,9 +117,7 @@ void TitleJob::decodeAt(const QString &path, QList<double> places, bool hasVideo
     for (const QString &argument : {QString::number(place, 'f', 3), u"-ss"_s, u"2"_s, u"-t"_s})
         command.arguments.insert(input, argument);
     m_converterProgress = {};
-    const ToolProcess &tool = run(command, [this, path, places, place, hasVideo](const ToolEnding &ending) {
-        if (isStopping())
-            return (void)isGoodStep(ending);
+    const ToolProcess &tool = run(command, [this, path, places, place, hasVideo](const ToolEnding &) {
         if (hasVideo ? m_converterProgress.frames() == 0 : m_converterProgress.seconds() <= 0)
             addProblem({"Nothing could be decoded at %1 s."_key, {secondsText(place)}});
         decodeAt(path, places, hasVideo);

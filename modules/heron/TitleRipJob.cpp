@@ -67,14 +67,6 @@ void TitleRipJob::converted(const JobOutcome &outcome)
     finish(whole);
 }
 
-void TitleRipJob::stop()
-{
-    if (m_converting)
-        m_converting->stop();
-    else
-        TitleFileJob::stop();
-}
-
 void TitleRipJob::cancel()
 {
     if (m_converting)

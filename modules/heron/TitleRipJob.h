@@ -13,7 +13,6 @@ public:
     using TitleFileJob::TitleFileJob;
     ~TitleRipJob() override;
 
-    void stop() override;
     void cancel() override;
     void setPaused(bool paused) override;
 

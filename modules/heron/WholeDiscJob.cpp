@@ -17,8 +17,6 @@ void WholeDiscJob::checkCopy(const QString &copy, const disc::DiscContents &want
 {
     tellStage("Checking the copy…"_key);
     run(discInfoCommand(request().tools, copy), [this, copy, wanted](const ToolEnding &ending) {
-        if (isStopping())
-            return (void)isGoodStep(ending);
         const auto found = disc::discContentsFromJson(QJsonDocument::fromJson(ending.output).object());
         if (!ending.isGood() || !found)
             return fail("The copy could not be read back."_key, ending.lastWords);
@@ -44,8 +42,6 @@ void WholeDiscJob::lookAtPicture(const QString &copy)
         return fail(m_workFolder->reason());
     run(discCoverCommand(request().tools, copy, 0, m_workFolder->partPath() + u"/picture.jpg"_s),
         [this](const ToolEnding &ending) {
-            if (isStopping())
-                return (void)isGoodStep(ending);
             if (!ending.isGood() && contents().mainTitle())
                 addProblem("No picture of the copy could be decoded."_key);
             copyIsGood();

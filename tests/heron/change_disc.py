@@ -116,6 +116,32 @@ def make_big(folder):
         file.write(tail)
 
 
+def shorten_samples(folder):
+    """The uncompressed sound of 24 bits gets 20: blocks of four samples have their upper 16 bits first, then all the rest."""
+    titles = copied(folder, "sound", "twenty")
+    waiting = b""
+    for sector in range(0, len(titles.film), SECTOR):
+        at = sector + 14
+        if titles.film[at:at + 4] != b"\0\0\1\xbd":
+            continue
+        end = at + 6 + struct.unpack_from(">H", titles.film, at + 4)[0]
+        sound = at + 9 + titles.film[at + 8]
+        if titles.film[sound] != 0xA1:
+            continue
+        titles.film[sound + 5] = titles.film[sound + 5] & 0x3F | 0x40
+        waiting += bytes(titles.film[sound + 7:end])
+        data = b""
+        while len(waiting) >= 12:
+            rest = waiting[8:12]
+            data += waiting[:8] + bytes((rest[0] & 0xF0 | rest[1] >> 4, rest[2] & 0xF0 | rest[3] >> 4))
+            waiting = waiting[12:]
+        padding = end - (sound + 7) - len(data) - 6
+        struct.pack_into(">H", titles.film, at + 4, sound + 7 + len(data) - at - 6)
+        titles.film[sound + 7:end] = data + struct.pack(">IH", 0x1BE, padding) + b"\xff" * padding
+    titles.save()
+    image(folder, "twenty")
+
+
 def scramble(folder):
     titles = copied(folder, "plain", "scrambled")
     for at in range(0, len(titles.film), SECTOR):
@@ -126,5 +152,5 @@ def scramble(folder):
 
 
 if __name__ == "__main__":
-    for change in (make_angles, interleave_angles, make_big, scramble):
+    for change in (make_angles, interleave_angles, make_big, shorten_samples, scramble):
         change(sys.argv[1])

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""damaged_tables.py COUNT [SEED]: discinfo over as many discs with damaged tables; each must end in time, with one line of JSON."""
+"""damaged_tables.py COUNT [SEED]: discinfo over as many discs with damaged tables; each must end in time, with one line of JSON and
+within its memory."""
 
 import concurrent.futures
 import json
 import os
 import random
+import resource
 import shutil
 import subprocess
 import sys
@@ -13,6 +15,7 @@ import tempfile
 TOOL = os.path.join(os.environ["KESTREL_DISC_TOOLS"], "discinfo")
 TABLES = ("VIDEO_TS.IFO", "VTS_01_0.IFO")
 SECONDS = 20
+MEGABYTES = 256
 
 
 def damaged(data, chance):
@@ -79,8 +82,10 @@ def main():
             if wrong:
                 failures += 1
                 print(f"seed {number}: {wrong}")
-    print(f"{count} discs: exit statuses {statuses}")
-    return 1 if failures else 0
+    usage = resource.getrusage(resource.RUSAGE_CHILDREN)  # the most that any of them took, and the time of all
+    megabytes = usage.ru_maxrss // 1024
+    print(f"{count} discs: exit statuses {statuses}, {megabytes} MB at most, {(usage.ru_utime + usage.ru_stime) * 1000 / count:.0f} ms each")
+    return 1 if failures or megabytes > MEGABYTES else 0
 
 
 if __name__ == "__main__":

@@ -5,6 +5,7 @@ say where things are."""
 import filecmp
 import json
 import os
+import plistlib
 import subprocess
 import tempfile
 import unittest
@@ -169,8 +170,14 @@ class Titles(DiscCommand):
         self.assertGreater(sum(r > 200 and g > 200 and b < 90 for r, g, b in pixels), 100)
 
     def test_all_kinds_of_sound(self):
-        found = probe(self.keep_one("copy", "--way", "mkv", disc("sound.iso")))
-        self.assertEqual(tracks(found, "audio"), [("ac3", "eng"), ("pcm_s16le", "ita")])
+        samples = {}
+        for name in ("sound", "twenty"):
+            path = self.keep_one("copy", "--way", "mkv", disc(name + ".iso"))
+            self.assertEqual(tracks(probe(path), "audio"), [("ac3", "eng"), ("pcm_s16le", "ita"), ("pcm_s24le", "spa")])
+            sound = subprocess.run(["ffmpeg", "-v", "error", "-i", path, "-map", "0:a:2", "-f", "s24be", "-"], capture_output=True).stdout
+            samples[name] = [int.from_bytes(sound[at:at + 3], "big") for at in range(0, len(sound), 3)]
+        self.assertGreater(len(set(sample & 0xFF for sample in samples["sound"])), 100)
+        self.assertEqual(samples["twenty"], [sample & ~0xF for sample in samples["sound"]][:len(samples["twenty"])])
         path = self.keep_one("copy", "--way", "sound", "--audio", "2", disc("sound.iso"))
         self.assertEqual((os.path.basename(path), tracks(probe(path), "audio"), tracks(probe(path), "video")),
                          ("SOUND - Title 1.mka", [("pcm_s16le", "ita")], []))
@@ -184,12 +191,37 @@ class Titles(DiscCommand):
         self.assertEqual([round(float(c["start_time"])) for c in found["chapters"]], [0, 3])
         self.assertAlmostEqual(length(probe(self.keep_one("copy", "--way", "mkv", "--angle", "2", disc("angles.iso")))), 9, delta=0.3)
 
+    def prefer(self, language):
+        """As the settings window stores it."""
+        uid, class_of = plistlib.UID, lambda name: {"$classname": name, "$classes": [name, "NSObject"]}
+        archive = {"$archiver": "NSKeyedArchiver", "$version": 100000, "$top": {"root": uid(1)}, "$objects": [
+            "$null", {"NS.keys": [uid(2)], "NS.objects": [uid(3)], "$class": uid(6)}, "dvd", {"DVDAudioLanCode": uid(4), "$class": uid(5)},
+            language, class_of("JDVDSetting"), class_of("NSMutableDictionary")]}
+        with open(os.path.join(self.out, "../config/com.tarnwell.kestrel/defaults.plist"), "wb") as file:
+            plistlib.dump({"setting": plistlib.dumps(archive, fmt=plistlib.FMT_BINARY)}, file)
+
     def test_the_preferred_language_comes_first(self):
-        found = probe(self.keep_one("rip", "--preset", "mkv-h264", "--audio", "2,1", "--speed", "2", "--burn", "1", disc("plain.iso")))
-        self.assertEqual([codec for codec, _ in tracks(found, "audio")][:1] and tracks(found, "audio")[0][1], "ger")
+        os.makedirs(os.path.join(self.out, "../config/com.tarnwell.kestrel"))
+        for language, order in (("fr", ["fre", "eng"]), ("ja", ["eng", "fre"])):
+            self.prefer(language)
+            found = probe(self.keep_one("copy", "--way", "sound", disc("steps.iso")))
+            self.assertEqual([language for _, language in tracks(found, "audio")], order)
+
+    def test_subtitles_are_drawn_into_the_picture(self):
+        found = probe(self.keep_one("rip", "--preset", "mkv-h264", "--speed", "2", "--burn", "1", disc("plain.iso")))
         self.assertEqual((tracks(found, "video")[0][0], tracks(found, "subtitle")), ("h264", []))
         self.assertAlmostEqual(length(found), 12, delta=0.3)
         self.assertEqual((found["streams"][0]["display_aspect_ratio"], len(found["chapters"])), ("4:3", 4))
+
+    def test_pictures_of_film_are_kept_as_they_are(self):
+        for arguments in (("copy", "--way", "mkv"), ("rip", "--preset", "mp4-h264")):
+            path = self.keep_one(*arguments, disc("film.iso"))
+            found = probe(path)
+            self.assertAlmostEqual(length(found), 6, delta=0.1)
+            self.assertEqual([chapter["tags"]["title"] for chapter in found["chapters"]], ["Chapter 1", "Chapter 2"])
+            counted = subprocess.run(["ffprobe", "-v", "error", "-count_packets", "-select_streams", "v", "-show_entries",
+                                      "stream=nb_read_packets", "-of", "csv=p=0", path], capture_output=True, text=True).stdout
+            self.assertEqual(counted.strip().strip(","), "144")
 
     def test_sound_presets(self):
         path = self.keep_one("rip", "--preset", "mp3", "--titles", "1", disc("plain.iso"))

@@ -58,7 +58,7 @@ class DiscInfo(Case):
 
     def test_what_the_others_have(self):
         sound = info("sound.iso")["titles"][0]
-        self.assertEqual([(a["codec"], a["channels"], a["id"]) for a in sound["audio"]], [("ac3", 6, 0x80), ("lpcm", 2, 0xA0)])
+        self.assertEqual([(a["codec"], a["channels"], a["id"]) for a in sound["audio"]], [("ac3", 6, 0x80), ("lpcm", 2, 0xA0), ("lpcm", 2, 0xA1)])
         self.assertEqual(sound["aspect"], "16:9")
         steps = info("steps.iso")["titles"][0]
         self.assertEqual((steps["seconds"], len(steps["chapters"]), steps["standard"]), (12.012, 4, "NTSC"))
@@ -234,6 +234,7 @@ class DiscTitle(Case):
         self.assertEqual([cell["chapter"] for cell in lines[0]["cells"]], [1, 2, 3, 4])
         self.assertTrue(lines[0]["subtitles"][0]["extradata"].startswith("size: 720x576\npalette: ffff00, "))
         self.assertEqual((lines[0]["pulldown"], lines[0]["frameRate"]), (False, "25"))
+        self.assertTrue(run("disctitle", "--streams", disc("film.iso"))[1][0]["pulldown"])
 
     def test_refusals(self):
         rows = [(["--title", "3"], "plain.iso", "noTitle", 7), (["--angle", "2"], "plain.iso", "noTitle", 7),

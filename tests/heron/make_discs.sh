@@ -5,7 +5,7 @@ set -euo pipefail
 here=$(cd "$(dirname "$0")" && pwd)
 mkdir -p "$1"
 cd "$1"
-if [ -e complete ] && [ complete -nt "$0" ] && [ complete -nt "$here/change_disc.py" ]; then exit 0; fi
+if [ -e complete ] && [ complete -nt "$0" ] && [ complete -nt "$here/change_disc.py" ] && [ complete -nt "$here/pull_down.py" ]; then exit 0; fi
 rm -rf -- *
 
 clip() { # clip NAME SECONDS TARGET SIZE RATE [SOUND…]: the picture counts frames; two tones unless other sound is asked for
@@ -41,12 +41,12 @@ mkdir -p lower/video_ts
 for file in plain/VIDEO_TS/*; do cp "$file" "lower/video_ts/$(basename "$file" | tr A-Z a-z)"; done
 head -c $(($(stat -c %s plain.iso) / 2 / 2048 * 2048)) plain.iso >truncated.iso
 
-# Sound of six channels, and uncompressed
-clip sound.mpg 4 pal 720x576 25 -filter_complex '[1][1][1][1][1][1]join=inputs=6:channel_layout=5.1[six]' \
-    -map '[six]' -map 2 -c:a:0 ac3 -b:a:0 448k -c:a:1 pcm_dvd -ar 48000 -ac:a:1 2
+# Sound of six channels, and uncompressed in 16 and 24 bits
+clip sound.mpg 4 pal 720x576 25 -filter_complex '[1][1][1][1][1][1]join=inputs=6:channel_layout=5.1[six];[2]volume=0.7[quiet]' \
+    -map '[six]' -map 2 -map '[quiet]' -c:a:0 ac3 -b:a:0 448k -c:a:1 pcm_dvd -c:a:2 pcm_dvd -sample_fmt:a:2 s32 -ar 48000 -ac:a:1 2 -ac:a:2 2
 cat >sound.xml <<'X'
 <dvdauthor dest="sound"><vmgm/><titleset><titles><video format="pal" aspect="16:9"/><audio lang="en"/><audio lang="it"/>
-<pgc><vob file="sound.mpg"/></pgc></titles></titleset></dvdauthor>
+<audio lang="es"/><pgc><vob file="sound.mpg"/></pgc></titles></titleset></dvdauthor>
 X
 author sound SOUND
 
@@ -81,6 +81,18 @@ cat >steps.xml <<'X'
 </dvdauthor>
 X
 author steps STEPS
+
+# Film of 24 pictures a second that is shown as 30
+ffmpeg -nostdin -v error -y -f lavfi -i "testsrc2=s=720x480:r=24000/1001:d=6" -aspect 16:9 -c:v mpeg2video -bf 0 -g 12 -b:v 1500k \
+    -f mpeg2video film.m2v
+python3 "$here/pull_down.py" film.m2v
+ffmpeg -nostdin -v error -y -fflags +genpts -f mpegvideo -framerate 30000/1001 -i film.m2v -f lavfi -i "sine=f=440:d=6" -map 0 -map 1 \
+    -c:v copy -c:a ac3 -ar 48000 -ac 2 -f dvd -muxrate 10080000 -packetsize 2048 film.mpg
+cat >film.xml <<'X'
+<dvdauthor dest="film"><vmgm/><titleset><titles><video format="ntsc" aspect="16:9" widescreen="nopanscan"/><audio lang="en"/>
+<pgc><vob file="film.mpg" chapters="0,3"/></pgc></titles></titleset></dvdauthor>
+X
+author film FILM
 
 # What the author program cannot make is made by changing what it made
 python3 "$here/change_disc.py" .

@@ -1,6 +1,7 @@
 #include "jobs/AfterRun.h"
 
 #include "ScriptedJobs.h"
+#include "tests/support/PrivateBus.h"
 #include "tests/support/ProductFolder.h"
 #include "tests/support/TestDesktop.h"
 #include "tests/support/TestEnvironment.h"
@@ -10,8 +11,6 @@
 #include <QDBusConnection>
 #include <QDBusContext>
 #include <QDBusUnixFileDescriptor>
-#include <QFile>
-#include <QProcess>
 #include <QSignalSpy>
 
 #include <poll.h>
@@ -24,47 +23,6 @@ using namespace std::chrono_literals;
 namespace kestrel {
 
 namespace {
-
-/// A bus of our own, system's and session's in one, for the process: the addresses are read once.
-class PrivateBus {
-public:
-    static PrivateBus &instance()
-    {
-        static PrivateBus bus;
-        return bus;
-    }
-    QString address() const { return m_address; }
-    pid_t processId() const { return pid_t(m_daemon.processId()); }
-
-private:
-    PrivateBus()
-    {
-        QFile configuration(m_folder.filePath(u"bus.conf"_s));
-        if (configuration.open(QIODevice::WriteOnly)) {
-            configuration.write("<busconfig><type>session</type><listen>unix:tmpdir=" + m_folder.path().toUtf8() +
-                                "</listen><policy context=\"default\"><allow send_destination=\"*\" "
-                                "eavesdrop=\"true\"/><allow eavesdrop=\"true\"/>"
-                                "<allow own=\"*\"/></policy></busconfig>");
-            configuration.close();
-        }
-        m_daemon.start(u"dbus-daemon"_s, {u"--nofork"_s, u"--nopidfile"_s, u"--print-address"_s,
-                                          u"--config-file="_s + configuration.fileName()});
-        while (!m_daemon.canReadLine() && m_daemon.waitForReadyRead(5000)) {
-        }
-        m_address = QString::fromLocal8Bit(m_daemon.readLine().trimmed());
-        qputenv("DBUS_SYSTEM_BUS_ADDRESS", m_address.toLocal8Bit());
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.toLocal8Bit());
-    }
-    ~PrivateBus()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished(1000);
-    }
-
-    QTemporaryDir m_folder;
-    QProcess m_daemon;
-    QString m_address;
-};
 
 class LoginManager : public QObject, protected QDBusContext {
     Q_OBJECT
@@ -187,7 +145,7 @@ protected:
     QTemporaryDir m_folder;
     test::ProductFolder m_product{test::productInformation({{u"CFBundleIdentifier"_s, u"com.tarnwell.kestrel"_s}})};
     test::TestDesktop m_desktop;
-    QDBusConnection m_bus = QDBusConnection::connectToBus(PrivateBus::instance().address(), u"stand-ins"_s);
+    QDBusConnection m_bus = QDBusConnection::connectToBus(test::PrivateBus::instance().address(), u"stand-ins"_s);
     LoginManager m_login;
     Notifications m_notifications;
     TaskBar m_taskBar;
@@ -221,10 +179,10 @@ TEST_F(AfterRunTest, the_machine_stays_awake_while_a_job_is_active)
 TEST_F(AfterRunTest, an_answer_that_comes_after_the_jobs_is_let_go)
 {
     offerAll();
-    ::kill(PrivateBus::instance().processId(), SIGSTOP);
+    ::kill(test::PrivateBus::instance().processId(), SIGSTOP);
     const bool ran = run({JobState::Done});
     settle();
-    ::kill(PrivateBus::instance().processId(), SIGCONT);
+    ::kill(test::PrivateBus::instance().processId(), SIGCONT);
     EXPECT_TRUE(ran) << "held up by a bus that does not answer";
     settle();
     EXPECT_FALSE(m_login.isInhibited());

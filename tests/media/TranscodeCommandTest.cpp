@@ -321,6 +321,17 @@ TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
     EXPECT_EQ(inLanguages(u"ja"_s, u"none"_s), 4) << "sound that is in none of them is kept";
 }
 
+TEST(TranscodeCommand, NamesTheChaptersOfFilmsThatHaveATrackOfNames)
+{
+    MediaInformation source = film();
+    source.chapters = {{.start = 0, .end = 20, .title = {}}, {.start = 20, .end = 60, .title = u"Two"_s}};
+    const auto mp4 = stepsFor(planFor(u"mp4-h264"_s), source), mkv = stepsFor(planFor(u"mkv-h264"_s), source);
+    ASSERT_TRUE(mp4 && mkv);
+    const QByteArray file = mp4->files.values().value(0);
+    EXPECT_TRUE(file.contains("title=Chapter 1\n") && file.contains("title=Two\n")) << file.constData();
+    EXPECT_TRUE(mkv->files.isEmpty());
+}
+
 TEST(TranscodeCommand, AimsBelowTheSizeInTwoPasses)
 {
     const auto steps = stepsFor(planFor(u"mp4-h264"_s, [](Plan &plan) {

@@ -2,19 +2,18 @@
 
 #include "DiscView.h"
 
-#include "foundation/UserDefaults.h"
 #include "jobs/DiskSpace.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobPage.h"
+#include "jobs/ui/JobRowDelegate.h"
 #include "modules/ModuleRow.h"
 #include "modules/common/LateView.h"
-#include "modules/common/OutputFolderLine.h"
+#include "modules/common/MediaPlayer.h"
 #include "modules/heron/DiscList.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/Images.h"
-#include "tarnwell/ui/TabOrder.h"
 
 #include <QComboBox>
 #include <QDir>
@@ -35,19 +34,9 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr JobPageTexts heronTexts = {
-    .title = "DVD Ripper"_key,
-    .emptyHeadline = "Put a DVD in, or drop a disc image or folder here"_key,
-    .emptyText = "Its titles are kept as they are, or become MP4, MKV or MP3, as you choose."_key,
-    .emptyButton = "Open Image…"_key,
-    .start = "Start"_key,
-    .emptyImage = "heron_module",
-};
-
-QString interfaceLanguage()
+QString pictureKey(const QString &source, int title)
 {
-    const QStringList chosen = foundation::UserDefaults::standardUserDefaults().stringArrayForKey(u"AppleLanguages"_s);
-    return chosen.isEmpty() ? u"en"_s : chosen.first();
+    return source + u'\n' + QString::number(title);
 }
 
 QString sizeText(qint64 bytes)
@@ -81,68 +70,6 @@ JobQueue &HeronController::queue()
 DiscTools HeronController::tools() const
 {
     return discTools(*m_settings, QThread::idealThreadCount());
-}
-
-std::unique_ptr<QWidget> HeronController::makeContents()
-{
-    queue().setRecipe(heronJobs.toString(), &m_recipe);
-    m_list = std::make_unique<DiscList>(queue());
-    auto page = std::make_unique<JobPage>(queue(), *m_list, heronJobs.toString(), heronTexts);
-    m_page = page.get();
-    m_disc = new DiscView(interfaceLanguage());
-    m_page->setTopArea(m_disc);
-    makeHeader();
-    makeChoices();
-    connect(m_disc, &DiscView::choiceChanged, this, &HeronController::showChoice);
-    connect(&m_pictures, &DiscPictures::made, m_disc, &DiscView::setPicture);
-    connect(m_page, &JobPage::backClicked, this, &HeronController::doBackAction);
-    connect(m_page, &JobPage::addClicked, this, &HeronController::chooseImage);
-    connect(m_page, &JobPage::pathsDropped, this, &HeronController::openFiles);
-    connect(m_page, &JobPage::startClicked, this, &HeronController::begin);
-    connect(m_list.get(), &QAbstractItemModel::rowsInserted, this, &HeronController::showArea);
-    connect(m_list.get(), &QAbstractItemModel::rowsRemoved, this, &HeronController::showArea);
-    showDrives();
-    showArea();
-    tarnwell::tabInLayoutOrder(*page);
-    return page;
-}
-
-void HeronController::makeHeader()
-{
-    m_driveBox = new QComboBox;
-    m_driveBox->setObjectName(u"driveComboBox"_s);
-    m_driveBox->setAccessibleName("Drive"_key.localized());
-    connect(m_driveBox, &QComboBox::activated, this, [this] { openSource(m_driveBox->currentData().toString()); });
-    m_page->addHeaderControl(m_driveBox);
-    auto *image = new QPushButton("Open Image…"_key.localized());
-    image->setObjectName(u"imageButton"_s);
-    connect(image, &QPushButton::clicked, this, &HeronController::chooseImage);
-    m_page->addHeaderControl(image);
-    auto *folder = new QPushButton("Open Folder…"_key.localized());
-    folder->setObjectName(u"folderButton"_s);
-    connect(folder, &QPushButton::clicked, this, &HeronController::chooseFolder);
-    m_page->addHeaderControl(folder);
-}
-
-void HeronController::makeChoices()
-{
-    m_ways = new QComboBox;
-    m_ways->setObjectName(u"wayComboBox"_s);
-    m_ways->setAccessibleName("How the disc is kept"_key.localized());
-    for (const DiscWayRow &row : discWayRows())
-        m_ways->addItem(row.name.localized(), int(row.way));
-    connect(m_ways, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
-    m_page->addChoice(m_ways);
-    m_presets = new QComboBox;
-    m_presets->setObjectName(u"targetComboBox"_s);
-    m_presets->setAccessibleName("Output format"_key.localized());
-    for (const Preset &preset : builtInPresets())
-        m_presets->addItem(preset.name, preset.id);
-    connect(m_presets, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
-    m_page->addChoice(m_presets);
-    auto *folder = new OutputFolderLine;
-    folder->setDispatcher(m_settings);
-    m_page->addChoice(folder, 1);
 }
 
 void HeronController::setCompletedHandler(CompletedHandler handler)
@@ -189,6 +116,15 @@ void HeronController::openFiles(const QStringList &paths)
         openSource(paths.first());
 }
 
+void HeronController::warn(const QString &message)
+{
+    tarnwell::runAlert({.message = message,
+                        .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
+                        .alternateButton = {},
+                        .informativeText = {},
+                        .style = tarnwell::AlertStyle::Warning});
+}
+
 void HeronController::chooseImage()
 {
     openSource(QFileDialog::getOpenFileName(
@@ -225,7 +161,9 @@ void HeronController::discAnswered(const DiscProbe::Answer &answer)
     else
         m_contents = *answer;
     if (m_contents) {
-        m_disc->showDisc(*m_contents);
+        DiscPlan plan;
+        applySettings(*m_settings, QThread::idealThreadCount(), plan);
+        m_disc->showDisc(*m_contents, plan);
         QList<int> pictures{0, m_contents->mainTitle()->number};
         for (const disc::DiscTitle &title : m_contents->titles) {
             if (!pictures.contains(title.number))
@@ -254,6 +192,7 @@ void HeronController::showDrives()
         m_pictures.stop();
         m_source.clear();
         m_contents.reset();
+        m_disc->clear();
     }
     m_driveBox->setCurrentIndex(m_driveBox->findData(m_source));
     if (m_source.isEmpty() && !drives.isEmpty()) {
@@ -279,8 +218,12 @@ QList<disc::DiscTitle> HeronController::chosenTitles() const
     const QList<int> numbers = m_disc->chosenTitles();
     QList<disc::DiscTitle> titles;
     if (m_contents) {
-        std::copy_if(m_contents->titles.begin(), m_contents->titles.end(), std::back_inserter(titles),
-                     [&](const disc::DiscTitle &title) { return numbers.contains(title.number); });
+        for (const disc::DiscTitle &title : m_contents->titles) {
+            DiscPlan plan;
+            m_disc->fillIn(title.number, plan);
+            if (numbers.contains(title.number))
+                titles.append(chosenPart(plan, title));
+        }
     }
     return titles;
 }
@@ -291,7 +234,7 @@ void HeronController::showChoice()
         return;
     showSizes();
     m_presets->setVisible(way() == DiscWay::Rip);
-    m_disc->setChoosing(!takesWholeDisc(way()));
+    m_disc->setChoosing(!takesWholeDisc(way()), way() == DiscWay::Rip && preset().takesVideo());
     const QList<disc::DiscTitle> titles = chosenTitles();
     const bool isFolder = QFileInfo(m_source).isDir();
     const bool canMake =
@@ -335,6 +278,7 @@ void HeronController::showArea()
     m_page->setListVisible(!hasDisc || m_list->rowCount() > 0);
     m_ways->setEnabled(m_contents.has_value());
     m_presets->setEnabled(m_contents.has_value());
+    m_optionsButton->setVisible(m_contents.has_value());
 }
 
 QList<DiscPlan> HeronController::plans() const
@@ -345,17 +289,68 @@ QList<DiscPlan> HeronController::plans() const
         DiscPlan plan;
         plan.source = m_source;
         plan.way = way();
-        plan.title = number;
         plan.transcode.preset = preset();
         applySettings(*m_settings, QThread::idealThreadCount(), plan);
-        if (number > 0) {
-            plan.soundTracks = m_disc->chosenSound(number);
-            plan.subtitleTracks = m_disc->chosenSubtitles(number);
-        }
+        if (number > 0)
+            m_disc->fillIn(number, plan);
         describeDisc(*m_contents, plan);
         plans.append(plan);
     }
     return plans;
+}
+
+void HeronController::keepPicture(int title, const QString &path)
+{
+    constexpr qsizetype mostPictures = 500;
+    if (m_rowPictures.size() >= mostPictures)
+        m_rowPictures.clear();
+    m_rowPictures.insert(pictureKey(m_source, title),
+                         discPicture(path, JobRowDelegate::pictureSize, m_page->devicePixelRatioF()));
+    m_list->showPicturesAgain();
+}
+
+QVariant HeronController::pictureOf(const JobRecord &record) const
+{
+    const QPixmap picture = m_rowPictures.value(pictureKey(record.source, record.plan["title"_L1].toInt()));
+    return picture.isNull() ? tarnwell::namedImage(u"heron_disc"_s, m_page->devicePixelRatioF()) : picture;
+}
+
+/// As it would be kept: the same chapters and angle, the sound that comes first, the subtitles in the picture.
+void HeronController::playTitle(int number)
+{
+    DiscPlan plan;
+    plan.source = m_source;
+    applySettings(*m_settings, QThread::idealThreadCount(), plan);
+    m_disc->fillIn(number, plan);
+    const disc::DiscTitle *title = m_contents ? titleOf(*m_contents, plan) : nullptr;
+    if (!title)
+        return;
+    QStringList choice;
+    const QList<int> sound = chosenSound(plan, *title);
+    if (!sound.isEmpty() && sound.first() > 0)
+        choice << u"-ast"_s << u"i:%1"_s.arg(title->audio[sound.first()].streamId);
+    if (plan.burnedSubtitle > 0)
+        choice << u"-sst"_s << u"i:%1"_s.arg(title->subtitles[plan.burnedSubtitle - 1].streamId);
+    else
+        choice << u"-sn"_s;
+    playFilm(plan, choice, discOutputName(plan, *m_contents));
+}
+
+/// Images and folders are discs again.
+void HeronController::playResult(const QString &path)
+{
+    const QFileInfo file(path);
+    if (file.isDir() || file.suffix() == "iso"_L1)
+        playFilm({.source = path}, {u"-sn"_s}, file.fileName());
+    else if (!m_player->play(m_settings->getPlayerPath(), path, file.fileName()))
+        warn("The player is missing. Please install the application again."_key.localized());
+}
+
+void HeronController::playFilm(const DiscPlan &plan, const QStringList &choice, const QString &name)
+{
+    if (!m_player->playStream(m_settings->getPlayerPath(), titleReaderCommand(tools(), plan), choice, name,
+                              hasReaderFailed))
+        warn("The player is missing. Please install the application again."_key.localized());
 }
 
 bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) const
@@ -397,11 +392,7 @@ void HeronController::begin()
         queue().start(ids);
         return;
     }
-    tarnwell::runAlert({.message = obstacle,
-                        .defaultButton = tarnwell::AppLocalizedString(u"OK"_s),
-                        .alternateButton = {},
-                        .informativeText = {},
-                        .style = tarnwell::AlertStyle::Warning});
+    warn(obstacle);
 }
 
 }  // namespace kestrel

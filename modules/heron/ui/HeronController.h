@@ -6,10 +6,13 @@
 #include "modules/heron/DiscProbe.h"
 #include "modules/heron/DiscRecipe.h"
 
+#include <QHash>
 #include <QObject>
+#include <QPixmap>
 #include <QPointer>
 
 class QComboBox;
+class QPushButton;
 
 namespace kestrel {
 
@@ -18,6 +21,7 @@ class DiscView;
 class JobPage;
 class JobQueue;
 class LateView;
+class MediaPlayer;
 
 /// The DVD module: a disc, its titles and the way to keep them above the list of jobs. Drives are watched while the
 /// module is open; what is in one that was put in last is shown where no disc is.
@@ -44,9 +48,11 @@ private:
     std::unique_ptr<QWidget> makeContents();
     void makeHeader();
     void makeChoices();
+    void addKeys();
     JobQueue &queue();
     DiscTools tools() const;
 
+    static void warn(const QString &message);
     void chooseImage();
     void chooseFolder();
     void openSource(const QString &source);
@@ -55,6 +61,12 @@ private:
     void showChoice();
     void showSizes();
     void showArea();
+
+    void keepPicture(int title, const QString &path);
+    QVariant pictureOf(const JobRecord &record) const;
+    void playTitle(int number);
+    void playResult(const QString &path);
+    void playFilm(const DiscPlan &plan, const QStringList &choice, const QString &name);
 
     DiscWay way() const;
     Preset preset() const;
@@ -70,6 +82,7 @@ private:
     DiscProbe m_probe;
     DiscPictures m_pictures;
     DiscDrives m_drives;
+    QHash<QString, QPixmap> m_rowPictures;         ///< of the discs that were shown, by source and title
     QString m_source;                              ///< of the disc that is shown; null for none
     std::optional<disc::DiscContents> m_contents;  ///< once it has answered
     std::unique_ptr<LateView> m_view;
@@ -77,7 +90,9 @@ private:
     std::unique_ptr<DiscList> m_list;
     QPointer<JobPage> m_page;
     QPointer<DiscView> m_disc;
+    QPointer<MediaPlayer> m_player;
     QPointer<QComboBox> m_driveBox, m_ways, m_presets;
+    QPointer<QPushButton> m_optionsButton;
 };
 
 }  // namespace kestrel

@@ -1,7 +1,6 @@
 #include "EditWindow.h"
 
 #include "FrameMaker.h"
-#include "MediaPlayer.h"
 #include "OptionControls.h"
 #include "PictureView.h"
 #include "PieceList.h"
@@ -12,6 +11,7 @@
 #include "jobs/ToolProcess.h"
 #include "media/PictureScan.h"
 #include "media/ToolPath.h"
+#include "modules/common/MediaPlayer.h"
 #include "modules/marlin/Cropping.h"
 #include "modules/marlin/Pieces.h"
 #include "settings/JKestrelSettingDispatcher.h"

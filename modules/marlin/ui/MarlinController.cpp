@@ -1,7 +1,6 @@
 #include "MarlinController.h"
 
 #include "EditWindow.h"
-#include "MediaPlayer.h"
 #include "OptionsPanel.h"
 #include "PresetChooser.h"
 #include "PresetDialog.h"
@@ -14,6 +13,7 @@
 #include "jobs/ui/JobPage.h"
 #include "media/MediaFiles.h"
 #include "modules/common/LateView.h"
+#include "modules/common/MediaPlayer.h"
 #include "modules/marlin/Conversion.h"
 #include "modules/marlin/ConversionList.h"
 #include "modules/marlin/Conversions.h"

@@ -1,6 +1,5 @@
 #include "MarlinController.h"
 
-#include "MediaPlayer.h"
 #include "OptionsPanel.h"
 #include "PresetChooser.h"
 #include "Thumbnails.h"
@@ -8,6 +7,7 @@
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
 #include "jobs/ui/JobRowDelegate.h"
+#include "modules/common/MediaPlayer.h"
 #include "modules/common/OutputFolderLine.h"
 #include "modules/marlin/Conversion.h"
 #include "modules/marlin/ConversionList.h"
