@@ -103,6 +103,7 @@ void DownloadJob::download()
     m_progress = EngineProgress(m_plan.bytes > 0 ? m_plan.bytes : m_answer.bytes,
                                 m_answer.film["requested_formats"_L1].toArray().size() > 1);
     m_bytesAtTry = m_part->bytes();
+    m_plan.picture = m_answer.picture;
     tellStage("Connecting…"_key);
     const ToolCommand command = downloadCommand(m_plan, m_tools.engine, m_part->path(), m_answerPath);
     tarnwell::DNFootLog(u"Downloading from %1"_s.arg(m_plan.server()));
@@ -123,7 +124,11 @@ void DownloadJob::readLine(const QByteArray &line)
 
 void DownloadJob::downloaded(const ToolEnding &ending)
 {
-    if (!ending.isGood() || m_part->downloaded().isNull())
+    const bool isWhole = !m_part->downloaded().isNull();
+    const bool lacksCompanions = isWhole && ending.cause == ToolEnding::Cause::Exited && ending.exitCode != 0;
+    if (lacksCompanions)
+        m_companionWords = ending.lastWords;
+    else if (!ending.isGood() || !isWhole)
         return engineFailed(ending);
     if (m_tools.engineTried)
         m_tools.engineTried(true);
@@ -274,8 +279,12 @@ void DownloadJob::place(const QString &path)
 
 JobOutcome DownloadJob::goodOutcome() const
 {
-    return {.state = m_check.sentence.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
-            .sentence = m_check.sentence,
+    Sentence problem = m_check.sentence;
+    if (problem.isEmpty() && !m_companionWords.isEmpty())
+        problem = "The film has come, but subtitles, cover or chapters could not be added to it."_key;
+    return {.state = problem.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
+            .sentence = problem,
+            .details = m_companionWords,
             .facts = {{u"resumed_bytes"_s, m_resumed}}};
 }
 

@@ -72,10 +72,11 @@ private:
     EngineProgress m_progress;
     JobProgress m_told;
     DownloadCheck m_check;
-    qint64 m_resumed = 0;     ///< bytes that were there when the job began
-    qint64 m_bytesAtTry = 0;  ///< when the present attempt began
-    int m_waits = 0;          ///< since something last came
-    int m_waitNumber = 0;     ///< tells waits apart
+    QString m_companionWords;  ///< what the engine said when it could not add what goes with the film
+    qint64 m_resumed = 0;      ///< bytes that were there when the job began
+    qint64 m_bytesAtTry = 0;   ///< when the present attempt began
+    int m_waits = 0;           ///< since something last came
+    int m_waitNumber = 0;      ///< tells waits apart
     bool m_hasAskedAgain = false;
     bool m_isOver = false;
 };

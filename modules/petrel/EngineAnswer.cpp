@@ -165,6 +165,8 @@ foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &j
         const QJsonArray entries = root["entries"_L1].toArray();
         if (entries.size() == 1 && !entries.first().toObject()["_type"_L1].toString().startsWith("url"_L1)) {
             readFilm(entries.first().toObject(), answer);
+            if (const QString title = titleOf(root); answer.title == title + " (1)"_L1)
+                answer.title = title;
         } else {
             answer.title = titleOf(root);
             for (qsizetype index = 0; index < std::min(entries.size(), maximumEntries); ++index) {
