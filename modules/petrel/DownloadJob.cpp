@@ -4,6 +4,7 @@
 
 #include "foundation/Queues.h"
 #include "foundation/StandardFolders.h"
+#include "jobs/DiskSpace.h"
 #include "jobs/OutputFile.h"
 #include "media/MediaProber.h"
 #include "media/Placing.h"
@@ -31,6 +32,7 @@ namespace {
 /// Seconds between attempts at what passes by itself; after the last one it has failed.
 constexpr int waits[] = {5, 15, 45, 120, 300};
 constexpr int serverWaits = 2;
+constexpr qint64 leastSpace = 1'000'000;
 
 }  // namespace
 
@@ -135,10 +137,24 @@ void DownloadJob::downloaded(const ToolEnding &ending)
     look();
 }
 
-void DownloadJob::engineFailed(const ToolEnding &ending)
+EngineFailure DownloadJob::failureOf(const ToolEnding &ending) const
 {
     using Kind = EngineFailure::Kind;
     const EngineFailure failure = engineFailure(ending, m_plan.proxy);
+    // A server that was there before is not there because the way to it is broken.
+    if (failure.kind == Kind::NotThere && m_part->bytes() > 0)
+        return engineFailureOf(Kind::NoNetwork);
+    // What runs below the engine does not always tell why it could not write.
+    const auto space = diskSpaceOf(m_folder);
+    if (failure.kind == Kind::Unknown && space && space->available < leastSpace)
+        return engineFailureOf(Kind::Disk);
+    return failure;
+}
+
+void DownloadJob::engineFailed(const ToolEnding &ending)
+{
+    using Kind = EngineFailure::Kind;
+    const EngineFailure failure = failureOf(ending);
     if (mayBeTheEngine(failure.kind) && m_tools.engineTried) {
         if (const auto other = m_tools.engineTried(false)) {
             tarnwell::DNFootLog(u"Going back to the engine before: %1"_s.arg(ending.lastWords));

@@ -47,6 +47,7 @@ private:
     void readLine(const QByteArray &line);
     void downloaded(const ToolEnding &ending);
     void engineFailed(const ToolEnding &ending);
+    EngineFailure failureOf(const ToolEnding &ending) const;
     void waitAndTryAgain(const EngineFailure &failure, const QString &details);
     void waitOn(int seconds, const tarnwell::TextKey &stage);
     void look();

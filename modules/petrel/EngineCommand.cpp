@@ -36,8 +36,13 @@ QStringList commonArguments(const DownloadPlan &plan, const EngineTools &tools)
     QStringList arguments{u"--ignore-config"_s,   u"--no-exec"_s,         u"--no-colors"_s,      u"--no-update"_s,
                           u"--no-cache-dir"_s,    u"--no-mark-watched"_s, u"--socket-timeout"_s, u"20"_s,
                           u"--ffmpeg-location"_s, tools.transcoderFolder};
-    if (!plan.proxy.isEmpty())
-        arguments << u"--proxy"_s << plan.proxy;
+    if (!plan.proxy.isEmpty()) {
+        // The engine leaves the names to the proxy, but knows that way under the shorter name alone.
+        QString proxy = plan.proxy;
+        if (proxy.startsWith("socks5h:"_L1))
+            proxy.remove(6, 1);
+        arguments << u"--proxy"_s << proxy;
+    }
     if (plan.item > 0)
         arguments << u"--yes-playlist"_s << u"--playlist-items"_s << QString::number(plan.item);
     return arguments;

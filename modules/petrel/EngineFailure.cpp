@@ -158,6 +158,11 @@ EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy)
     }
     if (kind == Kind::NotThere && !proxy.isEmpty())
         kind = Kind::Proxy;
+    return engineFailureOf(kind);
+}
+
+EngineFailure engineFailureOf(EngineFailure::Kind kind)
+{
     return {kind, sentenceOf(kind)};
 }
 

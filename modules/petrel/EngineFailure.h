@@ -38,6 +38,8 @@ struct EngineFailure {
 /// Who goes through a proxy reaches nothing but that: `proxy` is its address, null for none.
 EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy = {});
 
+EngineFailure engineFailureOf(EngineFailure::Kind kind);  ///< with its sentence
+
 /// Whether the same may do after a while.
 bool passesByItself(EngineFailure::Kind kind);
 /// Whether another engine might do better.
