@@ -18,6 +18,7 @@
 #include <QPointer>
 
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -80,6 +81,7 @@ void DownloadJob::analyse()
 
 void DownloadJob::analysed(const ToolEnding &ending)
 {
+    m_retryAfter = retryAfterIn(ending.output);
     if (!ending.isGood())
         return engineFailed(ending);
     auto answer = parseEngineAnswer(ending.output, m_plan.address);
@@ -115,6 +117,8 @@ void DownloadJob::download()
 
 void DownloadJob::readLine(const QByteArray &line)
 {
+    if (const int seconds = retryAfterIn(line); seconds > 0)
+        m_retryAfter = seconds;
     if (!m_progress.readLine(line))
         return;
     const double before = m_told.fraction.value_or(0);
@@ -183,7 +187,9 @@ void DownloadJob::waitAndTryAgain(const EngineFailure &failure, const QString &d
     const int most = failure.kind == EngineFailure::Kind::Server ? serverWaits : int(std::ssize(waits));
     if (m_waits >= most)
         return fail(failure.sentence, details);
-    const int seconds = waits[m_waits++];
+    const int usual = waits[m_waits++];
+    const int asked = std::exchange(m_retryAfter, 0);
+    const int seconds = failure.kind == EngineFailure::Kind::TooMany && asked > 0 ? asked : usual;
     ++m_waitNumber;
     switch (failure.kind) {
         case EngineFailure::Kind::TooMany:

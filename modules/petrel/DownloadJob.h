@@ -77,6 +77,7 @@ private:
     qint64 m_resumed = 0;      ///< bytes that were there when the job began
     qint64 m_bytesAtTry = 0;   ///< when the present attempt began
     int m_waits = 0;           ///< since something last came
+    int m_retryAfter = 0;      ///< seconds, as the server asked last; 0 where it did not
     int m_waitNumber = 0;      ///< tells waits apart
     bool m_hasAskedAgain = false;
     bool m_isOver = false;

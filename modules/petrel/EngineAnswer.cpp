@@ -165,11 +165,11 @@ QList<std::pair<int, qint64>> EngineAnswer::resolutions() const
     return {sizes.begin(), sizes.end()};
 }
 
-foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &json, const QString &address)
+foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &output, const QString &address)
 {
     QJsonObject root;
-    if (json.size() <= maximumAnswerBytes)
-        root = QJsonDocument::fromJson(json).object();
+    if (output.size() <= maximumAnswerBytes)
+        root = QJsonDocument::fromJson(output.sliced(output.lastIndexOf("\n{") + 1)).object();
     if (root.isEmpty())
         return foundation::Failure{Sentence("What the site answered could not be understood."_key)};
     EngineAnswer answer;

@@ -33,8 +33,9 @@ QProcessEnvironment environmentFor(const EngineTools &tools)
 
 QStringList commonArguments(const DownloadPlan &plan, const EngineTools &tools)
 {
-    QStringList arguments{u"--ignore-config"_s,   u"--no-exec"_s,         u"--no-colors"_s,      u"--no-update"_s,
-                          u"--no-cache-dir"_s,    u"--no-mark-watched"_s, u"--socket-timeout"_s, u"20"_s,
+    QStringList arguments{u"--ignore-config"_s,   u"--no-exec"_s,        u"--no-colors"_s,
+                          u"--no-update"_s,       u"--no-cache-dir"_s,   u"--no-mark-watched"_s,
+                          u"--print-traffic"_s,   u"--socket-timeout"_s, u"20"_s,
                           u"--ffmpeg-location"_s, tools.transcoderFolder};
     if (!plan.proxy.isEmpty()) {
         // The engine leaves the names to the proxy, but knows that way under the shorter name alone.
