@@ -103,14 +103,30 @@ foundation::Result<QStringList> addressesOf(const QStringList &arguments, const 
     return addresses;
 }
 
-/// The jobs for the addresses, in their order, once all of them have been looked at. Nothing where a signal ended that.
-std::optional<QList<JobRecord>> lookedAt(const QStringList &addresses, const DownloadRequest &request,
-                                         CliSession &session, const QString &folder)
+/// What an address leads to: one job, or those of a list.
+QList<JobRecord> jobsFor(const DownloadPlan &plan, const Analysis::Answer &answer, const QString &folder)
+{
+    if (answer)
+        return downloadJobs(plan, *answer, folder);
+    JobRecord record = downloadJob(plan, folder);
+    // What may do at another attempt, or with another engine, is the job's own business.
+    const EngineFailure::Kind kind = answer.reason().kind;
+    if (!passesByItself(kind) && !mayBeTheEngine(kind)) {
+        record.state = JobState::Unusable;
+        record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
+    }
+    return {record};
+}
+
+/// The jobs for the addresses, in their order, once all of them have been looked at; each is started as soon as its
+/// own was. Nothing where a signal ended that.
+std::optional<QList<JobId>> lookedAt(const QStringList &addresses, const DownloadRequest &request, CliSession &session,
+                                     const QString &folder)
 {
     const JKestrelSettingDispatcher &settings = session.settings();
     QEventLoop loop;
     Analysis analysis([&] { return engineTools(settings); }, downloadTools(settings, 1).answers);
-    std::vector<QList<JobRecord>> records(size_t(addresses.size()));
+    std::vector<QList<JobId>> ids(size_t(addresses.size()));
     qsizetype open = addresses.size();
     const auto planOf = [&](qint64 number) {
         DownloadPlan plan = request.plan;
@@ -118,18 +134,10 @@ std::optional<QList<JobRecord>> lookedAt(const QStringList &addresses, const Dow
         return plan;
     };
     QObject::connect(&analysis, &Analysis::answered, &loop, [&](qint64 number, const Analysis::Answer &answer) {
-        if (answer) {
-            records[size_t(number)] = downloadJobs(planOf(number), *answer, folder);
-        } else {
-            JobRecord record = downloadJob(planOf(number), folder);
-            // What may do at another attempt, or with another engine, is the job's own business.
-            const EngineFailure::Kind kind = answer.reason().kind;
-            if (!passesByItself(kind) && !mayBeTheEngine(kind)) {
-                record.state = JobState::Unusable;
-                record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
-            }
-            records[size_t(number)] = {record};
-        }
+        QList<JobId> &added = ids[size_t(number)];
+        for (const JobRecord &record : jobsFor(planOf(number), answer, folder))
+            added.append(session.queue().add(record));
+        session.queue().start(added);
         if (--open == 0)
             loop.quit();
     });
@@ -137,8 +145,8 @@ std::optional<QList<JobRecord>> lookedAt(const QStringList &addresses, const Dow
         analysis.ask(number, planOf(number));
     if (!session.wait(loop))
         return std::nullopt;
-    QList<JobRecord> all;
-    for (const QList<JobRecord> &some : records)
+    QList<JobId> all;
+    for (const QList<JobId> &some : ids)
         all += some;
     return all;
 }
@@ -167,13 +175,10 @@ ExitStatus runDownload(const Surroundings &surroundings, const QStringList &argu
     DownloadRecipe recipe([&settings] { return downloadTools(settings, QThread::idealThreadCount()); });
     session.queue().setRecipe(petrelJobs.toString(), &recipe);
     session.queue().setLaneLimit(Lane::Net, request.atOnce > 0 ? request.atOnce : downloadsAtOnce(settings));
-    const auto records = lookedAt(*addresses, request, session, folder);
-    if (!records)
+    const auto ids = lookedAt(*addresses, request, session, folder);
+    if (!ids)
         return InterruptedBySignal;
-    QList<JobId> ids;
-    for (const JobRecord &record : *records)
-        ids.append(session.queue().add(record));
-    return runJobs(session, ids, surroundings);
+    return runJobs(session, *ids, surroundings, SignalMeaning::Cancel, *ids);
 }
 
 }  // namespace kestrel::cli

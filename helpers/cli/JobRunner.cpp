@@ -8,7 +8,7 @@
 namespace kestrel::cli {
 
 ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundings &surroundings,
-                   SignalMeaning meaning)
+                   SignalMeaning meaning, const QList<JobId> &begun)
 {
     JobQueue &queue = session.queue();
     JobReporter reporter(surroundings, ids.size());
@@ -44,10 +44,13 @@ ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundi
     session.keepJobs();
     const QList<JobId> all = open;
     for (const JobId id : all) {
-        if (queue.record(id)->state == JobState::Unusable)
+        const JobState state = queue.record(id)->state;
+        if (state == JobState::Unusable || (begun.contains(id) && isEnded(state)))
             take(id);
     }
-    queue.start(open);
+    QList<JobId> toStart = open;
+    toStart.removeIf([&](JobId id) { return begun.contains(id); });
+    queue.start(toStart);
     if (!open.isEmpty())
         loop.exec();
     return isInterrupted && meaning == SignalMeaning::Cancel ? InterruptedBySignal : reporter.status();

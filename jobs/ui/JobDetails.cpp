@@ -63,4 +63,13 @@ JobDetails::JobDetails(const JobRecord &record, QWidget *parent)
 
 JobDetails::~JobDetails() = default;
 
+void JobDetails::offer(const QString &text, std::function<void()> action)
+{
+    auto *button = new QPushButton(text, this);
+    m_form->buttonLayout->insertWidget(1, button);
+    setTabOrder(m_form->copyButton, button);
+    connect(button, &QPushButton::clicked, this, &QDialog::accept);
+    connect(button, &QPushButton::clicked, this, std::move(action));
+}
+
 }  // namespace kestrel

@@ -2,6 +2,7 @@
 
 #include <QDialog>
 
+#include <functional>
 #include <memory>
 
 namespace Ui {
@@ -19,6 +20,9 @@ class JobDetails : public QDialog {
 public:
     JobDetails(const JobRecord &record, QWidget *parent);
     ~JobDetails() override;
+
+    /// Adds a button that closes it and does `action`.
+    void offer(const QString &text, std::function<void()> action);
 
 private:
     std::unique_ptr<Ui::JobDetails> m_form;

@@ -194,8 +194,12 @@ void JobListView::removeEnded()
 
 void JobListView::showDetails(JobId id)
 {
-    if (const JobRecord *record = m_queue.record(id))
-        (new JobDetails(*record, window()))->open();
+    const JobRecord *record = m_queue.record(id);
+    if (!record)
+        return;
+    auto *details = new JobDetails(*record, window());
+    emit detailsOpened(details, id);
+    details->open();
 }
 
 void JobListView::activate(const QModelIndex &index)

@@ -8,6 +8,7 @@ class QMenu;
 
 namespace kestrel {
 
+class JobDetails;
 class JobList;
 class JobQueue;
 
@@ -40,6 +41,8 @@ signals:
     void selectedChanged();
     /// The context menu is about to be shown for these; add to it.
     void menuRequested(QMenu *menu, const QList<kestrel::JobId> &ids);
+    /// The details of this one are about to be shown; offer what helps.
+    void detailsOpened(kestrel::JobDetails *details, kestrel::JobId id);
 
 protected:
     void contextMenuEvent(QContextMenuEvent *event) override;

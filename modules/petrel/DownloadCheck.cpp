@@ -73,6 +73,14 @@ bool lacksPackets(const FoundOutput &found, const QList<qint64> &told)
     return false;
 }
 
+/// Of those that were asked for and are there.
+bool lacksSubtitles(const DownloadPlan &plan, const EngineAnswer &answer, const MediaInformation &information)
+{
+    const auto isThere = [&](const QString &language) { return answer.subtitles.contains(language); };
+    const auto wanted = std::ranges::count_if(plan.subtitles, isThere);
+    return !plan.soundOnly && information.tracksOf(MediaTrack::Kind::Subtitle).size() < wanted;
+}
+
 /// What speaks against the file's being whole; none where nothing does.
 Sentence incompleteness(const DownloadPlan &plan, const EngineAnswer &answer, const FoundOutput &found,
                         const QList<qint64> &packets, const QString &toolWords)
@@ -89,6 +97,8 @@ Sentence incompleteness(const DownloadPlan &plan, const EngineAnswer &answer, co
     const bool isCutOff = toolWords.contains("ended prematurely"_L1) || toolWords.contains("partial file"_L1);
     if (isCutOff || lacksPackets(found, packets))
         return "The server has sent only part of the film."_key;
+    if (lacksSubtitles(plan, answer, information))
+        return "The subtitles are missing: the site did not hand them out."_key;
     return {};
 }
 

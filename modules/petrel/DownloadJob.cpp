@@ -4,6 +4,7 @@
 
 #include "foundation/Queues.h"
 #include "foundation/StandardFolders.h"
+#include "jobs/DiskSpace.h"
 #include "jobs/OutputFile.h"
 #include "media/MediaProber.h"
 #include "media/Placing.h"
@@ -17,6 +18,7 @@
 #include <QPointer>
 
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
@@ -31,6 +33,7 @@ namespace {
 /// Seconds between attempts at what passes by itself; after the last one it has failed.
 constexpr int waits[] = {5, 15, 45, 120, 300};
 constexpr int serverWaits = 2;
+constexpr qint64 leastSpace = 1'000'000;
 
 }  // namespace
 
@@ -78,6 +81,7 @@ void DownloadJob::analyse()
 
 void DownloadJob::analysed(const ToolEnding &ending)
 {
+    m_retryAfter = retryAfterIn(ending.output);
     if (!ending.isGood())
         return engineFailed(ending);
     auto answer = parseEngineAnswer(ending.output, m_plan.address);
@@ -103,6 +107,7 @@ void DownloadJob::download()
     m_progress = EngineProgress(m_plan.bytes > 0 ? m_plan.bytes : m_answer.bytes,
                                 m_answer.film["requested_formats"_L1].toArray().size() > 1);
     m_bytesAtTry = m_part->bytes();
+    m_plan.picture = m_answer.picture;
     tellStage("Connecting…"_key);
     const ToolCommand command = downloadCommand(m_plan, m_tools.engine, m_part->path(), m_answerPath);
     tarnwell::DNFootLog(u"Downloading from %1"_s.arg(m_plan.server()));
@@ -112,6 +117,8 @@ void DownloadJob::download()
 
 void DownloadJob::readLine(const QByteArray &line)
 {
+    if (const int seconds = retryAfterIn(line); seconds > 0)
+        m_retryAfter = seconds;
     if (!m_progress.readLine(line))
         return;
     const double before = m_told.fraction.value_or(0);
@@ -123,17 +130,35 @@ void DownloadJob::readLine(const QByteArray &line)
 
 void DownloadJob::downloaded(const ToolEnding &ending)
 {
-    if (!ending.isGood() || m_part->downloaded().isNull())
+    const bool isWhole = !m_part->downloaded().isNull();
+    const bool lacksCompanions = isWhole && ending.cause == ToolEnding::Cause::Exited && ending.exitCode != 0;
+    if (lacksCompanions)
+        m_companionWords = ending.lastWords;
+    else if (!ending.isGood() || !isWhole)
         return engineFailed(ending);
     if (m_tools.engineTried)
         m_tools.engineTried(true);
     look();
 }
 
-void DownloadJob::engineFailed(const ToolEnding &ending)
+EngineFailure DownloadJob::failureOf(const ToolEnding &ending) const
 {
     using Kind = EngineFailure::Kind;
     const EngineFailure failure = engineFailure(ending, m_plan.proxy);
+    // A server that was there before is not there because the way to it is broken.
+    if (failure.kind == Kind::NotThere && m_part->bytes() > 0)
+        return engineFailureOf(Kind::NoNetwork);
+    // What runs below the engine does not always tell why it could not write.
+    const auto space = diskSpaceOf(m_folder);
+    if (failure.kind == Kind::Unknown && space && space->available < leastSpace)
+        return engineFailureOf(Kind::Disk);
+    return failure;
+}
+
+void DownloadJob::engineFailed(const ToolEnding &ending)
+{
+    using Kind = EngineFailure::Kind;
+    const EngineFailure failure = failureOf(ending);
     if (mayBeTheEngine(failure.kind) && m_tools.engineTried) {
         if (const auto other = m_tools.engineTried(false)) {
             tarnwell::DNFootLog(u"Going back to the engine before: %1"_s.arg(ending.lastWords));
@@ -162,7 +187,9 @@ void DownloadJob::waitAndTryAgain(const EngineFailure &failure, const QString &d
     const int most = failure.kind == EngineFailure::Kind::Server ? serverWaits : int(std::ssize(waits));
     if (m_waits >= most)
         return fail(failure.sentence, details);
-    const int seconds = waits[m_waits++];
+    const int usual = waits[m_waits++];
+    const int asked = std::exchange(m_retryAfter, 0);
+    const int seconds = failure.kind == EngineFailure::Kind::TooMany && asked > 0 ? asked : usual;
     ++m_waitNumber;
     switch (failure.kind) {
         case EngineFailure::Kind::TooMany:
@@ -274,8 +301,12 @@ void DownloadJob::place(const QString &path)
 
 JobOutcome DownloadJob::goodOutcome() const
 {
-    return {.state = m_check.sentence.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
-            .sentence = m_check.sentence,
+    Sentence problem = m_check.sentence;
+    if (problem.isEmpty() && !m_companionWords.isEmpty())
+        problem = "The film has come, but subtitles, cover or chapters could not be added to it."_key;
+    return {.state = problem.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
+            .sentence = problem,
+            .details = m_companionWords,
             .facts = {{u"resumed_bytes"_s, m_resumed}}};
 }
 

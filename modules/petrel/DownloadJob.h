@@ -47,6 +47,7 @@ private:
     void readLine(const QByteArray &line);
     void downloaded(const ToolEnding &ending);
     void engineFailed(const ToolEnding &ending);
+    EngineFailure failureOf(const ToolEnding &ending) const;
     void waitAndTryAgain(const EngineFailure &failure, const QString &details);
     void waitOn(int seconds, const tarnwell::TextKey &stage);
     void look();
@@ -72,10 +73,12 @@ private:
     EngineProgress m_progress;
     JobProgress m_told;
     DownloadCheck m_check;
-    qint64 m_resumed = 0;     ///< bytes that were there when the job began
-    qint64 m_bytesAtTry = 0;  ///< when the present attempt began
-    int m_waits = 0;          ///< since something last came
-    int m_waitNumber = 0;     ///< tells waits apart
+    QString m_companionWords;  ///< what the engine said when it could not add what goes with the film
+    qint64 m_resumed = 0;      ///< bytes that were there when the job began
+    qint64 m_bytesAtTry = 0;   ///< when the present attempt began
+    int m_waits = 0;           ///< since something last came
+    int m_retryAfter = 0;      ///< seconds, as the server asked last; 0 where it did not
+    int m_waitNumber = 0;      ///< tells waits apart
     bool m_hasAskedAgain = false;
     bool m_isOver = false;
 };

@@ -25,9 +25,24 @@ constexpr qsizetype maximumEntries = 10'000;
 constexpr qsizetype maximumTitle = 500;
 constexpr double longestFilm = 1000.0 * 3600;
 
+/// Without what turns the direction of the text around, so that a file's ending cannot be made to look like another.
 QString titleOf(const QJsonObject &json)
 {
-    return json["title"_L1].toString().left(maximumTitle).simplified();
+    QString title = json["title"_L1].toString().left(maximumTitle);
+    title.removeIf([](QChar letter) {
+        return (letter >= u'\u202A' && letter <= u'\u202E') || (letter >= u'\u2066' && letter <= u'\u2069');
+    });
+    return title.simplified();
+}
+
+/// Players in a page are numbered also where there is only one.
+QString titleOfOnlyFilm(const QJsonObject &json)
+{
+    QString title = titleOf(json);
+    const bool isNumbered = json["extractor"_L1] == "html5"_L1 && json["id"_L1].toString().endsWith("-1"_L1);
+    if (isNumbered && title.endsWith(" (1)"_L1))
+        title.chop(4);
+    return title;
 }
 
 double numberOf(const QJsonValue &value, double maximum)
@@ -111,7 +126,7 @@ EngineAnswer::Entry entryOf(const QJsonObject &json, int item, const QString &pa
 
 void readFilm(const QJsonObject &json, EngineAnswer &answer)
 {
-    answer.title = titleOf(json);
+    answer.title = titleOfOnlyFilm(json);
     answer.seconds = secondsOf(json);
     answer.picture = pictureOf(json);
     for (const QJsonValue &form : json["formats"_L1].toArray()) {
@@ -150,11 +165,11 @@ QList<std::pair<int, qint64>> EngineAnswer::resolutions() const
     return {sizes.begin(), sizes.end()};
 }
 
-foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &json, const QString &address)
+foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &output, const QString &address)
 {
     QJsonObject root;
-    if (json.size() <= maximumAnswerBytes)
-        root = QJsonDocument::fromJson(json).object();
+    if (output.size() <= maximumAnswerBytes)
+        root = QJsonDocument::fromJson(output.sliced(output.lastIndexOf("\n{") + 1)).object();
     if (root.isEmpty())
         return foundation::Failure{Sentence("What the site answered could not be understood."_key)};
     EngineAnswer answer;

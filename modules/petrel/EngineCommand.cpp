@@ -33,11 +33,17 @@ QProcessEnvironment environmentFor(const EngineTools &tools)
 
 QStringList commonArguments(const DownloadPlan &plan, const EngineTools &tools)
 {
-    QStringList arguments{u"--ignore-config"_s,   u"--no-exec"_s,         u"--no-colors"_s,      u"--no-update"_s,
-                          u"--no-cache-dir"_s,    u"--no-mark-watched"_s, u"--socket-timeout"_s, u"20"_s,
+    QStringList arguments{u"--ignore-config"_s,   u"--no-exec"_s,        u"--no-colors"_s,
+                          u"--no-update"_s,       u"--no-cache-dir"_s,   u"--no-mark-watched"_s,
+                          u"--print-traffic"_s,   u"--socket-timeout"_s, u"20"_s,
                           u"--ffmpeg-location"_s, tools.transcoderFolder};
-    if (!plan.proxy.isEmpty())
-        arguments << u"--proxy"_s << plan.proxy;
+    if (!plan.proxy.isEmpty()) {
+        // The engine leaves the names to the proxy, but knows that way under the shorter name alone.
+        QString proxy = plan.proxy;
+        if (proxy.startsWith("socks5h:"_L1))
+            proxy.remove(6, 1);
+        arguments << u"--proxy"_s << proxy;
+    }
     if (plan.item > 0)
         arguments << u"--yes-playlist"_s << u"--playlist-items"_s << QString::number(plan.item);
     return arguments;
@@ -62,13 +68,22 @@ QStringList choiceArguments(const DownloadPlan &plan)
     return arguments << u"--merge-output-format"_s << container;
 }
 
+/// What goes into the file beside picture and sound, where the form that is wanted holds it.
 QStringList companionArguments(const DownloadPlan &plan)
 {
+    static const QStringList holdingCovers{u"mp4"_s, u"mkv"_s, u"m4a"_s, u"mp3"_s};
+    const bool hasCover = !plan.picture.isEmpty() && holdingCovers.contains(plan.extension);
+    const bool hasSubtitles = !plan.subtitles.isEmpty() && !plan.soundOnly;
     QStringList arguments;
     if (plan.chapters)
         arguments << u"--embed-chapters"_s;
-    if (!plan.subtitles.isEmpty() && !plan.soundOnly)
+    if (hasSubtitles)
         arguments << u"--write-subs"_s << u"--sub-langs"_s << plan.subtitles.join(u',') << u"--embed-subs"_s;
+    if (hasCover)
+        arguments << u"--embed-thumbnail"_s << u"--output"_s << u"thumbnail:cover.%(ext)s"_s;
+    // What cannot hold them is moved to what can; the conversion takes them over from there.
+    if (hasCover || (hasSubtitles && plan.extension != "webm"_L1))
+        arguments << u"--remux-video"_s << u"mp4>mp4/m4a>m4a/mp3>mp3/mkv"_s;
     return arguments;
 }
 
@@ -94,6 +109,7 @@ ToolCommand downloadCommand(const DownloadPlan &plan, const EngineTools &tools, 
         << u"--newline"_s << u"--progress"_s << u"--progress-template"_s
         << u"download:%1%(progress.{status,downloaded_bytes,total_bytes,total_bytes_estimate,speed,eta,fragment_index,fragment_count,filename})j"_s
                .arg(QLatin1StringView(progressMark))
+        << u"--ignore-errors"_s  // of what goes with the film: it tells them, and goes on
         << u"--continue"_s << u"--no-mtime"_s << u"--retries"_s << u"5"_s << u"--fragment-retries"_s << u"5"_s
         << u"--retry-sleep"_s << u"exp=1:10"_s << u"--abort-on-unavailable-fragment"_s << u"--output"_s
         << downloadedName.toString() + u".%(ext)s"_s;

@@ -4,6 +4,8 @@
 
 #include <QRegularExpression>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -158,7 +160,26 @@ EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy)
     }
     if (kind == Kind::NotThere && !proxy.isEmpty())
         kind = Kind::Proxy;
+    return engineFailureOf(kind);
+}
+
+EngineFailure engineFailureOf(EngineFailure::Kind kind)
+{
     return {kind, sentenceOf(kind)};
+}
+
+int retryAfterIn(const QByteArray &output)
+{
+    constexpr int longest = 3600;
+    static const QByteArray mark = "header: retry-after: ";
+    const QByteArray text = output.right(256 * 1024).toLower();
+    const qsizetype place = text.lastIndexOf(mark);
+    if (place < 0)
+        return 0;
+    const qsizetype start = place + mark.size(), end = text.indexOf('\n', start);
+    bool isNumber = false;  // and not a date
+    const qlonglong seconds = text.mid(start, end < 0 ? -1 : end - start).trimmed().toLongLong(&isNumber);
+    return isNumber ? int(std::clamp<qlonglong>(seconds, 0, longest)) : 0;
 }
 
 bool passesByItself(EngineFailure::Kind kind)

@@ -38,6 +38,12 @@ struct EngineFailure {
 /// Who goes through a proxy reaches nothing but that: `proxy` is its address, null for none.
 EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy = {});
 
+/// Seconds that a server wants to be left alone, from what the engine tells of its answers; 0 where it does not say, an
+/// hour at most.
+int retryAfterIn(const QByteArray &output);
+
+EngineFailure engineFailureOf(EngineFailure::Kind kind);  ///< with its sentence
+
 /// Whether the same may do after a while.
 bool passesByItself(EngineFailure::Kind kind);
 /// Whether another engine might do better.

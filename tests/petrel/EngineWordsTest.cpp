@@ -62,6 +62,19 @@ TEST(EngineFailureTest, WordsBecomeOneSentence)
     EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::Silence}).kind, Kind::Server);
 }
 
+TEST(EngineFailureTest, AServerTellsHowLongItWantsToBeLeftAlone)
+{
+    const std::pair<QByteArray, int> cases[] = {
+        {"header: Retry-After: 2", 2},
+        {"header: retry-after: 5\nheader: Retry-After: 70 \nnull", 70},
+        {"header: Retry-After: 99999999999", 3600},
+        {"header: Retry-After: Sat, 21 Nov 2026 22:24:42 GMT", 0},
+        {"header: Server: x", 0},
+    };
+    for (const auto &[output, seconds] : cases)
+        EXPECT_EQ(retryAfterIn(output), seconds) << output.constData();
+}
+
 const QString page = u"https://a.example/page"_s;
 
 TEST(EngineAnswerTest, PictureAndSoundApartAreOnePromise)
@@ -88,10 +101,12 @@ TEST(EngineAnswerTest, PictureAndSoundApartAreOnePromise)
 
 TEST(EngineAnswerTest, ListsKeepHowTheirFilmsAreFound)
 {
-    const auto answer = parseEngineAnswer(R"({"_type": "playlist", "title": "All", "entries": [
+    const auto answer = parseEngineAnswer(
+        "header: X: {}\n"
+        R"({"_type": "playlist", "title": "All", "entries": [
         {"_type": "url", "url": "https://a.example/1", "title": "One", "duration": 5}, null,
         {"title": "Two", "formats": []}, {"_type": "url", "url": "file:///etc/passwd"}]})",
-                                          page);
+        page);
     ASSERT_TRUE(answer);
     ASSERT_EQ(answer->entries.size(), 3);
     EXPECT_EQ(answer->entries[0].address, u"https://a.example/1"_s);

@@ -23,6 +23,7 @@ def make_films(folder):
     ffmpeg("-i", "film.mp4", "-c", "copy", "-hls_time", "1", "-hls_list_size", "0", "film.m3u8")
     ffmpeg("-i", "film.mp4", "-map", "0:v", "-map", "0:a", "-c", "copy", "-seg_duration", "1", "-f", "dash", "film.mpd")
     ffmpeg("-i", "film.mp4", "-c", "copy", "-f", "flv", "film.flv")
+    ffmpeg("-i", "film.mp4", "-frames:v", "1", "cover.jpg")
 
 
 class Handler(BaseHTTPRequestHandler):
@@ -38,6 +39,7 @@ class Handler(BaseHTTPRequestHandler):
         way, _, name = self.path.partition("?")[0].lstrip("/").partition("/")
         with self.server.lock:
             self.server.requests.append((self.command, self.path, self.headers.get("Range")))
+            self.server.asked.append((time.monotonic(), self.path))
         getattr(self, "way_" + way, self.not_found)(name)
 
     # Ways
@@ -58,6 +60,17 @@ class Handler(BaseHTTPRequestHandler):
     def way_cut(self, name):
         """Hands out two thirds and calls them everything."""
         self.send_file(name, length=self.size(name) * 2 // 3)
+
+    def way_boasting(self, name):
+        """Says that more comes than does."""
+        self.send_file(name, told=1000)
+
+    def way_modest(self, name):
+        """Says that less comes than does."""
+        self.send_file(name, told=-100_000)
+
+    def way_text(self, name):
+        self.answer(200, b"WEBVTT\n\n00:01.000 --> 00:03.000\nWords\n", {"Content-Type": "text/vtt"})
 
     def way_redirect(self, name):
         self.answer(302, headers={"Location": "/plain/" + name})
@@ -85,10 +98,13 @@ class Handler(BaseHTTPRequestHandler):
             body = f'<video src="/token/{self.server.token}/film.mp4"></video>'
         elif name == "list":
             body = '<video src="/plain/film.mp4"></video><video src="/plain/film.mkv"></video>'
+        elif name == "rich":
+            track = '<track kind="subtitles" srclang="en" src="/text/words.vtt">'
+            body = f'<video poster="/plain/cover.jpg" src="/plain/{self.server.film}">{track}</video>'
         elif name == "none":
             body = "<p>Nothing to see</p>"
         else:
-            body = f'<video src="/plain/{name}"></video>'
+            body = f'<video src="/{name if "/" in name else "plain/" + name}"></video>'
         title = self.server.title
         self.answer(200, f"<html><head><title>{title}</title></head><body>{body}</body></html>".encode(),
                     {"Content-Type": "text/html; charset=utf-8"})
@@ -128,7 +144,7 @@ class Handler(BaseHTTPRequestHandler):
         if self.command == "GET":
             self.wfile.write(body)
 
-    def send_file(self, name, ranges=True, bytes_per_second=None, stop_after=None, reset=False, length=None):
+    def send_file(self, name, ranges=True, bytes_per_second=None, stop_after=None, reset=False, length=None, told=0):
         path = os.path.join(self.server.folder, os.path.basename(name))
         if not os.path.isfile(path):
             return self.answer(404)
@@ -146,13 +162,14 @@ class Handler(BaseHTTPRequestHandler):
         piece = data[start:end + 1]
         self.send_response(206 if ranges and wanted else 200)
         kinds = {".m3u8": "application/vnd.apple.mpegurl", ".mpd": "application/dash+xml", ".mkv": "video/x-matroska",
-                 ".flv": "video/x-flv"}
+                 ".flv": "video/x-flv", ".jpg": "image/jpeg"}
         self.send_header("Content-Type", kinds.get(os.path.splitext(name)[1], "video/mp4"))
         if ranges:
             self.send_header("Accept-Ranges", "bytes")
         if ranges and wanted:
             self.send_header("Content-Range", f"bytes {start}-{end}/{len(data)}")
-        self.send_header("Content-Length", str(len(piece)))
+        self.send_header("Content-Length", str(len(piece) + told))
+        self.close_connection |= told != 0
         self.end_headers()
         if self.command != "GET":
             return
@@ -191,11 +208,13 @@ class FilmServer(ThreadingHTTPServer):
 
     def reset(self):
         self.requests = []
+        self.asked = []  # when, path
         self.expired = set()
         self.token = 0
         self.refusals = 0
         self.slow_rate = 150_000
         self.title = "A film"
+        self.film = "film.mp4"  # of the page "rich"
 
     def handle_error(self, request, client_address):
         pass  # clients go away

@@ -5,6 +5,7 @@
 
 #include "foundation/Bundle.h"
 #include "jobs/JobQueue.h"
+#include "jobs/ui/JobDetails.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
 #include "jobs/ui/JobRowDelegate.h"
@@ -12,6 +13,7 @@
 #include "modules/common/OutputFolderLine.h"
 #include "modules/petrel/Download.h"
 #include "modules/petrel/DownloadList.h"
+#include "modules/petrel/EngineFailure.h"
 #include "modules/petrel/PartFolder.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
@@ -169,6 +171,7 @@ void PetrelController::connectPage()
     connect(m_page, &JobPage::pathsDropped, this, &PetrelController::takeFiles);
     connect(m_page, &JobPage::textDropped, this, &PetrelController::takeText);
     connect(m_page->list(), &JobListView::menuRequested, this, &PetrelController::extendMenu);
+    connect(m_page->list(), &JobListView::detailsOpened, this, &PetrelController::offerHelp);
     connect(&queue(), &JobQueue::changed, this, &PetrelController::showState);
     connect(&queue(), &JobQueue::ended, this, &PetrelController::followSettings);
     connect(&queue(), &JobQueue::removed, this, [this] {
@@ -406,6 +409,15 @@ void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
                     [this, ids] { changePlans(ids, [](DownloadPlan &plan) { plan.manyFromServer = true; }); });
     menu->addAction("Update Download Engine"_key.localized(), this, &PetrelController::updateEngine);
     menu->addAction("Remove With Partial File"_key.localized(), this, [this, ids] { removeWithParts(ids); });
+}
+
+/// What may mend the failure of a job.
+void PetrelController::offerHelp(JobDetails *details, JobId id)
+{
+    using Kind = EngineFailure::Kind;
+    const auto isOf = [&](Kind kind) { return queue().record(id)->outcome.sentence == engineFailureOf(kind).sentence; };
+    if (isOf(Kind::EngineOld) || isOf(Kind::Unknown) || isOf(Kind::UnknownSite))
+        details->offer("Update Download Engine"_key.localized(), [this] { updateEngine(); });
 }
 
 /// Those that run keep their parts until they have ended, so they end first.

@@ -16,6 +16,7 @@ class QMenu;
 namespace kestrel {
 
 class DownloadList;
+class JobDetails;
 class JobPage;
 class JobQueue;
 class LateView;
@@ -60,6 +61,7 @@ private:
     void applyChoices();
     void changePlans(const QList<JobId> &ids, const std::function<void(DownloadPlan &)> &edit);
     void extendMenu(QMenu *menu, const QList<JobId> &ids);
+    void offerHelp(JobDetails *details, JobId id);
     void removeWithParts(const QList<JobId> &ids);
     void download();
     void followSettings();
