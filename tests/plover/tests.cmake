@@ -8,3 +8,7 @@ kestrel_test(plover
 add_test(NAME plover.recording
          COMMAND /usr/bin/python3 "${CMAKE_CURRENT_LIST_DIR}/recording_test.py" "${KESTREL_BUNDLE_DIR}")
 set_tests_properties(plover.recording PROPERTIES LABELS e2e TIMEOUT 300)
+
+# A screen of PipeWire's
+add_executable(kestrel_frame_source plover/frame_source.cpp)
+target_link_libraries(kestrel_frame_source PRIVATE PkgConfig::PipeWire)
