@@ -166,7 +166,7 @@ bool ScreenStream::connect()
         made.global_remove = [](void *self, uint32_t identifier) {
             auto *stream = static_cast<ScreenStream *>(self);
             if (identifier == stream->m_request.node)
-                stream->end();
+                stream->nodeGone();
         };
         return made;
     }();
@@ -185,7 +185,7 @@ bool ScreenStream::connect()
             if (state == PW_STREAM_STATE_ERROR)
                 static_cast<ScreenStream *>(self)->fail("node");
             else if (state == PW_STREAM_STATE_UNCONNECTED && old != state)
-                static_cast<ScreenStream *>(self)->end();
+                static_cast<ScreenStream *>(self)->nodeGone();
         };
         made.param_changed = [](void *self, uint32_t identifier, const spa_pod *param) {
             static_cast<ScreenStream *>(self)->takeFormat(identifier, param);
@@ -344,6 +344,13 @@ void ScreenStream::end()
     m_deadline = monotonic() + endPatience;
     m_isHeldDue = false;
     handOn();
+}
+
+void ScreenStream::nodeGone()
+{
+    if (!m_isEnding)
+        std::fputs("{\"end\":\"node\"}\n", stderr);
+    end();
 }
 
 void ScreenStream::fail(const char *reason)

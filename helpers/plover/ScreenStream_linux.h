@@ -22,6 +22,7 @@ struct ScreenRequest {
 /// records knows that time goes by. What happens is told on standard error, a JSON object a line:
 ///   {"size":[1280,720]}   before the first picture
 ///   {"dropped":3}         pictures so far that were due and for which the reader was too slow
+///   {"end":"node"}        it has gone
 ///   {"error":"connect"}   why there is none: "connect", "node" (none of that number, or no form that can be read)
 class ScreenStream {
 public:
@@ -44,6 +45,7 @@ private:
     void setWakeUp();
     void tellDropped(bool isLast);
     void end();
+    void nodeGone();
     void fail(const char *reason);
 
     ScreenRequest m_request;

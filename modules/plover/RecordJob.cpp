@@ -1,5 +1,7 @@
 #include "RecordJob.h"
 
+#include "ScreenCastPortal.h"
+
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 #include "media/OutputCheck.h"
@@ -10,6 +12,9 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QSaveFile>
 
 #include <fcntl.h>
@@ -111,10 +116,80 @@ void RecordJob::start()
     if (const auto space = m_tools.diskSpace(m_recording.folder); space && space->available <= m_tools.reservedBytes)
         return fail("There is too little space on the disk to record."_key);
     m_watch.start(watchInterval);
-    beginStretch();
+    if (m_target.isShared)
+        openScreen();
+    else
+        beginStretch();
+}
+
+/// The desktop asks the user, or knows the answer.
+void RecordJob::openScreen()
+{
+    m_screen = std::make_unique<ScreenCastPortal>();
+    connect(m_screen.get(), &ScreenCastPortal::opened, this, [this](const ScreenCastPortal::Screen &screen) {
+        m_node = screen.node;
+        if (m_tools.keepToken)
+            m_tools.keepToken(screen.restoreToken);
+        if (!m_isHolding)
+            beginStretch();
+    });
+    connect(m_screen.get(), &ScreenCastPortal::ended, this,
+            [this](ScreenCastPortal::End end, const Sentence &sentence) {
+                if (end == ScreenCastPortal::End::Closed)
+                    return screenClosed();
+                if (end == ScreenCastPortal::End::Failed)
+                    return fail(sentence);
+                discard();
+                finish({.state = JobState::Cancelled});
+            });
+    emit progressed({.stage = Sentence("Waiting for your choice in the desktop's dialog…"_key)});
+    m_screen->open({.pointer = m_recording.plan.pointer,
+                    .restoreToken = m_recording.plan.again ? m_tools.restoreToken : QString()});
+}
+
+/// "Stop sharing" is another way to stop.
+void RecordJob::screenClosed()
+{
+    if (m_isFinishing)
+        return;
+    m_isToEnd = true;
+    if (m_recorder)
+        m_recorder->stop();
+    else
+        endRecording();
+}
+
+/// Later: it may be what called.
+void RecordJob::releaseScreen()
+{
+    if (m_screen)
+        m_screen.release()->deleteLater();
 }
 
 void RecordJob::beginStretch()
+{
+    if (!m_target.isShared)
+        return runStretch({});
+    if (m_node == 0)  // begins when the user has chosen
+        return;
+    m_screen->openRemote([this](const QDBusUnixFileDescriptor &remote) {
+        if (!m_screen || m_recorder || m_isHolding || m_isFinishing || isStopping())
+            return;
+        m_isScreenMissing = !remote.isValid();
+        if (m_isScreenMissing)
+            return endRecording();
+        const int connection = remote.fileDescriptor();
+        // The tool is started before this returns and has its own then.
+        runStretch(std::make_shared<const ToolCommand>(ToolCommand{
+            .program = m_tools.frames,
+            .arguments = framesArguments(m_recording.plan, m_target.area.size(), connection, m_node),
+            .descriptor = connection,
+        }));
+    });
+}
+
+/// `feeder` hands over the pictures, where ffmpeg does not get them itself.
+void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
 {
     const RecordPlan &plan = m_recording.plan;
     OutputFile part(m_recording.folder, plan.name, u"mkv"_s);
@@ -137,16 +212,36 @@ void RecordJob::beginStretch()
                                 .output = part.partPath()};
     const QStringList arguments = recordArguments(plan, stretch);
     tarnwell::DNFootLog(u"Recording: %1"_s, arguments.join(u' '));
-    ToolProcess &tool = run({.program = m_tools.transcoder, .arguments = arguments, .patience = patience},
-                            [this](const ToolEnding &ending) { stretchEnded(ending); });
+    ToolProcess &tool =
+        run({.program = m_tools.transcoder, .arguments = arguments, .patience = patience, .feeder = std::move(feeder)},
+            [this](const ToolEnding &ending) { stretchEnded(ending); });
     m_recorder = &tool;
-    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) {
+        if (m_target.isShared && line.startsWith('{'))
+            readScreen(line);
+        else
+            m_messages.readLine(line);
+    });
     connect(&tool, &ToolProcess::outputLine, this, &RecordJob::readProgress);
+}
+
+/// What screenFrames tells.
+void RecordJob::readScreen(const QByteArray &line)
+{
+    const QJsonObject told = QJsonDocument::fromJson(line).object();
+    const QJsonArray size = told["size"_L1].toArray();
+    if (m_target.area.isEmpty() && size.size() == 2)
+        m_target.area.setSize({size[0].toInt(), size[1].toInt()});
+    m_stretch.missed = std::max(m_stretch.missed, told["dropped"_L1].toInteger());
+    m_isScreenMissing = m_isScreenMissing || told.contains("error"_L1);
+    m_isToEnd = m_isToEnd || m_isScreenMissing || told.contains("end"_L1);
 }
 
 void RecordJob::readProgress(const QByteArray &line)
 {
-    m_stretch.readLine(line);
+    // A screen on which nothing changes has few pictures of its own.
+    if (!m_target.isShared || !line.startsWith("dup_frames"))
+        m_stretch.readLine(line);
     if (!line.startsWith("progress"))
         return;
     JobProgress progress{.seconds = recordedSeconds(), .bytes = m_recorded.bytes + m_stretch.bytes};
@@ -213,8 +308,12 @@ void RecordJob::stop()
     if (m_isFinishing)
         return;
     ToolJob::stop();
-    if (!m_recorder)
-        endRecording();
+    if (m_recorder)
+        return;
+    if (!m_screen || !m_recording.stretches.isEmpty())
+        return endRecording();
+    discard();  // nobody has answered the desktop's question
+    finish({.state = JobState::Cancelled});
 }
 
 void RecordJob::setPaused(bool paused)
@@ -250,6 +349,11 @@ void RecordJob::endRecording()
 {
     m_isFinishing = true;
     m_watch.stop();
+    releaseScreen();
+    if (m_isScreenMissing && m_recording.stretches.isEmpty())
+        return fail("The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?"_key);
+    if (m_isScreenMissing)
+        m_problems.append("The recording was interrupted."_key);
     if (m_recording.stretches.isEmpty())
         return fail(m_isRecovery ? Sentence("Nothing of the recording is left."_key)
                                  : Sentence("Nothing was recorded."_key));
@@ -367,6 +471,7 @@ void RecordJob::removeStretches()
 void RecordJob::discard()
 {
     m_watch.stop();
+    releaseScreen();
     if (m_placing)
         m_placing->takeBack();
     m_placing.reset();

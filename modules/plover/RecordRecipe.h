@@ -9,9 +9,16 @@
 
 namespace kestrel {
 
+class JKestrelSettingDispatcher;
 class JobQueue;
 
 inline constexpr QStringView ploverJobs = u"plover";  ///< what recordings are stored under
+
+/// What recordings are made with.
+RecordTools recordTools(const JKestrelSettingDispatcher &settings);
+
+/// Whether what the portal let be recorded last may be recorded again without a question.
+bool canShareAgain();
 
 /// The job that carries the plan out.
 JobRecord recordingJob(const RecordPlan &plan, const QString &folder);
