@@ -147,7 +147,7 @@ void RecordJob::openScreen()
                     .restoreToken = m_recording.plan.again ? m_tools.restoreToken : QString()});
 }
 
-/// "Stop sharing" is another way to stop.
+/// "Stop sharing" is another way to stop, and so is closing the window that is shared.
 void RecordJob::screenClosed()
 {
     if (m_isFinishing)
@@ -234,7 +234,9 @@ void RecordJob::readScreen(const QByteArray &line)
         m_target.area.setSize({size[0].toInt(), size[1].toInt()});
     m_stretch.missed = std::max(m_stretch.missed, told["dropped"_L1].toInteger());
     m_isScreenMissing = m_isScreenMissing || told.contains("error"_L1);
-    m_isToEnd = m_isToEnd || m_isScreenMissing || told.contains("end"_L1);
+    // Where there is sound, ffmpeg would wait for pictures for ever.
+    if (m_isScreenMissing || told.contains("end"_L1))
+        screenClosed();
 }
 
 void RecordJob::readProgress(const QByteArray &line)
