@@ -76,6 +76,9 @@ public:
     /// Holds the whole group, which then takes no processor time, and lets it go on.
     void setPaused(bool paused);
 
+    /// To the whole group of the feeder, for what it understands beside its end.
+    void sendToFeeder(int signal);
+
     /// It has come on; see `saysItLives`.
     void noteProgress();
 

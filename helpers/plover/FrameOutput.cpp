@@ -4,6 +4,8 @@
 #include <sys/uio.h>
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <memory>
 
 namespace kestrel::frames {
 
@@ -19,6 +21,7 @@ FrameOutput::FrameOutput(int descriptor) : m_descriptor(descriptor)
 void FrameOutput::begin(Size size, PixelOrder order, double rate)
 {
     m_size = size;
+    m_order = order;
     m_head = streamHead(size, order, rate);
 }
 
@@ -31,6 +34,25 @@ void FrameOutput::write(const Picture &picture, int64_t time)
 void FrameOutput::repeat(int64_t time)
 {
     start(time);
+}
+
+bool FrameOutput::save(const std::string &path) const
+{
+    if (!m_size || m_pixels.empty())
+        return false;
+    const std::string unfinished = path + ".part";
+    const std::unique_ptr<std::FILE, int (*)(std::FILE *)> file(std::fopen(unfinished.c_str(), "wbe"), &std::fclose);
+    if (!file)
+        return false;
+    std::fprintf(file.get(), "P6\n%d %d\n255\n", m_size->width, m_size->height);
+    const bool isBlueFirst = m_order == PixelOrder::BlueFirst;
+    for (size_t at = 0; at < m_pixels.size(); at += 4) {
+        const uint8_t *pixel = m_pixels.data() + at;
+        const uint8_t colour[] = {pixel[isBlueFirst ? 2 : 0], pixel[1], pixel[isBlueFirst ? 0 : 2]};
+        std::fwrite(colour, 1, sizeof colour, file.get());
+    }
+    return std::fflush(file.get()) == 0 && std::ferror(file.get()) == 0 &&
+           std::rename(unfinished.c_str(), path.c_str()) == 0;
 }
 
 void FrameOutput::start(int64_t time)

@@ -25,6 +25,9 @@ public:
     void write(const Picture &picture, int64_t time);
     /// The last picture once more. Not while busy.
     void repeat(int64_t time);
+    /// The last picture as a file of PPM, which is whole from the moment on at which it has the name. False where there
+    /// is none or it cannot be written.
+    bool save(const std::string &path) const;
     /// Goes on where the reader was slow.
     void flush();
 
@@ -33,6 +36,7 @@ private:
 
     int m_descriptor;
     std::optional<Size> m_size;
+    PixelOrder m_order = PixelOrder::BlueFirst;
     std::string m_head;
     std::vector<uint8_t> m_pixels;
     size_t m_written = 0;  ///< of head and pixels

@@ -6,15 +6,16 @@
 #include <pipewire/pipewire.h>
 #include <spa/param/video/format-utils.h>
 
-#include <memory>
+#include <string>
 
 namespace kestrel::frames {
 
 struct ScreenRequest {
     int descriptor = -1;  ///< a connection to PipeWire
     uint32_t node = 0;
-    double rate = 30;  ///< pictures a second at the most
-    Size size = {};    ///< of what is written; none: the first picture's
+    double rate = 30;           ///< pictures a second at the most
+    std::string snapshot = {};  ///< path of the file that SIGUSR1 asks for; empty for none
+    Size size = {};             ///< of what is written; none: the first picture's
 };
 
 /// Hands the pictures of a PipeWire node on to standard output until the node goes, the reader goes, or SIGINT or
@@ -22,6 +23,7 @@ struct ScreenRequest {
 /// records knows that time goes by. What happens is told on standard error, a JSON object a line:
 ///   {"size":[1280,720]}   before the first picture
 ///   {"dropped":3}         pictures so far that were due and for which the reader was too slow
+///   {"snapshot":true}     has been written, after SIGUSR1; false where that was not possible
 ///   {"end":"node"}        it has gone
 ///   {"error":"connect"}   why there is none: "connect", "node" (none of that number, or no form that can be read)
 class ScreenStream {

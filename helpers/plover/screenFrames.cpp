@@ -1,5 +1,5 @@
-// screenFrames --fd N --node ID [--rate R] [--size WxH]: what a PipeWire node shows, as a Matroska stream on standard
-// output. N is an open connection to PipeWire, as the desktop's portal gives one.
+// screenFrames --fd N --node ID [--rate R] [--size WxH] [--snapshot FILE]: what a PipeWire node shows, as a Matroska
+// stream on standard output. N is an open connection to PipeWire, as the desktop's portal gives one.
 
 #include "ScreenStream_linux.h"
 
@@ -37,6 +37,10 @@ bool readOption(const char *name, const char *value, ScreenRequest &request)
         return readAll(value, end, request.descriptor) && request.descriptor > STDERR_FILENO;
     if (std::strcmp(name, "--node") == 0)
         return readAll(value, end, request.node);
+    if (std::strcmp(name, "--snapshot") == 0) {
+        request.snapshot = value;
+        return *value != '\0';
+    }
     if (std::strcmp(name, "--rate") == 0)
         return readAll(value, end, request.rate) && request.rate >= 1 && request.rate <= 1000;
     return std::strcmp(name, "--size") == 0 && readSize(value, request.size);
@@ -56,11 +60,11 @@ int main(int count, char **arguments)
     }
     std::signal(SIGPIPE, SIG_IGN);
     // PipeWire's own threads must not be the ones that get them.
-    sigset_t endings;
-    sigemptyset(&endings);
-    for (const int number : {SIGINT, SIGTERM, SIGHUP})
-        sigaddset(&endings, number);
-    sigprocmask(SIG_BLOCK, &endings, nullptr);
+    sigset_t orders;
+    sigemptyset(&orders);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGUSR1})
+        sigaddset(&orders, number);
+    sigprocmask(SIG_BLOCK, &orders, nullptr);
     setenv("PIPEWIRE_DEBUG", "0", 1);  // its words are not ours
     pw_init(nullptr, nullptr);
     const int status = ScreenStream(request).run();

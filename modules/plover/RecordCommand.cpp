@@ -176,10 +176,11 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
                                    u"1"_s,         u"file:"_s + stretch.output};
 }
 
-QStringList framesArguments(const RecordPlan &plan, QSize pictures, int connection, quint32 node)
+QStringList framesArguments(const RecordPlan &plan, QSize pictures, int connection, quint32 node,
+                            const QString &snapshot)
 {
-    QStringList arguments{
-        u"--fd"_s, QString::number(connection), u"--node"_s, QString::number(node), u"--rate"_s, number(plan.rate)};
+    QStringList arguments{u"--fd"_s,   QString::number(connection), u"--node"_s,     QString::number(node),
+                          u"--rate"_s, number(plan.rate),           u"--snapshot"_s, snapshot};
     if (!pictures.isEmpty())
         arguments += {u"--size"_s, size(pictures)};
     return arguments;

@@ -1,7 +1,6 @@
 #include "RecordJob.h"
 
 #include "ScreenCastPortal.h"
-
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 #include "media/OutputCheck.h"
@@ -12,9 +11,6 @@
 #include <QDateTime>
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QSaveFile>
 
 #include <fcntl.h>
@@ -122,72 +118,6 @@ void RecordJob::start()
         beginStretch();
 }
 
-/// The desktop asks the user, or knows the answer.
-void RecordJob::openScreen()
-{
-    m_screen = std::make_unique<ScreenCastPortal>();
-    connect(m_screen.get(), &ScreenCastPortal::opened, this, [this](const ScreenCastPortal::Screen &screen) {
-        m_node = screen.node;
-        if (m_tools.keepToken)
-            m_tools.keepToken(screen.restoreToken);
-        if (!m_isHolding)
-            beginStretch();
-    });
-    connect(m_screen.get(), &ScreenCastPortal::ended, this,
-            [this](ScreenCastPortal::End end, const Sentence &sentence) {
-                if (end == ScreenCastPortal::End::Closed)
-                    return screenClosed();
-                if (end == ScreenCastPortal::End::Failed)
-                    return fail(sentence);
-                discard();
-                finish({.state = JobState::Cancelled});
-            });
-    emit progressed({.stage = Sentence("Waiting for your choice in the desktop's dialog…"_key)});
-    m_screen->open({.pointer = m_recording.plan.pointer,
-                    .restoreToken = m_recording.plan.again ? m_tools.restoreToken : QString()});
-}
-
-/// "Stop sharing" is another way to stop, and so is closing the window that is shared.
-void RecordJob::screenClosed()
-{
-    if (m_isFinishing)
-        return;
-    m_isToEnd = true;
-    if (m_recorder)
-        m_recorder->stop();
-    else
-        endRecording();
-}
-
-/// Later: it may be what called.
-void RecordJob::releaseScreen()
-{
-    if (m_screen)
-        m_screen.release()->deleteLater();
-}
-
-void RecordJob::beginStretch()
-{
-    if (!m_target.isShared)
-        return runStretch({});
-    if (m_node == 0)  // begins when the user has chosen
-        return;
-    m_screen->openRemote([this](const QDBusUnixFileDescriptor &remote) {
-        if (!m_screen || m_recorder || m_isHolding || m_isFinishing || isStopping())
-            return;
-        m_isScreenMissing = !remote.isValid();
-        if (m_isScreenMissing)
-            return endRecording();
-        const int connection = remote.fileDescriptor();
-        // The tool is started before this returns and has its own then.
-        runStretch(std::make_shared<const ToolCommand>(ToolCommand{
-            .program = m_tools.frames,
-            .arguments = framesArguments(m_recording.plan, m_target.area.size(), connection, m_node),
-            .descriptor = connection,
-        }));
-    });
-}
-
 /// `feeder` hands over the pictures, where ffmpeg does not get them itself.
 void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
 {
@@ -223,20 +153,6 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
             m_messages.readLine(line);
     });
     connect(&tool, &ToolProcess::outputLine, this, &RecordJob::readProgress);
-}
-
-/// What screenFrames tells.
-void RecordJob::readScreen(const QByteArray &line)
-{
-    const QJsonObject told = QJsonDocument::fromJson(line).object();
-    const QJsonArray size = told["size"_L1].toArray();
-    if (m_target.area.isEmpty() && size.size() == 2)
-        m_target.area.setSize({size[0].toInt(), size[1].toInt()});
-    m_stretch.missed = std::max(m_stretch.missed, told["dropped"_L1].toInteger());
-    m_isScreenMissing = m_isScreenMissing || told.contains("error"_L1);
-    // Where there is sound, ffmpeg would wait for pictures for ever.
-    if (m_isScreenMissing || told.contains("end"_L1))
-        screenClosed();
 }
 
 void RecordJob::readProgress(const QByteArray &line)

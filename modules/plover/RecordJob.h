@@ -44,6 +44,14 @@ public:
     void stop() override;
     void setPaused(bool paused) override;
 
+    /// What is to be seen now, of a screen that the desktop shares: `snapshotTaken` follows. False for any other, whose
+    /// picture anybody can have, and while there is none.
+    bool takeSnapshot();
+
+signals:
+    /// The file is a PPM, to be read at once.
+    void snapshotTaken(const QString &path);
+
 protected:
     void discard() override;
 
@@ -94,6 +102,7 @@ private:
     QList<tarnwell::Sentence> m_problems;
     QTimer m_watch;  ///< over disk and display
     std::unique_ptr<WorkFolder> m_workFolder;
+    std::unique_ptr<WorkFolder> m_snapshots;  ///< where the display is shared
     std::shared_ptr<OutputFile> m_output;
     std::shared_ptr<Placing> m_placing;
 };

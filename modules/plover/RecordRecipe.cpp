@@ -91,7 +91,11 @@ std::unique_ptr<Job> RecordRecipe::makeJob(const JobRecord &record)
         return std::make_unique<RecordJob>(recording ? *std::move(recording) : UnfinishedRecording(), m_tools());
     }
     const auto plan = RecordPlan::fromJson(record.plan);
-    return plan ? std::make_unique<RecordJob>(*plan, record.folder, m_tools()) : nullptr;
+    if (!plan)
+        return nullptr;
+    auto job = std::make_unique<RecordJob>(*plan, record.folder, m_tools());
+    m_recording = job.get();
+    return job;
 }
 
 }  // namespace kestrel

@@ -5,6 +5,8 @@
 #include "jobs/Job.h"
 #include "jobs/JobRecord.h"
 
+#include <QPointer>
+
 #include <functional>
 
 namespace kestrel {
@@ -36,7 +38,11 @@ public:
     JobNeeds needs(const JobRecord &record) const override;
     std::unique_ptr<Job> makeJob(const JobRecord &record) override;
 
+    /// Of the recording that was begun last; null once it has ended.
+    RecordJob *recording() const { return m_recording; }
+
 private:
+    QPointer<RecordJob> m_recording;
     std::function<RecordTools()> m_tools;
 };
 

@@ -108,6 +108,39 @@ class WaylandTest(RecorderTestCase):
         self.assertLess(max(bar), 24)
         self.assertGreater(min(picture), 40)
 
+    def test_it_goes_on_in_another_stretch(self):
+        self.start_portal()
+        recording = self.record()
+        recording.wait_for_seconds(2)
+        self.sound_server.kill()
+        recording.wait_for_seconds(4)
+        recording.send(signal.SIGINT)
+        status, result, errors = recording.finish()
+        self.assertEqual((status, result['state'], len(self.options('Start'))), (3, 'done-with-problems', 1), errors)
+        self.assertGreater(len(self.options('OpenPipeWireRemote')), 1)
+        clocks = recorded.clocks(result['outputs'][0])
+        self.assertEqual(clocks, sorted(clocks))
+        self.assertGreater(clocks[-1][1] - clocks[0][1], 3.5)
+
+    def test_a_snapshot_is_what_is_seen(self):
+        self.start_portal()
+        recording = self.record('--sound', 'none')
+        recording.wait_for_seconds(1)
+        tool, = subprocess.run(['pgrep', '-P', str(recording.process.pid), 'screenFrames'], capture_output=True,
+                               text=True).stdout.split()
+        with open(f'/proc/{tool}/cmdline') as file:
+            arguments = file.read().split('\0')
+        snapshot = arguments[arguments.index('--snapshot') + 1]
+        os.kill(int(tool), signal.SIGUSR1)
+        wait_for(lambda: os.path.exists(snapshot), 'the snapshot')
+        with open(snapshot, 'rb') as file:
+            picture = file.read()
+        head = b'P6\n%d %d\n255\n' % SIZE
+        self.assertTrue(picture.startswith(head))
+        self.assertEqual((len(picture), picture[-3:]), (len(head) + SIZE[0] * SIZE[1] * 3, b'\x20\x40\x60'))
+        recording.send(signal.SIGINT)
+        self.finish_well(recording)
+
     def test_what_ends_it(self):
         portal = self.start_portal()
         for name, end in (('the desktop', lambda: (portal.stdin.write('close\n'), portal.stdin.flush())),

@@ -299,12 +299,20 @@ void PloversController::stopRecording()
 /// Beside the recording: this module has no folder of its own for pictures.
 void PloversController::takeSnapshot()
 {
+    if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot())
+        connect(
+            job, &RecordJob::snapshotTaken, this, [this](const QString &path) { keepSnapshot(QImage(path)); },
+            Qt::SingleShotConnection);
     if (m_target.display.isEmpty())
         return;
     QScreen *screen = QGuiApplication::primaryScreen();
     const double ratio = screen->devicePixelRatio();
     const QRect area((QPointF(m_target.area.topLeft()) / ratio).toPoint(), m_target.area.size() / ratio);
-    const QPixmap picture = screen->grabWindow(m_target.window, area.x(), area.y(), area.width(), area.height());
+    keepSnapshot(screen->grabWindow(m_target.window, area.x(), area.y(), area.width(), area.height()).toImage());
+}
+
+void PloversController::keepSnapshot(const QImage &picture)
+{
     const QString name = u"/Snapshot %1.png"_s.arg(QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss.zzz"_s));
     picture.save(m_settings->getVideoDir() + name);
 }

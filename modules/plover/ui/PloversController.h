@@ -55,6 +55,7 @@ private:
     void togglePause();
     void stopRecording();
     void takeSnapshot();
+    void keepSnapshot(const QImage &picture);
 
     ModuleServices &m_services;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;
