@@ -16,7 +16,7 @@ namespace kestrel::frames {
 namespace {
 
 constexpr int64_t repeatAfter = second / 5;
-constexpr int64_t formatPatience = 10 * second;
+constexpr int64_t firstPatience = 10 * second;
 constexpr int64_t endPatience = second;
 
 const spa_pod *formats(spa_pod_builder &builder, double rate)
@@ -62,9 +62,11 @@ int ScreenStream::run()
         fail("connect");
         return m_status;
     }
-    m_deadline = monotonic() + formatPatience;
+    m_deadline = monotonic() + firstPatience;
     setWakeUp();
-    pw_main_loop_run(m_loop);
+    if (!m_isEnding)
+        pw_main_loop_run(m_loop);
+    m_isEnding = true;  // what follows is our own doing
     tellDropped(true);
     return m_status;
 }
@@ -170,7 +172,6 @@ void ScreenStream::takeFormat(uint32_t identifier, const spa_pod *param)
         format.size.height > maximumSide)
         return fail("node");
     m_format = format;
-    m_deadline = 0;
     uint8_t space[1024];
     spa_pod_builder builder = SPA_POD_BUILDER_INIT(space, sizeof space);
     // Memory of the graphics card would have to be fetched by its driver.
@@ -234,6 +235,7 @@ void ScreenStream::handOn()
             m_output.begin(size, isRedFirst ? PixelOrder::RedFirst : PixelOrder::BlueFirst, m_request.rate);
             std::fprintf(stderr, "{\"size\":[%d,%d]}\n", size.width, size.height);
         }
+        m_deadline = 0;
         m_lastStart = monotonic();
         m_output.write(picture, m_heldTime);
         dropHeld();

@@ -25,7 +25,8 @@ struct ScreenRequest {
 ///   {"dropped":3}         pictures so far that were due and for which the reader was too slow
 ///   {"snapshot":true}     has been written, after SIGUSR1; false where that was not possible
 ///   {"end":"node"}        it has gone
-///   {"error":"connect"}   why there is none: "connect", "node" (none of that number, or no form that can be read)
+///   {"error":"connect"}   why there is none: "connect" (to PipeWire), or "node" (none of that number, none that can be
+///                         read, or nothing comes from it)
 class ScreenStream {
 public:
     explicit ScreenStream(const ScreenRequest &request);
@@ -66,7 +67,7 @@ private:
     int64_t m_heldTime = 0;
     bool m_isHeldDue = false;
     int64_t m_lastStart = 0;  ///< when the last picture was begun to be written
-    int64_t m_deadline = 0;   ///< for the first format, and for the last picture
+    int64_t m_deadline = 0;   ///< for the first picture, and for the last one
     int64_t m_dropped = 0, m_toldDropped = 0, m_toldAt = 0;
     bool m_isEnding = false;
     int m_status = 0;

@@ -19,6 +19,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QGuiApplication>
+#include <QImage>
 #include <QScreen>
 #include <QShortcut>
 #include <QSystemTrayIcon>

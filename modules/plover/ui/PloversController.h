@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 
+class QImage;
 class QSystemTrayIcon;
 
 namespace kestrel {
