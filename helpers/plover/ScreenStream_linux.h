@@ -1,6 +1,6 @@
 #pragma once
 
-#include "FrameOutput.h"
+#include "FrameOutput_linux.h"
 #include "FramePace.h"
 
 #include <pipewire/pipewire.h>

@@ -1,21 +1,21 @@
-#include "FrameOutput.h"
+#include "FrameOutput_linux.h"
 
 #include <fcntl.h>
 #include <sys/uio.h>
+#include <unistd.h>
 #include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <memory>
+#include <utility>
 
 namespace kestrel::frames {
 
 FrameOutput::FrameOutput(int descriptor) : m_descriptor(descriptor)
 {
     fcntl(descriptor, F_SETFL, fcntl(descriptor, F_GETFL) | O_NONBLOCK);
-#ifdef F_SETPIPE_SZ
     constexpr int pipeBytes = 1024 * 1024;  // what anybody may have
-    fcntl(descriptor, F_SETPIPE_SZ, pipeBytes);
-#endif
+    m_pipeBytes = size_t(std::max(fcntl(descriptor, F_SETPIPE_SZ, pipeBytes), 0));
 }
 
 void FrameOutput::begin(Size size, PixelOrder order, double rate)
@@ -27,7 +27,10 @@ void FrameOutput::begin(Size size, PixelOrder order, double rate)
 
 void FrameOutput::write(const Picture &picture, int64_t time)
 {
+    std::swap(m_pixels, m_lastPixels);
     fit(picture, *m_size, m_pixels);
+    // The pipe is full of this picture before the next but one takes its memory.
+    m_lendsPages = m_pipeBytes > 0 && m_pixels.size() >= 2 * m_pipeBytes;
     start(time);
 }
 
@@ -66,14 +69,20 @@ void FrameOutput::start(int64_t time)
     flush();
 }
 
+int64_t FrameOutput::writeSome()
+{
+    if (m_written < m_head.size())
+        return ::write(m_descriptor, m_head.data() + m_written, m_head.size() - m_written);
+    const size_t inPixels = m_written - m_head.size();
+    const iovec rest = {m_pixels.data() + inPixels, m_pixels.size() - inPixels};
+    return m_lendsPages ? vmsplice(m_descriptor, &rest, 1, SPLICE_F_NONBLOCK)
+                        : ::write(m_descriptor, rest.iov_base, rest.iov_len);
+}
+
 void FrameOutput::flush()
 {
     while (m_isWriting && !m_isClosed) {
-        const size_t inHead = std::min(m_written, m_head.size());
-        const size_t inPixels = m_written - inHead;
-        const iovec parts[] = {{m_head.data() + inHead, m_head.size() - inHead},
-                               {m_pixels.data() + inPixels, m_pixels.size() - inPixels}};
-        const ssize_t count = writev(m_descriptor, parts, 2);
+        const ssize_t count = writeSome();
         if (count < 0 && errno == EINTR)
             continue;
         if (count < 0 && errno == EAGAIN)

@@ -33,13 +33,17 @@ public:
 
 private:
     void start(int64_t time);
+    int64_t writeSome();
 
     int m_descriptor;
     std::optional<Size> m_size;
     PixelOrder m_order = PixelOrder::BlueFirst;
     std::string m_head;
     std::vector<uint8_t> m_pixels;
-    size_t m_written = 0;  ///< of head and pixels
+    std::vector<uint8_t> m_lastPixels;  ///< those before, which the pipe may still show its reader
+    size_t m_pipeBytes = 0;
+    bool m_lendsPages = false;  ///< pictures go into the pipe without being copied
+    size_t m_written = 0;       ///< of head and pixels
     int64_t m_lastTime = 0;
     bool m_isWriting = false;
     bool m_isClosed = false;
