@@ -11,4 +11,4 @@ using GetAuthorizationStatusFunction = int(const char *mediaType, const char **e
 using AuthorDeviceFunction = void(const char *mediaType, void (*completion)(void *context, int granted), void *context);
 }
 
-inline constexpr char captureMediaTypeAudio[] = "soun";
+inline constexpr char captureMediaTypeAudio[] = "soun", captureMediaTypeVideo[] = "vide";

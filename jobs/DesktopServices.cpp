@@ -1,16 +1,12 @@
 #include "DesktopServices.h"
 
-#include "foundation/Queues.h"
+#include "DesktopBus.h"
 #include "tarnwell/Localization.h"
-#include "tarnwell/Log.h"
 
 #include <QCoreApplication>
-#include <QDBusConnection>
 #include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
-#include <QPointer>
 
 using namespace Qt::StringLiterals;
 
@@ -31,86 +27,6 @@ QDBusMessage loginCall(const QString &method, const QVariantList &arguments)
 
 }  // namespace
 
-/// One bus, connected by its first use.
-class DesktopServices::Bus {
-public:
-    using Use = std::function<void(QDBusConnection &connection)>;
-    using Answered = std::function<void(const QDBusMessage &reply)>;
-
-    Bus(QDBusConnection::BusType type, QObject *owner) : m_type(type), m_owner(owner) {}
-    ~Bus()
-    {
-        if (m_connection)
-            QDBusConnection::disconnectFromBus(m_connection->name());
-    }
-    Bus(const Bus &) = delete;
-    Bus &operator=(const Bus &) = delete;
-
-    /// Now or when it is connected; never where that fails.
-    void use(Use use)
-    {
-        if (m_connection)
-            return use(*m_connection);
-        if (m_hasFailed)
-            return;
-        m_waiting.push_back(std::move(use));
-        if (!std::exchange(m_isConnecting, true))
-            connectInBackground();
-    }
-
-    /// `answered` gets the reply, or an error; it is not called once the owner has gone.
-    void call(const QDBusMessage &message, Answered answered = {})
-    {
-        use([message, answered = std::move(answered), owner = m_owner](QDBusConnection &connection) {
-            auto *watcher = new QDBusPendingCallWatcher(connection.asyncCall(message), owner);
-            QObject::connect(watcher, &QDBusPendingCallWatcher::finished, owner, [watcher, message, answered] {
-                watcher->deleteLater();
-                const QDBusMessage reply = watcher->reply();
-                if (reply.type() == QDBusMessage::ErrorMessage)
-                    tarnwell::DNFootLog(u"%1 of the desktop: %2"_s, message.member(), reply.errorMessage());
-                if (answered)
-                    answered(reply);
-            });
-        });
-    }
-
-private:
-    /// Greeting a bus waits for its answer.
-    void connectInBackground()
-    {
-        static int connections = 0;
-        const QString name = u"kestrel-jobs-%1"_s.arg(++connections);
-        foundation::queue::asyncGlobal([this, owner = QPointer(m_owner), type = m_type, name] {
-            const QDBusConnection connection = QDBusConnection::connectToBus(type, name);
-            foundation::queue::asyncMain([this, owner, connection] {
-                if (owner)
-                    connected(connection);
-                else
-                    QDBusConnection::disconnectFromBus(connection.name());
-            });
-        });
-    }
-
-    void connected(const QDBusConnection &connection)
-    {
-        if (!connection.isConnected()) {
-            m_hasFailed = true;
-            m_waiting.clear();
-            return;
-        }
-        m_connection = connection;
-        for (const Use &use : std::exchange(m_waiting, {}))
-            use(*m_connection);
-    }
-
-    QDBusConnection::BusType m_type;
-    QObject *m_owner;
-    bool m_isConnecting = false;
-    bool m_hasFailed = false;
-    std::optional<QDBusConnection> m_connection;
-    std::vector<Use> m_waiting;
-};
-
 /// Holds as long as its descriptor is open; one that is no longer wanted when the answer comes closes it at once.
 struct DesktopServices::Inhibition {
     QDBusUnixFileDescriptor descriptor;
@@ -119,8 +35,8 @@ struct DesktopServices::Inhibition {
 DesktopServices::DesktopServices(const QString &desktopName, QObject *parent)
     : QObject(parent),
       m_desktopName(desktopName),
-      m_system(std::make_unique<Bus>(QDBusConnection::SystemBus, this)),
-      m_session(std::make_unique<Bus>(QDBusConnection::SessionBus, this))
+      m_system(std::make_unique<DesktopBus>(QDBusConnection::SystemBus, this)),
+      m_session(std::make_unique<DesktopBus>(QDBusConnection::SessionBus, this))
 {
 }
 

@@ -10,6 +10,8 @@
 
 namespace kestrel {
 
+class DesktopBus;
+
 /// What the desktop and the system do for running jobs, asked over D-Bus: logind on the system bus, notifications and
 /// the task bar on the session's. Nothing here waits: buses are connected in the background, answers come later, and a
 /// service that is missing or does not answer is left out. Main thread only.
@@ -40,14 +42,13 @@ private slots:
     void notificationClosed(uint id);
 
 private:
-    class Bus;
     struct Inhibition;
 
     void listenToNotifications();
 
     QString m_desktopName;
-    std::unique_ptr<Bus> m_system;
-    std::unique_ptr<Bus> m_session;
+    std::unique_ptr<DesktopBus> m_system;
+    std::unique_ptr<DesktopBus> m_session;
     std::shared_ptr<Inhibition> m_inhibition;  ///< while the machine is to stay awake
     QHash<uint, QString> m_notifications;      ///< tags of those that are shown
     bool m_listensToNotifications = false;

@@ -7,6 +7,7 @@
 #include <QPointer>
 #include <QProcess>
 
+#include <fcntl.h>
 #include <poll.h>
 #include <sys/syscall.h>
 #include <unistd.h>
@@ -26,10 +27,12 @@ constexpr auto deathPatience = 100ms;
 
 /// What the child does before its program, where only what is safe after a fork may be done. Signals are as a shell
 /// would have them: a tool that was started with SIGINT ignored could not be asked to end.
-std::function<void()> beforeTool(int guardianChannel)
+std::function<void()> beforeTool(int guardianChannel, int descriptor)
 {
-    return [guardianChannel, endWithParent = foundation::endWithParent()] {
+    return [guardianChannel, descriptor, endWithParent = foundation::endWithParent()] {
         setpgid(0, 0);
+        if (descriptor >= 0)
+            fcntl(descriptor, F_SETFD, 0);
         endWithParent();
         ToolGuardian::announce(guardianChannel, getpid());
         for (const int number : {SIGINT, SIGTERM, SIGHUP, SIGQUIT})
@@ -54,7 +57,9 @@ void waitForDeath(pid_t process)
 
 }  // namespace
 
-ToolGroup::ToolGroup(const ToolCommand &command) : m_process(std::make_unique<QProcess>())
+ToolGroup::ToolGroup(const ToolCommand &command)
+    : m_process(std::make_unique<QProcess>()),
+      m_descriptor(command.descriptor)
 {
     QProcess *process = m_process.get();
     process->setProgram(command.program);
@@ -103,7 +108,7 @@ void ToolGroup::feed(ToolGroup &reader)
 
 void ToolGroup::start()
 {
-    m_process->setChildProcessModifier(beforeTool(ToolGuardian::main().channel()));
+    m_process->setChildProcessModifier(beforeTool(ToolGuardian::main().channel(), m_descriptor));
     m_process->start();
     m_group = m_process->processId();
     if (m_group <= 0)

@@ -46,6 +46,7 @@ private:
     void leaderEnded();
 
     std::unique_ptr<QProcess> m_process;
+    int m_descriptor;
     qint64 m_group = 0;
     int m_depth = 0;  ///< of calls from the process
     bool m_hasStarted = true;

@@ -48,6 +48,7 @@ public:
     void end(ToolEnding::Cause why);
     void setPaused(bool paused);
     void sendToAll(int signal);
+    void sendToFeeder(int signal);
     void noteProgress() { m_sinceLastByte.start(); }
     bool isUnderWay() const { return m_isStarted && !m_isOver; }
 
@@ -185,6 +186,12 @@ void ToolProcess::Private::sendToAll(int signal)
 {
     m_tool->send(signal);
     if (m_feeder)
+        m_feeder->send(signal);
+}
+
+void ToolProcess::Private::sendToFeeder(int signal)
+{
+    if (m_feeder && isUnderWay())
         m_feeder->send(signal);
 }
 
@@ -343,6 +350,11 @@ void ToolProcess::cancel()
 void ToolProcess::setPaused(bool paused)
 {
     d->setPaused(paused);
+}
+
+void ToolProcess::sendToFeeder(int signal)
+{
+    d->sendToFeeder(signal);
 }
 
 void ToolProcess::noteProgress()

@@ -20,6 +20,7 @@ struct ToolCommand {
     QStringList arguments = {};
     QProcessEnvironment environment = QProcessEnvironment(QProcessEnvironment::InheritFromParent);
     QString workingFolder = {};
+    int descriptor = -1;                     ///< the tool inherits it under its number; it stays the caller's
     std::chrono::milliseconds timeLimit{0};  ///< killed after that; 0 for none
     /// After that long without a byte from it, it is looked at what it does: killed where for as long again it says
     /// nothing, takes no processor time worth the name and moves no data, and after `maximumSpins` times as long where
@@ -74,6 +75,9 @@ public:
     void cancel();
     /// Holds the whole group, which then takes no processor time, and lets it go on.
     void setPaused(bool paused);
+
+    /// To the whole group of the feeder, for what it understands beside its end.
+    void sendToFeeder(int signal);
 
     /// It has come on; see `saysItLives`.
     void noteProgress();

@@ -4,8 +4,8 @@
 #include "JobRunner.h"
 #include "Options.h"
 #include "foundation/FileNames.h"
-#include "media/MediaProber.h"
 #include "modules/plover/RecordRecipe.h"
+#include "modules/plover/X11Display.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -59,6 +59,12 @@ constexpr Option<RecordRequest> recordOptions[] = {
      }},
     {"window", "ID", "a window by its number: 0x1a00003", &readWindow},
     {"area", "X,Y,W,H", "a part of the desktop, in pixels", &readArea},
+    {"portal", nullptr, "what is chosen in a dialog of the desktop's",
+     [](const QString &, RecordRequest &request) {
+         request.plan.what = RecordPlan::What::Portal;
+         request.plan.again = false;
+         return true;
+     }},
     {"camera", "DEVICE", "a camera instead of the screen: /dev/video0",
      [](const QString &value, RecordRequest &request) {
          request.plan.what = RecordPlan::What::Camera;
@@ -134,6 +140,10 @@ ExitStatus runRecord(const Surroundings &surroundings, const QStringList &argume
     CliSession session(ModuleSettingRecord);
     const JKestrelSettingDispatcher &settings = session.settings();
     RecordRequest request{.plan = recordPlan(settings), .folder = {}};
+    if (isWaylandSession()) {
+        request.plan.what = RecordPlan::What::Portal;
+        request.plan.again = true;
+    }
     bool isHelp = false;
     const auto left = readArguments<RecordRequest>("record", recordOptions, QString(), arguments, request, isHelp);
     if (!left)
@@ -148,10 +158,7 @@ ExitStatus runRecord(const Surroundings &surroundings, const QStringList &argume
         QDir().mkpath(request.folder);
     }
 
-    RecordRecipe recipe([&settings] {
-        return RecordTools{.transcoder = settings.getTranscoderPath(),
-                           .prober = proberBeside(settings.getTranscoderPath())};
-    });
+    RecordRecipe recipe([&settings] { return recordTools(settings); });
     session.queue().setRecipe(ploverJobs.toString(), &recipe);
     if (request.onlyRecovers)
         return runJobs(session, addRecoveries(session.queue()), surroundings, SignalMeaning::Stop);

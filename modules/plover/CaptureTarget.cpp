@@ -59,6 +59,8 @@ Target captureTarget(const RecordPlan &plan)
 {
     if (plan.what == RecordPlan::What::Camera)
         return cameraTarget(plan);
+    if (plan.what == RecordPlan::What::Portal)
+        return CaptureTarget{.isShared = true};
     const auto opened = X11Display::open();
     if (!opened)
         return Failure{opened.reason()};

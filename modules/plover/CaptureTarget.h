@@ -16,6 +16,8 @@ struct CaptureTarget {
     QRect area = {};         ///< of the display; of the window itself where that is what is recorded. Even sizes.
     QString camera = {};     ///< path of the device
     QString generator = {};  ///< instead of a camera: a source of ffmpeg's own
+    bool isShared =
+        false;  ///< through the portal: a stream with times of its own on standard input; the area may be empty
 };
 
 /// What the plan names, or why it cannot be recorded: no such screen or window, an area that is nowhere.

@@ -43,6 +43,8 @@ QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
     if (!target.generator.isEmpty())  // in real time by itself: -re counts from other times than those of the clock
         return arguments + QStringList{u"-use_wallclock_as_timestamps"_s, u"1"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
                                        target.generator + u",realtime"_s};
+    if (target.isShared)  // what its first picture is like must be looked at
+        return arguments + QStringList{u"-analyzeduration"_s, u"0"_s, u"-f"_s, u"matroska"_s, u"-i"_s, u"pipe:0"_s};
     if (target.display.isEmpty())
         return arguments + QStringList{u"-f"_s,         u"v4l2"_s,         u"-timestamps"_s, u"abs"_s,
                                        u"-framerate"_s, number(plan.rate), u"-i"_s,          target.camera};
@@ -172,6 +174,16 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
                                    u"matroska"_s,  u"-cluster_time_limit"_s,
                                    u"400"_s,       u"-flush_packets"_s,
                                    u"1"_s,         u"file:"_s + stretch.output};
+}
+
+QStringList framesArguments(const RecordPlan &plan, QSize pictures, int connection, quint32 node,
+                            const QString &snapshot)
+{
+    QStringList arguments{u"--fd"_s,   QString::number(connection), u"--node"_s,     QString::number(node),
+                          u"--rate"_s, number(plan.rate),           u"--snapshot"_s, snapshot};
+    if (!pictures.isEmpty())
+        arguments += {u"--size"_s, size(pictures)};
+    return arguments;
 }
 
 QStringList finishArguments(const QString &list, const QString &output)

@@ -1,5 +1,6 @@
 #include "RecordJob.h"
 
+#include "ScreenCastPortal.h"
 #include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 #include "media/OutputCheck.h"
@@ -111,10 +112,14 @@ void RecordJob::start()
     if (const auto space = m_tools.diskSpace(m_recording.folder); space && space->available <= m_tools.reservedBytes)
         return fail("There is too little space on the disk to record."_key);
     m_watch.start(watchInterval);
-    beginStretch();
+    if (m_target.isShared)
+        openScreen();
+    else
+        beginStretch();
 }
 
-void RecordJob::beginStretch()
+/// `feeder` hands over the pictures, where ffmpeg does not get them itself.
+void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
 {
     const RecordPlan &plan = m_recording.plan;
     OutputFile part(m_recording.folder, plan.name, u"mkv"_s);
@@ -137,16 +142,24 @@ void RecordJob::beginStretch()
                                 .output = part.partPath()};
     const QStringList arguments = recordArguments(plan, stretch);
     tarnwell::DNFootLog(u"Recording: %1"_s, arguments.join(u' '));
-    ToolProcess &tool = run({.program = m_tools.transcoder, .arguments = arguments, .patience = patience},
-                            [this](const ToolEnding &ending) { stretchEnded(ending); });
+    ToolProcess &tool =
+        run({.program = m_tools.transcoder, .arguments = arguments, .patience = patience, .feeder = std::move(feeder)},
+            [this](const ToolEnding &ending) { stretchEnded(ending); });
     m_recorder = &tool;
-    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
+    connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) {
+        if (m_target.isShared && line.startsWith('{'))
+            readScreen(line);
+        else
+            m_messages.readLine(line);
+    });
     connect(&tool, &ToolProcess::outputLine, this, &RecordJob::readProgress);
 }
 
 void RecordJob::readProgress(const QByteArray &line)
 {
-    m_stretch.readLine(line);
+    // A screen on which nothing changes has few pictures of its own.
+    if (!m_target.isShared || !line.startsWith("dup_frames"))
+        m_stretch.readLine(line);
     if (!line.startsWith("progress"))
         return;
     JobProgress progress{.seconds = recordedSeconds(), .bytes = m_recorded.bytes + m_stretch.bytes};
@@ -213,8 +226,12 @@ void RecordJob::stop()
     if (m_isFinishing)
         return;
     ToolJob::stop();
-    if (!m_recorder)
-        endRecording();
+    if (m_recorder)
+        return;
+    if (!m_screen || !m_recording.stretches.isEmpty())
+        return endRecording();
+    discard();  // nobody has answered the desktop's question
+    finish({.state = JobState::Cancelled});
 }
 
 void RecordJob::setPaused(bool paused)
@@ -250,6 +267,11 @@ void RecordJob::endRecording()
 {
     m_isFinishing = true;
     m_watch.stop();
+    releaseScreen();
+    if (m_isScreenMissing && m_recording.stretches.isEmpty())
+        return fail("The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?"_key);
+    if (m_isScreenMissing)
+        m_problems.append("The recording was interrupted."_key);
     if (m_recording.stretches.isEmpty())
         return fail(m_isRecovery ? Sentence("Nothing of the recording is left."_key)
                                  : Sentence("Nothing was recorded."_key));
@@ -367,6 +389,7 @@ void RecordJob::removeStretches()
 void RecordJob::discard()
 {
     m_watch.stop();
+    releaseScreen();
     if (m_placing)
         m_placing->takeBack();
     m_placing.reset();

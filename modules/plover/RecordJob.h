@@ -15,10 +15,14 @@ namespace kestrel {
 
 class OutputFile;
 class Placing;
+class ScreenCastPortal;
 
 struct RecordTools {
-    QString transcoder;  ///< absolute path of ffmpeg
-    QString prober;      ///< of ffprobe
+    QString transcoder;                                        ///< absolute path of ffmpeg
+    QString prober;                                            ///< of ffprobe
+    QString frames = {};                                       ///< of screenFrames
+    QString restoreToken = {};                                 ///< of what the portal let be recorded last
+    std::function<void(const QString &token)> keepToken = {};  ///< takes the one for next time
     DiskSpaceFunction diskSpace = diskSpaceOf;
     qint64 reservedBytes = 200'000'000;  ///< that are left free on the disk
 };
@@ -40,6 +44,14 @@ public:
     void stop() override;
     void setPaused(bool paused) override;
 
+    /// What is to be seen now, of a screen that the desktop shares: `snapshotTaken` follows. False for any other, whose
+    /// picture anybody can have, and while there is none.
+    bool takeSnapshot();
+
+signals:
+    /// The file is a PPM, to be read at once.
+    void snapshotTaken(const QString &path);
+
 protected:
     void discard() override;
 
@@ -52,7 +64,12 @@ private:
         void readLine(const QByteArray &line);
     };
 
+    void openScreen();
+    void screenClosed();
+    void releaseScreen();
     void beginStretch();
+    void runStretch(std::shared_ptr<const ToolCommand> feeder);
+    void readScreen(const QByteArray &line);
     void readProgress(const QByteArray &line);
     void stretchEnded(const ToolEnding &ending);
     void goOnAfterFailure(const ToolEnding &ending);
@@ -73,8 +90,11 @@ private:
     bool m_isSilent = false;
     bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
     bool m_isFinishing = false;
-    bool m_isToEnd = false;  ///< with the stretch of the moment
-    int m_failures = 0;      ///< one after another, without a picture between them
+    bool m_isToEnd = false;                      ///< with the stretch of the moment
+    int m_failures = 0;                          ///< one after another, without a picture between them
+    std::unique_ptr<ScreenCastPortal> m_screen;  ///< from the question to the desktop on
+    quint32 m_node = 0;                          ///< of what is shared; 0 as long as the user thinks
+    bool m_isScreenMissing = false;              ///< it is shared, but no pictures come
     QPointer<ToolProcess> m_recorder;
     Tally m_recorded;  ///< of the stretches that have ended
     Tally m_stretch;   ///< of the one that is recorded
@@ -82,6 +102,7 @@ private:
     QList<tarnwell::Sentence> m_problems;
     QTimer m_watch;  ///< over disk and display
     std::unique_ptr<WorkFolder> m_workFolder;
+    std::unique_ptr<WorkFolder> m_snapshots;  ///< where the display is shared
     std::shared_ptr<OutputFile> m_output;
     std::shared_ptr<Placing> m_placing;
 };

@@ -16,7 +16,7 @@ namespace {
 constexpr int planVersion = 1;
 
 // In the order of their enumerations
-constexpr std::array whatNames = {"screen"_L1, "window"_L1, "area"_L1, "camera"_L1};
+constexpr std::array whatNames = {"screen"_L1, "window"_L1, "area"_L1, "camera"_L1, "portal"_L1};
 constexpr std::array soundNames = {"none"_L1, "system"_L1, "microphone"_L1, "both"_L1};
 constexpr std::array qualityNames = {"small"_L1, "good"_L1, "best"_L1};
 constexpr std::array containerNames = {"mov"_L1, "mp4"_L1};
@@ -51,6 +51,7 @@ QJsonObject RecordPlan::toJson() const
             {u"window"_s, qint64(window)},
             {u"area"_s, QJsonArray{area.x(), area.y(), area.width(), area.height()}},
             {u"camera"_s, camera},
+            {u"again"_s, again},
             {u"sound"_s, nameOf(soundNames, sound)},
             {u"microphone"_s, microphone},
             {u"separate_tracks"_s, separateTracks},
@@ -73,6 +74,7 @@ std::optional<RecordPlan> RecordPlan::fromJson(const QJsonObject &json)
     plan.window = quint32(json["window"_L1].toInteger());
     plan.area = rectangle(json["area"_L1].toArray());
     plan.camera = json["camera"_L1].toString();
+    plan.again = json["again"_L1].toBool();
     readName(json["sound"_L1], soundNames, plan.sound);
     plan.microphone = json["microphone"_L1].toString();
     plan.separateTracks = json["separate_tracks"_L1].toBool();

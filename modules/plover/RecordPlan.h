@@ -12,7 +12,13 @@ class JKestrelSettingDispatcher;
 
 /// What a user wants of one recording: values only, all of them sensible as they are. Stored with the job as JSON.
 struct RecordPlan {
-    enum class What { Screen, Window, Area, Camera };
+    enum class What {
+        Screen,
+        Window,
+        Area,
+        Camera,
+        Portal,  ///< what the user chooses in a dialog of the desktop's
+    };
     enum class Sound { None, System, Microphone, Both };
     enum class Quality { Small, Good, Best };  ///< as the settings number them
     enum class Container { Mov, Mp4 };
@@ -22,6 +28,7 @@ struct RecordPlan {
     quint32 window = 0;   ///< X11's number
     QRect area = {};      ///< in pixels of the whole desktop
     QString camera = {};  ///< a device of video4linux; empty for the first
+    bool again = false;   ///< of Portal: the last choice once more, without a dialog where the desktop allows that
 
     Sound sound = Sound::System;
     QString microphone = {};      ///< a source of the sound server; empty for its default
@@ -37,7 +44,7 @@ struct RecordPlan {
     static constexpr double minimumRate = 1, maximumRate = 240;
 
     QString extension() const { return container == Container::Mp4 ? QStringLiteral("mp4") : QStringLiteral("mov"); }
-    bool hasPicturesOfDisplay() const { return what != What::Camera; }
+    bool hasPicturesOfDisplay() const { return what != What::Camera && what != What::Portal; }
 
     QJsonObject toJson() const;
     /// Nothing where it is none or of a newer version; nonsense in a field reads as its default.

@@ -1,6 +1,11 @@
 #include "RecordRecipe.h"
 
+#include "foundation/Bundle.h"
+#include "foundation/UserDefaults.h"
 #include "jobs/JobQueue.h"
+#include "media/MediaProber.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/ProductInformation.h"
 
 #include <QDateTime>
 #include <QSet>
@@ -13,7 +18,28 @@ namespace {
 
 const QString noteKey = u"unfinished"_s;  // beside the members of the plan: what is written down of the recording
 
+// A key of its own, beside the archive of the settings: it changes with every recording, also in processes whose
+// settings are older than what the window has stored since.
+const QString tokenKey = u"screenCastRestoreToken"_s;
+
 }  // namespace
+
+RecordTools recordTools(const JKestrelSettingDispatcher &settings)
+{
+    return {.transcoder = settings.getTranscoderPath(),
+            .prober = proberBeside(settings.getTranscoderPath()),
+            .frames = tarnwell::productBundle().contentsPath(u"Helpers/screenFrames"_s),
+            .restoreToken = foundation::UserDefaults::standardUserDefaults().stringForKey(tokenKey),
+            .keepToken = [](const QString &token) {
+                auto &defaults = foundation::UserDefaults::standardUserDefaults();
+                defaults.setObject(token.isEmpty() ? QVariant() : token, tokenKey);
+            }};
+}
+
+bool canShareAgain()
+{
+    return !foundation::UserDefaults::standardUserDefaults().stringForKey(tokenKey).isEmpty();
+}
 
 JobRecord recordingJob(const RecordPlan &plan, const QString &folder)
 {
@@ -65,7 +91,11 @@ std::unique_ptr<Job> RecordRecipe::makeJob(const JobRecord &record)
         return std::make_unique<RecordJob>(recording ? *std::move(recording) : UnfinishedRecording(), m_tools());
     }
     const auto plan = RecordPlan::fromJson(record.plan);
-    return plan ? std::make_unique<RecordJob>(*plan, record.folder, m_tools()) : nullptr;
+    if (!plan)
+        return nullptr;
+    auto job = std::make_unique<RecordJob>(*plan, record.folder, m_tools());
+    m_recording = job.get();
+    return job;
 }
 
 }  // namespace kestrel

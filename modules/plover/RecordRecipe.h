@@ -5,13 +5,22 @@
 #include "jobs/Job.h"
 #include "jobs/JobRecord.h"
 
+#include <QPointer>
+
 #include <functional>
 
 namespace kestrel {
 
+class JKestrelSettingDispatcher;
 class JobQueue;
 
 inline constexpr QStringView ploverJobs = u"plover";  ///< what recordings are stored under
+
+/// What recordings are made with.
+RecordTools recordTools(const JKestrelSettingDispatcher &settings);
+
+/// Whether what the portal let be recorded last may be recorded again without a question.
+bool canShareAgain();
 
 /// The job that carries the plan out.
 JobRecord recordingJob(const RecordPlan &plan, const QString &folder);
@@ -29,7 +38,11 @@ public:
     JobNeeds needs(const JobRecord &record) const override;
     std::unique_ptr<Job> makeJob(const JobRecord &record) override;
 
+    /// Of the recording that was begun last; null once it has ended.
+    RecordJob *recording() const { return m_recording; }
+
 private:
+    QPointer<RecordJob> m_recording;
     std::function<RecordTools()> m_tools;
 };
 

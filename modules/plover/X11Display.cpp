@@ -90,17 +90,26 @@ QString atomName(xcb_connection_t *connection, uint32_t atom)
                  : QString();
 }
 
+bool saysWayland()
+{
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || qEnvironmentVariable("XDG_SESSION_TYPE") == "wayland"_L1;
+}
+
 }  // namespace
+
+bool isWaylandSession()
+{
+    return saysWayland() && !X11Display::open();
+}
 
 foundation::Result<std::shared_ptr<X11Display>, Sentence> X11Display::open(const QString &name)
 {
     const QString known = name.isEmpty() ? qEnvironmentVariable("DISPLAY") : name;
     const Sentence wayland =
-        "The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it."_key;
+        "In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand."_key;
     if (known.isEmpty())
-        return foundation::Failure{qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY")
-                                       ? Sentence("There is no display whose picture could be recorded."_key)
-                                       : wayland};
+        return foundation::Failure{
+            saysWayland() ? wayland : Sentence("There is no display whose picture could be recorded."_key)};
     int screen = 0;
     std::shared_ptr<X11Display> display(new X11Display);
     display->m_name = known;

@@ -14,6 +14,10 @@ struct xcb_connection_t;
 
 namespace kestrel {
 
+/// Whether this is a session of Wayland, whose pictures are had only through the desktop's portal. An X display that
+/// was started within one is none.
+bool isWaylandSession();
+
 /// What an X display shows, asked without a window system library of its own: monitors and windows, in pixels of the
 /// whole desktop. Waits for the display's answers, a millisecond or so each. Any thread, one at a time.
 class X11Display {

@@ -122,11 +122,13 @@ TEST_F(PloversControllerTest, TheCountdownCanBeSkippedAndEndsWithTheModule)
     EXPECT_TRUE(isActive(recording()->state));
 }
 
-TEST_F(PloversControllerTest, WithoutADisplayItSaysWhy)
+TEST_F(PloversControllerTest, WithoutDisplayAndPortalItSaysWhy)
 {
     qputenv("WAYLAND_DISPLAY", "wayland-0");
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nonexistent");
     open();
-    EXPECT_TRUE(find<QLabel>(u"previewLabel"_s)->text().contains(u"Wayland"));
+    EXPECT_EQ(find<QComboBox>(u"sourceComboBox"_s)->currentText(), u"Screen or window (the desktop asks)");
+    EXPECT_TRUE(waitUntil([&] { return find<QLabel>(u"previewLabel"_s)->text().contains(u"portal"); }));
     find<QPushButton>(u"startButton"_s)->click();
     EXPECT_FALSE(recording());
     qunsetenv("WAYLAND_DISPLAY");

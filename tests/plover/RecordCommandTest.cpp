@@ -1,5 +1,6 @@
 #include "modules/plover/RecordCommand.h"
 
+#include "helpers/plover/FramePace.h"
 #include "modules/plover/LevelMeter.h"
 
 #include <gtest/gtest.h>
@@ -17,6 +18,7 @@ TEST(RecordPlanTest, SurvivesStorageAndNonsense)
                           .window = 0xfe00003,
                           .area = {10, 20, 300, 200},
                           .camera = u"/dev/video1"_s,
+                          .again = true,
                           .sound = RecordPlan::Sound::Both,
                           .microphone = u"mic"_s,
                           .separateTracks = true,
@@ -86,6 +88,27 @@ TEST(RecordCommandTest, AWindowOfAnotherSizeIsFittedIntoTheFirst)
     EXPECT_TRUE(fits());
     stretch.size = {300, 200};
     EXPECT_FALSE(fits());
+}
+
+TEST(FramePaceTest, HandsOnNoMoreThanTheRateAndNoLess)
+{
+    const struct {
+        const char *name;
+        int64_t interval;  // milliseconds between the screen's pictures, every other one as much late
+        int64_t late;
+        int handedOn;  // of ten seconds, at thirty a second
+    } cases[] = {{"as fast", 33, 0, 300},
+                 {"shaky", 33, 7, 300},
+                 {"twice as fast", 17, 0, 300},
+                 {"a little faster", 20, 0, 300},
+                 {"slower", 100, 0, 100}};
+    for (const auto &[name, interval, late, expected] : cases) {
+        frames::FramePace pace(30);
+        int count = 0;
+        for (int64_t now = 1000, number = 0; now < 11'000; now += interval)
+            count += pace.take((now + late * (number++ % 2)) * 1'000'000);
+        EXPECT_NEAR(count, expected, 5) << name;
+    }
 }
 
 TEST(LevelMeterTest, ReadsDecibels)

@@ -1,6 +1,9 @@
 """What recordings of tests show: a window that paints its clock in bits, thirty times a second, and beeps once a second.
 
     scene.py LOG [X Y WIDTH HEIGHT]
+    scene.py LOG --only-beeps START
+
+With `--only-beeps` another shows the clock, which has counted since START (seconds since 1970).
 
 The log has a line for the window's number ("window 0x200001") and one for each beep, with the moment by the window's
 clock at which the sound server played it ("beep 3.0214"). Ends with its standard input.
@@ -16,7 +19,7 @@ BITS = 24          # milliseconds of the clock, then as many inverted: what is n
 CELL = 16          # pixels of a bit's side
 COLUMNS = 12
 RATE = 48000
-START = time.time()
+START = float(sys.argv[3]) if '--only-beeps' in sys.argv else time.time()
 
 
 def clock():
@@ -89,8 +92,10 @@ def main():
     def log(line):
         log_file.write(line + '\n')
 
-    painter = Painter(*[int(number) for number in place] or (0, 0, 1280, 720))
-    log(f'window {painter.window.value:#x}')
+    painter = None
+    if '--only-beeps' not in place:
+        painter = Painter(*[int(number) for number in place] or (0, 0, 1280, 720))
+        log(f'window {painter.window.value:#x}')
     beeper = Beeper(log)
     if beeper.stream:
         beeper.start()
@@ -99,7 +104,8 @@ def main():
     while True:
         time.sleep(max(0, picture / 30 - clock()))
         now = clock()
-        painter.paint(int(now * 1000))
+        if painter:
+            painter.paint(int(now * 1000))
         picture = max(picture + 1, int(now * 30))
 
 

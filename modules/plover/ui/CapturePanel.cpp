@@ -1,6 +1,8 @@
 #include "CapturePanel.h"
 
 #include "AreaChooser.h"
+#include "modules/plover/RecordRecipe.h"
+#include "modules/plover/ScreenCastPortal.h"
 #include "modules/plover/X11Display.h"
 
 #include <QComboBox>
@@ -82,6 +84,8 @@ CapturePanel::CapturePanel()
     connect(&m_meter, &LevelMeter::levelChanged, this, [this](double level) { m_level->setValue(int(level * 100)); });
 }
 
+CapturePanel::~CapturePanel() = default;
+
 void CapturePanel::open(const QString &transcoderPath)
 {
     m_transcoderPath = transcoderPath;
@@ -95,6 +99,7 @@ void CapturePanel::release()
 {
     m_preview.stop();
     m_meter.close();
+    m_portal.reset();
     m_picture->setPixmap({});
 }
 
@@ -103,6 +108,8 @@ void CapturePanel::fillSources()
     m_sources->clear();
     const auto display = X11Display::open();
     m_obstacle = display ? Sentence() : display.reason();
+    if (!display && isWaylandSession())
+        addPortal();
     if (display) {
         for (const X11Display::Monitor &monitor : (*display)->monitors())
             m_sources->addItem(Sentence("Screen %1 (%2 × %3)"_key, {monitor.name, QString::number(monitor.area.width()),
@@ -118,6 +125,25 @@ void CapturePanel::fillSources()
         m_sources->addItem(Sentence("Camera %1"_key, {name}).localized(), entry(What::Camera, u"/dev/"_s + name));
     }
     emit changed();
+}
+
+/// What is there is the desktop's to show.
+void CapturePanel::addPortal()
+{
+    m_obstacle = {};
+    if (canShareAgain())
+        m_sources->addItem("The same screen or window as last time"_key.localized(), entry(What::Portal, true));
+    m_sources->addItem("Screen or window (the desktop asks)"_key.localized(), entry(What::Portal, false));
+    m_portal = std::make_unique<ScreenCastPortal>();
+    connect(m_portal.get(), &ScreenCastPortal::ended, this, [this](ScreenCastPortal::End, const Sentence &sentence) {
+        for (int index = m_sources->count(); --index >= 0;) {
+            if (What(m_sources->itemData(index).toList().value(0).toInt()) == What::Portal)
+                m_sources->removeItem(index);
+        }
+        m_obstacle = m_sources->count() == 0 ? sentence : Sentence();
+        showPreview();
+    });
+    m_portal->look([] {});
 }
 
 void CapturePanel::sourceChosen()
@@ -160,6 +186,9 @@ void CapturePanel::choose(RecordPlan &plan) const
         case What::Camera:
             plan.camera = chosen.value(1).toString();
             break;
+        case What::Portal:
+            plan.again = chosen.value(1).toBool();
+            break;
         case What::Area:
             break;
     }
@@ -180,6 +209,10 @@ void CapturePanel::showPreview()
         return m_picture->setText(m_obstacle.localized());
     RecordPlan plan;
     choose(plan);
+    if (plan.what == What::Portal)
+        return m_picture->setText(
+            "The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then."_key
+                .localized());
     if (!plan.hasPicturesOfDisplay())
         return m_picture->setText("The camera's picture is not shown before it is recorded."_key.localized());
     const auto target = captureTarget(plan);

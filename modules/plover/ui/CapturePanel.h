@@ -12,12 +12,15 @@ class QProgressBar;
 
 namespace kestrel {
 
+class ScreenCastPortal;
+
 /// What is to be recorded: screens, windows, an area, a camera; the sound; and how it looks and sounds at the moment.
 /// Opens nothing before `open` and lets everything go with `release`.
 class CapturePanel : public QWidget {
     Q_OBJECT
 public:
     CapturePanel();
+    ~CapturePanel() override;
 
     void open(const QString &transcoderPath);
     void release();
@@ -34,6 +37,7 @@ signals:
 
 private:
     void fillSources();
+    void addPortal();
     void sourceChosen();
     void soundChosen();
     void chooseArea();
@@ -48,6 +52,7 @@ private:
     QString m_transcoderPath;
     QRect m_area;
     LevelMeter m_meter;
+    std::unique_ptr<ScreenCastPortal> m_portal;  ///< while it is looked for one
     QTimer m_preview;
     tarnwell::Sentence m_obstacle;
 };

@@ -7,7 +7,6 @@
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobPage.h"
-#include "media/MediaProber.h"
 #include "modules/common/LateView.h"
 #include "modules/common/OutputFolderLine.h"
 #include "modules/plover/X11Display.h"
@@ -20,7 +19,9 @@
 #include <QDateTime>
 #include <QDir>
 #include <QGuiApplication>
+#include <QImage>
 #include <QScreen>
+#include <QShortcut>
 #include <QSystemTrayIcon>
 
 using namespace Qt::StringLiterals;
@@ -48,10 +49,7 @@ constexpr int countdownSeconds = 3;
 PloversController::PloversController(const ModuleConfigure &configure, ModuleServices &services)
     : m_services(services),
       m_settings(configure.value(moduleSettingKey.toString())),
-      m_recipe([this] {
-          return RecordTools{.transcoder = m_settings->getTranscoderPath(),
-                             .prober = proberBeside(m_settings->getTranscoderPath())};
-      }),
+      m_recipe([this] { return recordTools(*m_settings); }),
       m_view(std::make_unique<LateView>([this] { return makeContents(); }))
 {
 }
@@ -189,9 +187,8 @@ void PloversController::record()
 
 void PloversController::openControls()
 {
-    m_keys = std::make_unique<X11Keys>();
-    connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
-    if (m_settings->isCaptureMouseClick()) {
+    takeKeys();
+    if (m_keys && m_settings->isCaptureMouseClick()) {
         m_rings = std::make_unique<ClickRings>(*m_keys);
         m_rings->setActive(true);
     }
@@ -217,12 +214,31 @@ void PloversController::openControls()
         m_view->window()->showMinimized();
 }
 
+void PloversController::takeKeys()
+{
+    if (!isWaylandSession()) {
+        m_keys = std::make_unique<X11Keys>();
+        connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
+        return;
+    }
+    m_shortcuts = std::make_unique<QObject>();
+    for (const auto &[key, letter] :
+         {std::pair(X11Keys::Key::Stop, Qt::Key_S), std::pair(X11Keys::Key::Pause, Qt::Key_P),
+          std::pair(X11Keys::Key::Snapshot, Qt::Key_N)}) {
+        auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::ALT | letter), m_view->window());
+        shortcut->setContext(Qt::ApplicationShortcut);
+        connect(shortcut, &QShortcut::activated, this, [this, key = key] { keyPressed(key); });
+        connect(m_shortcuts.get(), &QObject::destroyed, shortcut, &QObject::deleteLater);
+    }
+}
+
 void PloversController::closeControls()
 {
     m_recording = 0;
     m_meter.close();
     m_rings.reset();
     m_keys.reset();
+    m_shortcuts.reset();
     m_tray.reset();
     // Its own button may be what ended the recording.
     if (m_bar)
@@ -284,12 +300,20 @@ void PloversController::stopRecording()
 /// Beside the recording: this module has no folder of its own for pictures.
 void PloversController::takeSnapshot()
 {
+    if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot())
+        connect(
+            job, &RecordJob::snapshotTaken, this, [this](const QString &path) { keepSnapshot(QImage(path)); },
+            Qt::SingleShotConnection);
     if (m_target.display.isEmpty())
         return;
     QScreen *screen = QGuiApplication::primaryScreen();
     const double ratio = screen->devicePixelRatio();
     const QRect area((QPointF(m_target.area.topLeft()) / ratio).toPoint(), m_target.area.size() / ratio);
-    const QPixmap picture = screen->grabWindow(m_target.window, area.x(), area.y(), area.width(), area.height());
+    keepSnapshot(screen->grabWindow(m_target.window, area.x(), area.y(), area.width(), area.height()).toImage());
+}
+
+void PloversController::keepSnapshot(const QImage &picture)
+{
     const QString name = u"/Snapshot %1.png"_s.arg(QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss.zzz"_s));
     picture.save(m_settings->getVideoDir() + name);
 }

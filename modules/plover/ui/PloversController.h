@@ -8,6 +8,7 @@
 #include <QObject>
 #include <QPointer>
 
+class QImage;
 class QSystemTrayIcon;
 
 namespace kestrel {
@@ -47,6 +48,7 @@ private:
     void countDown(int seconds);
     void record();
     void openControls();
+    void takeKeys();
     void closeControls();
     void recordChanged(JobId id);
     void showState();
@@ -54,6 +56,7 @@ private:
     void togglePause();
     void stopRecording();
     void takeSnapshot();
+    void keepSnapshot(const QImage &picture);
 
     ModuleServices &m_services;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;
@@ -71,6 +74,7 @@ private:
     CaptureTarget m_target;
     LevelMeter m_meter;
     std::unique_ptr<X11Keys> m_keys;
+    std::unique_ptr<QObject> m_shortcuts;  ///< where the display gives no keys to those whose window has no keyboard
     std::unique_ptr<ClickRings> m_rings;
     std::unique_ptr<ControlBar> m_bar;
     std::unique_ptr<QSystemTrayIcon> m_tray;
