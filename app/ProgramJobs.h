@@ -27,6 +27,7 @@ public:
     ~ProgramJobs() override;
 
     JobQueue &queue() override;
+    void openInConverter(const QStringList &paths) override { emit conversionRequested(paths); }
     bool hasWork() const;
     /// Ends what runs at once, to be offered again by the next run of the program; all is on the disk when this
     /// returns.
@@ -36,6 +37,7 @@ public:
 signals:
     void shutdownIn(int seconds);
     void showRequested(const QString &module);
+    void conversionRequested(const QStringList &paths);
 
 private:
     struct Parts;

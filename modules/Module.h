@@ -31,6 +31,8 @@ public:
     virtual ~ModuleServices() = default;
     /// The jobs of the whole program. The first call opens their store, so it is not for a module's constructor.
     virtual JobQueue &queue() = 0;
+    /// Opens the converter with these files, soon.
+    virtual void openInConverter(const QStringList &paths) = 0;
 };
 
 /// A module as the host sees it: this header is all that a module's author has to read.

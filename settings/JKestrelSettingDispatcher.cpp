@@ -284,6 +284,16 @@ QString JKestrelSettingDispatcher::getCurrentAudioDeviceID() const
     return m_setting->recorder()->recordAudioDeviceID();
 }
 
+void JKestrelSettingDispatcher::setRecordChoices(const QString &choices)
+{
+    m_setting->recorder()->setRecordChoices(choices);
+}
+
+QString JKestrelSettingDispatcher::getRecordChoices() const
+{
+    return m_setting->recorder()->recordChoices();
+}
+
 void JKestrelSettingDispatcher::setCaptureMouseClick(bool capture)
 {
     m_setting->recorder()->setCaptureMouseClick(capture);

@@ -90,6 +90,8 @@ public:
     QString getCurrentVideoDeviceID() const;
     void setAudioDeviceID(const QString &identifier);
     QString getCurrentAudioDeviceID() const;
+    void setRecordChoices(const QString &choices);
+    QString getRecordChoices() const;
     void setCaptureMouseClick(bool capture);
     bool isCaptureMouseClick() const;
 

@@ -87,6 +87,7 @@ JRecorderSetting::JRecorderSetting(const foundation::KeyedDecoder *coder)
     m_recordVideoDeviceID = coder->decodeString(u"videoDevice"_s);
     m_recordAudioDeviceID = coder->decodeString(u"audioDevice"_s);
     m_captureMouseClick = coder->decodeBool(u"captureMouse"_s);
+    m_recordChoices = coder->decodeString(u"recordChoices"_s);
 }
 
 QStringList JRecorderSetting::archiveClasses() const
@@ -102,6 +103,8 @@ void JRecorderSetting::encodeWithCoder(foundation::KeyedEncoder &coder) const
     coder.encodeString(orEmpty(m_recordVideoDeviceID), u"videoDevice"_s);
     coder.encodeString(orEmpty(m_recordAudioDeviceID), u"audioDevice"_s);
     coder.encodeNumber(m_captureMouseClick, u"captureMouse"_s);
+    if (!m_recordChoices.isNull())
+        coder.encodeString(m_recordChoices, u"recordChoices"_s);
 }
 
 }  // namespace kestrel

@@ -70,6 +70,7 @@ class JRecorderSetting final : public JSettingBase {
     Q_PROPERTY(double maxFrameRate READ maxFrameRate WRITE setMaxFrameRate)
     Q_PROPERTY(QString recordVideoDeviceID READ recordVideoDeviceID WRITE setRecordVideoDeviceID)
     Q_PROPERTY(QString recordAudioDeviceID READ recordAudioDeviceID WRITE setRecordAudioDeviceID)
+    Q_PROPERTY(QString recordChoices READ recordChoices WRITE setRecordChoices)
     Q_PROPERTY(bool captureMouseClick READ captureMouseClick WRITE setCaptureMouseClick)
 public:
     explicit JRecorderSetting(const foundation::KeyedDecoder *coder = nullptr);
@@ -85,6 +86,10 @@ public:
     void setRecordVideoDeviceID(const QString &identifier) { m_recordVideoDeviceID = identifier; }
     QString recordAudioDeviceID() const { return m_recordAudioDeviceID; }
     void setRecordAudioDeviceID(const QString &identifier) { m_recordAudioDeviceID = identifier; }
+    /// What was chosen last for a recording beyond the other values, as the recorder writes it down; null where nothing
+    /// was.
+    QString recordChoices() const { return m_recordChoices; }
+    void setRecordChoices(const QString &choices) { m_recordChoices = choices; }
     bool captureMouseClick() const { return m_captureMouseClick; }
     void setCaptureMouseClick(bool capture) { m_captureMouseClick = capture; }
 
@@ -93,6 +98,7 @@ private:
     double m_maxFrameRate = 30.0;
     QString m_recordVideoDeviceID = QStringLiteral("");
     QString m_recordAudioDeviceID = QStringLiteral("");
+    QString m_recordChoices;
     bool m_captureMouseClick = true;
 };
 

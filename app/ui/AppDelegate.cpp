@@ -66,6 +66,8 @@ AppDelegate::AppDelegate(Surroundings surroundings)
 {
     makeStandardMenus();
     connect(&m_surroundings.jobs, &ProgramJobs::showRequested, this, &AppDelegate::showModuleOfJobs);
+    connect(&m_surroundings.jobs, &ProgramJobs::conversionRequested, m_appController.get(), &AppController::openFiles,
+            Qt::QueuedConnection);
 }
 
 AppDelegate::~AppDelegate() = default;

@@ -46,6 +46,17 @@ bool readWindow(const QString &text, RecordRequest &request)
     return isNumber && request.plan.window != 0;
 }
 
+bool readPlace(const QString &text, RecordRequest &request)
+{
+    const QStringList parts = text.split(u',');
+    RecordPlan::Inset place;
+    if (parts.size() != 3 || !readNumber(parts[0], 0.0, 1.0, place.x) || !readNumber(parts[1], 0.0, 1.0, place.y) ||
+        !readNumber(parts[2], 0.0, 1.0, place.width))
+        return false;
+    request.plan.inset = place.bounded();
+    return true;
+}
+
 constexpr Option<RecordRequest> recordOptions[] = {
     {"seconds", "N", "stop by itself after so many",
      [](const QString &value, RecordRequest &request) {
@@ -71,6 +82,14 @@ constexpr Option<RecordRequest> recordOptions[] = {
          request.plan.camera = value;
          return !value.isEmpty();
      }},
+    {"with-camera", "DEVICE", "a camera within the screen's picture",
+     [](const QString &value, RecordRequest &request) {
+         if (!request.plan.inset)
+             request.plan.inset.emplace();
+         request.plan.camera = value;
+         return !value.isEmpty();
+     }},
+    {"camera-place", "X,Y,WIDTH", "where it is, as shares of the picture (0.73,0.7,0.25)", &readPlace},
     {"sound", "WHICH", "none, system (what the computer plays), microphone or both",
      [](const QString &value, RecordRequest &request) {
          return readChoice(value, {"none", "system", "microphone", "both"}, request.plan.sound);

@@ -19,22 +19,6 @@ namespace {
 
 using Target = foundation::Result<CaptureTarget, Sentence>;
 
-Target cameraTarget(const RecordPlan &plan)
-{
-    CaptureTarget target;
-    if (plan.camera.startsWith("lavfi:"_L1)) {
-        target.generator = plan.camera.mid(6);
-        return target;
-    }
-    const QStringList devices = QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name);
-    target.camera = plan.camera;
-    if (target.camera.isEmpty() || !QFileInfo::exists(target.camera))
-        target.camera = devices.isEmpty() ? QString() : u"/dev/"_s + devices.first();
-    if (target.camera.isEmpty())
-        return Failure{Sentence("No camera was found."_key)};
-    return target;
-}
-
 Target windowTarget(const RecordPlan &plan, const X11Display &display)
 {
     const auto window = display.window(plan.window);
@@ -46,21 +30,8 @@ Target windowTarget(const RecordPlan &plan, const X11Display &display)
     return CaptureTarget{.display = display.name(), .window = plan.window, .area = area};
 }
 
-}  // namespace
-
-QRect recordableArea(const QRect &wanted, const QRect &desktop)
+Target displayTarget(const RecordPlan &plan)
 {
-    QRect area = wanted.intersected(desktop);
-    area.setSize({area.width() & ~1, area.height() & ~1});
-    return area.width() >= 2 && area.height() >= 2 ? area : QRect();
-}
-
-Target captureTarget(const RecordPlan &plan)
-{
-    if (plan.what == RecordPlan::What::Camera)
-        return cameraTarget(plan);
-    if (plan.what == RecordPlan::What::Portal)
-        return CaptureTarget{.isShared = true};
     const auto opened = X11Display::open();
     if (!opened)
         return Failure{opened.reason()};
@@ -86,6 +57,48 @@ Target captureTarget(const RecordPlan &plan)
     if (area.isEmpty())
         return Failure{Sentence("The area to be recorded is outside the screen."_key)};
     return CaptureTarget{.display = display.name(), .area = area};
+}
+
+}  // namespace
+
+QRect recordableArea(const QRect &wanted, const QRect &desktop)
+{
+    QRect area = wanted.intersected(desktop);
+    area.setSize({area.width() & ~1, area.height() & ~1});
+    return area.width() >= 2 && area.height() >= 2 ? area : QRect();
+}
+
+Target cameraTarget(const RecordPlan &plan)
+{
+    CaptureTarget target;
+    if (plan.camera.startsWith("lavfi:"_L1)) {
+        target.generator = plan.camera.mid(6);
+        return target;
+    }
+    const QStringList devices = QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name);
+    target.camera = plan.camera;
+    if (target.camera.isEmpty() || !QFileInfo::exists(target.camera))
+        target.camera = devices.isEmpty() ? QString() : u"/dev/"_s + devices.first();
+    if (target.camera.isEmpty())
+        return Failure{Sentence("No camera was found."_key)};
+    return target;
+}
+
+Target captureTarget(const RecordPlan &plan)
+{
+    if (plan.what == RecordPlan::What::Camera)
+        return cameraTarget(plan);
+    const Target pictures =
+        plan.what == RecordPlan::What::Portal ? Target(CaptureTarget{.isShared = true}) : displayTarget(plan);
+    if (!pictures || !plan.inset)
+        return pictures;
+    const Target camera = cameraTarget(plan);
+    if (!camera)
+        return camera;
+    CaptureTarget both = *pictures;
+    both.camera = camera->camera;
+    both.generator = camera->generator;
+    return both;
 }
 
 }  // namespace kestrel

@@ -14,11 +14,14 @@ struct CaptureTarget {
     QString display = {};  ///< an X display; empty for a camera
     quint32 window = 0;
     QRect area = {};         ///< of the display; of the window itself where that is what is recorded. Even sizes.
-    QString camera = {};     ///< path of the device
+    QString camera = {};     ///< path of the device; beside a display or what is shared, of the inset
     QString generator = {};  ///< instead of a camera: a source of ffmpeg's own
     bool isShared =
         false;  ///< through the portal: a stream with times of its own on standard input; the area may be empty
 };
+
+/// The camera alone that the plan names, or the first one.
+foundation::Result<CaptureTarget, tarnwell::Sentence> cameraTarget(const RecordPlan &plan);
 
 /// What the plan names, or why it cannot be recorded: no such screen or window, an area that is nowhere.
 foundation::Result<CaptureTarget, tarnwell::Sentence> captureTarget(const RecordPlan &plan);

@@ -36,28 +36,46 @@ QString size(QSize size)
 /// What is read ahead of the encoder: few pictures, which are large, and so much sound that none is ever lost.
 constexpr const char *picturesAhead = "12", *soundsAhead = "4096";
 
-QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
+QStringList cameraInput(const RecordPlan &plan, const CaptureTarget &target)
 {
     QStringList arguments{u"-thread_queue_size"_s, QLatin1StringView(picturesAhead)};
-    const QStringList unprobed{u"-probesize"_s, u"32"_s, u"-analyzeduration"_s, u"0"_s};
     if (!target.generator.isEmpty())  // in real time by itself: -re counts from other times than those of the clock
         return arguments + QStringList{u"-use_wallclock_as_timestamps"_s, u"1"_s, u"-f"_s, u"lavfi"_s, u"-i"_s,
                                        target.generator + u",realtime"_s};
+    return arguments + QStringList{u"-f"_s,         u"v4l2"_s,         u"-timestamps"_s, u"abs"_s,
+                                   u"-framerate"_s, number(plan.rate), u"-i"_s,          target.camera};
+}
+
+QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
+{
+    if (target.display.isEmpty() && !target.isShared)
+        return cameraInput(plan, target);
+    QStringList arguments{u"-thread_queue_size"_s, QLatin1StringView(picturesAhead)};
     if (target.isShared)  // what its first picture is like must be looked at
         return arguments + QStringList{u"-analyzeduration"_s, u"0"_s, u"-f"_s, u"matroska"_s, u"-i"_s, u"pipe:0"_s};
-    if (target.display.isEmpty())
-        return arguments + QStringList{u"-f"_s,         u"v4l2"_s,         u"-timestamps"_s, u"abs"_s,
-                                       u"-framerate"_s, number(plan.rate), u"-i"_s,          target.camera};
-    arguments += unprobed;
-    arguments += {u"-f"_s,          u"x11grab"_s,
-                  u"-framerate"_s,  number(plan.rate),
-                  u"-video_size"_s, size(target.area.size()),
-                  u"-draw_mouse"_s, plan.pointer ? u"1"_s : u"0"_s};
+    arguments += {u"-probesize"_s,
+                  u"32"_s,
+                  u"-analyzeduration"_s,
+                  u"0"_s,
+                  u"-f"_s,
+                  u"x11grab"_s,
+                  u"-framerate"_s,
+                  number(plan.rate),
+                  u"-video_size"_s,
+                  size(target.area.size()),
+                  u"-draw_mouse"_s,
+                  plan.pointer ? u"1"_s : u"0"_s};
     if (target.window != 0)
         arguments += {u"-window_id"_s, QString::number(target.window)};
     else
         arguments += {u"-grab_x"_s, QString::number(target.area.x()), u"-grab_y"_s, QString::number(target.area.y())};
     return arguments + QStringList{u"-i"_s, target.display};
+}
+
+bool hasInset(const RecordPlan &plan, const CaptureTarget &target)
+{
+    const bool hasCamera = !target.camera.isEmpty() || !target.generator.isEmpty();
+    return plan.inset && hasCamera && plan.what != RecordPlan::What::Camera;
 }
 
 QStringList soundInput(const QString &source, bool isSilent)
@@ -114,7 +132,20 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
                      .arg(stretch.size.height());
     else if (own.isEmpty())
         chain += u"crop=trunc(iw/2)*2:trunc(ih/2)*2,"_s;
-    chains.append(chain + u"scale=flags=fast_bilinear:out_color_matrix=bt709:out_range=tv,format=yuv420p[v]"_s);
+    const QString encoded = u"scale=flags=fast_bilinear:out_color_matrix=bt709:out_range=tv,format=yuv420p"_s;
+    if (!hasInset(plan, stretch.target)) {
+        chains.append(chain + encoded + u"[v]"_s);
+    } else {
+        // Converted before it is overlaid, so that both have the same colours; when the camera ends, the screen goes
+        // on.
+        chains.append(chain + encoded + u"[screen]"_s);
+        chains.append(u"[%1:v]setpts=PTS-%2/TB,%3[camera]"_s.arg(pictures + 1).arg(begin, encoded));
+        chains.append(u"[camera][screen]scale2ref=w=trunc(iw*%1/2)*2:h=trunc(ow/mdar/2)*2[inset][ground]"_s.arg(
+            number(plan.inset->width)));
+        chains.append(
+            u"[ground][inset]overlay=x=clip(W*%1\\,0\\,W-w):y=clip(H*%2\\,0\\,H-h):eof_action=pass:format=yuv420[v]"_s
+                .arg(number(plan.inset->x), number(plan.inset->y)));
+    }
     return {chains.join(u';'), QStringList{u"[v]"_s} + sounds};
 }
 
@@ -140,6 +171,8 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
     for (const QString &source : sources)
         arguments += soundInput(source, stretch.isSilent);
     arguments += pictureInput(plan, stretch.target);
+    if (hasInset(plan, stretch.target))
+        arguments += cameraInput(plan, stretch.target);
     const auto [text, outputs] = graph(plan, stretch, int(sources.size()));
     arguments += {u"-filter_complex"_s, text};
     for (const QString &output : outputs)
@@ -174,6 +207,15 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
                                    u"matroska"_s,  u"-cluster_time_limit"_s,
                                    u"400"_s,       u"-flush_packets"_s,
                                    u"1"_s,         u"file:"_s + stretch.output};
+}
+
+QStringList cameraPictureArguments(const CaptureTarget &camera, const QString &output)
+{
+    RecordPlan plan;
+    return QStringList{u"-hide_banner"_s, u"-nostdin"_s, u"-y"_s, u"-loglevel"_s, u"error"_s, u"-nostats"_s} +
+           cameraInput(plan, camera) +
+           QStringList{u"-vf"_s, u"fps=4,scale=480:-2"_s, u"-f"_s, u"image2"_s,        u"-update"_s,
+                       u"1"_s,   u"-atomic_writing"_s,    u"1"_s,  u"file:"_s + output};
 }
 
 QStringList framesArguments(const RecordPlan &plan, QSize pictures, int connection, quint32 node,

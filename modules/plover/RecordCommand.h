@@ -27,6 +27,9 @@ struct RecordStretch {
 /// last half second at any moment.
 QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch);
 
+/// What shows a camera before it is recorded: writes its picture to a JPEG file, again and again.
+QStringList cameraPictureArguments(const CaptureTarget &camera, const QString &output);
+
 /// What screenFrames is run with to feed that: the pictures of a node, by an open connection to PipeWire, in the
 /// stretch's size where it has one. `snapshot` is the file that it writes where it gets SIGUSR1.
 QStringList framesArguments(const RecordPlan &plan, QSize size, int connection, quint32 node, const QString &snapshot);

@@ -195,12 +195,24 @@ void RecordJob::stretchEnded(const ToolEnding &ending)
     goOnAfterFailure(ending);
 }
 
+/// The screen's picture goes on without it.
+void RecordJob::loseInset()
+{
+    m_recording.plan.inset.reset();
+    m_problems.append("The camera went away: its picture ends there."_key);
+}
+
 /// A source has gone away by itself.
 void RecordJob::goOnAfterFailure(const ToolEnding &ending)
 {
     const RecordPlan &plan = m_recording.plan;
     tarnwell::DNFootLog(u"A recording was interrupted: %1"_s, ending.lastWords);
     const bool isFirst = m_recording.stretches.isEmpty();
+    const bool isCamera = !m_target.camera.isEmpty() && ending.lastWords.contains(m_target.camera);
+    if (isFirst && isCamera)
+        return fail("The camera could not be opened. Another program may be using it."_key, ending.lastWords);
+    if (plan.inset && (isCamera || !cameraTarget(plan)))
+        loseInset();
     const auto target = captureTarget(plan);
     if (!target || (isFirst && plan.sound == RecordPlan::Sound::None) || m_failures > 2) {
         if (isFirst)
@@ -255,6 +267,8 @@ void RecordJob::watch()
         m_recorder->cancel();
         return;
     }
+    if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
+        loseInset();
     const auto space = m_tools.diskSpace(m_recording.folder);
     if (!space || space->available > m_tools.reservedBytes || m_isToEnd)
         return;

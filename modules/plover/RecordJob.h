@@ -72,6 +72,7 @@ private:
     void readScreen(const QByteArray &line);
     void readProgress(const QByteArray &line);
     void stretchEnded(const ToolEnding &ending);
+    void loseInset();
     void goOnAfterFailure(const ToolEnding &ending);
     void endRecording();
     void watch();

@@ -41,11 +41,26 @@ QRect rectangle(const QJsonArray &numbers)
                                : QRect();
 }
 
+std::optional<RecordPlan::Inset> readInset(const QJsonArray &numbers)
+{
+    if (numbers.size() != 3)
+        return std::nullopt;
+    return RecordPlan::Inset{numbers[0].toDouble(), numbers[1].toDouble(), numbers[2].toDouble()}.bounded();
+}
+
 }  // namespace
+
+RecordPlan::Inset RecordPlan::Inset::bounded() const
+{
+    constexpr double smallest = 0.08;
+    const double wide = std::clamp(width, smallest, 1.0);
+    return {std::clamp(x, 0.0, 1 - wide), std::clamp(y, 0.0, 1 - smallest), wide};
+}
 
 QJsonObject RecordPlan::toJson() const
 {
     return {{u"version"_s, planVersion},
+            {u"inset"_s, inset ? QJsonArray{inset->x, inset->y, inset->width} : QJsonValue()},
             {u"what"_s, nameOf(whatNames, what)},
             {u"screen"_s, screen},
             {u"window"_s, qint64(window)},
@@ -75,6 +90,7 @@ std::optional<RecordPlan> RecordPlan::fromJson(const QJsonObject &json)
     plan.area = rectangle(json["area"_L1].toArray());
     plan.camera = json["camera"_L1].toString();
     plan.again = json["again"_L1].toBool();
+    plan.inset = readInset(json["inset"_L1].toArray());
     readName(json["sound"_L1], soundNames, plan.sound);
     plan.microphone = json["microphone"_L1].toString();
     plan.separateTracks = json["separate_tracks"_L1].toBool();

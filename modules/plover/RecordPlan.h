@@ -30,6 +30,15 @@ struct RecordPlan {
     QString camera = {};  ///< a device of video4linux; empty for the first
     bool again = false;   ///< of Portal: the last choice once more, without a dialog where the desktop allows that
 
+    /// The camera's picture within the screen's: its place and width as shares of the screen's picture; its height is
+    /// the camera's own.
+    struct Inset {
+        double x = 0.73, y = 0.7, width = 0.25;
+        bool operator==(const Inset &) const = default;
+        Inset bounded() const;  ///< within the picture, and not too small to be seen
+    };
+    std::optional<Inset> inset = {};
+
     Sound sound = Sound::System;
     QString microphone = {};      ///< a source of the sound server; empty for its default
     bool separateTracks = false;  ///< of Sound::Both, which is mixed otherwise

@@ -29,6 +29,7 @@ namespace {
 class Services final : public ModuleServices {
 public:
     JobQueue &queue() override { return m_queue; }
+    void openInConverter(const QStringList &) override {}
 
 private:
     JobQueue m_queue{nullptr};

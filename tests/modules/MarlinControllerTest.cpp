@@ -39,6 +39,7 @@ protected:
     ~MarlinControllerTest() override { controller.reset(); }
 
     JobQueue &queue() override { return *m_queue; }
+    void openInConverter(const QStringList &) override {}
 
     /// As the program does; what is stored is there again, jobs are not.
     void start()

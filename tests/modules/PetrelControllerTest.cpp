@@ -58,6 +58,7 @@ protected:
     ~PetrelControllerTest() override { controller.reset(); }
 
     JobQueue &queue() override { return m_queue; }
+    void openInConverter(const QStringList &) override {}
 
     template <class Widget>
     Widget *find(const QString &name)

@@ -32,6 +32,7 @@ protected:
     }
 
     JobQueue &queue() override { return m_queue; }
+    void openInConverter(const QStringList &) override {}
     void startDisplay()
     {
         m_display.start(u"Xvfb"_s,

@@ -5,6 +5,8 @@
 
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -19,6 +21,7 @@ TEST(RecordPlanTest, SurvivesStorageAndNonsense)
                           .area = {10, 20, 300, 200},
                           .camera = u"/dev/video1"_s,
                           .again = true,
+                          .inset = RecordPlan::Inset{0.125, 0.5, 0.25},
                           .sound = RecordPlan::Sound::Both,
                           .microphone = u"mic"_s,
                           .separateTracks = true,
@@ -34,11 +37,13 @@ TEST(RecordPlanTest, SurvivesStorageAndNonsense)
     json[u"sound"_s] = u"loud"_s;
     json[u"rate"_s] = 1e9;
     json[u"area"_s] = u"all"_s;
+    json[u"inset"_s] = QJsonArray{0.9, -3, 0.25};
     const auto read = RecordPlan::fromJson(json);
     ASSERT_TRUE(read);
     EXPECT_EQ(read->sound, RecordPlan::Sound::System);
     EXPECT_EQ(read->rate, RecordPlan::maximumRate);
     EXPECT_EQ(read->area, QRect());
+    EXPECT_EQ(read->inset, (RecordPlan::Inset{0.75, 0, 0.25}));
     json[u"version"_s] = 2;
     EXPECT_FALSE(RecordPlan::fromJson(json));
     EXPECT_FALSE(RecordPlan::fromJson({}));

@@ -14,6 +14,13 @@ def probe(path):
         capture_output=True).stdout)
 
 
+def colour(path, x, y):
+    """Red, green, blue of the last picture there."""
+    return subprocess.run(['ffmpeg', '-v', 'error', '-sseof', '-0.3', '-i', path, '-vf', f'crop=2:2:{x}:{y},scale=1:1',
+                           '-frames:v', '1', '-pix_fmt', 'rgb24', '-f', 'rawvideo', '-'], check=True,
+                          capture_output=True).stdout
+
+
 def clocks(path, x=0, y=0):
     """(second of the file, second of the scene's clock) of each picture that shows one, whose window is at x, y."""
     size = (COLUMNS * CELL, ROWS * CELL)

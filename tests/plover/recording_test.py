@@ -32,6 +32,8 @@ class RecordingTest(RecorderTestCase):
         window = self.logged()['window'][0]
         for arguments, size, place in ((['--window', window], (640, 360), (0, 0)),
                                        (['--area', '190,90,401,301'], (400, 300), (10, 10)),
+                                       (['--with-camera', 'lavfi:color=red:s=320x240:r=15', '--camera-place',
+                                         '0.75,0.75,0.25'], SIZE, (200, 100)),
                                        (['--screen', 'screen'], SIZE, (200, 100))):
             with self.subTest(arguments):
                 path, _ = self.recorded('--seconds', '2', '--sound', 'none', '--rate', '15', '--format', 'mp4',
@@ -39,6 +41,8 @@ class RecordingTest(RecorderTestCase):
                 video, = recorded.probe(path)['streams']
                 self.assertEqual((video['width'], video['height'], video['r_frame_rate']), (*size, '15/1'))
                 self.assert_in_order(recorded.clocks(path, *place), 2)
+                red, green, blue = recorded.colour(path, SIZE[0] - 20, SIZE[1] - 20) if size == SIZE else (0, 0, 0)
+                self.assertEqual(red > 200 and green < 60 and blue < 60, '--with-camera' in arguments)
                 os.remove(path)
 
     def test_signals_end_it_well(self):

@@ -69,6 +69,7 @@ const Forward recordForwards[] = {
     forward("maxFrameRate", &Dispatcher::setMaxFramerate, &Dispatcher::getRecorderMaxFramerate),
     forward("recordVideoDeviceID", &Dispatcher::setVideoDeviceID, &Dispatcher::getCurrentVideoDeviceID),
     forward("recordAudioDeviceID", &Dispatcher::setAudioDeviceID, &Dispatcher::getCurrentAudioDeviceID),
+    forward("recordChoices", &Dispatcher::setRecordChoices, &Dispatcher::getRecordChoices),
     forward("captureMouseClick", &Dispatcher::setCaptureMouseClick, &Dispatcher::isCaptureMouseClick),
 };
 const Forward discForwards[] = {reading("prefferLanguage", &Dispatcher::getDVDPreferredAudioLanCode)};

@@ -106,6 +106,7 @@ TEST_F(JKestrelSettingTest, every_archived_field_has_its_own_name)
                 {"recorder", "maxFrameRate", "maxFramerate", 59.94},
                 {"recorder", "recordVideoDeviceID", "videoDevice", u"camera"_s},
                 {"recorder", "recordAudioDeviceID", "audioDevice", u"microphone"_s},
+                {"recorder", "recordChoices", "recordChoices", u"{}"_s},
                 {"recorder", "captureMouseClick", "captureMouse", false}};
     const auto moduleOf = [](const JKestrelSetting &setting, const char *name) {
         return setting.property(name).value<QObject *>();

@@ -7,7 +7,6 @@
 #include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
-#include <QPainter>
 #include <QPushButton>
 #include <QScreen>
 
@@ -31,20 +30,10 @@ QString sizeText(QSize size)
 
 }  // namespace
 
-AreaChooser::AreaChooser()
-    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint),
-      m_bar(new QWidget(this))
+AreaChooser::AreaChooser() : ScreenOverlay("Choose an Area"_key.localized()), m_bar(new QWidget(this))
 {
-    setAttribute(Qt::WA_DeleteOnClose);
     setObjectName(u"areaChooser"_s);
-    setWindowTitle("Choose an Area"_key.localized());
-    setCursor(Qt::CrossCursor);
-    setFocusPolicy(Qt::StrongFocus);
-    const QRect desktop = QGuiApplication::primaryScreen()->virtualGeometry();
-    m_screen =
-        QGuiApplication::primaryScreen()->grabWindow(0, desktop.x(), desktop.y(), desktop.width(), desktop.height());
-    m_area = {desktop.center() - QPoint(320, 180), QSize(640, 360)};
-    setGeometry(desktop);
+    m_area = {rect().center() - QPoint(320, 180), QSize(640, 360)};
     makeBar();
 }
 
@@ -90,9 +79,7 @@ void AreaChooser::take()
 {
     if (m_area.width() < 2 || m_area.height() < 2)
         return;
-    const double ratio = devicePixelRatioF();
-    const QRect area = m_area.translated(pos());
-    emit chosen({(QPointF(area.topLeft()) * ratio).toPoint(), area.size() * ratio});
+    emit chosen(pixelsOf(m_area));
     close();
 }
 
@@ -106,20 +93,8 @@ void AreaChooser::resizeEvent(QResizeEvent *)
 
 void AreaChooser::paintEvent(QPaintEvent *)
 {
-    QPainter painter(this);
-    painter.drawPixmap(rect(), m_screen);
-    painter.setClipRegion(QRegion(rect()).subtracted(m_area));
-    painter.fillRect(rect(), QColor(0, 0, 0, 130));
-    painter.setClipping(false);
-    painter.setPen(Qt::white);
-    painter.drawRect(m_area.adjusted(-1, -1, 0, 0));
-    const QString text = u"%1 — %2"_s.arg(sizeText(m_area.size() * devicePixelRatioF()),
-                                          "Draw an area, then press Return"_key.localized());
-    const QSize box = painter.fontMetrics().size(Qt::TextSingleLine, text) + QSize(16, 8);
-    const bool fitsBelow = m_area.bottom() + box.height() < height();
-    const QPoint corner = m_area.bottomLeft() + QPoint(0, fitsBelow ? 6 : -box.height());
-    painter.fillRect(QRect(corner, box), QColor(0, 0, 0, 170));
-    painter.drawText(QRect(corner, box), Qt::AlignCenter, text);
+    paintDarkened(
+        m_area, u"%1 — %2"_s.arg(sizeText(pixelsOf(m_area).size()), "Draw an area, then press Return"_key.localized()));
 }
 
 void AreaChooser::mousePressEvent(QMouseEvent *event)
@@ -150,8 +125,8 @@ void AreaChooser::keyPressEvent(QKeyEvent *event)
     }
     if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter)
         take();
-    else if (event->key() == Qt::Key_Escape)
-        close();
+    else
+        ScreenOverlay::keyPressEvent(event);
 }
 
 }  // namespace kestrel

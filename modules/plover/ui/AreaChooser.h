@@ -1,13 +1,12 @@
 #pragma once
 
-#include <QWidget>
+#include "ScreenOverlay.h"
 
 namespace kestrel {
 
-/// The screen, darkened, on which an area is drawn with the mouse; pressed within it, it is moved. Arrow keys move it
-/// by single pixels and, with Shift, change its size; buttons give it a usual one. Return takes it, Escape does not.
-/// Goes by itself.
-class AreaChooser : public QWidget {
+/// An area is drawn with the mouse; pressed within it, it is moved. Arrow keys move it
+/// by single pixels and, with Shift, change its size; buttons give it a usual one. Return takes it.
+class AreaChooser : public ScreenOverlay {
     Q_OBJECT
 public:
     AreaChooser();
@@ -27,7 +26,6 @@ private:
     void setArea(const QRect &area);
     void take();
 
-    QPixmap m_screen;
     QWidget *m_bar;
     QPoint m_start;
     QPoint m_grip;  ///< within the area, while that is moved

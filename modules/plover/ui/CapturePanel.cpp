@@ -1,17 +1,24 @@
 #include "CapturePanel.h"
 
 #include "AreaChooser.h"
+#include "PreviewPicture.h"
+#include "WindowChooser.h"
+#include "foundation/Queues.h"
 #include "modules/plover/RecordRecipe.h"
 #include "modules/plover/ScreenCastPortal.h"
 #include "modules/plover/X11Display.h"
 
+#include <QCheckBox>
 #include <QComboBox>
+#include <QDateTime>
 #include <QDir>
 #include <QGridLayout>
 #include <QGuiApplication>
 #include <QLabel>
+#include <QPointer>
 #include <QProgressBar>
 #include <QScreen>
+#include <QTimeEdit>
 
 #include <chrono>
 
@@ -25,71 +32,144 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr QSize pictureSize(320, 180);
+constexpr QSize entryPicture(64, 36);
 constexpr auto previewInterval = 500ms;
 using What = RecordPlan::What;
 
-/// What an entry of the sources stands for.
+/// What an entry of the sources stands for; a window of the number 0 is chosen by a click.
 QVariantList entry(What what, const QVariant &name = {})
 {
     return {int(what), name};
+}
+
+What whatOf(const QComboBox &sources, int index)
+{
+    return What(sources.itemData(index).toList().value(0).toInt());
 }
 
 QComboBox *named(QComboBox *box, const char *objectName, tarnwell::TextKey name)
 {
     box->setObjectName(QLatin1StringView(objectName));
     box->setAccessibleName(name.localized());
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    box->setMinimumContentsLength(12);
     return box;
+}
+
+QStringList cameras()
+{
+    QStringList paths;
+    for (const QString &name : QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name))
+        paths.append(u"/dev/"_s + name);
+    return paths;
+}
+
+/// In pixels of the display.
+QPixmap pictureOf(quint32 window, const QRect &area)
+{
+    QScreen *screen = QGuiApplication::primaryScreen();
+    const double ratio = screen->devicePixelRatio();
+    const QRect points((QPointF(area.topLeft()) / ratio).toPoint(), area.size() / ratio);
+    return screen->grabWindow(window, points.x(), points.y(), points.width(), points.height());
+}
+
+QIcon iconOf(quint32 window, const QRect &area)
+{
+    const QPixmap picture = pictureOf(window, area);
+    return picture.isNull() ? QIcon() : picture.scaled(entryPicture * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
 
 CapturePanel::CapturePanel()
     : m_sources(named(new QComboBox, "sourceComboBox", "What to record"_key)),
+      m_insets(named(new QComboBox, "insetComboBox", "Camera in the picture"_key)),
       m_sounds(named(new QComboBox, "soundComboBox", "Sound"_key)),
-      m_countdown(named(new QComboBox, "countdownComboBox", "Countdown"_key)),
+      m_formats(named(new QComboBox, "formatComboBox", "Format"_key)),
+      m_begins(named(new QComboBox, "countdownComboBox", "Begin"_key)),
       m_limits(named(new QComboBox, "limitComboBox", "Stop after"_key)),
-      m_picture(new QLabel),
+      m_time(new QTimeEdit),
+      m_pointer(new QCheckBox("Show the pointer"_key.localized())),
+      m_picture(new PreviewPicture),
       m_level(new QProgressBar)
 {
-    using enum RecordPlan::Sound;
-    m_sounds->addItem("Sound of the computer"_key.localized(), int(System));
-    m_sounds->addItem("Microphone"_key.localized(), int(Microphone));
-    m_sounds->addItem("Computer and microphone"_key.localized(), int(Both));
-    m_sounds->addItem("No sound"_key.localized(), int(None));
-    m_countdown->addItem("Count down from three"_key.localized(), true);
-    m_countdown->addItem("Begin at once"_key.localized(), false);
-    m_limits->addItem("Until it is stopped"_key.localized(), 0);
-    for (const int minutes : {1, 5, 10, 30, 60})
-        m_limits->addItem(Sentence("Stop after %1 min"_key, {QString::number(minutes)}).localized(), minutes * 60);
-    m_picture->setObjectName(u"previewLabel"_s);
-    m_picture->setFixedSize(pictureSize);
-    m_picture->setAlignment(Qt::AlignCenter);
-    m_picture->setWordWrap(true);
-    m_level->setRange(0, 100);
-    m_level->setTextVisible(false);
-    m_level->setAccessibleName("Sound level"_key.localized());
-
-    auto *layout = new QGridLayout(this);
-    layout->setContentsMargins({});
-    layout->addWidget(m_picture, 0, 0, 6, 1);
-    int row = 0;
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_sounds, m_level, m_countdown, m_limits})
-        layout->addWidget(widget, row++, 1);
-    layout->setColumnStretch(1, 1);
-
+    makeChoices();
+    arrange();
     connect(m_sources, &QComboBox::activated, this, &CapturePanel::sourceChosen);
+    connect(m_insets, &QComboBox::currentIndexChanged, this, &CapturePanel::insetChosen);
     connect(m_sounds, &QComboBox::activated, this, &CapturePanel::soundChosen);
+    connect(m_begins, &QComboBox::currentIndexChanged, this, [this] {
+        m_time->setVisible(begin() == Begin::AtTime);
+        emit beginChosen();
+    });
+    connect(m_time, &QTimeEdit::timeChanged, this, &CapturePanel::beginChosen);
     connect(&m_preview, &QTimer::timeout, this, &CapturePanel::showPreview);
     connect(&m_meter, &LevelMeter::levelChanged, this, [this](double level) { m_level->setValue(int(level * 100)); });
 }
 
 CapturePanel::~CapturePanel() = default;
 
-void CapturePanel::open(const QString &transcoderPath)
+void CapturePanel::makeChoices()
+{
+    using enum RecordPlan::Sound;
+    const struct {
+        QComboBox *box;
+        tarnwell::TextKey text;
+        int value;
+    } choices[] = {{m_sounds, "Sound of the computer"_key, int(System)},
+                   {m_sounds, "Microphone"_key, int(Microphone)},
+                   {m_sounds, "Computer and microphone"_key, int(Both)},
+                   {m_sounds, "Computer and microphone, a track each"_key, int(Both) + 1},
+                   {m_sounds, "No sound"_key, int(None)},
+                   {m_formats, "QuickTime movie (MOV)"_key, int(RecordPlan::Container::Mov)},
+                   {m_formats, "MPEG-4 movie (MP4)"_key, int(RecordPlan::Container::Mp4)},
+                   {m_begins, "Count down from three"_key, int(Begin::AfterCountdown)},
+                   {m_begins, "Begin at once"_key, int(Begin::AtOnce)},
+                   {m_begins, "Begin at a time…"_key, int(Begin::AtTime)},
+                   {m_limits, "Until it is stopped"_key, 0}};
+    for (const auto &[box, text, value] : choices)
+        box->addItem(text.localized(), value);
+    for (const int minutes : {1, 5, 10, 30, 60})
+        m_limits->addItem(Sentence("Stop after %1 min"_key, {QString::number(minutes)}).localized(), minutes * 60);
+    m_sources->setIconSize(entryPicture);
+    m_time->setObjectName(u"beginTimeEdit"_s);
+    m_time->setAccessibleName("Time at which the recording begins"_key.localized());
+    m_time->setTime(QTime::currentTime().addSecs(5 * 60));
+    m_time->hide();
+    m_pointer->setObjectName(u"pointerCheckBox"_s);
+    m_pointer->setChecked(true);
+    m_level->setRange(0, 100);
+    m_level->setTextVisible(false);
+    m_level->setAccessibleName("Sound level"_key.localized());
+}
+
+void CapturePanel::arrange()
+{
+    auto *layout = new QGridLayout(this);
+    layout->setContentsMargins({});
+    layout->addWidget(m_picture, 0, 0, 6, 1);
+    layout->addWidget(m_sources, 0, 1, 1, 2);
+    layout->addWidget(m_insets, 1, 1, 1, 2);
+    layout->addWidget(m_sounds, 2, 1, 1, 2);
+    layout->addWidget(m_level, 3, 1, 1, 2);
+    auto *beginning = new QHBoxLayout;
+    beginning->addWidget(m_begins, 1);
+    beginning->addWidget(m_time);
+    layout->addLayout(beginning, 4, 1);
+    layout->addWidget(m_limits, 4, 2);
+    layout->addWidget(m_formats, 5, 1);
+    layout->addWidget(m_pointer, 5, 2);
+    layout->setColumnStretch(1, 1);
+    layout->setColumnStretch(2, 1);
+}
+
+void CapturePanel::open(const QString &transcoderPath, const std::optional<RecordPlan> &last)
 {
     m_transcoderPath = transcoderPath;
     fillSources();
+    fillCameras();
+    if (last && !std::exchange(m_isRestored, true))
+        restore(*last);
     m_preview.start(previewInterval);
     soundChosen();
     showPreview();
@@ -99,12 +179,14 @@ void CapturePanel::release()
 {
     m_preview.stop();
     m_meter.close();
+    m_camera.close();
     m_portal.reset();
-    m_picture->setPixmap({});
+    m_picture->showPicture({});
 }
 
 void CapturePanel::fillSources()
 {
+    const QVariant chosen = m_sources->currentData();
     m_sources->clear();
     const auto display = X11Display::open();
     m_obstacle = display ? Sentence() : display.reason();
@@ -112,19 +194,36 @@ void CapturePanel::fillSources()
         addPortal();
     if (display) {
         for (const X11Display::Monitor &monitor : (*display)->monitors())
-            m_sources->addItem(Sentence("Screen %1 (%2 × %3)"_key, {monitor.name, QString::number(monitor.area.width()),
+            m_sources->addItem(iconOf(0, monitor.area),
+                               Sentence("Screen %1 (%2 × %3)"_key, {monitor.name, QString::number(monitor.area.width()),
                                                                     QString::number(monitor.area.height())})
                                    .localized(),
                                entry(What::Screen, monitor.name));
         m_sources->addItem("Part of the screen…"_key.localized(), entry(What::Area));
+        m_sources->addItem("Window by a click…"_key.localized(), entry(What::Window, 0));
         for (const X11Display::Window &window : (*display)->windows())
-            m_sources->addItem(Sentence("Window: %1"_key, {window.title}).localized(), entry(What::Window, window.id));
+            m_sources->addItem(iconOf(window.id, {{}, window.area.size()}),
+                               Sentence("Window: %1"_key, {window.title}).localized(), entry(What::Window, window.id));
     }
-    for (const QString &name : QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name)) {
+    for (const QString &path : cameras()) {
         m_obstacle = {};
-        m_sources->addItem(Sentence("Camera %1"_key, {name}).localized(), entry(What::Camera, u"/dev/"_s + name));
+        m_sources->addItem(Sentence("Camera %1"_key, {QFileInfo(path).fileName()}).localized(),
+                           entry(What::Camera, path));
     }
+    m_sources->setCurrentIndex(std::max(0, m_sources->findData(chosen)));
     emit changed();
+}
+
+/// Without a camera there is nothing to choose.
+void CapturePanel::fillCameras()
+{
+    const QString chosen = m_insets->currentData().toString();
+    m_insets->clear();
+    m_insets->addItem("No camera in the picture"_key.localized(), QString());
+    for (const QString &path : cameras())
+        m_insets->addItem(Sentence("Camera %1 in the picture"_key, {QFileInfo(path).fileName()}).localized(), path);
+    m_insets->setCurrentIndex(std::max(0, m_insets->findData(chosen)));
+    m_insets->setVisible(m_insets->count() > 1);
 }
 
 /// What is there is the desktop's to show.
@@ -137,7 +236,7 @@ void CapturePanel::addPortal()
     m_portal = std::make_unique<ScreenCastPortal>();
     connect(m_portal.get(), &ScreenCastPortal::ended, this, [this](ScreenCastPortal::End, const Sentence &sentence) {
         for (int index = m_sources->count(); --index >= 0;) {
-            if (What(m_sources->itemData(index).toList().value(0).toInt()) == What::Portal)
+            if (whatOf(*m_sources, index) == What::Portal)
                 m_sources->removeItem(index);
         }
         m_obstacle = m_sources->count() == 0 ? sentence : Sentence();
@@ -146,10 +245,37 @@ void CapturePanel::addPortal()
     m_portal->look([] {});
 }
 
+/// Windows and areas are others by now.
+void CapturePanel::restore(const RecordPlan &last)
+{
+    const auto show = [](QComboBox *box, const QVariant &value) {
+        if (const int index = box->findData(value); index >= 0)
+            box->setCurrentIndex(index);
+    };
+    if (last.what == What::Screen)
+        show(m_sources, entry(What::Screen, last.screen));
+    show(m_sounds, int(last.sound) + (last.sound == RecordPlan::Sound::Both && last.separateTracks ? 1 : 0));
+    show(m_formats, int(last.container));
+    show(m_limits, int(last.seconds));
+    m_pointer->setChecked(last.pointer);
+    if (last.inset) {
+        show(m_insets, last.camera);
+        m_picture->setInset(m_insets->currentIndex() > 0 ? last.inset : std::nullopt);
+    }
+}
+
 void CapturePanel::sourceChosen()
 {
-    if (What(m_sources->currentData().toList().value(0).toInt()) == What::Area)
-        chooseArea();
+    const QVariantList chosen = m_sources->currentData().toList();
+    // The list of the sources would be in the picture of the screen.
+    constexpr auto untilListIsGone = 200ms;
+    const bool isWindow = chosen == entry(What::Window, 0);
+    if (isWindow || whatOf(*m_sources, m_sources->currentIndex()) == What::Area) {
+        foundation::queue::afterMain(untilListIsGone, [self = QPointer(this), isWindow] {
+            if (self && self->isOpen())
+                isWindow ? self->chooseWindow() : self->chooseArea();
+        });
+    }
     showPreview();
 }
 
@@ -158,6 +284,14 @@ void CapturePanel::soundChosen()
     RecordPlan plan;
     choose(plan);
     m_meter.open(m_transcoderPath, plan);
+}
+
+void CapturePanel::insetChosen()
+{
+    const bool isChosen = m_insets->currentIndex() > 0;
+    m_picture->setInset(isChosen ? m_picture->inset().value_or(RecordPlan::Inset())
+                                 : std::optional<RecordPlan::Inset>());
+    showPreview();
 }
 
 void CapturePanel::chooseArea()
@@ -171,11 +305,29 @@ void CapturePanel::chooseArea()
     chooser->activateWindow();
 }
 
+void CapturePanel::chooseWindow()
+{
+    const auto display = X11Display::open();
+    if (!display)
+        return;
+    auto *chooser = new WindowChooser((*display)->windows());
+    connect(chooser, &WindowChooser::chosen, this, [this](quint32 window) {
+        fillSources();
+        m_sources->setCurrentIndex(std::max(0, m_sources->findData(entry(What::Window, window))));
+        showPreview();
+    });
+    chooser->show();
+    chooser->activateWindow();
+}
+
 void CapturePanel::choose(RecordPlan &plan) const
 {
     const QVariantList chosen = m_sources->currentData().toList();
     plan.what = What(chosen.value(0).toInt());
     plan.area = m_area.isEmpty() ? QRect(0, 0, 1280, 720) : m_area;
+    plan.inset = plan.what == What::Camera ? std::nullopt : m_picture->inset();
+    if (plan.inset)
+        plan.camera = m_insets->currentData().toString();
     switch (plan.what) {
         case What::Screen:
             plan.screen = chosen.value(1).toString();
@@ -192,39 +344,62 @@ void CapturePanel::choose(RecordPlan &plan) const
         case What::Area:
             break;
     }
-    plan.sound = RecordPlan::Sound(m_sounds->currentData().toInt());
+    const int sound = m_sounds->currentData().toInt();
+    plan.separateTracks = sound > int(RecordPlan::Sound::Both);
+    plan.sound = plan.separateTracks ? RecordPlan::Sound::Both : RecordPlan::Sound(sound);
+    plan.container = RecordPlan::Container(m_formats->currentData().toInt());
+    plan.pointer = m_pointer->isChecked();
     plan.seconds = m_limits->currentData().toInt();
 }
 
-bool CapturePanel::wantsCountdown() const
+CapturePanel::Begin CapturePanel::begin() const
 {
-    return m_countdown->currentData().toBool();
+    return Begin(m_begins->currentData().toInt());
+}
+
+tarnwell::Sentence CapturePanel::obstacle() const
+{
+    const bool isWindowOpen = m_sources->currentData().toList() == entry(What::Window, 0);
+    return isWindowOpen ? Sentence("Click the window that is to be recorded"_key) : m_obstacle;
+}
+
+QDateTime CapturePanel::beginTime() const
+{
+    const QDateTime today(QDate::currentDate(), m_time->time());
+    return today > QDateTime::currentDateTime() ? today : today.addDays(1);
 }
 
 void CapturePanel::showPreview()
 {
     if (!isOpen())
         return;
-    if (!m_obstacle.isEmpty())
-        return m_picture->setText(m_obstacle.localized());
     RecordPlan plan;
     choose(plan);
+    followCamera(plan);
+    if (!m_obstacle.isEmpty())
+        return m_picture->showText(m_obstacle.localized());
     if (plan.what == What::Portal)
-        return m_picture->setText(
+        return m_picture->showText(
             "The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then."_key
                 .localized());
-    if (!plan.hasPicturesOfDisplay())
-        return m_picture->setText("The camera's picture is not shown before it is recorded."_key.localized());
+    if (plan.what == What::Camera)
+        return m_picture->showPicture(QPixmap::fromImage(m_camera.picture()));
+    if (plan.what == What::Window && plan.window == 0)
+        return m_picture->showText("Click the window that is to be recorded"_key.localized());
     const auto target = captureTarget(plan);
     if (!target)
-        return m_picture->setText(target.reason().localized());
-    QScreen *screen = QGuiApplication::primaryScreen();
-    const double ratio = screen->devicePixelRatio();
-    const QRect area((QPointF(target->area.topLeft()) / ratio).toPoint(), target->area.size() / ratio);
-    QPixmap picture = screen->grabWindow(target->window, area.x(), area.y(), area.width(), area.height());
-    picture = picture.scaled(pictureSize * devicePixelRatioF(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
-    picture.setDevicePixelRatio(devicePixelRatioF());
-    m_picture->setPixmap(picture);
+        return m_picture->showText(target.reason().localized());
+    m_picture->showPicture(pictureOf(target->window, target->area));
+}
+
+void CapturePanel::followCamera(const RecordPlan &plan)
+{
+    const auto camera = cameraTarget(plan);
+    if (camera && (plan.inset || plan.what == What::Camera))
+        m_camera.open(m_transcoderPath, *camera);
+    else
+        m_camera.close();
+    m_picture->setCamera(plan.inset ? m_camera.picture() : QImage());
 }
 
 }  // namespace kestrel

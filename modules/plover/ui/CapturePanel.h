@@ -1,56 +1,79 @@
 #pragma once
 
-#include "modules/plover/CaptureTarget.h"
+#include "CameraPicture.h"
+
 #include "modules/plover/LevelMeter.h"
 
 #include <QTimer>
 #include <QWidget>
 
+#include <optional>
+
+class QCheckBox;
 class QComboBox;
-class QLabel;
 class QProgressBar;
+class QTimeEdit;
 
 namespace kestrel {
 
+class PreviewPicture;
 class ScreenCastPortal;
 
-/// What is to be recorded: screens, windows, an area, a camera; the sound; and how it looks and sounds at the moment.
-/// Opens nothing before `open` and lets everything go with `release`.
+/// What is to be recorded: screens, windows, an area, a camera; the sound; how it begins and ends; and how it looks and
+/// sounds at the moment. Opens nothing before `open` and lets everything go with `release`.
 class CapturePanel : public QWidget {
     Q_OBJECT
 public:
+    enum class Begin { AtOnce, AfterCountdown, AtTime };
+
     CapturePanel();
     ~CapturePanel() override;
 
-    void open(const QString &transcoderPath);
+    /// `last`: what was chosen last, if anything.
+    void open(const QString &transcoderPath, const std::optional<RecordPlan> &last);
     void release();
     bool isOpen() const { return m_preview.isActive(); }
 
     /// Puts the choices into the plan.
     void choose(RecordPlan &plan) const;
-    bool wantsCountdown() const;
+    Begin begin() const;
+    QDateTime beginTime() const;  ///< of AtTime: the next time that the clock shows it
     /// Why nothing can be recorded; none where it can.
-    tarnwell::Sentence obstacle() const { return m_obstacle; }
+    tarnwell::Sentence obstacle() const;
 
 signals:
     void changed();
+    void beginChosen();
 
 private:
+    void makeChoices();
+    void arrange();
     void fillSources();
+    void fillCameras();
     void addPortal();
+    void restore(const RecordPlan &last);
     void sourceChosen();
     void soundChosen();
+    void insetChosen();
     void chooseArea();
+    void chooseWindow();
     void showPreview();
+    void followCamera(const RecordPlan &plan);
 
     QComboBox *m_sources;
+    QComboBox *m_insets;
     QComboBox *m_sounds;
-    QComboBox *m_countdown;
+    QComboBox *m_formats;
+    QComboBox *m_begins;
     QComboBox *m_limits;
-    QLabel *m_picture;
+    QTimeEdit *m_time;
+    QCheckBox *m_pointer;
+    PreviewPicture *m_picture;
     QProgressBar *m_level;
     QString m_transcoderPath;
     QRect m_area;
+    bool m_isRestored = false;
+    CameraPicture m_camera;
     LevelMeter m_meter;
     std::unique_ptr<ScreenCastPortal> m_portal;  ///< while it is looked for one
     QTimer m_preview;

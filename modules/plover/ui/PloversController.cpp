@@ -6,6 +6,7 @@
 #include "foundation/Queues.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
+#include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
 #include "modules/common/LateView.h"
 #include "modules/common/OutputFolderLine.h"
@@ -20,6 +21,9 @@
 #include <QDir>
 #include <QGuiApplication>
 #include <QImage>
+#include <QJsonDocument>
+#include <QLocale>
+#include <QMenu>
 #include <QScreen>
 #include <QShortcut>
 #include <QSystemTrayIcon>
@@ -82,6 +86,12 @@ std::unique_ptr<QWidget> PloversController::makeContents()
     connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
     connect(panel, &CapturePanel::changed, this, &PloversController::showState);
+    connect(panel, &CapturePanel::beginChosen, this, [this] {
+        if (m_beginning.isValid())
+            m_page->showMessage({});
+        m_beginning = {};
+    });
+    connect(page->list(), &JobListView::menuRequested, this, &PloversController::extendMenu);
     connect(&queue(), &JobQueue::changed, this, &PloversController::recordChanged);
     connect(&m_meter, &LevelMeter::levelChanged, this, [this](double level) {
         if (m_bar)
@@ -91,6 +101,24 @@ std::unique_ptr<QWidget> PloversController::makeContents()
     showState();
     tarnwell::tabInLayoutOrder(*page);
     return page;
+}
+
+void PloversController::openPanel()
+{
+    const QByteArray choices = m_settings->getRecordChoices().toUtf8();
+    m_panel->open(m_settings->getTranscoderPath(), RecordPlan::fromJson(QJsonDocument::fromJson(choices).object()));
+}
+
+/// What is to be made of a recording is the converter's work.
+void PloversController::extendMenu(QMenu *menu, const QList<JobId> &ids)
+{
+    QStringList recordings;
+    for (const JobId id : ids)
+        recordings += queue().record(id)->outcome.outputs;
+    menu->addSeparator();
+    menu->addAction("Cut or Convert…"_key.localized(), this,
+                    [this, recordings] { m_services.openInConverter(recordings); })
+        ->setEnabled(!recordings.isEmpty());
 }
 
 void PloversController::setCompletedHandler(CompletedHandler handler)
@@ -110,7 +138,7 @@ QString PloversController::windowTitle() const
 
 void PloversController::doBackAction()
 {
-    m_countdown = 0;
+    forgetCountdown();
     if (m_panel)
         m_panel->release();
     if (m_completedHandler)
@@ -125,15 +153,22 @@ bool PloversController::shouldTerminate()
 void PloversController::startRecorderSession()
 {
     m_view->makeContents();
-    m_panel->open(m_settings->getTranscoderPath());
+    openPanel();
     showState();
 }
 
 void PloversController::onViewDidDisappear()
 {
-    m_countdown = 0;
+    forgetCountdown();
     if (m_panel)
         m_panel->release();
+}
+
+/// A recording that is to begin at a time does so from any module.
+void PloversController::forgetCountdown()
+{
+    if (m_panel && m_panel->begin() != CapturePanel::Begin::AtTime)
+        m_beginning = {};
 }
 
 /// While it counts down the same button begins at once.
@@ -147,32 +182,40 @@ void PloversController::startClicked()
                             .alternateButton = {},
                             .informativeText = {},
                             .style = tarnwell::AlertStyle::Warning});
-    } else if (m_countdown == 0 && m_panel->wantsCountdown()) {
-        countDown(countdownSeconds);
-    } else {
+    } else if (m_beginning.isValid() || m_panel->begin() == CapturePanel::Begin::AtOnce) {
         record();
+    } else {
+        const bool isTimed = m_panel->begin() == CapturePanel::Begin::AtTime;
+        beginAt(isTimed ? m_panel->beginTime() : QDateTime::currentDateTime().addSecs(countdownSeconds));
     }
 }
 
-void PloversController::countDown(int seconds)
+void PloversController::beginAt(const QDateTime &moment)
 {
-    m_countdown = seconds;
-    if (seconds == 0)
+    m_beginning = moment;
+    const std::chrono::milliseconds left(QDateTime::currentDateTime().msecsTo(moment));
+    if (left.count() <= 0)
         return record();
-    m_page->showMessage(
-        Sentence("Recording begins in %1 s. Press Record to begin at once."_key, {QString::number(seconds)})
-            .localized());
-    foundation::queue::afterMain(std::chrono::seconds(1), [self = QPointer(this), seconds] {
-        if (self && self->m_countdown == seconds)
-            self->countDown(seconds - 1);
+    const auto seconds = std::chrono::ceil<std::chrono::seconds>(left);
+    const Sentence message = seconds < std::chrono::minutes(1)
+                                 ? Sentence("Recording begins in %1 s. Press Record to begin at once."_key,
+                                            {QString::number(seconds.count())})
+                                 : Sentence("Recording begins at %1. Press Record to begin at once."_key,
+                                            {QLocale().toString(moment.time(), QLocale::ShortFormat)});
+    m_page->showMessage(message.localized());
+    constexpr std::chrono::milliseconds step = std::chrono::seconds(1);
+    foundation::queue::afterMain(std::min(step, left), [self = QPointer(this), moment] {
+        if (self && self->m_beginning == moment)
+            self->beginAt(moment);
     });
 }
 
 void PloversController::record()
 {
-    m_countdown = 0;
+    m_beginning = {};
     RecordPlan plan = recordPlan(*m_settings);
     m_panel->choose(plan);
+    m_settings->setRecordChoices(QString::fromUtf8(QJsonDocument(plan.toJson()).toJson(QJsonDocument::Compact)));
     if (const auto target = captureTarget(plan))
         m_target = *target;
     const QString folder = m_settings->getVideoDir();
@@ -247,7 +290,7 @@ void PloversController::closeControls()
     if (window->isMinimized())
         window->showNormal();
     if (m_view->isVisible())
-        m_panel->open(m_settings->getTranscoderPath());
+        openPanel();
 }
 
 void PloversController::recordChanged(JobId id)
@@ -297,7 +340,6 @@ void PloversController::stopRecording()
         queue().stop({m_recording});
 }
 
-/// Beside the recording: this module has no folder of its own for pictures.
 void PloversController::takeSnapshot()
 {
     if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot())
@@ -315,7 +357,10 @@ void PloversController::takeSnapshot()
 void PloversController::keepSnapshot(const QImage &picture)
 {
     const QString name = u"/Snapshot %1.png"_s.arg(QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss.zzz"_s));
-    picture.save(m_settings->getVideoDir() + name);
+    // The folder for snapshots is the converter's setting, the only one for all of Kestrel's pictures.
+    const QString folder = JKestrelSettingDispatcher::SettingDispatcherWithType(ModuleSettingVideo)->getSnapshotDir();
+    const bool isThere = QDir().mkpath(folder);
+    picture.save((isThere ? folder : m_settings->getVideoDir()) + name);
 }
 
 }  // namespace kestrel

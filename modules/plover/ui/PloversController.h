@@ -5,10 +5,12 @@
 #include "modules/plover/RecordRecipe.h"
 #include "modules/plover/X11Keys.h"
 
+#include <QDateTime>
 #include <QObject>
 #include <QPointer>
 
 class QImage;
+class QMenu;
 class QSystemTrayIcon;
 
 namespace kestrel {
@@ -45,7 +47,10 @@ private:
     std::unique_ptr<QWidget> makeContents();
     JobQueue &queue();
     void startClicked();
-    void countDown(int seconds);
+    void beginAt(const QDateTime &moment);
+    void forgetCountdown();
+    void openPanel();
+    void extendMenu(QMenu *menu, const QList<JobId> &ids);
     void record();
     void openControls();
     void takeKeys();
@@ -67,8 +72,7 @@ private:
     std::unique_ptr<JobList> m_list;
     QPointer<JobPage> m_page;
     QPointer<CapturePanel> m_panel;
-    // While it counts down
-    int m_countdown = 0;  ///< seconds that are left; 0 where it does not count
+    QDateTime m_beginning;  ///< of the recording that is about to begin; none where none is
     // While it records
     JobId m_recording = 0;
     CaptureTarget m_target;

@@ -1,0 +1,61 @@
+#include "ScreenOverlay.h"
+
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QPainter>
+#include <QScreen>
+
+namespace kestrel {
+
+ScreenOverlay::ScreenOverlay(const QString &title)
+    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
+{
+    setAttribute(Qt::WA_DeleteOnClose);
+    setWindowTitle(title);
+    setCursor(Qt::CrossCursor);
+    setFocusPolicy(Qt::StrongFocus);
+    QScreen *screen = QGuiApplication::primaryScreen();
+    const QRect desktop = screen->virtualGeometry();
+    m_screen = screen->grabWindow(0, desktop.x(), desktop.y(), desktop.width(), desktop.height());
+    setGeometry(desktop);
+}
+
+void ScreenOverlay::keyPressEvent(QKeyEvent *event)
+{
+    if (event->key() == Qt::Key_Escape)
+        close();
+}
+
+void ScreenOverlay::paintDarkened(const QRect &bright, const QString &text)
+{
+    QPainter painter(this);
+    painter.drawPixmap(rect(), m_screen);
+    painter.setClipRegion(QRegion(rect()).subtracted(bright));
+    painter.fillRect(rect(), QColor(0, 0, 0, 130));
+    painter.setClipping(false);
+    painter.setPen(Qt::white);
+    if (!bright.isEmpty())
+        painter.drawRect(bright.adjusted(-1, -1, 0, 0));
+    const QSize box = painter.fontMetrics().size(Qt::TextSingleLine, text) + QSize(16, 8);
+    const bool fitsBelow = bright.bottom() + box.height() < height();
+    QPoint corner = bright.bottomLeft() + QPoint(0, fitsBelow ? 6 : -box.height());
+    if (bright.isEmpty())
+        corner = rect().center() - QPoint(box.width() / 2, 0);
+    painter.fillRect(QRect(corner, box), QColor(0, 0, 0, 170));
+    painter.drawText(QRect(corner, box), Qt::AlignCenter, text);
+}
+
+QRect ScreenOverlay::pixelsOf(const QRect &area) const
+{
+    const double ratio = devicePixelRatioF();
+    const QRect onDesktop = area.translated(pos());
+    return {(QPointF(onDesktop.topLeft()) * ratio).toPoint(), onDesktop.size() * ratio};
+}
+
+QRect ScreenOverlay::areaOf(const QRect &pixels) const
+{
+    const double ratio = devicePixelRatioF();
+    return QRect((QPointF(pixels.topLeft()) / ratio).toPoint(), pixels.size() / ratio).translated(-pos());
+}
+
+}  // namespace kestrel
