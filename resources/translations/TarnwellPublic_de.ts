@@ -308,6 +308,10 @@
         <translation>Alle Aufträge sind beendet.</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>Alle Sprachen</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>Alle Tonspuren der gewählten Titel mit ihren Kapiteln.</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>Eine Adresse ist zum Beispiel http://proxy.example.com oder socks5://10.0.0.1.</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Blickwinkel</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>Sichern Sie DVDs in 6 Modi, und wandeln Sie ganze DVDs in über 180 Formate um: zum Abspielen auf Mac und Mobilgeräten, zum Speichern auf der Festplatte, zum Ansehen am Fernseher und mehr. Eine ganze DVD in 5 Minuten!</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>Beginn</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>Zu einer Uhrzeit beginnen …</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>Sofort beginnen</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>Kamera %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>Kamera %1 im Bild</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>Kamera im Bild</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>Ordner auswählen</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>Fenster wählen</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>Wählen Sie oben, was aufgenommen wird, und klicken Sie auf „Aufnehmen“.</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>Leeren</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>Klicken Sie auf das Fenster, das aufgenommen werden soll</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>Im Uhrzeigersinn</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>Computer und Mikrofon</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>Computer und Mikrofon, je eine Spur</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>Ab drei herunterzählen</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>Countdown</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>Gegen den Uhrzeigersinn</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>Oben abschneiden</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>Ohne Neucodierung geschnitten: Der Film beginnt mit dem letzten Schlüsselbild vor %1 s.</translation>
+        <source>Cut or Convert…</source>
+        <translation>Schneiden oder umwandeln …</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>Ohne Umwandlung geschnitten: Es beginnt beim Schlüsselbild bei oder vor %1 s.</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>Bereich aufziehen und die Eingabetaste drücken</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>In den Film gezeichnet, für Abspieler, die selbst keine zeigen.</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Laufwerk</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>Wird in Software codiert</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>Wird noch einmal kodiert, um die Größe einzuhalten</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>Am anderen Ende des Protokolls weitergesucht und gefunden.</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>Ab Kapitel</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>Importieren …</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>In einer Wayland-Sitzung fragt der Desktop, was aufgenommen wird: Es kann nicht vorher benannt werden.</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>Sprachen des Tons</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>Sprachen der Untertitel</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>MPEG-Video (MPEG-2, MP2)</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>MPEG-4-Film (MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>MXF-Video (DNxHR, PCM)</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>Nie</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>Keine Kamera im Bild</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>Es wurde keine Kamera gefunden.</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>Kein Tempolimit</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>Keine Untertitel</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>Abschnitte, die behalten werden</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>Platz des Kamerabilds</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Abspielen</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>Qualität (niedriger ist besser)</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>QuickTime-Film (MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Kestrel beenden</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>Aufnahme</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>Die Aufnahme beginnt um %1. Mit „Aufnehmen“ beginnt sie sofort.</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>Ergebnis</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>Wiederholen</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>Läuft</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>Bildschirmaufnahme nicht verfügbar</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>Bildschirm oder Fenster (der Desktop fragt)</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>Nur Zeilen zeigen mit</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>Zeiger zeigen</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>Untertitel</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>Untertitel im Bild</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Untertitel als Bilder: %1. %2 kann sie nicht enthalten; brennen Sie sie ein, oder wählen Sie MKV.</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>Die Übertragung hat noch nicht begonnen. Versuchen Sie es danach erneut.</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>Das Bild der Kamera wird vor der Aufnahme nicht gezeigt.</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>Die Kamera konnte nicht geöffnet werden. Vielleicht benutzt sie ein anderes Programm.</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>Die Kamera ist verschwunden: Ihr Bild endet dort.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>Das Titelbild. Es geht verloren, wenn Dateien so verbunden werden.</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>Der Desktop hat die Aufnahme des Bildschirms nicht erlaubt.</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>Der Desktop erlaubt die Aufnahme, aber es kommt kein Bild an. Läuft PipeWire?</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>Der Desktop gibt das Bild frei, wenn die Aufnahme beginnt. Kurzbefehle wirken dann nur in Kestrels Fenstern.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>Das Portal des Desktops hat nicht geantwortet.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>Das Portal des Desktops erlaubt die Aufnahme des Bildschirms nicht: %1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>Die Datei wurde gelöscht. Ihr Inhalt wird weiterhin angezeigt.</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>Der Film ist da, aber Untertitel, Cover oder Kapitel konnten nicht hinzugefügt werden.</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>Die Aufnahme wurde unterbrochen.</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>Der Bildschirm einer Wayland-Sitzung kann nicht aufgenommen werden. Melden Sie sich dafür in einer X11-Sitzung (Xorg) an.</translation>
+        <source>The same screen or window as last time</source>
+        <translation>Derselbe Bildschirm oder dasselbe Fenster wie zuletzt</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>Der Bildschirm einer Wayland-Sitzung kann aufgenommen werden, wo der Desktop ein Portal dafür hat, das hier fehlt. Installieren Sie xdg-desktop-portal für Ihren Desktop oder melden Sie sich in einer X11-Sitzung (Xorg) an.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>Die leistungsstärkste Videosoftware: Videos, Audiodateien und DVDs konvertieren, Videodateien bearbeiten, transcodieren, komprimieren und anpassen, Online-Medien laden, Bildschirm und Webcam aufnehmen.</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>Die Untertitel fehlen: Die Seite hat sie nicht herausgegeben.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>Dieser Titel enthält keinen Ton, der behalten werden könnte.</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>Uhrzeit, zu der die Aufnahme beginnt</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>Zeitleiste</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>Titel, unverändert (MKV)</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>Bis Kapitel</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>Auf den Kopf gestellt</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>Diesen Bereich verwenden</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>Wartet auf den Server …</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>Wartet auf Ihre Wahl im Dialog des Desktops …</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>Wartet: %1 Downloads von diesem Server laufen</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>Fenster</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>Fenster durch Anklicken …</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>Fenster: %1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>Ohne Umwandlung beginnt, was bei %1 anfangen soll, bei %2.</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

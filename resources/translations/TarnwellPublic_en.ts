@@ -308,6 +308,10 @@
         <translation>All jobs have ended.</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>All languages</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>All sound tracks of the chosen titles with their chapters.</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>An address is for example http://proxy.example.com or socks5://10.0.0.1.</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>Backup DVDs in 6 modes, rip a full DVD to 180+ formats to play on Mac &amp; mobiles, store on hard drive, or enjoy on TV, etc. Rip a full DVD in 5 minutes!</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>Begin</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>Begin at a time…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>Begin at once</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>Camera %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>Camera %1 in the picture</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>Camera in the picture</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>Choose a Folder</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>Choose a Window</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>Choose above what is recorded, then press Record.</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>Clear</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>Click the window that is to be recorded</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>Clockwise</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>Computer and microphone</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>Computer and microphone, a track each</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>Count down from three</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>Countdown</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>Counterclockwise</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>Cut off top</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>Cut without encoding: it begins at the last key picture before %1 s.</translation>
+        <source>Cut or Convert…</source>
+        <translation>Cut or Convert…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>Cut without encoding: it begins at the key picture at or before %1 s.</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>Draw an area, then press Return</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>Drawn into the film, for players that show none themselves.</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Drive</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>Encoding in software</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>Encoding once more, to meet the size</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>Found after going around the end of the log.</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>From chapter</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>Import…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>Language</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>Languages of sound</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>Languages of subtitles</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>MPEG Video (MPEG-2, MP2)</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>MPEG-4 movie (MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>MXF Video (DNxHR, PCM)</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>Never</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>No camera in the picture</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>No camera was found.</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>No speed limit</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>No subtitles</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>Pieces that are kept</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>Place of the camera's picture</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Play</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>Quality (lower is better)</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>QuickTime movie (MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Quit Kestrel</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>Recording</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>Recording begins at %1. Press Record to begin at once.</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>Result</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>Retry</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>Running</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>Screen Record Unavailable!</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>Screen or window (the desktop asks)</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>Show only lines with</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>Show the pointer</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>Subtitles</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>Subtitles in the picture</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>The broadcast has not begun yet. Try again when it has.</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>The camera's picture is not shown before it is recorded.</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>The camera could not be opened. Another program may be using it.</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>The camera went away: its picture ends there.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>The cover picture. It is lost when files are joined so.</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>The desktop did not let the screen be recorded.</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>The desktop's portal did not answer.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>The desktop's portal does not let the screen be recorded: %1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>The file was deleted. What it held is still shown.</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>The film has come, but subtitles, cover or chapters could not be added to it.</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>The recording was interrupted.</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</translation>
+        <source>The same screen or window as last time</source>
+        <translation>The same screen or window as last time</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>The subtitles are missing: the site did not hand them out.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>This title has no sound to keep.</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>Time at which the recording begins</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>Time line</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>Titles, unchanged (MKV)</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>To chapter</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>Upside down</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>Use This Area</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>Waiting for the server…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>Waiting for your choice in the desktop's dialog…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>Waiting: %1 downloads from this server are under way</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>Window</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>Window by a click…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>Window: %1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>Without encoding, what starts at %1 begins at %2.</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

@@ -308,6 +308,10 @@
         <translation>Todas las tareas han terminado.</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>Todos los idiomas</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>Todas las pistas de sonido de los títulos elegidos, con sus capítulos.</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>Una dirección es, por ejemplo, http://proxy.example.com o socks5://10.0.0.1.</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Ángulo</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>Haga copias de seguridad de sus DVD en 6 modos y convierta un DVD completo a más de 180 formatos para reproducirlo en Mac y dispositivos móviles, guardarlo en el disco duro o verlo en la tele, entre otros. ¡Un DVD completo en 5 minutos!</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>Inicio</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>Empezar a una hora…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>Empezar de inmediato</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>Cámara %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>Cámara %1 en la imagen</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>Cámara en la imagen</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>Elegir una carpeta</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>Elegir una ventana</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>Elija arriba qué se graba y pulse Grabar.</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>Vaciar</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>Haga clic en la ventana que se va a grabar</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>A la derecha</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>Ordenador y micrófono</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>Ordenador y micrófono, una pista cada uno</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>Cuenta atrás desde tres</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>Cuenta atrás</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>A la izquierda</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>Recortar por arriba</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>Cortado sin volver a codificar: comienza en la última imagen clave anterior a %1 s.</translation>
+        <source>Cut or Convert…</source>
+        <translation>Cortar o convertir…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>Cortado sin codificar: empieza en el fotograma clave en %1 s o antes.</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>Dibuje un área y pulse Intro</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>Dibujados en la película, para reproductores que no los muestran.</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Unidad</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>Codificando por software</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>Codificando otra vez para cumplir el tamaño</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>Encontrado tras continuar por el otro extremo del registro.</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>Desde el capítulo</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>Importar…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>En una sesión de Wayland, el escritorio pregunta qué se graba: no se puede indicar de antemano.</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>Idiomas del sonido</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>Idiomas de los subtítulos</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>Vídeo MPEG (MPEG-2, MP2)</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>Película MPEG-4 (MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>Vídeo MXF (DNxHR, PCM)</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>Nunca</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>Sin cámara en la imagen</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>No se ha encontrado ninguna cámara.</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>Sin límite de velocidad</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>Sin subtítulos</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>Fragmentos que se conservan</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>Lugar de la imagen de la cámara</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Reproducir</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>Calidad (menor es mejor)</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>Película QuickTime (MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Salir de Kestrel</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>Grabación</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>La grabación empieza a las %1. Pulse Grabar para empezar ahora.</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>Resultado</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>Reintentar</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>En curso</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>Grabación de pantalla no disponible</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>Pantalla o ventana (pregunta el escritorio)</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>Mostrar solo líneas con</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>Mostrar el puntero</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>Subtítulos</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>Subtítulos en la imagen</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Subtítulos en forma de imagen: %1. %2 no los admite; incrústelos o elija MKV.</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>La emisión aún no ha comenzado. Inténtelo de nuevo cuando empiece.</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>La imagen de la cámara no se muestra antes de grabarla.</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>No se pudo abrir la cámara. Es posible que otro programa la esté usando.</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>La cámara desapareció: su imagen termina ahí.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>La imagen de portada. Se pierde al unir archivos de este modo.</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>El escritorio no permitió grabar la pantalla.</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>El escritorio permite grabar la pantalla, pero no llega ninguna imagen. ¿Está PipeWire en marcha?</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>El escritorio comparte la imagen cuando empieza la grabación. Los atajos funcionan entonces solo en las ventanas de Kestrel.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>El portal del escritorio no respondió.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>El portal del escritorio no permite grabar la pantalla: %1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>El archivo se ha eliminado. Su contenido aún se muestra.</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>La película ha llegado, pero no se pudieron añadir los subtítulos, la carátula o los capítulos.</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>La grabación se ha interrumpido.</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>No se puede grabar la pantalla de una sesión de Wayland. Para grabarla, inicie una sesión de X11 (Xorg).</translation>
+        <source>The same screen or window as last time</source>
+        <translation>La misma pantalla o ventana que la última vez</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>La pantalla de una sesión de Wayland se puede grabar si el escritorio tiene un portal para ello, que aquí falta. Instale xdg-desktop-portal para su escritorio o inicie una sesión de X11 (Xorg).</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>El software de procesamiento de vídeo más potente: convierta vídeos, audio y DVD; edite, transcodifique, comprima y ajuste archivos de vídeo; descargue contenido multimedia en línea; grabe la pantalla y la cámara web.</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>Faltan los subtítulos: el sitio no los entregó.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>Este título no tiene sonido que conservar.</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>Hora a la que empieza la grabación</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>Línea de tiempo</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>Títulos, sin cambios (MKV)</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>Hasta el capítulo</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>Invertida</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>Usar esta área</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>Esperando al servidor…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>Esperando su elección en el diálogo del escritorio…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>En espera: hay %1 descargas de este servidor en curso</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>Ventana</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>Ventana con un clic…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>Ventana: %1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>Sin codificar, lo que empieza en %1 comienza en %2.</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

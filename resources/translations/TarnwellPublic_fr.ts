@@ -308,6 +308,10 @@
         <translation>Toutes les tâches ont pris fin.</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>Toutes les langues</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>Toutes les pistes audio des titres choisis, avec leurs chapitres.</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>Exemples d’adresse : http://proxy.example.com ou socks5://10.0.0.1.</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angle</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>Sauvegardez vos DVD selon 6 modes et convertissez un DVD entier vers plus de 180 formats pour le lire sur Mac et appareils mobiles, le stocker sur disque dur ou le regarder sur un téléviseur, etc. Un DVD entier en 5 minutes !</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>Début</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>Commencer à une heure…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>Commencer aussitôt</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>Caméra %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>Caméra %1 dans l’image</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>Caméra dans l’image</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>Choisir un dossier</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>Choisir une fenêtre</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>Choisissez ci-dessus ce qui est enregistré, puis cliquez sur « Enregistrer ».</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>Vider</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>Cliquez sur la fenêtre à enregistrer</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>Vers la droite</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>Ordinateur et micro</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>Ordinateur et micro, une piste chacun</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>Compte à rebours de trois</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>Compte à rebours</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>Vers la gauche</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>Rogner en haut</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>Coupé sans réencodage : le début est la dernière image clé avant %1 s.</translation>
+        <source>Cut or Convert…</source>
+        <translation>Couper ou convertir…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>Coupé sans encodage : commence à l’image clé à %1 s ou avant.</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>Tracez une zone, puis appuyez sur Entrée</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>Incrustés dans le film, pour les lecteurs qui n’en affichent pas.</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Lecteur</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>Encodage logiciel</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>Nouvel encodage pour respecter la taille</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>Trouvé après reprise à l’autre extrémité du journal.</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>À partir du chapitre</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>Importer…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>Dans une session Wayland, le bureau demande ce qui est enregistré : cela ne peut pas être indiqué à l’avance.</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>Langues du son</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>Langues des sous-titres</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>Vidéo MPEG (MPEG-2, MP2)</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>Film MPEG-4 (MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>Vidéo MXF (DNxHR, PCM)</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>Jamais</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>Pas de caméra dans l’image</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>Aucune caméra n’a été trouvée.</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>Sans limite de vitesse</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>Pas de sous-titres</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>Parties conservées</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>Place de l’image de la caméra</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Lire</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>Qualité (plus bas = meilleur)</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>Film QuickTime (MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Quitter Kestrel</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>Enregistrement</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>L’enregistrement commence à %1. Appuyez sur Enregistrer pour commencer tout de suite.</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>Résultat</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>Réessayer</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>En cours</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>Enregistrement de l’écran indisponible</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>Écran ou fenêtre (le bureau demande)</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>Lignes contenant</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>Afficher le pointeur</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>Sous-titres</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>Sous-titres dans l’image</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Sous-titres sous forme d’images : %1. %2 ne peut pas les contenir ; incrustez-les ou choisissez MKV.</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>La diffusion n’a pas encore commencé. Réessayez une fois qu’elle aura commencé.</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>L’image de la caméra n’est pas affichée avant l’enregistrement.</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>La caméra n’a pas pu être ouverte. Un autre programme l’utilise peut-être.</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>La caméra a disparu : son image s’arrête là.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>L’image de pochette. Elle est perdue quand des fichiers sont réunis ainsi.</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>Le bureau n’a pas autorisé l’enregistrement de l’écran.</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>Le bureau autorise l’enregistrement, mais aucune image n’arrive. PipeWire fonctionne-t-il ?</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>Le bureau partage l’image au début de l’enregistrement. Les raccourcis ne fonctionnent alors que dans les fenêtres de Kestrel.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>Le portail du bureau n’a pas répondu.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>Le portail du bureau n’autorise pas l’enregistrement de l’écran : %1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>Le fichier a été supprimé. Son contenu reste affiché.</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>Le film est arrivé, mais les sous-titres, la jaquette ou les chapitres n’ont pas pu être ajoutés.</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>L’enregistrement a été interrompu.</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>L’écran d’une session Wayland ne peut pas être enregistré. Pour l’enregistrer, ouvrez une session X11 (Xorg).</translation>
+        <source>The same screen or window as last time</source>
+        <translation>Le même écran ou la même fenêtre que la dernière fois</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>L’écran d’une session Wayland peut être enregistré si le bureau dispose d’un portail pour cela, qui manque ici. Installez xdg-desktop-portal pour votre bureau ou ouvrez une session X11 (Xorg).</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>Le plus puissant des logiciels de traitement vidéo : convertissez vidéos, fichiers audio et DVD ; modifiez, transcodez, compressez et ajustez vos vidéos ; téléchargez des contenus en ligne ; enregistrez l’écran et la webcam.</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>Les sous-titres manquent : le site ne les a pas fournis.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>Ce titre n’a pas de son à conserver.</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>Heure à laquelle l’enregistrement commence</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>Chronologie</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>Titres, inchangés (MKV)</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>Jusqu’au chapitre</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>À l’envers</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>Utiliser cette zone</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>En attente du serveur…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>En attente de votre choix dans le dialogue du bureau…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>En attente : %1 téléchargements depuis ce serveur sont en cours</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>Fenêtre</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>Fenêtre par un clic…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>Fenêtre : %1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>Sans encodage, ce qui débute à %1 commence à %2.</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

@@ -308,6 +308,10 @@
         <translation>Tutte le operazioni sono terminate.</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>Tutte le lingue</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>Tutte le tracce audio dei titoli scelti con i relativi capitoli.</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>Un indirizzo è per esempio http://proxy.example.com o socks5://10.0.0.1.</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>Angolazione</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>Esegui il backup dei DVD in 6 modalità e converti un intero DVD in oltre 180 formati per riprodurlo su Mac e dispositivi mobili, archiviarlo sul disco rigido, guardarlo in TV e altro. Un intero DVD in 5 minuti!</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>Inizio</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>Inizia a un’ora…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>Inizia subito</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>Videocamera %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>Fotocamera %1 nell’immagine</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>Fotocamera nell’immagine</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>Scegli una cartella</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>Scegli una finestra</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>Scegli in alto che cosa registrare, poi premi Registra.</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>Svuota</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>Fai clic sulla finestra da registrare</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>In senso orario</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>Computer e microfono</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>Computer e microfono, una traccia ciascuno</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>Conto alla rovescia da tre</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>Conto alla rovescia</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>In senso antiorario</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>Ritaglia in alto</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>Tagliato senza ricodifica: inizia dall’ultima immagine chiave prima di %1 s.</translation>
+        <source>Cut or Convert…</source>
+        <translation>Taglia o converti…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>Tagliato senza codifica: inizia al fotogramma chiave a %1 s o prima.</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>Traccia un’area, poi premi Invio</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>Disegnati nel film, per i lettori che non li mostrano.</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>Unità</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>Codifica software</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>Nuova codifica per rispettare la dimensione</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>Trovato proseguendo dall’altra estremità del log.</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>Dal capitolo</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>Importa…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>In una sessione Wayland il desktop chiede cosa registrare: non si può indicare prima.</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>Lingue dell’audio</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>Lingue dei sottotitoli</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>Video MPEG (MPEG-2, MP2)</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>Filmato MPEG-4 (MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>Video MXF (DNxHR, PCM)</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>Mai</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>Nessuna fotocamera nell’immagine</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>Nessuna videocamera trovata.</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>Nessun limite di velocità</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>Nessun sottotitolo</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>Parti mantenute</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>Posizione dell’immagine della fotocamera</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Riproduci</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>Qualità (più basso è meglio)</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>Filmato QuickTime (MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Esci da Kestrel</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>Registrazione</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>La registrazione inizia alle %1. Premi Registra per iniziare subito.</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>Risultato</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>Riprova</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>In corso</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>Registrazione schermo non disponibile</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>Schermo o finestra (chiede il desktop)</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>Mostra solo righe con</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>Mostra il puntatore</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>Sottotitoli</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>Sottotitoli nell’immagine</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Sottotitoli come immagini: %1. %2 non può contenerli; imprimili o scegli MKV.</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>La trasmissione non è ancora iniziata. Riprova quando sarà iniziata.</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>L’immagine della videocamera non viene mostrata prima della registrazione.</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>Impossibile aprire la fotocamera. Forse un altro programma la sta usando.</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>La fotocamera è stata scollegata: la sua immagine finisce lì.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>L’immagine di copertina. Va persa quando i file vengono uniti in questo modo.</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>Il desktop non ha consentito di registrare lo schermo.</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>Il desktop consente la registrazione, ma non arriva alcuna immagine. PipeWire è in esecuzione?</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>Il desktop condivide l’immagine quando inizia la registrazione. Le scorciatoie funzionano solo nelle finestre di Kestrel.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>Il portale del desktop non ha risposto.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>Il portale del desktop non consente di registrare lo schermo: %1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>Il file è stato eliminato. Il suo contenuto è ancora mostrato.</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>Il film è arrivato, ma non è stato possibile aggiungere sottotitoli, copertina o capitoli.</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>La registrazione è stata interrotta.</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>Lo schermo di una sessione Wayland non può essere registrato. Per registrarlo, accedi a una sessione X11 (Xorg).</translation>
+        <source>The same screen or window as last time</source>
+        <translation>Lo stesso schermo o la stessa finestra dell’ultima volta</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>Lo schermo di una sessione Wayland si può registrare dove il desktop ha un portale apposito, che qui manca. Installa xdg-desktop-portal per il tuo desktop o accedi a una sessione X11 (Xorg).</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>Il software di elaborazione video più potente: converti video, audio e DVD; modifica, transcodifica, comprimi e regola i file video; scarica contenuti multimediali online; registra schermo e webcam.</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>I sottotitoli mancano: il sito non li ha forniti.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>Questo titolo non ha audio da mantenere.</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>Ora di inizio della registrazione</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>Timeline</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>Titoli, invariati (MKV)</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>Al capitolo</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>Capovolta</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>Usa quest’area</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>In attesa del server…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>In attesa della tua scelta nella finestra del desktop…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>In attesa: sono in corso %1 download da questo server</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>Finestra</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>Finestra con un clic…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>Finestra: %1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>Senza codifica, ciò che parte a %1 inizia a %2.</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

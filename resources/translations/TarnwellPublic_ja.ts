@@ -308,6 +308,10 @@
         <translation>すべてのジョブが終了しました。</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>すべての言語</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>選んだタイトルのすべての音声トラックを、チャプター付きで保存します。</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>アドレスの例: http://proxy.example.com、socks5://10.0.0.1</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>アングル</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>6種類のモードでDVDをバックアップし、DVD全体を180種類以上の形式に変換できます。Macやモバイル機器での再生、ハードディスクへの保存、テレビでの視聴などに対応。DVD1枚を5分でリッピングできます。</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>時刻を指定して開始…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>すぐに開始</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>カメラ%1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>映像内にカメラ %1</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>映像内のカメラ</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>フォルダーを選択</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>ウインドウを選択</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>上で録画する対象を選んで、「録画する」を押してください。</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>すべて削除</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>録画するウインドウをクリックしてください</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>時計回り</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>コンピュータとマイク</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>コンピュータとマイク（別々のトラック）</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>3からカウントダウン</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>カウントダウン</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>反時計回り</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>上端を切り取る</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>エンコードせずにカットしました。%1秒より前の最後のキーフレームから始まります。</translation>
+        <source>Cut or Convert…</source>
+        <translation>カットまたは変換…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>エンコードなしのカット：%1 秒またはその前のキーフレームから始まります。</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>範囲をドラッグして、Returnキーを押してください</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>字幕を表示できないプレーヤーのために、映像に焼き込みます。</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>ドライブ</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>ソフトウェアでエンコード中</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>サイズに合わせるためもう一度エンコード中</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>ログの端から反対側へ折り返して見つかりました。</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>開始チャプター</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>フルHD（1920 × 1080）</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>読み込む…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>Wayland セッションでは、録画対象はデスクトップが確認します。前もって指定することはできません。</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>音声の言語</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>字幕の言語</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>MPEGビデオ（MPEG-2、MP2）</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>MPEG-4 ムービー（MP4）</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>MXFビデオ（DNxHR、PCM）</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>しない</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>映像内にカメラなし</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>カメラが見つかりませんでした。</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>速度制限なし</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>字幕なし</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>残す部分</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>カメラ映像の位置</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>再生</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>品質（小さいほど高品質）</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>QuickTime ムービー（MOV）</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Kestrelを終了</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>録画中</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>録画は %1 に始まります。「録画」を押すとすぐに始まります。</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>結果</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>再試行</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>実行中</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>画面収録は利用できません</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>画面またはウインドウ（デスクトップが確認）</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>このテキストを含む行だけ表示</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>ポインタを表示</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>字幕</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>映像内の字幕</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>画像の字幕: %1。%2には保存できません。映像に焼き付けるか、MKVを選んでください。</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>配信はまだ始まっていません。始まってからもう一度お試しください。</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>カメラの映像は、録画を始めるまで表示されません。</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>カメラを開けませんでした。別のプログラムが使用中かもしれません。</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>カメラが外されました。カメラの映像はそこで終わります。</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>カバー画像。この方法でファイルを結合すると失われます。</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>デスクトップが画面の録画を許可しませんでした。</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>デスクトップは録画を許可しましたが、映像が届きません。PipeWire は動作していますか？</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>録画が始まるとデスクトップが映像を共有します。そのあいだショートカットは Kestrel のウインドウでのみ使えます。</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>デスクトップのポータルが応答しませんでした。</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>デスクトップのポータルが画面の録画を許可しません：%1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>ファイルは削除されましたが、内容は引き続き表示されています。</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>映像は届きましたが、字幕・カバー・チャプターを追加できませんでした。</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>録画が中断されました。</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>Waylandセッションの画面は録画できません。録画するには、X11（Xorg）のセッションでログインしてください。</translation>
+        <source>The same screen or window as last time</source>
+        <translation>前回と同じ画面またはウインドウ</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>Wayland セッションの画面は、デスクトップにそのためのポータルがあれば録画できますが、ここにはありません。お使いのデスクトップ用の xdg-desktop-portal をインストールするか、X11（Xorg）セッションにログインしてください。</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>ビデオ、オーディオ、DVDの変換、ビデオファイルの編集、トランスコード、圧縮、調整、オンラインメディアのダウンロード、画面やWebカメラの録画ができる、最も強力なビデオ処理ソフトウェアです。</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>字幕がありません。サイトが提供しませんでした。</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>このタイトルには残せる音声がありません。</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>録画を開始する時刻</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>タイムライン</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>タイトルをそのまま（MKV）</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>終了チャプター</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>上下逆</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>この範囲を使用</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>サーバーを待っています…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>デスクトップのダイアログでの選択を待っています…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>待機中: このサーバーから%1件をダウンロードしています</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>ウインドウ</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>クリックしたウインドウ…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>ウインドウ: %1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>エンコードしない場合、%1 からの部分は %2 から始まります。</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

@@ -308,6 +308,10 @@
         <translation>모든 작업이 끝났습니다.</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>모든 언어</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>선택한 타이틀의 모든 사운드 트랙을 챕터와 함께 저장합니다.</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>주소 예: http://proxy.example.com 또는 socks5://10.0.0.1</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>앵글</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>6가지 모드로 DVD를 백업하고, DVD 전체를 180가지 이상의 포맷으로 변환하여 Mac과 모바일 기기에서 재생하거나 하드 디스크에 저장하고 TV에서 즐길 수 있습니다. DVD 한 장을 5분 만에 변환합니다!</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>시작</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>지정한 시각에 시작…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>바로 시작</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>카메라 %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>화면 속 카메라 %1</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>화면 속 카메라</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>폴더 선택</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>윈도우 선택</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>위에서 기록할 대상을 선택한 다음 ‘기록하기’를 누르십시오.</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>모두 제거</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>녹화할 윈도우를 클릭하세요</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>시계 방향</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>컴퓨터 및 마이크</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>컴퓨터와 마이크, 각각 한 트랙</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>셋부터 카운트다운</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>카운트다운</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>시계 반대 방향</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>위쪽 잘라내기</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>인코딩 없이 잘랐습니다. %1초 이전의 마지막 키 프레임에서 시작합니다.</translation>
+        <source>Cut or Convert…</source>
+        <translation>자르기 또는 변환…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>인코딩 없이 자름: %1초 또는 그 이전의 키프레임에서 시작합니다.</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>영역을 드래그한 다음 Return 키를 누르십시오</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>자막을 표시하지 않는 재생기를 위해 영상에 그려 넣습니다.</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>드라이브</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>소프트웨어로 인코딩 중</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>크기를 맞추기 위해 다시 인코딩하는 중</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>로그의 반대쪽 끝에서 계속하여 찾았습니다.</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>시작 챕터</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>풀 HD(1920 × 1080)</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>가져오기…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>Wayland 세션에서는 무엇을 녹화할지 데스크탑이 묻습니다. 미리 지정할 수 없습니다.</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>언어</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>소리 언어</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>자막 언어</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>MPEG 비디오(MPEG-2, MP2)</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>MPEG-4 동영상(MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>MXF 비디오(DNxHR, PCM)</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>안 함</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>화면에 카메라 없음</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>카메라를 찾을 수 없습니다.</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>속도 제한 없음</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>자막 없음</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>유지할 부분</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>카메라 영상의 위치</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>재생</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>품질(낮을수록 좋음)</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>QuickTime 동영상(MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>Kestrel 종료</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>기록</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>%1에 녹화가 시작됩니다. 바로 시작하려면 녹화를 누르세요.</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>결과</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>다시 시도</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>실행 중</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>화면 기록을 사용할 수 없음</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>화면 또는 윈도우(데스크탑이 물음)</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>이 텍스트가 있는 줄만 보기</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>포인터 표시</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>자막</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>화면 속 자막</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>이미지 자막: %1. %2에는 담을 수 없습니다. 화면에 새겨 넣거나 MKV를 선택하십시오.</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>방송이 아직 시작되지 않았습니다. 시작된 후에 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>카메라의 영상은 기록하기 전에는 표시되지 않습니다.</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>카메라를 열 수 없습니다. 다른 프로그램이 사용 중일 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>카메라가 사라졌습니다. 카메라 영상은 거기에서 끝납니다.</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>커버 이미지. 이 방법으로 파일을 연결하면 사라집니다.</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>데스크탑이 화면 녹화를 허용하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>데스크탑이 녹화를 허용했지만 영상이 오지 않습니다. PipeWire가 실행 중인가요?</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>녹화가 시작되면 데스크탑이 화면을 공유합니다. 그동안 단축키는 Kestrel의 윈도우에서만 작동합니다.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>데스크탑 포털이 응답하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>데스크탑 포털이 화면 녹화를 허용하지 않습니다: %1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>파일이 삭제되었습니다. 내용은 계속 표시됩니다.</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>영상은 받았지만 자막, 표지 또는 챕터를 추가할 수 없었습니다.</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>기록이 중단되었습니다.</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>Wayland 세션의 화면은 기록할 수 없습니다. 기록하려면 X11(Xorg) 세션으로 로그인하십시오.</translation>
+        <source>The same screen or window as last time</source>
+        <translation>지난번과 같은 화면 또는 윈도우</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>Wayland 세션의 화면은 데스크탑에 포털이 있으면 녹화할 수 있지만 여기에는 없습니다. 데스크탑용 xdg-desktop-portal을 설치하거나 X11(Xorg) 세션으로 로그인하세요.</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>비디오, 오디오, DVD 변환부터 비디오 파일 편집, 트랜스코딩, 압축, 조정, 온라인 미디어 다운로드, 화면과 웹캠 녹화까지 가능한 가장 강력한 비디오 처리 소프트웨어입니다.</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>자막이 없습니다. 사이트가 제공하지 않았습니다.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>이 타이틀에는 유지할 사운드가 없습니다.</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>녹화가 시작되는 시각</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>타임라인</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>타이틀 그대로(MKV)</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>끝 챕터</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>위아래 뒤집힘</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>이 영역 사용</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>서버를 기다리는 중…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>데스크탑 대화상자에서 선택을 기다리는 중…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>대기 중: 이 서버에서 %1개를 다운로드하고 있습니다</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>윈도우</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>클릭한 윈도우…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>윈도우: %1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>인코딩하지 않으면 %1에서 시작하는 부분이 %2에서 시작합니다.</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

@@ -308,6 +308,10 @@
         <translation>所有任务均已结束。</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>所有语言</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>所选标题的所有音轨及其章节。</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>地址示例：http://proxy.example.com 或 socks5://10.0.0.1</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>以 6 种模式备份 DVD，将整张 DVD 转换为 180 多种格式，在 Mac 和移动设备上播放、存储到硬盘或在电视上观看等。5 分钟即可转换整张 DVD！</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>开始</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>在指定时间开始…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>立即开始</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>摄像头 %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>画面中的摄像头 %1</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>画面中的摄像头</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>选择文件夹</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>选择窗口</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>在上方选取要录制的内容，然后点按“录制”。</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>清空</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>点按要录制的窗口</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>顺时针</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>电脑和麦克风</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>电脑和麦克风，各占一条音轨</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>从三开始倒数</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>倒计时</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>逆时针</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>裁剪顶部</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>未编码直接剪切：从 %1 秒之前的最后一个关键帧开始。</translation>
+        <source>Cut or Convert…</source>
+        <translation>剪切或转换…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>不重新编码的剪切：从 %1 秒处或之前的关键帧开始。</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>拖移出一个区域，然后按 Return 键</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>画入影片，供自身不显示字幕的播放器使用。</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>驱动器</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>正在使用软件编码</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>为符合大小再次编码</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>已从日志另一端继续查找并找到。</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>起始章节</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>全高清（1920 × 1080）</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>导入…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>在 Wayland 会话中，录制什么由桌面询问，不能事先指定。</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>语言</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>声音语言</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>字幕语言</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>MPEG 视频（MPEG-2、MP2）</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>MPEG-4 影片 (MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>MXF 视频（DNxHR、PCM）</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>从不</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>画面中无摄像头</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>找不到摄像头。</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>不限速</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>无字幕</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>保留的片段</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>摄像头画面的位置</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>播放</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>质量（越低越好）</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>QuickTime 影片 (MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>退出 Kestrel</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>录制</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>录制将于 %1 开始。按“录制”可立即开始。</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>结果</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>正在运行</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>屏幕录制不可用</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>屏幕或窗口（由桌面询问）</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>仅显示包含此文本的行</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>显示指针</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>字幕</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>画面中的字幕</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>图片字幕：%1。%2 无法包含；请将其嵌入画面，或选取 MKV。</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>直播尚未开始。请在开始后重试。</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>录制之前不会显示摄像头的画面。</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>无法打开摄像头。可能有其他程序正在使用它。</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>摄像头已断开：其画面到此为止。</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>封面图片。以此方式合并文件时会丢失。</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>桌面未允许录制屏幕。</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>桌面允许录制，但没有画面传来。PipeWire 在运行吗？</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>录制开始时由桌面共享画面。此时快捷键只在 Kestrel 的窗口中有效。</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>桌面门户没有响应。</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>桌面门户不允许录制屏幕：%1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>文件已删除。其内容仍会显示。</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>影片已下载，但无法添加字幕、封面或章节。</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>录制已中断。</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>无法录制 Wayland 会话的屏幕。如需录制，请登录 X11（Xorg）会话。</translation>
+        <source>The same screen or window as last time</source>
+        <translation>与上次相同的屏幕或窗口</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>只有桌面带有相应门户时才能录制 Wayland 会话的屏幕，此处没有。请为桌面安装 xdg-desktop-portal，或登录 X11 (Xorg) 会话。</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>最强大的视频处理软件：转换视频、音频和 DVD；编辑、转码、压缩和调整视频文件；下载在线媒体内容；录制屏幕和摄像头。</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>缺少字幕：网站没有提供。</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>此标题没有可保留的声音。</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>录制开始的时间</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>时间线</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>标题，保持原样（MKV）</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>结束章节</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>上下颠倒</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>使用此区域</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>正在等待服务器…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>正在等待您在桌面对话框中选择…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>正在等待：正从此服务器下载 %1 个项目</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>窗口</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>通过点按选择窗口…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>窗口：%1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>不重新编码时，从 %1 开始的部分实际从 %2 开始。</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>

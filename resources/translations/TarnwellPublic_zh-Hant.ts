@@ -308,6 +308,10 @@
         <translation>所有工作皆已結束。</translation>
     </message>
     <message>
+        <source>All languages</source>
+        <translation>所有語言</translation>
+    </message>
+    <message>
         <source>All sound tracks of the chosen titles with their chapters.</source>
         <translation>所選標題的所有音軌及其章節。</translation>
     </message>
@@ -334,6 +338,10 @@
     <message>
         <source>An address is for example http://proxy.example.com or socks5://10.0.0.1.</source>
         <translation>位址範例：http://proxy.example.com 或 socks5://10.0.0.1</translation>
+    </message>
+    <message>
+        <source>Angle</source>
+        <translation>角度</translation>
     </message>
     <message>
         <source>Another folder…</source>
@@ -388,6 +396,14 @@
         <translation>以 6 種模式備份 DVD，將整張 DVD 轉換為 180 多種格式，在 Mac 和行動裝置上播放、儲存到硬碟或在電視上觀賞等。5 分鐘即可轉換整張 DVD！</translation>
     </message>
     <message>
+        <source>Begin</source>
+        <translation>開始</translation>
+    </message>
+    <message>
+        <source>Begin at a time…</source>
+        <translation>在指定時間開始…</translation>
+    </message>
+    <message>
         <source>Begin at once</source>
         <translation>立即開始</translation>
     </message>
@@ -430,6 +446,14 @@
     <message>
         <source>Camera %1</source>
         <translation>攝影機 %1</translation>
+    </message>
+    <message>
+        <source>Camera %1 in the picture</source>
+        <translation>畫面中的攝影機 %1</translation>
+    </message>
+    <message>
+        <source>Camera in the picture</source>
+        <translation>畫面中的攝影機</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -504,6 +528,10 @@
         <translation>選擇資料夾</translation>
     </message>
     <message>
+        <source>Choose a Window</source>
+        <translation>選擇視窗</translation>
+    </message>
+    <message>
         <source>Choose above what is recorded, then press Record.</source>
         <translation>在上方選擇要錄製的內容，然後按一下「錄製」。</translation>
     </message>
@@ -524,6 +552,10 @@
         <translation>清空</translation>
     </message>
     <message>
+        <source>Click the window that is to be recorded</source>
+        <translation>按一下要錄製的視窗</translation>
+    </message>
+    <message>
         <source>Clockwise</source>
         <translation>順時針</translation>
     </message>
@@ -538,6 +570,10 @@
     <message>
         <source>Computer and microphone</source>
         <translation>電腦和麥克風</translation>
+    </message>
+    <message>
+        <source>Computer and microphone, a track each</source>
+        <translation>電腦和麥克風，各佔一條音軌</translation>
     </message>
     <message>
         <source>Connecting…</source>
@@ -596,10 +632,6 @@
         <translation>從三開始倒數</translation>
     </message>
     <message>
-        <source>Countdown</source>
-        <translation>倒數計時</translation>
-    </message>
-    <message>
         <source>Counterclockwise</source>
         <translation>逆時針</translation>
     </message>
@@ -640,8 +672,12 @@
         <translation>裁切頂部</translation>
     </message>
     <message>
-        <source>Cut without encoding: it begins at the last key picture before %1 s.</source>
-        <translation>未編碼直接剪輯：從 %1 秒之前的最後一個關鍵畫格開始。</translation>
+        <source>Cut or Convert…</source>
+        <translation>剪輯或轉換…</translation>
+    </message>
+    <message>
+        <source>Cut without encoding: it begins at the key picture at or before %1 s.</source>
+        <translation>不重新編碼的剪輯：從 %1 秒處或之前的關鍵影格開始。</translation>
     </message>
     <message>
         <source>Cutting</source>
@@ -772,6 +808,10 @@
         <translation>拖移出一個區域，然後按 Return 鍵</translation>
     </message>
     <message>
+        <source>Drawn into the film, for players that show none themselves.</source>
+        <translation>畫入影片，供自身不顯示字幕的播放器使用。</translation>
+    </message>
+    <message>
         <source>Drive</source>
         <translation>光碟機</translation>
     </message>
@@ -798,6 +838,10 @@
     <message>
         <source>Encoding in software</source>
         <translation>正在使用軟體編碼</translation>
+    </message>
+    <message>
+        <source>Encoding once more, to meet the size</source>
+        <translation>為符合大小再次編碼</translation>
     </message>
     <message>
         <source>Encoding, because the tracks could not be copied</source>
@@ -932,6 +976,10 @@
         <translation>已從記錄另一端繼續尋找並找到。</translation>
     </message>
     <message>
+        <source>From chapter</source>
+        <translation>起始章節</translation>
+    </message>
+    <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD（1920 × 1080）</translation>
     </message>
@@ -1018,6 +1066,10 @@
     <message>
         <source>Import…</source>
         <translation>輸入…</translation>
+    </message>
+    <message>
+        <source>In a session of Wayland the desktop asks what is recorded: it cannot be named beforehand.</source>
+        <translation>在 Wayland 工作階段中，錄製什麼由桌面詢問，無法事先指定。</translation>
     </message>
     <message>
         <source>Intel</source>
@@ -1110,6 +1162,14 @@
     <message>
         <source>Language</source>
         <translation>語言</translation>
+    </message>
+    <message>
+        <source>Languages of sound</source>
+        <translation>聲音語言</translation>
+    </message>
+    <message>
+        <source>Languages of subtitles</source>
+        <translation>字幕語言</translation>
     </message>
     <message>
         <source>Learn More</source>
@@ -1224,6 +1284,10 @@
         <translation>MPEG 影片（MPEG-2、MP2）</translation>
     </message>
     <message>
+        <source>MPEG-4 movie (MP4)</source>
+        <translation>MPEG-4 影片 (MP4)</translation>
+    </message>
+    <message>
         <source>MXF Video (DNxHR, PCM)</source>
         <translation>MXF 影片（DNxHR、PCM）</translation>
     </message>
@@ -1284,6 +1348,10 @@
         <translation>永不</translation>
     </message>
     <message>
+        <source>No camera in the picture</source>
+        <translation>畫面中無攝影機</translation>
+    </message>
+    <message>
         <source>No camera was found.</source>
         <translation>找不到攝影機。</translation>
     </message>
@@ -1314,6 +1382,10 @@
     <message>
         <source>No speed limit</source>
         <translation>不限速</translation>
+    </message>
+    <message>
+        <source>No subtitles</source>
+        <translation>無字幕</translation>
     </message>
     <message>
         <source>None</source>
@@ -1532,6 +1604,10 @@
         <translation>保留的片段</translation>
     </message>
     <message>
+        <source>Place of the camera's picture</source>
+        <translation>攝影機畫面的位置</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>播放</translation>
     </message>
@@ -1620,6 +1696,10 @@
         <translation>品質（越低越好）</translation>
     </message>
     <message>
+        <source>QuickTime movie (MOV)</source>
+        <translation>QuickTime 影片 (MOV)</translation>
+    </message>
+    <message>
         <source>Quit Kestrel</source>
         <translation>結束 Kestrel</translation>
     </message>
@@ -1666,6 +1746,10 @@
     <message>
         <source>Recording</source>
         <translation>錄製</translation>
+    </message>
+    <message>
+        <source>Recording begins at %1. Press Record to begin at once.</source>
+        <translation>錄製將於 %1 開始。按「錄製」可立即開始。</translation>
     </message>
     <message>
         <source>Recording begins in %1 s. Press Record to begin at once.</source>
@@ -1724,6 +1808,10 @@
         <translation>結果</translation>
     </message>
     <message>
+        <source>Retry</source>
+        <translation>重試</translation>
+    </message>
+    <message>
         <source>Running</source>
         <translation>正在執行</translation>
     </message>
@@ -1770,6 +1858,10 @@
     <message>
         <source>Screen Record Unavailable!</source>
         <translation>無法錄製螢幕</translation>
+    </message>
+    <message>
+        <source>Screen or window (the desktop asks)</source>
+        <translation>螢幕或視窗（由桌面詢問）</translation>
     </message>
     <message>
         <source>Scroll sideways</source>
@@ -1842,6 +1934,10 @@
     <message>
         <source>Show only lines with</source>
         <translation>只顯示包含此文字的行</translation>
+    </message>
+    <message>
+        <source>Show the pointer</source>
+        <translation>顯示指標</translation>
     </message>
     <message>
         <source>Shut down the computer when done</source>
@@ -1984,6 +2080,10 @@
         <translation>字幕</translation>
     </message>
     <message>
+        <source>Subtitles in the picture</source>
+        <translation>畫面中的字幕</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>圖片字幕：%1。%2 無法包含；請將其嵌入畫面，或選擇 MKV。</translation>
     </message>
@@ -2044,8 +2144,12 @@
         <translation>直播尚未開始。請在開始後再試一次。</translation>
     </message>
     <message>
-        <source>The camera's picture is not shown before it is recorded.</source>
-        <translation>錄製之前不會顯示攝影機的畫面。</translation>
+        <source>The camera could not be opened. Another program may be using it.</source>
+        <translation>無法開啟攝影機。可能有其他程式正在使用它。</translation>
+    </message>
+    <message>
+        <source>The camera went away: its picture ends there.</source>
+        <translation>攝影機已中斷：其畫面到此為止。</translation>
     </message>
     <message>
         <source>The chapters. %1 cannot hold them.</source>
@@ -2110,6 +2214,26 @@
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>封面圖片。以此方式合併檔案時會遺失。</translation>
+    </message>
+    <message>
+        <source>The desktop did not let the screen be recorded.</source>
+        <translation>桌面未允許錄製螢幕。</translation>
+    </message>
+    <message>
+        <source>The desktop lets the screen be recorded, but no picture of it arrives. Is PipeWire running?</source>
+        <translation>桌面允許錄製，但沒有畫面傳來。PipeWire 正在執行嗎？</translation>
+    </message>
+    <message>
+        <source>The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then.</source>
+        <translation>錄製開始時由桌面分享畫面。此時快速鍵只在 Kestrel 的視窗中有效。</translation>
+    </message>
+    <message>
+        <source>The desktop's portal did not answer.</source>
+        <translation>桌面入口沒有回應。</translation>
+    </message>
+    <message>
+        <source>The desktop's portal does not let the screen be recorded: %1</source>
+        <translation>桌面入口不允許錄製螢幕：%1</translation>
     </message>
     <message>
         <source>The disc could not be read.</source>
@@ -2202,6 +2326,10 @@
     <message>
         <source>The file was deleted. What it held is still shown.</source>
         <translation>檔案已刪除。其內容仍會顯示。</translation>
+    </message>
+    <message>
+        <source>The film has come, but subtitles, cover or chapters could not be added to it.</source>
+        <translation>影片已下載，但無法加入字幕、封面或章節。</translation>
     </message>
     <message>
         <source>The film is copy protected and is not downloaded.</source>
@@ -2344,8 +2472,12 @@
         <translation>錄製已中斷。</translation>
     </message>
     <message>
-        <source>The screen of a Wayland session cannot be recorded. Log in to a session of X11 (Xorg) to record it.</source>
-        <translation>無法錄製 Wayland 階段作業的螢幕。若要錄製，請登入 X11（Xorg）階段作業。</translation>
+        <source>The same screen or window as last time</source>
+        <translation>與上次相同的螢幕或視窗</translation>
+    </message>
+    <message>
+        <source>The screen of a Wayland session can be recorded where the desktop has a portal for it, which is missing here. Install xdg-desktop-portal for your desktop, or log in to a session of X11 (Xorg).</source>
+        <translation>只有桌面帶有相應入口時才能錄製 Wayland 工作階段的螢幕，此處沒有。請為桌面安裝 xdg-desktop-portal，或登入 X11 (Xorg) 工作階段。</translation>
     </message>
     <message>
         <source>The screen recorder is only supported on Mac OS Lion and later.</source>
@@ -2418,6 +2550,10 @@
     <message>
         <source>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</source>
         <translation>最強大的影片處理軟體：轉換影片、音訊和 DVD；編輯、轉碼、壓縮和調整影片檔案；下載線上媒體內容；錄製螢幕和網路攝影機。</translation>
+    </message>
+    <message>
+        <source>The subtitles are missing: the site did not hand them out.</source>
+        <translation>缺少字幕：網站沒有提供。</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2628,6 +2764,10 @@
         <translation>此標題沒有可保留的聲音。</translation>
     </message>
     <message>
+        <source>Time at which the recording begins</source>
+        <translation>錄製開始的時間</translation>
+    </message>
+    <message>
         <source>Time line</source>
         <translation>時間列</translation>
     </message>
@@ -2666,6 +2806,10 @@
     <message>
         <source>Titles, unchanged (MKV)</source>
         <translation>標題，保持原樣（MKV）</translation>
+    </message>
+    <message>
+        <source>To chapter</source>
+        <translation>結束章節</translation>
     </message>
     <message>
         <source>Too many lines have this text: the newest %1 are shown.</source>
@@ -2738,6 +2882,10 @@
     <message>
         <source>Upside down</source>
         <translation>上下顛倒</translation>
+    </message>
+    <message>
+        <source>Use This Area</source>
+        <translation>使用此區域</translation>
     </message>
     <message>
         <source>Use a proxy</source>
@@ -2824,6 +2972,10 @@
         <translation>正在等待伺服器…</translation>
     </message>
     <message>
+        <source>Waiting for your choice in the desktop's dialog…</source>
+        <translation>正在等待您在桌面對話框中選擇…</translation>
+    </message>
+    <message>
         <source>Waiting: %1 downloads from this server are under way</source>
         <translation>正在等待：正從此伺服器下載 %1 個項目</translation>
     </message>
@@ -2888,8 +3040,16 @@
         <translation>視窗</translation>
     </message>
     <message>
+        <source>Window by a click…</source>
+        <translation>按一下選擇視窗…</translation>
+    </message>
+    <message>
         <source>Window: %1</source>
         <translation>視窗：%1</translation>
+    </message>
+    <message>
+        <source>Without encoding, what starts at %1 begins at %2.</source>
+        <translation>不重新編碼時，從 %1 開始的部分實際從 %2 開始。</translation>
     </message>
     <message>
         <source>Would you please send us the Log File to help us fix the issue?</source>
