@@ -98,7 +98,7 @@ void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFin
 /// Encoders keep to a rate as well as they can; what one attempt missed the next one allows for.
 bool TranscodeJob::aimsAgain(const OutputFindings &findings, qint64 bytes)
 {
-    constexpr int mostCorrections = 2;
+    const int mostCorrections = m_steps.work == TranscodeSteps::Work::Encode ? 2 : 5;  // sound is made in no time
     const qint64 correction = sizeCorrection(m_steps.expected.maximumBytes, bytes);
     // To fill the size with: pictures that are as good as they can be, sound that knows few rates.
     const bool hasNoMore =
