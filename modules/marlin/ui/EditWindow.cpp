@@ -5,7 +5,7 @@
 #include "PictureView.h"
 #include "PieceList.h"
 #include "Snapshot.h"
-#include "Thumbnails.h"
+#include "modules/common/Thumbnails.h"
 #include "TimeLine.h"
 #include "WatermarkControls.h"
 #include "jobs/ToolProcess.h"

@@ -4,7 +4,7 @@
 #include "OptionsPanel.h"
 #include "PresetChooser.h"
 #include "PresetDialog.h"
-#include "Thumbnails.h"
+#include "modules/common/Thumbnails.h"
 #include "foundation/NotificationCenter.h"
 #include "foundation/Queues.h"
 #include "foundation/UserDefaults.h"

@@ -2,7 +2,7 @@
 
 #include "OptionsPanel.h"
 #include "PresetChooser.h"
-#include "Thumbnails.h"
+#include "modules/common/Thumbnails.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"

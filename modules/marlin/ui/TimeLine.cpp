@@ -1,6 +1,6 @@
 #include "TimeLine.h"
 
-#include "Thumbnails.h"
+#include "modules/common/Thumbnails.h"
 #include "modules/marlin/Pieces.h"
 #include "tarnwell/TextKey.h"
 #include "tarnwell/ui/Palette.h"

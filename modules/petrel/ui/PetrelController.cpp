@@ -10,6 +10,7 @@
 #include "jobs/ui/JobPage.h"
 #include "jobs/ui/JobRowDelegate.h"
 #include "modules/common/LateView.h"
+#include "modules/common/MadeFilms.h"
 #include "modules/common/OutputFolderLine.h"
 #include "modules/petrel/Download.h"
 #include "modules/petrel/DownloadList.h"
@@ -98,6 +99,7 @@ std::unique_ptr<QWidget> PetrelController::makeContents()
     connect(m_pictures.get(), &SitePictures::made, m_list.get(), &JobList::showPicturesAgain);
     auto page = std::make_unique<JobPage>(queue(), *m_list, petrelJobs.toString(), petrelTexts);
     m_page = page.get();
+    new MadeFilms(*page, m_settings);
     page->setTopArea(makeAddressLine());
     addChoices();
     connectPage();

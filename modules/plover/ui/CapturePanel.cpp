@@ -12,9 +12,8 @@
 #include <QComboBox>
 #include <QDateTime>
 #include <QDir>
-#include <QGridLayout>
 #include <QGuiApplication>
-#include <QLabel>
+#include <QHBoxLayout>
 #include <QPointer>
 #include <QProgressBar>
 #include <QScreen>
@@ -145,22 +144,24 @@ void CapturePanel::makeChoices()
 
 void CapturePanel::arrange()
 {
-    auto *layout = new QGridLayout(this);
+    auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins({});
-    layout->addWidget(m_picture, 0, 0, 6, 1);
-    layout->addWidget(m_sources, 0, 1, 1, 2);
-    layout->addWidget(m_insets, 1, 1, 1, 2);
-    layout->addWidget(m_sounds, 2, 1, 1, 2);
-    layout->addWidget(m_level, 3, 1, 1, 2);
-    auto *beginning = new QHBoxLayout;
-    beginning->addWidget(m_begins, 1);
-    beginning->addWidget(m_time);
-    layout->addLayout(beginning, 4, 1);
-    layout->addWidget(m_limits, 4, 2);
-    layout->addWidget(m_formats, 5, 1);
-    layout->addWidget(m_pointer, 5, 2);
-    layout->setColumnStretch(1, 1);
-    layout->setColumnStretch(2, 1);
+    layout->setSpacing(16);
+    layout->addWidget(m_picture);
+    auto *choices = new QVBoxLayout;
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_insets, m_sounds, m_level})
+        choices->addWidget(widget);
+    const auto addPair = [choices](QWidget *left, QWidget *right) {
+        auto *pair = new QHBoxLayout;
+        pair->addWidget(left, 1);
+        pair->addWidget(right, 1);
+        choices->addLayout(pair);
+        return pair;
+    };
+    addPair(m_begins, m_limits)->insertWidget(1, m_time);
+    addPair(m_formats, m_pointer);
+    choices->addStretch();
+    layout->addLayout(choices, 1);
 }
 
 void CapturePanel::open(const QString &transcoderPath, const std::optional<RecordPlan> &last)

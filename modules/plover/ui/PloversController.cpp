@@ -9,14 +9,15 @@
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
 #include "modules/common/LateView.h"
+#include "modules/common/MadeFilms.h"
 #include "modules/common/OutputFolderLine.h"
 #include "modules/plover/X11Display.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
-#include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/TabOrder.h"
 
+#include <QApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QGuiApplication>
@@ -92,6 +93,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
         m_beginning = {};
     });
     connect(page->list(), &JobListView::menuRequested, this, &PloversController::extendMenu);
+    (new MadeFilms(*page, m_settings))->showPictures(*m_list);
     connect(&queue(), &JobQueue::changed, this, &PloversController::recordChanged);
     connect(&m_meter, &LevelMeter::levelChanged, this, [this](double level) {
         if (m_bar)
@@ -235,7 +237,7 @@ void PloversController::openControls()
         m_rings = std::make_unique<ClickRings>(*m_keys);
         m_rings->setActive(true);
     }
-    m_tray = std::make_unique<QSystemTrayIcon>(tarnwell::namedIcon(u"kestrel_icon_small"_s));
+    m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
     m_tray->setToolTip("Recording"_key.localized());
     connect(m_tray.get(), &QSystemTrayIcon::activated, this, &PloversController::stopRecording);
     m_tray->show();

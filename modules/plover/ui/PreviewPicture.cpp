@@ -26,7 +26,7 @@ PreviewPicture::PreviewPicture()
     setFixedSize(previewSize);
     setAlignment(Qt::AlignCenter);
     setWordWrap(true);
-    setToolTip({});
+    setProperty("card", true);
 }
 
 void PreviewPicture::showText(const QString &text)
@@ -36,6 +36,8 @@ void PreviewPicture::showText(const QString &text)
 
 void PreviewPicture::showPicture(const QPixmap &picture)
 {
+    if (picture.isNull())
+        return setPixmap({});
     QPixmap small = picture.scaled(previewSize * devicePixelRatioF(), Qt::KeepAspectRatio, Qt::SmoothTransformation);
     small.setDevicePixelRatio(devicePixelRatioF());
     setPixmap(small);
