@@ -129,7 +129,7 @@ QByteArray answerLine(const QByteArray &output)
 {
     const qsizetype start = output.startsWith('{') ? 0 : output.indexOf("\n{") + 1;
     const qsizetype end = output.indexOf("\nsend: ", start);
-    return output.sliced(start, end < 0 ? -1 : end - start);
+    return output.mid(start, end < 0 ? -1 : end - start);
 }
 
 void readFilm(const QJsonObject &json, EngineAnswer &answer)
