@@ -124,6 +124,14 @@ EngineAnswer::Entry entryOf(const QJsonObject &json, int item, const QString &pa
     return entry;
 }
 
+/// What it tells of its requests stands before or after, as it was buffered. A header begins no line with a brace.
+QByteArray answerLine(const QByteArray &output)
+{
+    const qsizetype start = output.startsWith('{') ? 0 : output.indexOf("\n{") + 1;
+    const qsizetype end = output.indexOf("\nsend: ", start);
+    return output.mid(start, end < 0 ? -1 : end - start);
+}
+
 void readFilm(const QJsonObject &json, EngineAnswer &answer)
 {
     answer.title = titleOfOnlyFilm(json);
@@ -169,7 +177,7 @@ foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &o
 {
     QJsonObject root;
     if (output.size() <= maximumAnswerBytes)
-        root = QJsonDocument::fromJson(output.sliced(output.lastIndexOf("\n{") + 1)).object();
+        root = QJsonDocument::fromJson(answerLine(output)).object();
     if (root.isEmpty())
         return foundation::Failure{Sentence("What the site answered could not be understood."_key)};
     EngineAnswer answer;

@@ -50,7 +50,7 @@ struct EngineAnswer {
     QList<std::pair<int, qint64>> resolutions() const;
 };
 
-/// Reads `--dump-single-json`, the last line of the output. A list of one is that one. `address` is what was asked.
+/// Reads `--dump-single-json`, one line of the output. A list of one is that one. `address` is what was asked.
 foundation::Result<EngineAnswer, tarnwell::Sentence> parseEngineAnswer(const QByteArray &output,
                                                                        const QString &address);
 

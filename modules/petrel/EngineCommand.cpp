@@ -22,6 +22,7 @@ QProcessEnvironment environmentFor(const EngineTools &tools)
         environment.remove(name);
     environment.insert(u"PYTHONNOUSERSITE"_s, u"1"_s);
     environment.insert(u"PYTHONDONTWRITEBYTECODE"_s, u"1"_s);
+    environment.insert(u"PYTHONUNBUFFERED"_s, u"1"_s);  // what it prints by two ways keeps its order
     environment.insert(u"PYTHONUTF8"_s, u"1"_s);
     environment.insert(u"YTDLP_NO_PLUGINS"_s, u"1"_s);
     environment.insert(u"HOME"_s, tools.home);

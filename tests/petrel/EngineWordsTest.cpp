@@ -105,7 +105,8 @@ TEST(EngineAnswerTest, ListsKeepHowTheirFilmsAreFound)
         "header: X: {}\n"
         R"({"_type": "playlist", "title": "All", "entries": [
         {"_type": "url", "url": "https://a.example/1", "title": "One", "duration": 5}, null,
-        {"title": "Two", "formats": []}, {"_type": "url", "url": "file:///etc/passwd"}]})",
+        {"title": "Two", "formats": []}, {"_type": "url", "url": "file:///etc/passwd"}]})"
+        "\nsend: b'GET {'\nheader: Y: {}\n",
         page);
     ASSERT_TRUE(answer);
     ASSERT_EQ(answer->entries.size(), 3);

@@ -37,7 +37,7 @@ class DownloadTest(unittest.TestCase):
         self.addCleanup(self.home.cleanup)
         self.folder = os.path.join(self.home.name, "out")
         os.mkdir(self.folder)
-        self.environment = {key: value for key, value in os.environ.items() if not key.startswith("XDG_")}
+        self.environment = {key: value for key, value in os.environ.items() if not key.startswith(("XDG_", "PYTHON"))}
         self.environment |= {"HOME": self.home.name, "LC_ALL": "C.UTF-8", "QT_QPA_PLATFORM": "offscreen"}
 
     def start(self, *arguments):
@@ -86,6 +86,13 @@ class DownloadTest(unittest.TestCase):
                 self.assertEqual((status, result["state"], result["problems"]), (0, "done", []), self.errors)
                 self.assert_film(result["outputs"][0])
                 self.assert_no_parts()
+
+    def test_what_goes_with_the_film_is_in_it(self):
+        self.server.film = "film.flv"
+        status, (result,) = self.download("--subtitles", "en", self.server.address("page/rich"))
+        self.assertEqual((status, result["problems"]), (0, []), self.errors)
+        for codec in ("mov_text", "mjpeg"):
+            self.assert_film(result["outputs"][0], codec=codec)
 
     def test_same_bytes_as_the_server_has(self):
         status, (result,) = self.download(self.server.address("resetting/film.mp4"))
@@ -147,6 +154,7 @@ class DownloadTest(unittest.TestCase):
             "forbidden/film.mp4": "refuses",
             "page/none": "no site that Kestrel knows|no film",
             "cut/film.mp4": "only part",
+            "modest/film.mp4": "only part",
         }
         for path, words in cases.items():
             with self.subTest(path):

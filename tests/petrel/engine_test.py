@@ -108,20 +108,23 @@ class EngineTest(unittest.TestCase):
             self.publisher.files[path] = self.publisher.files[path].replace(old, new)
 
         cases = {
-            "another key": lambda: self.publish("2099.1.1", good, other_key),
-            "changed document": lambda: change("/document", b"2099", b"2098"),
-            "changed file": lambda: change("/engine", b"exec", b"EXEC"),
-            "interrupted": lambda: setattr(self.publisher, "missing", 1000),
-            "another version than it says": lambda: self.publish("2099.1.1", self.wrapper("2098.1.1")),
-            "no program": lambda: self.publish("2099.2.1", "nonsense"),
+            "another key": (lambda: self.publish("2099.1.1", good, other_key), "signature"),
+            "changed document": (lambda: change("/document", b"2099", b"2098"), "signature"),
+            "changed file": (lambda: change("/engine", b"exec", b"EXEC"), "another file"),
+            "shorter file": (lambda: change("/engine", b"exec", b""), "bytes instead of"),
+            "longer file": (lambda: change("/engine", b"exec", b"exec exec"), "new engine is not used"),
+            "interrupted": (lambda: setattr(self.publisher, "missing", 1000), "not used"),
+            "another version than it says": (lambda: self.publish("2099.1.1", self.wrapper("2098.1.1")), "does not work"),
+            "no program": (lambda: self.publish("2099.2.1", "nonsense"), "does not work"),
         }
-        for name, spoil in cases.items():
+        for name, (spoil, words) in cases.items():
             with self.subTest(name):
                 self.publisher.missing = 0
                 self.publish("2099.1.1", good)
                 spoil()
                 answer = self.update()
                 self.assertEqual((answer["state"], answer["version"]), ("failed", ""), answer)
+                self.assertIn(words, answer["text"])
                 self.assertTrue(answer["path"].endswith("petrel.bundle/Contents/Resources/yt-dlp"))
 
     def test_older_is_left_alone(self):

@@ -61,10 +61,6 @@ class Handler(BaseHTTPRequestHandler):
         """Hands out two thirds and calls them everything."""
         self.send_file(name, length=self.size(name) * 2 // 3)
 
-    def way_boasting(self, name):
-        """Says that more comes than does."""
-        self.send_file(name, told=1000)
-
     def way_modest(self, name):
         """Says that less comes than does."""
         self.send_file(name, told=-100_000)
