@@ -8,6 +8,7 @@
 
 #include <atomic>
 #include <memory>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -99,7 +100,11 @@ void asyncGlobal(Job job)
 
 void asyncDetached(Job job)
 {
-    std::thread(announced(std::move(job))).detach();
+    try {
+        std::thread(std::move(job)).detach();
+    } catch (const std::system_error &) {
+        // No thread is to be had: the look is not made.
+    }
 }
 
 void finishGlobal()

@@ -24,8 +24,8 @@ bool syncMain(const Job &job);
 /// and one that lasts as long as something else must be ended by whoever asked for it.
 void asyncGlobal(Job job);
 
-/// As `asyncGlobal`, for what may not end, such as a look at a disk that does not answer: nobody waits for it at the
-/// process's end, so `job` works with nothing but what it brings along.
+/// Runs `job` on a thread of its own, for what may not end, such as a look at a disk that does not answer: nobody waits
+/// for it at the process's end, so it works with nothing but what it brings along, and hands nothing to these queues.
 void asyncDetached(Job job);
 
 /// Waits on the main thread until all background jobs have ended, and runs what they wait for there meanwhile. For the

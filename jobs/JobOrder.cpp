@@ -22,8 +22,9 @@ void JobOrder::append(JobId id, std::optional<double> position)
     constexpr JobId lastInTurn = JobId(1) << 30;
     // Behind all that were ever added, also by who has not loaded the others: ids grow.
     const double ofId = id < lastInTurn ? double(id) * spacing : spacing;
-    const double next = row > 0 ? std::max(positionAt(row - 1) + spacing, ofId) : ofId;
-    m_places.insert(id, {row, row > 0 && position ? std::max(*position, next - spacing) : position.value_or(next)});
+    const double last = row > 0 ? positionAt(row - 1) : 0;
+    const double next = row > 0 ? std::max(last + spacing, ofId) : ofId;
+    m_places.insert(id, {row, row > 0 && position ? std::max(*position, last) : position.value_or(next)});
     m_ids.append(id);
     if (m_validRows == row)
         ++m_validRows;

@@ -9,6 +9,7 @@
 #include <QThread>
 
 #include <algorithm>
+#include <mutex>
 
 namespace kestrel {
 
@@ -84,34 +85,53 @@ void JobQueue::load()
     lookForOutputs();
 }
 
+/// What is found on a thread of its own, and fetched from there.
+struct JobQueue::OutputLook {
+    std::mutex mutex;
+    QList<JobRecord> gone;
+    bool hasEnded = false;
+};
+
 void JobQueue::lookForOutputs()
 {
     QList<JobRecord> made;
     for (const JobId id : idsIn({JobState::Done, JobState::DoneWithProblems}))
         made.append(*record(id));
-    foundation::queue::asyncDetached([self = QPointer(this), made] {
-        QList<JobId> gone;
+    if (made.isEmpty())
+        return;
+    const auto look = std::make_shared<OutputLook>();
+    foundation::queue::asyncDetached([look, made] {
         for (const JobRecord &record : made) {
-            if (!outputsAreThere(record))
-                gone.append(record.id);
+            if (outputsAreThere(record))
+                continue;
+            const std::lock_guard lock(look->mutex);
+            look->gone.append(record);
         }
-        foundation::queue::asyncMain([self, gone] {
-            for (const JobId id : gone) {
-                if (self)
-                    self->noteGone(id);
-            }
-        });
+        const std::lock_guard lock(look->mutex);
+        look->hasEnded = true;
     });
+    fetchGone(look, std::chrono::milliseconds(20));
 }
 
 /// Not stored: the disk may be back.
-void JobQueue::noteGone(JobId id)
+void JobQueue::fetchGone(const std::shared_ptr<OutputLook> &look, std::chrono::milliseconds delay)
 {
-    Entry *entry = find(id);
-    if (!entry || (entry->record.state != JobState::Done && entry->record.state != JobState::DoneWithProblems))
-        return;  // it has been started again
-    setOutputsGone(entry->record);
-    emit changed(id);
+    constexpr std::chrono::milliseconds longest = std::chrono::seconds(2);
+    later(delay, [this, look, next = std::min(2 * delay, longest)] {
+        std::unique_lock lock(look->mutex);
+        const QList<JobRecord> found = std::exchange(look->gone, {});
+        const bool hasEnded = look->hasEnded;
+        lock.unlock();
+        for (const JobRecord &looked : found) {
+            Entry *entry = find(looked.id);
+            if (!entry || entry->record.state != looked.state || entry->record.outcome != looked.outcome)
+                continue;  // it has been started again
+            setOutputsGone(entry->record);
+            emit changed(looked.id);
+        }
+        if (!hasEnded)
+            fetchGone(look, next);
+    });
 }
 
 JobId JobQueue::add(JobRecord record)

@@ -117,8 +117,9 @@ private:
     void later(std::chrono::milliseconds delay, std::function<void()> task);
 
     void removeRows(Module &module, const QString &name, const QList<JobId> &ids);
+    struct OutputLook;
     void lookForOutputs();
-    void noteGone(JobId id);
+    void fetchGone(const std::shared_ptr<OutputLook> &look, std::chrono::milliseconds delay);
     void moveRanges(const QString &name, const QList<JobOrder::Range> &ranges, int to);
 
     void startSome();

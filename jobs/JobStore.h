@@ -11,9 +11,9 @@
 namespace kestrel {
 
 /// What must survive a kill: the jobs of all modules, their order, options and outcome, in an SQLite file in Kestrel's
-/// data folder, written by a thread of its own. Of jobs that have ended the newest 20,000 stay, or what takes 128 MB.
-/// The window and `kestrel-cli` may have it open at the same time. A damaged file, or one of a newer version, is moved
-/// aside ("jobs.sqlite.damaged-<time>") and a new one begun. Progress is not stored.
+/// data folder, written by a thread of its own. Of what is done, failed or cancelled, the 20,000 that were added last
+/// stay, or as many as take 128 MB. The window and `kestrel-cli` may have it open at the same time. A damaged file, or
+/// one of a newer version, is moved aside ("jobs.sqlite.damaged-<time>") and a new one begun. Progress is not stored.
 class JobStore {
 public:
     virtual ~JobStore() = default;

@@ -106,6 +106,12 @@ bool TranscodeJob::aimsAgain(const OutputFindings &findings, qint64 bytes)
     if (correction == 0 || hasNoMore || findings.isShort || m_corrections == mostCorrections ||
         m_correction + correction >= m_request.plan.maximumBytes)
         return false;
+    // What the smaller size does not allow is no reason to throw away what was made.
+    TranscodePlan next = m_request.plan;
+    next.maximumBytes -= m_correction + correction;
+    if (!transcodeSteps(next, m_request.information, m_request.tools.machine,
+                        {m_outputPath->path(), m_workFolder->path()}))
+        return false;
     ++m_corrections;
     m_lastBytes = bytes;
     m_correction += correction;

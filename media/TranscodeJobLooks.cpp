@@ -89,10 +89,11 @@ void TranscodeJob::findKeyPictures(qsizetype number)
     const auto keys = std::make_shared<KeyPictures>(film);
     const ToolProcess &tool =
         run(KeyPictures::command(m_request.tools.prober, m_sources.front().argument(), film, start),
-            [this, number, start, keys](const ToolEnding &) {
+            [this, number, start, keys](const ToolEnding &ending) {
                 if (isStopping())
                     return finishStopped();
-                keys->finish();
+                if (ending.isGood())
+                    keys->finish();
                 TranscodePlan::Piece &piece = m_request.plan.pieces[number];
                 if (const auto key = keys->atOrBefore(start))
                     piece.start = std::min(copyStart(m_request.information.first(), *key), piece.end - shortestPiece);

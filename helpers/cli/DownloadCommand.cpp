@@ -119,9 +119,9 @@ QList<JobRecord> jobsFor(const DownloadPlan &plan, const Analysis::Answer &answe
 }
 
 /// The jobs for the addresses, in their order, once all of them have been looked at; each is started as soon as its
-/// own was. Nothing where a signal ended that.
-std::optional<QList<JobId>> lookedAt(const QStringList &addresses, const DownloadRequest &request, CliSession &session,
-                                     const QString &folder)
+/// own was. Those until then where a signal ended that.
+QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &request, CliSession &session,
+                      const QString &folder)
 {
     const JKestrelSettingDispatcher &settings = session.settings();
     QEventLoop loop;
@@ -143,8 +143,7 @@ std::optional<QList<JobId>> lookedAt(const QStringList &addresses, const Downloa
     });
     for (qsizetype number = 0; number < addresses.size(); ++number)
         analysis.ask(number, planOf(number));
-    if (!session.wait(loop))
-        return std::nullopt;
+    session.wait(loop);
     QList<JobId> all;
     for (const QList<JobId> &some : ids)
         all += some;
@@ -176,9 +175,10 @@ ExitStatus runDownload(const Surroundings &surroundings, const QStringList &argu
     session.queue().setRecipe(petrelJobs.toString(), &recipe);
     session.queue().setLaneLimit(Lane::Net, request.atOnce > 0 ? request.atOnce : downloadsAtOnce(settings));
     const auto ids = lookedAt(*addresses, request, session, folder);
-    if (!ids)
-        return InterruptedBySignal;
-    return runJobs(session, *ids, surroundings, SignalMeaning::Cancel, *ids);
+    if (session.isInterrupted())
+        session.queue().cancel(ids, JobQueue::Waiting::IsCancelled);
+    const ExitStatus status = runJobs(session, ids, surroundings, SignalMeaning::Cancel, ids);
+    return session.isInterrupted() ? InterruptedBySignal : status;
 }
 
 }  // namespace kestrel::cli

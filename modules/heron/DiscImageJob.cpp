@@ -55,7 +55,7 @@ void DiscImageJob::copy()
 void DiscImageJob::copied(const ToolEnding &ending)
 {
     const bool isOfAnother = lines().error == "otherDisc"_L1 || lines().error == "exists"_L1;
-    if (isOfAnother) {
+    if (isOfAnother && !std::exchange(m_hasBegunAnew, true)) {
         removeCopy();
         return copy();
     }

@@ -29,6 +29,7 @@ private:
     std::unique_ptr<QLockFile> m_lock;
     qint64 m_badSectors = 0;
     bool m_staysForLater = false;
+    bool m_hasBegunAnew = false;
 };
 
 }  // namespace kestrel

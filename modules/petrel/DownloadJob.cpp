@@ -33,6 +33,7 @@ namespace {
 /// Seconds between attempts at what passes by itself; after the last one it has failed.
 constexpr int waits[] = {5, 15, 45, 120, 300};
 constexpr int serverWaits = 2;
+constexpr int longestWait = 600;  ///< seconds that others wait for this one's place
 constexpr qint64 leastSpace = 1'000'000;
 
 }  // namespace
@@ -107,6 +108,7 @@ void DownloadJob::download()
     m_progress = EngineProgress(m_plan.bytes > 0 ? m_plan.bytes : m_answer.bytes,
                                 m_answer.film["requested_formats"_L1].toArray().size() > 1);
     m_bytesAtTry = m_part->bytes();
+    m_retryAfter = 0;
     m_plan.picture = m_answer.picture;
     tellStage("Connecting…"_key);
     const ToolCommand command = downloadCommand(m_plan, m_tools.engine, m_part->path(), m_answerPath);
@@ -189,6 +191,8 @@ void DownloadJob::waitAndTryAgain(const EngineFailure &failure, const QString &d
         return fail(failure.sentence, details);
     const int usual = waits[m_waits++];
     const int asked = std::exchange(m_retryAfter, 0);
+    if (failure.kind == EngineFailure::Kind::TooMany && asked > longestWait)
+        return fail(failure.sentence, details);
     const int seconds = failure.kind == EngineFailure::Kind::TooMany && asked > 0 ? asked : usual;
     ++m_waitNumber;
     switch (failure.kind) {
@@ -253,7 +257,8 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
     plan.preset = *preset;
     m_conversion = std::make_unique<TranscodeJob>(
         TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});
-    m_conversion->setNotary([this](const JobOutcome &, const QString &partPath, std::function<void()> then) {
+    m_conversion->setNotary([this](const JobOutcome &outcome, const QString &partPath, std::function<void()> then) {
+        m_converted = outcome;
         beforePlacing(goodOutcome(), partPath, std::move(then));
     });
     connect(m_conversion.get(), &Job::progressed, this, [this](JobProgress progress) {
@@ -274,8 +279,7 @@ void DownloadJob::converted(const JobOutcome &outcome)
     const bool isMade = outcome.state == JobState::Done || outcome.state == JobState::DoneWithProblems;
     if (!isMade)
         return fail(outcome.sentence, outcome.details);
-    if (m_check.sentence.isEmpty() && !outcome.sentence.isEmpty())
-        m_check.sentence = outcome.sentence;
+    m_converted = outcome;
     finishGood(outcome.outputs);
 }
 
@@ -304,9 +308,14 @@ JobOutcome DownloadJob::goodOutcome() const
     Sentence problem = m_check.sentence;
     if (problem.isEmpty() && !m_companionWords.isEmpty())
         problem = "The film has come, but subtitles, cover or chapters could not be added to it."_key;
-    return {.state = problem.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
+    if (problem.isEmpty())
+        problem = m_converted.sentence;
+    const bool isWhole = problem.isEmpty() && m_converted.state == JobState::Done;
+    return {.state = isWhole ? JobState::Done : JobState::DoneWithProblems,
             .sentence = problem,
-            .details = m_companionWords,
+            .details = m_companionWords + m_converted.details,
+            .problems = m_converted.problems,
+            .leftOut = m_converted.leftOut,
             .facts = {{u"resumed_bytes"_s, m_resumed}}};
 }
 

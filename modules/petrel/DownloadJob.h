@@ -73,6 +73,7 @@ private:
     EngineProgress m_progress;
     JobProgress m_told;
     DownloadCheck m_check;
+    JobOutcome m_converted{.state = JobState::Done};  ///< where it had to be
     QString m_companionWords;  ///< what the engine said when it could not add what goes with the film
     qint64 m_resumed = 0;      ///< bytes that were there when the job began
     qint64 m_bytesAtTry = 0;   ///< when the present attempt began

@@ -143,7 +143,7 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
         chains.append(u"[camera][screen]scale2ref=w=trunc(iw*%1/2)*2:h=trunc(ow/mdar/2)*2[inset][ground]"_s.arg(
             number(plan.inset->width)));
         chains.append(
-            u"[ground][inset]overlay=x=clip(W*%1\\,0\\,W-w):y=clip(H*%2\\,0\\,H-h):eof_action=pass:format=yuv420[v]"_s
+            u"[ground][inset]overlay=x=clip(W*%1\\,0\\,max(0\\,W-w)):y=clip(H*%2\\,0\\,max(0\\,H-h)):eof_action=pass:format=yuv420[v]"_s
                 .arg(number(plan.inset->x), number(plan.inset->y)));
     }
     return {chains.join(u';'), QStringList{u"[v]"_s} + sounds};

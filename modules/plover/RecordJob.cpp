@@ -134,8 +134,10 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
     const auto now = std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch());
     m_stretch = {};
     m_messages = ToolMessages({part.partPath()});
+    if (m_size.isEmpty())
+        m_size = m_target.area.size();
     const RecordStretch stretch{.target = m_target,
-                                .size = m_target.area.size(),
+                                .size = m_size,
                                 .begin = now + lead,
                                 .seconds = plan.seconds > 0 ? plan.seconds - recordedSeconds() : 0,
                                 .isSilent = m_isSilent,
@@ -214,7 +216,9 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
     if (plan.inset && (isCamera || !cameraTarget(plan)))
         loseInset();
     const auto target = captureTarget(plan);
-    if (!target || (isFirst && plan.sound == RecordPlan::Sound::None) || m_failures > 2) {
+    if (!target ||
+        (isFirst && (plan.sound == RecordPlan::Sound::None || ending.cause == ToolEnding::Cause::CouldNotStart)) ||
+        m_failures > 2) {
         if (isFirst)
             return fail(target ? m_messages.failure().sentence : target.reason(), ending.lastWords);
         m_problems.append(target ? Sentence("The recording was interrupted."_key) : target.reason());
@@ -229,7 +233,8 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
         return;
     const QSize size = m_target.area.size();
     m_target = *target;
-    m_target.area.setSize(size);
+    if (m_target.isShared)  // whose size only its pictures tell
+        m_target.area.setSize(size);
     beginStretch();
 }
 
@@ -262,13 +267,13 @@ void RecordJob::watch()
     if (!m_recorder)
         return;
     syncLater(m_recording.stretches.last());
+    if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
+        loseInset();
     // ffmpeg waits forever for a display that is gone, and does not listen then.
     if (m_recording.plan.hasPicturesOfDisplay() && !captureTarget(m_recording.plan)) {
         m_recorder->cancel();
         return;
     }
-    if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
-        loseInset();
     const auto space = m_tools.diskSpace(m_recording.folder);
     if (!space || space->available > m_tools.reservedBytes || m_isToEnd)
         return;

@@ -86,6 +86,7 @@ private:
 
     UnfinishedRecording m_recording;
     RecordTools m_tools;
+    QSize m_size;  ///< of the pictures of all stretches; empty until it is known
     CaptureTarget m_target;
     bool m_isRecovery = false;
     bool m_isSilent = false;

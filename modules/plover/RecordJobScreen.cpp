@@ -40,6 +40,10 @@ void RecordJob::openScreen()
             [this](ScreenCastPortal::End end, const Sentence &sentence) {
                 if (end == ScreenCastPortal::End::Closed)
                     return screenClosed();
+                if (end == ScreenCastPortal::End::Failed && !m_recording.stretches.isEmpty()) {
+                    m_problems.append(sentence);
+                    return screenClosed();
+                }
                 if (end == ScreenCastPortal::End::Failed)
                     return fail(sentence);
                 discard();

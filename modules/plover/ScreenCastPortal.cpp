@@ -236,7 +236,7 @@ void ScreenCastPortal::sessionClosed()
 void ScreenCastPortal::ownerChanged(const QString &name, const QString &oldOwner, const QString &)
 {
     if (name == portalService && oldOwner == m_portal)
-        end(m_isOpen ? End::Closed : End::Failed, "The desktop's portal did not answer."_key);
+        end(End::Failed, "The desktop's portal did not answer."_key);
 }
 
 void ScreenCastPortal::end(End end, const Sentence &sentence)

@@ -23,6 +23,7 @@ class LanguageTest(ProgramTest):
         again.wait_for_window()
         wait_for(lambda: self.defaults()['AppleLanguages'] == ['de'], 'German to be settled')
         again.find('label', catalogue('de')['Video Converter'])
+        again.find('push button', catalogue('de')['Close'])
         self.assertEqual(again.end(), 0)
         self.assertIs(self.defaults()['KestrelNotSafeTerminate'], False)
 

@@ -242,6 +242,8 @@ TEST_F(AfterRunTest, the_notification_leads_to_its_module)
     emit m_notifications.ActionInvoked(40, u"show"_s);  // another program's
     emit m_notifications.ActionInvoked(41, u"show"_s);
     EXPECT_TRUE(test::waitUntil([&] { return shown.count() == 1; }));
+    emit m_notifications.ActionInvoked(41, u"default"_s);  // a click at it
+    EXPECT_TRUE(test::waitUntil([&] { return shown.count() == 2; }));
     EXPECT_EQ(shown.value(0).value(0), u"marlin"_s);
 }
 

@@ -84,7 +84,7 @@ TEST_F(JobStoreTest, OrderOptionsAndOutcomeComeBack)
     first.state = JobState::Failed;
     first.outcome = {.state = JobState::Failed,
                      .sentence = {outputIsGone, {u"a"_s}},
-                     .details = u"line\nline"_s,
+                     .details = QString(64 * 1024 - 4, u'x') + u"\nend"_s,
                      .outputs = {u"/out/a"_s},
                      .problems = {{outputIsGone}},
                      .leftOut = {{outputIsGone, {u"b"_s}}},
@@ -94,7 +94,9 @@ TEST_F(JobStoreTest, OrderOptionsAndOutcomeComeBack)
         const auto store = open();
         ASSERT_TRUE(store);
         first.id = store->nextId();
-        store->put(first, 5);
+        JobRecord longer = first;
+        longer.outcome.details.prepend(u"what was said long before"_s);
+        store->put(longer, 5);
         order = {stored(*store, 4.5).id, first.id, stored(*store, 7).id};
         const JobRecord removed = stored(*store, 1);
         store->remove({removed.id});
@@ -172,8 +174,8 @@ TEST_F(JobStoreTest, WhatAnotherProcessHoldsIsLeftOutUntilItEnds)
 
 TEST_F(JobStoreTest, DoneIsWhatIsThere)
 {
-    const QString output = folder.filePath(u"film.mp4"_s), other = folder.filePath(u"film.srt"_s);
-    QFile(other).open(QIODevice::WriteOnly);
+    const QString output = folder.filePath(u"film.mp4"_s), other = folder.filePath(u"disc"_s);
+    QDir().mkpath(other);
     const auto store = open();
     JobRecord record = scriptedRecord(u"film"_s);
     record.id = store->nextId();
@@ -337,6 +339,15 @@ TEST_F(JobStoreTest, WhatIsNoStoreIsMovedAside)
         }
         EXPECT_EQ(open()->load().size(), row.bytes == good ? 201 : 1);
     }
+}
+
+TEST_F(JobStoreTest, TheLogOfADamagedFileGoesWithIt)
+{
+    write("no database at all, and long enough to be looked at");
+    write("its log", u"-wal"_s);
+    stored(*open(), 1);
+    EXPECT_EQ(asideFiles().size(), 2);
+    EXPECT_EQ(open()->load().size(), 1);
 }
 
 TEST_F(JobStoreTest, NonsenseInARowCostsThatRow)

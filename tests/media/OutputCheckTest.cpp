@@ -57,6 +57,7 @@ TEST(OutputCheckTest, WhatIsWrongWithAnOutput)
     } rows[] = {
         {"good", [](Case &) {}, Good},
         {"smaller than told", [](Case &c) { c.found.bytes = 999; }, Damage},
+        {"larger than told", [](Case &c) { c.found.bytes = 1001; }, Damage},
         {"size not told", [](Case &c) { c.told.bytes.reset(); }, Good},
         {"a picture too few", [](Case &c) { c.found.packets[0] = 1499; }, Damage},
         {"sound lost", [](Case &c) { c.found.packets[1] = 2000; }, Damage},

@@ -88,6 +88,7 @@ TEST_F(PloversControllerTest, RecordsPausesAndStops)
     startDisplay();
     open();
     EXPECT_TRUE(find<QComboBox>(u"sourceComboBox"_s)->currentText().contains(u"640"));
+    EXPECT_EQ(find<QLabel>(u"folderLabel"_s)->text(), m_settings.dispatcher().getVideoDir());
     choose(u"soundComboBox"_s, int(RecordPlan::Sound::None));
     choose(u"countdownComboBox"_s, false);
     auto *start = find<QPushButton>(u"startButton"_s);

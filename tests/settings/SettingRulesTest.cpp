@@ -3,6 +3,7 @@
 #include "settings/SettingPage.h"
 #include "tarnwell/Installed.h"
 #include "tarnwell/Localization.h"
+#include "tarnwell/TextKey.h"
 
 #include <gtest/gtest.h>
 
@@ -63,6 +64,10 @@ TEST(SettingRulesTest, translated_titles_stand_for_what_is_stored)
     EXPECT_EQ(stored.join(u' '), u"240P 360P 480P 720P 1080P Highest Resolution"_s);
     EXPECT_NE(resolutionTitles().last(), stored.last());
     EXPECT_NE(concurrencyTitle(0), u"Unlimited"_s);
+    using tarnwell::operator""_key;
+    const tarnwell::Sentence sentence("Unlimited"_key);
+    EXPECT_EQ(sentence.english(), u"Unlimited");
+    EXPECT_NE(sentence.localized(), sentence.english());
     EXPECT_EQ(concurrencyOfTitle(concurrencyTitle(0)), 0);
 }
 

@@ -34,9 +34,10 @@ using tarnwell::operator""_key;
 
 namespace {
 
-QString pictureKey(const QString &source, int title)
+/// A drive has one disc after another.
+QString pictureKey(const QString &source, const QString &volume, int title)
 {
-    return source + u'\n' + QString::number(title);
+    return source + u'\n' + volume + u'\n' + QString::number(title);
 }
 
 QString sizeText(qint64 bytes)
@@ -304,14 +305,17 @@ void HeronController::keepPicture(int title, const QString &path)
     constexpr qsizetype mostPictures = 500;
     if (m_rowPictures.size() >= mostPictures)
         m_rowPictures.clear();
-    m_rowPictures.insert(pictureKey(m_source, title),
+    if (!m_contents || !m_page)
+        return;
+    m_rowPictures.insert(pictureKey(m_source, m_contents->volume, title),
                          discPicture(path, JobRowDelegate::pictureSize, m_page->devicePixelRatioF()));
     m_list->showPicturesAgain();
 }
 
 QVariant HeronController::pictureOf(const JobRecord &record) const
 {
-    const QPixmap picture = m_rowPictures.value(pictureKey(record.source, record.plan["title"_L1].toInt()));
+    const QPixmap picture = m_rowPictures.value(
+        pictureKey(record.source, record.plan["volume"_L1].toString(), record.plan["title"_L1].toInt()));
     return picture.isNull() ? tarnwell::namedImage(u"heron_disc"_s, m_page->devicePixelRatioF()) : picture;
 }
 
@@ -379,7 +383,7 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
 void HeronController::begin()
 {
     const QList<DiscPlan> wanted = m_contents ? plans() : QList<DiscPlan>();
-    if (wanted.isEmpty())
+    if (wanted.isEmpty() || !m_page->startButton()->isEnabled())
         return;
     QString obstacle;
     if (canStart(wanted, &obstacle)) {

@@ -129,7 +129,8 @@ void TrackOptions::showLanguages(const TranscodePlan &plan, const QList<MediaInf
     }
     if (box->findData(chosen) < 0)
         add(chosen);
-    box->setCurrentIndex(box->findData(chosen));
+    const int index = box->findData(chosen);  // or another code of that language
+    box->setCurrentIndex(index >= 0 ? index : box->findText(foundation::languageDisplayName(chosen, m_language)));
     connect(box, &QComboBox::activated, this, [this, box, isSound](int index) {
         emit changed([isSound, code = box->itemData(index).toString()](TranscodePlan &changing) {
             (isSound ? changing.soundLanguages : changing.subtitleLanguages) = code;
@@ -146,12 +147,15 @@ void TrackOptions::showSounds(const TranscodePlan &plan, const MediaInformation 
     for (const MediaTrack &track : tracks)
         all.append(track.index);
     const QList<int> wanted = wantedSoundIndexes(plan, source);
+    TranscodePlan unnamed = plan;
+    unnamed.audioTracks.reset();
+    const QList<int> byLanguage = wantedSoundIndexes(unnamed, source);  // while none is named
     for (const MediaTrack &track : tracks) {
         auto *box = new QCheckBox(nameOf(track));
         box->setChecked(wanted.contains(track.index));
-        connect(box, &QCheckBox::toggled, this, [this, all, wanted, index = track.index](bool isKept) {
-            emit changed([all, wanted, index, isKept](TranscodePlan &changing) {
-                QList<int> kept = changing.audioTracks.value_or(wanted);
+        connect(box, &QCheckBox::toggled, this, [this, all, byLanguage, index = track.index](bool isKept) {
+            emit changed([all, byLanguage, index, isKept](TranscodePlan &changing) {
+                QList<int> kept = changing.audioTracks.value_or(byLanguage);
                 kept.removeAll(index);
                 if (isKept)
                     kept.append(index);

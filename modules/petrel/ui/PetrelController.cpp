@@ -4,6 +4,7 @@
 #include "SitePictures.h"
 
 #include "foundation/Bundle.h"
+#include "foundation/Queues.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobDetails.h"
 #include "jobs/ui/JobListView.h"
@@ -468,10 +469,18 @@ void PetrelController::followSettings()
     }
 }
 
+/// Thousands may change in one go.
 void PetrelController::showState()
 {
-    if (m_page)
-        m_page->setStartEnabled(!queue().idsIn(startable, petrelJobs.toString()).isEmpty());
+    if (std::exchange(m_isToShow, true))
+        return;
+    foundation::queue::asyncMain([self = QPointer(this)] {
+        if (!self)
+            return;
+        self->m_isToShow = false;
+        if (self->m_page)
+            self->m_page->setStartEnabled(!self->queue().idsIn(startable, petrelJobs.toString()).isEmpty());
+    });
 }
 
 }  // namespace kestrel

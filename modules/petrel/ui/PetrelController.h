@@ -78,6 +78,7 @@ private:
     // From the making of the view's contents on
     std::unique_ptr<Analysis> m_analysis;
     std::unique_ptr<DownloadList> m_list;
+    bool m_isToShow = false;
     std::unique_ptr<SitePictures> m_pictures;
     QPointer<JobPage> m_page;
     QPointer<QLineEdit> m_address;

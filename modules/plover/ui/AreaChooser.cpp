@@ -44,6 +44,7 @@ void AreaChooser::makeBar()
     auto *layout = new QHBoxLayout(m_bar);
     const auto addButton = [&](const QString &text) {
         auto *button = new QPushButton(text);
+        button->setAutoDefault(true);  // Return is the focused one's
         layout->addWidget(button);
         return button;
     };

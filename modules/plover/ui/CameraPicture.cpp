@@ -15,7 +15,7 @@ CameraPicture::~CameraPicture() = default;
 void CameraPicture::open(const QString &transcoderPath, const CaptureTarget &camera)
 {
     const QString source = camera.camera + camera.generator;
-    if (source == m_source)
+    if (source == m_source && m_tool->isRunning())
         return;
     close();
     m_source = source;

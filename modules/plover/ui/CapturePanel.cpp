@@ -33,6 +33,7 @@ namespace {
 
 constexpr QSize entryPicture(64, 36);
 constexpr auto previewInterval = 500ms;
+constexpr auto untilGone = 200ms;  ///< a list or a chooser that closes, from the picture of the screen
 using What = RecordPlan::What;
 
 /// What an entry of the sources stands for; a window of the number 0 is chosen by a click.
@@ -149,6 +150,7 @@ void CapturePanel::arrange()
     layout->setSpacing(16);
     layout->addWidget(m_picture);
     auto *choices = new QVBoxLayout;
+    choices->setSpacing(8);
     for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_insets, m_sounds, m_level})
         choices->addWidget(widget);
     const auto addPair = [choices](QWidget *left, QWidget *right) {
@@ -211,7 +213,10 @@ void CapturePanel::fillSources()
         m_sources->addItem(Sentence("Camera %1"_key, {QFileInfo(path).fileName()}).localized(),
                            entry(What::Camera, path));
     }
-    m_sources->setCurrentIndex(std::max(0, m_sources->findData(chosen)));
+    int index = m_sources->findData(chosen);
+    if (index < 0 && What(chosen.toList().value(0).toInt()) == What::Window)
+        index = m_sources->findData(entry(What::Window, 0));  // it has gone: another one is to be chosen
+    m_sources->setCurrentIndex(std::max(0, index));
     emit changed();
 }
 
@@ -219,12 +224,14 @@ void CapturePanel::fillSources()
 void CapturePanel::fillCameras()
 {
     const QString chosen = m_insets->currentData().toString();
+    const QSignalBlocker quiet(m_insets);
     m_insets->clear();
     m_insets->addItem("No camera in the picture"_key.localized(), QString());
     for (const QString &path : cameras())
         m_insets->addItem(Sentence("Camera %1 in the picture"_key, {QFileInfo(path).fileName()}).localized(), path);
     m_insets->setCurrentIndex(std::max(0, m_insets->findData(chosen)));
     m_insets->setVisible(m_insets->count() > 1);
+    insetChosen();
 }
 
 /// What is there is the desktop's to show.
@@ -268,11 +275,11 @@ void CapturePanel::restore(const RecordPlan &last)
 void CapturePanel::sourceChosen()
 {
     const QVariantList chosen = m_sources->currentData().toList();
-    // The list of the sources would be in the picture of the screen.
-    constexpr auto untilListIsGone = 200ms;
     const bool isWindow = chosen == entry(What::Window, 0);
+    if (whatOf(*m_sources, m_sources->currentIndex()) == What::Camera)
+        m_insets->setCurrentIndex(0);
     if (isWindow || whatOf(*m_sources, m_sources->currentIndex()) == What::Area) {
-        foundation::queue::afterMain(untilListIsGone, [self = QPointer(this), isWindow] {
+        foundation::queue::afterMain(untilGone, [self = QPointer(this), isWindow] {
             if (self && self->isOpen())
                 isWindow ? self->chooseWindow() : self->chooseArea();
         });
@@ -282,6 +289,8 @@ void CapturePanel::sourceChosen()
 
 void CapturePanel::soundChosen()
 {
+    if (!isOpen())
+        return;
     RecordPlan plan;
     choose(plan);
     m_meter.open(m_transcoderPath, plan);
@@ -313,9 +322,13 @@ void CapturePanel::chooseWindow()
         return;
     auto *chooser = new WindowChooser((*display)->windows());
     connect(chooser, &WindowChooser::chosen, this, [this](quint32 window) {
-        fillSources();
-        m_sources->setCurrentIndex(std::max(0, m_sources->findData(entry(What::Window, window))));
-        showPreview();
+        foundation::queue::afterMain(untilGone, [self = QPointer(this), window] {
+            if (!self || !self->isOpen())
+                return;
+            self->fillSources();
+            self->m_sources->setCurrentIndex(std::max(0, self->m_sources->findData(entry(What::Window, window))));
+            self->showPreview();
+        });
     });
     chooser->show();
     chooser->activateWindow();
@@ -396,7 +409,8 @@ void CapturePanel::showPreview()
 void CapturePanel::followCamera(const RecordPlan &plan)
 {
     const auto camera = cameraTarget(plan);
-    if (camera && (plan.inset || plan.what == What::Camera))
+    const bool isShown = plan.what == What::Camera || (plan.inset && plan.what != What::Portal);
+    if (camera && isShown)
         m_camera.open(m_transcoderPath, *camera);
     else
         m_camera.close();

@@ -155,7 +155,8 @@ bool PloversController::shouldTerminate()
 void PloversController::startRecorderSession()
 {
     m_view->makeContents();
-    openPanel();
+    if (m_recording == 0)  // which has the camera
+        openPanel();
     showState();
 }
 
@@ -169,8 +170,10 @@ void PloversController::onViewDidDisappear()
 /// A recording that is to begin at a time does so from any module.
 void PloversController::forgetCountdown()
 {
-    if (m_panel && m_panel->begin() != CapturePanel::Begin::AtTime)
-        m_beginning = {};
+    if (!m_beginning.isValid() || m_panel->begin() == CapturePanel::Begin::AtTime)
+        return;
+    m_beginning = {};
+    m_page->showMessage({});
 }
 
 /// While it counts down the same button begins at once.
@@ -218,8 +221,8 @@ void PloversController::record()
     RecordPlan plan = recordPlan(*m_settings);
     m_panel->choose(plan);
     m_settings->setRecordChoices(QString::fromUtf8(QJsonDocument(plan.toJson()).toJson(QJsonDocument::Compact)));
-    if (const auto target = captureTarget(plan))
-        m_target = *target;
+    const auto target = captureTarget(plan);
+    m_target = target ? *target : CaptureTarget();
     const QString folder = m_settings->getVideoDir();
     QDir().mkpath(folder);
     m_recording = queue().add(recordingJob(plan, folder));
@@ -255,7 +258,7 @@ void PloversController::openControls()
             area = window->area;
     }
     // Without room beside the picture, this window steps out of it and tray and keys remain.
-    if (!m_bar->showBeside(area))
+    if (!m_bar->showBeside(area) && m_view->isVisible())
         m_view->window()->showMinimized();
 }
 
