@@ -128,7 +128,7 @@ EngineAnswer::Entry entryOf(const QJsonObject &json, int item, const QString &pa
 QByteArray answerLine(const QByteArray &output)
 {
     const qsizetype start = output.startsWith('{') ? 0 : output.indexOf("\n{") + 1;
-    const qsizetype end = output.indexOf('\n', start);
+    const qsizetype end = output.indexOf("\nsend: ", start);
     return output.mid(start, end < 0 ? -1 : end - start);
 }
 

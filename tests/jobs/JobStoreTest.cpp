@@ -341,15 +341,6 @@ TEST_F(JobStoreTest, WhatIsNoStoreIsMovedAside)
     }
 }
 
-TEST_F(JobStoreTest, TheLogOfADamagedFileGoesWithIt)
-{
-    write("no database at all, and long enough to be looked at");
-    write("its log", u"-wal"_s);
-    stored(*open(), 1);
-    EXPECT_EQ(asideFiles().size(), 2);
-    EXPECT_EQ(open()->load().size(), 1);
-}
-
 TEST_F(JobStoreTest, NonsenseInARowCostsThatRow)
 {
     const auto store = open();

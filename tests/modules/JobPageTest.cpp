@@ -105,6 +105,9 @@ TEST_F(JobPageTest, WhatHasFailedStaysAndIsTriedAgain)
 TEST_F(JobPageTest, RowsDoNotMovePastHiddenOnes)
 {
     JobListView &list = *page.list();
+    page.show();
+    list.setFocus();
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&page));
     for (const QString &filter : {u"c"_s, QString()}) {
         list.setFilterText(filter);
         list.setCurrentIndex(list.model()->index(list.model()->rowCount() - 1, 0));

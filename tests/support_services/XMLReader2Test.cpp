@@ -78,6 +78,7 @@ TEST(XMLReader2, DocumentsBecomeDictionaries)
         {"indentation", "<a>\n  <b>\n 1\t2 \n</b>\n  <c/>\n</a>", u"{a:{b:{text:'1\t2'} c:{text:''} text:''}}"_s},
         {"mixed content", "<a>1<b>2</b>3<c/>4</a>", u"{a:{b:{text:'12'} c:{text:'3'} text:'4'}}"_s},
         {"text before an empty tag", "<a> x <b/></a>", u"{a:{b:{text:'x'}}}"_s},
+        {"other white space at one end", u"<a>x \u3000</a>"_s.toUtf8(), u"{a:{text:'x'}}"_s},
         {"other white space", u"<a>\u3000\u00A0\u2028 、x \u0085</a>"_s.toUtf8(), u"{a:{text:'、x'}}"_s},
         {"CDATA", "<a><![CDATA[ <b>&amp; ]]>]</a>", u"{a:{text:'<b>&amp; ]'}}"_s},
         {"entities", R"(<!DOCTYPE a [<!ENTITY e "x<b>y</b>">]><a c="&lt;&#x1F426;">&amp;&e;&#32;</a>)",
