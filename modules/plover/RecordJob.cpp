@@ -262,6 +262,15 @@ void RecordJob::setPaused(bool paused)
         beginStretch();
 }
 
+/// What hands over the pictures of a shared screen repeats the last one where nothing changes: none at all for five
+/// looks means that it is gone without a word.
+bool RecordJob::hasStopped()
+{
+    const qint64 before = std::exchange(m_picturesAtLook, m_stretch.pictures);
+    m_looksInVain = before > 0 && before == m_stretch.pictures ? m_looksInVain + 1 : 0;
+    return m_looksInVain >= 5;
+}
+
 void RecordJob::watch()
 {
     if (!m_recorder)
@@ -269,6 +278,12 @@ void RecordJob::watch()
     syncLater(m_recording.stretches.last());
     if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
         loseInset();
+    if (m_target.isShared && hasStopped()) {
+        m_isScreenMissing = true;
+        m_isToEnd = true;
+        m_recorder->cancel();
+        return;
+    }
     // ffmpeg waits forever for a display that is gone, and does not listen then.
     if (m_recording.plan.hasPicturesOfDisplay() && !captureTarget(m_recording.plan)) {
         m_recorder->cancel();

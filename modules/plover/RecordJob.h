@@ -75,6 +75,7 @@ private:
     void loseInset();
     void goOnAfterFailure(const ToolEnding &ending);
     void endRecording();
+    bool hasStopped();
     void watch();
     void join();
     void check(const ToolEnding &ending);
@@ -92,6 +93,8 @@ private:
     bool m_isSilent = false;
     bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
     bool m_isFinishing = false;
+    qint64 m_picturesAtLook = 0;
+    int m_looksInVain = 0;
     bool m_isToEnd = false;                      ///< with the stretch of the moment
     int m_failures = 0;                          ///< one after another, without a picture between them
     std::unique_ptr<ScreenCastPortal> m_screen;  ///< from the question to the desktop on

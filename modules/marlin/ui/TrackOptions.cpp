@@ -129,8 +129,8 @@ void TrackOptions::showLanguages(const TranscodePlan &plan, const QList<MediaInf
     }
     if (box->findData(chosen) < 0)
         add(chosen);
-    const int index = box->findData(chosen);  // or another code of that language
-    box->setCurrentIndex(index >= 0 ? index : box->findText(foundation::languageDisplayName(chosen, m_language)));
+    const int place = box->findData(chosen);  // or another code of that language
+    box->setCurrentIndex(place >= 0 ? place : box->findText(foundation::languageDisplayName(chosen, m_language)));
     connect(box, &QComboBox::activated, this, [this, box, isSound](int index) {
         emit changed([isSound, code = box->itemData(index).toString()](TranscodePlan &changing) {
             (isSound ? changing.soundLanguages : changing.subtitleLanguages) = code;

@@ -347,10 +347,12 @@ void PloversController::stopRecording()
 
 void PloversController::takeSnapshot()
 {
-    if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot())
+    if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot()) {
+        disconnect(job, &RecordJob::snapshotTaken, this, nullptr);  // one that never came
         connect(
             job, &RecordJob::snapshotTaken, this, [this](const QString &path) { keepSnapshot(QImage(path)); },
             Qt::SingleShotConnection);
+    }
     if (m_target.display.isEmpty())
         return;
     QScreen *screen = QGuiApplication::primaryScreen();

@@ -37,8 +37,9 @@ void ScreenOverlay::paintDarkened(const QRect &bright, const QString &text)
     if (!bright.isEmpty())
         painter.drawRect(bright.adjusted(-1, -1, 0, 0));
     const QSize box = painter.fontMetrics().size(Qt::TextSingleLine, text) + QSize(16, 8);
-    const bool fitsBelow = bright.bottom() + box.height() < height();
-    QPoint corner = bright.bottomLeft() + QPoint(0, fitsBelow ? 6 : -box.height());
+    constexpr int gap = 6;
+    const bool fitsAbove = bright.top() >= box.height() + gap;
+    QPoint corner = bright.topLeft() + (fitsAbove ? QPoint(0, -box.height() - gap) : QPoint(gap, gap));
     if (bright.isEmpty())
         corner = rect().center() - QPoint(box.width() / 2, 0);
     painter.fillRect(QRect(corner, box), QColor(0, 0, 0, 170));

@@ -13,7 +13,7 @@ public:
 
 protected:
     void keyPressEvent(QKeyEvent *event) override;
-    /// All but `bright`, which is framed and has `text` beneath it.
+    /// All but `bright`, which is framed and has `text` above it.
     void paintDarkened(const QRect &bright, const QString &text);
     /// Between the widget's points and the desktop's pixels.
     QRect pixelsOf(const QRect &area) const;
