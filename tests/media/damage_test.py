@@ -171,8 +171,10 @@ def outputs(bench):
             total += 1
             caught += result["state"] == "failed"
             what = f"{preset}, {name}: {words(result)}"
-            if name in FLIPS and result["state"] != "failed":
-                flips += 1
+            # An AVI file ends with what players seek by: every packet is there without it.
+            costs_only_the_index = preset.startswith("avi") and name == "zeros at the end"
+            if (name in FLIPS or costs_only_the_index) and result["state"] != "failed":
+                flips += name in FLIPS
                 print("not noticed:", what, flush=True)
             else:
                 bench.expect(result["state"] == "failed", what)
