@@ -68,6 +68,14 @@ QRect recordableArea(const QRect &wanted, const QRect &desktop)
     return area.width() >= 2 && area.height() >= 2 ? area : QRect();
 }
 
+QStringList cameraDevices()
+{
+    QStringList paths;
+    for (const QString &name : QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name))
+        paths.append(u"/dev/"_s + name);
+    return paths;
+}
+
 Target cameraTarget(const RecordPlan &plan)
 {
     CaptureTarget target;
@@ -75,10 +83,9 @@ Target cameraTarget(const RecordPlan &plan)
         target.generator = plan.camera.mid(6);
         return target;
     }
-    const QStringList devices = QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name);
     target.camera = plan.camera;
     if (target.camera.isEmpty() || !QFileInfo::exists(target.camera))
-        target.camera = devices.isEmpty() ? QString() : u"/dev/"_s + devices.first();
+        target.camera = cameraDevices().value(0);
     if (target.camera.isEmpty())
         return Failure{Sentence("No camera was found."_key)};
     return target;

@@ -20,6 +20,8 @@ struct CaptureTarget {
         false;  ///< through the portal: a stream with times of its own on standard input; the area may be empty
 };
 
+QStringList cameraDevices();  ///< paths of all that are there
+
 /// The camera alone that the plan names, or the first one.
 foundation::Result<CaptureTarget, tarnwell::Sentence> cameraTarget(const RecordPlan &plan);
 

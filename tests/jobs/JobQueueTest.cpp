@@ -384,9 +384,11 @@ TEST_F(JobQueueTest, LoadedJobsKeepTheirOrderAndDoNotStart)
     store.lastId = 7;
     queue.load();
     EXPECT_THAT(queue.order(marlin), ElementsAre(7, 3, 5));
+    queue.change(5, [](JobRecord &record) { record.title = u"changed"_s; });
+    EXPECT_EQ(store.rows[5].position, 2000);  // where it stood, whatever its number
     EXPECT_EQ(queue.add(scriptedRecord(u"new"_s)), 8);
     queue.move({8}, 3);
-    EXPECT_EQ(store.rows.size(), 1);
+    EXPECT_EQ(store.rows.size(), 2);
     EXPECT_THAT(queue.order(marlin), ElementsAre(7, 8, 3, 5));
     EXPECT_TRUE(recipe.made.isEmpty());
 }

@@ -11,7 +11,7 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTime>
-#include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPointer>
@@ -54,14 +54,6 @@ QComboBox *named(QComboBox *box, const char *objectName, tarnwell::TextKey name)
     box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
     box->setMinimumContentsLength(12);
     return box;
-}
-
-QStringList cameras()
-{
-    QStringList paths;
-    for (const QString &name : QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name))
-        paths.append(u"/dev/"_s + name);
-    return paths;
 }
 
 /// In pixels of the display.
@@ -208,7 +200,7 @@ void CapturePanel::fillSources()
             m_sources->addItem(iconOf(window.id, {{}, window.area.size()}),
                                Sentence("Window: %1"_key, {window.title}).localized(), entry(What::Window, window.id));
     }
-    for (const QString &path : cameras()) {
+    for (const QString &path : cameraDevices()) {
         m_obstacle = {};
         m_sources->addItem(Sentence("Camera %1"_key, {QFileInfo(path).fileName()}).localized(),
                            entry(What::Camera, path));
@@ -217,7 +209,6 @@ void CapturePanel::fillSources()
     if (index < 0 && What(chosen.toList().value(0).toInt()) == What::Window)
         index = m_sources->findData(entry(What::Window, 0));  // it has gone: another one is to be chosen
     m_sources->setCurrentIndex(std::max(0, index));
-    emit changed();
 }
 
 /// Without a camera there is nothing to choose.
@@ -227,7 +218,7 @@ void CapturePanel::fillCameras()
     const QSignalBlocker quiet(m_insets);
     m_insets->clear();
     m_insets->addItem("No camera in the picture"_key.localized(), QString());
-    for (const QString &path : cameras())
+    for (const QString &path : cameraDevices())
         m_insets->addItem(Sentence("Camera %1 in the picture"_key, {QFileInfo(path).fileName()}).localized(), path);
     m_insets->setCurrentIndex(std::max(0, m_insets->findData(chosen)));
     m_insets->setVisible(m_insets->count() > 1);

@@ -42,7 +42,6 @@ public:
     tarnwell::Sentence obstacle() const;
 
 signals:
-    void changed();
     void beginChosen();
 
 private:

@@ -86,7 +86,6 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 
     connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
-    connect(panel, &CapturePanel::changed, this, &PloversController::showState);
     connect(panel, &CapturePanel::beginChosen, this, [this] {
         if (m_beginning.isValid())
             m_page->showMessage({});
