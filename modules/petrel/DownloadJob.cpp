@@ -103,8 +103,10 @@ void DownloadJob::download()
     if (m_answer.isProtected)
         return fail("The film is copy protected and is not downloaded."_key);
     // A run before this one may have ended between the download and the rest.
-    if (!m_part->downloaded().isNull())
+    if (const auto words = m_part->missingCompanions()) {
+        m_companionWords = *words;
         return look();
+    }
     m_progress = EngineProgress(m_plan.bytes > 0 ? m_plan.bytes : m_answer.bytes,
                                 m_answer.film["requested_formats"_L1].toArray().size() > 1);
     m_bytesAtTry = m_part->bytes();
@@ -140,6 +142,7 @@ void DownloadJob::downloaded(const ToolEnding &ending)
         return engineFailed(ending);
     if (m_tools.engineTried)
         m_tools.engineTried(true);
+    m_part->setMissingCompanions(m_companionWords);
     look();
 }
 

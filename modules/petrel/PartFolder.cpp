@@ -9,6 +9,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QSaveFile>
 
 #include <fcntl.h>
 #include <sys/file.h>
@@ -27,7 +28,9 @@ namespace {
 
 constexpr int maximumAtOnce = 100;  ///< downloads of one plan into one folder
 constexpr qsizetype nameBytes = 143;
+constexpr qint64 maximumWords = 100'000;
 const QString ownerName = u"owner"_s;
+const QString companionsName = u"companions"_s;
 
 QString pathOf(const QString &folder, const DownloadPlan &plan, int number)
 {
@@ -124,6 +127,22 @@ QString PartFolder::downloaded() const
             largest = file;
     }
     return largest.filePath().isEmpty() ? QString() : largest.absoluteFilePath();
+}
+
+std::optional<QString> PartFolder::missingCompanions() const
+{
+    QFile file(m_path + u'/' + companionsName);
+    if (downloaded().isNull() || !file.open(QFile::ReadOnly))
+        return std::nullopt;
+    return QString::fromUtf8(file.read(maximumWords));
+}
+
+/// Where it cannot be written, a run after this one lets the engine look again.
+void PartFolder::setMissingCompanions(const QString &words)
+{
+    QSaveFile file(m_path + u'/' + companionsName);
+    if (file.open(QFile::WriteOnly) && file.write(words.toUtf8()) >= 0)
+        file.commit();
 }
 
 QString PartFolder::named(const QString &path, const QString &title) const

@@ -6,6 +6,7 @@
 #include "tarnwell/TextKey.h"
 
 #include <memory>
+#include <optional>
 
 namespace kestrel {
 
@@ -28,6 +29,10 @@ public:
     qint64 bytes() const;  ///< that are there
     /// What was downloaded, whole; null where there is no such file.
     QString downloaded() const;
+    /// Set when the engine has ended with the file that is there: what it said of companions (cover, subtitles,
+    /// chapters) that could not be added, empty where nothing is missing. Nothing before that.
+    std::optional<QString> missingCompanions() const;
+    void setMissingCompanions(const QString &words);
     /// The same file under a name of its own within the folder, for tools that make their output's name of it.
     QString named(const QString &path, const QString &title) const;
     /// Removes what was downloaded, to begin anew.

@@ -78,11 +78,16 @@ void X11Keys::readEvents()
         return;
     }
     while (xcb_generic_event_t *event = xcb_poll_for_event(m_connection.get())) {
-        const bool isPress = (event->response_type & 0x7f) == XCB_KEY_PRESS;
-        const quint8 code = isPress ? reinterpret_cast<xcb_key_press_event_t *>(event)->detail : 0;
+        const int type = event->response_type & 0x7f;
+        const auto *ofKey = reinterpret_cast<const xcb_key_press_event_t *>(event);  // a release has the same shape
+        const quint8 code = type == XCB_KEY_PRESS ? ofKey->detail : 0;
+        // A key that is held comes as a release and a press of the same moment.
+        const bool isRepeated = code != 0 && ofKey->time == m_releaseTime;
+        if (type == XCB_KEY_RELEASE)
+            m_releaseTime = ofKey->time;
         std::free(event);
         for (const auto &[key, symbol] : keys) {
-            if (code != 0 && m_codes[int(key)] == code)
+            if (code != 0 && !isRepeated && m_codes[int(key)] == code)
                 emit pressed(key);
         }
     }

@@ -40,6 +40,7 @@ private:
     std::unique_ptr<QSocketNotifier> m_notifier;
     quint32 m_root = 0;
     quint8 m_codes[3] = {};
+    quint32 m_releaseTime = 0;  ///< of the display, in milliseconds
 };
 
 }  // namespace kestrel

@@ -100,6 +100,9 @@ TEST(PartFolderTest, IsFoundAgainByThePlanAndNobodyElseHasItMeanwhile)
             ASSERT_TRUE(file.open(QIODevice::WriteOnly));
         }
         EXPECT_EQ((*again)->downloaded(), path + u"/media.webm"_s);
+        EXPECT_EQ((*again)->missingCompanions(), std::nullopt);
+        (*again)->setMissingCompanions(u"no cover"_s);
+        EXPECT_EQ((*again)->missingCompanions(), u"no cover"_s);
     }
     PartFolder::removeLeft(folder.path(), plan);
     EXPECT_FALSE(QFile::exists(path));

@@ -274,6 +274,7 @@ void PloversController::takeKeys()
           std::pair(X11Keys::Key::Snapshot, Qt::Key_N)}) {
         auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::ALT | letter), m_view->window());
         shortcut->setContext(Qt::ApplicationShortcut);
+        shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, [this, key = key] { keyPressed(key); });
         connect(m_shortcuts.get(), &QObject::destroyed, shortcut, &QObject::deleteLater);
     }
