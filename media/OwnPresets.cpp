@@ -98,6 +98,15 @@ foundation::Result<Collection, tarnwell::Sentence> readCollection(const QByteArr
     return collection;
 }
 
+/// One from outside is taken whole or not at all.
+foundation::Result<Collection, tarnwell::Sentence> readPresetFile(const QByteArray &file)
+{
+    auto read = readCollection(file.size() > maximumPresetFileBytes ? QByteArray() : file);
+    if (read && !read->refused.isEmpty())
+        return Refused{read->refused};
+    return read;
+}
+
 QByteArray writtenCollection(const QJsonArray &presets)
 {
     return QJsonDocument(QJsonObject{{versionKey, collectionVersion}, {presetsKey, presets}}).toJson();
@@ -119,6 +128,15 @@ QJsonObject optionsOf(const TranscodePlan &plan)
 void setOptions(const QJsonObject &options, TranscodePlan &plan)
 {
     putOptions(withoutFileMembers(options), plan.preset, plan);
+}
+
+bool applyPresetFile(const QByteArray &file, TranscodePlan &plan)
+{
+    const auto read = readPresetFile(file);
+    if (!read)
+        return false;
+    putOptions(read->presets.first().options, read->presets.first().preset, plan);
+    return true;
 }
 
 OwnPresets::OwnPresets(foundation::UserDefaults &defaults, QString key, QObject *parent)
@@ -214,9 +232,9 @@ QByteArray OwnPresets::exported(const QString &id) const
 
 foundation::Result<QString, tarnwell::Sentence> OwnPresets::import(const QByteArray &file)
 {
-    const auto read = readCollection(file.size() > maximumPresetFileBytes ? QByteArray() : file);
-    if (!read || !read->refused.isEmpty())
-        return Refused{read ? read->refused : read.reason()};
+    const auto read = readPresetFile(file);
+    if (!read)
+        return Refused{read.reason()};
     if (m_presets.size() + read->presets.size() > mostPresets)
         return Refused{"There are too many presets. Delete some first."_key};
     QString first;

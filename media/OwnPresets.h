@@ -55,6 +55,9 @@ private:
     bool m_isStoredUnreadable = false;  ///< at least in part: it is put aside before it is replaced
 };
 
+/// Puts the first preset of such a file and its options into the plan, for this once. False where it is refused.
+bool applyPresetFile(const QByteArray &file, TranscodePlan &plan);
+
 /// A larger file holds no presets.
 inline constexpr qint64 maximumPresetFileBytes = 256 * 1024;
 

@@ -1,11 +1,12 @@
 #include "ConvertOptions.h"
 
 #include "foundation/FileNames.h"
-#include "media/Preset.h"
+#include "foundation/UserDefaults.h"
+#include "media/OwnPresets.h"
+#include "modules/marlin/Conversion.h"
 
 #include <QFile>
 #include <QFileInfo>
-#include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
 
@@ -74,17 +75,33 @@ bool addSubtitleFile(const QString &text, TranscodePlan::SubtitleUse use, Transc
     return true;
 }
 
+/// By its id, of the user's own ones also by the name.
+bool choosePreset(const QString &value, Request &request)
+{
+    if (const Preset *preset = presetOfId(value)) {
+        request.plan.preset = *preset;
+        return true;
+    }
+    const OwnPresets own(foundation::UserDefaults::standardUserDefaults(), ownPresetsKey.toString());
+    for (const Preset &preset : own.presets()) {
+        if (preset.id == value || preset.name == value) {
+            own.apply(preset.id, request.plan);
+            return true;
+        }
+    }
+    return false;
+}
+
 bool readPresetFile(const QString &path, Request &request)
 {
-    constexpr qint64 maximumBytes = 64 * 1024;
     QFile file(path);
-    if (!file.open(QIODevice::ReadOnly))
-        return false;
-    const auto preset = Preset::fromJson(QJsonDocument::fromJson(file.read(maximumBytes)).object());
-    if (!preset)
-        return false;
-    request.plan.preset = *preset;
-    request.presetId = preset->id;
+    return file.open(QIODevice::ReadOnly) && applyPresetFile(file.read(maximumPresetFileBytes + 1), request.plan);
+}
+
+template <auto Member, bool value>
+bool setSwitch(const QString &, Request &request)
+{
+    request.plan.*Member = value;
     return true;
 }
 
@@ -96,27 +113,16 @@ TranscodePlan::Watermark &watermark(Request &request)
 }
 
 constexpr Option<Request> options[] = {
-    {"preset", "ID", "what to make, as \"presets\" lists it (mp4-h264)",
-     [](const QString &value, Request &request) {
-         const Preset *preset = presetOfId(value);
-         if (preset)
-             request.plan.preset = *preset;
-         request.presetId = value;
-         return preset != nullptr;
-     },
+    {"preset", "ID", "what to make, as \"presets\" lists it (mp4-h264)", &choosePreset,
      "\"presets --all\" lists what there is"},
-    {"preset-file", "FILE", "a preset that was exported", &readPresetFile},
+    {"preset-file", "FILE", "a preset that was exported, with its options", &readPresetFile},
     {"to", "FOLDER", "where the results go (the settings' folder)",
      [](const QString &value, Request &request) {
          request.folder = absoluteFileName(value);
          return foundation::fileFacts(request.folder).kind == foundation::FileKind::Folder;
      },
      noFolder},
-    {"beside-source", nullptr, "results go beside their sources",
-     [](const QString &, Request &request) {
-         request.plan.besideSource = true;
-         return true;
-     }},
+    {"beside-source", nullptr, "results go beside their sources", &setSwitch<&TranscodePlan::besideSource, true>},
     {"name", "PATTERN", "of the results: {name}, {preset}, {folder}, {date}",
      [](const QString &value, Request &request) {
          request.plan.namePattern = value;
@@ -128,10 +134,7 @@ constexpr Option<Request> options[] = {
          return true;
      }},
     {"chapter-per-source", nullptr, "with --join: a chapter for each",
-     [](const QString &, Request &request) {
-         request.plan.chapterPerSource = true;
-         return true;
-     }},
+     &setSwitch<&TranscodePlan::chapterPerSource, true>},
 
     {"quality", "NUMBER", "constant quality of the encoder",
      [](const QString &value, Request &request) {
@@ -148,23 +151,13 @@ constexpr Option<Request> options[] = {
          request.plan.rateControl = TranscodePlan::RateControl::Size;
          return readBytes(value, request.plan.maximumBytes);
      }},
-    {"best", nullptr, "slower and better",
-     [](const QString &, Request &request) {
-         request.plan.best = true;
-         return true;
-     }},
+    {"best", nullptr, "slower and better", &setSwitch<&TranscodePlan::best, true>},
     {"speed", "STEP", "-2 (smaller, slower) to 2 (larger, faster)",
      [](const QString &value, Request &request) { return readNumber(value, -2, 2, request.plan.speed); }},
-    {"no-hardware", nullptr, "encode in software",
-     [](const QString &, Request &request) {
-         request.plan.hardware = false;
-         return true;
-     }},
-    {"no-copy", nullptr, "encode also what would fit as it is",
-     [](const QString &, Request &request) {
-         request.plan.copies = false;
-         return true;
-     }},
+    {"no-best", nullptr, "as quick and good as usual", &setSwitch<&TranscodePlan::best, false>},
+    {"no-hardware", nullptr, "encode in software", &setSwitch<&TranscodePlan::hardware, false>},
+    {"copy", nullptr, "keep tracks that fit as they are", &setSwitch<&TranscodePlan::copies, true>},
+    {"no-copy", nullptr, "encode also what would fit as it is", &setSwitch<&TranscodePlan::copies, false>},
     {"threads", "NUMBER", "processors to use (all)",
      [](const QString &value, Request &request) { return readNumber(value, 0, 256, request.plan.threads); }},
 
@@ -188,11 +181,7 @@ constexpr Option<Request> options[] = {
      [](const QString &value, Request &request) {
          return readChoice(value, {"none", "right", "left", "around"}, request.plan.turn);
      }},
-    {"mirror", nullptr, "left and right change places",
-     [](const QString &, Request &request) {
-         request.plan.mirrored = true;
-         return true;
-     }},
+    {"mirror", nullptr, "left and right change places", &setSwitch<&TranscodePlan::mirrored, true>},
     {"brightness", "NUMBER", "-1 to 1",
      [](const QString &value, Request &request) { return readNumber(value, -1, 1, request.plan.brightness); }},
     {"contrast", "NUMBER", "0 to 2",
@@ -237,11 +226,7 @@ constexpr Option<Request> options[] = {
          request.plan.pieces.append(piece);
          return isPiece;
      }},
-    {"keyframe-cuts", nullptr, "cut at keyframes, without encoding",
-     [](const QString &, Request &request) {
-         request.plan.exactCuts = false;
-         return true;
-     }},
+    {"keyframe-cuts", nullptr, "cut at keyframes, without encoding", &setSwitch<&TranscodePlan::exactCuts, false>},
     {"tempo", "FACTOR", "0.25 to 4: 2 is twice as fast",
      [](const QString &value, Request &request) { return readNumber(value, 0.25, 4, request.plan.speedFactor); }},
     {"fade-in", "SECONDS", "of picture and sound",
@@ -260,13 +245,9 @@ constexpr Option<Request> options[] = {
      [](const QString &value, Request &request) {
          return readChoice(value, {"source", "mono", "stereo", "5.1"}, request.plan.mix);
      }},
-    {"normalize", nullptr, "even the loudness out",
-     [](const QString &, Request &request) {
-         request.plan.normalizes = true;
-         return true;
-     }},
-    {"volume", "DECIBELS", "-30 to 30",
-     [](const QString &value, Request &request) { return readNumber(value, -30, 30, request.plan.volume); }},
+    {"normalize", nullptr, "even the loudness out", &setSwitch<&TranscodePlan::normalizes, true>},
+    {"volume", "DECIBELS", "-60 to 60",
+     [](const QString &value, Request &request) { return readNumber(value, -60, 60, request.plan.volume); }},
     {"audio-rate", "BITS", "bits a second and track: 192k",
      [](const QString &value, Request &request) { return readBytes(value, request.plan.audioBitRate); }},
     {"subtitles", "TRACKS", "all, none, or by number: 1,3",
@@ -287,16 +268,9 @@ constexpr Option<Request> options[] = {
          return addSubtitleFile(value, TranscodePlan::SubtitleUse::Burn, request.plan);
      }},
 
-    {"safe", nullptr, "decode the whole result before it counts as done",
-     [](const QString &, Request &request) {
-         request.plan.safeMode = true;
-         return true;
-     }},
-    {"keep-date", nullptr, "give the results their sources' dates",
-     [](const QString &, Request &request) {
-         request.plan.keepsDate = true;
-         return true;
-     }},
+    {"safe", nullptr, "decode the whole result before it counts as done", &setSwitch<&TranscodePlan::safeMode, true>},
+    {"no-safe", nullptr, "look at the result, but do not decode it all", &setSwitch<&TranscodePlan::safeMode, false>},
+    {"keep-date", nullptr, "give the results their sources' dates", &setSwitch<&TranscodePlan::keepsDate, true>},
 };
 
 }  // namespace

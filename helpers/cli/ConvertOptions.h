@@ -8,7 +8,6 @@ namespace kestrel::cli {
 /// What `convert` and what goes through the same encoder is told.
 struct ConvertRequest {
     TranscodePlan plan;
-    QString presetId;
     QString folder;  ///< absolute; null for the settings' folder
     bool joins = false;
     /// Tracks by their number in the file, from 1, of sound and of subtitles; looked up when the file is known.

@@ -1,6 +1,8 @@
 #include "PresetsCommand.h"
 
-#include "media/Preset.h"
+#include "foundation/UserDefaults.h"
+#include "media/OwnPresets.h"
+#include "modules/marlin/Conversion.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -26,7 +28,8 @@ ExitStatus runPresets(const Surroundings &surroundings, const QStringList &argum
             return wrongUsage(u"\"presets\" takes no \"%1\", only --all."_s.arg(argument));
         all = true;
     }
-    for (const Preset &preset : all ? allPresets() : builtInPresets()) {
+    const OwnPresets own(foundation::UserDefaults::standardUserDefaults(), ownPresetsKey.toString());
+    for (const Preset &preset : own.presets() + (all ? allPresets() : builtInPresets())) {
         if (surroundings.json)
             printLine(QJsonDocument(QJsonObject{{u"id"_s, preset.id},
                                                 {u"name"_s, preset.name},

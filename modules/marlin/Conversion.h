@@ -10,6 +10,7 @@ namespace kestrel {
 class JKestrelSettingDispatcher;
 
 inline constexpr QStringView marlinJobs = u"marlin";  ///< what conversions are stored under
+inline constexpr QStringView ownPresetsKey = u"marlinPresets";  ///< of the user's own presets in the defaults
 
 /// What the settings ask of a conversion to `preset`, all else as it is sensible. A number of cores beyond `processors`
 /// means all, as does one below 1.

@@ -24,7 +24,6 @@ namespace {
 
 using tarnwell::operator""_key;
 
-const QString ownPresetsKey = u"marlinPresets"_s;
 const QString chosenPresetKey = u"marlinPreset"_s;
 const QString optionsKey = u"marlinOptions"_s;
 const QString draftFolderKey = u"marlinFolder"_s;
@@ -51,7 +50,7 @@ Conversions::Conversions(JobQueue &queue, std::shared_ptr<JKestrelSettingDispatc
       m_queue(queue),
       m_settings(std::move(settings)),
       m_defaults(defaults),
-      m_ownPresets(defaults, ownPresetsKey),
+      m_ownPresets(defaults, ownPresetsKey.toString()),
       m_recipe([this] { return tools(); })
 {
     m_draft.preset = builtInPresets().first();

@@ -102,6 +102,29 @@ bool encodesSound(const Plan &plan)
     return plan.preset.takesAudio() && plan.preset.audioCodec != "copy"_L1;
 }
 
+double rateControlOf(const Plan &plan)
+{
+    return int(plan.rateControl);
+}
+
+/// An aim begins at a figure that people mean. Sound alone knows no aim but the size: its rate has a row of its own.
+void setRateControl(Plan &plan, double value)
+{
+    constexpr qint64 usualBytes = 25 * mega, usualBitRate = 2 * mega;
+    plan.rateControl = Plan::RateControl(int(value));
+    if (!encodesVideo(plan) && plan.rateControl != Plan::RateControl::Size)
+        plan.rateControl = Plan::RateControl::Preset;
+    if (plan.rateControl == Plan::RateControl::Size && plan.maximumBytes == 0)
+        plan.maximumBytes = usualBytes;
+    if (plan.rateControl == Plan::RateControl::BitRate && plan.videoBitRate == 0)
+        plan.videoBitRate = usualBitRate;
+}
+
+bool encodesAnything(const Plan &plan)
+{
+    return encodesVideo(plan) || encodesSound(plan);
+}
+
 struct Access {
     double (*get)(const Plan &);
     void (*set)(Plan &, double);
@@ -157,14 +180,14 @@ PlanOption number(const char *id, OptionPage page, tarnwell::TextKey label, Acce
 }
 
 const PlanOption rows[] = {
-    choice("rateControl", Video, "Aim"_key, access<&Plan::rateControl>, rateControls, encodesVideo),
+    choice("rateControl", Video, "Aim"_key, {rateControlOf, setRateControl}, rateControls, encodesAnything),
     number("quality", Video, "Quality (lower is better)"_key, access<&Plan::quality>,
            {.least = 0, .most = 63, .step = 1, .atLeast = "Usual"_key}, isRateControl<Plan::RateControl::Quality>),
     number("videoBitRate", Video, "Bit rate"_key, access<&Plan::videoBitRate, kilo>,
-           {.least = 0, .most = 200'000, .step = 500, .unit = "%1 kbit/s"_key},
+           {.least = 50, .most = 200'000, .step = 500, .unit = "%1 kbit/s"_key},
            isRateControl<Plan::RateControl::BitRate>),
     number("maximumBytes", Video, "At most"_key, access<&Plan::maximumBytes, mega>,
-           {.least = 0, .most = 1'000'000, .step = 5, .unit = "%1 MB"_key}, isRateControl<Plan::RateControl::Size>),
+           {.least = 1, .most = 1'000'000, .step = 5, .unit = "%1 MB"_key}, isRateControl<Plan::RateControl::Size>),
     choice("speed", Video, "Speed"_key, access<&Plan::speed>, speeds, encodesVideo),
     flag("best", Video, "High quality (slower)"_key, access<&Plan::best>),
     flag("hardware", Video, "Use the graphics hardware"_key, access<&Plan::hardware>),

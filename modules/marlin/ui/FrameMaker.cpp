@@ -1,13 +1,17 @@
 #include "FrameMaker.h"
 
+#include "foundation/Queues.h"
 #include "jobs/ToolProcess.h"
 #include "media/ToolPath.h"
+
+#include <QPointer>
 
 namespace kestrel {
 
 namespace {
 
 constexpr std::chrono::seconds framePatience(20);
+constexpr std::chrono::milliseconds restTime(300);  ///< without a request, before the exact picture is worth its time
 constexpr qint64 largestFrame = 256 * 1024 * 1024;
 
 }  // namespace
@@ -19,6 +23,7 @@ FrameMaker::~FrameMaker() = default;
 void FrameMaker::request(const Request &request)
 {
     m_next = request;
+    ++m_requests;
     if (std::exchange(m_isRefining, false))
         m_process.reset();  // which may take seconds, and nobody waits for it any more
     if (!m_process)
@@ -52,16 +57,25 @@ void FrameMaker::start()
 void FrameMaker::take(const Request &request, const QImage &image)
 {
     const bool wasRefining = std::exchange(m_isRefining, false);
-    if (!m_next && request.place == PreviewPlace::KeyPicture && !image.isNull()) {
-        m_isRefining = true;
-        m_next = request;
-        m_next->place = PreviewPlace::Exact;
-    }
     if (m_next)
         start();
+    else if (request.place == PreviewPlace::KeyPicture && !image.isNull())
+        refineLater(request);
     // Where the exact one takes too long, the first one stays.
     if (!image.isNull() || !wasRefining)
         emit made(image);
+}
+
+void FrameMaker::refineLater(Request request)
+{
+    request.place = PreviewPlace::Exact;
+    foundation::queue::afterMain(restTime, [self = QPointer(this), request, number = m_requests] {
+        if (!self || self->m_requests != number)
+            return;
+        self->m_isRefining = true;
+        self->m_next = request;
+        self->start();
+    });
 }
 
 }  // namespace kestrel

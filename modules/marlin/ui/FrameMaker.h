@@ -13,8 +13,8 @@ namespace kestrel {
 class ToolPath;
 class ToolProcess;
 
-/// One picture of a source or of what becomes of it, computed in the background: the key picture before it first, then
-/// the exact one. Of several requests only the latest is carried out. Main thread.
+/// One picture of a source or of what becomes of it, computed in the background: the key picture before it first, then,
+/// when no other was asked for, the exact one. Of several requests only the latest is carried out. Main thread.
 class FrameMaker : public QObject {
     Q_OBJECT
 public:
@@ -40,9 +40,11 @@ signals:
 private:
     void start();
     void take(const Request &request, const QImage &image);
+    void refineLater(Request request);
 
     std::optional<Request> m_next;
     bool m_isRefining = false;
+    quint64 m_requests = 0;
     std::unique_ptr<ToolPath> m_path;
     std::unique_ptr<ToolProcess> m_process;
 };
