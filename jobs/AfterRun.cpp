@@ -91,7 +91,9 @@ void AfterRun::showState()
     if (hasWork)
         stopShutdown();
     const bool isActive = !m_queue.idsIn({JobState::Running, JobState::Paused, JobState::Stopping}).isEmpty();
-    m_services->setAwake(isActive, AppLocalizedString(u"Jobs are running."_s));
+    const QString why = AppLocalizedString(u"Jobs are running."_s);
+    m_services->setAwake(isActive, why);
+    m_services->setScreenOn(m_queue.isLaneActive(Lane::Capture), why);
     const auto fraction = rounded(hasWork ? m_queue.overallProgress().fraction : std::nullopt);
     if (fraction != m_shownFraction)
         m_services->showProgress(fraction);

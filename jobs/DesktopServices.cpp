@@ -8,6 +8,8 @@
 #include <QDBusPendingReply>
 #include <QDBusUnixFileDescriptor>
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -25,11 +27,24 @@ QDBusMessage loginCall(const QString &method, const QVariantList &arguments)
     return call;
 }
 
+QDBusMessage screenCall(const QString &method, const QVariantList &arguments)
+{
+    const QString interface = u"org.freedesktop.ScreenSaver"_s;
+    QDBusMessage call = QDBusMessage::createMethodCall(interface, u"/org/freedesktop/ScreenSaver"_s, interface, method);
+    call.setArguments(arguments);
+    return call;
+}
+
 }  // namespace
 
 /// Holds as long as its descriptor is open; one that is no longer wanted when the answer comes closes it at once.
 struct DesktopServices::Inhibition {
     QDBusUnixFileDescriptor descriptor;
+};
+
+/// Holds until it is taken back by the number that the desktop gave, or the connection closes.
+struct DesktopServices::ScreenInhibition {
+    std::optional<uint> number;
 };
 
 DesktopServices::DesktopServices(const QString &desktopName, QObject *parent)
@@ -57,6 +72,29 @@ void DesktopServices::setAwake(bool awake, const QString &why)
                        if (const auto wanted = inhibition.lock(); wanted && reply.isValid())
                            wanted->descriptor = reply.value();
                    });
+}
+
+void DesktopServices::setScreenOn(bool on, const QString &why)
+{
+    if (on == bool(m_screenInhibition))
+        return;
+    const auto takeBack = [this](uint number) { m_session->call(screenCall(u"UnInhibit"_s, {number})); };
+    if (!on) {
+        if (const auto former = std::exchange(m_screenInhibition, nullptr); former->number)
+            takeBack(*former->number);
+        return;
+    }
+    m_screenInhibition = std::make_shared<ScreenInhibition>();
+    m_session->call(screenCall(u"Inhibit"_s, {QCoreApplication::applicationName(), why}),
+                    [inhibition = std::weak_ptr(m_screenInhibition), takeBack](const QDBusMessage &message) {
+                        const QDBusPendingReply<uint> reply(message);
+                        if (!reply.isValid())
+                            return;
+                        if (const auto wanted = inhibition.lock())
+                            wanted->number = reply.value();
+                        else
+                            takeBack(reply.value());
+                    });
 }
 
 void DesktopServices::showProgress(std::optional<double> fraction)

@@ -25,6 +25,8 @@ public:
     /// From now on, or until it is called with false, the machine does not go to sleep by itself. `why` is for the
     /// user.
     void setAwake(bool awake, const QString &why);
+    /// As setAwake, and the screen stays on.
+    void setScreenOn(bool on, const QString &why);
     /// 0 to 1, or nothing.
     void showProgress(std::optional<double> fraction);
     /// `notificationChosen` with that `tag` follows where the user asks to see it. Both texts are plain; `body` must
@@ -43,14 +45,16 @@ private slots:
 
 private:
     struct Inhibition;
+    struct ScreenInhibition;
 
     void listenToNotifications();
 
     QString m_desktopName;
     std::unique_ptr<DesktopBus> m_system;
     std::unique_ptr<DesktopBus> m_session;
-    std::shared_ptr<Inhibition> m_inhibition;  ///< while the machine is to stay awake
-    QHash<uint, QString> m_notifications;      ///< tags of those that are shown
+    std::shared_ptr<Inhibition> m_inhibition;              ///< while the machine is to stay awake
+    std::shared_ptr<ScreenInhibition> m_screenInhibition;  ///< while the screen is to stay on
+    QHash<uint, QString> m_notifications;                  ///< tags of those that are shown
     bool m_listensToNotifications = false;
 };
 

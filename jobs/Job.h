@@ -11,7 +11,7 @@
 namespace kestrel {
 
 /// The run of a job. Made for one run and used once; ending the object ends its tools at once and removes what it
-/// wrote. Main thread.
+/// wrote, but for an output that is getting its name, which keeps it. Main thread.
 class Job : public QObject {
     Q_OBJECT
 public:

@@ -161,15 +161,16 @@ void JobQueue::interrupt(QList<JobId> ids)
     // Stored first: ending the tools may take its time, and this may be the program's last moment.
     for (const JobId id : ids) {
         Entry &entry = *find(id);
+        const bool isPlaced = std::exchange(entry.record.placing, std::nullopt).has_value();
         entry.record.state = JobState::Interrupted;
         entry.record.outcome = {.state = JobState::Interrupted};
-        entry.record.placing.reset();
         leaveLane(entry);
         entry.run->job().disconnect(this);
-        if (m_store && entry.run->isToBeRemoved)
+        if (m_store && entry.run->isToBeRemoved) {
             m_store->remove({id});
-        else
+        } else if (!isPlaced) {  // what is getting its name may still get it: the store knows both, for the next start
             store(entry);
+        }
     }
     for (const JobId id : ids)
         find(id)->run->end();

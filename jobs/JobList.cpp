@@ -37,7 +37,8 @@ QString cellText(const JobRecord &record, int column)
 QString hoverText(const JobRecord &record, int column)
 {
     switch (column) {
-        case JobList::TitleColumn:
+        case JobList::TitleColumn:  // which stands for the row where a list shows but one column
+            return record.source + u'\n' + jobStateHoverText(record);
         case JobList::DetailColumn:
             return record.source;
         case JobList::StateColumn:
@@ -163,6 +164,8 @@ QVariant JobList::data(const QModelIndex &index, int role) const
             return index.column() == TitleColumn && m_pictures ? m_pictures(record) : QVariant();
         case Qt::AccessibleTextRole:
             return accessibleText(index);
+        case WarningRole:
+            return warningText(record);
         case IdRole:
             return record.id;
         case StateRole:
@@ -174,6 +177,19 @@ QVariant JobList::data(const QModelIndex &index, int role) const
         default:
             return {};
     }
+}
+
+QString JobList::warningText(const JobRecord &record) const
+{
+    if (isActive(record.state))
+        return record.note.localized();
+    const bool isMade = record.state == JobState::Done || record.state == JobState::DoneWithProblems;
+    if (!isMade || record.outcome.leftOut.isEmpty())
+        return {};
+    QStringList leftOut;
+    for (const tarnwell::Sentence &sentence : record.outcome.leftOut)
+        leftOut.append(sentence.localized());
+    return tarnwell::Sentence("Left out: %1"_key, {leftOut.join(u' ')}).localized();
 }
 
 /// A row is heard as a whole: lists of one column show but the title.

@@ -16,8 +16,7 @@ class JobList : public QAbstractTableModel {
     Q_OBJECT
 public:
     enum Column { TitleColumn, DetailColumn, StateColumn, ColumnCount };
-    /// Warning: what will be missing from the result or is, in a line; for the title's column, like the accessible
-    /// text.
+    /// Warning: what will be missing from the result or is, or what is to be known of the run, in a line.
     enum Role { IdRole = Qt::UserRole, StateRole, FractionRole, RecordRole, WarningRole };
 
     JobList(JobQueue &queue, const QString &module, QObject *parent = nullptr);
@@ -45,6 +44,7 @@ public:
                       const QModelIndex &parent) override;
 
 protected:
+    virtual QString warningText(const JobRecord &record) const;
     const JobRecord &recordAt(int row) const;
     JobQueue &queue() const { return m_queue; }
 

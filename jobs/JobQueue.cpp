@@ -10,6 +10,7 @@
 
 #include <algorithm>
 #include <mutex>
+#include <utility>
 
 namespace kestrel {
 
@@ -95,9 +96,11 @@ struct JobQueue::OutputLook {
 void JobQueue::lookForOutputs()
 {
     QList<JobRecord> made;
-    for (const JobId id : idsIn({JobState::Done, JobState::DoneWithProblems}))
-        made.append(*record(id));
-    if (made.isEmpty())
+    for (const JobId id : idsIn({JobState::Done, JobState::DoneWithProblems})) {
+        if (const JobRecord *done = record(id); !done->outcome.problems.contains(tarnwell::Sentence(outputIsGone)))
+            made.append(*done);
+    }
+    if (made.isEmpty() || std::exchange(m_isLookingForOutputs, true))
         return;
     const auto look = std::make_shared<OutputLook>();
     foundation::queue::asyncDetached([look, made] {
@@ -129,6 +132,7 @@ void JobQueue::fetchGone(const std::shared_ptr<OutputLook> &look, std::chrono::m
             setOutputsGone(entry->record);
             emit changed(looked.id);
         }
+        m_isLookingForOutputs = !hasEnded;
         if (!hasEnded)
             fetchGone(look, next);
     });

@@ -39,6 +39,9 @@ public:
     /// soon afterwards.
     void load();
 
+    /// The same look at what was made, again; for a window that comes back.
+    void lookForOutputs();
+
     JobId add(JobRecord record);              ///< at the end of its module's order
     const JobRecord *record(JobId id) const;  ///< null where there is none; valid until the next change
     const QList<JobId> &order(const QString &module) const;
@@ -65,6 +68,7 @@ public:
     /// Ids in any of the states; of all modules where `module` is null.
     QList<JobId> idsIn(std::initializer_list<JobState> states, const QString &module = {}) const;
     bool hasWork(const QString &module = {}) const;  ///< something waits or is active
+    bool isLaneActive(Lane lane) const { return m_lanes[size_t(lane)].active > 0; }
     /// Of everything that waits or runs since the module was last idle, by weight of expected work; nothing where no
     /// job can tell.
     JobProgress overallProgress(const QString &module = {}) const;
@@ -118,7 +122,6 @@ private:
 
     void removeRows(Module &module, const QString &name, const QList<JobId> &ids);
     struct OutputLook;
-    void lookForOutputs();
     void fetchGone(const std::shared_ptr<OutputLook> &look, std::chrono::milliseconds delay);
     void moveRanges(const QString &name, const QList<JobOrder::Range> &ranges, int to);
 
@@ -158,6 +161,7 @@ private:
     bool m_isStartingLater = false;
     bool m_isShowingLater = false;
     bool m_isToLookAgain = false;
+    bool m_isLookingForOutputs = false;
     bool m_isEnding = false;
 };
 

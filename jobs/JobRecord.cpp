@@ -121,6 +121,8 @@ QJsonObject jobRecordToJson(const JobRecord &record)
                      {u"added"_s, record.added.toUTC().toString(Qt::ISODateWithMs)},
                      {u"started"_s, record.started.toUTC().toString(Qt::ISODateWithMs)},
                      {u"ended"_s, record.ended.toUTC().toString(Qt::ISODateWithMs)}};
+    if (!record.note.isEmpty())
+        json.insert(u"note"_s, record.note.toJson());
     if (record.placing)
         json.insert(u"placing"_s, record.placing->toJson());
     if (isEnded(record.state) || record.state == JobState::Unusable || record.placing)
@@ -140,6 +142,7 @@ bool readJobRecord(const QJsonObject &json, JobRecord &record)
     record.added = timeFromJson(json.value("added"_L1));
     record.started = timeFromJson(json.value("started"_L1));
     record.ended = timeFromJson(json.value("ended"_L1));
+    record.note = tarnwell::Sentence::fromJson(json.value("note"_L1));
     record.placing = PlacedPart::fromJson(json.value("placing"_L1).toObject());
     if (json.contains("outcome"_L1))
         record.outcome = outcomeFromJson(json.value("outcome"_L1).toObject());

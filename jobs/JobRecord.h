@@ -78,11 +78,11 @@ struct JobRecord {
     QDateTime added = {}, started = {}, ended = {};
     /// While its output gets its name; `outcome` is then what it will be, but for the name.
     std::optional<PlacedPart> placing = {};
+    tarnwell::Sentence note = {};  ///< what the user should know of the run: "Encoding in software"
 
     // Not stored
     JobProgress progress = {};
     tarnwell::Sentence blocked = {};  ///< why it waits, where that is not its turn
-    tarnwell::Sentence note = {};     ///< what the user should know of the run: "Encoding in software"
 };
 
 /// What is stored of a record besides its id, module and state.

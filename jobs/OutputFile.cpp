@@ -111,8 +111,10 @@ OutputFile::~OutputFile()
 {
     if (m_registration.isEmpty())
         return;
-    placing::removePart(m_partPath);
-    forget();
+    // Where its disk is away, a start after this one finds the part.
+    const bool isFolderThere = foundation::fileFacts(m_folder).kind == foundation::FileKind::Folder;
+    if (placing::removePart(m_partPath) && isFolderThere)
+        forget();
 }
 
 /// The reason where it cannot be made.

@@ -93,7 +93,7 @@ ToolGroup::~ToolGroup()
     }
     if (m_depth == 0 && m_process->state() == QProcess::NotRunning)
         return;
-    // It called us, or does not end yet: it goes by itself.
+    // To delete a QProcess within its own signal crashes, and while its program runs it waits for that.
     QProcess *process = m_process.release();
     if (process->state() == QProcess::NotRunning)
         process->deleteLater();

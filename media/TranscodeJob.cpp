@@ -32,6 +32,7 @@ TranscodeJob::TranscodeJob(TranscodeRequest request, QObject *parent) : ToolJob(
 TranscodeJob::~TranscodeJob()
 {
     endTool();
+    m_placing.reset();  // what is getting its name keeps it: only who cancels takes it back
     discard();
 }
 

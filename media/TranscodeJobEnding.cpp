@@ -4,8 +4,11 @@
 #include "TranscodeVerdict.h"
 
 #include "foundation/FileNames.h"
+#include "jobs/DiskSpace.h"
 #include "jobs/OutputFile.h"
 #include "tarnwell/Log.h"
+
+#include <QDir>
 
 #include <algorithm>
 #include <utility>
@@ -82,6 +85,11 @@ void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFin
                                .findings = findings,
                                .readingFaults = m_reading.faults()};
     JobOutcome outcome = transcodeVerdict(facts);
+    // What encoders say of a folder for temporary files that is full is not always "no space".
+    constexpr qint64 leastTemporarySpace = 1'000'000;
+    const auto space = m_workFolder ? diskSpaceOf(QDir::tempPath()) : std::nullopt;
+    if (outcome.state == JobState::Failed && space && space->available < leastTemporarySpace)
+        outcome.sentence = "The disk for temporary files is full. Free some space and convert again."_key;
     if (m_reading.faults() > 0)
         outcome.details += u'\n' + m_reading.text();
     outcome.leftOut = m_steps.leftOut;

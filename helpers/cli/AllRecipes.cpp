@@ -2,6 +2,7 @@
 
 #include "jobs/JobQueue.h"
 #include "media/MediaProber.h"
+#include "media/Preset.h"
 #include "modules/heron/DiscTools.h"
 #include "modules/marlin/Conversion.h"
 #include "modules/petrel/Download.h"
@@ -39,6 +40,8 @@ AllRecipes::AllRecipes(JobQueue &queue)
 {
     for (const auto &[module, recipe] : m_recipes)
         queue.setRecipe(module, recipe);
+    const int processors = QThread::idealThreadCount();
+    setLanes(queue, conversionPlan(*m_video, builtInPresets().first(), processors).threads, processors);
     queue.setLaneLimit(Lane::Net, downloadsAtOnce(*m_download));
 }
 

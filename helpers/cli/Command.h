@@ -30,6 +30,9 @@ struct Command {
 
 std::span<const Command> commands();
 
+/// Where the arguments ask for help: prints how the command is used, as it stands in the table. False where they do
+/// not. For commands without a table of options.
+bool tellUsage(const char *command, const QStringList &arguments);
 /// One sentence on standard error.
 ExitStatus wrongUsage(const QString &sentence);
 /// A line on standard output, at once. Where that cannot be written, the program says so once on standard error and

@@ -32,7 +32,8 @@ MediaProber::Answer lookedAt(const QString &path, CliSession &session)
         loop.quit();
     });
     prober.probe(1, proberBeside(session.settings().getTranscoderPath()), path);
-    session.wait(loop);
+    if (!session.wait(loop) || !told)
+        return foundation::Failure{tarnwell::Sentence()};  // the command ends
     return *told;
 }
 
@@ -132,6 +133,7 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
 
     TranscodeRecipe recipe([&settings] { return transcodeTools(settings, QThread::idealThreadCount()); });
     session.queue().setRecipe(marlinJobs.toString(), &recipe);
+    setLanes(session.queue(), request.plan.threads, QThread::idealThreadCount());
     QList<JobId> ids;
     for (const auto &[plan, unusable] : *conversions) {
         const bool isGiven = !request.folder.isNull() && !plan.besideSource;

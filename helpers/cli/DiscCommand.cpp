@@ -128,11 +128,12 @@ ExitStatus runDisc(const Surroundings &surroundings, const QStringList &argument
 {
     const QString verb = arguments.value(0);
     const QStringList rest = arguments.mid(1);
-    if (verb == "info"_L1)
+    const bool wantsHelp = arguments.contains("--help"_L1) || arguments.contains("-h"_L1);
+    if (verb == "info"_L1 && !wantsHelp)
         return runInfo(rest);
     if (verb == "copy"_L1 || verb == "rip"_L1)
         return runKeep(surroundings, rest, verb == "rip"_L1);
-    if (verb == "--help"_L1 || verb == "-h"_L1) {
+    if (wantsHelp) {
         printLine(
             "Usage: kestrel-cli disc info SOURCE\n"
             "       kestrel-cli disc copy --way WAY [OPTION…] SOURCE\n"

@@ -51,6 +51,8 @@ ExitStatus update(const Surroundings &surroundings, CliSession &session)
 
 ExitStatus runEngine(const Surroundings &surroundings, const QStringList &arguments)
 {
+    if (tellUsage("engine", arguments))
+        return AllDone;
     if (arguments != QStringList{u"--update"_s} && !arguments.isEmpty())
         return wrongUsage(u"\"engine\" takes nothing but --update."_s);
     CliSession session(ModuleSettingDownload);

@@ -137,6 +137,8 @@ void JobReporter::result(qsizetype number, const JobRecord &record)
         object[u"outputs"_s] = QJsonArray::fromStringList(outcome.outputs);
         object[u"problems"_s] = english(problemsOf(outcome));
         object[u"left_out"_s] = english(outcome.leftOut);
+        if (!record.note.isEmpty())
+            object[u"note"_s] = record.note.english();
         printObject(object);
         return;
     }
@@ -150,6 +152,8 @@ void JobReporter::result(qsizetype number, const JobRecord &record)
         if (problem.localized() != jobStateText(record))  // which the line has said
             printLine(shown(u"  "_s + problem.localized()).toUtf8());
     }
+    if (!record.note.isEmpty())
+        printLine(shown(u"  "_s + record.note.localized()).toUtf8());
     for (const Sentence &leftOut : outcome.leftOut)
         printLine(shown(u"  "_s + AppLocalizedString(u"Left out: %1"_s).arg(leftOut.localized())).toUtf8());
     if (!isGood && !outcome.details.isEmpty()) {

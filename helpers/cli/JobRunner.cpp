@@ -2,6 +2,10 @@
 
 #include "CliSession.h"
 #include "JobReporter.h"
+#include "foundation/Bundle.h"
+#include "jobs/DesktopServices.h"
+#include "tarnwell/Localization.h"
+#include "tarnwell/ProductInformation.h"
 
 #include <QEventLoop>
 
@@ -28,6 +32,13 @@ ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundi
             reporter.progress(ids.indexOf(id) + 1, *record);
     });
     QObject::connect(&queue, &JobQueue::ended, &loop, take);
+
+    DesktopServices desktop(tarnwell::productBundle().identifier());
+    const QString why = tarnwell::AppLocalizedString(u"Jobs are running."_s);
+    QObject::connect(&queue, &JobQueue::changed, &loop, [&] {
+        desktop.setAwake(true, why);
+        desktop.setScreenOn(queue.isLaneActive(Lane::Capture), why);
+    });
 
     QObject::connect(&session.terminationSignals(), &foundation::TerminationSignals::received, &loop, [&] {
         const bool stops = meaning == SignalMeaning::Stop && !isInterrupted;

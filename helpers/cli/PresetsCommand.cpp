@@ -22,6 +22,8 @@ QJsonValue codecOf(const QString &codec)
 
 ExitStatus runPresets(const Surroundings &surroundings, const QStringList &arguments)
 {
+    if (tellUsage("presets", arguments))
+        return AllDone;
     bool all = false;
     for (const QString &argument : arguments) {
         if (argument != "--all"_L1)

@@ -123,6 +123,17 @@ QString interfaceLanguage()
 
 }  // namespace
 
+bool tellUsage(const char *command, const QStringList &arguments)
+{
+    if (!arguments.contains("--help"_L1) && !arguments.contains("-h"_L1))
+        return false;
+    for (const Command &row : commands()) {
+        if (qstrcmp(row.name, command) == 0)
+            printLine(QByteArray("Usage: kestrel-cli ") + row.name + ' ' + row.synopsis + "\n\n" + row.summary);
+    }
+    return true;
+}
+
 ExitStatus wrongUsage(const QString &sentence)
 {
     std::fprintf(stderr, "kestrel-cli: %s\n", qUtf8Printable(sentence));

@@ -17,9 +17,12 @@ namespace {
 
 using tarnwell::operator""_key;
 
-QStringList linesOf(const JobOutcome &outcome)
+QStringList linesOf(const JobRecord &record)
 {
+    const JobOutcome &outcome = record.outcome;
     QStringList lines;
+    if (!record.note.isEmpty())
+        lines.append(record.note.localized());
     for (const tarnwell::Sentence &problem : outcome.problems)
         lines.append(problem.localized());
     for (const tarnwell::Sentence &leftOut : outcome.leftOut)
@@ -38,7 +41,7 @@ JobDetails::JobDetails(const JobRecord &record, QWidget *parent)
     tarnwell::TranslateControls(this);
     const JobOutcome &outcome = record.outcome;
     const QString sentence = outcome.sentence.isEmpty() ? jobStateText(record) : outcome.sentence.localized();
-    const QString problems = linesOf(outcome).join(u'\n');
+    const QString problems = linesOf(record).join(u'\n');
     const struct {
         QLabel *label;
         QString text;

@@ -246,6 +246,8 @@ bool JobPage::event(QEvent *event)
         event->accept();
         return true;
     }
+    if (event->type() == QEvent::WindowActivate || event->type() == QEvent::Show)
+        m_queue.lookForOutputs();
     return QWidget::event(event);
 }
 

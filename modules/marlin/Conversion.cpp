@@ -1,10 +1,13 @@
 #include "Conversion.h"
 
 #include "foundation/FileNames.h"
+#include "jobs/JobQueue.h"
 #include "media/MediaProber.h"
 #include "media/OutputName.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/SystemInformation.h"
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -52,6 +55,13 @@ void writeSwitches(JKestrelSettingDispatcher &settings, int processors, const Tr
     settings.setDeinterlacing(plan.deinterlace != Auto && plan.deinterlace != Off);
     settings.setSafeMode(plan.safeMode);
     settings.setMergeMKV(plan.chapterPerSource);
+}
+
+void setLanes(JobQueue &queue, int threads, int processors)
+{
+    const bool takesAll = threads == 0;
+    queue.setLaneLimit(Lane::Encode, takesAll ? std::max(1, processors / 4) : 1);
+    queue.setLaneLimit(Lane::Sound, takesAll ? std::max(1, processors / 2) : 1);
 }
 
 QString conversionFolder(const JKestrelSettingDispatcher &settings, const TranscodePlan &plan)

@@ -8,8 +8,9 @@
 namespace kestrel {
 
 class JKestrelSettingDispatcher;
+class JobQueue;
 
-inline constexpr QStringView marlinJobs = u"marlin";  ///< what conversions are stored under
+inline constexpr QStringView marlinJobs = u"marlin";            ///< what conversions are stored under
 inline constexpr QStringView ownPresetsKey = u"marlinPresets";  ///< of the user's own presets in the defaults
 
 /// What the settings ask of a conversion to `preset`, all else as it is sensible. A number of cores beyond `processors`
@@ -19,6 +20,10 @@ TranscodePlan conversionPlan(const JKestrelSettingDispatcher &settings, const Pr
 /// The settings' switches in a plan, and a plan's in the settings: those that a user sets for all that comes.
 void readSwitches(const JKestrelSettingDispatcher &settings, int processors, TranscodePlan &plan);
 void writeSwitches(JKestrelSettingDispatcher &settings, int processors, const TranscodePlan &plan);
+
+/// How many conversions, and how many of sound alone, run at once: films take four cores each, songs two. Where the
+/// user keeps cores free (`threads` of the plan is not 0), one of each.
+void setLanes(JobQueue &queue, int threads, int processors);
 
 /// Where its result goes: the settings' folder for video, or for music, or beside the source.
 QString conversionFolder(const JKestrelSettingDispatcher &settings, const TranscodePlan &plan);

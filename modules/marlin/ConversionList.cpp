@@ -2,6 +2,7 @@
 
 #include "Conversion.h"
 #include "Conversions.h"
+#include "jobs/JobText.h"
 #include "jobs/RemainingTime.h"
 #include "tarnwell/HoverText.h"
 
@@ -49,13 +50,9 @@ ConversionList::ConversionList(Conversions &conversions, QObject *parent)
 
 QString ConversionList::warningText(const JobRecord &record) const
 {
-    if (record.state == JobState::Done || record.state == JobState::DoneWithProblems) {
-        const QString leftOut = joined(record.outcome.leftOut);
-        return leftOut.isEmpty() ? leftOut : tarnwell::Sentence("Left out: %1"_key, {leftOut}).localized();
-    }
     if (record.state == JobState::Ready || record.state == JobState::Waiting)
         return joined(m_conversions.warnings(record.id));
-    return isActive(record.state) ? record.note.localized() : QString();
+    return JobList::warningText(record);
 }
 
 QVariant ConversionList::data(const QModelIndex &index, int role) const
@@ -63,12 +60,10 @@ QVariant ConversionList::data(const QModelIndex &index, int role) const
     if (!index.isValid())
         return {};
     const JobRecord &record = recordAt(index.row());
-    if (role == WarningRole)
-        return warningText(record);
     if (role == Qt::DisplayRole && index.column() == DetailColumn)
         return detailText(record);
     if (role == Qt::ToolTipRole && index.column() != StateColumn) {
-        QStringList lines{record.source, detailText(record), warningText(record)};
+        QStringList lines{record.source, detailText(record), warningText(record), jobStateHoverText(record)};
         lines.removeAll(QString());
         return tarnwell::hoverTextShowing(lines.join(u'\n'));
     }

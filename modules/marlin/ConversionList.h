@@ -16,7 +16,7 @@ public:
     QVariant data(const QModelIndex &index, int role) const override;
 
 private:
-    QString warningText(const JobRecord &record) const;
+    QString warningText(const JobRecord &record) const override;
 
     Conversions &m_conversions;
 };

@@ -63,6 +63,7 @@ Conversions::Conversions(JobQueue &queue, std::shared_ptr<JKestrelSettingDispatc
     if (const QString folder = defaults.stringForKey(draftFolderKey); QFileInfo(folder).isDir())
         m_draftFolder = folder;
     m_queue.setRecipe(marlinJobs.toString(), &m_recipe);
+    setLanes(m_queue, draft().threads, QThread::idealThreadCount());
     connect(&m_prober, &MediaProber::probed, this, &Conversions::probed);
     connect(&m_queue, &JobQueue::removed, this, [this](const QString &module) {
         if (module == marlinJobs && !std::exchange(m_isForgetting, true))
@@ -219,6 +220,7 @@ void Conversions::edit(const QList<JobId> &ids, const Change &change)
     TranscodePlan plan = draft();
     change(plan);
     writeSwitches(*m_settings, QThread::idealThreadCount(), plan);
+    setLanes(m_queue, plan.threads, QThread::idealThreadCount());
     m_draft = plan;
     rememberDraft();
     emit draftChanged();

@@ -50,6 +50,8 @@ DownloadJob::DownloadJob(DownloadPlan plan, QString folder, DownloadTools tools,
 DownloadJob::~DownloadJob()
 {
     endTool();
+    m_placing.reset();  // what is getting its name keeps it: only who cancels takes it back
+    m_conversion.reset();
     discard();
 }
 
@@ -350,6 +352,8 @@ void DownloadJob::discard()
 {
     m_isOver = true;
     ++m_waitNumber;
+    if (m_conversion)
+        m_conversion->cancel();
     m_conversion.reset();
     if (m_placing)
         m_placing->takeBack();

@@ -60,6 +60,20 @@ private:
     int m_readEnd = -1;
 };
 
+class ScreenSaver : public QObject {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.freedesktop.ScreenSaver")
+public:
+    QList<uint> m_holders;
+public slots:
+    uint Inhibit(const QString &, const QString &)
+    {
+        m_holders += 7;
+        return 7;
+    }
+    void UnInhibit(uint number) { m_holders.removeOne(number); }
+};
+
 class Notifications : public QObject {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Notifications")
@@ -111,6 +125,7 @@ protected:
     void offerAll()
     {
         offer(u"org.freedesktop.login1"_s, u"/org/freedesktop/login1"_s, m_login);
+        offer(u"org.freedesktop.ScreenSaver"_s, u"/org/freedesktop/ScreenSaver"_s, m_screenSaver);
         offer(u"org.freedesktop.Notifications"_s, u"/org/freedesktop/Notifications"_s, m_notifications);
         m_bus.connect({}, {}, u"com.canonical.Unity.LauncherEntry"_s, u"Update"_s, &m_taskBar,
                       SLOT(update(QString, QVariantMap)));
@@ -124,12 +139,12 @@ protected:
             m_recipe.made[i]->end({.state = endings[i]});
         return test::waitUntil([&] { return idle.count() > 0; });
     }
-    void start(qsizetype count)
+    void start(qsizetype count, Lane lane = Lane::Encode)
     {
         m_recipe.made.clear();
         QList<JobId> ids;
         for (qsizetype i = 0; i < count; ++i) {
-            JobRecord record = test::scriptedRecord(u"<film>.mov"_s);
+            JobRecord record = test::scriptedRecord(u"<film>.mov"_s, lane);
             record.folder = m_folder.path();
             ids += m_queue.add(record);
         }
@@ -147,6 +162,7 @@ protected:
     test::TestDesktop m_desktop;
     QDBusConnection m_bus = QDBusConnection::connectToBus(test::PrivateBus::instance().address(), u"stand-ins"_s);
     LoginManager m_login;
+    ScreenSaver m_screenSaver;
     Notifications m_notifications;
     TaskBar m_taskBar;
     test::ScriptedRecipe m_recipe;
@@ -164,6 +180,7 @@ TEST_F(AfterRunTest, the_machine_stays_awake_while_a_job_is_active)
     start(2);
     ASSERT_TRUE(test::waitUntil([this] { return m_login.isInhibited(); }));
     EXPECT_EQ(m_login.m_calls, QStringList(u"Inhibit sleep:idle block"_s));
+    EXPECT_TRUE(m_screenSaver.m_holders.isEmpty()) << "only what is recorded needs the screen";
     emit m_recipe.made[0]->progressed({.fraction = 0.5});
     EXPECT_TRUE(test::waitUntil([this] { return !m_taskBar.m_updates.isEmpty(); }));
     EXPECT_EQ(m_taskBar.m_updates.value(0).value(u"progress-visible"_s), true);
@@ -174,6 +191,15 @@ TEST_F(AfterRunTest, the_machine_stays_awake_while_a_job_is_active)
     EXPECT_TRUE(test::waitUntil([this] { return !m_login.isInhibited(); }));
     EXPECT_TRUE(test::waitUntil([this] { return m_taskBar.m_updates.last().value(u"progress-visible"_s) == false; }));
     EXPECT_LE(m_taskBar.m_updates.size(), 4);
+}
+
+TEST_F(AfterRunTest, the_screen_stays_on_while_it_is_recorded)
+{
+    offerAll();
+    start(1, Lane::Capture);
+    ASSERT_TRUE(test::waitUntil([this] { return m_screenSaver.m_holders.size() == 1; }));
+    m_recipe.made[0]->end({.state = JobState::Done});
+    EXPECT_TRUE(test::waitUntil([this] { return m_screenSaver.m_holders.isEmpty(); }));
 }
 
 TEST_F(AfterRunTest, an_answer_that_comes_after_the_jobs_is_let_go)

@@ -145,7 +145,7 @@ TEST(ToolProcessTest, TellsHowAToolEnded)
         {"time", with(u"while :; do echo; sleep 0.01; done"_s, [](ToolCommand &c) { c.timeLimit = 150ms; }),
          Cause::TimeLimit, 128 + SIGKILL},
         {"busy silence",
-         with(u"n=0; while [ $n -lt 1500000 ]; do n=$((n+1)); done"_s, [](ToolCommand &c) { c.silenceLimit = 200ms; }),
+         with(u"n=0; while [ $n -lt 600000 ]; do n=$((n+1)); done"_s, [](ToolCommand &c) { c.silenceLimit = 200ms; }),
          Cause::Exited, 0},
         {"busy for ever", with(u"while :; do :; done"_s, [](ToolCommand &c) { c.silenceLimit = 40ms; }), Cause::Silence,
          128 + SIGKILL},
