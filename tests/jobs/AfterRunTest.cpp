@@ -36,7 +36,7 @@ public:
         return m_readEnd >= 0 && ::poll(&end, 1, 0) == 0;  // at its end once nobody holds the other
     }
 
-    bool m_answers = true;
+    bool m_answers = true, m_refuses = false;
     QString m_canPowerOff = u"yes"_s;
     QStringList m_calls;
 
@@ -54,7 +54,12 @@ public slots:
         return given;
     }
     QString CanPowerOff() { return m_canPowerOff; }
-    void PowerOff(bool interactive) { m_calls += interactive ? u"PowerOff asking"_s : u"PowerOff"_s; }
+    void PowerOff(bool interactive)
+    {
+        m_calls += interactive ? u"PowerOff asking"_s : u"PowerOff"_s;
+        if (m_refuses)
+            sendErrorReply(QDBusError::AccessDenied);
+    }
 
 private:
     int m_readEnd = -1;
@@ -301,14 +306,19 @@ TEST_F(AfterRunTest, services_that_are_missing_refuse_or_hang_hold_nothing_up)
     ASSERT_TRUE(run({JobState::Done}));  // none there
     settle();
     EXPECT_EQ(m_countdown.count(), 0);
+    offerAll();
+    m_login.m_refuses = true;
+    ASSERT_TRUE(run({JobState::Done}));
+    EXPECT_TRUE(test::waitUntil([this] { return m_countdown.count() == 61 && m_countdown.last().value(0) == -1; }));
+    m_countdown.clear();
+    m_notifications.m_shown.clear();
     m_login.m_canPowerOff = u"challenge"_s;
     m_login.m_answers = false;
-    offerAll();
     ASSERT_TRUE(run({JobState::Done}));
     EXPECT_TRUE(test::waitUntil([this] { return m_notifications.m_shown.size() == 1; }));
     settle();
     EXPECT_EQ(m_countdown.count(), 0);
-    EXPECT_EQ(m_desktop.opened.size(), 2);
+    EXPECT_EQ(m_desktop.opened.size(), 3);
 }
 
 }  // namespace kestrel

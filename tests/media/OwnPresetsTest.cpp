@@ -72,6 +72,11 @@ TEST_F(OwnPresetsTest, KeepOptionsAndNothingOfTheFile)
     ASSERT_EQ(other.pieces.size(), 1);
     EXPECT_EQ(other.pieces.first().start, 5);
     EXPECT_FALSE(other.mirrored || other.watermark);
+    TranscodePlan applied;
+    EXPECT_TRUE(applyPresetFile(presets.exported(*id), applied));
+    EXPECT_EQ(applied.preset.name, u"Small films");
+    EXPECT_EQ(applied.maximumHeight, 720);
+    EXPECT_FALSE(applyPresetFile("{}", applied));
     TranscodePlan draft;
     again.apply(*id, draft);
     EXPECT_TRUE(draft.sources.isEmpty());

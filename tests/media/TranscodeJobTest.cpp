@@ -227,6 +227,8 @@ TEST_F(TranscodeJobTest, RealOnes)
             << name << ": " << result.outcome.sentence.english().toStdString() << result.outcome.details.toStdString();
         EXPECT_EQ(result.outcome.outputs, QStringList{outputFolder() + u'/' + output}) << name;
         EXPECT_EQ(QFileInfo(result.outcome.outputs.value(0)).lastModified() == date, plan.keepsDate) << name;
+        if (plan.maximumBytes > 0)
+            EXPECT_GT(result.fractions.value(result.fractions.size() - 1), 0.9) << "both passes count";
     }
     EXPECT_EQ(outputs().size(), qsizetype(std::size(rows))) << "no part is left";
     unlink(oddName.constData());
@@ -243,6 +245,17 @@ TEST_F(TranscodeJobTest, ACopyIsDecodedAndBeginsBeforeTheCut)
     EXPECT_EQ(int(outcome.state), int(JobState::Done)) << outcome.sentence.english().toStdString();
     EXPECT_GT(outcome.facts[u"seconds"_s].toDouble(), 1.9) << "nothing that was wanted is lost";
     EXPECT_TRUE(QFile::exists(path(u"decoding"_s)) && !test::readBytes(path(u"decoding"_s)).contains("nokey"));
+}
+
+TEST_F(TranscodeJobTest, WhatGetsNoNameIsNotDone)
+{
+    useTool("case \"$*\" in *'-f null'*) mv '" + outputFolder().toUtf8() + "' '" + path(u"away"_s).toUtf8() +
+            "'; exit 0;; esac\nexec \"$real\" \"$@\"");
+    TranscodePlan plan = planFor({film(u"mkv"_s)}, u"mkv-copy"_s);
+    plan.safeMode = true;
+    const JobOutcome outcome = run(plan).outcome;
+    EXPECT_EQ(int(outcome.state), int(JobState::Failed));
+    EXPECT_TRUE(outcome.outputs.isEmpty() && outcome.problems.isEmpty() && !outcome.sentence.isEmpty());
 }
 
 TEST_F(TranscodeJobTest, TakenBackAtTheLastMoment)

@@ -4,6 +4,7 @@
 #include "jobs/JobList.h"
 #include "jobs/ui/JobListView.h"
 #include "modules/ModuleRow.h"
+#include "tarnwell/ui/Palette.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gmock/gmock.h>
@@ -13,6 +14,7 @@
 #include <QApplication>
 #include <QContextMenuEvent>
 #include <QMenu>
+#include <QProgressBar>
 #include <QPushButton>
 #include <QTest>
 
@@ -85,6 +87,11 @@ TEST_F(JobPageTest, CancelsItsOwnJobsAlsoPausedOnes)
     EXPECT_EQ(state(0), JobState::Paused);
     choose(0, u"Cancel"_s);
     EXPECT_TRUE(test::waitUntil([&] { return state(0) == JobState::Cancelled && state(1) == JobState::Running; }));
+    // Half of one of its two: what the other module has done does not count.
+    emit recipe.jobOf(disc)->progressed({.fraction = 0.9});
+    emit recipe.jobOf(ids[1])->progressed({.fraction = 0.5});
+    const auto *bar = page.findChild<QProgressBar *>(u"progressBar"_s);
+    EXPECT_TRUE(test::waitUntil([&] { return bar->maximum() == 2 * bar->value(); })) << bar->value();
     page.findChild<QPushButton *>(u"cancelButton"_s)->click();
     EXPECT_TRUE(test::waitUntil([&] { return state(1) == JobState::Cancelled; }));
     EXPECT_EQ(queue.record(disc)->state, JobState::Running);
@@ -102,6 +109,27 @@ TEST_F(JobPageTest, WhatHasFailedStaysAndIsTriedAgain)
     EXPECT_EQ(state(0), JobState::Running);
 }
 
+TEST_F(JobPageTest, ProblemsLookOtherThanGoodResults)
+{
+    const auto colours = [this](JobState outcome) {
+        queue.start({ids[0]});
+        end(0, outcome);
+        const QImage row =
+            page.list()->viewport()->grab(page.list()->visualRect(page.list()->model()->index(0, 0))).toImage();
+        bool isGreen = false, isAmber = false;
+        for (int i = 0; i < row.width() * row.height(); ++i) {
+            const QRgb pixel = row.pixel(i % row.width(), i / row.width());
+            isGreen |= pixel == tarnwell::palette::done;
+            isAmber |= pixel == tarnwell::palette::warning;
+        }
+        return std::pair(isGreen, isAmber);
+    };
+    page.resize(900, 600);
+    page.show();
+    EXPECT_EQ(colours(JobState::Done), std::pair(true, false));
+    EXPECT_EQ(colours(JobState::DoneWithProblems), std::pair(false, true));
+}
+
 TEST_F(JobPageTest, RowsDoNotMovePastHiddenOnes)
 {
     JobListView &list = *page.list();
@@ -114,6 +142,8 @@ TEST_F(JobPageTest, RowsDoNotMovePastHiddenOnes)
         QTest::keyClick(&list, Qt::Key_Up, Qt::AltModifier);
         EXPECT_EQ(queue.order(test::marlin).indexOf(ids[2]), filter.isNull() ? 1 : 2);
     }
+    QTest::keyClick(&list, Qt::Key_Down, Qt::AltModifier);
+    EXPECT_EQ(queue.order(test::marlin).last(), ids[2]);
 }
 
 }  // namespace kestrel

@@ -235,10 +235,14 @@ TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)
     ASSERT_TRUE(isIn(0, JobState::Ready) && isIn(1, JobState::Ready));
     settings.dispatcher().setMergeMedia(true);
     choose(u"mkv-copy"_s);
+    TranscodePlan cut = planAt(0);
+    cut.pieces = {{.start = 0, .end = 0.5}};
+    queue().change(idAt(0), [&](JobRecord &record) { setPlan(record, cut); });
     convert();
     ASSERT_EQ(queue().order(module).size(), 1);
     ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();
     EXPECT_EQ(planAt(0).sources.size(), 2);
+    EXPECT_TRUE(planAt(0).pieces.isEmpty()) << "of one film, and not of what it becomes a part of";
     EXPECT_EQ(settings.outputs(), QStringList{u"a.mkv"_s});
 }
 
