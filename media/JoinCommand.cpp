@@ -147,7 +147,7 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
         arguments << u"-map"_s << u"1:%1"_s.arg(tracks.covers.first()->index)
                   << (tracks.video ? u"-disposition:v:1"_s : u"-disposition:v:0"_s) << u"attached_pic"_s;
     QStringList tags = tagArguments(plan, tracks, sources.first(), chapterInput);
-    tags[1] = u"1"_s;
+    tags[1].front() = u'1';  // the second input has them
     arguments += tags;
     arguments += commonTail(tracks, paths.output);
     steps.runs.append({.arguments = arguments,

@@ -308,7 +308,8 @@ std::optional<MediaInformation> parseMediaInformation(const QByteArray &json)
             information.duration = std::max(information.duration, track.duration);  // none is less than any
     }
     // Ogg has its tags with the track.
-    if (information.tags.isEmpty() && information.tracks.size() == 1)
+    const bool isOgg = information.format == "ogg"_L1 && !streams.isEmpty();
+    if (information.tags.isEmpty() && (isOgg || information.tracks.size() == 1))
         information.tags = tagsIn(streams.at(0).toObject());
     const QJsonArray chapters = report["chapters"_L1].toArray();
     for (qsizetype index = 0; index < std::min(chapters.size(), maximumChapters); ++index)

@@ -44,6 +44,13 @@ QString cueCut(double seconds, bool isBitmap)
            "duration='min(DURATION+min(PTS,0),%1/TB-max(PTS,0))'"_s.arg(length);
 }
 
+/// Where the tags of the whole file stand; Ogg has them with its tracks.
+QString tagPlace(const TrackPlan &tracks, const MediaInformation &source)
+{
+    const MediaTrack *first = tracks.video ? tracks.video->source : tracks.sounds.first().source;
+    return source.format == "ogg"_L1 ? u"0:s:%1"_s.arg(first->index) : u"0"_s;
+}
+
 QStringList trackTags(const TrackPlan &tracks, const MediaTrack &track, const QString &specifier)
 {
     QStringList arguments;
@@ -126,7 +133,7 @@ QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const 
 
 QStringList tagArguments(const Plan &, const TrackPlan &tracks, const MediaInformation &source, int chapters)
 {
-    QStringList arguments{u"-map_metadata"_s, u"0"_s, u"-map_chapters"_s, QString::number(chapters)};
+    QStringList arguments{u"-map_metadata"_s, tagPlace(tracks, source), u"-map_chapters"_s, QString::number(chapters)};
     if (tracks.video) {
         arguments += trackTags(tracks, *tracks.video->source, u"v:0"_s);
         // The name that other players ask for.
