@@ -213,6 +213,15 @@ private:
 
 }  // namespace
 
+void TranscodeMachine::findHardware()
+{
+    constexpr quint32 avc1 = 0x61766331, hvc1 = 0x68766331;
+    static const QString devices[] = {tarnwell::hardwareEncoderDevice(avc1, 1280, 720),
+                                      tarnwell::hardwareEncoderDevice(hvc1, 1280, 720)};
+    hardwareDevice = devices[0];
+    hevcDevice = devices[1];
+}
+
 foundation::Result<TranscodeSteps, tarnwell::Sentence> transcodeSteps(const Plan &plan,
                                                                       const QList<MediaInformation> &sources,
                                                                       const TranscodeMachine &machine,

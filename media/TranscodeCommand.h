@@ -15,6 +15,10 @@ struct TranscodeMachine {
     int processors = 1;
     QStringList missingEncoders = {};         ///< that this ffmpeg lacks of those that are usually there: "libsvtav1"
     QString language = QStringLiteral("en");  ///< that the names of languages are written in
+
+    /// Asks the system for the devices, once.
+    void findHardware();
+    bool hasHardware() const { return !hardwareDevice.isEmpty() || !hevcDevice.isEmpty(); }
 };
 
 /// What the output must show before it may be called done.

@@ -5,7 +5,6 @@
 #include "media/MediaProber.h"
 #include "media/OutputName.h"
 #include "settings/JKestrelSettingDispatcher.h"
-#include "tarnwell/SystemInformation.h"
 
 #include <algorithm>
 
@@ -74,13 +73,12 @@ QString conversionFolder(const JKestrelSettingDispatcher &settings, const Transc
 
 TranscodeTools transcodeTools(const JKestrelSettingDispatcher &settings, int processors)
 {
-    constexpr quint32 avc1 = 0x61766331;
     TranscodeTools tools;
     tools.transcoder = settings.getTranscoderPath();
     tools.prober = proberBeside(tools.transcoder);
     tools.machine.processors = processors;
     if (settings.getQSV())
-        tools.machine.hardwareDevice = tarnwell::hardwareEncoderDevice(avc1, 1280, 720);
+        tools.machine.findHardware();
     return tools;
 }
 

@@ -7,7 +7,6 @@
 #include "settings/JKestrelSettingDispatcher.h"
 #include "settings/ModuleSettings.h"
 #include "tarnwell/ProductInformation.h"
-#include "tarnwell/SystemInformation.h"
 
 #include <QFileInfo>
 #include <QUrl>
@@ -78,14 +77,13 @@ EngineTools engineTools(const JKestrelSettingDispatcher &settings)
 
 DownloadTools downloadTools(const JKestrelSettingDispatcher &settings, int processors)
 {
-    constexpr quint32 avc1 = 0x61766331;
     DownloadTools tools;
     tools.engine = engineTools(settings);
     tools.transcode.transcoder = settings.getTranscoderPath();
     tools.transcode.prober = proberBeside(tools.transcode.transcoder);
     tools.transcode.machine.processors = processors;
     if (settings.getQSV())
-        tools.transcode.machine.hardwareDevice = tarnwell::hardwareEncoderDevice(avc1, 1280, 720);
+        tools.transcode.machine.findHardware();
     tools.answers = downloadDataFolder() + "/answers"_L1;
     tools.engineTried = [](bool hasWorked) -> std::optional<QString> {
         if (!hasWorked)

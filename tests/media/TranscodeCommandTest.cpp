@@ -442,6 +442,9 @@ TEST(TranscodeCommand, TakesTheHardwareOnlyWhereItDoesTheSame)
     EXPECT_NE(line.find("format=nv12,hwupload -c:v:0 h264_vaapi -qp 23"), std::string::npos) << line;
     EXPECT_TRUE(stepsFor(encoding, film(), machine)->takesShortcut);
     EXPECT_FALSE(stepsFor(withoutShortcuts(encoding), film(), machine)->takesShortcut);
+    const TranscodeMachine other{.hevcDevice = u"/dev/dri/renderD129"_s};
+    EXPECT_NE(lineFor(planFor(u"mp4-h265"_s), film(), other).find("-vaapi_device /dev/dri/renderD129 "),
+              std::string::npos);
     for (const auto &plan : {withoutShortcuts(encoding), planFor(u"mp4-h265"_s), planFor(u"webm-vp9"_s)})
         EXPECT_EQ(lineFor(plan, film(), machine).find("vaapi"), std::string::npos);
 }
