@@ -1,5 +1,6 @@
 // What comes before the first run that makes something: the looks at the sources.
 #include "MediaProber.h"
+#include "TrackPlan.h"
 #include "TranscodeJob.h"
 
 #include <algorithm>
@@ -14,6 +15,15 @@ namespace {
 
 constexpr std::chrono::seconds lookLimit{30};
 constexpr double shortestPiece = 0.01;  // seconds
+
+/// Whether the preset keeps the pictures as they are, fields and all.
+bool keepsPictures(const TranscodePlan &plan, const QList<MediaInformation> &sources, const TranscodeMachine &machine)
+{
+    if (plan.preset.videoCodec != "copy"_L1)
+        return false;
+    const auto tracks = planTracks(plan, sources, machine);
+    return tracks && tracks->video && !tracks->video->encoder;
+}
 
 }  // namespace
 
@@ -54,10 +64,12 @@ void TranscodeJob::lookAtPicture(MediaInformation information)
 /// Of the first source, where its flags leave open whether it is interlaced.
 void TranscodeJob::scanPicture()
 {
+    const TranscodePlan &plan = m_request.plan;
     const MediaTrack *video = m_request.information.first().firstOf(MediaTrack::Kind::Video);
-    const bool isWanted = m_request.plan.deinterlace == TranscodePlan::Deinterlace::Auto &&
-                          m_request.plan.preset.takesVideo() && m_request.plan.preset.videoCodec != "copy"_L1;
-    if (!isWanted || !video || !PictureScan::isWorthwhile(*video))
+    const bool isWanted = plan.preset.takesVideo() && plan.deinterlace != TranscodePlan::Deinterlace::Off &&
+                          plan.deinterlace != TranscodePlan::Deinterlace::Film;
+    if (!isWanted || !video || !PictureScan::isWorthwhile(*video) ||
+        keepsPictures(plan, m_request.information, m_request.tools.machine))
         return findKeyPictures(0);
     const ToolCommand command =
         PictureScan::command(m_request.tools.transcoder, m_sources.front().argument(), m_request.information.first());

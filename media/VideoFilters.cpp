@@ -27,8 +27,11 @@ QStringList fieldFilters(const Plan &plan, const VideoTrackPlan &video, const Me
         case Plan::Deinterlace::Film:
             // Without the first one the stream claims its fields for pictures and comes out at twice the speed.
             return {u"fps=30000/1001"_s, u"fieldmatch"_s, u"decimate"_s};
-        case Plan::Deinterlace::DoubleRate:
-            return flagged << u"bwdif=mode=send_field:deint=interlaced"_s;
+        case Plan::Deinterlace::DoubleRate: {
+            const bool isUnknown = track.fieldOrder == MediaTrack::FieldOrder::Unknown && track.codec != "dvvideo"_L1;
+            return flagged << (isUnknown ? u"bwdif=mode=send_field:deint=all"_s
+                                         : u"bwdif=mode=send_field:deint=interlaced"_s);
+        }
         case Plan::Deinterlace::On:
             return flagged << u"bwdif=mode=send_frame:deint=all"_s;
         case Plan::Deinterlace::Auto:

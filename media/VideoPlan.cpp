@@ -138,10 +138,28 @@ double nearestRate(const char *list, double rate)
     return nearest;
 }
 
+bool wantsDeinterlacing(const Plan &plan, const MediaTrack &track)
+{
+    // Its container tells nothing; each picture does, and the filter heeds that.
+    const bool mayBe = track.codec == "dvvideo"_L1 && track.fieldOrder == MediaTrack::FieldOrder::Unknown;
+    switch (plan.deinterlace) {
+        case Plan::Deinterlace::Off:
+            return false;
+        case Plan::Deinterlace::Auto:
+            return track.isInterlaced() || mayBe;
+        case Plan::Deinterlace::DoubleRate:
+            return track.fieldOrder != MediaTrack::FieldOrder::Progressive;
+        case Plan::Deinterlace::On:
+        case Plan::Deinterlace::Film:
+            break;
+    }
+    return true;
+}
+
 /// Pictures a second that have to be asked for; 0 where each picture may keep its time.
 double wantedRate(const Plan &plan, const VideoEncoder &encoder, const Container &container, const MediaTrack &track)
 {
-    const bool isDoubled = plan.deinterlace == Plan::Deinterlace::DoubleRate && track.isInterlaced();
+    const bool isDoubled = plan.deinterlace == Plan::Deinterlace::DoubleRate && wantsDeinterlacing(plan, track);
     const double source =
         plan.deinterlace == Plan::Deinterlace::Film ? 24000.0 / 1001 : track.frameRate * (isDoubled ? 2 : 1);
     double rate = plan.frameRate;
@@ -188,7 +206,8 @@ bool fitsLimits(const Plan &plan, const MediaTrack &track)
 bool keepsPicture(const Plan &plan, const MediaTrack &track, const Container &container, bool deinterlaces)
 {
     const bool isOriginal = plan.preset.videoCodec == "copy"_L1;
-    const bool isAsked = isOriginal || (plan.preset.videoCodec == track.codec && !deinterlaces);
+    const bool keepsFields = isOriginal && plan.deinterlace != Plan::Deinterlace::DoubleRate;
+    const bool isAsked = (isOriginal || plan.preset.videoCodec == track.codec) && (keepsFields || !deinterlaces);
     const bool mustBePlain = plan.preset.plainVideo || plan.dynamicRange == Plan::HighDynamicRange::ToStandard;
     return plan.copies && isAsked && container.holdsVideo(track.codec) && !changesPictures(plan) &&
            !cutsExactly(plan) && plan.rateControl == Plan::RateControl::Preset && fitsLimits(plan, track) &&
@@ -205,23 +224,6 @@ QString targetCodec(const Plan &plan, const MediaTrack &track, const Container &
     const QStringList made = tableWords(container.video);
     const bool isMade = made.contains(track.codec) && videoEncoderOf(track.codec, machine.missingEncoders);
     return isMade ? track.codec : made.value(0);
-}
-
-bool wantsDeinterlacing(const Plan &plan, const MediaTrack &track)
-{
-    // Its container tells nothing; each picture does, and the filter heeds that.
-    const bool mayBe = track.codec == "dvvideo"_L1 && track.fieldOrder == MediaTrack::FieldOrder::Unknown;
-    switch (plan.deinterlace) {
-        case Plan::Deinterlace::Off:
-            return false;
-        case Plan::Deinterlace::Auto:
-        case Plan::Deinterlace::DoubleRate:
-            return track.isInterlaced() || mayBe;
-        case Plan::Deinterlace::On:
-        case Plan::Deinterlace::Film:
-            break;
-    }
-    return true;
 }
 
 }  // namespace

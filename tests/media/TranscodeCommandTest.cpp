@@ -229,6 +229,8 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
         {"fields that stay", u"mpg-mpeg2"_s,
          changed(video(), [](auto &t) { t.fieldOrder = MediaTrack::FieldOrder::BottomFirst; }),
          [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::Off; }, "-flags:v +ilme+ildct -top 0", "bwdif"},
+        {"twice the pictures of what does not tell its fields", u"mkv-copy"_s, video(),
+         [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::DoubleRate; }, "bwdif=mode=send_field:deint=all"},
         {"smaller, both sides alike", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.maximumHeight = 500; }),
          "scale=888:500,setsar=1"},
         {"turned on its side by the camera",
