@@ -4,6 +4,7 @@
 #include <QHash>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
@@ -22,6 +23,7 @@ struct MediaTrack {
     QString title;
     bool isDefault = false;
     bool isForced = false;
+    QStringList roles;               ///< further dispositions in ffmpeg's words: "comment", "visual_impaired"
     std::optional<double> duration;  ///< seconds; many containers tell none for a track
     double start = 0;                ///< seconds
     qint64 bitRate = 0;              ///< bits a second; 0 where it is not known
@@ -33,8 +35,8 @@ struct MediaTrack {
     double frameRate = 0;     ///< average, pictures a second; 0 where it is not known
     bool isVariableRate = false;
     bool isReordered = false;  ///< pictures are stored before others that are seen earlier
-    QString pixelFormat;  ///< "yuv420p10le"
-    int bitDepth = 8;     ///< of a sample
+    QString pixelFormat;       ///< "yuv420p10le"
+    int bitDepth = 8;          ///< of a sample
     FieldOrder fieldOrder = FieldOrder::Unknown;
     bool fieldsAreSeen = false;  ///< by looking: the pictures' own flags do not tell
     int rotation = 0;  ///< degrees clockwise that the picture is to be turned by to stand upright: 0, 90, 180, 270

@@ -239,6 +239,10 @@ MediaTrack trackIn(const QJsonObject &stream, bool isStillPicture)
 {
     constexpr QLatin1StringView bitmapCodecs[] = {"hdmv_pgs_subtitle"_L1, "dvd_subtitle"_L1, "dvb_subtitle"_L1,
                                                   "xsub"_L1, "dvb_teletext"_L1};
+    constexpr QLatin1StringView roles[] = {
+        "dub"_L1,      "original"_L1,         "comment"_L1,         "lyrics"_L1,
+        "karaoke"_L1,  "hearing_impaired"_L1, "visual_impaired"_L1, "clean_effects"_L1,
+        "captions"_L1, "descriptions"_L1};
     constexpr int largestIndex = 100'000;
     const QHash<QString, QString> tags = tagsIn(stream);
     MediaTrack track;
@@ -248,8 +252,13 @@ MediaTrack trackIn(const QJsonObject &stream, bool isStillPicture)
     track.profile = knownText(stream, "profile"_L1);
     track.language = languageIn(tags);
     track.title = titleIn(tags);
-    track.isDefault = stream["disposition"_L1].toObject()["default"_L1].toInt() != 0;
-    track.isForced = stream["disposition"_L1].toObject()["forced"_L1].toInt() != 0;
+    const QJsonObject disposition = stream["disposition"_L1].toObject();
+    track.isDefault = disposition["default"_L1].toInt() != 0;
+    track.isForced = disposition["forced"_L1].toInt() != 0;
+    for (const auto role : roles) {
+        if (disposition[role].toInt() != 0)
+            track.roles.append(role);
+    }
     track.duration = durationIn(reportNumber(stream["duration"_L1]));
     if (!track.duration)
         track.duration = clockTime(statisticIn(tags, u"duration"_s));

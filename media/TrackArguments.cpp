@@ -30,6 +30,7 @@ QString dispositionText(const MediaTrack &track)
         flags << u"default"_s;
     if (track.isForced)
         flags << u"forced"_s;
+    flags += track.roles;
     return flags.isEmpty() ? u"0"_s : flags.join(u'+');
 }
 

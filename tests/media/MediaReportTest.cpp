@@ -35,7 +35,7 @@ TEST(MediaReportTest, ATrackOfEachKind)
          "tags": {"LANGUAGE": "ger", "title": " Two\n words ", "BPS-eng": "5"}},
         {"index": 3, "codec_name": "aac", "codec_type": "audio", "disposition": {"default": 1},
          "tags": {"language": "und", "handler_name": "SoundHandler", "DURATION-eng": "00:00:30.000"}},
-        {"index": 4, "codec_name": "hdmv_pgs_subtitle", "codec_type": "subtitle", "disposition": {"forced": 1}},
+        {"index": 4, "codec_name": "hdmv_pgs_subtitle", "codec_type": "subtitle", "disposition": {"forced": 1, "comment": 1, "timed_thumbnails": 1}},
         {"index": 5, "codec_name": "mov_text", "codec_type": "subtitle", "tags": {"handler_name": "Signs"}},
         {"index": 6, "codec_type": "attachment", "tags": {"filename": "a.ttf", "mimetype": "font/ttf"}},
         {"index": 7, "codec_type": "data"}],
@@ -61,7 +61,8 @@ TEST(MediaReportTest, ATrackOfEachKind)
     EXPECT_TRUE(sound.language == u"ger" && sound.title == u"Two words" && sound.bitRate == 640'000);
     EXPECT_TRUE(tracks[3].language.isNull() && tracks[3].title.isNull() && tracks[3].duration == 30.0);
     EXPECT_EQ(information->firstOf(Kind::Audio)->index, 3) << "the default one";
-    EXPECT_TRUE(tracks[4].isBitmap && tracks[4].isForced && !tracks[5].isBitmap && tracks[5].title == u"Signs");
+    EXPECT_TRUE(tracks[4].isBitmap && tracks[4].isForced && tracks[4].roles == QStringList(u"comment"_s) &&
+                !tracks[5].isBitmap && tracks[5].title == u"Signs");
     EXPECT_TRUE(tracks[6].fileName == u"a.ttf" && tracks[6].mimeType == u"font/ttf");
     EXPECT_TRUE(information->bytes == 123'456 && information->duration == 62.5 && information->headerTellsDuration());
     EXPECT_EQ(information->tags.value(u"title"_s), u"A film");
