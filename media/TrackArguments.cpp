@@ -152,12 +152,15 @@ QStringList tagArguments(const Plan &, const TrackPlan &tracks, const MediaInfor
         arguments += trackTags(tracks, track, u"a:%1"_s.arg(number));
     }
     // Cameras write these under names of their own, which other containers do not know.
-    const QString place = source.tags.value(u"com.apple.quicktime.location.iso6709"_s);
-    if (!place.isEmpty() && !source.tags.contains(u"location"_s))
-        arguments << u"-metadata"_s << u"location="_s + place;
-    const QString date = source.tags.value(u"com.apple.quicktime.creationdate"_s);
-    if (!date.isEmpty() && !source.tags.contains(u"creation_time"_s))
-        arguments << u"-metadata"_s << u"creation_time="_s + date;
+    constexpr std::pair<QLatin1StringView, QLatin1StringView> cameraTags[] = {
+        {"com.apple.quicktime.location.iso6709"_L1, "location"_L1},
+        {"com.apple.quicktime.creationdate"_L1, "creation_time"_L1},
+        {"com.apple.quicktime.make"_L1, "make"_L1},
+        {"com.apple.quicktime.model"_L1, "model"_L1}};
+    for (const auto &[own, known] : cameraTags) {
+        if (const QString text = source.tags.value(own); !text.isEmpty() && !source.tags.contains(known))
+            arguments << u"-metadata"_s << known + u'=' + text;
+    }
     return arguments;
 }
 
