@@ -209,7 +209,7 @@ constexpr VideoEncoder videoTable[] = {
      .name = "ProRes",
      .encoder = "prores_ks",
      .arguments = "-vendor apl0",
-     .pixelFormats = "yuv422p10le yuv444p10le",
+     .pixelFormats = "yuv422p10le yuv444p10le yuva444p10le",
      .bitsPerPixel = 3,
      .holdsHdr = true},
     {.codec = "dnxhd",
@@ -231,7 +231,10 @@ constexpr VideoEncoder videoTable[] = {
      .name = "FFV1",
      .encoder = "ffv1",
      .arguments = "-level 3 -g 1 -slicecrc 1",
-     .pixelFormats = "yuv420p yuv422p yuv444p yuv420p10le yuv422p10le yuv444p10le bgr0 bgra",
+     .pixelFormats = "yuv420p yuv422p yuv444p yuv420p10le yuv422p10le yuv444p10le yuv420p12le yuv422p12le "
+                     "yuv444p12le yuv420p16le yuv422p16le yuv444p16le yuva420p yuva422p yuva444p yuva420p10le "
+                     "yuva422p10le yuva444p10le yuva420p16le yuva422p16le yuva444p16le bgr0 bgra gbrp10le gbrp12le "
+                     "gbrp16le gbrap10le gbrap12le gbrap16le",
      .bitsPerPixel = 6,
      .holdsHdr = true,
      .isLossless = true,
@@ -353,6 +356,7 @@ constexpr SoundEncoder soundTable[] = {
     {.codec = "pcm_s16le", .name = "PCM", .encoder = "pcm_s16le", .layouts = anyLayout},
     {.codec = "pcm_s16be", .name = "PCM", .encoder = "pcm_s16be", .layouts = anyLayout},
     {.codec = "pcm_s24le", .name = "PCM", .encoder = "pcm_s24le", .layouts = anyLayout},
+    {.codec = "pcm_s24be", .name = "PCM", .encoder = "pcm_s24be", .layouts = anyLayout},
 };
 
 struct CodecName {

@@ -36,7 +36,7 @@ struct MediaTrack {
     bool isVariableRate = false;
     bool isReordered = false;  ///< pictures are stored before others that are seen earlier
     QString pixelFormat;       ///< "yuv420p10le"
-    int bitDepth = 8;          ///< of a sample
+    int bitDepth = 8;          ///< of a sample; of sound too, where its codec has such
     FieldOrder fieldOrder = FieldOrder::Unknown;
     bool fieldsAreSeen = false;  ///< by looking: the pictures' own flags do not tell
     int rotation = 0;  ///< degrees clockwise that the picture is to be turned by to stand upright: 0, 90, 180, 270

@@ -270,6 +270,9 @@ MediaTrack trackIn(const QJsonObject &stream, bool isStillPicture)
         readPicture(stream, tags, track);
     track.channels = reportInteger(stream["channels"_L1], 64);
     track.channelLayout = knownText(stream, "channel_layout"_L1);
+    if (track.kind == MediaTrack::Kind::Audio)
+        track.bitDepth = std::max(reportInteger(stream["bits_per_sample"_L1], 64),
+                                  reportInteger(stream["bits_per_raw_sample"_L1], 64));
     track.sampleRate = reportInteger(stream["sample_rate"_L1], 10'000'000);
     track.isBitmap = track.kind == MediaTrack::Kind::Subtitle &&
                      std::find(std::begin(bitmapCodecs), std::end(bitmapCodecs), track.codec) != std::end(bitmapCodecs);

@@ -172,7 +172,7 @@ QStringList ownArguments(const Plan &plan, const VideoTrackPlan &video, int pass
         if (!parameters.isEmpty())
             arguments << u"-svtav1-params"_s << parameters.join(u':');
     } else if (encoder == "prores_ks"_L1) {
-        arguments << u"-profile:v"_s << (video.pixelFormat == "yuv444p10le"_L1 ? u"4"_s : plan.best ? u"3"_s : u"2"_s);
+        arguments << u"-profile:v"_s << (video.pixelFormat.contains("444"_L1) ? u"4"_s : plan.best ? u"3"_s : u"2"_s);
     } else if (encoder == "dnxhd"_L1) {
         arguments << u"-profile:v"_s
                   << (video.pixelFormat == "yuv422p10le"_L1 ? u"dnxhr_hqx"_s
@@ -274,7 +274,7 @@ qint64 expectedSize(const Plan &plan, const TrackPlan &tracks, const RateTarget 
     const double part = known > 0 ? std::min(1.0, *seconds / known) : 1;
     double sourceSound = 0;
     for (const SoundTrackPlan &sound : tracks.sounds) {
-        constexpr double lossless = 16;
+        const double lossless = std::max(16, sound.source->bitDepth);
         const double samples =
             (sound.source->sampleRate > 0 ? sound.source->sampleRate : 48000) * std::max(1, sound.channels);
         const bool isQuality = sound.encoder && sound.encoder->usualQuality;

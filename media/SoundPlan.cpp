@@ -96,9 +96,22 @@ int sampleRateFor(const Plan &plan, const SoundEncoder &encoder, const Container
     return rate == source && !plan.normalizes ? 0 : rate;
 }
 
+/// The preset's codec, or its sister that holds samples as deep as the source has them.
+QString soundCodecFor(const Plan &plan, const MediaTrack &track, const Container &container)
+{
+    const QString &asked = plan.preset.audioCodec;
+    if (asked == "copy"_L1) {
+        const bool isMade = container.holdsSound(track.codec) && soundEncoderOf(track.codec);
+        return isMade ? track.codec : tableWords(container.sound).value(0);
+    }
+    QString deeper = asked;
+    deeper.replace("pcm_s16"_L1, "pcm_s24"_L1);
+    return track.bitDepth > 16 && container.holdsSound(deeper) ? deeper : asked;
+}
+
 bool keepsSound(const Plan &plan, const MediaTrack &track, const Container &container)
 {
-    const bool isAsked = plan.preset.audioCodec == "copy"_L1 || plan.preset.audioCodec == track.codec;
+    const bool isAsked = plan.preset.audioCodec == "copy"_L1 || soundCodecFor(plan, track, container) == track.codec;
     const bool isKnownSize = plan.rateControl != Plan::RateControl::Size || track.bitRate > 0;
     return plan.copies && isAsked && isKnownSize && container.holdsSound(track.codec) && !changesSound(plan) &&
            !cutsExactly(plan) && plan.audioBitRate == 0 &&
@@ -118,10 +131,7 @@ std::optional<SoundTrackPlan> planSound(const Plan &plan, const MediaTrack &trac
         sound.bitRate = track.bitRate;
         return sound;
     }
-    const QStringList made = tableWords(container.sound);
-    sound.codec = plan.preset.audioCodec != "copy"_L1 ? plan.preset.audioCodec
-                  : made.contains(track.codec)        ? track.codec
-                                                      : made.value(0);
+    sound.codec = soundCodecFor(plan, track, container);
     sound.encoder = soundEncoderOf(sound.codec, machine.missingEncoders);
     if (!sound.encoder)
         return {};

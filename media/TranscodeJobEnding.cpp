@@ -130,8 +130,7 @@ bool TranscodeJob::aimsAgain(const OutputFindings &findings, qint64 bytes)
 void TranscodeJob::tryWithoutShortcuts()
 {
     tarnwell::DNFootLog(u"Converting again in software, without copying: %1"_s, m_messages.text());
-    const bool hadHardware =
-        m_steps.work == TranscodeSteps::Work::Encode && m_request.tools.machine.hasHardware();
+    const bool hadHardware = m_steps.work == TranscodeSteps::Work::Encode && m_request.tools.machine.hasHardware();
     m_isSecondAttempt = true;
     emit noted(hadHardware ? "Encoding in software"_key : "Encoding, because the tracks could not be copied"_key);
     m_request.plan = withoutShortcuts(std::move(m_request.plan));

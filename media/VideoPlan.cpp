@@ -1,6 +1,8 @@
 #include "FilterText.h"
 #include "TrackPlan.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 #include <cmath>
 
@@ -23,8 +25,9 @@ PixelKind pixelKind(const QString &format, int depth)
 {
     PixelKind kind;
     kind.depth = depth;
-    if (format.contains("p10"_L1) || format.contains("p010"_L1))
-        kind.depth = std::max(depth, 10);
+    // "yuv420p10le", "p010le"
+    static const QRegularExpression pattern(u"p(\\d+)(?:le|be)$"_s);
+    kind.depth = std::max(depth, pattern.match(format).captured(1).toInt());
     kind.chroma = format.contains("444"_L1) ? 2 : format.contains("422"_L1) ? 1 : 0;
     kind.isRgb = format.startsWith("rgb"_L1) || format.startsWith("bgr"_L1) || format.startsWith("gbr"_L1) ||
                  format.startsWith("pal"_L1) || format.startsWith("argb"_L1) || format.startsWith("abgr"_L1);
@@ -43,12 +46,12 @@ QString bestFormat(const VideoEncoder &encoder, const PixelKind &source, bool is
         if (isPlain)
             return kind.isRgb * 100 + (kind.depth - 8) * 10 + kind.chroma;
         const int wantedChroma = source.isRgb ? 0 : source.chroma;
-        const int wantedDepth = std::min(source.depth, 10);
+        const int wantedDepth = encoder.isLossless ? source.depth : std::min(source.depth, 10);
         int sum = 0;
         sum += kind.isRgb == source.isRgb ? 0 : kind.isRgb ? 50 : 20;
-        sum += kind.isRgb && source.hasAlpha != kind.hasAlpha ? 1 : 0;
+        sum += source.hasAlpha && !kind.hasAlpha ? 60 : kind.hasAlpha && !source.hasAlpha ? 1 : 0;
         sum += kind.chroma < wantedChroma ? 100 * (wantedChroma - kind.chroma) : 5 * (kind.chroma - wantedChroma);
-        sum += kind.depth < wantedDepth ? 200 : kind.depth > wantedDepth ? 10 : 0;
+        sum += kind.depth < wantedDepth ? 200 - kind.depth : kind.depth > wantedDepth ? kind.depth : 0;
         return sum;
     };
     return *std::ranges::min_element(formats, {}, cost);

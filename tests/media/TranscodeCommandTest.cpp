@@ -273,6 +273,15 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
              plan.externalSubtitles = {{.path = u"/films/a.sup"_s, .language = {}}};
          },
          "-itsoffset -10 -i file:/films/a.sup"},
+        {"what is lossless keeps every bit",
+         u"mkv-ffv1"_s,
+         changed(video(),
+                 [](auto &t) {
+                     t.pixelFormat = u"yuva444p12le"_s;
+                     t.bitDepth = 12;
+                 }),
+         {},
+         "format=yuva444p16le"},
         {"one palette", u"gif"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 0, .end = 2}}; },
          "stats_mode=diff"},
         {"a palette each where all would fill the memory", u"gif"_s, video(), {}, "stats_mode=single"},
