@@ -36,9 +36,10 @@ struct Container {
     const char *keptText = {};  ///< codecs of such that it takes as they are
     const char *bitmaps = {};   ///< codecs of subtitles of pictures that it takes as they are
     const char *arguments = {};
-    const char *rates = {};  ///< the only pictures a second that it takes; smallest first
-    int sampleRate = 0;      ///< the only one that it takes; 0 for any
-    int channels = 0;        ///< at most; 0 for any
+    const char *rates = {};     ///< the only pictures a second that it takes; smallest first
+    const char *lostTags = {};  ///< of the file, that it has no place for: "title", "date", "place" and "make", "make"
+    int sampleRate = 0;         ///< the only one that it takes; 0 for any
+    int channels = 0;           ///< at most; 0 for any
 
     bool has(Trait trait) const { return traits & trait; }
     bool holdsVideo(const QString &codec) const;

@@ -20,10 +20,11 @@ struct VideoEncoder {
     double finest = 0, least = 0;  ///< the ends of its range
     const char *speeds[5] = {};    ///< slowest first; the third is usual
     const char *pixelFormats = "yuv420p";
-    double bitsPerPixel = 0.1;  ///< a guess at usual quality, for the size of the result
-    const char *hardware = {};  ///< encoder of the same codec in hardware
-    bool twoPasses = false;     ///< keeps to a size by looking twice
-    bool holdsHdr = false;      ///< in ten bits, with its tags
+    double bitsPerPixel = 0.1;     ///< a guess at usual quality, for the size of the result
+    const char *hardware = {};     ///< encoder of the same codec in hardware
+    bool twoPasses = false;        ///< keeps to a size by looking twice
+    bool holdsHdr = false;         ///< in ten bits, with its tags
+    bool writesMastering = false;  ///< and mastering display and light level with it
     bool isLossless = false;
     bool isSteady = false;    ///< takes no picture at a time of its own
     int multiple = 2;         ///< of which width and height are

@@ -178,6 +178,7 @@ foundation::Result<TrackPlan, tarnwell::Sentence> planTracks(const Plan &plan, c
     if (!tracks.video && tracks.sounds.isEmpty())
         return Refused{{"Nothing of this file would be kept."_key}};
     planCompanions(tracks, plan, first, machine);
+    tellLosses(tracks, plan, first, machine);
     return tracks;
 }
 

@@ -87,6 +87,17 @@ QList<SoundTrackPlan> planSounds(const TranscodePlan &plan, const QList<const Me
 /// Subtitles, covers, attachments and chapters, with what stays behind.
 void planCompanions(TrackPlan &tracks, const TranscodePlan &plan, const MediaInformation &source,
                     const TranscodeMachine &machine);
+/// What a format of pixels, in ffmpeg's words, can tell apart. `depth` is what is known of it beside its name.
+struct PixelKind {
+    int chroma = 0;  ///< 0 for 4:2:0 and less, 1 for 4:2:2, 2 for 4:4:4
+    int depth = 8;
+    bool isRgb = false;
+    bool hasAlpha = false;
+};
+PixelKind pixelKind(const QString &format, int depth);
+/// Names in `leftOut` what is lost of a source beside whole tracks.
+void tellLosses(TrackPlan &tracks, const TranscodePlan &plan, const MediaInformation &source,
+                const TranscodeMachine &machine);
 /// The tracks of sound that the plan keeps of a file, before it is known what the target holds, and what becomes of one
 /// of its subtitles.
 QList<int> wantedSoundIndexes(const TranscodePlan &plan, const MediaInformation &source);

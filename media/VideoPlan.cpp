@@ -14,28 +14,6 @@ namespace {
 
 using Plan = TranscodePlan;
 
-struct PixelKind {
-    int chroma = 0;  ///< 0 for 4:2:0 and less, 1 for 4:2:2, 2 for 4:4:4
-    int depth = 8;
-    bool isRgb = false;
-    bool hasAlpha = false;
-};
-
-PixelKind pixelKind(const QString &format, int depth)
-{
-    PixelKind kind;
-    kind.depth = depth;
-    // "yuv420p10le", "p010le"
-    static const QRegularExpression pattern(u"p(\\d+)(?:le|be)$"_s);
-    kind.depth = std::max(depth, pattern.match(format).captured(1).toInt());
-    kind.chroma = format.contains("444"_L1) ? 2 : format.contains("422"_L1) ? 1 : 0;
-    kind.isRgb = format.startsWith("rgb"_L1) || format.startsWith("bgr"_L1) || format.startsWith("gbr"_L1) ||
-                 format.startsWith("pal"_L1) || format.startsWith("argb"_L1) || format.startsWith("abgr"_L1);
-    kind.hasAlpha = format.startsWith("yuva"_L1) || format.contains("rgba"_L1) || format.contains("bgra"_L1) ||
-                    format.contains("argb"_L1) || format.contains("abgr"_L1) || format.startsWith("gbrap"_L1);
-    return kind;
-}
-
 /// The format of the encoder that loses least. Pictures of red, green and blue become 4:2:0 where it has no such
 /// format: few players show anything finer.
 QString bestFormat(const VideoEncoder &encoder, const PixelKind &source, bool isPlain)
@@ -230,6 +208,21 @@ QString targetCodec(const Plan &plan, const MediaTrack &track, const Container &
 }
 
 }  // namespace
+
+PixelKind pixelKind(const QString &format, int depth)
+{
+    PixelKind kind;
+    kind.depth = depth;
+    // "yuv420p10le", "p010le"
+    static const QRegularExpression pattern(u"p(\\d+)(?:le|be)$"_s);
+    kind.depth = std::max(depth, pattern.match(format).captured(1).toInt());
+    kind.chroma = format.contains("444"_L1) ? 2 : format.contains("422"_L1) ? 1 : 0;
+    kind.isRgb = format.startsWith("rgb"_L1) || format.startsWith("bgr"_L1) || format.startsWith("gbr"_L1) ||
+                 format.startsWith("pal"_L1) || format.startsWith("argb"_L1) || format.startsWith("abgr"_L1);
+    kind.hasAlpha = format.startsWith("yuva"_L1) || format.contains("rgba"_L1) || format.contains("bgra"_L1) ||
+                    format.contains("argb"_L1) || format.contains("abgr"_L1) || format.startsWith("gbrap"_L1);
+    return kind;
+}
 
 bool changesPictures(const Plan &plan)
 {

@@ -332,6 +332,37 @@ TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
     EXPECT_EQ(inLanguages(u"ja"_s, u"none"_s), 4) << "sound that is in none of them is kept";
 }
 
+TEST(TranscodeCommand, NamesWhatIsLostOfPictureSoundAndTags)
+{
+    const auto leftOut = [](const QString &preset, const std::function<void(MediaInformation &)> &change) {
+        MediaInformation source = film();
+        change(source);
+        QStringList told;
+        for (const auto &sentence : stepsFor(planFor(preset), source)->leftOut)
+            told << sentence.english();
+        return told.join(u'|').toStdString();
+    };
+    const auto fine = [](MediaInformation &source) {
+        source.tracks[0].codec = u"prores"_s;
+        source.tracks[0].pixelFormat = u"yuva444p12le"_s;
+        source.tracks[0].bitDepth = 12;
+    };
+    EXPECT_EQ(leftOut(u"mp4-h264"_s, fine),
+              "The finer picture. 12 bit 4:4:4 becomes 8 bit 4:2:0.|"
+              "The transparency of the picture. H.264 cannot hold it.");
+    EXPECT_EQ(leftOut(u"mkv-ffv1"_s, fine), "");
+    EXPECT_EQ(leftOut(u"mp3"_s, [](auto &source) { source.tracks[1].channels = 6; }),
+              "Channels of the sound: English. 6 become 2.");
+    const auto tagged = [](MediaInformation &source) {
+        for (const auto &tag : {u"title"_s, u"creation_time"_s, u"make"_s})
+            source.tags.insert(tag, u"x"_s);
+    };
+    EXPECT_EQ(leftOut(u"mp4-h264"_s, tagged),
+              "Notes of the camera, such as place or model. MP4 cannot hold all of them.");
+    EXPECT_EQ(leftOut(u"mpg-mpeg2"_s, tagged).substr(0, 72),
+              "The languages of the tracks. MPG cannot hold them.|The title. MPG cannot");
+}
+
 TEST(TranscodeCommand, NamesTheChaptersOfFilmsThatHaveATrackOfNames)
 {
     MediaInformation source = film();

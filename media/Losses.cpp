@@ -1,0 +1,86 @@
+// Names what the plan loses of a source beside whole tracks.
+#include "TrackPlan.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+namespace {
+
+using Plan = TranscodePlan;
+using Kind = MediaTrack::Kind;
+using tarnwell::operator""_key;
+
+void tellPictureLosses(const VideoTrackPlan &video, QList<tarnwell::Sentence> &leftOut)
+{
+    if (!video.encoder)
+        return;
+    const MediaTrack &source = *video.source;
+    const PixelKind had = pixelKind(source.pixelFormat, source.bitDepth), has = pixelKind(video.pixelFormat, 8);
+    // Few players show colours of red, green and blue anyway; tone mapping has a note of its own.
+    const bool isCoarser = has.depth < had.depth || (has.chroma < had.chroma && !had.isRgb && !has.isRgb);
+    if (isCoarser && !video.mapsTones) {
+        const auto name = [](const PixelKind &kind) {
+            return kind.isRgb ? u"RGB"_s : kind.chroma == 2 ? u"4:4:4"_s : kind.chroma == 1 ? u"4:2:2"_s : u"4:2:0"_s;
+        };
+        leftOut.append({"The finer picture. %1 bit %2 becomes %3 bit %4."_key,
+                        {QString::number(had.depth), name(had), QString::number(has.depth), name(has)}});
+    }
+    // The reader of GIF gives every picture some.
+    if (had.hasAlpha && !has.hasAlpha && source.codec != "gif"_L1)
+        leftOut.append({"The transparency of the picture. %1 cannot hold it."_key, {codecLabel(video.codec)}});
+    const bool isMastered = !source.masteringDisplay.isEmpty() || !source.lightLevel.isEmpty();
+    if (video.keepsHdr && isMastered && !video.encoder->writesMastering)
+        leftOut.append(
+            {"The mastering data of the high dynamic range. %1 cannot hold them."_key, {codecLabel(video.codec)}});
+}
+
+void tellTagLosses(const Container &container, const QHash<QString, QString> &tags, QList<tarnwell::Sentence> &leftOut)
+{
+    struct Loss {
+        QLatin1StringView word;
+        const char *tags;
+        tarnwell::TextKey key;
+    };
+    constexpr tarnwell::TextKey camera = "Notes of the camera, such as place or model. %1 cannot hold all of them."_key;
+    static constexpr Loss losses[] = {
+        {"title"_L1, "title", "The title. %1 cannot hold it."_key},
+        {"date"_L1, "creation_time com.apple.quicktime.creationdate", "The date of recording. %1 cannot hold it."_key},
+        {"place"_L1, "location com.apple.quicktime.location.iso6709 make com.apple.quicktime.make", camera},
+        {"make"_L1, "make com.apple.quicktime.make", camera},
+    };
+    const QStringList lost = tableWords(container.lostTags);
+    for (const Loss &loss : losses) {
+        const QStringList names = tableWords(loss.tags);
+        if (lost.contains(loss.word) &&
+            std::ranges::any_of(names, [&](const auto &name) { return tags.contains(name); }))
+            leftOut.append({loss.key, {QString::fromLatin1(container.name)}});
+    }
+}
+
+}  // namespace
+
+void tellLosses(TrackPlan &tracks, const Plan &plan, const MediaInformation &source, const TranscodeMachine &machine)
+{
+    const Container &container = *tracks.container;
+    if (tracks.video)
+        tellPictureLosses(*tracks.video, tracks.leftOut);
+    for (const SoundTrackPlan &sound : tracks.sounds) {
+        if (sound.channels < sound.source->channels && plan.mix == Plan::SoundMix::AsSource)
+            tracks.leftOut.append({"Channels of the sound: %1. %2 become %3."_key,
+                                   {trackName(*sound.source, machine), QString::number(sound.source->channels),
+                                    QString::number(sound.channels)}});
+    }
+    const auto hasLanguage = [](const SoundTrackPlan &sound) { return !sound.source->language.isEmpty(); };
+    const bool lacksLanguages = container.has(Container::ManySounds) && !container.has(Container::TrackNames);
+    if (lacksLanguages && std::ranges::any_of(tracks.sounds, hasLanguage))
+        tracks.leftOut.append(
+            {"The languages of the tracks. %1 cannot hold them."_key, {QString::fromLatin1(container.name)}});
+    if (!tracks.covers.isEmpty() && source.tracksOf(Kind::Cover).size() > 1)
+        tracks.leftOut.append(tarnwell::Sentence("Further cover pictures beside the first."_key));
+    tellTagLosses(container, source.tags, tracks.leftOut);
+}
+
+}  // namespace kestrel
