@@ -233,10 +233,12 @@ constexpr VideoEncoder videoTable[] = {
      .name = "FFV1",
      .encoder = "ffv1",
      .arguments = "-level 3 -g 1 -slicecrc 1",
-     .pixelFormats = "yuv420p yuv422p yuv444p yuv420p10le yuv422p10le yuv444p10le yuv420p12le yuv422p12le "
-                     "yuv444p12le yuv420p16le yuv422p16le yuv444p16le yuva420p yuva422p yuva444p yuva420p10le "
-                     "yuva422p10le yuva444p10le yuva420p16le yuva422p16le yuva444p16le bgr0 bgra gbrp10le gbrp12le "
-                     "gbrp16le gbrap10le gbrap12le gbrap16le",
+     .pixelFormats =
+         "yuv420p yuv422p yuv444p yuv420p10le yuv422p10le yuv444p10le yuv420p12le yuv422p12le "
+         "yuv444p12le yuv420p16le yuv422p16le yuv444p16le yuva420p yuva422p yuva444p yuva420p10le "
+         "yuva422p10le yuva444p10le yuva420p16le yuva422p16le yuva444p16le bgr0 bgra gbrp10le gbrp12le "
+         "gbrp16le gbrap10le gbrap12le gbrap16le yuv411p yuv410p yuv440p yuv440p10le yuv440p12le gray gray10le "
+         "gray12le gray16le",
      .bitsPerPixel = 6,
      .holdsHdr = true,
      .isLossless = true,

@@ -29,7 +29,7 @@ void tellPictureLosses(const VideoTrackPlan &video, QList<tarnwell::Sentence> &l
                         {QString::number(had.depth), name(had), QString::number(has.depth), name(has)}});
     }
     // The reader of GIF gives every picture some.
-    if (had.hasAlpha && !has.hasAlpha && source.codec != "gif"_L1)
+    if (had.hasAlpha && !has.hasAlpha && video.pixelFormat != "pal8"_L1 && source.codec != "gif"_L1)
         leftOut.append({"The transparency of the picture. %1 cannot hold it."_key, {codecLabel(video.codec)}});
     const bool isMastered = !source.masteringDisplay.isEmpty() || !source.lightLevel.isEmpty();
     if (video.keepsHdr && isMastered && !video.encoder->writesMastering)

@@ -16,13 +16,15 @@ using Plan = TranscodePlan;
 
 /// The format of the encoder that loses least. Pictures of red, green and blue become 4:2:0 where it has no such
 /// format: few players show anything finer.
-QString bestFormat(const VideoEncoder &encoder, const PixelKind &source, bool isPlain)
+QString bestFormat(const VideoEncoder &encoder, const QString &own, const PixelKind &source, bool isPlain)
 {
     const QStringList formats = tableWords(encoder.pixelFormats);
+    if (encoder.isLossless && !isPlain && formats.contains(own))
+        return own;
     const auto cost = [&](const QString &format) {
         const PixelKind kind = pixelKind(format, 8);
         if (isPlain)
-            return kind.isRgb * 100 + (kind.depth - 8) * 10 + kind.chroma;
+            return kind.isRgb * 100 + (kind.depth - 8) * 10 + kind.chroma + (source.hasAlpha && !kind.hasAlpha);
         const int wantedChroma = source.isRgb ? 0 : source.chroma;
         const int wantedDepth = encoder.isLossless ? source.depth : std::min(source.depth, 10);
         int sum = 0;
@@ -267,7 +269,7 @@ std::optional<VideoTrackPlan> planVideo(const Plan &plan, const MediaTrack &trac
         kind.depth = 8;
     if (video.keepsHdr)
         kind.depth = std::max(kind.depth, 10);
-    video.pixelFormat = bestFormat(encoder, kind, plan.preset.plainVideo || video.mapsTones);
+    video.pixelFormat = bestFormat(encoder, track.pixelFormat, kind, plan.preset.plainVideo || video.mapsTones);
     const bool needsSquare = encoder.is("gif"_L1) || encoder.is("apng"_L1);
     video.size = resultSize(plan, encoder, track, needsSquare);
     if (encoder.is("dvvideo"_L1))
