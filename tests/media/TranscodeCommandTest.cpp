@@ -318,6 +318,10 @@ TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
     EXPECT_EQ(lineOf(*mp3).find("-map 0:1 "), std::string::npos);
     EXPECT_TRUE(mp3->leftOut.value(0).english().contains(u"German"_s));
 
+    MediaInformation ogg = film({sound(0, u"eng"_s, u"vorbis"_s)});
+    ogg.format = u"ogg"_s;
+    EXPECT_NE(lineFor(planFor(u"mp3"_s), ogg).find("-map_metadata 0:s:0 "), std::string::npos) << "tags of its track";
+
     const auto inLanguages = [&](const QString &sounds, const QString &subtitles) {
         const auto steps = stepsFor(planFor(u"mkv-copy"_s,
                                             [&](Plan &plan) {
@@ -338,7 +342,8 @@ TEST(TranscodeCommand, NamesWhatIsLostOfPictureSoundAndTags)
         MediaInformation source = film();
         change(source);
         QStringList told;
-        for (const auto &sentence : stepsFor(planFor(preset), source)->leftOut)
+        const auto steps = stepsFor(planFor(preset), source);
+        for (const auto &sentence : steps->leftOut)
             told << sentence.english();
         return told.join(u'|').toStdString();
     };

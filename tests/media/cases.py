@@ -152,7 +152,7 @@ def case_bitmap_subtitles(c):
 
 
 def case_cover_of_a_song(c):
-    for preset in ('mp3', 'm4a-aac', 'flac', 'm4a-alac', 'mka-opus'):
+    for preset in ('mp3', 'm4a-aac', 'flac', 'm4a-alac', 'mka-opus', 'aiff'):
         out = c.convert('song', preset)
         assert len(out.of('video', True)) == 1, preset
         tags = {k.lower(): v for k, v in dict(out.told['format'].get('tags', {}), **out.sounds[0].get('tags', {})).items()}
