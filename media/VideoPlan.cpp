@@ -216,7 +216,7 @@ PixelKind pixelKind(const QString &format, int depth)
     PixelKind kind;
     kind.depth = depth;
     // "yuv420p10le", "p010le"
-    static const QRegularExpression pattern(u"p(\\d+)(?:le|be)$"_s);
+    static const QRegularExpression pattern(u"(?:p|gray)(\\d+)(?:le|be)$"_s);
     kind.depth = std::max(depth, pattern.match(format).captured(1).toInt());
     kind.chroma = format.contains("444"_L1) ? 2 : format.contains("422"_L1) ? 1 : 0;
     kind.isRgb = format.startsWith("rgb"_L1) || format.startsWith("bgr"_L1) || format.startsWith("gbr"_L1) ||
