@@ -131,12 +131,12 @@ QStringList sizeFilters(const Plan &plan, const VideoTrackPlan &video, const Med
     QString flags = plan.best ? u":flags=lanczos+accurate_rnd"_s : QString();
     if (isInterlaced)
         flags += u":interl=1"_s;
-    // The usual range: few players heed the other.
+    // The usual range: few players heed the other. Only what is lossless keeps it.
     const bool isFull = track.colorRange == "pc"_L1 || track.pixelFormat.startsWith("yuvj"_L1);
     const bool becomesUsual =
         isFull && video.pixelFormat.startsWith("yuv"_L1) && !video.pixelFormat.startsWith("yuvj"_L1);
     if (becomesUsual)
-        flags += u":out_range=tv"_s;
+        flags += video.encoder->isLossless ? u":out_range=pc"_s : u":out_range=tv"_s;
     const double aspect = shownAspect(plan, track);
     if (video.size.isEmpty() || aspect == 0)
         return {u"scale=trunc(iw/2)*2:trunc(ih/2)*2"_s + flags};
