@@ -227,8 +227,9 @@ TEST_F(TranscodeJobTest, RealOnes)
             << name << ": " << result.outcome.sentence.english().toStdString() << result.outcome.details.toStdString();
         EXPECT_EQ(result.outcome.outputs, QStringList{outputFolder() + u'/' + output}) << name;
         EXPECT_EQ(QFileInfo(result.outcome.outputs.value(0)).lastModified() == date, plan.keepsDate) << name;
-        if (plan.maximumBytes > 0)
+        if (plan.maximumBytes > 0) {
             EXPECT_GT(result.fractions.value(result.fractions.size() - 1), 0.9) << "both passes count";
+        }
     }
     EXPECT_EQ(outputs().size(), qsizetype(std::size(rows))) << "no part is left";
     unlink(oddName.constData());
