@@ -48,8 +48,7 @@ void tellTagLosses(const Container &container, const QHash<QString, QString> &ta
     static constexpr Loss losses[] = {
         {"title"_L1, "title", "The title. %1 cannot hold it."_key},
         {"date"_L1, "creation_time com.apple.quicktime.creationdate", "The date of recording. %1 cannot hold it."_key},
-        {"place"_L1, "location com.apple.quicktime.location.iso6709 make com.apple.quicktime.make", camera},
-        {"make"_L1, "make com.apple.quicktime.make", camera},
+        {"place"_L1, "location com.apple.quicktime.location.iso6709", camera},
     };
     const QStringList lost = tableWords(container.lostTags);
     for (const Loss &loss : losses) {
