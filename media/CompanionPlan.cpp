@@ -33,6 +33,11 @@ QString subtitleEncoder(const Container &container, const QString &codec, bool i
     return container.text && tableWords(readableText).contains(codec) ? QString::fromLatin1(container.text) : QString();
 }
 
+QString attachmentName(const MediaTrack &track)
+{
+    return track.fileName.isEmpty() ? u"#%1"_s.arg(track.index) : track.fileName;
+}
+
 QString subtitleCodec(const QString &encoder, const QString &source)
 {
     return encoder == "copy"_L1 ? source : encoder == "srt"_L1 ? u"subrip"_s : encoder;
@@ -40,17 +45,18 @@ QString subtitleCodec(const QString &encoder, const QString &source)
 
 class Companions {
 public:
-    Companions(TrackPlan &tracks, const Plan &plan, const MediaInformation &source, const TranscodeMachine &machine)
+    Companions(TrackPlan &tracks, const Plan &plan, const QList<MediaInformation> &sources,
+               const TranscodeMachine &machine)
         : m_tracks(tracks),
           m_plan(plan),
-          m_source(source),
+          m_sources(sources),
           m_machine(machine)
     {
     }
 
     void plan()
     {
-        for (const MediaTrack &track : m_source.tracks) {
+        for (const MediaTrack &track : m_sources.first().tracks) {
             if (track.kind == Kind::Subtitle) {
                 planSubtitle(track);
                 ++m_number;
@@ -62,6 +68,8 @@ public:
         }
         for (int file = 0; file < m_plan.externalSubtitles.size(); ++file)
             planSubtitleFile(file);
+        for (qsizetype number = 1; number < m_sources.size(); ++number)
+            leaveOutOfLater(number);
         planChapters();
     }
 
@@ -70,6 +78,33 @@ private:
     void leaveOut(tarnwell::TextKey key, const QString &name)
     {
         m_tracks.leftOut.append({key, {name, containerName()}});
+    }
+
+    bool isAttached(const MediaTrack &track) const
+    {
+        const auto isSame = [&](const MediaTrack *file) { return file->fileName == track.fileName; };
+        return std::ranges::any_of(m_tracks.attachments, isSame);
+    }
+
+    /// What only the first of joined files brings along.
+    void leaveOutOfLater(qsizetype number)
+    {
+        const QString file = m_plan.sources.at(number).section(u'/', -1);
+        Plan unnamed = m_plan;
+        unnamed.subtitles.clear();  // which stand for tracks of the first
+        const bool keepsSubtitles = m_plan.preset.takesVideo() && m_tracks.video;
+        for (const MediaTrack &track : m_sources.at(number).tracks) {
+            if (track.kind == Kind::Subtitle && keepsSubtitles &&
+                useOfSubtitle(unnamed, track) != Plan::SubtitleUse::Leave)
+                m_tracks.leftOut.append({"Subtitles of %1: %2. Joining keeps none of later files."_key,
+                                         {file, trackName(track, m_machine)}});
+            else if (track.kind == Kind::Cover)
+                m_tracks.leftOut.append(
+                    {"The cover picture of %1. Joining keeps only that of the first file."_key, {file}});
+            else if (track.kind == Kind::Attachment && !isAttached(track))
+                m_tracks.leftOut.append({"The attached file %1 of %2. Joining keeps only those of the first file."_key,
+                                         {attachmentName(track), file}});
+        }
     }
 
     void planSubtitle(const MediaTrack &track)
@@ -163,35 +198,38 @@ private:
         if (isHeld && !track.mimeType.isEmpty() && !track.fileName.isEmpty())
             m_tracks.attachments.append(&track);
         else
-            leaveOut("The attached file %1. %2 cannot hold it."_key,
-                     track.fileName.isEmpty() ? u"#%1"_s.arg(track.index) : track.fileName);
+            leaveOut("The attached file %1. %2 cannot hold it."_key, attachmentName(track));
     }
 
     void planChapters()
     {
-        const bool hasSome = !m_source.chapters.isEmpty() || (m_plan.chapterPerSource && m_plan.sources.size() > 1);
+        const auto hasChapters = [](const MediaInformation &source) { return !source.chapters.isEmpty(); };
+        const bool hasSome =
+            std::ranges::any_of(m_sources, hasChapters) || (m_plan.chapterPerSource && m_plan.sources.size() > 1);
         m_tracks.keepsChapters = hasSome && m_tracks.container->has(Container::Chapters);
         if (hasSome && !m_tracks.keepsChapters)
             m_tracks.leftOut.append({"The chapters. %1 cannot hold them."_key, {containerName()}});
         // Chapters of some containers are a data track as well.
-        const qsizetype data = m_source.tracksOf(Kind::Data).size() - (m_source.chapters.isEmpty() ? 0 : 1);
-        if (data > 0 && m_plan.preset.takesVideo())
+        const auto hasData = [&](const MediaInformation &source) {
+            return source.tracksOf(Kind::Data).size() > (hasChapters(source) ? 1 : 0);
+        };
+        if (std::ranges::any_of(m_sources, hasData) && m_plan.preset.takesVideo())
             m_tracks.leftOut.append(tarnwell::Sentence("Data of the camera, such as time code."_key));
     }
 
     TrackPlan &m_tracks;
     const Plan &m_plan;
-    const MediaInformation &m_source;
+    const QList<MediaInformation> &m_sources;
     const TranscodeMachine &m_machine;
     int m_number = 0;  ///< of the next track of subtitles
 };
 
 }  // namespace
 
-void planCompanions(TrackPlan &tracks, const Plan &plan, const MediaInformation &source,
+void planCompanions(TrackPlan &tracks, const Plan &plan, const QList<MediaInformation> &sources,
                     const TranscodeMachine &machine)
 {
-    Companions(tracks, plan, source, machine).plan();
+    Companions(tracks, plan, sources, machine).plan();
 }
 
 Plan::SubtitleUse useOfSubtitle(const Plan &plan, const MediaTrack &track)

@@ -19,9 +19,9 @@ using tarnwell::operator""_key;
 
 bool areAlike(const MediaTrack &one, const MediaTrack &other)
 {
-    return one.kind == other.kind && one.codec == other.codec && one.profile == other.profile &&
-           one.width == other.width && one.height == other.height && one.pixelFormat == other.pixelFormat &&
-           std::abs(one.sampleAspect - other.sampleAspect) < 1e-4 &&
+    return one.index == other.index && one.kind == other.kind && one.codec == other.codec &&
+           one.profile == other.profile && one.width == other.width && one.height == other.height &&
+           one.pixelFormat == other.pixelFormat && std::abs(one.sampleAspect - other.sampleAspect) < 1e-4 &&
            std::abs(one.frameRate - other.frameRate) < 0.01 * std::max(1.0, one.frameRate) &&
            one.rotation == other.rotation && one.fieldOrder == other.fieldOrder &&
            one.colorTransfer == other.colorTransfer && one.channels == other.channels &&

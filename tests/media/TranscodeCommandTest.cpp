@@ -384,7 +384,38 @@ TEST(TranscodeCommand, JoinsUnequalFilesByEncodingThem)
         const auto unlike = transcodeSteps(plan, {film(), other}, {}, paths);
         ASSERT_TRUE(unlike);
         EXPECT_EQ(unlike->work, TranscodeSteps::Work::Encode) << number;
-        EXPECT_NE(lineOf(*unlike).find("concat=n=2:v=1:a=0"), std::string::npos) << number;
+        EXPECT_NE(lineOf(*unlike).find("concat=n=2:v=1:a=1"), std::string::npos) << number;
+    }
+}
+
+TEST(TranscodeCommand, AJoinKeepsSoundThatSomeFilesLack)
+{
+    const MediaInformation silent = film({video()}), two = film({video(), sound(1), sound(2, u"ger"_s)}),
+                           german = film({video(), sound(1, u"ger"_s), subtitle(2, u"subrip"_s)});
+    const struct {
+        const char *name;
+        QList<MediaInformation> sources;
+        const char *sounds;
+        qsizetype leftOut, notes;
+    } cases[] = {
+        {"none behind some", {film(), silent}, "[0:1] silence", 0, 1},
+        {"some behind none", {silent, film()}, "silence [1:1]", 0, 1},
+        {"no track twice, each behind its language", {two, german}, "[0:1] [0:2] silence [1:1]", 1, 1},
+        {"more than the first", {german, two}, "[0:1] [1:2]", 2, 0},
+        {"a picture in some alone", {film(), film({sound(0)})}, "", 0, 0},
+    };
+    for (const auto &each : cases) {
+        const Plan plan = planFor(u"mp4-h264"_s, [](Plan &p) { p.sources += u"/films/b.mp4"_s; });
+        const auto steps = transcodeSteps(plan, each.sources, {}, paths);
+        QStringList sounds;
+        const QString line = steps ? steps->runs.last().arguments.join(u' ') : QString();
+        for (const QString &chain : line.split(u';')) {
+            if (chain.contains("]aformat"_L1) || chain.contains(",aformat"_L1))
+                sounds += chain.contains("anullsrc"_L1) ? u"silence"_s : chain.section(u"aformat"_s, 0, 0);
+        }
+        EXPECT_EQ(sounds.join(u' ').toStdString(), each.sounds) << each.name << ": " << line.toStdString();
+        EXPECT_EQ(steps ? steps->leftOut.size() : 0, each.leftOut) << each.name;
+        EXPECT_EQ(steps ? steps->notes.size() : 0, each.notes) << each.name;
     }
 }
 
