@@ -1,5 +1,7 @@
 #include "TrackPlan.h"
 
+#include "SubtitleFile.h"
+
 #include "foundation/LanguageTags.h"
 
 #include <algorithm>
@@ -142,21 +144,14 @@ private:
         const Plan::ExternalSubtitle &file = m_plan.externalSubtitles.at(index);
         if (file.use == Plan::SubtitleUse::Leave || !m_tracks.video)
             return;
-        const bool isBitmap =
-            file.path.endsWith(".sup"_L1, Qt::CaseInsensitive) || file.path.endsWith(".idx"_L1, Qt::CaseInsensitive);
-        const QString codec =
-            file.path.endsWith(".sup"_L1, Qt::CaseInsensitive)   ? u"hdmv_pgs_subtitle"_s
-            : file.path.endsWith(".idx"_L1, Qt::CaseInsensitive) ? u"dvd_subtitle"_s
-            : file.path.endsWith(".ass"_L1, Qt::CaseInsensitive) || file.path.endsWith(".ssa"_L1, Qt::CaseInsensitive)
-                ? u"ass"_s
-            : file.path.endsWith(".vtt"_L1, Qt::CaseInsensitive) ? u"webvtt"_s
-                                                                 : u"subrip"_s;
+        const SubtitleKind &kind = subtitleKindOf(file.path);
+        const QString codec = QString::fromLatin1(kind.codec);
         const QString name = file.path.section(u'/', -1);
         if (file.use == Plan::SubtitleUse::Burn) {
             burn({.source = nullptr, .file = index, .made = -1, .encoder = {}, .codec = codec});
             return;
         }
-        const QString encoder = subtitleEncoder(*m_tracks.container, codec, isBitmap);
+        const QString encoder = subtitleEncoder(*m_tracks.container, codec, kind.isBitmap);
         if (encoder.isNull())
             leaveOut("Subtitles: %1. %2 cannot hold them."_key, name);
         else if (m_plan.speedFactor != 1 || isCut(m_plan))
