@@ -189,7 +189,7 @@ private:
 
     void planAttachment(const MediaTrack &track)
     {
-        const bool isHeld = m_tracks.container->has(Container::Attachments) && !isCut(m_plan);
+        const bool isHeld = m_tracks.container->has(Container::Attachments);
         if (isHeld && !track.mimeType.isEmpty() && !track.fileName.isEmpty())
             m_tracks.attachments.append(&track);
         else
