@@ -88,7 +88,7 @@ private:
         return std::ranges::any_of(m_tracks.attachments, isSame);
     }
 
-    /// What only the first of joined files brings along.
+    /// Of joined files only the first brings such along.
     void leaveOutOfLater(qsizetype number)
     {
         const QString file = m_plan.sources.at(number).section(u'/', -1);
@@ -101,10 +101,9 @@ private:
                 m_tracks.leftOut.append({"Subtitles of %1: %2. Joining keeps none of later files."_key,
                                          {file, trackName(track, m_machine)}});
             else if (track.kind == Kind::Cover)
-                m_tracks.leftOut.append(
-                    {"The cover picture of %1. Joining keeps only that of the first file."_key, {file}});
+                m_tracks.leftOut.append({"The cover picture of %1. Joining keeps none of later files."_key, {file}});
             else if (track.kind == Kind::Attachment && !isAttached(track))
-                m_tracks.leftOut.append({"The attached file %1 of %2. Joining keeps only those of the first file."_key,
+                m_tracks.leftOut.append({"The attached file %1 of %2. Joining keeps none of later files."_key,
                                          {attachmentName(track), file}});
         }
     }
