@@ -105,6 +105,20 @@ QString languageTag(const QString &localeName)
     return tag;
 }
 
+QString knownLanguageTag(const QString &word)
+{
+    const QString tag = languageTag(word);
+    const bool isKnown = tag.section(u'-', 0, 0).size() == 2 && !isoLanguageCode(tag).isEmpty();
+    return isKnown ? tag : QString();
+}
+
+QString isoLanguageCode(const QString &code)
+{
+    const QString tag = languageTag(code);
+    return tag.isEmpty() ? QString()
+                         : QString::fromLatin1(icu::Locale(tag.section(u'-', 0, 0).toLatin1()).getISO3Language());
+}
+
 QString languageDisplayName(const QString &code, const QString &displayLanguage)
 {
     UErrorCode status = U_ZERO_ERROR;

@@ -14,6 +14,13 @@ QStringList systemPreferredLanguages();
 /// gives it.
 QString languageTag(const QString &localeName);
 
+/// The same of a word that may be none: null where it names no language that has a code of two letters.
+QString knownLanguageTag(const QString &word);
+
+/// The code of three letters by which files name the language with the tag or code `code` ("deu", "fra"); null where it
+/// has none.
+QString isoLanguageCode(const QString &code);
+
 /// The name of the language with the tag `code`, written in the language with the tag `displayLanguage` ("Japanese",
 /// "日本語"); `code` where it is unknown.
 QString languageDisplayName(const QString &code, const QString &displayLanguage);

@@ -1,5 +1,7 @@
 #include "TrackPlan.h"
 
+#include "SubtitleFile.h"
+
 #include "foundation/LanguageTags.h"
 
 #include <algorithm>
@@ -33,6 +35,11 @@ QString subtitleEncoder(const Container &container, const QString &codec, bool i
     return container.text && tableWords(readableText).contains(codec) ? QString::fromLatin1(container.text) : QString();
 }
 
+QString attachmentName(const MediaTrack &track)
+{
+    return track.fileName.isEmpty() ? u"#%1"_s.arg(track.index) : track.fileName;
+}
+
 QString subtitleCodec(const QString &encoder, const QString &source)
 {
     return encoder == "copy"_L1 ? source : encoder == "srt"_L1 ? u"subrip"_s : encoder;
@@ -40,17 +47,18 @@ QString subtitleCodec(const QString &encoder, const QString &source)
 
 class Companions {
 public:
-    Companions(TrackPlan &tracks, const Plan &plan, const MediaInformation &source, const TranscodeMachine &machine)
+    Companions(TrackPlan &tracks, const Plan &plan, const QList<MediaInformation> &sources,
+               const TranscodeMachine &machine)
         : m_tracks(tracks),
           m_plan(plan),
-          m_source(source),
+          m_sources(sources),
           m_machine(machine)
     {
     }
 
     void plan()
     {
-        for (const MediaTrack &track : m_source.tracks) {
+        for (const MediaTrack &track : m_sources.first().tracks) {
             if (track.kind == Kind::Subtitle) {
                 planSubtitle(track);
                 ++m_number;
@@ -62,6 +70,8 @@ public:
         }
         for (int file = 0; file < m_plan.externalSubtitles.size(); ++file)
             planSubtitleFile(file);
+        for (qsizetype number = 1; number < m_sources.size(); ++number)
+            leaveOutOfLater(number);
         planChapters();
     }
 
@@ -70,6 +80,32 @@ private:
     void leaveOut(tarnwell::TextKey key, const QString &name)
     {
         m_tracks.leftOut.append({key, {name, containerName()}});
+    }
+
+    bool isAttached(const MediaTrack &track) const
+    {
+        const auto isSame = [&](const MediaTrack *file) { return file->fileName == track.fileName; };
+        return std::ranges::any_of(m_tracks.attachments, isSame);
+    }
+
+    /// Of joined files only the first brings such along.
+    void leaveOutOfLater(qsizetype number)
+    {
+        const QString file = m_plan.sources.at(number).section(u'/', -1);
+        Plan unnamed = m_plan;
+        unnamed.subtitles.clear();  // which stand for tracks of the first
+        const bool keepsSubtitles = m_plan.preset.takesVideo() && m_tracks.video;
+        for (const MediaTrack &track : m_sources.at(number).tracks) {
+            if (track.kind == Kind::Subtitle && keepsSubtitles &&
+                useOfSubtitle(unnamed, track) != Plan::SubtitleUse::Leave)
+                m_tracks.leftOut.append({"Subtitles of %1: %2. Joining keeps none of later files."_key,
+                                         {file, trackName(track, m_machine)}});
+            else if (track.kind == Kind::Cover)
+                m_tracks.leftOut.append({"The cover picture of %1. Joining keeps none of later files."_key, {file}});
+            else if (track.kind == Kind::Attachment && !isAttached(track))
+                m_tracks.leftOut.append({"The attached file %1 of %2. Joining keeps none of later files."_key,
+                                         {attachmentName(track), file}});
+        }
     }
 
     void planSubtitle(const MediaTrack &track)
@@ -107,21 +143,14 @@ private:
         const Plan::ExternalSubtitle &file = m_plan.externalSubtitles.at(index);
         if (file.use == Plan::SubtitleUse::Leave || !m_tracks.video)
             return;
-        const bool isBitmap =
-            file.path.endsWith(".sup"_L1, Qt::CaseInsensitive) || file.path.endsWith(".idx"_L1, Qt::CaseInsensitive);
-        const QString codec =
-            file.path.endsWith(".sup"_L1, Qt::CaseInsensitive)   ? u"hdmv_pgs_subtitle"_s
-            : file.path.endsWith(".idx"_L1, Qt::CaseInsensitive) ? u"dvd_subtitle"_s
-            : file.path.endsWith(".ass"_L1, Qt::CaseInsensitive) || file.path.endsWith(".ssa"_L1, Qt::CaseInsensitive)
-                ? u"ass"_s
-            : file.path.endsWith(".vtt"_L1, Qt::CaseInsensitive) ? u"webvtt"_s
-                                                                 : u"subrip"_s;
+        const SubtitleKind &kind = subtitleKindOf(file.path);
+        const QString codec = QString::fromLatin1(kind.codec);
         const QString name = file.path.section(u'/', -1);
         if (file.use == Plan::SubtitleUse::Burn) {
             burn({.source = nullptr, .file = index, .made = -1, .encoder = {}, .codec = codec});
             return;
         }
-        const QString encoder = subtitleEncoder(*m_tracks.container, codec, isBitmap);
+        const QString encoder = subtitleEncoder(*m_tracks.container, codec, kind.isBitmap);
         if (encoder.isNull())
             leaveOut("Subtitles: %1. %2 cannot hold them."_key, name);
         else if (m_plan.speedFactor != 1 || isCut(m_plan))
@@ -159,39 +188,42 @@ private:
 
     void planAttachment(const MediaTrack &track)
     {
-        const bool isHeld = m_tracks.container->has(Container::Attachments) && !isCut(m_plan);
+        const bool isHeld = m_tracks.container->has(Container::Attachments);
         if (isHeld && !track.mimeType.isEmpty() && !track.fileName.isEmpty())
             m_tracks.attachments.append(&track);
         else
-            leaveOut("The attached file %1. %2 cannot hold it."_key,
-                     track.fileName.isEmpty() ? u"#%1"_s.arg(track.index) : track.fileName);
+            leaveOut("The attached file %1. %2 cannot hold it."_key, attachmentName(track));
     }
 
     void planChapters()
     {
-        const bool hasSome = !m_source.chapters.isEmpty() || (m_plan.chapterPerSource && m_plan.sources.size() > 1);
+        const auto hasChapters = [](const MediaInformation &source) { return !source.chapters.isEmpty(); };
+        const bool hasSome =
+            std::ranges::any_of(m_sources, hasChapters) || (m_plan.chapterPerSource && m_plan.sources.size() > 1);
         m_tracks.keepsChapters = hasSome && m_tracks.container->has(Container::Chapters);
         if (hasSome && !m_tracks.keepsChapters)
             m_tracks.leftOut.append({"The chapters. %1 cannot hold them."_key, {containerName()}});
         // Chapters of some containers are a data track as well.
-        const qsizetype data = m_source.tracksOf(Kind::Data).size() - (m_source.chapters.isEmpty() ? 0 : 1);
-        if (data > 0 && m_plan.preset.takesVideo())
+        const auto hasData = [&](const MediaInformation &source) {
+            return source.tracksOf(Kind::Data).size() > (hasChapters(source) ? 1 : 0);
+        };
+        if (std::ranges::any_of(m_sources, hasData) && m_plan.preset.takesVideo())
             m_tracks.leftOut.append(tarnwell::Sentence("Data of the camera, such as time code."_key));
     }
 
     TrackPlan &m_tracks;
     const Plan &m_plan;
-    const MediaInformation &m_source;
+    const QList<MediaInformation> &m_sources;
     const TranscodeMachine &m_machine;
     int m_number = 0;  ///< of the next track of subtitles
 };
 
 }  // namespace
 
-void planCompanions(TrackPlan &tracks, const Plan &plan, const MediaInformation &source,
+void planCompanions(TrackPlan &tracks, const Plan &plan, const QList<MediaInformation> &sources,
                     const TranscodeMachine &machine)
 {
-    Companions(tracks, plan, source, machine).plan();
+    Companions(tracks, plan, sources, machine).plan();
 }
 
 Plan::SubtitleUse useOfSubtitle(const Plan &plan, const MediaTrack &track)

@@ -28,12 +28,22 @@ public:
     {
         FilterGraph graph;
         const bool isEncoded = m_tracks.video && m_tracks.video->encoder;
+        const bool isJoined = m_inputs.pieces.size() > 1;
+        QString picture;
+        if (isJoined)
+            picture = joinPieces(isEncoded);
+        else if (isEncoded)
+            picture = addPiece(0);
         if (isEncoded)
-            graph.pictures = addPictures();
+            graph.pictures = addPictures(picture);
         else if (m_tracks.video)
             graph.pictures = u"0:%1"_s.arg(m_tracks.video->source->index);
-        for (qsizetype number = 0; withSound && number < m_tracks.sounds.size(); ++number)
-            graph.sounds << addSound(number);
+        for (qsizetype number = 0; number < m_tracks.sounds.size(); ++number) {
+            if (withSound)
+                graph.sounds << addSound(number);
+            else if (isJoined)
+                m_chains << u"[joined%1]anullsink"_s.arg(number);
+        }
         graph.graph = m_chains.join(u';');
         return graph;
     }
@@ -79,22 +89,57 @@ private:
         return result;
     }
 
-    QString addPictures()
+    /// Picture and sound of a piece end together, so that those of the next one begin together: what ends before is
+    /// silent until then. Also without sound the pictures come at these times.
+    QString joinPieces(bool hasPicture)
     {
-        QString last;
-        for (qsizetype number = 0; number < m_inputs.pieces.size(); ++number)
-            last += addPiece(number);
+        QString pieces, results = hasPicture ? u"[joined]"_s : QString();
+        for (qsizetype piece = 0; piece < m_inputs.pieces.size(); ++piece) {
+            if (hasPicture)
+                pieces += addPiece(piece);
+            for (qsizetype number = 0; number < m_tracks.sounds.size(); ++number)
+                pieces += addPieceSound(piece, number);
+        }
+        for (qsizetype number = 0; number < m_tracks.sounds.size(); ++number)
+            results += u"[joined%1]"_s.arg(number);
+        m_chains << pieces +
+                        u"concat=n=%1:v=%2:a=%3"_s.arg(m_inputs.pieces.size())
+                            .arg(hasPicture ? 1 : 0)
+                            .arg(m_tracks.sounds.size()) +
+                        results;
+        return u"[joined]"_s;
+    }
+
+    QString addPieceSound(qsizetype piece, qsizetype number)
+    {
+        const SoundTrackPlan &sound = m_tracks.sounds.at(number);
+        const SourcePiece &from = m_inputs.pieces.at(piece);
+        const QString result = u"[sound%1_%2]"_s.arg(number).arg(piece);
+        const QString layout = sound.layout.isNull() ? sound.source->channelLayout : sound.layout;
+        const int rate = sound.sampleRate > 0 ? sound.sampleRate : sound.source->sampleRate;
+        QString format = u"aformat=sample_rates=%1"_s.arg(rate > 0 ? rate : 48000);
+        if (!layout.isEmpty())
+            format += u":channel_layouts="_s + layout;
+        const int index = sound.joined.value(from.source, sound.source->index);
+        // Joining fills up all but the last piece, as far as its picture goes.
+        constexpr double beginning = 0.1;
+        const bool isFilled = m_tracks.video && piece + 1 < m_inputs.pieces.size();
+        const QString silence =
+            u"anullsrc=duration=%1,"_s.arg(numberText(isFilled ? beginning : from.seconds.value_or(beginning)));
+        m_chains << (index >= 0 ? u"[%1:%2]"_s.arg(piece).arg(index) : silence) + format + result;
+        return result;
+    }
+
+    QString addPictures(const QString &from)
+    {
         const VideoTrackPlan &video = *m_tracks.video;
-        const QStringList common = resultFilters(m_plan, video, m_seconds);
+        const QStringList filters = resultFilters(m_plan, video, m_seconds);
         const QStringList final = encoderFilters(video, m_seconds);
-        QStringList filters = common;
-        if (m_inputs.pieces.size() > 1)
-            filters.prepend(u"concat=n=%1:v=1:a=0"_s.arg(m_inputs.pieces.size()));
         if (m_inputs.watermark < 0) {
-            chain(last, filters + final, u"[picture]"_s);
+            chain(from, filters + final, u"[picture]"_s);
             return u"[picture]"_s;
         }
-        chain(last, filters, u"[unmarked]"_s);
+        chain(from, filters, u"[unmarked]"_s);
         m_chains << watermarkGraph(*m_plan.watermark, video.size, m_inputs.watermark, u"unmarked"_s, u"marked"_s);
         chain(u"[marked]"_s, final, u"[picture]"_s);
         return u"[picture]"_s;
@@ -103,31 +148,14 @@ private:
     QString addSound(qsizetype number)
     {
         const SoundTrackPlan &sound = m_tracks.sounds.at(number);
-        const QStringList filters = soundFilters(m_plan, sound, m_seconds);
         if (m_inputs.pieces.size() == 1)
             return u"0:%1"_s.arg(sound.source->index);
-        QString last;
-        const QString layout = sound.layout.isNull() ? sound.source->channelLayout : sound.layout;
-        const int rate = sound.sampleRate > 0 ? sound.sampleRate : sound.source->sampleRate;
-        for (qsizetype piece = 0; piece < m_inputs.pieces.size(); ++piece) {
-            const int source = m_inputs.pieces.at(piece).source;
-            const int index = source == 0 ? sound.source->index : soundOf(source, number);
-            const QString result = u"[sound%1_%2]"_s.arg(number).arg(piece);
-            QString format = u"aformat=sample_rates=%1"_s.arg(rate > 0 ? rate : 48000);
-            if (!layout.isEmpty())
-                format += u":channel_layouts="_s + layout;
-            m_chains << u"[%1:%2]%3%4"_s.arg(QString::number(piece), QString::number(index), format, result);
-            last += result;
-        }
-        const QString result = u"[sound%1]"_s.arg(number);
-        chain(last, QStringList{u"concat=n=%1:v=0:a=1"_s.arg(m_inputs.pieces.size())} + filters, result);
+        const QString joined = u"[joined%1]"_s.arg(number), result = u"[sound%1]"_s.arg(number);
+        const QStringList filters = soundFilters(m_plan, sound, m_seconds);
+        if (filters.isEmpty())
+            return joined;
+        chain(joined, filters, result);
         return result;
-    }
-
-    int soundOf(int source, qsizetype number) const
-    {
-        const QList<MediaTrack> sounds = m_inputs.sources.at(source).tracksOf(Kind::Audio);
-        return sounds.isEmpty() ? 0 : sounds.at(std::min(number, sounds.size() - 1)).index;
     }
 
     const Plan &m_plan;

@@ -19,9 +19,9 @@ using tarnwell::operator""_key;
 
 bool areAlike(const MediaTrack &one, const MediaTrack &other)
 {
-    return one.kind == other.kind && one.codec == other.codec && one.profile == other.profile &&
-           one.width == other.width && one.height == other.height && one.pixelFormat == other.pixelFormat &&
-           std::abs(one.sampleAspect - other.sampleAspect) < 1e-4 &&
+    return one.index == other.index && one.kind == other.kind && one.codec == other.codec &&
+           one.profile == other.profile && one.width == other.width && one.height == other.height &&
+           one.pixelFormat == other.pixelFormat && std::abs(one.sampleAspect - other.sampleAspect) < 1e-4 &&
            std::abs(one.frameRate - other.frameRate) < 0.01 * std::max(1.0, one.frameRate) &&
            one.rotation == other.rotation && one.fieldOrder == other.fieldOrder &&
            one.colorTransfer == other.colorTransfer && one.channels == other.channels &&
@@ -143,6 +143,8 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
     for (qsizetype number = 0; number < indexes.size(); ++number)
         arguments << u"-map"_s << u"0:%1"_s.arg(isCut ? number : indexes.at(number));
     arguments << u"-c"_s << u"copy"_s;
+    for (const MediaTrack *file : std::as_const(tracks.attachments))
+        arguments << u"-map"_s << u"1:%1"_s.arg(file->index);
     if (!tracks.covers.isEmpty())
         arguments << u"-map"_s << u"1:%1"_s.arg(tracks.covers.first()->index)
                   << (tracks.video ? u"-disposition:v:1"_s : u"-disposition:v:0"_s) << u"attached_pic"_s;

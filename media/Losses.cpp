@@ -44,11 +44,11 @@ void tellTagLosses(const Container &container, const QHash<QString, QString> &ta
         const char *tags;
         tarnwell::TextKey key;
     };
-    constexpr tarnwell::TextKey camera = "Notes of the camera, such as place or model. %1 cannot hold all of them."_key;
+    constexpr tarnwell::TextKey place = "The place of recording. %1 cannot hold it."_key;
     static constexpr Loss losses[] = {
         {"title"_L1, "title", "The title. %1 cannot hold it."_key},
         {"date"_L1, "creation_time com.apple.quicktime.creationdate", "The date of recording. %1 cannot hold it."_key},
-        {"place"_L1, "location com.apple.quicktime.location.iso6709", camera},
+        {"place"_L1, "location com.apple.quicktime.location.iso6709", place},
     };
     const QStringList lost = tableWords(container.lostTags);
     for (const Loss &loss : losses) {

@@ -4,6 +4,8 @@
 
 #include "FilterText.h"
 
+#include "foundation/LanguageTags.h"
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -52,6 +54,23 @@ QString tagPlace(const TrackPlan &tracks, const MediaInformation &source)
     return source.format == "ogg"_L1 ? u"0:s:%1"_s.arg(first->index) : u"0"_s;
 }
 
+/// As the container takes it. QuickTime has a list of its own, whose codes are not all those of today.
+QString languageCode(const Container &container, const QString &language)
+{
+    static constexpr std::pair<const char *, const char *> listed[] = {
+        {"deu", "ger"}, {"nld", "dut"}, {"swe", "sve"}, {"ell", "gre"}, {"isl", "ice"}, {"zho", "chi"},
+        {"sqi", "alb"}, {"mkd", "mac"}, {"hye", "arm"}, {"kat", "geo"}, {"bod", "tib"}, {"mya", "bur"},
+        {"msa", "may"}, {"cym", "wel"}, {"eus", "baq"}, {"hrv", "hr "}, {"fas", "iri"}, {"srp", "sr "}};
+    if (!container.has(Container::HandlerNames))
+        return language;
+    const QString code = foundation::isoLanguageCode(language);
+    for (const auto &[usual, own] : listed) {
+        if (QLatin1StringView(container.muxer) == "mov"_L1 && code == QLatin1StringView(usual))
+            return QString::fromLatin1(own);
+    }
+    return code.isEmpty() ? language : code;
+}
+
 QStringList trackTags(const TrackPlan &tracks, const MediaTrack &track, const QString &specifier)
 {
     QStringList arguments;
@@ -59,7 +78,7 @@ QStringList trackTags(const TrackPlan &tracks, const MediaTrack &track, const QS
         return {};
     const QString option = u"-metadata:s:"_s + specifier;
     if (!track.language.isEmpty())
-        arguments << option << u"language="_s + track.language;
+        arguments << option << u"language="_s + languageCode(*tracks.container, track.language);
     if (!track.title.isEmpty()) {
         arguments << option << u"title="_s + track.title;
         if (tracks.container->has(Container::HandlerNames))
@@ -110,8 +129,12 @@ QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const 
         if (subtitle.source) {
             arguments << u"-disposition:"_s + specifier << dispositionText(*subtitle.source);
             arguments += trackTags(tracks, *subtitle.source, specifier);
-        } else if (const QString language = plan.externalSubtitles.at(subtitle.file).language; !language.isEmpty()) {
-            arguments << u"-metadata:s:"_s + specifier << u"language="_s + language;
+        } else {
+            MediaTrack track;
+            track.language = plan.externalSubtitles.at(subtitle.file).language;
+            track.isForced = plan.externalSubtitles.at(subtitle.file).isForced;
+            arguments << u"-disposition:"_s + specifier << dispositionText(track);
+            arguments += trackTags(tracks, track, specifier);
         }
     }
     for (const MediaTrack *file : tracks.attachments)

@@ -46,6 +46,56 @@ void planSoundTracks(TrackPlan &tracks, const Plan &plan, const MediaInformation
     tracks.sounds = planSounds(plan, wanted, *tracks.container, machine);
 }
 
+/// Those of a joined file that may stand behind the leader's: tracks that are named there are named by their place.
+QList<const MediaTrack *> soundsToJoin(const Plan &plan, const MediaInformation &leader, const MediaInformation &source)
+{
+    if (!plan.audioTracks)
+        return wantedSounds(plan, source);
+    Plan all = plan;
+    all.audioTracks.reset();
+    all.soundLanguages.clear();
+    const QList<const MediaTrack *> places = wantedSounds(all, leader);
+    QList<const MediaTrack *> tracks = wantedSounds(all, source).mid(0, places.size());
+    const auto isNamed = [&](const MediaTrack *track) {
+        return plan.audioTracks->contains(places.at(tracks.indexOf(track))->index);
+    };
+    QList<const MediaTrack *> named;
+    std::ranges::copy_if(tracks, std::back_inserter(named), isNamed);
+    return named;
+}
+
+/// Finds each track of the result in each file, of the same language before others, none of them twice.
+void joinSounds(TrackPlan &tracks, const Plan &plan, const QList<MediaInformation> &sources, qsizetype leader,
+                const TranscodeMachine &machine)
+{
+    for (qsizetype number = 0; number < sources.size(); ++number) {
+        QList<const MediaTrack *> left = soundsToJoin(plan, sources.at(leader), sources.at(number));
+        for (SoundTrackPlan &sound : tracks.sounds)
+            sound.joined.append(number == leader ? sound.source->index : -1);
+        if (number == leader)
+            continue;
+        for (const bool needsLanguage : {true, false}) {
+            for (SoundTrackPlan &sound : tracks.sounds) {
+                const auto found = std::ranges::find_if(left, [&](const MediaTrack *track) {
+                    return sound.joined.last() < 0 && (!needsLanguage || track->language == sound.source->language);
+                });
+                if (found == left.end())
+                    continue;
+                sound.joined.last() = (*found)->index;
+                left.erase(found);
+            }
+        }
+        const QString name = plan.sources.at(number).section(u'/', -1);
+        const auto isSilent = [](const SoundTrackPlan &sound) { return sound.joined.last() < 0; };
+        if (std::ranges::any_of(tracks.sounds, isSilent))
+            tracks.notes.append(
+                {"%1 has fewer tracks of sound than other files: what it lacks is silent."_key, {name}});
+        for (const MediaTrack *track : std::as_const(left))
+            tracks.leftOut.append(
+                {"Sound of %1: %2. The joined file has no track for it."_key, {name, trackName(*track, machine)}});
+    }
+}
+
 bool burns(const Plan &plan)
 {
     const auto isBurnt = [](const Plan::ExternalSubtitle &file) { return file.use == Plan::SubtitleUse::Burn; };
@@ -81,16 +131,16 @@ std::optional<tarnwell::Sentence> refusal(const Plan &plan, const QList<MediaInf
         return tarnwell::Sentence("There is nothing to convert."_key);
     if (sources.size() > 1 && !plan.pieces.isEmpty())
         return tarnwell::Sentence("Files can be cut or joined, but not both at once."_key);
-    const bool hasSound = std::ranges::all_of(sources, &MediaInformation::hasAudio);
+    const bool hasSound = std::ranges::any_of(sources, &MediaInformation::hasAudio);
     const bool hasVideo = std::ranges::all_of(sources, &MediaInformation::hasVideo);
+    if (plan.preset.takesVideo() && !hasVideo && std::ranges::any_of(sources, &MediaInformation::hasVideo))
+        return tarnwell::Sentence("Films and files without a picture can be joined only into a file of sound."_key);
     if (!plan.preset.takesVideo() && !hasSound)
         return tarnwell::Sentence("This file has no sound to convert."_key);
     if (!plan.preset.takesAudio() && !hasVideo)
         return tarnwell::Sentence("This file has no picture to convert."_key);
     if (!hasVideo && !hasSound)
-        return sources.size() > 1
-                   ? tarnwell::Sentence("Only files that all have a picture, or all have sound, can be joined."_key)
-                   : tarnwell::Sentence("This file has neither picture nor sound to convert."_key);
+        return tarnwell::Sentence("This file has neither picture nor sound to convert."_key);
     if (sourcePieces(plan, sources).isEmpty())
         return tarnwell::Sentence("The pieces to be kept lie behind the end of the file."_key);
     return {};
@@ -156,29 +206,32 @@ foundation::Result<TrackPlan, tarnwell::Sentence> planTracks(const Plan &plan, c
     if (!tracks.container)
         return Refused{{"Kestrel does not know the kind of file “%1” of this preset."_key, {plan.preset.container}}};
 
-    const MediaInformation &first = sources.first();
     const bool hasVideo = std::ranges::all_of(sources, &MediaInformation::hasVideo);
-    const bool hasSound = std::ranges::all_of(sources, &MediaInformation::hasAudio);
+    const auto leader = std::ranges::find_if(sources, &MediaInformation::hasAudio);
+    const bool hasSound = leader != sources.end();
     if (plan.preset.takesVideo() && hasVideo) {
         tracks.video = planJoinedVideo(plan, sources, *tracks.container, machine);
         if (!tracks.video)
             return Refused{{"The encoder for %1 is not installed."_key, {codecLabel(plan.preset.videoCodec)}}};
-        if (first.tracksOf(Kind::Video).size() > 1)
+        const auto hasSeveral = [](const auto &source) { return source.tracksOf(Kind::Video).size() > 1; };
+        if (std::ranges::any_of(sources, hasSeveral))
             tracks.leftOut.append(
                 tarnwell::Sentence("Further pictures beside the first (other angles or previews)."_key));
     }
     if (plan.preset.takesAudio() && hasSound) {
-        planSoundTracks(tracks, plan, first, machine);
-        if (tracks.sounds.isEmpty() && !wantedSounds(plan, first).isEmpty())
+        planSoundTracks(tracks, plan, *leader, machine);
+        if (tracks.sounds.isEmpty() && !wantedSounds(plan, *leader).isEmpty())
             return Refused{{"The encoder for %1 is not installed."_key, {codecLabel(plan.preset.audioCodec)}}};
+        if (sources.size() > 1)
+            joinSounds(tracks, plan, sources, leader - sources.begin(), machine);
     } else if (hasSound) {
         tracks.leftOut.append(
             {"The sound. %1 holds only pictures."_key, {QString::fromLatin1(tracks.container->name)}});
     }
     if (!tracks.video && tracks.sounds.isEmpty())
         return Refused{{"Nothing of this file would be kept."_key}};
-    planCompanions(tracks, plan, first, machine);
-    tellLosses(tracks, plan, first, machine);
+    planCompanions(tracks, plan, sources, machine);
+    tellLosses(tracks, plan, sources.first(), machine);
     return tracks;
 }
 

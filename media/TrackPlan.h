@@ -38,6 +38,7 @@ struct SoundTrackPlan {
     QString layout;      ///< to be made; null for as the source
     qint64 bitRate = 0;  ///< bits a second; 0 for constant quality or none
     int sampleRate = 0;  ///< 0 for as the source
+    QList<int> joined;   ///< of a join: index of the track in each of the files, -1 for silence
 };
 
 struct SubtitleTrackPlan {
@@ -48,7 +49,8 @@ struct SubtitleTrackPlan {
     QString codec;                       ///< of the result
 };
 
-/// What becomes of each track of the sources. Tracks point into `sources`; for a join they are those of the first.
+/// What becomes of each track of the sources. Tracks point into `sources`; for a join they are those of the first, for
+/// sound of the first that has any.
 struct TrackPlan {
     const Container *container = nullptr;
     std::optional<VideoTrackPlan> video;
@@ -85,7 +87,7 @@ std::optional<VideoTrackPlan> planVideo(const TranscodePlan &plan, const MediaTr
 QList<SoundTrackPlan> planSounds(const TranscodePlan &plan, const QList<const MediaTrack *> &tracks,
                                  const Container &container, const TranscodeMachine &machine);
 /// Subtitles, covers, attachments and chapters, with what stays behind.
-void planCompanions(TrackPlan &tracks, const TranscodePlan &plan, const MediaInformation &source,
+void planCompanions(TrackPlan &tracks, const TranscodePlan &plan, const QList<MediaInformation> &sources,
                     const TranscodeMachine &machine);
 /// What a format of pixels, in ffmpeg's words, can tell apart. `depth` is what is known of it beside its name.
 struct PixelKind {

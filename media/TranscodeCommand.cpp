@@ -93,7 +93,7 @@ public:
         if (!rate)
             return foundation::Failure{rate.reason()};
         m_rate = *rate;
-        m_tracks.notes = notesOn(m_plan, m_tracks, plannedSize);
+        m_tracks.notes += notesOn(m_plan, m_tracks, plannedSize);
         m_inputs = commandInputs(m_plan, m_sources, m_tracks, m_pieces, m_paths);
         m_steps.runs = m_inputs.runs;
         m_steps.files = m_inputs.files;
@@ -234,7 +234,10 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> transcodeSteps(const Plan
     if (pieces.size() == 1)
         return Builder(plan, sources, machine, paths, *tracks, pieces).steps();
 
-    if (tracks->copiesAll() && canBeJoined(sources))
+    const auto staysInPlace = [](const SoundTrackPlan &sound) {
+        return std::ranges::count(sound.joined, sound.source->index) == sound.joined.size();
+    };
+    if (tracks->copiesAll() && canBeJoined(sources) && std::ranges::all_of(tracks->sounds, staysInPlace))
         return joinSteps(plan, sources, *tracks, pieces, paths);
     Plan encoding = plan;
     encoding.copies = false;

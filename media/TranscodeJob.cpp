@@ -2,6 +2,7 @@
 
 #include "MediaProber.h"
 #include "OutputName.h"
+#include "SubtitleFile.h"
 
 #include "jobs/OutputFile.h"
 #include "tarnwell/Log.h"
@@ -49,14 +50,23 @@ void TranscodeJob::start()
     lookAtSource();
 }
 
-/// The plan as tools can read it.
-TranscodePlan TranscodeJob::planWithToolPaths()
+/// The plan as tools can read it, or why they cannot.
+foundation::Result<TranscodePlan, Sentence> TranscodeJob::planWithToolPaths()
 {
     TranscodePlan plan = m_request.plan;
+    const MediaTrack *video = m_request.information.first().firstOf(MediaTrack::Kind::Video);
     for (qsizetype index = 0; index < plan.sources.size(); ++index)
         plan.sources[index] = m_sources[index].path();
-    for (TranscodePlan::ExternalSubtitle &subtitle : plan.externalSubtitles)
-        subtitle.path = m_companions.emplace_back(subtitle.path).path();
+    for (TranscodePlan::ExternalSubtitle &subtitle : plan.externalSubtitles) {
+        const QString path = m_companions.emplace_back(subtitle.path).path();
+        if (subtitle.use == TranscodePlan::SubtitleUse::Leave)
+            continue;
+        const auto readable = readableSubtitles(path, m_workFolder->filePath(u"subtitles%1"_s.arg(m_companions.size())),
+                                                video ? video->frameRate : 0);
+        if (!readable)
+            return foundation::Failure{readable.reason()};
+        subtitle.path = *readable;
+    }
     if (plan.watermark && !plan.watermark->imagePath.isEmpty())
         plan.watermark->imagePath = m_companions.emplace_back(plan.watermark->imagePath).path();
     return plan;
@@ -73,7 +83,10 @@ void TranscodeJob::prepare()
     m_workFolder = std::make_unique<WorkFolder>();
     if (!m_workFolder->isValid() || m_outputPath->path().isNull())
         return fail("The folder for temporary files cannot be written."_key);
-    m_request.plan = planWithToolPaths();
+    auto plan = planWithToolPaths();
+    if (!plan)
+        return fail(plan.reason());
+    m_request.plan = *std::move(plan);
     carryOut();
 }
 

@@ -71,7 +71,7 @@ private:
     void finishStopped();
     void tellProgress();
     void tellStage(const tarnwell::Sentence &stage);
-    TranscodePlan planWithToolPaths();
+    foundation::Result<TranscodePlan, tarnwell::Sentence> planWithToolPaths();
 
     TranscodeRequest m_request;
     std::vector<ToolPath> m_sources;

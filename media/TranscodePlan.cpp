@@ -191,7 +191,10 @@ void insertLists(QJsonObject &json, const Plan &plan)
     for (auto each = plan.subtitles.begin(); each != plan.subtitles.end(); ++each)
         subtitles.insert(QString::number(each.key()), int(each.value()));
     for (const Plan::ExternalSubtitle &file : plan.externalSubtitles)
-        files.append(QJsonObject{{u"path"_s, file.path}, {u"language"_s, file.language}, {u"use"_s, int(file.use)}});
+        files.append(QJsonObject{{u"path"_s, file.path},
+                                 {u"language"_s, file.language},
+                                 {u"use"_s, int(file.use)},
+                                 {u"forced"_s, file.isForced}});
     if (!pieces.isEmpty())
         json.insert(u"pieces"_s, pieces);
     if (plan.audioTracks)
@@ -228,6 +231,7 @@ void readSubtitles(Plan &plan, const QJsonObject &json)
         Reading reading(object);
         reading.text(u"language"_s, file.language, 64);
         reading.choice(u"use"_s, file.use, Plan::SubtitleUse::Leave);
+        reading.flag(u"forced"_s, file.isForced);
         if (!file.path.isEmpty() && plan.externalSubtitles.size() < mostSubtitleFiles)
             plan.externalSubtitles.append(file);
     }

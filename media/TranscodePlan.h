@@ -25,8 +25,9 @@ struct TranscodePlan {
     };
     struct ExternalSubtitle {
         QString path;
-        QString language;
+        QString language;  ///< tag or code of any length; null where it is not known
         SubtitleUse use = SubtitleUse::Keep;
+        bool isForced = false;
     };
     struct Watermark {
         QString text;       ///< or

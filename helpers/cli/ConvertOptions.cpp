@@ -3,6 +3,7 @@
 #include "foundation/FileNames.h"
 #include "foundation/UserDefaults.h"
 #include "media/OwnPresets.h"
+#include "media/SubtitleFile.h"
 #include "modules/marlin/Conversion.h"
 
 #include <QFile>
@@ -71,7 +72,9 @@ bool addSubtitleFile(const QString &text, TranscodePlan::SubtitleUse use, Transc
     }
     if (!QFileInfo(path).isFile())
         return false;
-    plan.externalSubtitles.append({absoluteFileName(path), language, use});
+    plan.externalSubtitles.append(subtitleFile(absoluteFileName(path), use));
+    if (!language.isEmpty())
+        plan.externalSubtitles.last().language = language;
     return true;
 }
 

@@ -273,6 +273,14 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
              plan.externalSubtitles = {{.path = u"/films/a.sup"_s, .language = {}}};
          },
          "-itsoffset -10 -i file:/films/a.sup"},
+        {"a language by the three letters of the target", u"mp4-h264"_s, video(),
+         [](Plan &plan) { plan.externalSubtitles = {{.path = u"/a.srt"_s, .language = u"de"_s, .isForced = true}}; },
+         "-disposition:s:1 forced -metadata:s:s:1 language=deu"},
+        {"or by those that it has instead", u"mov-h264"_s, video(),
+         [](Plan &plan) { plan.externalSubtitles = {{.path = u"/a.srt"_s, .language = u"de"_s}}; },
+         "-metadata:s:s:1 language=ger"},
+        {"a text that counts pictures", u"mkv-h264"_s, video(),
+         [](Plan &plan) { plan.externalSubtitles = {{.path = u"/a.sub"_s, .language = {}}}; }, "-c:s:2 srt"},
         {"one palette", u"gif"_s, video(), [](Plan &plan) { plan.pieces = {{.start = 0, .end = 2}}; },
          "stats_mode=diff"},
         {"a palette each where all would fill the memory", u"gif"_s, video(), {}, "stats_mode=single"},
@@ -335,20 +343,23 @@ TEST(TranscodeCommand, NamesWhatIsLostOfPictureSoundAndTags)
                                                 t.bitDepth = 12;
                                             }),
                                     changed(sound(1), [](auto &t) { t.channels = 6; })});
-    for (const auto &tag : {u"title"_s, u"creation_time"_s, u"make"_s})
+    for (const auto &tag : {u"title"_s, u"creation_time"_s, u"location"_s})
         source.tags.insert(tag, u"x"_s);
     const std::pair<QString, const char *> rows[] = {
         {u"mkv-ffv1"_s, ""},
         {u"mp3"_s, "Channels of the sound: English. 6 become 2."},
         {u"mp4-h264"_s,
          "The finer picture. 12 bit 4:4:4 becomes 8 bit 4:2:0.|The transparency of the picture. H.264 "
-         "cannot hold it.|Notes of the camera, such as place or model. MP4 cannot hold all of them."}};
+         "cannot hold it."},
+        {u"avi-ffv1"_s,
+         "The languages of the tracks. AVI cannot hold them.|The date of recording. AVI cannot hold it.|The place of "
+         "recording. AVI cannot hold it."}};
     for (const auto &[preset, told] : rows) {
         QStringList sentences;
         const auto steps = stepsFor(planFor(preset), source);
         for (const auto &sentence : steps->leftOut)
             sentences << sentence.english();
-        EXPECT_EQ(sentences.join(u'|'), QString::fromLatin1(told)) << preset.toStdString();
+        EXPECT_EQ(sentences.join(u'|').toStdString(), told) << preset.toStdString();
     }
 }
 
@@ -415,7 +426,38 @@ TEST(TranscodeCommand, JoinsUnequalFilesByEncodingThem)
         const auto unlike = transcodeSteps(plan, {film(), other}, {}, paths);
         ASSERT_TRUE(unlike);
         EXPECT_EQ(unlike->work, TranscodeSteps::Work::Encode) << number;
-        EXPECT_NE(lineOf(*unlike).find("concat=n=2:v=1:a=0"), std::string::npos) << number;
+        EXPECT_NE(lineOf(*unlike).find("concat=n=2:v=1:a=1"), std::string::npos) << number;
+    }
+}
+
+TEST(TranscodeCommand, AJoinKeepsSoundThatSomeFilesLack)
+{
+    const MediaInformation silent = film({video()}), two = film({video(), sound(1), sound(2, u"ger"_s)}),
+                           german = film({video(), sound(1, u"ger"_s), subtitle(2, u"subrip"_s)});
+    const struct {
+        const char *name;
+        QList<MediaInformation> sources;
+        const char *sounds;
+        qsizetype leftOut, notes;
+    } cases[] = {
+        {"none behind some", {film(), silent}, "[0:1] silence", 0, 1},
+        {"some behind none", {silent, film()}, "silence [1:1]", 0, 1},
+        {"no track twice, each behind its language", {two, german}, "[0:1] [0:2] silence [1:1]", 1, 1},
+        {"more than the first", {german, two}, "[0:1] [1:2]", 2, 0},
+        {"a picture in some alone", {film(), film({sound(0)})}, "", 0, 0},
+    };
+    for (const auto &each : cases) {
+        const Plan plan = planFor(u"mp4-h264"_s, [](Plan &p) { p.sources += u"/films/b.mp4"_s; });
+        const auto steps = transcodeSteps(plan, each.sources, {}, paths);
+        QStringList sounds;
+        const QString line = steps ? steps->runs.last().arguments.join(u' ') : QString();
+        for (const QString &chain : line.split(u';')) {
+            if (chain.contains("]aformat"_L1) || chain.contains(",aformat"_L1))
+                sounds += chain.contains("anullsrc"_L1) ? u"silence"_s : chain.section(u"aformat"_s, 0, 0);
+        }
+        EXPECT_EQ(sounds.join(u' ').toStdString(), each.sounds) << each.name << ": " << line.toStdString();
+        EXPECT_EQ(steps ? steps->leftOut.size() : 0, each.leftOut) << each.name;
+        EXPECT_EQ(steps ? steps->notes.size() : 0, each.notes) << each.name;
     }
 }
 

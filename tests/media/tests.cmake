@@ -10,6 +10,7 @@ kestrel_test(media
         PresetTest.cpp
         PictureScanTest.cpp
         ToolMessagesTest.cpp
+        SubtitleFileTest.cpp
         TranscodeCommandTest.cpp
         TranscodeJobTest.cpp
         TranscodePlanTest.cpp

@@ -7,7 +7,9 @@
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
+#include "media/SubtitleFile.h"
 #include "modules/marlin/Conversions.h"
+#include "modules/marlin/ui/TrackOptions.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -22,6 +24,7 @@
 #include <QLineEdit>
 #include <QMimeData>
 #include <QPushButton>
+#include <QVBoxLayout>
 
 using namespace Qt::StringLiterals;
 
@@ -211,6 +214,22 @@ TEST_F(MarlinControllerTest, OptionsChangeThePlansAndTheSwitches)
     EXPECT_EQ(recordAt(1).folder, settings.folder());
     find<QCheckBox>(u"mergeMedia"_s)->click();
     EXPECT_TRUE(settings.dispatcher().mergeMedia());
+}
+
+TEST_F(MarlinControllerTest, AnAddedSubtitleFileHasALanguage)
+{
+    QWidget sounds, subtitles;
+    TrackOptions options(new QVBoxLayout(&sounds), new QVBoxLayout(&subtitles));
+    TranscodePlan plan;
+    plan.sources = {u"/a/film.mp4"_s};
+    plan.externalSubtitles = {subtitleFile(u"/a/film.ger.srt"_s)};
+    options.show(plan, {MediaInformation()}, u"en"_s);
+    auto *box = subtitles.findChild<QComboBox *>(u"subtitleFileLanguage0"_s);
+    ASSERT_TRUE(box);
+    EXPECT_EQ(box->currentText(), u"German"_s);
+    QObject::connect(&options, &TrackOptions::changed, box, [&](const auto &change) { change(plan); });
+    emit box->activated(box->findText(u"French"_s));
+    EXPECT_EQ(plan.externalSubtitles.first().language, u"fr"_s);
 }
 
 TEST_F(MarlinControllerTest, WhatIsChosenForAllIsThereAgain)

@@ -2,6 +2,7 @@
 
 #include "foundation/Queues.h"
 #include "jobs/ToolProcess.h"
+#include "media/SubtitleFile.h"
 #include "media/ToolPath.h"
 
 #include <QPointer>
@@ -36,6 +37,16 @@ void FrameMaker::start()
     m_path = std::make_unique<ToolPath>(request.plan.sources.value(0));
     TranscodePlan plan = request.plan;
     plan.sources = {m_path->path()};
+    m_subtitles.reset();
+    for (TranscodePlan::ExternalSubtitle &subtitle : plan.externalSubtitles) {
+        if (subtitle.use != TranscodePlan::SubtitleUse::Burn)
+            continue;
+        if (!m_subtitles)
+            m_subtitles = std::make_unique<WorkFolder>();
+        const MediaTrack *video = request.source.firstOf(MediaTrack::Kind::Video);
+        const auto readable = readableSubtitles(subtitle.path, m_subtitles->path(), video ? video->frameRate : 0);
+        subtitle.path = readable ? *readable : subtitle.path;
+    }
     const QStringList arguments =
         previewArguments(plan, request.source, request.seconds, request.size, request.picture, request.place);
     if (arguments.isEmpty()) {

@@ -12,6 +12,7 @@ namespace kestrel {
 
 class ToolPath;
 class ToolProcess;
+class WorkFolder;
 
 /// One picture of a source or of what becomes of it, computed in the background: the key picture before it first, then,
 /// when no other was asked for, the exact one. Of several requests only the latest is carried out. Main thread.
@@ -46,6 +47,7 @@ private:
     bool m_isRefining = false;
     quint64 m_requests = 0;
     std::unique_ptr<ToolPath> m_path;
+    std::unique_ptr<WorkFolder> m_subtitles;  ///< copies of those that are burnt in
     std::unique_ptr<ToolProcess> m_process;
 };
 

@@ -2,6 +2,7 @@
 
 #include "foundation/LanguageTags.h"
 #include "media/Encoders.h"
+#include "media/SubtitleFile.h"
 #include "media/TrackPlan.h"
 #include "tarnwell/TextKey.h"
 #include "tarnwell/ui/TabOrder.h"
@@ -16,6 +17,8 @@
 #include <QPushButton>
 #include <QVBoxLayout>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -24,6 +27,11 @@ namespace {
 
 using Plan = TranscodePlan;
 using tarnwell::operator""_key;
+
+/// That subtitles are most often in.
+constexpr const char *usualLanguages =
+    "ar bg bn ca cs da de el en es et eu fa fi fr gl he hi hr hu id is it ja ko lt lv mk ms nl no pl pt pt-BR ro ru sk "
+    "sl sq sr sv ta te th tr uk ur vi zh-Hans zh-Hant";
 
 QLabel *hintLabel(tarnwell::TextKey text)
 {
@@ -212,10 +220,13 @@ void TrackOptions::showFiles(const TranscodePlan &plan)
 {
     for (qsizetype i = 0; i < plan.externalSubtitles.size(); ++i) {
         const Plan::ExternalSubtitle &file = plan.externalSubtitles.at(i);
-        line(QFileInfo(file.path).fileName(), file.use, [i](TranscodePlan &changing, Plan::SubtitleUse use) {
-            if (i < changing.externalSubtitles.size())
-                changing.externalSubtitles[i].use = use;
-        });
+        const QString name = QFileInfo(file.path).fileName();
+        QWidget *row = line(file.isForced ? name + u" · "_s + "forced"_key.localized() : name, file.use,
+                            [i](TranscodePlan &changing, Plan::SubtitleUse use) {
+                                if (i < changing.externalSubtitles.size())
+                                    changing.externalSubtitles[i].use = use;
+                            });
+        row->layout()->addWidget(languageBox(file, i));
     }
     auto *add = new QPushButton("Add Subtitle File…"_key.localized());
     connect(add, &QPushButton::clicked, this, &TrackOptions::chooseFile);
@@ -223,13 +234,42 @@ void TrackOptions::showFiles(const TranscodePlan &plan)
     m_made.append(add);
 }
 
+QComboBox *TrackOptions::languageBox(const TranscodePlan::ExternalSubtitle &file, qsizetype number)
+{
+    auto *box = new QComboBox;
+    box->setObjectName(u"subtitleFileLanguage%1"_s.arg(number));
+    box->setAccessibleName(tarnwell::Sentence("Language of %1"_key, {QFileInfo(file.path).fileName()}).localized());
+    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+    QStringList codes = tableWords(usualLanguages);
+    if (!file.language.isEmpty() && !codes.contains(file.language))
+        codes.append(file.language);
+    const auto name = [this](const QString &code) { return foundation::languageDisplayName(code, m_language); };
+    std::ranges::sort(codes, [&](const QString &one, const QString &other) {
+        return QString::localeAwareCompare(name(one), name(other)) < 0;
+    });
+    box->addItem("Unknown language"_key.localized(), QString());
+    for (const QString &code : std::as_const(codes))
+        box->addItem(name(code), code);
+    box->setCurrentIndex(std::max(0, box->findData(file.language)));
+    connect(box, &QComboBox::activated, this, [this, box, number](int index) {
+        emit changed([number, code = box->itemData(index).toString()](TranscodePlan &changing) {
+            if (number < changing.externalSubtitles.size())
+                changing.externalSubtitles[number].language = code;
+        });
+    });
+    return box;
+}
+
 void TrackOptions::chooseFile()
 {
+    QStringList endings;
+    for (const SubtitleKind &kind : subtitleKinds())
+        endings.append(u"*.%1"_s.arg(QLatin1StringView(kind.ending)));
     const QString path =
         QFileDialog::getOpenFileName(m_made.last(), "Add Subtitle File…"_key.localized(), QString(),
-                                     "Subtitles"_key.localized() + u" (*.srt *.ass *.ssa *.vtt *.sub *.idx *.sup)"_s);
+                                     u"%1 (%2)"_s.arg("Subtitles"_key.localized(), endings.join(u' ')));
     if (!path.isEmpty())
-        emit changed([path](TranscodePlan &plan) { plan.externalSubtitles.append({.path = path, .language = {}}); });
+        emit changed([path](TranscodePlan &plan) { plan.externalSubtitles.append(subtitleFile(path)); });
 }
 
 }  // namespace kestrel

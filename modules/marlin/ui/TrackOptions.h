@@ -7,6 +7,7 @@
 
 #include <functional>
 
+class QComboBox;
 class QVBoxLayout;
 class QWidget;
 
@@ -31,6 +32,7 @@ private:
     void showSubtitles(const TranscodePlan &plan, const MediaInformation &source);
     void showFiles(const TranscodePlan &plan);
     void showLanguages(const TranscodePlan &plan, const QList<MediaInformation> &sources, MediaTrack::Kind kind);
+    QComboBox *languageBox(const TranscodePlan::ExternalSubtitle &file, qsizetype number);
     void chooseFile();
     QString nameOf(const MediaTrack &track) const;
     QWidget *line(const QString &text, TranscodePlan::SubtitleUse use,
