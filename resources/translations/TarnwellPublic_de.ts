@@ -44,6 +44,10 @@
         <translation>%1 Dateien ausgewählt</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 hat weniger Tonspuren als andere Dateien: Was fehlt, bleibt stumm.</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>Kanäle</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>Kanäle des Tons: %1. Aus %2 werden %3.</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>Kapitel %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>Spielfilm aus dem Fernsehen (24)</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>Filme und Dateien ohne Bild lassen sich nur zu einer Tondatei verbinden.</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>Filme unter dieser Adresse</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>Weitere Titelbilder neben dem ersten.</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>Sprache von %1</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>Nur %1 von %2 s sind angekommen.</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>Nur Dateien, die alle ein Bild oder alle Ton haben, können verbunden werden.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>Tonpegel</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>Ton von %1: %2. Die verbundene Datei hat keine Spur dafür.</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>Ton des Computers</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>Untertitel im Bild</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>Untertitel von %1: %2. Beim Verbinden bleiben die späterer Dateien nicht erhalten.</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Untertitel als Bilder: %1. %2 kann sie nicht enthalten; brennen Sie sie ein, oder wählen Sie MKV.</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>Der aufzunehmende Bereich liegt außerhalb des Bildschirms.</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>Die angehängte Datei %1 von %2. Beim Verbinden bleiben die späterer Dateien nicht erhalten.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>Die Kopie wurde gesichert.</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>Das Titelbild von %1. Beim Verbinden bleiben die späterer Dateien nicht erhalten.</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>Das Titelbild. %1 kann es nicht enthalten.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>Das Titelbild. Es geht verloren, wenn Dateien so verbunden werden.</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>Das Aufnahmedatum. %1 kann es nicht aufnehmen.</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>Der Datenträger konnte nicht gelesen oder beschrieben werden.</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>Der Datenträger für temporäre Dateien ist voll. Schaffen Sie Platz und wandeln Sie noch einmal um.</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>Der Film der gewählten Titel, wie er auf der Disc steht; ohne Kapitel und Sprachbezeichnungen.</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>Das feinere Bild. Aus %1 Bit %2 wird %3 Bit %4.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>Die fertige Datei konnte nicht gelesen werden.</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>Der Ordner ist zu groß: Nur ein Teil seiner Dateien wurde hinzugefügt.</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>Die Sprachen der Spuren. %1 kann sie nicht aufnehmen.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>In den letzten %1 s fehlt der Ton: Der Tondienst war nicht mehr da.</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>Das Protokoll wurde inzwischen gekürzt. Versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>Die Mastering-Daten des hohen Dynamikumfangs. %1 kann sie nicht aufnehmen.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>Die Abschnitte, die behalten werden sollen, liegen hinter dem Ende der Datei.</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>Der Aufnahmeort. %1 kann ihn nicht aufnehmen.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>Die leistungsstärkste Videosoftware: Videos, Audiodateien und DVDs konvertieren, Videodateien bearbeiten, transcodieren, komprimieren und anpassen, Online-Medien laden, Bildschirm und Webcam aufnehmen.</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>Die Untertiteldatei %1 kann nicht gelesen werden.</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>Die Untertiteldatei %1 ist für einen Text zu groß.</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>Die Untertitel fehlen: Die Seite hat sie nicht herausgegeben.</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>Der Titel. %1 kann ihn nicht aufnehmen.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Der Transcoder fehlt. Bitte installieren Sie das Programm neu.</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>Die Transparenz des Bildes. %1 kann sie nicht aufnehmen.</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

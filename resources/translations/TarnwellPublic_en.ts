@@ -44,6 +44,10 @@
         <translation>%1 files selected</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 has fewer tracks of sound than other files: what it lacks is silent.</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>Channels</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>Channels of the sound: %1. %2 become %3.</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>Chapter %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>Film from television (24)</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>Films and files without a picture can be joined only into a file of sound.</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>Films at this address</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>Further cover pictures beside the first.</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>Language</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>Language of %1</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>Only %1 of %2 s have come.</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>Only files that all have a picture, or all have sound, can be joined.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>Sound level</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>Sound of %1: %2. The joined file has no track for it.</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>Sound of the computer</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>Subtitles in the picture</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>Subtitles of %1: %2. Joining keeps none of later files.</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>The area to be recorded is outside the screen.</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>The attached file %1 of %2. Joining keeps none of later files.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>The copy was saved.</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>The cover picture of %1. Joining keeps none of later files.</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>The cover picture. %1 cannot hold it.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>The cover picture. It is lost when files are joined so.</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>The date of recording. %1 cannot hold it.</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>The disk could not be read or written.</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>The disk for temporary files is full. Free some space and convert again.</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>The finer picture. %1 bit %2 becomes %3 bit %4.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>The finished file could not be read back.</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>The folder is too large: only some of its files were added.</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>The languages of the tracks. %1 cannot hold them.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>The last %1 s have no sound: the sound server went away.</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>The log was cut short meanwhile. Try again.</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>The mastering data of the high dynamic range. %1 cannot hold them.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>The pieces to be kept lie behind the end of the file.</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>The place of recording. %1 cannot hold it.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>The strongest video processing software to convert videos, audios and DVDs; edit, transcode, compress and adjust video files; download online media content; record screen and webcam.</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>The subtitle file %1 cannot be read.</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>The subtitle file %1 is too large for a text.</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>The subtitles are missing: the site did not hand them out.</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>The title. %1 cannot hold it.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>The transcoder is missing. Please install the application again.</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>The transparency of the picture. %1 cannot hold it.</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

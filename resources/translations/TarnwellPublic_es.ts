@@ -44,6 +44,10 @@
         <translation>%1 archivos seleccionados</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 tiene menos pistas de sonido que otros archivos: lo que falta queda en silencio.</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>Canales</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>Canales del sonido: %1. De %2 a %3.</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>Capítulo %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>Película de la televisión (24)</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>Las películas y los archivos sin imagen solo se pueden unir en un archivo de sonido.</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>Películas en esta dirección</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>Otras carátulas además de la primera.</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>Idioma</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>Idioma de %1</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>Solo han llegado %1 de %2 s.</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>Solo se pueden unir archivos si todos tienen imagen o todos tienen sonido.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>Nivel de sonido</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>Sonido de %1: %2. El archivo unido no tiene pista para él.</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>Sonido del ordenador</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>Subtítulos en la imagen</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>Subtítulos de %1: %2. Al unir no se conservan los de archivos posteriores.</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Subtítulos en forma de imagen: %1. %2 no los admite; incrústelos o elija MKV.</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>El área que se debe grabar está fuera de la pantalla.</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>El archivo adjunto %1 de %2. Al unir no se conservan los de archivos posteriores.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>Se ha guardado la copia.</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>La carátula de %1. Al unir no se conservan las de archivos posteriores.</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>La imagen de portada. %1 no la admite.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>La imagen de portada. Se pierde al unir archivos de este modo.</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>La fecha de grabación. %1 no puede contenerla.</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>No se ha podido leer o escribir en el disco.</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>El disco de los archivos temporales está lleno. Libere espacio y convierta de nuevo.</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>La película de los títulos elegidos tal como está en el disco; sin capítulos ni nombres de idiomas.</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>La imagen más fina. %1 bits %2 pasa a %3 bits %4.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>No se ha podido volver a leer el archivo terminado.</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>La carpeta es demasiado grande: solo se han añadido algunos de sus archivos.</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>Los idiomas de las pistas. %1 no puede contenerlos.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>Los últimos %1 s no tienen sonido: el servidor de sonido desapareció.</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>El registro se ha acortado mientras tanto. Inténtelo de nuevo.</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>Los datos de masterización del alto rango dinámico. %1 no puede contenerlos.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>Los fragmentos que se deben conservar están después del final del archivo.</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>El lugar de grabación. %1 no puede contenerlo.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>El software de procesamiento de vídeo más potente: convierta vídeos, audio y DVD; edite, transcodifique, comprima y ajuste archivos de vídeo; descargue contenido multimedia en línea; grabe la pantalla y la cámara web.</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>No se puede leer el archivo de subtítulos %1.</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>El archivo de subtítulos %1 es demasiado grande para ser texto.</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>Faltan los subtítulos: el sitio no los entregó.</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>El título. %1 no puede contenerlo.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Falta el transcodificador. Vuelva a instalar la aplicación.</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>La transparencia de la imagen. %1 no puede contenerla.</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

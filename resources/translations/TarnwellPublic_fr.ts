@@ -44,6 +44,10 @@
         <translation>%1 fichiers sélectionnés</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 a moins de pistes son que d’autres fichiers : ce qui manque reste muet.</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>Canaux</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>Canaux du son : %1. %2 deviennent %3.</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>Chapitre %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>Film de la télévision (24)</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>Les films et les fichiers sans image ne peuvent être réunis qu’en un fichier son.</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>Films à cette adresse</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>Les autres jaquettes que la première.</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>Langue</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>Langue de %1</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>Seules %1 s sur %2 sont arrivées.</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>Seuls des fichiers ayant tous une image, ou tous du son, peuvent être réunis.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>Niveau sonore</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>Son de %1 : %2. Le fichier réuni n’a pas de piste pour lui.</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>Son de l’ordinateur</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>Sous-titres dans l’image</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>Sous-titres de %1 : %2. La réunion ne garde pas ceux des fichiers suivants.</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Sous-titres sous forme d’images : %1. %2 ne peut pas les contenir ; incrustez-les ou choisissez MKV.</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>La zone à enregistrer est hors de l’écran.</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>Le fichier joint %1 de %2. La réunion ne garde pas ceux des fichiers suivants.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>La copie a été enregistrée.</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>La jaquette de %1. La réunion ne garde pas celles des fichiers suivants.</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>L’image de pochette. %1 ne peut pas la contenir.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>L’image de pochette. Elle est perdue quand des fichiers sont réunis ainsi.</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>La date d’enregistrement. %1 ne peut pas la contenir.</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>Impossible de lire ou d’écrire sur le disque.</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>Le disque des fichiers temporaires est plein. Libérez de l’espace et recommencez la conversion.</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>Le film des titres choisis tel qu’il est sur le disque ; sans chapitres ni noms de langues.</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>L’image plus fine. %1 bits %2 devient %3 bits %4.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>Impossible de relire le fichier obtenu.</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>Le dossier est trop volumineux : seuls certains de ses fichiers ont été ajoutés.</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>Les langues des pistes. %1 ne peut pas les contenir.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>Les dernières %1 s sont sans son : le serveur de son a disparu.</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>Le journal a été raccourci entre-temps. Réessayez.</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>Les données de mastering de la plage dynamique étendue. %1 ne peut pas les contenir.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>Les parties à conserver se trouvent après la fin du fichier.</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>Le lieu d’enregistrement. %1 ne peut pas le contenir.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>Le plus puissant des logiciels de traitement vidéo : convertissez vidéos, fichiers audio et DVD ; modifiez, transcodez, compressez et ajustez vos vidéos ; téléchargez des contenus en ligne ; enregistrez l’écran et la webcam.</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>Le fichier de sous-titres %1 ne peut pas être lu.</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>Le fichier de sous-titres %1 est trop gros pour un texte.</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>Les sous-titres manquent : le site ne les a pas fournis.</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>Le titre. %1 ne peut pas le contenir.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Le transcodeur est introuvable. Veuillez réinstaller l’application.</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>La transparence de l’image. %1 ne peut pas la contenir.</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

@@ -44,6 +44,10 @@
         <translation>%1 file selezionati</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 ha meno tracce audio di altri file: ciò che manca resta muto.</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>Canali</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>Canali dell’audio: %1. Da %2 a %3.</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>Capitolo %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>Film dalla televisione (24)</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>Filmati e file senza immagine si possono unire solo in un file audio.</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>Filmati a questo indirizzo</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD (1920 × 1080)</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>Altre copertine oltre alla prima.</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>Lingua</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>Lingua di %1</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>Sono arrivati solo %1 di %2 s.</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>Si possono unire solo file che hanno tutti un’immagine o tutti l’audio.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>Livello audio</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>Audio di %1: %2. Il file unito non ha una traccia per questo.</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>Audio del computer</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>Sottotitoli nell’immagine</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>Sottotitoli di %1: %2. L’unione non conserva quelli dei file successivi.</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>Sottotitoli come immagini: %1. %2 non può contenerli; imprimili o scegli MKV.</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>L’area da registrare è fuori dallo schermo.</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>Il file allegato %1 di %2. L’unione non conserva quelli dei file successivi.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>La copia è stata salvata.</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>La copertina di %1. L’unione non conserva quelle dei file successivi.</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>L’immagine di copertina. %1 non può contenerla.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>L’immagine di copertina. Va persa quando i file vengono uniti in questo modo.</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>La data di registrazione. %1 non può contenerla.</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>Impossibile leggere o scrivere sul disco.</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>Il disco dei file temporanei è pieno. Libera spazio e converti di nuovo.</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>Il filmato dei titoli scelti così com’è sul disco; senza capitoli né nomi delle lingue.</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>L’immagine più fine. Da %1 bit %2 a %3 bit %4.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>Impossibile rileggere il file finito.</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>La cartella è troppo grande: sono stati aggiunti solo alcuni dei suoi file.</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>Le lingue delle tracce. %1 non può contenerle.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>Gli ultimi %1 s sono senza audio: il server audio non era più disponibile.</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>Nel frattempo il log è stato accorciato. Riprova.</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>I dati di mastering dell’alta gamma dinamica. %1 non può contenerli.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>Le parti da mantenere si trovano oltre la fine del file.</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>Il luogo di registrazione. %1 non può contenerlo.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>Il software di elaborazione video più potente: converti video, audio e DVD; modifica, transcodifica, comprimi e regola i file video; scarica contenuti multimediali online; registra schermo e webcam.</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>Impossibile leggere il file di sottotitoli %1.</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>Il file di sottotitoli %1 è troppo grande per essere un testo.</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>I sottotitoli mancano: il sito non li ha forniti.</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>Il titolo. %1 non può contenerlo.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>Il transcodificatore manca. Installa di nuovo l’applicazione.</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>La trasparenza dell’immagine. %1 non può contenerla.</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

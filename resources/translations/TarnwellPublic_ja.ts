@@ -44,6 +44,10 @@
         <translation>%1個のファイルを選択中</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 は音声トラックがほかのファイルより少ないため、足りない部分は無音になります。</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>チャンネル</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>音声チャンネル：%1。%2 から %3 になります。</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>チャプター%1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>テレビ放送の映画（24）</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>映像と、映像のないファイルは、音声ファイルとしてのみ結合できます。</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>このアドレスのビデオ</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>フルHD（1920 × 1080）</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>2枚目以降のカバー画像。</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>言語</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>%1 の言語</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>%2秒のうち%1秒しか届いていません。</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>結合できるのは、すべてに映像があるか、すべてに音声があるファイルだけです。</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>音声レベル</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>%1 の音声：%2。結合後のファイルにはそのトラックがありません。</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>コンピュータの音声</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>映像内の字幕</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>%1 の字幕：%2。結合では2つ目以降のファイルの字幕は残りません。</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>画像の字幕: %1。%2には保存できません。映像に焼き付けるか、MKVを選んでください。</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>録画する範囲が画面の外にあります。</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>%2 の添付ファイル %1。結合では2つ目以降のファイルのものは残りません。</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>コピーを保存しました。</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>%1 のカバー画像。結合では2つ目以降のファイルのものは残りません。</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>カバー画像。%1には保存できません。</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>カバー画像。この方法でファイルを結合すると失われます。</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>撮影日。%1 には入れられません。</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>ディスクを読み書きできませんでした。</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>一時ファイル用のディスクがいっぱいです。空きを作ってからもう一度変換してください。</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>選んだタイトルの映像を、ディスクにあるまま保存します。チャプターや言語名は含まれません。</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>細やかな画質。%1 ビット %2 は %3 ビット %4 になります。</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>完成したファイルを読み込めませんでした。</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>フォルダが大きすぎるため、一部のファイルだけが追加されました。</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>トラックの言語。%1 には入れられません。</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>最後の %1 秒には音声がありません。サウンドサーバがなくなりました。</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>途中でログが短くなりました。もう一度お試しください。</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>HDR のマスタリング情報。%1 には入れられません。</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>残す部分がファイルの終わりより後ろにあります。</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>撮影場所。%1 には入れられません。</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>ビデオ、オーディオ、DVDの変換、ビデオファイルの編集、トランスコード、圧縮、調整、オンラインメディアのダウンロード、画面やWebカメラの録画ができる、最も強力なビデオ処理ソフトウェアです。</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>字幕ファイル %1 を読み取れません。</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>字幕ファイル %1 はテキストとしては大きすぎます。</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>字幕がありません。サイトが提供しませんでした。</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>タイトル。%1 には入れられません。</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>トランスコーダーが見つかりません。アプリケーションを再インストールしてください。</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>映像の透明部分。%1 には入れられません。</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

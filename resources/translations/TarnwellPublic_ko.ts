@@ -44,6 +44,10 @@
         <translation>파일 %1개 선택됨</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1은(는) 다른 파일보다 소리 트랙이 적습니다. 없는 부분은 무음입니다.</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>채널</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>소리 채널: %1. %2개에서 %3개로 됩니다.</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>챕터 %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>텔레비전에서 녹화한 영화(24)</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>영상과 화면이 없는 파일은 소리 파일로만 합칠 수 있습니다.</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>이 주소의 비디오</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>풀 HD(1920 × 1080)</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>첫 번째 외의 표지 그림.</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>언어</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>%1의 언어</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>%2초 중 %1초만 받았습니다.</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>모두 영상이 있거나 모두 사운드가 있는 파일만 연결할 수 있습니다.</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>사운드 레벨</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>%1의 소리: %2. 합친 파일에는 이를 위한 트랙이 없습니다.</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>컴퓨터의 사운드</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>화면 속 자막</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>%1의 자막: %2. 합치면 뒤에 오는 파일의 자막은 남지 않습니다.</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>이미지 자막: %1. %2에는 담을 수 없습니다. 화면에 새겨 넣거나 MKV를 선택하십시오.</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>기록할 영역이 화면 밖에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>%2의 첨부 파일 %1. 합치면 뒤에 오는 파일의 것은 남지 않습니다.</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>사본을 저장했습니다.</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>%1의 표지 그림. 합치면 뒤에 오는 파일의 것은 남지 않습니다.</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>커버 이미지. %1에는 담을 수 없습니다.</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>커버 이미지. 이 방법으로 파일을 연결하면 사라집니다.</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>녹화 날짜. %1에는 넣을 수 없습니다.</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>디스크를 읽거나 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>임시 파일용 디스크가 가득 찼습니다. 공간을 확보하고 다시 변환하세요.</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>선택한 타이틀의 영상을 디스크에 있는 그대로 저장합니다. 챕터와 언어 이름은 포함되지 않습니다.</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>더 세밀한 화면. %1비트 %2이(가) %3비트 %4이(가) 됩니다.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>완성된 파일을 다시 읽을 수 없습니다.</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>폴더가 너무 커서 일부 파일만 추가되었습니다.</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>트랙의 언어. %1에는 넣을 수 없습니다.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>마지막 %1초에는 소리가 없습니다. 사운드 서버가 사라졌습니다.</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>그 사이에 로그가 짧아졌습니다. 다시 시도하십시오.</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>하이 다이내믹 레인지의 마스터링 데이터. %1에는 넣을 수 없습니다.</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>유지할 부분이 파일의 끝보다 뒤에 있습니다.</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>녹화 장소. %1에는 넣을 수 없습니다.</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>비디오, 오디오, DVD 변환부터 비디오 파일 편집, 트랜스코딩, 압축, 조정, 온라인 미디어 다운로드, 화면과 웹캠 녹화까지 가능한 가장 강력한 비디오 처리 소프트웨어입니다.</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>자막 파일 %1을(를) 읽을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>자막 파일 %1은(는) 텍스트로는 너무 큽니다.</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>자막이 없습니다. 사이트가 제공하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>제목. %1에는 넣을 수 없습니다.</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>트랜스코더가 없습니다. 앱을 다시 설치하세요.</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>화면의 투명도. %1에는 넣을 수 없습니다.</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

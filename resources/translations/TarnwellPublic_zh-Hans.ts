@@ -44,6 +44,10 @@
         <translation>已选择 %1 个文件</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 的音轨少于其他文件：缺少的部分为静音。</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>声道</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>声道：%1。%2 变为 %3。</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>章节 %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>电视播放的电影（24）</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>影片与没有画面的文件只能合并为声音文件。</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>此地址的影片</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>全高清（1920 × 1080）</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>第一张之外的其他封面图片。</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>语言</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>%1 的语言</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>%2 秒中只收到 %1 秒。</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>只有全部带有画面或全部带有声音的文件才能合并。</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>声音电平</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>%1 的声音：%2。合并后的文件没有对应的音轨。</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>电脑的声音</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>画面中的字幕</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>%1 的字幕：%2。合并时不保留后续文件的字幕。</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>图片字幕：%1。%2 无法包含；请将其嵌入画面，或选取 MKV。</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>要录制的区域位于屏幕之外。</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>%2 的附件 %1。合并时不保留后续文件的附件。</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>副本已存储。</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>%1 的封面图片。合并时不保留后续文件的封面。</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>封面图片。%1 无法包含。</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>封面图片。以此方式合并文件时会丢失。</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>录制日期。%1 无法容纳。</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>无法读取或写入磁盘。</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>存放临时文件的磁盘已满。请腾出空间后重新转换。</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>所选标题的影片，与碟片上的一致；不含章节和语言名称。</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>更精细的画面。%1 位 %2 变为 %3 位 %4。</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>无法重新读取完成的文件。</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>文件夹过大：只添加了其中的部分文件。</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>音轨的语言信息。%1 无法容纳。</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>最后 %1 秒没有声音：声音服务器已消失。</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>日志在此期间被截短。请重试。</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>高动态范围的母版数据。%1 无法容纳。</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>要保留的片段位于文件结尾之后。</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>录制地点。%1 无法容纳。</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>最强大的视频处理软件：转换视频、音频和 DVD；编辑、转码、压缩和调整视频文件；下载在线媒体内容；录制屏幕和摄像头。</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>无法读取字幕文件 %1。</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>字幕文件 %1 作为文本过大。</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>缺少字幕：网站没有提供。</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>标题。%1 无法容纳。</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>缺少转码器。请重新安装应用程序。</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>画面的透明度。%1 无法容纳。</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>

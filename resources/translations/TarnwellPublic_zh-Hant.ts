@@ -44,6 +44,10 @@
         <translation>已選取 %1 個檔案</translation>
     </message>
     <message>
+        <source>%1 has fewer tracks of sound than other files: what it lacks is silent.</source>
+        <translation>%1 的音軌少於其他檔案：缺少的部分為靜音。</translation>
+    </message>
+    <message>
         <source>%1 kbit/s</source>
         <translation>%1 kbit/s</translation>
     </message>
@@ -488,6 +492,10 @@
         <translation>聲道</translation>
     </message>
     <message>
+        <source>Channels of the sound: %1. %2 become %3.</source>
+        <translation>聲道：%1。%2 變為 %3。</translation>
+    </message>
+    <message>
         <source>Chapter %1</source>
         <translation>章節 %1</translation>
     </message>
@@ -912,6 +920,10 @@
         <translation>電視播放的電影（24）</translation>
     </message>
     <message>
+        <source>Films and files without a picture can be joined only into a file of sound.</source>
+        <translation>影片與沒有畫面的檔案只能合併為聲音檔。</translation>
+    </message>
+    <message>
         <source>Films at this address</source>
         <translation>此位址的影片</translation>
     </message>
@@ -982,6 +994,10 @@
     <message>
         <source>Full HD (1920 × 1080)</source>
         <translation>Full HD（1920 × 1080）</translation>
+    </message>
+    <message>
+        <source>Further cover pictures beside the first.</source>
+        <translation>第一張以外的其他封面圖片。</translation>
     </message>
     <message>
         <source>Further pictures beside the first (other angles or previews).</source>
@@ -1162,6 +1178,10 @@
     <message>
         <source>Language</source>
         <translation>語言</translation>
+    </message>
+    <message>
+        <source>Language of %1</source>
+        <translation>%1 的語言</translation>
     </message>
     <message>
         <source>Languages of sound</source>
@@ -1462,10 +1482,6 @@
     <message>
         <source>Only %1 of %2 s have come.</source>
         <translation>%2 秒中只收到 %1 秒。</translation>
-    </message>
-    <message>
-        <source>Only files that all have a picture, or all have sound, can be joined.</source>
-        <translation>只有全部具有畫面或全部具有聲音的檔案才能合併。</translation>
     </message>
     <message>
         <source>Only one track of subtitles can be burnt in; another one stays behind.</source>
@@ -1988,6 +2004,10 @@
         <translation>聲音音量</translation>
     </message>
     <message>
+        <source>Sound of %1: %2. The joined file has no track for it.</source>
+        <translation>%1 的聲音：%2。合併後的檔案沒有對應的音軌。</translation>
+    </message>
+    <message>
         <source>Sound of the computer</source>
         <translation>電腦的聲音</translation>
     </message>
@@ -2084,6 +2104,10 @@
         <translation>畫面中的字幕</translation>
     </message>
     <message>
+        <source>Subtitles of %1: %2. Joining keeps none of later files.</source>
+        <translation>%1 的字幕：%2。合併時不保留後續檔案的字幕。</translation>
+    </message>
+    <message>
         <source>Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV.</source>
         <translation>圖片字幕：%1。%2 無法包含；請將其嵌入畫面，或選擇 MKV。</translation>
     </message>
@@ -2134,6 +2158,10 @@
     <message>
         <source>The area to be recorded is outside the screen.</source>
         <translation>要錄製的區域位於螢幕之外。</translation>
+    </message>
+    <message>
+        <source>The attached file %1 of %2. Joining keeps none of later files.</source>
+        <translation>%2 的附件 %1。合併時不保留後續檔案的附件。</translation>
     </message>
     <message>
         <source>The attached file %1. %2 cannot hold it.</source>
@@ -2208,12 +2236,20 @@
         <translation>副本已儲存。</translation>
     </message>
     <message>
+        <source>The cover picture of %1. Joining keeps none of later files.</source>
+        <translation>%1 的封面圖片。合併時不保留後續檔案的封面。</translation>
+    </message>
+    <message>
         <source>The cover picture. %1 cannot hold it.</source>
         <translation>封面圖片。%1 無法包含。</translation>
     </message>
     <message>
         <source>The cover picture. It is lost when files are joined so.</source>
         <translation>封面圖片。以此方式合併檔案時會遺失。</translation>
+    </message>
+    <message>
+        <source>The date of recording. %1 cannot hold it.</source>
+        <translation>錄製日期。%1 無法容納。</translation>
     </message>
     <message>
         <source>The desktop did not let the screen be recorded.</source>
@@ -2266,6 +2302,10 @@
     <message>
         <source>The disk could not be read or written.</source>
         <translation>無法讀取或寫入磁碟。</translation>
+    </message>
+    <message>
+        <source>The disk for temporary files is full. Free some space and convert again.</source>
+        <translation>存放暫存檔的磁碟已滿。請騰出空間後重新轉換。</translation>
     </message>
     <message>
         <source>The disk is too full to finish the recording: it stays a Matroska file.</source>
@@ -2352,6 +2392,10 @@
         <translation>所選標題的影片，與光碟上的一致；不含章節和語言名稱。</translation>
     </message>
     <message>
+        <source>The finer picture. %1 bit %2 becomes %3 bit %4.</source>
+        <translation>更精細的畫面。%1 位元 %2 變為 %3 位元 %4。</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>無法重新讀取完成的檔案。</translation>
     </message>
@@ -2396,6 +2440,10 @@
         <translation>檔案夾過大：只加入了其中的部分檔案。</translation>
     </message>
     <message>
+        <source>The languages of the tracks. %1 cannot hold them.</source>
+        <translation>音軌的語言資訊。%1 無法容納。</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>最後 %1 秒沒有聲音：聲音伺服器已消失。</translation>
     </message>
@@ -2406,6 +2454,10 @@
     <message>
         <source>The log was cut short meanwhile. Try again.</source>
         <translation>記錄在此期間被截短。請再試一次。</translation>
+    </message>
+    <message>
+        <source>The mastering data of the high dynamic range. %1 cannot hold them.</source>
+        <translation>高動態範圍的母帶資料。%1 無法容納。</translation>
     </message>
     <message>
         <source>The options of this job could not be read. Add the address again.</source>
@@ -2446,6 +2498,10 @@
     <message>
         <source>The pieces to be kept lie behind the end of the file.</source>
         <translation>要保留的片段位於檔案結尾之後。</translation>
+    </message>
+    <message>
+        <source>The place of recording. %1 cannot hold it.</source>
+        <translation>錄製地點。%1 無法容納。</translation>
     </message>
     <message>
         <source>The player is missing. Please install the application again.</source>
@@ -2552,8 +2608,20 @@
         <translation>最強大的影片處理軟體：轉換影片、音訊和 DVD；編輯、轉碼、壓縮和調整影片檔案；下載線上媒體內容；錄製螢幕和網路攝影機。</translation>
     </message>
     <message>
+        <source>The subtitle file %1 cannot be read.</source>
+        <translation>無法讀取字幕檔 %1。</translation>
+    </message>
+    <message>
+        <source>The subtitle file %1 is too large for a text.</source>
+        <translation>字幕檔 %1 作為文字過大。</translation>
+    </message>
+    <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>缺少字幕：網站沒有提供。</translation>
+    </message>
+    <message>
+        <source>The title. %1 cannot hold it.</source>
+        <translation>標題。%1 無法容納。</translation>
     </message>
     <message>
         <source>The tool that reads media files is missing. Please install the application again.</source>
@@ -2566,6 +2634,10 @@
     <message>
         <source>The transcoder is missing. Please install the application again.</source>
         <translation>缺少轉碼器。請重新安裝應用程式。</translation>
+    </message>
+    <message>
+        <source>The transparency of the picture. %1 cannot hold it.</source>
+        <translation>畫面的透明度。%1 無法容納。</translation>
     </message>
     <message>
         <source>The whole disc, sector for sector, in one file that plays like the disc.</source>
