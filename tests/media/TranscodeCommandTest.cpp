@@ -1,5 +1,5 @@
+#include "PlanMaterial.h"
 #include "media/FramePreview.h"
-#include "media/TranscodeCommand.h"
 
 #include <gtest/gtest.h>
 
@@ -7,95 +7,7 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
-namespace {
-
-using Plan = TranscodePlan;
-using Kind = MediaTrack::Kind;
-
-MediaTrack track(int index, Kind kind, const QString &codec, const QString &language = {})
-{
-    MediaTrack made;
-    made.index = index;
-    made.kind = kind;
-    made.codec = codec;
-    made.language = language;
-    return made;
-}
-
-MediaTrack changed(MediaTrack made, const std::function<void(MediaTrack &)> &change)
-{
-    change(made);
-    return made;
-}
-
-MediaTrack video(const QString &codec = u"h264"_s)
-{
-    return changed(track(0, Kind::Video, codec), [](MediaTrack &made) {
-        made.isDefault = true;
-        made.width = 1920;
-        made.height = 1080;
-        made.frameRate = 25;
-        made.pixelFormat = u"yuv420p"_s;
-    });
-}
-
-MediaTrack sound(int index, const QString &language = u"eng"_s, const QString &codec = u"aac"_s)
-{
-    return changed(track(index, Kind::Audio, codec, language), [](MediaTrack &made) {
-        made.bitRate = 128'000;
-        made.channels = 2;
-        made.channelLayout = u"stereo"_s;
-        made.sampleRate = 48000;
-    });
-}
-
-MediaTrack subtitle(int index, const QString &codec, bool isBitmap = false)
-{
-    return changed(track(index, Kind::Subtitle, codec, u"fre"_s), [&](MediaTrack &made) { made.isBitmap = isBitmap; });
-}
-
-MediaInformation film(QList<MediaTrack> tracks = {video(), sound(1)})
-{
-    MediaInformation made;
-    made.format = u"mov,mp4,m4a,3gp,3g2,mj2"_s;
-    made.duration = 60;
-    made.bytes = 10'000'000;
-    made.tracks = std::move(tracks);
-    return made;
-}
-
-Plan planFor(const QString &preset, const std::function<void(Plan &)> &change = {})
-{
-    Plan plan;
-    plan.sources = {u"/films/a.mp4"_s};
-    plan.preset = *presetOfId(preset);
-    if (change)
-        change(plan);
-    return plan;
-}
-
-const TranscodePaths paths{.output = u"/out/.part"_s, .workFolder = u"/work"_s};
-
-foundation::Result<TranscodeSteps, tarnwell::Sentence> stepsFor(const Plan &plan,
-                                                                const MediaInformation &source = film(),
-                                                                const TranscodeMachine &machine = {})
-{
-    return transcodeSteps(plan, {source}, machine, paths);
-}
-
-std::string lineOf(const TranscodeSteps &steps, qsizetype run = -1)
-{
-    return steps.runs.at(run < 0 ? steps.runs.size() - 1 : run).arguments.join(u' ').toStdString();
-}
-
-/// The last run's arguments; the reason where there is none.
-std::string lineFor(const Plan &plan, const MediaInformation &source = film(), const TranscodeMachine &machine = {})
-{
-    const auto steps = stepsFor(plan, source, machine);
-    return steps ? lineOf(*steps) : "refused: " + steps.reason().english().toStdString();
-}
-
-}  // namespace
+using namespace test;
 
 TEST(TranscodeCommand, KeepsATrackOnlyWhereNothingIsLostOrAsked)
 {
@@ -335,45 +247,6 @@ TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
     EXPECT_EQ(inLanguages(u"ja"_s, u"none"_s), 4) << "sound that is in none of them is kept";
 }
 
-TEST(TranscodeCommand, NamesWhatIsLostOfPictureSoundAndTags)
-{
-    MediaInformation source = film({changed(video(u"prores"_s),
-                                            [](auto &t) {
-                                                t.pixelFormat = u"yuva444p12le"_s;
-                                                t.bitDepth = 12;
-                                            }),
-                                    changed(sound(1), [](auto &t) { t.channels = 6; })});
-    for (const auto &tag : {u"title"_s, u"creation_time"_s, u"location"_s})
-        source.tags.insert(tag, u"x"_s);
-    const std::pair<QString, const char *> rows[] = {
-        {u"mkv-ffv1"_s, ""},
-        {u"mp3"_s, "Channels of the sound: English. 6 become 2."},
-        {u"mp4-h264"_s,
-         "The finer picture. 12 bit 4:4:4 becomes 8 bit 4:2:0.|The transparency of the picture. H.264 "
-         "cannot hold it."},
-        {u"avi-ffv1"_s,
-         "The languages of the tracks. AVI cannot hold them.|The date of recording. AVI cannot hold it.|The place of "
-         "recording. AVI cannot hold it."}};
-    for (const auto &[preset, told] : rows) {
-        QStringList sentences;
-        const auto steps = stepsFor(planFor(preset), source);
-        for (const auto &sentence : steps->leftOut)
-            sentences << sentence.english();
-        EXPECT_EQ(sentences.join(u'|').toStdString(), told) << preset.toStdString();
-    }
-}
-
-TEST(TranscodeCommand, NamesTheChaptersOfFilmsThatHaveATrackOfNames)
-{
-    MediaInformation source = film();
-    source.chapters = {{.start = 0, .end = 20, .title = {}}, {.start = 20, .end = 60, .title = u"Two"_s}};
-    const auto mp4 = stepsFor(planFor(u"mp4-h264"_s), source), mkv = stepsFor(planFor(u"mkv-h264"_s), source);
-    ASSERT_TRUE(mp4 && mkv);
-    const QByteArray file = mp4->files.values().value(0);
-    EXPECT_TRUE(file.contains("title=Chapter 1\n") && file.contains("title=Two\n")) << file.constData();
-    EXPECT_TRUE(mkv->files.isEmpty());
-}
-
 TEST(TranscodeCommand, AimsBelowTheSizeInTwoPasses)
 {
     const auto steps = stepsFor(planFor(u"mp4-h264"_s, [](Plan &plan) {
@@ -397,68 +270,6 @@ TEST(TranscodeCommand, AimsBelowTheSizeInTwoPasses)
     EXPECT_NE(smaller(4'000'000).find("scale="), std::string::npos) << "too few bits for each sample";
     EXPECT_EQ(smaller(100'000), "refused: 0.1 MB are too few for a file of this length.");
     EXPECT_EQ(smaller(10'000'000, u"mkv-ffv1"_s), "refused: What this preset makes cannot be fitted to a size.");
-}
-
-TEST(TranscodeCommand, JoinsUnequalFilesByEncodingThem)
-{
-    Plan plan = planFor(u"mkv-copy"_s, [](Plan &p) {
-        p.sources += u"/films/it's.mp4"_s;
-        p.chapterPerSource = true;
-    });
-    const auto alike = transcodeSteps(plan, {film(), film()}, {}, paths);
-    ASSERT_TRUE(alike);
-    EXPECT_EQ(alike->work, TranscodeSteps::Work::Copy);
-    EXPECT_TRUE(alike->expected.decodesAll && alike->expected.secondsAreTold);
-    EXPECT_EQ(alike->expected.seconds, 120);
-    MediaInformation stream = film({video(u"hevc"_s), sound(1)});
-    stream.format = u"mpegts"_s;
-    EXPECT_FALSE(transcodeSteps(plan, {film(), stream}, {}, paths)->expected.secondsAreTold) << "one only guesses";
-
-    const std::function<void(MediaTrack &)> differences[] = {[](auto &t) { t.width = 1280; },
-                                                             [](auto &t) { t.frameRate = 30; },
-                                                             [](auto &t) { t.pixelFormat = u"yuv422p"_s; },
-                                                             [](auto &t) { t.profile = u"High 10"_s; },
-                                                             [](auto &t) { t.codec = u"hevc"_s; },
-                                                             [](auto &t) { t.sampleRate = 44100; }};
-    for (qsizetype number = 0; number < qsizetype(std::size(differences)); ++number) {
-        const MediaInformation other = film({number == 5 ? video() : changed(video(), differences[number]),
-                                             number == 5 ? changed(sound(1), differences[5]) : sound(1)});
-        const auto unlike = transcodeSteps(plan, {film(), other}, {}, paths);
-        ASSERT_TRUE(unlike);
-        EXPECT_EQ(unlike->work, TranscodeSteps::Work::Encode) << number;
-        EXPECT_NE(lineOf(*unlike).find("concat=n=2:v=1:a=1"), std::string::npos) << number;
-    }
-}
-
-TEST(TranscodeCommand, AJoinKeepsSoundThatSomeFilesLack)
-{
-    const MediaInformation silent = film({video()}), two = film({video(), sound(1), sound(2, u"ger"_s)}),
-                           german = film({video(), sound(1, u"ger"_s), subtitle(2, u"subrip"_s)});
-    const struct {
-        const char *name;
-        QList<MediaInformation> sources;
-        const char *sounds;
-        qsizetype leftOut, notes;
-    } cases[] = {
-        {"none behind some", {film(), silent}, "[0:1] silence", 0, 1},
-        {"some behind none", {silent, film()}, "silence [1:1]", 0, 1},
-        {"no track twice, each behind its language", {two, german}, "[0:1] [0:2] silence [1:1]", 1, 1},
-        {"more than the first", {german, two}, "[0:1] [1:2]", 2, 0},
-        {"a picture in some alone", {film(), film({sound(0)})}, "", 0, 0},
-    };
-    for (const auto &each : cases) {
-        const Plan plan = planFor(u"mp4-h264"_s, [](Plan &p) { p.sources += u"/films/b.mp4"_s; });
-        const auto steps = transcodeSteps(plan, each.sources, {}, paths);
-        QStringList sounds;
-        const QString line = steps ? steps->runs.last().arguments.join(u' ') : QString();
-        for (const QString &chain : line.split(u';')) {
-            if (chain.contains("]aformat"_L1) || chain.contains(",aformat"_L1))
-                sounds += chain.contains("anullsrc"_L1) ? u"silence"_s : chain.section(u"aformat"_s, 0, 0);
-        }
-        EXPECT_EQ(sounds.join(u' ').toStdString(), each.sounds) << each.name << ": " << line.toStdString();
-        EXPECT_EQ(steps ? steps->leftOut.size() : 0, each.leftOut) << each.name;
-        EXPECT_EQ(steps ? steps->notes.size() : 0, each.notes) << each.name;
-    }
 }
 
 TEST(TranscodeCommand, SaysWhyNot)

@@ -7,10 +7,12 @@ kestrel_test(media
         MediaSamples.cpp MediaSamples.h
         OutputCheckTest.cpp
         OwnPresetsTest.cpp
+        PlanMaterial.h
         PresetTest.cpp
         PictureScanTest.cpp
         ToolMessagesTest.cpp
         SubtitleFileTest.cpp
+        TrackPlanTest.cpp
         TranscodeCommandTest.cpp
         TranscodeJobTest.cpp
         TranscodePlanTest.cpp
