@@ -2,6 +2,7 @@
 """cli_test.py BUNDLE: the converter's work without a window."""
 import json
 import os
+import plistlib
 import resource
 import signal
 import subprocess
@@ -28,8 +29,23 @@ class CliTest(unittest.TestCase):
             part.write(whole.read()[:int(os.path.getsize(self.clip) * share)])
         return path
 
+    def grey(self, path):
+        """The first picture as 8 rows of 8 steps of grey."""
+        raw = subprocess.run(['ffmpeg', '-v', 'error', '-i', path, '-frames:v', '1', '-vf', 'scale=8:8', '-pix_fmt', 'gray',
+                              '-f', 'rawvideo', '-'], stdout=subprocess.PIPE, check=True).stdout
+        return [raw[row * 8:row * 8 + 8] for row in range(8)]
+
+    def assert_turned_right(self, path):
+        source, turned = self.grey(self.clip), self.grey(path)
+        apart = [sum(abs(turned[row][column] - source[y][x]) for row in range(8) for column in range(8) for y, x in [place(row, column)])
+                 for place in (lambda row, column: (7 - column, row), lambda row, column: (column, 7 - row))]
+        self.assertLess(apart[0] * 2, apart[1])
+
     def test_results_and_exit_status_tell_how_each_file_went(self):
         missing, cut = self.cli.path('none.mkv'), self.cut('cut.mkv', 0.6)
+        # Results for programs are in English whatever the window speaks.
+        with open(os.path.join(self.cli.folder('config/com.tarnwell.kestrel'), 'defaults.plist'), 'wb') as file:
+            plistlib.dump({'AppleLanguages': ['de']}, file)
         status, results = self.cli.results('convert', '--preset', 'mp4-h264', '--to', self.out, self.clip)
         self.assertEqual((status, results[0]['state'], results[0]['problems']), (0, 'done', []))
         self.assertEqual(results[0]['outputs'], [os.path.join(self.out, 'film.mp4')])
@@ -70,14 +86,18 @@ class CliTest(unittest.TestCase):
         with open(words, 'w') as file:
             file.write('1\n00:00:00,500 --> 00:00:01,500\nOne\n')
         languages = lambda found: [each.get('tags', {}).get('language', 'und') for each in found['streams'] if each['codec_type'] == 'subtitle']
+        with_words = self.cli.results('convert', '--preset', 'mkv-copy', '--to', self.out, '--subtitle-file', words, self.clip)[1][0]['outputs'][0]
         rows = [(['--cut', '1-2.5'], lambda found: self.assertAlmostEqual(float(found['format']['duration']), 1.5, delta=0.1)),
                 (['--audio', '1'], lambda found: self.assertEqual(len(found['streams']), 2)),
                 (['--audio', 'none'], lambda found: self.assertEqual(len(found['streams']), 1)),
-                (['--subtitle-file', words, '--subtitle-file', words + ':fre'], lambda found: self.assertEqual(languages(found), ['und', 'fre'])),
+                (['--subtitle-file', words, '--subtitle-file', words + ':fre'], lambda found: self.assertEqual(languages(found), ['und', 'fra'])),
+                (['--subtitles', 'none', with_words], lambda found: self.assertEqual(languages(found), [])),
+                (['--turn', 'right'], lambda found: self.assert_turned_right(found['format']['filename'])),
                 (['--size', '200k', '--no-copy'], lambda found: self.assertLessEqual(int(found['format']['size']), 200_000))]
         for options, check in rows:
             with self.subTest(options):
-                status, results = self.cli.results('convert', '--to', self.out, *options, self.clip)
+                sources = [] if with_words in options else [self.clip]
+                status, results = self.cli.results('convert', '--to', self.out, *options, *sources)
                 self.assertEqual((status, results[0]['state']), (0, 'done'), results)
                 check(probe(results[0]['outputs'][0]))
 
