@@ -31,7 +31,7 @@ TEST(Preset, EachHasANameOfItsOwnAndWhatItTakesToMakeIt)
     EXPECT_EQ(builtInPresets().first().id, u"mp4-h264"_s);
     EXPECT_GE(builtInPresets().size(), 40);
     EXPECT_GE(allPresets().size(), 180);
-    for (const QString &id : {u"mp4-h264"_s, u"mkv-h264"_s, u"webm-vp9"_s, u"mp3"_s, u"flac"_s, u"mkv-copy"_s})
+    for (const QString &id : {u"mp4-h264"_s, u"mkv-h264"_s, u"webm-vp9"_s, u"mp3"_s, u"flac"_s, u"mkv-copy"_s, u"m2ts-h264"_s})
         EXPECT_TRUE(presetOfId(id)) << id.toStdString();
     EXPECT_FALSE(presetOfId(u"mp5"_s));
 }

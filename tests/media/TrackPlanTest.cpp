@@ -1,4 +1,5 @@
 #include "PlanMaterial.h"
+#include "media/ChapterFile.h"
 
 #include <gtest/gtest.h>
 
@@ -58,6 +59,12 @@ TEST(TrackPlanTest, JoinsUnequalFilesByEncodingThem)
     EXPECT_EQ(alike->work, TranscodeSteps::Work::Copy);
     EXPECT_TRUE(alike->expected.decodesAll && alike->expected.secondsAreTold);
     EXPECT_EQ(alike->expected.seconds, 120);
+    const QList<SourcePiece> pieces{
+        {.source = 0, .seconds = 10}, {.source = 0, .seconds = 20}, {.source = 1, .seconds = 5}};
+    QList<double> starts;
+    for (const MediaChapter &chapter : resultChapters(plan, {film(), film()}, pieces))
+        starts.append(chapter.start);
+    EXPECT_EQ(starts, (QList<double>{0, 10, 30}));
     MediaInformation stream = film({video(u"hevc"_s), sound(1)});
     stream.format = u"mpegts"_s;
     EXPECT_FALSE(transcodeSteps(plan, {film(), stream}, {}, paths)->expected.secondsAreTold) << "one only guesses";

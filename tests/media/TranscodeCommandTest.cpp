@@ -143,6 +143,22 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
          [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::Off; }, "-flags:v +ilme+ildct -top 0", "bwdif"},
         {"twice the pictures of what does not tell its fields", u"mkv-copy"_s, video(),
          [](Plan &plan) { plan.deinterlace = Plan::Deinterlace::DoubleRate; }, "bwdif=mode=send_field:deint=all"},
+        {"fields that were seen, the lower ones first", u"mp4-h264"_s,
+         changed(video(),
+                 [](auto &t) {
+                     t.fieldOrder = MediaTrack::FieldOrder::BottomFirst;
+                     t.fieldsAreSeen = true;
+                 }),
+         encoding(), "setfield=bff,bwdif"},
+        {"a picture in a corner", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.watermark = Plan::Watermark{.text = {}, .imagePath = u"/mark.png"_s};
+             plan.watermark->corner = Qt::AlignBottom | Qt::AlignLeft;
+         },
+         "overlay=38:H-h-38"},
+        {"evened out at a rate that is heard", u"mp4-h264"_s, video(), [](Plan &plan) { plan.normalizes = true; },
+         "-ar:a:0 48000"},
+        {"HDR for the television", u"tv-2160p"_s, hdr, encoding(), "yuv420p10le"},
         {"smaller, both sides alike", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.maximumHeight = 500; }),
          "scale=888:500,setsar=1"},
         {"turned on its side by the camera",
@@ -308,6 +324,9 @@ TEST(TranscodeCommand, TellsTheResultsLengthAndHowFarToTrustIt)
                   },
                   film()),
               7.5);
+    const auto cut =
+        stepsFor(planFor(u"mkv-copy"_s, [](Plan &p) { p.pieces = {{.start = 10, .end = 16}}, p.exactCuts = false; }));
+    EXPECT_NEAR(double(cut->expectedBytes), 1'000'000, 50'000) << "a tenth of the film";
     MediaInformation stream = film();
     stream.duration.reset();
     EXPECT_EQ(seconds({}, stream), -1);
