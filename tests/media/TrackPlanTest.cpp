@@ -43,6 +43,11 @@ TEST(TrackPlanTest, NamesTheChaptersOfFilmsThatHaveATrackOfNames)
     source.chapters = {{.start = 0, .end = 20, .title = {}}, {.start = 20, .end = 60, .title = u"Two"_s}};
     const auto mp4 = stepsFor(planFor(u"mp4-h264"_s), source), mkv = stepsFor(planFor(u"mkv-h264"_s), source);
     ASSERT_TRUE(mp4 && mkv);
+    // The track of the names is none of the camera's.
+    source.tracks.append(track(2, Kind::Data, u"bin_data"_s));
+    EXPECT_TRUE(stepsFor(planFor(u"mp4-h264"_s), source)->leftOut.isEmpty());
+    source.tracks.append(track(3, Kind::Data, u"bin_data"_s));
+    EXPECT_EQ(stepsFor(planFor(u"mp4-h264"_s), source)->leftOut.size(), 1);
     const QByteArray file = mp4->files.values().value(0);
     EXPECT_TRUE(file.contains("title=Chapter 1\n") && file.contains("title=Two\n")) << file.constData();
     EXPECT_TRUE(mkv->files.isEmpty());

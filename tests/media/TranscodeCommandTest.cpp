@@ -184,6 +184,12 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
              plan.fadeOut = 3;
          },
          "fade=t=out:st=27:d=3"},
+        {"and the sound with it", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.fadeIn = 1;
+             plan.fadeOut = 3;
+         },
+         "afade=t=out:st=57:d=3"},
         {"louder without clipping", u"mp4-h264"_s, video(), [](Plan &plan) { plan.volume = 6; },
          "volume=6dB,alimiter=limit=0.97"},
         {"H.265 under the name that players ask for", u"mp4-h265"_s, video(), {}, "-tag:v:0 hvc1"},

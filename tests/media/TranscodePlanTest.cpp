@@ -1,3 +1,4 @@
+#include "media/OutputName.h"
 #include "media/TranscodePlan.h"
 
 #include <gtest/gtest.h>
@@ -67,6 +68,15 @@ TranscodePlan fullPlan()
 }
 
 }  // namespace
+
+TEST(OutputNameTest, OnlyTheEndingGoes)
+{
+    TranscodePlan plan = plainPlan();
+    plan.sources = {u"/films/Holiday.2020.mov"_s};
+    EXPECT_EQ(outputBaseName(plan, {}), u"Holiday.2020");
+    plan.namePattern = u"{folder} {name} {date}"_s;
+    EXPECT_EQ(outputBaseName(plan, {2024, 12, 31}), u"films Holiday.2020 2024-12-31");
+}
 
 TEST(TranscodePlan, ComesBackAsItWasStored)
 {
