@@ -70,9 +70,19 @@ EngineStore engineStore()
 
 EngineTools engineTools(const JKestrelSettingDispatcher &settings)
 {
-    return {.engine = engineStore().engine(),
-            .transcoderFolder = QFileInfo(settings.getTranscoderPath()).absolutePath(),
-            .home = downloadDataFolder() + "/home"_L1};
+    return {
+        .engine = engineStore().engine(),
+        .transcoderFolder = QFileInfo(settings.getTranscoderPath()).absolutePath(),
+        .home = downloadDataFolder() + "/home"_L1,
+        .tried = [](const EngineTools &tools, std::optional<EngineFailure::Kind> failure) -> std::optional<QString> {
+            using enum EngineStore::Damage;
+            const EngineStore store = engineStore();
+            if (failure)
+                return store.fallBack(tools.engine,
+                                      *failure == EngineFailure::Kind::EngineBroken ? Broken : OneAddress);
+            store.prove(tools.engine, tools.failed);
+            return std::nullopt;
+        }};
 }
 
 DownloadTools downloadTools(const JKestrelSettingDispatcher &settings, int processors)
@@ -85,12 +95,6 @@ DownloadTools downloadTools(const JKestrelSettingDispatcher &settings, int proce
     if (settings.getQSV())
         tools.transcode.machine.findHardware();
     tools.answers = downloadDataFolder() + "/answers"_L1;
-    tools.engineTried = [](bool hasWorked) -> std::optional<QString> {
-        if (!hasWorked)
-            return engineStore().fallBack();
-        engineStore().prove();
-        return std::nullopt;
-    };
     return tools;
 }
 

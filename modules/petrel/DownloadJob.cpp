@@ -142,8 +142,8 @@ void DownloadJob::downloaded(const ToolEnding &ending)
         m_companionWords = ending.lastWords;
     else if (!ending.isGood() || !isWhole)
         return engineFailed(ending);
-    if (m_tools.engineTried)
-        m_tools.engineTried(true);
+    if (m_tools.engine.tried)
+        m_tools.engine.tried(m_tools.engine, std::nullopt);
     m_part->setMissingCompanions(m_companionWords);
     look();
 }
@@ -166,12 +166,9 @@ void DownloadJob::engineFailed(const ToolEnding &ending)
 {
     using Kind = EngineFailure::Kind;
     const EngineFailure failure = failureOf(ending);
-    if (mayBeTheEngine(failure.kind) && m_tools.engineTried) {
-        if (const auto other = m_tools.engineTried(false)) {
-            tarnwell::DNFootLog(u"Going back to the engine before: %1"_s.arg(ending.lastWords));
-            m_tools.engine.engine = *other;
-            return analyse();
-        }
+    if (takeOtherEngine(m_tools.engine, failure.kind)) {
+        tarnwell::DNFootLog(u"Trying another engine: %1"_s.arg(ending.lastWords));
+        return analyse();
     }
     const bool mayHaveExpired =
         failure.kind == Kind::Refused || failure.kind == Kind::Gone || failure.kind == Kind::NoSuchForm;

@@ -19,8 +19,6 @@ struct DownloadTools {
     EngineTools engine;
     TranscodeTools transcode;
     QString answers;  ///< folder of the AnswerStore
-    /// What came of the engine: whether it has worked. Asked again after false, it may name another one to try.
-    std::function<std::optional<QString>(bool hasWorked)> engineTried = {};
 };
 
 /// A download: asks what is there where that is not known freshly, downloads on from where an earlier run has ended,

@@ -1,5 +1,7 @@
 #include "EngineCommand.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -89,6 +91,14 @@ QStringList companionArguments(const DownloadPlan &plan)
 }
 
 }  // namespace
+
+bool takeOtherEngine(EngineTools &tools, EngineFailure::Kind failure)
+{
+    const auto other = mayBeTheEngine(failure) && tools.tried ? tools.tried(tools, failure) : std::nullopt;
+    if (other)
+        tools.failed = std::exchange(tools.engine, *other);
+    return other.has_value();
+}
 
 ToolCommand analysisCommand(const DownloadPlan &plan, const EngineTools &tools)
 {

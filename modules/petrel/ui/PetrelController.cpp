@@ -93,6 +93,7 @@ std::unique_ptr<QWidget> PetrelController::makeContents()
     queue().setRecipe(petrelJobs.toString(), &m_recipe);
     const QString answers = downloadDataFolder() + "/answers"_L1;
     AnswerStore(answers).sweep();
+    engineStore().sweep();
     m_analysis = std::make_unique<Analysis>([this] { return engineTools(*m_settings); }, answers);
     m_list = std::make_unique<DownloadList>(queue());
     m_pictures = std::make_unique<SitePictures>(JobRowDelegate::pictureSize);
