@@ -117,16 +117,23 @@ void DownloadJob::download()
     tellStage("Connecting…"_key);
     const ToolCommand command = downloadCommand(m_plan, m_tools.engine, m_part->path(), m_answerPath);
     tarnwell::DNFootLog(u"Downloading from %1"_s.arg(m_plan.server()));
-    const ToolProcess &tool = run(command, [this](const ToolEnding &ending) { downloaded(ending); });
-    connect(&tool, &ToolProcess::outputLine, this, &DownloadJob::readLine);
+    ToolProcess &tool = run(command, [this](const ToolEnding &ending) { downloaded(ending); });
+    connect(&tool, &ToolProcess::outputLine, this, [this, &tool](const QByteArray &line) { readLine(tool, line); });
 }
 
-void DownloadJob::readLine(const QByteArray &line)
+void DownloadJob::readLine(ToolProcess &tool, const QByteArray &line)
 {
     if (const int seconds = retryAfterIn(line); seconds > 0)
         m_retryAfter = seconds;
     if (!m_progress.readLine(line))
         return;
+    const bool isOfAnother = !m_progress.whole().isNull() && !m_part->isPartOf(m_progress.file(), m_progress.whole());
+    // Once: a server may tell another size each time.
+    if (isOfAnother && !std::exchange(m_hasBegunAnew, true)) {
+        m_isReplaced = true;
+        tool.cancel();
+        return;
+    }
     const double before = m_told.fraction.value_or(0);
     m_told = m_progress.progress();
     if (m_told.fraction)
@@ -136,6 +143,13 @@ void DownloadJob::readLine(const QByteArray &line)
 
 void DownloadJob::downloaded(const ToolEnding &ending)
 {
+    if (std::exchange(m_isReplaced, false)) {
+        tarnwell::DNFootLog(u"Begun anew: there is something else than before at %1"_s.arg(m_plan.server()));
+        m_part->clear();
+        m_resumed = 0;
+        m_answers.forget(m_plan);
+        return analyse();
+    }
     const bool isWhole = !m_part->downloaded().isNull();
     const bool lacksCompanions = isWhole && ending.cause == ToolEnding::Cause::Exited && ending.exitCode != 0;
     if (lacksCompanions)

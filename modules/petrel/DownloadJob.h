@@ -42,7 +42,7 @@ private:
     void analyse();
     void analysed(const ToolEnding &ending);
     void download();
-    void readLine(const QByteArray &line);
+    void readLine(ToolProcess &tool, const QByteArray &line);
     void downloaded(const ToolEnding &ending);
     void engineFailed(const ToolEnding &ending);
     EngineFailure failureOf(const ToolEnding &ending) const;
@@ -79,6 +79,8 @@ private:
     int m_retryAfter = 0;      ///< seconds, as the server asked last; 0 where it did not
     int m_waitNumber = 0;      ///< tells waits apart
     bool m_hasAskedAgain = false;
+    bool m_isReplaced = false;  ///< what has come is of another film than what comes
+    bool m_hasBegunAnew = false;
     bool m_isOver = false;
 };
 

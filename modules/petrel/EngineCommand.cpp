@@ -118,7 +118,7 @@ ToolCommand downloadCommand(const DownloadPlan &plan, const EngineTools &tools, 
     QStringList arguments = commonArguments(plan, tools) + choiceArguments(plan) + companionArguments(plan);
     arguments
         << u"--newline"_s << u"--progress"_s << u"--progress-template"_s
-        << u"download:%1%(progress.{status,downloaded_bytes,total_bytes,total_bytes_estimate,speed,eta,fragment_index,fragment_count,filename})j"_s
+        << u"download:%1[%(info.format_id)j,%(progress.{status,downloaded_bytes,total_bytes,total_bytes_estimate,speed,eta,fragment_index,fragment_count,filename})j]"_s
                .arg(QLatin1StringView(progressMark))
         << u"--ignore-errors"_s  // of what goes with the film: it tells them, and goes on
         << u"--continue"_s << u"--no-mtime"_s << u"--retries"_s << u"5"_s << u"--fragment-retries"_s << u"5"_s

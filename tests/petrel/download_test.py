@@ -129,6 +129,23 @@ class DownloadTest(unittest.TestCase):
         self.assert_film(result["outputs"][0])
         self.assert_no_parts()
 
+    def test_what_was_replaced_meanwhile_is_begun_anew(self):
+        address = self.server.address("slow/other.mp4")
+        other = os.path.join(self.films.name, "other.mp4")
+        shutil.copy(os.path.join(self.films.name, "film.mp4"), other)
+        process = self.start(address)
+        self.wait_for_bytes(200_000)
+        process.kill()
+        process.communicate()
+        self.wait_until(lambda: not self.engines())
+        with open(other, "ab") as file:
+            file.write(b"\0\0\0\x10free12345678")
+        self.server.slow_rate = None
+        status, (result,) = self.download(address)
+        self.assertEqual((status, result["state"]), (0, "done"), self.errors)
+        self.assertEqual(os.path.getsize(result["outputs"][0]), os.path.getsize(other))
+        self.assertEqual(result["resumed_bytes"], 0)
+
     def test_interrupted_keeps_what_has_come(self):
         process = self.start(self.server.address("slow/film.mp4"))
         self.wait_for_bytes(100_000)
