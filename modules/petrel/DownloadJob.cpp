@@ -278,7 +278,9 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
         beforePlacing(goodOutcome(), partPath, std::move(then));
     });
     connect(m_conversion.get(), &Job::progressed, this, [this](JobProgress progress) {
-        if (progress.stage.isEmpty())
+        if (progress.stage.isEmpty() && progress.fraction)
+            progress.stage = {"Converting… %1 %"_key, {QString::number(int(*progress.fraction * 100))}};
+        else if (progress.stage.isEmpty())
             progress.stage = "Converting…"_key;
         progress.fraction.reset();  // the bar is the download's, which is over
         emit progressed(progress);
