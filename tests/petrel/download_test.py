@@ -7,6 +7,7 @@ import json
 import os
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -191,6 +192,14 @@ class DownloadTest(unittest.TestCase):
         self.assertEqual((status, result["state"]), (1, "failed"))
         self.assertRegex(result["problems"][0], "proxy")
         self.assertEqual(self.server.requests, [])
+
+    def test_nobody_leads_to_another_kind_of_server(self):
+        with socket.create_server(("127.0.0.1", 0)) as other:
+            self.server.ftp = f"ftp://127.0.0.1:{other.getsockname()[1]}/film.mp4"
+            for proxy in ([], ["--proxy", self.server.address("")]):
+                self.assertEqual(self.download(*proxy, self.server.address("ftp/film.mp4"))[0], 1)
+            other.setblocking(False)
+            self.assertRaises(BlockingIOError, other.accept)
 
     def test_list_and_two_of_one_name(self):
         self.server.title = "../Odd: *name*? %(title)s \u202e \u30c6\u30b9\u30c8 &lt;b&gt;"
