@@ -30,13 +30,12 @@ using tarnwell::operator""_key;
 
 namespace {
 
-/// Seconds between attempts at what passes by itself; after the last one it has failed.
-constexpr int waits[] = {5, 15, 45, 120, 300};
-constexpr int serverWaits = 2;
-constexpr int longestWait = 600;  ///< seconds that others wait for this one's place
 constexpr qint64 leastSpace = 1'000'000;
 
 }  // namespace
+
+constexpr tarnwell::TextKey addressIsOfList =
+    "There are several films at this address. Add it again to choose among them."_key;
 
 DownloadJob::DownloadJob(DownloadPlan plan, QString folder, DownloadTools tools, QObject *parent)
     : ToolJob(parent),
@@ -91,7 +90,7 @@ void DownloadJob::analysed(const ToolEnding &ending)
     if (!answer)
         return fail(answer.reason(), ending.lastWords);
     if (!answer->entries.isEmpty())
-        return fail("There are several films at this address. Add it again to choose among them."_key);
+        return fail(addressIsOfList);
     m_answer = *std::move(answer);
     m_answers.keep(m_plan, m_answer);
     m_answerPath = m_answers.fresh(m_plan);
@@ -199,38 +198,26 @@ void DownloadJob::engineFailed(const ToolEnding &ending)
 void DownloadJob::waitAndTryAgain(const EngineFailure &failure, const QString &details)
 {
     if (m_part->bytes() > m_bytesAtTry)
-        m_waits = 0;
+        m_attempts.reset();
     m_bytesAtTry = m_part->bytes();
-    // A server that breaks off without a byte more is not asked for minutes.
-    const int most = failure.kind == EngineFailure::Kind::Server ? serverWaits : int(std::ssize(waits));
-    if (m_waits >= most)
-        return fail(failure.sentence, details);
-    const int usual = waits[m_waits++];
     const int asked = std::exchange(m_retryAfter, 0);
-    if (failure.kind == EngineFailure::Kind::TooMany && asked > longestWait)
-        return fail(failure.sentence, details);
-    const int seconds = failure.kind == EngineFailure::Kind::TooMany && asked > 0 ? asked : usual;
+    const auto seconds = m_attempts.next(failure.kind, asked);
+    if (!seconds)
+        return fail(givenUpSentence(failure, asked), details);
     ++m_waitNumber;
-    switch (failure.kind) {
-        case EngineFailure::Kind::TooMany:
-            return waitOn(seconds, "Too many requests: the server is asked again in %1 s"_key);
-        case EngineFailure::Kind::NoNetwork:
-            return waitOn(seconds, "Waiting for the network, next attempt in %1 s"_key);
-        default:
-            return waitOn(seconds, "The server broke off, next attempt in %1 s"_key);
-    }
+    waitOn(*seconds, failure.kind);
 }
 
-void DownloadJob::waitOn(int seconds, const tarnwell::TextKey &stage)
+void DownloadJob::waitOn(int seconds, EngineFailure::Kind kind)
 {
     if (m_isOver)
         return;
     if (seconds == 0)
         return m_answerPath.isNull() ? analyse() : download();
-    tellStage({stage, {QString::number(seconds)}});
-    foundation::queue::afterMain(1s, [self = QPointer(this), seconds, stage, number = m_waitNumber] {
+    tellStage(waitingSentence(kind, seconds));
+    foundation::queue::afterMain(1s, [self = QPointer(this), seconds, kind, number = m_waitNumber] {
         if (self && self->m_waitNumber == number)
-            self->waitOn(self->isPaused() ? seconds : seconds - 1, stage);
+            self->waitOn(self->isPaused() ? seconds : seconds - 1, kind);
     });
 }
 

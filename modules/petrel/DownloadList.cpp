@@ -46,6 +46,8 @@ QString detailText(const JobRecord &record)
 QString runText(const JobRecord &record)
 {
     const JobProgress &progress = record.progress;
+    if (record.state <= JobState::Ready)
+        return record.blocked.localized();
     if (record.state != JobState::Running || !progress.stage.isEmpty() || progress.bytesPerSecond <= 0)
         return {};
     QStringList parts;

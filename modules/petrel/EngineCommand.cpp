@@ -105,9 +105,12 @@ QStringList companionArguments(const DownloadPlan &plan)
 bool takeOtherEngine(EngineTools &tools, EngineFailure::Kind failure)
 {
     const auto other = mayBeTheEngine(failure) && tools.tried ? tools.tried(tools, failure) : std::nullopt;
-    if (other)
-        tools.failed = std::exchange(tools.engine, *other);
-    return other.has_value();
+    if (!other)
+        return false;
+    const bool isKnownToFail = *other == std::exchange(tools.failed, std::exchange(tools.engine, *other));
+    if (isKnownToFail)
+        tools.tried(tools, failure);
+    return !isKnownToFail;
 }
 
 ToolCommand analysisCommand(const DownloadPlan &plan, const EngineTools &tools)
