@@ -2,6 +2,8 @@
 
 #include "jobs/SystemFailure.h"
 
+#include <QDateTime>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -172,14 +174,20 @@ int retryAfterIn(const QByteArray &output)
 {
     constexpr int longest = 3600;
     static const QByteArray mark = "header: retry-after: ";
-    const QByteArray text = output.right(256 * 1024).toLower();
-    const qsizetype place = text.lastIndexOf(mark);
+    const QByteArray text = output.right(256 * 1024);
+    const qsizetype place = text.toLower().lastIndexOf(mark);
     if (place < 0)
         return 0;
     const qsizetype start = place + mark.size(), end = text.indexOf('\n', start);
-    bool isNumber = false;  // and not a date
-    const qlonglong seconds = text.mid(start, end < 0 ? -1 : end - start).trimmed().toLongLong(&isNumber);
-    return isNumber ? int(std::clamp<qlonglong>(seconds, 0, longest)) : 0;
+    const QByteArray value = text.mid(start, end < 0 ? -1 : end - start).trimmed();
+    bool isNumber = false;
+    qlonglong seconds = value.toLongLong(&isNumber);
+    if (!isNumber) {
+        QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(value), u"ddd, dd MMM yyyy hh:mm:ss 'GMT'"_s);
+        date.setTimeSpec(Qt::UTC);
+        seconds = date.isValid() ? QDateTime::currentDateTimeUtc().secsTo(date) : 0;
+    }
+    return int(std::clamp<qlonglong>(seconds, 0, longest));
 }
 
 bool passesByItself(EngineFailure::Kind kind)
