@@ -32,22 +32,25 @@ QString downloadFolder(const JKestrelSettingDispatcher &settings, const Download
     return plan.soundOnly && !music.isEmpty() ? music : settings.getVideoDir();
 }
 
-QString downloadProxy(const JKestrelSettingDispatcher &settings)
+QString proxyAddress(QString address, const QString &port)
 {
     static const QStringList schemes{u"http"_s, u"https"_s, u"socks4"_s, u"socks4a"_s, u"socks5"_s, u"socks5h"_s};
-    const JDownloaderSetting &setting = *settings.setting()->downloader();
-    QString address = setting.proxyURL().trimmed();
-    if (!setting.proxyEnabled() || address.isEmpty())
-        return {};
+    address = address.trimmed();
     if (!address.contains("://"_L1))
         address.prepend("http://"_L1);
     QUrl url(address);
     bool isNumber = false;
-    const int port = setting.proxyPort().trimmed().toInt(&isNumber);
-    if (isNumber && port > 0 && port < 65536)
-        url.setPort(port);
+    const int number = port.trimmed().toInt(&isNumber);
+    if (isNumber && number > 0 && number < 65536)
+        url.setPort(number);
     return url.isValid() && !url.host().isEmpty() && schemes.contains(url.scheme()) ? url.toString(QUrl::FullyEncoded)
                                                                                     : QString();
+}
+
+QString downloadProxy(const JKestrelSettingDispatcher &settings)
+{
+    const JDownloaderSetting &setting = *settings.setting()->downloader();
+    return setting.proxyEnabled() ? proxyAddress(setting.proxyURL(), setting.proxyPort()) : QString();
 }
 
 int downloadsAtOnce(const JKestrelSettingDispatcher &settings)

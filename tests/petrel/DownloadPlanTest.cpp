@@ -25,6 +25,8 @@ TEST(DownloadPlanTest, AddressesAsPeoplePasteThem)
         {"ftp://a.example/x", ""},
         {"--exec", ""},
         {"hello", ""},
+        {"e.g.", ""},
+        {"holiday.mkv", ""},
         {"https://a.example/x y", ""},
         {"https://a.example/\x01", ""},
         {"", ""},
@@ -34,6 +36,7 @@ TEST(DownloadPlanTest, AddressesAsPeoplePasteThem)
     const QStringList both{u"https://a.example/1"_s, u"https://b.example/"_s};
     EXPECT_EQ(addressesIn(u"Look: https://a.example/1\n\thttps://b.example/ https://a.example/1 and file:///x"_s),
               both);
+    EXPECT_EQ(textOfFile(QByteArray("h\0t\0t\0p\0", 8)), u"http");
 }
 
 TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
