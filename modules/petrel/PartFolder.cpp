@@ -17,6 +17,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -100,6 +101,19 @@ void PartFolder::removeLeft(const QString &folder, const DownloadPlan &plan)
         QDir(path).removeRecursively();
         close(lock);
     }
+}
+
+void PartFolder::moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to)
+{
+    int error = 0;
+    const QString path = pathOf(folder, plan, 0);
+    if (!QFileInfo(path).isDir())
+        return;
+    if (const int lock = lockOf(path, error); lock >= 0) {
+        std::rename(QFile::encodeName(path).constData(), QFile::encodeName(pathOf(to, plan, 0)).constData());
+        close(lock);
+    }
+    removeLeft(folder, plan);
 }
 
 PartFolder::PartFolder(QString path, int lock) : m_path(std::move(path)), m_lock(lock)
