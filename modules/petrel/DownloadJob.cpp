@@ -100,9 +100,9 @@ void DownloadJob::analysed(const ToolEnding &ending)
 void DownloadJob::download()
 {
     if (m_answer.isToCome)
-        return fail("The broadcast has not begun yet. Try again when it has."_key);
+        return fail(engineFailureOf(EngineFailure::Kind::NotBegun).sentence);
     if (m_answer.isProtected)
-        return fail("The film is copy protected and is not downloaded."_key);
+        return fail(engineFailureOf(EngineFailure::Kind::Protected).sentence);
     // A run before this one may have ended between the download and the rest.
     if (const auto words = m_part->missingCompanions()) {
         m_companionWords = *words;

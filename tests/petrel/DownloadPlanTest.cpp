@@ -48,6 +48,7 @@ TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
                             .subtitles = {u"en"_s},
                             .proxy = u"socks5://p.example:1"_s,
                             .bytesPerSecond = 5000,
+                            .hasOwnProxy = true,
                             .title = u"Title"_s,
                             .seconds = 1.5,
                             .bytes = 12,
