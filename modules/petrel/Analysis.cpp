@@ -34,6 +34,7 @@ void Analysis::stop(qint64 id)
     const auto isIt = [id](const Request &request) { return request.id == id; };
     m_pending.removeIf(isIt);
     m_waiting.removeIf(isIt);
+    m_read.remove(id);
     std::erase_if(m_running, [&](const Run &run) { return isIt(run.request); });
     startPending();
 }
@@ -65,16 +66,30 @@ void Analysis::ended(qint64 id, const ToolEnding &ending)
     if (!ending.isGood())
         return failed(request, ending);
     startPending();
-    const auto answer = parseEngineAnswer(ending.output, request.plan.address);
+    m_read.insert(id);
+    // Some are megabytes.
+    foundation::queue::asyncGlobal([self = QPointer(this), request, ending, answers = m_answers] {
+        const auto answer = parseEngineAnswer(ending.output, request.plan.address);
+        if (answer)
+            answers.keep(request.plan, *answer);
+        foundation::queue::asyncMain([self, request, answer, words = ending.lastWords] {
+            if (self && self->m_read.remove(request.id))
+                self->tell(request, answer, words);
+        });
+    });
+}
+
+void Analysis::tell(const Request &request, const foundation::Result<EngineAnswer, tarnwell::Sentence> &answer,
+                    const QString &words)
+{
     if (!answer) {
-        emit answered(id, foundation::Failure{Refusal{answer.reason(), ending.lastWords}});
+        emit answered(request.id, foundation::Failure{Refusal{answer.reason(), words}});
         return;
     }
     // It has done what the one before could not.
     if (!request.tools.failed.isNull())
         request.tools.tried(request.tools, std::nullopt);
-    m_answers.keep(request.plan, *answer);
-    emit answered(id, *answer);
+    emit answered(request.id, *answer);
 }
 
 void Analysis::failed(Request request, const ToolEnding &ending)

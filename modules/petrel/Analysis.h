@@ -7,6 +7,7 @@
 #include "EngineFailure.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <functional>
 #include <memory>
@@ -56,6 +57,8 @@ private:
 
     void startPending();
     void ended(qint64 id, const ToolEnding &ending);
+    void tell(const Request &request, const foundation::Result<EngineAnswer, tarnwell::Sentence> &answer,
+              const QString &words);
     void failed(Request request, const ToolEnding &ending);
     void waitOn();
     void secondPassed();
@@ -65,6 +68,7 @@ private:
     AnswerStore m_answers;
     QList<Request> m_pending;
     QList<Request> m_waiting;
+    QSet<qint64> m_read;  ///< whose answers are being read
     bool m_isWaiting = false;
     std::vector<Run> m_running;
 };

@@ -108,8 +108,13 @@ TEST(PartFolderTest, IsFoundAgainByThePlanAndNobodyElseHasItMeanwhile)
         (*again)->setMissingCompanions(u"no cover"_s);
         EXPECT_EQ((*again)->missingCompanions(), u"no cover"_s);
     }
-    PartFolder::removeLeft(folder.path(), plan);
+    const QString elsewhere = folder.filePath(u"elsewhere"_s);
+    QDir().mkdir(elsewhere);
+    PartFolder::moveLeft(folder.path(), plan, elsewhere);
     EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQ((*PartFolder::take(elsewhere, plan))->missingCompanions(), u"no cover"_s);
+    PartFolder::removeLeft(elsewhere, plan);
+    EXPECT_TRUE(QDir(elsewhere).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     EXPECT_FALSE(PartFolder::take(folder.path() + u"/none"_s, plan));
 }
 
