@@ -132,11 +132,12 @@ void Analysis::secondPassed()
         if (--request.seconds == 0)
             m_pending.append(request);
     }
+    const QList<Request> told = m_waiting;  // who is told may stop some
     m_waiting.removeIf([](const Request &request) { return request.seconds == 0; });
     startPending();
     m_isWaiting = false;
     waitOn();
-    for (const Request &request : QList(m_waiting)) {
+    for (const Request &request : told) {
         if (request.seconds < seldom || request.seconds % seldom == 0)
             emit waits(request.id, request.failure, request.seconds);
     }

@@ -38,7 +38,7 @@ public:
 
 signals:
     void answered(qint64 id, const kestrel::Analysis::Answer &answer);
-    /// It is asked again in so many seconds; told now and then while they pass.
+    /// It is asked again in so many seconds; told now and then while they pass, and at 0.
     void waits(qint64 id, kestrel::EngineFailure::Kind kind, int seconds);
 
 private:

@@ -163,7 +163,11 @@ void PetrelController::connectPage()
 {
     connect(m_analysis.get(), &Analysis::answered, this, &PetrelController::answered);
     connect(m_analysis.get(), &Analysis::waits, this, [this](JobId id, EngineFailure::Kind kind, int seconds) {
-        queue().change(id, [&](JobRecord &record) { record.blocked = waitingSentence(kind, seconds); });
+        if (!m_asked.contains(id))
+            return;
+        queue().change(id, [&](JobRecord &record) {
+            record.blocked = seconds > 0 ? waitingSentence(kind, seconds) : tarnwell::Sentence();
+        });
     });
     connect(m_page, &JobPage::backClicked, this, &PetrelController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PetrelController::download);
