@@ -13,7 +13,9 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QThread>
-#include <QUrl>
+
+#include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -31,22 +33,23 @@ struct DownloadRequest {
 bool readFormat(const QString &value, DownloadRequest &request)
 {
     request.plan.extension = value.toLower();
-    if (soundFormats().contains(request.plan.extension))
-        request.plan.soundOnly = true;
-    return request.plan.soundOnly || downloadFormats().contains(request.plan.extension);
+    const bool isSound = soundFormats().contains(request.plan.extension);
+    request.plan.soundOnly |= isSound;
+    return isSound || downloadFormats().contains(request.plan.extension);
 }
 
 bool readProxy(const QString &value, DownloadRequest &request)
 {
-    const QUrl url(value.contains("://"_L1) ? value : "http://"_L1 + value);
-    request.plan.proxy = url.toString(QUrl::FullyEncoded);
-    return url.isValid() && !url.host().isEmpty();
+    request.plan.proxy = proxyAddress(value);
+    request.plan.hasOwnProxy = true;
+    return !request.plan.proxy.isNull();
 }
 
 constexpr Option<DownloadRequest> optionTable[] = {
     {"to", "folder", "where the results go, instead of the settings' folders",
      [](const QString &value, DownloadRequest &request) {
          request.folder = foundation::absoluteFileName(value);
+         request.plan.hasOwnFolder = true;
          return QFileInfo(value).isDir();
      },
      noFolder},
@@ -58,7 +61,8 @@ constexpr Option<DownloadRequest> optionTable[] = {
     {"sound", nullptr, "the sound alone",
      [](const QString &, DownloadRequest &request) {
          request.plan.soundOnly = true;
-         request.plan.extension = soundFormats().first();
+         if (!soundFormats().contains(request.plan.extension))
+             request.plan.extension = soundFormats().first();
          return true;
      }},
     {"format", "name", "mp4, webm, flv, 3gp, mkv; m4a or mp3 for sound", readFormat},
@@ -96,7 +100,7 @@ foundation::Result<QStringList> addressesOf(const QStringList &arguments, const 
     if (QFile list(request.list); !request.list.isNull()) {
         if (!list.open(QIODevice::ReadOnly) || list.size() > maximumList)
             return foundation::Failure{u"%1 cannot be read"_s.arg(request.list)};
-        addresses += addressesIn(QString::fromUtf8(list.readAll()));
+        addresses += addressesIn(textOfFile(list.readAll()));
     }
     if (addresses.isEmpty())
         return foundation::Failure{u"Name the addresses to download from."_s};
@@ -109,12 +113,8 @@ QList<JobRecord> jobsFor(const DownloadPlan &plan, const Analysis::Answer &answe
     if (answer)
         return downloadJobs(plan, *answer, folder);
     JobRecord record = downloadJob(plan, folder);
-    // What may do at another attempt, or with another engine, is the job's own business.
-    const EngineFailure::Kind kind = answer.reason().kind;
-    if (!passesByItself(kind) && !mayBeTheEngine(kind)) {
-        record.state = JobState::Unusable;
-        record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
-    }
+    record.state = JobState::Unusable;
+    record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
     return {record};
 }
 
@@ -140,6 +140,12 @@ QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &reque
         session.queue().start(added);
         if (--open == 0)
             loop.quit();
+    });
+    QHash<qint64, int> told;  // seconds
+    QObject::connect(&analysis, &Analysis::waits, &loop, [&](qint64 number, EngineFailure::Kind kind, int seconds) {
+        if (const int before = std::exchange(told[number], seconds); before <= seconds)
+            std::fprintf(stderr, "kestrel-cli: %s: %s\n", qPrintable(addresses[number]),
+                         qPrintable(waitingSentence(kind, seconds).english()));
     });
     for (qsizetype number = 0; number < addresses.size(); ++number)
         analysis.ask(number, planOf(number));

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QMenu>
+#include <QMetaMethod>
 #include <QMimeData>
 #include <QPointer>
 #include <QShortcut>
@@ -273,7 +274,8 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
     const JobId current = currentId() > 0 ? currentId() : ids.first();
     const JobRecord *record = m_queue.record(current);
     const bool hasResult = !outputsOf({current}).isEmpty();
-    QList<JobId> active, paused, again;
+    const bool canLook = isSignalConnected(QMetaMethod::fromSignal(&JobListView::lookAgainRequested));
+    QList<JobId> active, paused, again, unusable, checking;
     bool isNew = false;
     for (const JobId id : ids) {
         const JobState state = m_queue.record(id)->state;
@@ -283,6 +285,10 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
             paused.append(id);
         if (state == JobState::Ready || isEnded(state))
             again.append(id);
+        if (canLook && state == JobState::Unusable)
+            unusable.append(id);
+        if (canLook && state == JobState::Checking)
+            checking.append(id);
         isNew |= state == JobState::Ready;
     }
     auto *menu = new QMenu(this);
@@ -296,12 +302,18 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
         {"Show in Folder"_key, hasResult, [this, current] { showInFolder(current); }},
         {"Copy"_key, hasResult, [this, ids] { copyResults(ids); }},
         {},
-        {isNew || again.isEmpty() ? "Start"_key : "Retry"_key, !again.isEmpty(),
-         [this, again] { m_queue.start(again); }},
+        {isNew || (again + unusable).isEmpty() ? "Start"_key : "Retry"_key, !(again + unusable).isEmpty(),
+         [this, again, unusable] {
+             m_queue.start(again);
+             emit lookAgainRequested(unusable);
+         }},
         {"Pause"_key, !active.isEmpty(), [this, active] { m_queue.setPaused(active, true); }},
         {"Go On"_key, !paused.isEmpty(), [this, paused] { m_queue.setPaused(paused, false); }},
-        {"Cancel"_key, !active.isEmpty() || !paused.isEmpty(),
-         [this, active, paused] { m_queue.cancel(active + paused); }},
+        {"Cancel"_key, !(active + paused + checking).isEmpty(),
+         [this, active, paused, checking] {
+             m_queue.cancel(active + paused);
+             emit stopLookingRequested(checking);
+         }},
         {},
         {"Details…"_key, record != nullptr, [this, current] { showDetails(current); }},
         {"Remove"_key, true, [this] { removeSelected(); }},

@@ -39,6 +39,9 @@ signals:
     /// The same on one with a result, which should be played.
     void playRequested(const QString &path);
     void selectedChanged();
+    /// "Retry" for what could not be used, and "Cancel" for what is being looked at; offered where this is connected.
+    void lookAgainRequested(const QList<kestrel::JobId> &ids);
+    void stopLookingRequested(const QList<kestrel::JobId> &ids);
     /// The context menu is about to be shown for these; add to it.
     void menuRequested(QMenu *menu, const QList<kestrel::JobId> &ids);
     /// The details of this one are about to be shown; offer what helps.

@@ -99,6 +99,7 @@ void JobPage::setUpActions()
     connect(m_form->pauseButton, &QPushButton::clicked, this, &JobPage::togglePause);
     connect(m_form->cancelButton, &QPushButton::clicked, this, [this] {
         m_queue.cancel(m_queue.idsIn({JobState::Waiting, JobState::Running, JobState::Paused}, m_module));
+        emit cancelClicked();
     });
     connect(m_form->filterEdit, &QLineEdit::textChanged, m_list, &JobListView::setFilterText);
     connect(&m_model, &QAbstractItemModel::rowsInserted, this, &JobPage::showRows);

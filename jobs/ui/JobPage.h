@@ -58,7 +58,8 @@ public:
 signals:
     void backClicked();
     void startClicked();
-    void addClicked();  ///< the button of the empty page
+    void cancelClicked();  ///< what waits and runs is cancelled already
+    void addClicked();     ///< the button of the empty page
     void pathsDropped(const QStringList &paths);
     void textDropped(const QString &text);  ///< or pasted: addresses
 

@@ -1,8 +1,14 @@
 #include "Analysis.h"
 
+#include "foundation/Queues.h"
 #include "foundation/StandardFolders.h"
 
+#include <QPointer>
+
 #include <algorithm>
+#include <utility>
+
+using namespace std::chrono_literals;
 
 namespace kestrel {
 
@@ -25,21 +31,22 @@ void Analysis::ask(qint64 id, const DownloadPlan &plan)
 
 void Analysis::stop(qint64 id)
 {
-    m_pending.removeIf([id](const Request &request) { return request.id == id; });
-    const auto found =
-        std::find_if(m_running.begin(), m_running.end(), [id](const Run &run) { return run.request.id == id; });
-    if (found != m_running.end())
-        m_running.erase(found);
+    const auto isIt = [id](const Request &request) { return request.id == id; };
+    m_pending.removeIf(isIt);
+    m_waiting.removeIf(isIt);
+    m_read.remove(id);
+    std::erase_if(m_running, [&](const Run &run) { return isIt(run.request); });
     startPending();
 }
 
 void Analysis::startPending()
 {
     while (!m_pending.isEmpty() && m_running.size() < size_t(maximumAtOnce)) {
-        const Request request = m_pending.takeFirst();
-        const EngineTools tools = m_tools();
-        foundation::makePrivateFolder(tools.home);
-        auto process = std::make_unique<ToolProcess>(analysisCommand(request.plan, tools));
+        Request request = m_pending.takeFirst();
+        if (request.tools.engine.isEmpty())
+            request.tools = m_tools();
+        foundation::makePrivateFolder(request.tools.home);
+        auto process = std::make_unique<ToolProcess>(analysisCommand(request.plan, request.tools));
         connect(process.get(), &ToolProcess::ended, this,
                 [this, id = request.id](const ToolEnding &ending) { ended(id, ending); });
         process->start();
@@ -53,22 +60,87 @@ void Analysis::ended(qint64 id, const ToolEnding &ending)
         std::find_if(m_running.begin(), m_running.end(), [id](const Run &run) { return run.request.id == id; });
     if (found == m_running.end())
         return;
-    const DownloadPlan plan = found->request.plan;
+    const Request request = found->request;
     found->process.release()->deleteLater();  // this is called by it
     m_running.erase(found);
+    if (!ending.isGood())
+        return failed(request, ending);
     startPending();
-    if (!ending.isGood()) {
-        const EngineFailure failure = engineFailure(ending, plan.proxy);
-        emit answered(id, foundation::Failure{Refusal{failure.sentence, ending.lastWords, failure.kind}});
-        return;
-    }
-    const auto answer = parseEngineAnswer(ending.output, plan.address);
+    m_read.insert(id);
+    // Some are megabytes.
+    foundation::queue::asyncGlobal([self = QPointer(this), request, ending, answers = m_answers] {
+        const auto answer = parseEngineAnswer(ending.output, request.plan.address);
+        if (answer)
+            answers.keep(request.plan, *answer);
+        foundation::queue::asyncMain([self, request, answer, words = ending.lastWords] {
+            if (self && self->m_read.remove(request.id))
+                self->tell(request, answer, words);
+        });
+    });
+}
+
+void Analysis::tell(const Request &request, const foundation::Result<EngineAnswer, tarnwell::Sentence> &answer,
+                    const QString &words)
+{
     if (!answer) {
-        emit answered(id, foundation::Failure{Refusal{answer.reason(), ending.lastWords}});
+        emit answered(request.id, foundation::Failure{Refusal{answer.reason(), words}});
         return;
     }
-    m_answers.keep(plan, *answer);
-    emit answered(id, *answer);
+    // It has done what the one before could not.
+    if (!request.tools.failed.isNull())
+        request.tools.tried(request.tools, std::nullopt);
+    emit answered(request.id, *answer);
+}
+
+void Analysis::failed(Request request, const ToolEnding &ending)
+{
+    const EngineFailure failure = engineFailure(ending, request.plan.proxy);
+    if (takeOtherEngine(request.tools, failure.kind)) {
+        m_pending.prepend(request);
+        return startPending();
+    }
+    startPending();
+    const int asked = retryAfterIn(ending.output);
+    const auto seconds = passesByItself(failure.kind) ? request.attempts.next(failure.kind, asked) : std::nullopt;
+    if (!seconds) {
+        const Refusal refusal{givenUpSentence(failure, asked), ending.lastWords, failure.kind};
+        emit answered(request.id, foundation::Failure{refusal});
+        return;
+    }
+    request.failure = failure.kind;
+    request.seconds = *seconds;
+    m_waiting.append(request);
+    waitOn();
+    emit waits(request.id, failure.kind, *seconds);
+}
+
+/// By a second, as long as there is something to wait for.
+void Analysis::waitOn()
+{
+    if (m_waiting.isEmpty() || std::exchange(m_isWaiting, true))
+        return;
+    foundation::queue::afterMain(1s, [self = QPointer(this)] {
+        if (self)
+            self->secondPassed();
+    });
+}
+
+void Analysis::secondPassed()
+{
+    constexpr int seldom = 5;  // a row that tells it is stored each time
+    for (Request &request : m_waiting) {
+        if (--request.seconds == 0)
+            m_pending.append(request);
+    }
+    const QList<Request> told = m_waiting;  // who is told may stop some
+    m_waiting.removeIf([](const Request &request) { return request.seconds == 0; });
+    startPending();
+    m_isWaiting = false;
+    waitOn();
+    for (const Request &request : told) {
+        if (request.seconds < seldom || request.seconds % seldom == 0)
+            emit waits(request.id, request.failure, request.seconds);
+    }
 }
 
 void Analysis::answerLater(qint64 id, const Answer &answer)

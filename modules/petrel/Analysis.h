@@ -1,11 +1,13 @@
 #pragma once
 
 #include "AnswerStore.h"
+#include "Attempts.h"
 #include "DownloadPlan.h"
 #include "EngineCommand.h"
 #include "EngineFailure.h"
 
 #include <QObject>
+#include <QSet>
 
 #include <functional>
 #include <memory>
@@ -13,7 +15,8 @@
 
 namespace kestrel {
 
-/// Looks at addresses in the background, a few at a time; what was found freshly is not asked for again. Main thread.
+/// Looks at addresses in the background, a few at a time; what was found freshly is not asked for again, and failures
+/// that pass by themselves are waited out. Main thread.
 class Analysis : public QObject {
     Q_OBJECT
 public:
@@ -32,15 +35,20 @@ public:
     /// `id` is the caller's name for it. `answered` comes once, later than this returns, unless it is stopped.
     void ask(qint64 id, const DownloadPlan &plan);
     void stop(qint64 id);
-    bool isBusy() const { return !m_pending.isEmpty() || !m_running.empty(); }
 
 signals:
     void answered(qint64 id, const kestrel::Analysis::Answer &answer);
+    /// It is asked again in so many seconds; told now and then while they pass, and at 0.
+    void waits(qint64 id, kestrel::EngineFailure::Kind kind, int seconds);
 
 private:
     struct Request {
         qint64 id;
         DownloadPlan plan;
+        EngineTools tools = {};
+        Attempts attempts = {};
+        EngineFailure::Kind failure = EngineFailure::Kind::Unknown;  ///< that is waited out
+        int seconds = 0;                                             ///< still to wait
     };
     struct Run {
         Request request;
@@ -49,11 +57,19 @@ private:
 
     void startPending();
     void ended(qint64 id, const ToolEnding &ending);
+    void tell(const Request &request, const foundation::Result<EngineAnswer, tarnwell::Sentence> &answer,
+              const QString &words);
+    void failed(Request request, const ToolEnding &ending);
+    void waitOn();
+    void secondPassed();
     void answerLater(qint64 id, const Answer &answer);
 
     std::function<EngineTools()> m_tools;
     AnswerStore m_answers;
     QList<Request> m_pending;
+    QList<Request> m_waiting;
+    QSet<qint64> m_read;  ///< whose answers are being read
+    bool m_isWaiting = false;
     std::vector<Run> m_running;
 };
 

@@ -58,11 +58,20 @@ std::optional<EngineAnswer> AnswerStore::answer(const DownloadPlan &plan) const
 
 void AnswerStore::keep(const DownloadPlan &plan, const EngineAnswer &answer) const
 {
+    keepFilm(plan, answer.film);
+    for (const EngineAnswer::Entry &entry : answer.entries) {
+        DownloadPlan one = plan;
+        one.item = entry.item;
+        keepFilm(one, entry.film);
+    }
+}
+
+void AnswerStore::keepFilm(const DownloadPlan &plan, QJsonObject film) const
+{
     QSaveFile file(pathOf(plan));
-    if (answer.film.isEmpty() || !foundation::makePrivateFolder(m_folder) || !file.open(QIODevice::WriteOnly))
+    if (film.isEmpty() || !foundation::makePrivateFolder(m_folder) || !file.open(QIODevice::WriteOnly))
         return;
     file.setPermissions(QFile::ReadOwner | QFile::WriteOwner);  // addresses may carry the right to fetch
-    QJsonObject film = answer.film;
     film[formKey] = QString::fromLatin1(plan.identity());
     file.write(QJsonDocument(film).toJson(QJsonDocument::Compact));
     file.commit();

@@ -20,6 +20,7 @@ public:
     /// Path of the film's description for the engine; null where there is none, or it is too old.
     QString fresh(const DownloadPlan &plan) const;
     std::optional<EngineAnswer> answer(const DownloadPlan &plan) const;
+    /// Of a list what it tells of the films of its page, each for a plan of its own.
     void keep(const DownloadPlan &plan, const EngineAnswer &answer) const;
     void forget(const DownloadPlan &plan) const;
     /// Removes what nobody can use any more; for the start of a program.
@@ -27,6 +28,7 @@ public:
 
 private:
     QString pathOf(const DownloadPlan &plan) const;
+    void keepFilm(const DownloadPlan &plan, QJsonObject film) const;
 
     QString m_folder;
 };

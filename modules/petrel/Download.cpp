@@ -32,22 +32,25 @@ QString downloadFolder(const JKestrelSettingDispatcher &settings, const Download
     return plan.soundOnly && !music.isEmpty() ? music : settings.getVideoDir();
 }
 
-QString downloadProxy(const JKestrelSettingDispatcher &settings)
+QString proxyAddress(QString address, const QString &port)
 {
     static const QStringList schemes{u"http"_s, u"https"_s, u"socks4"_s, u"socks4a"_s, u"socks5"_s, u"socks5h"_s};
-    const JDownloaderSetting &setting = *settings.setting()->downloader();
-    QString address = setting.proxyURL().trimmed();
-    if (!setting.proxyEnabled() || address.isEmpty())
-        return {};
+    address = address.trimmed();
     if (!address.contains("://"_L1))
         address.prepend("http://"_L1);
     QUrl url(address);
     bool isNumber = false;
-    const int port = setting.proxyPort().trimmed().toInt(&isNumber);
-    if (isNumber && port > 0 && port < 65536)
-        url.setPort(port);
+    const int number = port.trimmed().toInt(&isNumber);
+    if (isNumber && number > 0 && number < 65536)
+        url.setPort(number);
     return url.isValid() && !url.host().isEmpty() && schemes.contains(url.scheme()) ? url.toString(QUrl::FullyEncoded)
                                                                                     : QString();
+}
+
+QString downloadProxy(const JKestrelSettingDispatcher &settings)
+{
+    const JDownloaderSetting &setting = *settings.setting()->downloader();
+    return setting.proxyEnabled() ? proxyAddress(setting.proxyURL(), setting.proxyPort()) : QString();
 }
 
 int downloadsAtOnce(const JKestrelSettingDispatcher &settings)
@@ -70,9 +73,19 @@ EngineStore engineStore()
 
 EngineTools engineTools(const JKestrelSettingDispatcher &settings)
 {
-    return {.engine = engineStore().engine(),
-            .transcoderFolder = QFileInfo(settings.getTranscoderPath()).absolutePath(),
-            .home = downloadDataFolder() + "/home"_L1};
+    return {
+        .engine = engineStore().engine(),
+        .transcoderFolder = QFileInfo(settings.getTranscoderPath()).absolutePath(),
+        .home = downloadDataFolder() + "/home"_L1,
+        .tried = [](const EngineTools &tools, std::optional<EngineFailure::Kind> failure) -> std::optional<QString> {
+            using enum EngineStore::Damage;
+            const EngineStore store = engineStore();
+            if (failure)
+                return store.fallBack(tools.engine,
+                                      *failure == EngineFailure::Kind::EngineBroken ? Broken : OneAddress);
+            store.prove(tools.engine, tools.failed);
+            return std::nullopt;
+        }};
 }
 
 DownloadTools downloadTools(const JKestrelSettingDispatcher &settings, int processors)
@@ -85,12 +98,6 @@ DownloadTools downloadTools(const JKestrelSettingDispatcher &settings, int proce
     if (settings.getQSV())
         tools.transcode.machine.findHardware();
     tools.answers = downloadDataFolder() + "/answers"_L1;
-    tools.engineTried = [](bool hasWorked) -> std::optional<QString> {
-        if (!hasWorked)
-            return engineStore().fallBack();
-        engineStore().prove();
-        return std::nullopt;
-    };
     return tools;
 }
 

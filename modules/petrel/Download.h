@@ -16,7 +16,9 @@ inline constexpr QStringView petrelJobs = u"petrel";  ///< what downloads are st
 DownloadPlan downloadPlan(const JKestrelSettingDispatcher &settings, const QString &address);
 /// Where it goes: the settings' folder for video, or for music.
 QString downloadFolder(const JKestrelSettingDispatcher &settings, const DownloadPlan &plan);
-/// The settings' proxy with its scheme ("http" where none is given); null where none is set, or it makes no sense.
+/// With its scheme ("http" where none is given), and the port where `port` is one; null where it makes no sense.
+QString proxyAddress(QString address, const QString &port = {});
+/// The settings' proxy in the same way; null where none is set.
 QString downloadProxy(const JKestrelSettingDispatcher &settings);
 /// How many at once: a lane has no "unlimited".
 int downloadsAtOnce(const JKestrelSettingDispatcher &settings);

@@ -22,7 +22,7 @@ struct Target {
     const char *extension;
     const char *format;      ///< among ffprobe's names of the file's
     const char *preset;      ///< that converts into it, tracks that fit as they are
-    const char *copyPreset;  ///< that only moves the tracks; null where there is none
+    const char *copyPreset;  ///< that moves all that are `copyCodecs`; null where there is none
     const char *copyCodecs;  ///< that it holds as they are
 };
 
@@ -30,7 +30,7 @@ constexpr Target targets[] = {
     {"mp4", "mp4", "mp4-h264", "mp4-copy", "h264 hevc av1 vp9 mpeg4 aac mp3 ac3 eac3 opus mov_text subrip webvtt"},
     {"webm", "webm", "webm-vp9", nullptr, ""},
     {"flv", "flv", "flv", nullptr, ""},
-    {"3gp", "3gp", "old-phone", nullptr, ""},
+    {"3gp", "3gp", "3gp-h264", "3gp-mpeg4", "mpeg4 aac"},
     {"mkv", "matroska", "mkv-h264", "mkv-copy",
      "h264 hevc av1 vp9 vp8 mpeg4 mpeg2video theora aac mp3 ac3 eac3 opus vorbis flac dts mov_text subrip webvtt ass"},
     {"m4a", "m4a", "m4a-aac", nullptr, ""},

@@ -30,13 +30,12 @@ using tarnwell::operator""_key;
 
 namespace {
 
-/// Seconds between attempts at what passes by itself; after the last one it has failed.
-constexpr int waits[] = {5, 15, 45, 120, 300};
-constexpr int serverWaits = 2;
-constexpr int longestWait = 600;  ///< seconds that others wait for this one's place
 constexpr qint64 leastSpace = 1'000'000;
 
 }  // namespace
+
+constexpr tarnwell::TextKey addressIsOfList =
+    "There are several films at this address. Add it again to choose among them."_key;
 
 DownloadJob::DownloadJob(DownloadPlan plan, QString folder, DownloadTools tools, QObject *parent)
     : ToolJob(parent),
@@ -91,7 +90,7 @@ void DownloadJob::analysed(const ToolEnding &ending)
     if (!answer)
         return fail(answer.reason(), ending.lastWords);
     if (!answer->entries.isEmpty())
-        return fail("There are several films at this address. Add it again to choose among them."_key);
+        return fail(addressIsOfList);
     m_answer = *std::move(answer);
     m_answers.keep(m_plan, m_answer);
     m_answerPath = m_answers.fresh(m_plan);
@@ -101,9 +100,9 @@ void DownloadJob::analysed(const ToolEnding &ending)
 void DownloadJob::download()
 {
     if (m_answer.isToCome)
-        return fail("The broadcast has not begun yet. Try again when it has."_key);
+        return fail(engineFailureOf(EngineFailure::Kind::NotBegun).sentence);
     if (m_answer.isProtected)
-        return fail("The film is copy protected and is not downloaded."_key);
+        return fail(engineFailureOf(EngineFailure::Kind::Protected).sentence);
     // A run before this one may have ended between the download and the rest.
     if (const auto words = m_part->missingCompanions()) {
         m_companionWords = *words;
@@ -117,16 +116,23 @@ void DownloadJob::download()
     tellStage("Connecting…"_key);
     const ToolCommand command = downloadCommand(m_plan, m_tools.engine, m_part->path(), m_answerPath);
     tarnwell::DNFootLog(u"Downloading from %1"_s.arg(m_plan.server()));
-    const ToolProcess &tool = run(command, [this](const ToolEnding &ending) { downloaded(ending); });
-    connect(&tool, &ToolProcess::outputLine, this, &DownloadJob::readLine);
+    ToolProcess &tool = run(command, [this](const ToolEnding &ending) { downloaded(ending); });
+    connect(&tool, &ToolProcess::outputLine, this, [this, &tool](const QByteArray &line) { readLine(tool, line); });
 }
 
-void DownloadJob::readLine(const QByteArray &line)
+void DownloadJob::readLine(ToolProcess &tool, const QByteArray &line)
 {
     if (const int seconds = retryAfterIn(line); seconds > 0)
         m_retryAfter = seconds;
     if (!m_progress.readLine(line))
         return;
+    const bool isOfAnother = !m_progress.whole().isNull() && !m_part->isPartOf(m_progress.file(), m_progress.whole());
+    // Once: a server may tell another size each time.
+    if (isOfAnother && !std::exchange(m_hasBegunAnew, true)) {
+        m_isReplaced = true;
+        tool.cancel();
+        return;
+    }
     const double before = m_told.fraction.value_or(0);
     m_told = m_progress.progress();
     if (m_told.fraction)
@@ -136,14 +142,21 @@ void DownloadJob::readLine(const QByteArray &line)
 
 void DownloadJob::downloaded(const ToolEnding &ending)
 {
+    if (std::exchange(m_isReplaced, false)) {
+        tarnwell::DNFootLog(u"Begun anew: there is something else than before at %1"_s.arg(m_plan.server()));
+        m_part->clear();
+        m_resumed = 0;
+        m_answers.forget(m_plan);
+        return analyse();
+    }
     const bool isWhole = !m_part->downloaded().isNull();
     const bool lacksCompanions = isWhole && ending.cause == ToolEnding::Cause::Exited && ending.exitCode != 0;
     if (lacksCompanions)
         m_companionWords = ending.lastWords;
     else if (!ending.isGood() || !isWhole)
         return engineFailed(ending);
-    if (m_tools.engineTried)
-        m_tools.engineTried(true);
+    if (m_tools.engine.tried)
+        m_tools.engine.tried(m_tools.engine, std::nullopt);
     m_part->setMissingCompanions(m_companionWords);
     look();
 }
@@ -166,12 +179,9 @@ void DownloadJob::engineFailed(const ToolEnding &ending)
 {
     using Kind = EngineFailure::Kind;
     const EngineFailure failure = failureOf(ending);
-    if (mayBeTheEngine(failure.kind) && m_tools.engineTried) {
-        if (const auto other = m_tools.engineTried(false)) {
-            tarnwell::DNFootLog(u"Going back to the engine before: %1"_s.arg(ending.lastWords));
-            m_tools.engine.engine = *other;
-            return analyse();
-        }
+    if (takeOtherEngine(m_tools.engine, failure.kind)) {
+        tarnwell::DNFootLog(u"Trying another engine: %1"_s.arg(ending.lastWords));
+        return analyse();
     }
     const bool mayHaveExpired =
         failure.kind == Kind::Refused || failure.kind == Kind::Gone || failure.kind == Kind::NoSuchForm;
@@ -188,38 +198,26 @@ void DownloadJob::engineFailed(const ToolEnding &ending)
 void DownloadJob::waitAndTryAgain(const EngineFailure &failure, const QString &details)
 {
     if (m_part->bytes() > m_bytesAtTry)
-        m_waits = 0;
+        m_attempts.reset();
     m_bytesAtTry = m_part->bytes();
-    // A server that breaks off without a byte more is not asked for minutes.
-    const int most = failure.kind == EngineFailure::Kind::Server ? serverWaits : int(std::ssize(waits));
-    if (m_waits >= most)
-        return fail(failure.sentence, details);
-    const int usual = waits[m_waits++];
     const int asked = std::exchange(m_retryAfter, 0);
-    if (failure.kind == EngineFailure::Kind::TooMany && asked > longestWait)
-        return fail(failure.sentence, details);
-    const int seconds = failure.kind == EngineFailure::Kind::TooMany && asked > 0 ? asked : usual;
+    const auto seconds = m_attempts.next(failure.kind, asked);
+    if (!seconds)
+        return fail(givenUpSentence(failure, asked), details);
     ++m_waitNumber;
-    switch (failure.kind) {
-        case EngineFailure::Kind::TooMany:
-            return waitOn(seconds, "Too many requests: the server is asked again in %1 s"_key);
-        case EngineFailure::Kind::NoNetwork:
-            return waitOn(seconds, "Waiting for the network, next attempt in %1 s"_key);
-        default:
-            return waitOn(seconds, "The server broke off, next attempt in %1 s"_key);
-    }
+    waitOn(*seconds, failure.kind);
 }
 
-void DownloadJob::waitOn(int seconds, const tarnwell::TextKey &stage)
+void DownloadJob::waitOn(int seconds, EngineFailure::Kind kind)
 {
     if (m_isOver)
         return;
     if (seconds == 0)
         return m_answerPath.isNull() ? analyse() : download();
-    tellStage({stage, {QString::number(seconds)}});
-    foundation::queue::afterMain(1s, [self = QPointer(this), seconds, stage, number = m_waitNumber] {
+    tellStage(waitingSentence(kind, seconds));
+    foundation::queue::afterMain(1s, [self = QPointer(this), seconds, kind, number = m_waitNumber] {
         if (self && self->m_waitNumber == number)
-            self->waitOn(self->isPaused() ? seconds : seconds - 1, stage);
+            self->waitOn(self->isPaused() ? seconds : seconds - 1, kind);
     });
 }
 
@@ -267,7 +265,9 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
         beforePlacing(goodOutcome(), partPath, std::move(then));
     });
     connect(m_conversion.get(), &Job::progressed, this, [this](JobProgress progress) {
-        if (progress.stage.isEmpty())
+        if (progress.stage.isEmpty() && progress.fraction)
+            progress.stage = {"Converting… %1 %"_key, {QString::number(int(*progress.fraction * 100))}};
+        else if (progress.stage.isEmpty())
             progress.stage = "Converting…"_key;
         progress.fraction.reset();  // the bar is the download's, which is over
         emit progressed(progress);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "AnswerStore.h"
+#include "Attempts.h"
 #include "DownloadCheck.h"
 #include "EngineCommand.h"
 #include "EngineFailure.h"
@@ -19,9 +20,10 @@ struct DownloadTools {
     EngineTools engine;
     TranscodeTools transcode;
     QString answers;  ///< folder of the AnswerStore
-    /// What came of the engine: whether it has worked. Asked again after false, it may name another one to try.
-    std::function<std::optional<QString>(bool hasWorked)> engineTried = {};
 };
+
+/// How one fails whose address turns out to be of a list.
+extern const tarnwell::TextKey addressIsOfList;
 
 /// A download: asks what is there where that is not known freshly, downloads on from where an earlier run has ended,
 /// looks at what has come, converts it where another form was asked for, and gives it its name. What has come is kept
@@ -44,12 +46,12 @@ private:
     void analyse();
     void analysed(const ToolEnding &ending);
     void download();
-    void readLine(const QByteArray &line);
+    void readLine(ToolProcess &tool, const QByteArray &line);
     void downloaded(const ToolEnding &ending);
     void engineFailed(const ToolEnding &ending);
     EngineFailure failureOf(const ToolEnding &ending) const;
     void waitAndTryAgain(const EngineFailure &failure, const QString &details);
-    void waitOn(int seconds, const tarnwell::TextKey &stage);
+    void waitOn(int seconds, EngineFailure::Kind kind);
     void look();
     void looked(const ToolEnding &ending, const QString &path);
     void convert(const QString &path, const DownloadCheck &check);
@@ -77,10 +79,12 @@ private:
     QString m_companionWords;  ///< what the engine said when it could not add what goes with the film
     qint64 m_resumed = 0;      ///< bytes that were there when the job began
     qint64 m_bytesAtTry = 0;   ///< when the present attempt began
-    int m_waits = 0;           ///< since something last came
+    Attempts m_attempts;       ///< since something last came
     int m_retryAfter = 0;      ///< seconds, as the server asked last; 0 where it did not
     int m_waitNumber = 0;      ///< tells waits apart
     bool m_hasAskedAgain = false;
+    bool m_isReplaced = false;  ///< what has come is of another film than what comes
+    bool m_hasBegunAnew = false;
     bool m_isOver = false;
 };
 

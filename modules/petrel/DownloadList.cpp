@@ -46,6 +46,8 @@ QString detailText(const JobRecord &record)
 QString runText(const JobRecord &record)
 {
     const JobProgress &progress = record.progress;
+    if (record.state <= JobState::Ready)
+        return record.blocked.localized();
     if (record.state != JobState::Running || !progress.stage.isEmpty() || progress.bytesPerSecond <= 0)
         return {};
     QStringList parts;
@@ -102,11 +104,12 @@ void setFilm(JobRecord &record, const EngineAnswer &answer)
     QJsonArray resolutions;
     for (const auto &[height, bytes] : answer.resolutions())
         resolutions.append(QJsonArray{height, double(bytes)});
-    record.title = answer.title;
     record.plan[filmKey] =
         QJsonObject{{u"resolutions"_s, resolutions}, {u"subtitles"_s, QJsonArray::fromStringList(answer.subtitles)}};
     if (auto plan = DownloadPlan::fromJson(record.plan)) {
-        plan->title = answer.title;
+        // Beside others of its page it is known by what it is called there.
+        if (plan->item == 0 || plan->title.isEmpty())
+            plan->title = record.title = answer.title;
         plan->seconds = answer.seconds;
         plan->bytes = answer.bytes;
         plan->picture = answer.picture;

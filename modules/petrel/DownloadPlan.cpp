@@ -1,9 +1,13 @@
 #include "DownloadPlan.h"
 
+#include "media/MediaFiles.h"
+
 #include <QCryptographicHash>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QRegularExpression>
+#include <QSet>
+#include <QStringDecoder>
 #include <QUrl>
 
 using namespace Qt::StringLiterals;
@@ -33,6 +37,16 @@ qint64 bytesOf(const QJsonValue &value)
     return bytes > 0 && bytes < maximumBytes ? qint64(bytes) : 0;
 }
 
+/// Of words without a scheme: "e.g." and "holiday.mp4" stand in any text.
+bool isLikelyPlace(const QUrl &url)
+{
+    static const QRegularExpression name(u"\\.(xn--[a-z0-9-]+|\\p{L}{2,})$"_s), number(u"^[\\d.]+$|:"_s);
+    const QString host = url.host();
+    const bool isFile = url.path().size() <= 1 && host.section(u'.', -1).size() > 2 &&
+                        mediaNameFilters().contains(u"*."_s + host.section(u'.', -1));
+    return host == "localhost"_L1 || number.match(host).hasMatch() || (name.match(host).hasMatch() && !isFile);
+}
+
 }  // namespace
 
 QJsonObject DownloadPlan::toJson() const
@@ -48,6 +62,8 @@ QJsonObject DownloadPlan::toJson() const
             {u"proxy"_s, proxy},
             {u"bytesPerSecond"_s, bytesPerSecond},
             {u"manyFromServer"_s, manyFromServer},
+            {u"ownProxy"_s, hasOwnProxy},
+            {u"ownFolder"_s, hasOwnFolder},
             {u"title"_s, title},
             {u"seconds"_s, seconds},
             {u"bytes"_s, bytes},
@@ -72,6 +88,8 @@ std::optional<DownloadPlan> DownloadPlan::fromJson(const QJsonObject &json)
     plan.proxy = json["proxy"_L1].toString();
     plan.bytesPerSecond = bytesOf(json["bytesPerSecond"_L1]);
     plan.manyFromServer = json["manyFromServer"_L1].toBool();
+    plan.hasOwnProxy = json["ownProxy"_L1].toBool();
+    plan.hasOwnFolder = json["ownFolder"_L1].toBool();
     plan.title = json["title"_L1].toString();
     plan.picture = downloadAddress(json["picture"_L1].toString());
     plan.seconds = std::max(0.0, json["seconds"_L1].toDouble());
@@ -103,28 +121,39 @@ QString downloadAddress(const QString &text)
         if (character.unicode() <= 0x20 || character.unicode() == 0x7F)
             return {};
     }
-    if (!scheme.match(address).hasMatch())
+    const bool hasScheme = scheme.match(address).hasMatch();
+    if (!hasScheme)
         address.prepend("https://"_L1);
     const QUrl url(address, QUrl::TolerantMode);
     const QString name = url.scheme().toLower();
     const bool isWeb = name == "http"_L1 || name == "https"_L1;
     const QString host = url.host();
     const bool isPlace = host.contains(u'.') || host.contains(u':') || host == "localhost"_L1;
-    return url.isValid() && isWeb && isPlace ? QString::fromLatin1(url.toEncoded()) : QString();
+    return url.isValid() && isWeb && isPlace && (hasScheme || isLikelyPlace(url)) ? QString::fromLatin1(url.toEncoded())
+                                                                                  : QString();
 }
 
 QStringList addressesIn(const QString &text)
 {
     static const QRegularExpression blanks(u"\\s+"_s);
     QStringList addresses;
+    QSet<QString> known;
     for (const QString &word : text.split(blanks, Qt::SkipEmptyParts)) {
         const QString address = downloadAddress(word);
-        if (!address.isNull() && !addresses.contains(address))
-            addresses.append(address);
+        if (address.isNull() || known.contains(address))
+            continue;
+        known.insert(address);
+        addresses.append(address);
         if (addresses.size() == maximumAddresses)
             break;
     }
     return addresses;
+}
+
+QString textOfFile(const QByteArray &bytes)
+{
+    const auto encoding = QStringConverter::encodingForData(bytes, u'h').value_or(QStringConverter::Utf8);
+    return QStringDecoder(encoding).decode(bytes);
 }
 
 int heightOfResolution(const QString &resolution)

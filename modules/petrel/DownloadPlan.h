@@ -19,6 +19,8 @@ struct DownloadPlan {
     QString proxy = {};           ///< with its scheme; null for the system's way
     qint64 bytesPerSecond = 0;    ///< at most; 0 for no limit
     bool manyFromServer = false;  ///< more than a few at once from one server: the user said so
+    /// Chosen for this one; else they are what the settings say when it begins.
+    bool hasOwnProxy = false, hasOwnFolder = false;
 
     // What was found there, for the row and the queue; nothing is promised by it
     QString title = {};
@@ -44,6 +46,8 @@ QString downloadAddress(const QString &text);
 
 /// The addresses in a text, one a line or apart by blanks; each once.
 QStringList addressesIn(const QString &text);
+/// Of a file of addresses, in whichever form of Unicode.
+QString textOfFile(const QByteArray &bytes);
 
 /// "720P" is 720, "Highest Resolution" and anything else 0.
 int heightOfResolution(const QString &resolution);

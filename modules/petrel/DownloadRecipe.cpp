@@ -1,9 +1,8 @@
 #include "DownloadRecipe.h"
 
-#include <QUrl>
+#include "Attempts.h"
 
-#include <ifaddrs.h>
-#include <net/if.h>
+#include <QUrl>
 
 #include <algorithm>
 
@@ -27,21 +26,6 @@ bool isOnThisMachine(const QString &address)
 }
 
 }  // namespace
-
-bool hasNetwork()
-{
-    ifaddrs *first = nullptr;
-    if (getifaddrs(&first) != 0)
-        return true;  // let the engine find out
-    bool isThere = false;
-    for (const ifaddrs *entry = first; entry; entry = entry->ifa_next) {
-        const bool isUp = (entry->ifa_flags & IFF_UP) && (entry->ifa_flags & IFF_RUNNING);
-        const int family = entry->ifa_addr ? entry->ifa_addr->sa_family : AF_UNSPEC;
-        isThere |= isUp && !(entry->ifa_flags & IFF_LOOPBACK) && (family == AF_INET || family == AF_INET6);
-    }
-    freeifaddrs(first);
-    return isThere;
-}
 
 /// Films that do not tell their bytes count as middling ones.
 JobNeeds DownloadRecipe::needs(const JobRecord &record) const

@@ -23,7 +23,4 @@ private:
     std::function<DownloadTools()> m_tools;
 };
 
-/// Whether the machine has a network beside its own loopback.
-bool hasNetwork();
-
 }  // namespace kestrel

@@ -119,6 +119,8 @@ EngineAnswer::Entry entryOf(const QJsonObject &json, int item, const QString &pa
         entry.address = own;
         entry.isOfPage = false;
     }
+    if (entry.isOfPage && json["formats"_L1].isArray())
+        entry.film = json;
     if (entry.title.isEmpty())
         entry.title = entry.isOfPage ? u"%1"_s.arg(item) : entry.address;
     return entry;

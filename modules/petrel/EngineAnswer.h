@@ -27,6 +27,7 @@ struct EngineAnswer {
         double seconds = 0;
         QString picture;        ///< address; null where there is none
         bool isOfPage = false;  ///< has no address of its own
+        QJsonObject film = {};  ///< as the answer's, where it is known already
     };
     enum class Promise { Unknown, Yes, No };
 

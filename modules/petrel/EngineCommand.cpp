@@ -1,5 +1,7 @@
 #include "EngineCommand.h"
 
+#include <utility>
+
 using namespace Qt::StringLiterals;
 using namespace std::chrono_literals;
 
@@ -14,8 +16,24 @@ constexpr auto versionLimit = 30s;
 /// Only what comes over http and https, be it in pieces: "https", "m3u8_native", "http_dash_segments".
 constexpr QLatin1StringView onlyWeb("[protocol~='^(http|m3u8|ism)']");
 
+/// What a server leads on to goes the same way, and to no FTP server beside it: an option of the engine's would hold
+/// for the web alone.
+void setProxy(QProcessEnvironment &environment, const QString &proxy)
+{
+    static const QString none = u"http://127.0.0.1:9"_s;
+    environment.insert(u"ftp_proxy"_s, proxy.startsWith("http"_L1) ? proxy : none);
+    if (proxy.isEmpty())
+        return;
+    for (const auto &name : {"no_proxy"_L1, "NO_PROXY"_L1, "HTTP_PROXY"_L1, "HTTPS_PROXY"_L1, "ALL_PROXY"_L1})
+        environment.remove(name);
+    // The engine leaves the names to the proxy, but knows that way under the shorter name alone.
+    const QString known = proxy.startsWith("socks5h:"_L1) ? QString(proxy).remove(6, 1) : proxy;
+    for (const auto &name : {u"http_proxy"_s, u"https_proxy"_s, u"all_proxy"_s})
+        environment.insert(name, known);
+}
+
 /// The engine sees no settings, plug-ins, cookies or caches of the user's, and leaves none.
-QProcessEnvironment environmentFor(const EngineTools &tools)
+QProcessEnvironment environmentFor(const DownloadPlan &plan, const EngineTools &tools)
 {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const auto &name : {"PYTHONPATH"_L1, "PYTHONSTARTUP"_L1, "PYTHONHOME"_L1})
@@ -29,6 +47,7 @@ QProcessEnvironment environmentFor(const EngineTools &tools)
     environment.insert(u"XDG_CONFIG_HOME"_s, tools.home + "/config"_L1);
     environment.insert(u"XDG_CACHE_HOME"_s, tools.home + "/cache"_L1);
     environment.insert(u"XDG_DATA_HOME"_s, tools.home + "/data"_L1);
+    setProxy(environment, plan.proxy);
     return environment;
 }
 
@@ -38,13 +57,6 @@ QStringList commonArguments(const DownloadPlan &plan, const EngineTools &tools)
                           u"--no-update"_s,       u"--no-cache-dir"_s,   u"--no-mark-watched"_s,
                           u"--print-traffic"_s,   u"--socket-timeout"_s, u"20"_s,
                           u"--ffmpeg-location"_s, tools.transcoderFolder};
-    if (!plan.proxy.isEmpty()) {
-        // The engine leaves the names to the proxy, but knows that way under the shorter name alone.
-        QString proxy = plan.proxy;
-        if (proxy.startsWith("socks5h:"_L1))
-            proxy.remove(6, 1);
-        arguments << u"--proxy"_s << proxy;
-    }
     if (plan.item > 0)
         arguments << u"--yes-playlist"_s << u"--playlist-items"_s << QString::number(plan.item);
     return arguments;
@@ -90,13 +102,24 @@ QStringList companionArguments(const DownloadPlan &plan)
 
 }  // namespace
 
+bool takeOtherEngine(EngineTools &tools, EngineFailure::Kind failure)
+{
+    const auto other = mayBeTheEngine(failure) && tools.tried ? tools.tried(tools, failure) : std::nullopt;
+    if (!other)
+        return false;
+    const bool isKnownToFail = *other == std::exchange(tools.failed, std::exchange(tools.engine, *other));
+    if (isKnownToFail)
+        tools.tried(tools, failure);
+    return !isKnownToFail;
+}
+
 ToolCommand analysisCommand(const DownloadPlan &plan, const EngineTools &tools)
 {
     QStringList arguments = commonArguments(plan, tools) + choiceArguments(plan);
     arguments << u"--flat-playlist"_s << u"--dump-single-json"_s << u"--"_s << plan.address;
     return {.program = tools.engine,
             .arguments = arguments,
-            .environment = environmentFor(tools),
+            .environment = environmentFor(plan, tools),
             .timeLimit = analysisLimit,
             .outputLimit = maximumAnswerBytes,
             .collectsOutput = true};
@@ -108,7 +131,7 @@ ToolCommand downloadCommand(const DownloadPlan &plan, const EngineTools &tools, 
     QStringList arguments = commonArguments(plan, tools) + choiceArguments(plan) + companionArguments(plan);
     arguments
         << u"--newline"_s << u"--progress"_s << u"--progress-template"_s
-        << u"download:%1%(progress.{status,downloaded_bytes,total_bytes,total_bytes_estimate,speed,eta,fragment_index,fragment_count,filename})j"_s
+        << u"download:%1[%(info.format_id)j,%(progress.{status,downloaded_bytes,total_bytes,total_bytes_estimate,speed,eta,fragment_index,fragment_count,filename})j]"_s
                .arg(QLatin1StringView(progressMark))
         << u"--ignore-errors"_s  // of what goes with the film: it tells them, and goes on
         << u"--continue"_s << u"--no-mtime"_s << u"--retries"_s << u"5"_s << u"--fragment-retries"_s << u"5"_s
@@ -122,7 +145,7 @@ ToolCommand downloadCommand(const DownloadPlan &plan, const EngineTools &tools, 
         arguments << u"--load-info-json"_s << answer;
     return {.program = tools.engine,
             .arguments = arguments,
-            .environment = environmentFor(tools),
+            .environment = environmentFor(plan, tools),
             .workingFolder = folder,
             .silenceLimit = silenceLimit};
 }
@@ -131,7 +154,7 @@ ToolCommand versionCommand(const EngineTools &tools)
 {
     return {.program = tools.engine,
             .arguments = {u"--ignore-config"_s, u"--version"_s},
-            .environment = environmentFor(tools),
+            .environment = environmentFor({}, tools),
             .timeLimit = versionLimit,
             .outputLimit = 64 * 1024,
             .collectsOutput = true};

@@ -1,8 +1,12 @@
 #pragma once
 
 #include "DownloadPlan.h"
+#include "EngineFailure.h"
 
 #include "jobs/ToolProcess.h"
+
+#include <functional>
+#include <optional>
 
 namespace kestrel {
 
@@ -11,7 +15,13 @@ struct EngineTools {
     QString engine;            ///< absolute path of yt-dlp
     QString transcoderFolder;  ///< that ffmpeg and ffprobe stand in
     QString home;              ///< a folder of Kestrel's that stands for the user's home
+    /// What came of them: how the engine failed, nothing where it has worked. May name another one to try.
+    std::function<std::optional<QString>(const EngineTools &, std::optional<EngineFailure::Kind> failure)> tried = {};
+    QString failed = {};  ///< the engine before this one; null for none
 };
+
+/// After a failure: whether there is another engine to try, which is in `tools` then.
+bool takeOtherEngine(EngineTools &tools, EngineFailure::Kind failure);
 
 /// Of an answer; longer ones are none.
 inline constexpr qint64 maximumAnswerBytes = 32 * 1024 * 1024;

@@ -2,6 +2,8 @@
 
 #include "jobs/SystemFailure.h"
 
+#include <QDateTime>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -26,13 +28,16 @@ constexpr KindSentence sentences[] = {
     {Kind::UnknownSite,
      "This address is of no site that Kestrel knows. Check it, or look for the page that plays the film."_key},
     {Kind::Gone, "The film is no longer there. Look for it at another address."_key},
-    {Kind::Private, "The film is private or for members only, so it cannot be downloaded."_key},
-    {Kind::LogIn, "The site shows this film only to those who have logged in, which Kestrel does not do."_key},
-    {Kind::Age, "The site wants to know the viewer's age first, which it learns only from a log-in."_key},
+    {Kind::Private,
+     "The film is private or for members only, so it cannot be downloaded. Look for it at another address."_key},
+    {Kind::LogIn,
+     "The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address."_key},
+    {Kind::Age,
+     "The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address."_key},
     {Kind::Country,
      "The site does not show this film in your country. A proxy of another country can be set in the settings."_key},
     {Kind::NotBegun, "The broadcast has not begun yet. Try again when it has."_key},
-    {Kind::Protected, "The film is copy protected and is not downloaded."_key},
+    {Kind::Protected, "The film is copy protected and is not downloaded. Watch it on its own site."_key},
     {Kind::TooMany, "The server takes no more requests for now. Try again in a while."_key},
     {Kind::NoNetwork, "There is no connection to the network. Check it and try again."_key},
     {Kind::Proxy, "The proxy refuses the connection. Check its address in the settings."_key},
@@ -41,7 +46,7 @@ constexpr KindSentence sentences[] = {
     {Kind::Server, "The server broke off or could not answer. What has come is kept; try again later."_key},
     {Kind::NotThere, "No server answers at this address. Check it and try again."_key},
     {Kind::Certificate,
-     "The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded."_key},
+     "The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date."_key},
     {Kind::NoFilm, "There is no film at this address. Look for the page that plays it."_key},
     {Kind::NoSuchForm, "The film is not there in the form that was wanted. Choose another resolution or format."_key},
     {Kind::Disk, "There is no space left on the disk. Free some space and try again; what has come is kept."_key},
@@ -172,14 +177,20 @@ int retryAfterIn(const QByteArray &output)
 {
     constexpr int longest = 3600;
     static const QByteArray mark = "header: retry-after: ";
-    const QByteArray text = output.right(256 * 1024).toLower();
-    const qsizetype place = text.lastIndexOf(mark);
+    const QByteArray text = output.right(256 * 1024);
+    const qsizetype place = text.toLower().lastIndexOf(mark);
     if (place < 0)
         return 0;
     const qsizetype start = place + mark.size(), end = text.indexOf('\n', start);
-    bool isNumber = false;  // and not a date
-    const qlonglong seconds = text.mid(start, end < 0 ? -1 : end - start).trimmed().toLongLong(&isNumber);
-    return isNumber ? int(std::clamp<qlonglong>(seconds, 0, longest)) : 0;
+    const QByteArray value = text.mid(start, end < 0 ? -1 : end - start).trimmed();
+    bool isNumber = false;
+    qlonglong seconds = value.toLongLong(&isNumber);
+    if (!isNumber) {
+        QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(value), u"ddd, dd MMM yyyy hh:mm:ss 'GMT'"_s);
+        date.setTimeSpec(Qt::UTC);
+        seconds = date.isValid() ? QDateTime::currentDateTimeUtc().secsTo(date) : 0;
+    }
+    return int(std::clamp<qlonglong>(seconds, 0, longest));
 }
 
 bool passesByItself(EngineFailure::Kind kind)

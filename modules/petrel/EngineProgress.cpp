@@ -2,6 +2,7 @@
 
 #include "EngineCommand.h"
 
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -59,7 +60,8 @@ bool EngineProgress::readLine(const QByteArray &line)
 
 bool EngineProgress::readReport(const QByteArray &json)
 {
-    const QJsonObject report = QJsonDocument::fromJson(json).object();
+    const QJsonArray parts = QJsonDocument::fromJson(json).array();
+    const QJsonObject report = parts.at(1).toObject();
     const QString name = report["filename"_L1].toString();
     if (report.isEmpty() || (m_files.size() >= maximumFiles && !m_files.contains(name)))
         return false;
@@ -71,7 +73,13 @@ bool EngineProgress::readReport(const QByteArray &json)
     file.total = std::max(total > 0 ? total : wholeNumber(report["total_bytes_estimate"_L1]), file.done);
     const qint64 fragments = wholeNumber(report["fragment_count"_L1]);
     const bool isKnown = fragments > 0 || total > 0 || m_expectedBytes > 0;
-    if (report["status"_L1].toString() == "finished"_L1)
+    const bool isFinished = report["status"_L1].toString() == "finished"_L1;
+    m_file = name;
+    // At its end a file tells its bytes, be it made of fragments or not.
+    m_whole = isFinished || (fragments == 0 && total == 0)
+                  ? QString()
+                  : u"%1 %2 %3"_s.arg(parts.at(0).toString()).arg(fragments).arg(fragments > 0 ? 0 : total);
+    if (isFinished)
         file.fraction = 1;
     else if (fragments > 0)
         file.fraction = std::min(1.0, double(wholeNumber(report["fragment_index"_L1])) / double(fragments));

@@ -20,6 +20,10 @@ public:
     /// Of the first report: what a run before this one has left.
     std::optional<qint64> resumedAt() const { return m_resumedAt; }
     qint64 bytes() const { return m_progress.bytes; }
+    /// Of the last report: the file that grows, and words that tell what it is to become apart from others; null where
+    /// that is not told.
+    const QString &file() const { return m_file; }
+    const QString &whole() const { return m_whole; }
 
 private:
     struct File {
@@ -36,6 +40,7 @@ private:
     QHash<QString, File> m_files;
     JobProgress m_progress;
     std::optional<qint64> m_resumedAt;
+    QString m_file, m_whole;
 };
 
 }  // namespace kestrel

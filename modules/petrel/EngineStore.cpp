@@ -12,6 +12,7 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -28,6 +29,8 @@ struct EngineState {
     QString current;   ///< null for the bundle's own
     QString previous;  ///< likewise; while the current one is on trial
     bool isOnTrial = false;
+    QString suspect;        ///< gave way to the current one; null for none
+    bool isBroken = false;  ///< the suspect, altogether
     QStringList ruledOut;
     qint64 checked = 0;  ///< seconds since 1970
 };
@@ -47,6 +50,8 @@ EngineState readState(const QString &folder)
     state.current = version("current"_L1);
     state.previous = version("previous"_L1);
     state.isOnTrial = json["trial"_L1].toBool();
+    state.suspect = version("suspect"_L1);
+    state.isBroken = json["broken"_L1].toBool();
     state.checked = qint64(json["checked"_L1].toDouble());
     for (const QJsonValue &ruledOut : json["ruledOut"_L1].toArray())
         state.ruledOut.append(ruledOut.toString());
@@ -61,6 +66,8 @@ bool writeState(const QString &folder, const EngineState &state)
     file.write(QJsonDocument(QJsonObject{{u"current"_s, state.current},
                                          {u"previous"_s, state.previous},
                                          {u"trial"_s, state.isOnTrial},
+                                         {u"suspect"_s, state.suspect},
+                                         {u"broken"_s, state.isBroken},
                                          {u"checked"_s, state.checked},
                                          {u"ruledOut"_s, QJsonArray::fromStringList(state.ruledOut)}})
                    .toJson());
@@ -122,6 +129,7 @@ void EngineStore::adopt(const QString &version) const
         state.previous = state.current;
     state.current = version;
     state.isOnTrial = true;
+    state.suspect.clear();
     writeState(m_folder, state);
 }
 
@@ -139,35 +147,55 @@ bool EngineStore::isRuledOut(const QString &version) const
     return readState(m_folder).ruledOut.contains(version);
 }
 
-void EngineStore::prove() const
+void EngineStore::prove(const QString &engine, const QString &insteadOf) const
 {
     EngineState state = readState(m_folder);
-    if (!state.isOnTrial)
+    if (engine != this->engine())
         return;
-    state.isOnTrial = false;
-    state.previous.clear();
-    if (!writeState(m_folder, state))
-        return;
-    tarnwell::DNFootLog(u"The new download engine has worked: %1"_s.arg(state.current));
-    for (const QFileInfo &other : QDir(m_folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
-        if (other.fileName() != state.current)
-            QDir(other.absoluteFilePath()).removeRecursively();
+    if (state.isOnTrial) {
+        state.isOnTrial = false;
+        state.previous.clear();
+        writeState(m_folder, state);
+        tarnwell::DNFootLog(u"The new download engine has worked: %1"_s.arg(state.current));
+    } else if (!state.suspect.isEmpty() && insteadOf == pathOf(state.suspect)) {
+        const QString suspect = std::exchange(state.suspect, {});
+        writeState(m_folder, state);
+        tarnwell::DNFootLog(u"The new download engine failed and is not used any more: %1"_s.arg(suspect));
+        ruleOut(suspect);
     }
 }
 
-std::optional<QString> EngineStore::fallBack() const
+std::optional<QString> EngineStore::fallBack(const QString &engine, Damage damage) const
 {
+    if (const QString other = this->engine(); engine != other)
+        return other;
     EngineState state = readState(m_folder);
-    if (!state.isOnTrial)
+    const bool isBroken = damage == Damage::Broken;
+    // This one does it no better.
+    if (!state.suspect.isEmpty() && (isBroken || !state.isBroken)) {
+        state.previous = std::exchange(state.current, std::exchange(state.suspect, {}));
+        state.isOnTrial = true;
+        writeState(m_folder, state);
         return std::nullopt;
-    const QString failed = state.current;
-    tarnwell::DNFootLog(u"The new download engine failed and is not used any more: %1"_s.arg(failed));
-    state.current = state.previous;
-    state.previous.clear();
+    }
+    if (!state.isOnTrial && (!isBroken || state.current.isEmpty()))
+        return std::nullopt;
+    state.suspect = std::exchange(state.current, std::exchange(state.previous, {}));
+    state.isBroken = isBroken;
     state.isOnTrial = false;
     writeState(m_folder, state);
-    ruleOut(failed);
-    return engine();
+    return this->engine();
+}
+
+void EngineStore::sweep() const
+{
+    const EngineState state = readState(m_folder);
+    const QStringList used{state.current, state.previous, state.suspect};
+    for (const QFileInfo &other : QDir(m_folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
+        const bool isComing = other.lastModified().secsTo(QDateTime::currentDateTime()) < secondsBetweenChecks;
+        if (!used.contains(other.fileName()) && !isComing)
+            QDir(other.absoluteFilePath()).removeRecursively();
+    }
 }
 
 bool EngineStore::takeTurn(const QDateTime &now) const

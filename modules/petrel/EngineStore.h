@@ -8,8 +8,9 @@
 namespace kestrel {
 
 /// The engines on this machine: the bundle's own and those that have come since, each in a folder of its own. One is in
-/// use. A new one is on trial until it has worked; while it is, the one before stays, and a failure leads back to it
-/// and rules the new one out for good.
+/// use. A new one is on trial until it has worked; while it is, the one before stays and takes over where it fails.
+/// What it then does better rules the new one out for good; where it fails in the same way, the new one is not to
+/// blame.
 class EngineStore {
 public:
     /// `folder` is Kestrel's own; `bundled` is the engine that the program came with.
@@ -24,9 +25,15 @@ public:
     void adopt(const QString &version) const;    ///< it is in use from now on, on trial
     void ruleOut(const QString &version) const;  ///< it is removed, and never installed again
     bool isRuledOut(const QString &version) const;
-    void prove() const;  ///< the one in use has worked: the others go
-    /// What the one on trial gives way to; nothing where none is on trial.
-    std::optional<QString> fallBack() const;
+    /// It has worked, `insteadOf` another one that could not do the same; null for none. Tells something only of the
+    /// one in use.
+    void prove(const QString &engine, const QString &insteadOf = {}) const;
+    /// It has failed: what to try instead; nothing where there is nothing better. What is broken altogether gives way
+    /// also where it is not on trial, to the bundle's own.
+    enum class Damage { OneAddress, Broken };
+    std::optional<QString> fallBack(const QString &engine, Damage damage) const;
+    /// Removes those that nobody uses any more; for the start of a program.
+    void sweep() const;
 
     /// Whether the publisher may be asked, which counts as asked: once in six hours.
     bool takeTurn(const QDateTime &now) const;

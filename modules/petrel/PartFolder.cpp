@@ -9,6 +9,7 @@
 #include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonDocument>
 #include <QSaveFile>
 
 #include <fcntl.h>
@@ -16,6 +17,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 #include <cerrno>
+#include <cstdio>
 
 using namespace Qt::StringLiterals;
 
@@ -31,6 +33,7 @@ constexpr qsizetype nameBytes = 143;
 constexpr qint64 maximumWords = 100'000;
 const QString ownerName = u"owner"_s;
 const QString companionsName = u"companions"_s;
+const QString wholesName = u"wholes"_s;
 
 QString pathOf(const QString &folder, const DownloadPlan &plan, int number)
 {
@@ -100,6 +103,25 @@ void PartFolder::removeLeft(const QString &folder, const DownloadPlan &plan)
     }
 }
 
+void PartFolder::moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to)
+{
+    int error = 0;
+    const QString path = pathOf(folder, plan, 0);
+    if (!QFileInfo(path).isDir())
+        return;
+    if (const int lock = lockOf(path, error); lock >= 0) {
+        std::rename(QFile::encodeName(path).constData(), QFile::encodeName(pathOf(to, plan, 0)).constData());
+        close(lock);
+    }
+    removeLeft(folder, plan);
+}
+
+PartFolder::PartFolder(QString path, int lock) : m_path(std::move(path)), m_lock(lock)
+{
+    if (QFile file(m_path + u'/' + wholesName); file.open(QFile::ReadOnly))
+        m_wholes = QJsonDocument::fromJson(file.read(maximumWords)).object();
+}
+
 PartFolder::~PartFolder()
 {
     close(m_lock);
@@ -145,6 +167,18 @@ void PartFolder::setMissingCompanions(const QString &words)
         file.commit();
 }
 
+bool PartFolder::isPartOf(const QString &name, const QString &whole)
+{
+    QJsonValueRef known = m_wholes[name];
+    if (known.isString())
+        return known.toString() == whole;
+    known = whole;
+    QSaveFile file(m_path + u'/' + wholesName);
+    if (file.open(QFile::WriteOnly) && file.write(QJsonDocument(m_wholes).toJson()) >= 0)
+        file.commit();
+    return true;
+}
+
 QString PartFolder::named(const QString &path, const QString &title) const
 {
     const QString ending = u'.' + QFileInfo(path).suffix();
@@ -159,6 +193,7 @@ QString PartFolder::named(const QString &path, const QString &title) const
 
 void PartFolder::clear()
 {
+    m_wholes = {};
     for (const QFileInfo &file : QDir(m_path).entryInfoList(QDir::Files | QDir::Hidden | QDir::System)) {
         if (file.fileName() != ownerName)
             QFile::remove(file.absoluteFilePath());

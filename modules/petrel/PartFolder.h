@@ -20,6 +20,8 @@ public:
     static Taken take(const QString &folder, const DownloadPlan &plan);
     /// Removes what earlier runs have left for the plan, unless it is in use.
     static void removeLeft(const QString &folder, const DownloadPlan &plan);
+    /// Takes it to another folder; removes it where that is on another disk.
+    static void moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to);
 
     ~PartFolder();
     PartFolder(const PartFolder &) = delete;
@@ -33,6 +35,9 @@ public:
     /// chapters) that could not be added, empty where nothing is missing. Nothing before that.
     std::optional<QString> missingCompanions() const;
     void setMissingCompanions(const QString &words);
+    /// Whether what is there of the engine's `file` is a part of `whole`, in whatever words tell wholes apart; true,
+    /// and kept for the next time, where nothing was known of it.
+    bool isPartOf(const QString &file, const QString &whole);
     /// The same file under a name of its own within the folder, for tools that make their output's name of it.
     QString named(const QString &path, const QString &title) const;
     /// Removes what was downloaded, to begin anew.
@@ -40,10 +45,11 @@ public:
     void remove();  ///< the folder and all in it
 
 private:
-    PartFolder(QString path, int lock) : m_path(std::move(path)), m_lock(lock) {}
+    PartFolder(QString path, int lock);
 
     QString m_path;
     int m_lock;
+    QJsonObject m_wholes;  ///< by file; as on the disk
 };
 
 }  // namespace kestrel

@@ -8,6 +8,7 @@
 #include "modules/common/LateView.h"
 #include "modules/petrel/DownloadList.h"
 #include "modules/petrel/ui/FilmListDialog.h"
+#include "settings/ModuleSettings.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -38,7 +39,7 @@ case "$address" in
     {"ext": "mp4", "vcodec": "h264", "acodec": "aac", "height": 480, "filesize": 1000000}], "filesize": 5000000}' ;;
 *list*) echo '{"_type": "playlist", "title": "All", "entries": [
     {"_type": "url", "url": "https://a.example/1", "title": "One", "duration": 5},
-    {"_type": "url", "url": "https://a.example/2", "title": "Two"}]}' ;;
+    {"_type": "url", "url": "https://a.example/film2", "title": "Two"}]}' ;;
 *slow*) sleep 100 ;;
 *) echo "ERROR: [site] x: Sign in to confirm your age" >&2; exit 1 ;;
 esac
@@ -99,6 +100,8 @@ TEST_F(PetrelControllerTest, WhatIsFoundStandsInTheRowAndFollowsTheChoices)
     auto *formats = find<QComboBox>(u"formatComboBox"_s);
     formats->setCurrentIndex(formats->findData(u"mp3"_s));
     EXPECT_EQ(recordAt(0).folder, settings.dispatcher().getMusicDir());
+    resolutions->setCurrentIndex(0);
+    EXPECT_EQ(DownloadPlan::fromJson(recordAt(0).plan)->extension, u"mp3");
     EXPECT_EQ(filmFacts(recordAt(0)).subtitles, QStringList{u"de"_s});
 }
 
@@ -115,16 +118,34 @@ TEST_F(PetrelControllerTest, AListIsChosenFrom)
     tree->topLevelItem(0)->setCheckState(0, Qt::Unchecked);
     dialog->accept();
     ASSERT_EQ(queue().order(petrel).size(), 1);
-    EXPECT_EQ(recordAt(0).source, u"https://a.example/2");
+    EXPECT_EQ(recordAt(0).source, u"https://a.example/film2");
     EXPECT_EQ(recordAt(0).title, u"Two");
+    EXPECT_TRUE(waitUntil([&] { return !filmFacts(recordAt(0)).resolutions.isEmpty(); }, 30'000));
 }
 
-TEST_F(PetrelControllerTest, OneThatIsBeingLookedAtMakesRoomWhereItIsRemoved)
+TEST_F(PetrelControllerTest, OneThatIsBeingLookedAtMakesRoomWhereItIsNot)
 {
-    paste(u"https://a.example/slow1 https://a.example/slow2 https://a.example/film"_s);
-    ASSERT_EQ(recordAt(2).state, JobState::Checking);
+    paste(u"https://a.example/slow1 https://a.example/slow2 https://a.example/film https://a.example/film3"_s);
+    ASSERT_EQ(recordAt(3).state, JobState::Checking);
     queue().remove({idAt(0)});
-    EXPECT_TRUE(isIn(1, JobState::Ready));
+    EXPECT_TRUE(isIn(1, JobState::Ready) && isIn(2, JobState::Ready));
+    emit find<JobListView>(u"jobList"_s)->stopLookingRequested({idAt(0)});
+    EXPECT_EQ(recordAt(0).state, JobState::Ready);
+    emit find<JobListView>(u"jobList"_s)->lookAgainRequested({idAt(0)});
+    EXPECT_EQ(recordAt(0).state, JobState::Checking);
+}
+
+TEST_F(PetrelControllerTest, OneThatBeginsFollowsTheSettingsOfThatTime)
+{
+    paste(u"https://a.example/film"_s);
+    ASSERT_TRUE(isIn(0, JobState::Ready));
+    QDir().mkpath(settings.path(u"elsewhere"_s));
+    settings.dispatcher().setVideoDir(settings.path(u"elsewhere"_s));
+    settings.setting().downloader()->setProxyEnabled(true);
+    settings.setting().downloader()->setProxyURL(u"p.example"_s);
+    queue().start({idAt(0)});
+    EXPECT_EQ(recordAt(0).folder, settings.path(u"elsewhere"_s));
+    EXPECT_EQ(DownloadPlan::fromJson(recordAt(0).plan)->proxy, u"http://p.example");
 }
 
 }  // namespace

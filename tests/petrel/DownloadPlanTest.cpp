@@ -25,6 +25,8 @@ TEST(DownloadPlanTest, AddressesAsPeoplePasteThem)
         {"ftp://a.example/x", ""},
         {"--exec", ""},
         {"hello", ""},
+        {"e.g.", ""},
+        {"holiday.mkv", ""},
         {"https://a.example/x y", ""},
         {"https://a.example/\x01", ""},
         {"", ""},
@@ -34,6 +36,7 @@ TEST(DownloadPlanTest, AddressesAsPeoplePasteThem)
     const QStringList both{u"https://a.example/1"_s, u"https://b.example/"_s};
     EXPECT_EQ(addressesIn(u"Look: https://a.example/1\n\thttps://b.example/ https://a.example/1 and file:///x"_s),
               both);
+    EXPECT_EQ(textOfFile(QByteArray("h\0t\0t\0p\0", 8)), u"http");
 }
 
 TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
@@ -45,6 +48,7 @@ TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
                             .subtitles = {u"en"_s},
                             .proxy = u"socks5://p.example:1"_s,
                             .bytesPerSecond = 5000,
+                            .hasOwnProxy = true,
                             .title = u"Title"_s,
                             .seconds = 1.5,
                             .bytes = 12,
@@ -104,8 +108,13 @@ TEST(PartFolderTest, IsFoundAgainByThePlanAndNobodyElseHasItMeanwhile)
         (*again)->setMissingCompanions(u"no cover"_s);
         EXPECT_EQ((*again)->missingCompanions(), u"no cover"_s);
     }
-    PartFolder::removeLeft(folder.path(), plan);
+    const QString elsewhere = folder.filePath(u"elsewhere"_s);
+    QDir().mkdir(elsewhere);
+    PartFolder::moveLeft(folder.path(), plan, elsewhere);
     EXPECT_FALSE(QFile::exists(path));
+    EXPECT_EQ((*PartFolder::take(elsewhere, plan))->missingCompanions(), u"no cover"_s);
+    PartFolder::removeLeft(elsewhere, plan);
+    EXPECT_TRUE(QDir(elsewhere).isEmpty(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot));
     EXPECT_FALSE(PartFolder::take(folder.path() + u"/none"_s, plan));
 }
 

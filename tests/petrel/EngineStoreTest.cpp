@@ -14,6 +14,8 @@ namespace kestrel {
 namespace {
 
 const QByteArray key = QByteArray(32, 'k').toBase64();
+using enum EngineStore::Damage;
+
 const QByteArray engineBytes = "#!/bin/sh\necho 2024.1.2\n";
 
 /// Good where the signature is made of the length of the message.
@@ -104,26 +106,31 @@ protected:
 TEST_F(EngineStoreTest, ANewOneIsOnTrialAndGoesBackByItself)
 {
     EXPECT_EQ(store.engine(), bundled());
-    EXPECT_FALSE(store.fallBack());
+    EXPECT_FALSE(store.fallBack(bundled(), OneAddress));
     const QString first = install("2024.1.2");
     EXPECT_EQ(store.engine(), first);
     EXPECT_TRUE(QFileInfo(first).isExecutable());
-    store.prove();
-    EXPECT_FALSE(store.fallBack());
+    store.prove(bundled());  // by a job that began before
+    EXPECT_TRUE(store.isOnTrial());
+    EXPECT_EQ(store.fallBack(bundled(), OneAddress), first);
+    store.prove(first);
+    EXPECT_FALSE(store.fallBack(first, OneAddress));
 
-    const QString second = install("2024.2.1");
+    install("2024.2.1");
     const QString third = install("2024.3.1");  // before the second ever worked
     EXPECT_EQ(store.engine(), third);
-    EXPECT_TRUE(QFile::exists(first));
-    EXPECT_EQ(store.fallBack(), first);
-    EXPECT_FALSE(QFile::exists(third));
+    // An address that neither can is the fault of neither; a success tells where it was of the same.
+    EXPECT_EQ(store.fallBack(third, OneAddress), first);
+    EXPECT_FALSE(store.fallBack(first, OneAddress));
+    EXPECT_EQ(store.fallBack(third, Broken), first);
+    EXPECT_FALSE(store.fallBack(first, OneAddress));
+    store.prove(first);
+    EXPECT_FALSE(store.isRuledOut(u"2024.3.1"_s));
+    store.prove(first, third);
     EXPECT_TRUE(store.isRuledOut(u"2024.3.1"_s));
+    EXPECT_FALSE(QFile::exists(third));
     EXPECT_EQ(store.engine(), first);
-
-    install("2024.4.1");
-    store.prove();
-    EXPECT_FALSE(QFile::exists(first));
-    EXPECT_FALSE(QFile::exists(second));
+    EXPECT_EQ(store.fallBack(first, Broken), bundled());
 }
 
 TEST_F(EngineStoreTest, WhatIsNotWholeOrIsGoneIsNotUsed)

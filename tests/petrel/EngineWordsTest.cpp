@@ -68,7 +68,8 @@ TEST(EngineFailureTest, AServerTellsHowLongItWantsToBeLeftAlone)
         {"header: Retry-After: 2", 2},
         {"header: retry-after: 5\nheader: Retry-After: 70 \nnull", 70},
         {"header: Retry-After: 99999999999", 3600},
-        {"header: Retry-After: Sat, 21 Nov 2026 22:24:42 GMT", 0},
+        {"header: Retry-After: Sat, 22 Nov 2014 22:24:42 GMT", 0},
+        {"header: Retry-After: Sat, 21 Nov 2099 22:24:42 GMT", 3600},
         {"header: Server: x", 0},
     };
     for (const auto &[output, seconds] : cases)
@@ -136,9 +137,9 @@ TEST(EngineAnswerTest, NonsenseIsRefusedOrReadsAsAbsent)
 
 QByteArray report(const char *file, int done, int total, const char *status = "downloading")
 {
-    return QByteArray(progressMark) + R"({"filename": ")" + file + R"(", "downloaded_bytes": )" +
+    return QByteArray(progressMark) + R"(["22", {"filename": ")" + file + R"(", "downloaded_bytes": )" +
            QByteArray::number(done) + R"(, "total_bytes": )" + QByteArray::number(total) + R"(, "status": ")" + status +
-           R"(", "speed": 5.5})";
+           R"(", "speed": 5.5}])";
 }
 
 TEST(EngineProgressTest, TwoFilesAreOneBarThatOnlyGrows)
@@ -146,6 +147,7 @@ TEST(EngineProgressTest, TwoFilesAreOneBarThatOnlyGrows)
     EngineProgress progress(0, true);
     EXPECT_TRUE(progress.readLine(report("media.f1.mp4", 50, 100)));
     EXPECT_EQ(progress.resumedAt(), 50);
+    EXPECT_EQ(progress.whole(), u"22 0 100"_s);
     EXPECT_DOUBLE_EQ(*progress.progress().fraction, 0.25);
     EXPECT_DOUBLE_EQ(progress.progress().bytesPerSecond, 5.5);
     progress.readLine(report("media.f1.mp4", 100, 100, "finished"));

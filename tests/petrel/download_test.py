@@ -7,6 +7,7 @@ import json
 import os
 import shutil
 import signal
+import socket
 import subprocess
 import sys
 import tempfile
@@ -129,6 +130,23 @@ class DownloadTest(unittest.TestCase):
         self.assert_film(result["outputs"][0])
         self.assert_no_parts()
 
+    def test_what_was_replaced_meanwhile_is_begun_anew(self):
+        address = self.server.address("slow/other.mp4")
+        other = os.path.join(self.films.name, "other.mp4")
+        shutil.copy(os.path.join(self.films.name, "film.mp4"), other)
+        process = self.start(address)
+        self.wait_for_bytes(200_000)
+        process.kill()
+        process.communicate()
+        self.wait_until(lambda: not self.engines())
+        with open(other, "ab") as file:
+            file.write(b"\0\0\0\x10free12345678")
+        self.server.slow_rate = None
+        status, (result,) = self.download(address)
+        self.assertEqual((status, result["state"]), (0, "done"), self.errors)
+        self.assertEqual(os.path.getsize(result["outputs"][0]), os.path.getsize(other))
+        self.assertEqual(result["resumed_bytes"], 0)
+
     def test_interrupted_keeps_what_has_come(self):
         process = self.start(self.server.address("slow/film.mp4"))
         self.wait_for_bytes(100_000)
@@ -174,6 +192,14 @@ class DownloadTest(unittest.TestCase):
         self.assertEqual((status, result["state"]), (1, "failed"))
         self.assertRegex(result["problems"][0], "proxy")
         self.assertEqual(self.server.requests, [])
+
+    def test_nobody_leads_to_another_kind_of_server(self):
+        with socket.create_server(("127.0.0.1", 0)) as other:
+            self.server.ftp = f"ftp://127.0.0.1:{other.getsockname()[1]}/film.mp4"
+            for proxy in ([], ["--proxy", self.server.address("")]):
+                self.assertEqual(self.download(*proxy, self.server.address("ftp/film.mp4"))[0], 1)
+            other.setblocking(False)
+            self.assertRaises(BlockingIOError, other.accept)
 
     def test_list_and_two_of_one_name(self):
         self.server.title = "../Odd: *name*? %(title)s \u202e \u30c6\u30b9\u30c8 &lt;b&gt;"

@@ -155,6 +155,12 @@ class EngineTest(unittest.TestCase):
         self.assertEqual((answer["version"], answer["on_trial"]), ("2099.1.1", False))
         self.assertEqual(self.update()["state"], "up-to-date")  # and it is not taken again
 
+        # One that has worked and does so no more gives way to the bundle's own.
+        with open(answer["path"], "w") as file:
+            file.write(self.wrapper("2099.1.1", broken=True))
+        status, events = self.run_cli("download", "--to", out, server.address("redirect/film.mp4"))
+        self.assertEqual((status, self.run_cli("engine")[1][0]["version"]), (0, ""), events)
+
 
 if __name__ == "__main__":
     unittest.main(verbosity=2)

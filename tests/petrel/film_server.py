@@ -36,7 +36,8 @@ class Handler(BaseHTTPRequestHandler):
         self.do_GET()
 
     def do_GET(self):
-        way, _, name = self.path.partition("?")[0].lstrip("/").partition("/")
+        place = re.sub(r"^\w+://[^/]*", "", self.path.partition("?")[0])  # as a proxy is asked
+        way, _, name = place.lstrip("/").partition("/")
         with self.server.lock:
             self.server.requests.append((self.command, self.path, self.headers.get("Range")))
             self.server.asked.append((time.monotonic(), self.path))
@@ -70,6 +71,9 @@ class Handler(BaseHTTPRequestHandler):
 
     def way_redirect(self, name):
         self.answer(302, headers={"Location": "/plain/" + name})
+
+    def way_ftp(self, name):
+        self.answer(302, headers={"Location": self.server.ftp})
 
     def way_forbidden(self, name):
         self.answer(403)

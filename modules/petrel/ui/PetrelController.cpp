@@ -1,6 +1,5 @@
 #include "PetrelController.h"
 
-#include "FilmListDialog.h"
 #include "SitePictures.h"
 
 #include "foundation/Bundle.h"
@@ -16,15 +15,12 @@
 #include "modules/petrel/Download.h"
 #include "modules/petrel/DownloadList.h"
 #include "modules/petrel/EngineFailure.h"
-#include "modules/petrel/PartFolder.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/TabOrder.h"
 
 #include <QComboBox>
-#include <QDir>
-#include <QFile>
 #include <QHBoxLayout>
 #include <QLineEdit>
 #include <QLocale>
@@ -55,7 +51,6 @@ constexpr std::initializer_list<JobState> startable = {JobState::Ready, JobState
 
 constexpr int offeredHeights[] = {240, 360, 480, 720, 1080, 1440, 2160};
 constexpr qint64 offeredLimits[] = {100'000, 500'000, 1'000'000, 5'000'000, 10'000'000};
-constexpr qint64 maximumTextFile = 4 * 1024 * 1024;
 
 QString sizeText(qint64 bytes)
 {
@@ -93,6 +88,7 @@ std::unique_ptr<QWidget> PetrelController::makeContents()
     queue().setRecipe(petrelJobs.toString(), &m_recipe);
     const QString answers = downloadDataFolder() + "/answers"_L1;
     AnswerStore(answers).sweep();
+    engineStore().sweep();
     m_analysis = std::make_unique<Analysis>([this] { return engineTools(*m_settings); }, answers);
     m_list = std::make_unique<DownloadList>(queue());
     m_pictures = std::make_unique<SitePictures>(JobRowDelegate::pictureSize);
@@ -154,11 +150,8 @@ void PetrelController::addChoices()
     addRow(*m_limits, "No speed limit"_key.localized(), 0);
     for (const qint64 limit : offeredLimits)
         addRow(*m_limits, tarnwell::Sentence("%1/s"_key, {sizeText(limit)}).localized(), limit);
-    const DownloadPlan usual = downloadPlan(*m_settings, {});
-    m_formats->setCurrentIndex(m_formats->findData(usual.extension));
-    m_resolutions->setCurrentIndex(std::max(0, m_resolutions->findData(usual.height)));
     for (QComboBox *box : {m_formats.data(), m_resolutions.data(), m_limits.data()}) {
-        connect(box, &QComboBox::currentIndexChanged, this, &PetrelController::applyChoices);
+        connect(box, &QComboBox::currentIndexChanged, this, [this, box] { applyChoice(box); });
         m_page->addChoice(box);
     }
     auto *folder = new OutputFolderLine;
@@ -169,12 +162,23 @@ void PetrelController::addChoices()
 void PetrelController::connectPage()
 {
     connect(m_analysis.get(), &Analysis::answered, this, &PetrelController::answered);
+    connect(m_analysis.get(), &Analysis::waits, this, [this](JobId id, EngineFailure::Kind kind, int seconds) {
+        if (!m_asked.contains(id))
+            return;
+        queue().change(id, [&](JobRecord &record) {
+            record.blocked = seconds > 0 ? waitingSentence(kind, seconds) : tarnwell::Sentence();
+        });
+    });
     connect(m_page, &JobPage::backClicked, this, &PetrelController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PetrelController::download);
     connect(m_page, &JobPage::pathsDropped, this, &PetrelController::takeFiles);
     connect(m_page, &JobPage::textDropped, this, &PetrelController::takeText);
     connect(m_page->list(), &JobListView::menuRequested, this, &PetrelController::extendMenu);
     connect(m_page->list(), &JobListView::detailsOpened, this, &PetrelController::offerHelp);
+    connect(m_page->list(), &JobListView::lookAgainRequested, this, &PetrelController::lookAgain);
+    connect(m_page->list(), &JobListView::stopLookingRequested, this, &PetrelController::stopLooking);
+    connect(m_page, &JobPage::cancelClicked, this, [this] { stopLooking(m_asked.values()); });
+    connect(&queue(), &JobQueue::changed, this, &PetrelController::prepare);
     connect(&queue(), &JobQueue::changed, this, &PetrelController::showState);
     connect(&queue(), &JobQueue::ended, this, &PetrelController::followSettings);
     connect(&queue(), &JobQueue::removed, this, [this] {
@@ -267,185 +271,6 @@ QVariant PetrelController::pictureOf(const JobRecord &record) const
     return picture.isNull() ? QVariant() : picture;
 }
 
-void PetrelController::takeText(const QString &text)
-{
-    const QStringList addresses = addressesIn(text);
-    add(addresses);
-    if (!addresses.isEmpty())
-        m_address->clear();
-    else if (!text.trimmed().isEmpty())
-        m_page->showMessage("This is no address that can be downloaded from."_key.localized());
-}
-
-/// Text files of addresses.
-void PetrelController::takeFiles(const QStringList &paths)
-{
-    for (const QString &path : paths) {
-        QFile file(path);
-        if (file.size() <= maximumTextFile && file.open(QIODevice::ReadOnly))
-            takeText(QString::fromUtf8(file.readAll()));
-    }
-}
-
-void PetrelController::add(const QStringList &addresses)
-{
-    for (const QString &address : addresses) {
-        DownloadPlan plan = downloadPlan(*m_settings, address);
-        readChoices(plan);
-        JobRecord record = downloadJob(plan, downloadFolder(*m_settings, plan));
-        record.state = JobState::Checking;
-        lookAt(queue().add(record));
-    }
-}
-
-void PetrelController::lookAt(JobId id)
-{
-    if (const auto plan = DownloadPlan::fromJson(queue().record(id)->plan)) {
-        m_asked.insert(id);
-        m_analysis->ask(id, *plan);
-    }
-}
-
-void PetrelController::answered(JobId id, const Analysis::Answer &answer)
-{
-    m_asked.remove(id);
-    if (!queue().record(id))
-        return;
-    if (answer && !answer->entries.isEmpty())
-        return chooseAmong(id, *answer);
-    queue().change(id, [&](JobRecord &record) {
-        record.state = JobState::Ready;
-        if (answer) {
-            setFilm(record, *answer);
-        } else if (!passesByItself(answer.reason().kind) && !mayBeTheEngine(answer.reason().kind)) {
-            record.state = JobState::Unusable;
-            record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
-        }
-    });
-}
-
-void PetrelController::chooseAmong(JobId id, const EngineAnswer &answer)
-{
-    const auto asked = DownloadPlan::fromJson(queue().record(id)->plan);
-    auto *dialog =
-        new FilmListDialog(answer, asked && asked->proxy.isEmpty() ? m_pictures.get() : nullptr, m_page->window());
-    dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &QDialog::finished, this, [this, dialog, id, answer](int result) {
-        const JobRecord *record = queue().record(id);
-        const auto plan = record ? DownloadPlan::fromJson(record->plan) : std::nullopt;
-        if (result == QDialog::Accepted && plan) {
-            for (const JobRecord &job : downloadJobs(*plan, answer, record->folder, dialog->chosenItems()))
-                queue().add(job);
-        }
-        queue().remove({id});
-    });
-    dialog->open();
-}
-
-void PetrelController::readChoices(DownloadPlan &plan) const
-{
-    plan.extension = m_formats->currentData().toString();
-    plan.soundOnly = soundFormats().contains(plan.extension);
-    plan.height = m_resolutions->currentData().toInt();
-    plan.bytesPerSecond = m_limits->currentData().toLongLong();
-}
-
-/// For what was chosen in the list, else for everything that is still to be downloaded.
-void PetrelController::applyChoices()
-{
-    QList<JobId> ids = m_page->list()->selectedIds();
-    if (ids.isEmpty())
-        ids = queue().idsIn({JobState::Checking, JobState::Ready}, petrelJobs.toString());
-    changePlans(ids, [this](DownloadPlan &plan) { readChoices(plan); });
-}
-
-void PetrelController::changePlans(const QList<JobId> &ids, const std::function<void(DownloadPlan &)> &edit)
-{
-    for (const JobId id : ids) {
-        const JobState state = queue().record(id)->state;
-        if (isActive(state) || state == JobState::Waiting || state == JobState::Unusable)
-            continue;
-        queue().change(id, [&](JobRecord &record) {
-            auto plan = DownloadPlan::fromJson(record.plan);
-            if (!plan)
-                return;
-            edit(*plan);
-            setDownloadPlan(record, *plan);
-            record.folder = downloadFolder(*m_settings, *plan);
-            if (record.state != JobState::Checking)
-                record.state = JobState::Ready;
-        });
-    }
-}
-
-void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
-{
-    const JobRecord *record = queue().record(ids.first());
-    const FilmFacts facts = filmFacts(*record);
-    menu->addSeparator();
-    if (!facts.resolutions.isEmpty()) {
-        QMenu *resolutions = menu->addMenu("Resolution"_key.localized());
-        for (const auto &[height, bytes] : facts.resolutions) {
-            const QString size = bytes > 0 ? u"  ·  "_s + sizeText(bytes) : QString();
-            resolutions->addAction(u"%1p"_s.arg(height) + size, this, [this, ids, lines = height] {
-                changePlans(ids, [lines](DownloadPlan &plan) { plan.height = lines; });
-            });
-        }
-    }
-    if (!facts.subtitles.isEmpty()) {
-        QMenu *subtitles = menu->addMenu("Subtitles"_key.localized());
-        const auto plan = DownloadPlan::fromJson(record->plan);
-        for (const QString &language : facts.subtitles) {
-            QAction *action = subtitles->addAction(QString(language).replace(u'&', u"&&"_s));
-            action->setCheckable(true);
-            action->setChecked(plan && plan->subtitles.contains(language));
-            connect(action, &QAction::toggled, this, [this, ids, language](bool isWanted) {
-                changePlans(ids, [&](DownloadPlan &changed) {
-                    changed.subtitles.removeAll(language);
-                    if (isWanted)
-                        changed.subtitles.append(language);
-                });
-            });
-        }
-    }
-    menu->addAction("Allow Many From One Server"_key.localized(), this,
-                    [this, ids] { changePlans(ids, [](DownloadPlan &plan) { plan.manyFromServer = true; }); });
-    menu->addAction("Update Download Engine"_key.localized(), this, &PetrelController::updateEngine);
-    menu->addAction("Remove With Partial File"_key.localized(), this, [this, ids] { removeWithParts(ids); });
-}
-
-/// What may mend the failure of a job.
-void PetrelController::offerHelp(JobDetails *details, JobId id)
-{
-    using Kind = EngineFailure::Kind;
-    const auto isOf = [&](Kind kind) { return queue().record(id)->outcome.sentence == engineFailureOf(kind).sentence; };
-    if (isOf(Kind::EngineOld) || isOf(Kind::Unknown) || isOf(Kind::UnknownSite))
-        details->offer("Update Download Engine"_key.localized(), [this] { updateEngine(); });
-}
-
-/// Those that run keep their parts until they have ended, so they end first.
-void PetrelController::removeWithParts(const QList<JobId> &ids)
-{
-    QList<std::pair<QString, DownloadPlan>> parts;
-    for (const JobId id : ids) {
-        const JobRecord *record = queue().record(id);
-        if (const auto plan = record ? DownloadPlan::fromJson(record->plan) : std::nullopt)
-            parts.append({record->folder, *plan});
-    }
-    queue().remove(ids);
-    // What ran ends within 100 ms and goes then.
-    const auto removed = std::make_shared<QMetaObject::Connection>();
-    const auto sweep = [this, ids, parts, removed] {
-        if (std::any_of(ids.begin(), ids.end(), [this](JobId id) { return queue().record(id); }))
-            return;
-        for (const auto &[folder, plan] : parts)
-            PartFolder::removeLeft(folder, plan);
-        disconnect(*removed);
-    };
-    *removed = connect(&queue(), &JobQueue::removed, this, sweep);
-    sweep();
-}
-
 void PetrelController::download()
 {
     followSettings();
@@ -467,6 +292,13 @@ void PetrelController::followSettings()
         m_atOnce = atOnce;
         queue().setLaneLimit(Lane::Net, atOnce);
     }
+    const DownloadPlan usual = downloadPlan(*m_settings, {});
+    const QSignalBlocker noFormat(m_formats), noResolution(m_resolutions);  // rows stay as they are
+    if (usual.extension != m_usual.extension)
+        m_formats->setCurrentIndex(m_formats->findData(usual.extension));
+    if (usual.height != m_usual.height)
+        m_resolutions->setCurrentIndex(std::max(0, m_resolutions->findData(usual.height)));
+    m_usual = usual;
 }
 
 /// Thousands may change in one go.
@@ -478,8 +310,10 @@ void PetrelController::showState()
         if (!self)
             return;
         self->m_isToShow = false;
-        if (self->m_page)
-            self->m_page->setStartEnabled(!self->queue().idsIn(startable, petrelJobs.toString()).isEmpty());
+        if (!self->m_page)
+            return;
+        self->followSettings();
+        self->m_page->setStartEnabled(!self->queue().idsIn(startable, petrelJobs.toString()).isEmpty());
     });
 }
 

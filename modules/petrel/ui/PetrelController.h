@@ -41,6 +41,8 @@ public:
     void checkCoreUpdateInBackground() override;
 
 private:
+    using PlanEdit = std::function<void(DownloadPlan &)>;
+
     std::unique_ptr<QWidget> makeContents();
     QWidget *makeAddressLine();
     void addChoices();
@@ -55,11 +57,15 @@ private:
     void takeFiles(const QStringList &paths);
     void add(const QStringList &addresses);
     void lookAt(JobId id);
+    void lookAgain(const QList<JobId> &ids);
+    void stopLooking(const QList<JobId> &ids);
+    void prepare(JobId id);
     void answered(JobId id, const Analysis::Answer &answer);
     void chooseAmong(JobId id, const EngineAnswer &answer);
-    void readChoices(DownloadPlan &plan) const;
-    void applyChoices();
-    void changePlans(const QList<JobId> &ids, const std::function<void(DownloadPlan &)> &edit);
+    void readChoice(const QComboBox *box, DownloadPlan &plan) const;
+    void applyChoice(const QComboBox *box);
+    PlanEdit followProxy() const;
+    void changePlans(const QList<JobId> &ids, const PlanEdit &edit);
     void extendMenu(QMenu *menu, const QList<JobId> &ids);
     void offerHelp(JobDetails *details, JobId id);
     void removeWithParts(const QList<JobId> &ids);
@@ -75,6 +81,7 @@ private:
     std::unique_ptr<EngineUpdate> m_update;
     QSet<JobId> m_asked;
     int m_atOnce = 0;
+    DownloadPlan m_usual;  ///< of the settings, as the boxes have taken it over
     // From the making of the view's contents on
     std::unique_ptr<Analysis> m_analysis;
     std::unique_ptr<DownloadList> m_list;
