@@ -144,6 +144,7 @@ FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
         if (chosen.contains(place)) {
             subtitles.places.append(place);
             subtitles.indexPlaces.append(indexPlace);
+            subtitles.counts.append(counts[place]);
         }
         ++indexPlace;
     }
@@ -210,8 +211,8 @@ OutputExpectation expectedFile(const FilmPlan &film, const FilmSubtitles &subtit
         expected.tracks.append({stream.kind, stream.codec});
     for (const FilmStream &stream : film.sound)
         expected.tracks.append({stream.kind, codecFor(stream) == "copy"_L1 ? stream.codec : codecFor(stream)});
-    for (qsizetype index = 0; index < subtitles.places.size(); ++index)
-        expected.tracks.append({MediaTrack::Kind::Subtitle, u"dvd_subtitle"_s});
+    for (const int count : subtitles.counts)
+        expected.tracks.append({MediaTrack::Kind::Subtitle, u"dvd_subtitle"_s, count});
     expected.seconds = seconds;
     expected.chapters = chapters;
     return expected;

@@ -51,6 +51,7 @@ struct FilmPaths {
 struct FilmSubtitles {
     QList<int> places;
     QList<int> indexPlaces;
+    QList<int> counts;  ///< how many pictures each of them has
 };
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts);
 

@@ -101,6 +101,8 @@ void TitleJob::compare(const QString &path, const OutputExpectation &expected, c
                     {secondsText(findings.seconds), secondsText(*expected.seconds)}});
     if (findings.lacksChapters)
         addProblem("Chapters are missing in the finished file."_key);
+    if (findings.lacksSubtitles)
+        addProblem("Subtitles are missing in the finished file."_key);
     setFact(u"seconds"_s, findings.seconds);
     setFact(u"wantedSeconds"_s, *expected.seconds);
     const double end = std::max(0.0, findings.seconds - 2);
