@@ -32,6 +32,12 @@ QString contentOf(const disc::DiscAudio &track)
                                                        : QString();
 }
 
+/// And its sound.
+QString formatOf(const disc::DiscAudio &track)
+{
+    return track.codec == "lpcm"_L1 ? u"pcm"_s : track.codec;
+}
+
 bool writeText(const QString &path, const QByteArray &text)
 {
     QSaveFile file(path);
@@ -64,15 +70,24 @@ QByteArray authorFile(const DiscPlan &plan, const disc::DiscTitle &title, const 
         xml.writeAttribute(u"widescreen"_s, u"nopanscan"_s);
     for (const disc::DiscAudio &track : title.audio) {
         xml.writeEmptyElement(u"audio"_s);
+        xml.writeAttribute(u"format"_s, formatOf(track));
         if (!track.language.isEmpty())
             xml.writeAttribute(u"lang"_s, track.language);
         if (const QString content = contentOf(track); !content.isEmpty())
             xml.writeAttribute(u"content"_s, content);
     }
-    for (const disc::DiscSubtitle &track : title.subtitles) {
-        xml.writeEmptyElement(u"subpicture"_s);
-        if (!track.language.isEmpty())
-            xml.writeAttribute(u"lang"_s, track.language);
+    for (qsizetype index = 0; index < title.subtitles.size(); ++index) {
+        xml.writeStartElement(u"subpicture"_s);
+        if (const QString language = title.subtitles[index].language; !language.isEmpty())
+            xml.writeAttribute(u"lang"_s, language);
+        const QStringList modes =
+            title.aspect == "16:9"_L1 ? QStringList{u"widescreen"_s, u"letterbox"_s} : QStringList{u"normal"_s};
+        for (const QString &mode : modes) {
+            xml.writeEmptyElement(u"stream"_s);
+            xml.writeAttribute(u"id"_s, QString::number(index));
+            xml.writeAttribute(u"mode"_s, mode);
+        }
+        xml.writeEndElement();
     }
     xml.writeStartElement(u"pgc"_s);
     if (!title.subtitles.isEmpty())
@@ -87,24 +102,50 @@ QByteArray authorFile(const DiscPlan &plan, const disc::DiscTitle &title, const 
     return text;
 }
 
+QString trackNumbers(const disc::DiscTitle &title)
+{
+    QStringList numbers;
+    const auto add = [&](int from, int to) { numbers.append(u"%1=%2"_s.arg(from).arg(to)); };
+    for (qsizetype index = 0; index < title.audio.size(); ++index)
+        add(title.audio[index].streamId, (title.audio[index].streamId & ~7) + int(index));
+    for (qsizetype index = 0; index < title.subtitles.size(); ++index)
+        add(title.subtitles[index].streamId, 0x20 + int(index));
+    return numbers.join(u',');
+}
+
 void MainTitleJob::carryOut()
 {
     if (request().tools.author.isEmpty())
         return fail("The program dvdauthor is missing. Please install it."_key);
+    lookAtFilm([this](const QList<FilmStream> &streams) {
+        const FilmPlan film = planFilm(request().plan, title(), streams, true);
+        for (const tarnwell::Sentence &leftOut : film.leftOut)
+            addLeftOut(leftOut);
+        disc::DiscTitle wanted = title();
+        wanted.audio = film.soundFacts;
+        wanted.subtitles.clear();
+        for (const int place : chosenSubtitles(request().plan, title()))
+            wanted.subtitles.append(title().subtitles[place]);
+        author(wanted);
+    });
+}
+
+void MainTitleJob::author(const disc::DiscTitle &wanted)
+{
     m_output = std::make_shared<OutputFile>(request().folder, outputName(), QString(), OutputFile::Kind::Folder);
     m_workFolder = std::make_unique<OutputFile>(request().folder, outputName(), QString(), OutputFile::Kind::Folder);
     if (!m_output->isValid() || !m_workFolder->isValid())
         return fail(m_output->isValid() ? m_workFolder->reason() : m_output->reason());
     const QString plan = m_workFolder->partPath() + u"/disc.xml"_s,
                   palette = m_workFolder->partPath() + u"/colors.rgb"_s;
-    if (!writeText(plan, authorFile(request().plan, title(), palette)) || !writeText(palette, paletteText(title())))
+    if (!writeText(plan, authorFile(request().plan, wanted, palette)) || !writeText(palette, paletteText(wanted)))
         return fail("The output could not be written."_key);
     tellStage({});
     ToolCommand command{.program = request().tools.author,
                         .arguments = {u"-o"_s, m_output->partPath(), u"-x"_s, plan},
                         .workingFolder = m_workFolder->partPath(),
-                        .feeder = titleReader({u"--navigation"_s})};
-    runDiscTool(command, 0.97, [this](const ToolEnding &ending) {
+                        .feeder = titleReader({u"--navigation"_s, u"--tracks"_s, trackNumbers(wanted)})};
+    runDiscTool(command, 0.95, [this, wanted](const ToolEnding &ending) {
         if (!isGoodStep(ending))
             return;
         const qint64 lost =
@@ -112,13 +153,12 @@ void MainTitleJob::carryOut()
         setFact(u"faults"_s, lost);
         if (lost > 0)
             addProblem({"%1 sectors of the film could not be read."_key, {QString::number(lost)}});
-        disc::DiscTitle wanted = title();
-        wanted.number = 1;
-        wanted.isMain = true;
-        wanted.seconds = chosenSeconds(request().plan, title());
-        wanted.chapters = chosenChapters(request().plan, title());
         disc::DiscContents disc;
         disc.titles = {wanted};
+        disc.titles[0].number = 1;
+        disc.titles[0].isMain = true;
+        disc.titles[0].seconds = chosenSeconds(request().plan, title());
+        disc.titles[0].chapters = chosenChapters(request().plan, title());
         checkCopy(m_output->partPath(), disc);
     });
 }

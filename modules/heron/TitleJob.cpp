@@ -24,14 +24,7 @@ QString secondsText(double seconds)
 
 void TitleJob::carryOut()
 {
-    runDiscTool(filmStreamsCommand(request().tools.transcode.prober, titleReader({})), 0.02,
-                [this](const ToolEnding &ending) {
-                    const QList<FilmStream> streams = readFilmStreams(ending.output);
-                    // It ends as soon as it knows enough, and the reader with it.
-                    if (streams.isEmpty())
-                        return fail(discFailure(lines(), ending), ending.lastWords);
-                    makeFile(streams);
-                });
+    lookAtFilm([this](const QList<FilmStream> &streams) { makeFile(streams); });
 }
 
 void TitleJob::runConverter(const QStringList &arguments, double share, double seconds, Continuation then)

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "DiscJob.h"
-#include "FilmStreams.h"
 
 #include "media/OutputCheck.h"
 #include "media/ToolMessages.h"

@@ -131,13 +131,17 @@ bool TitleExport::takeFilm(Sector sector)
         std::any_of(packets.begin(), packets.end(), [](const Packet &packet) { return packet.isScrambled; });
     if (isScrambled && ++m_scrambled >= enoughScrambled)
         return giveUp(DiscError::Protected);
-    if (isSoundOfBefore(packets))
+    const auto isWantedHere = [this](const Packet &packet) { return isWanted(packet); };
+    if (std::none_of(packets.begin(), packets.end(), isWantedHere) || isSoundOfBefore(packets))
         return true;
     moveClocks(sector, m_clock.move());
     packets = packetsOf(sector);
-    for (const Packet &packet : packets)
+    for (Packet &packet : packets) {
         if (m_subtitles && packet.isSubtitle() && !m_subtitles->add(sector, packet))
             return giveUp(DiscError::Write);
+        if (m_wish.streams && !packet.isPicture() && isWanted(packet))
+            setStream(packet, m_wish.streams->at(packet.streamId));
+    }
     return append(sector);
 }
 
@@ -146,6 +150,11 @@ bool TitleExport::append(Sector sector)
     keepPackClockAhead(sector, m_packClock);
     m_buffer.append(reinterpret_cast<const char *>(sector.data()), sectorBytes);
     return m_buffer.size() < bufferBytes || flush();
+}
+
+bool TitleExport::isWanted(const Packet &packet) const
+{
+    return packet.isPicture() || !m_wish.streams || m_wish.streams->contains(packet.streamId);
 }
 
 // Where two pieces meet, the sound of the first may reach into the second: what would be played at the same time, or

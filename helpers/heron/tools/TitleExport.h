@@ -9,6 +9,7 @@
 
 #include <map>
 #include <memory>
+#include <optional>
 
 namespace kestrel::disc {
 
@@ -21,6 +22,8 @@ struct TitleWish {
     int angle = 1;
     QString subtitlePrefix;        ///< where its subtitles go as files; empty for nowhere
     bool keepsNavigation = false;  ///< whether the disc's own navigation packs stay in the stream
+    /// The streams of sound and subtitles that are wanted, and under which numbers; nothing for all, as they are.
+    std::optional<std::map<int, int>> streams;
 };
 
 /// Writes the program stream of a title's cells in play order, on one clock that goes through.
@@ -37,6 +40,7 @@ private:
     bool take(Sector sector, const TitleCell &cell, bool afterLoss);
     bool takeFilm(Sector sector);
     bool isSoundOfBefore(const Packets &packets);
+    bool isWanted(const Packet &packet) const;
     bool append(Sector sector);
     bool flush();
     bool giveUp(DiscError error);
