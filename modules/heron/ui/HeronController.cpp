@@ -2,6 +2,7 @@
 
 #include "DiscView.h"
 
+#include "foundation/Queues.h"
 #include "jobs/DiskSpace.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobPage.h"
@@ -105,9 +106,13 @@ void HeronController::markAppear()
     m_drives.start();
 }
 
+/// A turn later: the host also says so where it shows this module again at once.
 void HeronController::onViewDidDisappear()
 {
-    m_drives.stop();
+    foundation::queue::asyncMain([self = QPointer(this)] {
+        if (self && self->m_view->isHidden())
+            self->m_drives.stop();
+    });
 }
 
 void HeronController::openFiles(const QStringList &paths)
@@ -143,6 +148,11 @@ void HeronController::openSource(const QString &source)
     if (source.isEmpty())
         return;
     m_source = source;
+    m_openedLabel.clear();
+    for (const DiscDrive &drive : m_drives.drives()) {
+        if (drive.device == source)
+            m_openedLabel = drive.label;
+    }
     m_contents.reset();
     m_pictures.stop();
     m_disc->showReading(QFileInfo(source).fileName());
@@ -195,11 +205,14 @@ void HeronController::showDrives()
         m_contents.reset();
         m_disc->clear();
     }
-    m_driveBox->setCurrentIndex(m_driveBox->findData(m_source));
-    if (m_source.isEmpty() && !drives.isEmpty()) {
-        m_driveBox->setCurrentIndex(0);
-        openSource(drives.first().device);
-    }
+    const auto inDrive = [this](const DiscDrive &drive) { return drive.device == m_source; };
+    auto drive = std::find_if(drives.begin(), drives.end(), inDrive);
+    const bool isChanged = drive != drives.end() && drive->label != m_openedLabel;
+    if (m_source.isEmpty())
+        drive = drives.begin();
+    m_driveBox->setCurrentIndex(drive == drives.end() ? -1 : int(drive - drives.begin()));
+    if (drive != drives.end() && (m_source.isEmpty() || isChanged))
+        openSource(drive->device);
     showChoice();
 }
 

@@ -84,6 +84,7 @@ private:
     DiscDrives m_drives;
     QHash<QString, QPixmap> m_rowPictures;         ///< of the discs that were shown, by source and title
     QString m_source;                              ///< of the disc that is shown; null for none
+    QString m_openedLabel;                         ///< that its drive told of it, if it is in one
     std::optional<disc::DiscContents> m_contents;  ///< once it has answered
     std::unique_ptr<LateView> m_view;
     // From the making of the view's contents on
