@@ -7,9 +7,12 @@
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobPage.h"
 #include "jobs/ui/JobRowDelegate.h"
+#include "media/OwnPresets.h"
 #include "modules/ModuleRow.h"
 #include "modules/common/LateView.h"
 #include "modules/common/MediaPlayer.h"
+#include "modules/common/PresetChooser.h"
+#include "modules/common/PresetDialog.h"
 #include "modules/heron/DiscList.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
@@ -221,10 +224,31 @@ DiscWay HeronController::way() const
     return DiscWay(m_ways->currentData().toInt());
 }
 
+const Preset *HeronController::presetNamed(const QString &id) const
+{
+    const Preset *own = m_ownPresets->presetOfId(id);
+    return own ? own : presetOfId(id);
+}
+
 Preset HeronController::preset() const
 {
-    const Preset *preset = presetOfId(m_presets->currentData().toString());
+    const Preset *preset = presetNamed(m_presetId);
     return preset ? *preset : builtInPresets().first();
+}
+
+void HeronController::choosePreset(const QString &id)
+{
+    m_presetId = id;
+    const Preset chosen = preset();
+    m_presets->showPreset(&chosen);
+    showChoice();
+}
+
+void HeronController::showFormats()
+{
+    auto *dialog = new PresetDialog(*m_ownPresets, draft().transcode, m_page->window());
+    connect(dialog, &PresetDialog::chosen, this, &HeronController::choosePreset);
+    dialog->open();
 }
 
 QList<disc::DiscTitle> HeronController::chosenTitles() const
@@ -279,8 +303,8 @@ void HeronController::showSizes()
         m_ways->setItemText(
             index++, row.way == DiscWay::Rip ? row.name.localized() : named(row.name.localized(), row.way, preset()));
     for (index = 0; index < m_presets->count(); ++index) {
-        if (const Preset *preset = presetOfId(m_presets->itemData(index).toString()))
-            m_presets->setItemText(index, named(preset->name, DiscWay::Rip, *preset));
+        if (const Preset *preset = presetNamed(m_presets->itemData(index).toString()))
+            m_presets->setItemText(index, u"  "_s + named(preset->name, DiscWay::Rip, *preset));
     }
 }
 
@@ -295,16 +319,25 @@ void HeronController::showArea()
     m_optionsButton->setVisible(m_contents.has_value());
 }
 
+/// What is wanted of any title.
+DiscPlan HeronController::draft() const
+{
+    DiscPlan plan;
+    plan.source = m_source;
+    plan.way = way();
+    plan.transcode.preset = preset();
+    applySettings(*m_settings, QThread::idealThreadCount(), plan);
+    if (plan.way == DiscWay::Rip && m_ownPresets->presetOfId(m_presetId))
+        m_ownPresets->apply(m_presetId, plan.transcode);
+    return plan;
+}
+
 QList<DiscPlan> HeronController::plans() const
 {
     QList<DiscPlan> plans;
     const QList<int> numbers = takesWholeDisc(way()) ? QList<int>{0} : m_disc->chosenTitles();
     for (const int number : numbers) {
-        DiscPlan plan;
-        plan.source = m_source;
-        plan.way = way();
-        plan.transcode.preset = preset();
-        applySettings(*m_settings, QThread::idealThreadCount(), plan);
+        DiscPlan plan = draft();
         if (number > 0)
             m_disc->fillIn(number, plan);
         describeDisc(*m_contents, plan);

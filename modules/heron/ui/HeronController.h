@@ -22,6 +22,8 @@ class JobPage;
 class JobQueue;
 class LateView;
 class MediaPlayer;
+class OwnPresets;
+class PresetChooser;
 
 /// The DVD module: a disc, its titles and the way to keep them above the list of jobs. Drives are watched while the
 /// module is open; what is in one that was put in last is shown where no disc is.
@@ -69,8 +71,12 @@ private:
     void playFilm(const DiscPlan &plan, const QStringList &choice, const QString &name);
 
     DiscWay way() const;
+    const Preset *presetNamed(const QString &id) const;
     Preset preset() const;
+    void choosePreset(const QString &id);
+    void showFormats();
     QList<disc::DiscTitle> chosenTitles() const;
+    DiscPlan draft() const;
     QList<DiscPlan> plans() const;
     bool canStart(const QList<DiscPlan> &plans, QString *obstacle) const;
     void begin();
@@ -92,7 +98,10 @@ private:
     QPointer<JobPage> m_page;
     QPointer<DiscView> m_disc;
     QPointer<MediaPlayer> m_player;
-    QPointer<QComboBox> m_driveBox, m_ways, m_presets;
+    QPointer<QComboBox> m_driveBox, m_ways;
+    QPointer<PresetChooser> m_presets;
+    std::shared_ptr<OwnPresets> m_ownPresets;
+    QString m_presetId;  ///< that of a rip; null for the first
     QPointer<QPushButton> m_optionsButton;
 };
 

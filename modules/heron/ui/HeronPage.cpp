@@ -6,9 +6,12 @@
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
+#include "media/OwnPresets.h"
 #include "modules/common/MediaPlayer.h"
 #include "modules/common/OutputFolderLine.h"
+#include "modules/common/PresetChooser.h"
 #include "modules/heron/DiscList.h"
+#include "modules/marlin/Conversion.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/TabOrder.h"
 
@@ -117,12 +120,14 @@ void HeronController::makeChoices()
         m_ways->addItem(row.name.localized(), int(row.way));
     connect(m_ways, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
     m_page->addChoice(m_ways);
-    m_presets = new QComboBox;
+    m_ownPresets = ownPresetsIn(foundation::UserDefaults::standardUserDefaults());
+    m_presets = new PresetChooser(*m_ownPresets);
     m_presets->setObjectName(u"targetComboBox"_s);
-    m_presets->setAccessibleName("Output format"_key.localized());
-    for (const Preset &preset : builtInPresets())
-        m_presets->addItem(preset.name, preset.id);
-    connect(m_presets, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
+    const Preset first = preset();
+    m_presets->showPreset(&first);
+    connect(m_presets, &PresetChooser::chosen, this, &HeronController::choosePreset);
+    connect(m_presets, &PresetChooser::allFormatsWanted, this, &HeronController::showFormats);
+    connect(m_ownPresets.get(), &OwnPresets::changed, this, [this] { choosePreset(preset().id); });
     m_page->addChoice(m_presets);
     auto *folder = new OutputFolderLine;
     folder->setDispatcher(m_settings);
