@@ -1,5 +1,6 @@
 #include "modules/heron/DiscCheck.h"
 #include "modules/heron/DiscPlan.h"
+#include "modules/heron/DiscTexts.h"
 #include "modules/heron/FilmStreams.h"
 
 #include <gtest/gtest.h>
@@ -71,6 +72,28 @@ TEST(DiscPlanTest, ChoosesTracksAndChapters)
     plan.lastChapter = 3;
     EXPECT_EQ(chosenSeconds(plan, film()), 70);
     EXPECT_EQ(chosenChapters(plan, film()), (QList<double>{0, 30}));
+}
+
+TEST(DiscPlanTest, NeedsSpaceForResultsAndTheLargestWork)
+{
+    disc::DiscContents contents;
+    contents.bytes = 9000;
+    contents.titles = {film(), film()};
+    contents.titles[1].number = 3;
+    contents.titles[1].bytes = 2000;
+    const struct {
+        DiscWay way;
+        QList<int> titles;
+        qint64 bytes;
+    } rows[] = {{DiscWay::Image, {0}, 9000}, {DiscWay::Mkv, {2}, 2050}, {DiscWay::Mkv, {2, 3}, 3000 + 2100}};
+    for (const auto &[way, titles, bytes] : rows) {
+        QList<DiscPlan> plans;
+        for (const int title : titles) {
+            plans.append({.way = way, .title = title});
+            describeDisc(contents, plans.last());
+        }
+        EXPECT_EQ(neededBytes(plans, contents), bytes) << titles.size();
+    }
 }
 
 TEST(DiscPlanTest, NamesTheResult)

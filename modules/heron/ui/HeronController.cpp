@@ -27,7 +27,6 @@
 #include <QThread>
 
 #include <algorithm>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -411,10 +410,7 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
         *obstacle = "The disc tools could not be started. Please install the application again."_key.localized();
         return false;
     }
-    const qint64 needed =
-        std::accumulate(plans.begin(), plans.end(), qint64(0),
-                        [](qint64 most, const DiscPlan &plan) { return std::max(most, expectedBytesOf(plan)); }) +
-        resultBytes(way(), preset(), *m_contents, chosenTitles());
+    const qint64 needed = neededBytes(plans, *m_contents);
     const auto space = diskSpaceOf(discFolder(*m_settings, plans.first()));
     if (!space || space->available >= needed)
         return true;
