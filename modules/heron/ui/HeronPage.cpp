@@ -116,8 +116,10 @@ void HeronController::makeChoices()
     m_ways = new QComboBox;
     m_ways->setObjectName(u"wayComboBox"_s);
     m_ways->setAccessibleName("How the disc is kept"_key.localized());
-    for (const DiscWayRow &row : discWayRows())
+    for (const DiscWayRow &row : discWayRows()) {
         m_ways->addItem(row.name.localized(), int(row.way));
+        m_ways->setItemData(m_ways->count() - 1, row.sentence.localized(), Qt::ToolTipRole);
+    }
     connect(m_ways, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
     m_page->addChoice(m_ways);
     m_ownPresets = ownPresetsIn(foundation::UserDefaults::standardUserDefaults());
