@@ -274,9 +274,7 @@ void HeronController::showChoice()
     m_disc->setChoosing(!takesWholeDisc(way()), way() == DiscWay::Rip && preset().takesVideo());
     const QList<disc::DiscTitle> titles = chosenTitles();
     const bool isFolder = QFileInfo(m_source).isDir();
-    const bool canMake =
-        m_contents && (takesWholeDisc(way()) ? !(isFolder && way() == DiscWay::Image) : !titles.isEmpty());
-    m_page->setStartEnabled(canMake);
+    m_canMake = m_contents && (takesWholeDisc(way()) ? !(isFolder && way() == DiscWay::Image) : !titles.isEmpty());
     const auto row = std::find_if(discWayRows().begin(), discWayRows().end(),
                                   [this](const DiscWayRow &candidate) { return candidate.way == way(); });
     QString text = row->sentence.localized();
@@ -316,6 +314,7 @@ void HeronController::showArea()
     m_ways->setEnabled(m_contents.has_value());
     m_presets->setEnabled(m_contents.has_value());
     m_optionsButton->setVisible(m_contents.has_value());
+    m_page->setStartEnabled(m_canMake || !openJobs().isEmpty());
 }
 
 /// What is wanted of any title.
@@ -422,10 +421,19 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
     return false;
 }
 
+/// What the button starts where no disc is in view.
+QList<JobId> HeronController::openJobs()
+{
+    return m_source.isEmpty() ? queue().idsIn({JobState::Ready, JobState::Interrupted}, heronJobs.toString())
+                              : QList<JobId>();
+}
+
 void HeronController::begin()
 {
     const QList<DiscPlan> wanted = m_contents ? plans() : QList<DiscPlan>();
-    if (wanted.isEmpty() || !m_page->startButton()->isEnabled())
+    if (wanted.isEmpty())
+        return queue().start(openJobs());
+    if (!m_page->startButton()->isEnabled())
         return;
     QString obstacle;
     if (canStart(wanted, &obstacle)) {

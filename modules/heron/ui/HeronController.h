@@ -79,6 +79,7 @@ private:
     DiscPlan draft() const;
     QList<DiscPlan> plans() const;
     bool canStart(const QList<DiscPlan> &plans, QString *obstacle) const;
+    QList<JobId> openJobs();
     void begin();
 
     ModuleServices &m_services;
@@ -92,6 +93,7 @@ private:
     QString m_source;                              ///< of the disc that is shown; null for none
     QString m_openedLabel;                         ///< that its drive told of it, if it is in one
     std::optional<disc::DiscContents> m_contents;  ///< once it has answered
+    bool m_canMake = false;                        ///< of the disc what is chosen
     std::unique_ptr<LateView> m_view;
     // From the making of the view's contents on
     std::unique_ptr<DiscList> m_list;

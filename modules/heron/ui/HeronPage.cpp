@@ -72,6 +72,7 @@ std::unique_ptr<QWidget> HeronController::makeContents()
             [](const QString &title) { warn(Sentence("“%1” could not be played."_key, {title}).localized()); });
     connect(m_list.get(), &QAbstractItemModel::rowsInserted, this, &HeronController::showArea);
     connect(m_list.get(), &QAbstractItemModel::rowsRemoved, this, &HeronController::showArea);
+    connect(m_list.get(), &QAbstractItemModel::dataChanged, this, &HeronController::showArea);
     showDrives();
     showArea();
     tarnwell::tabInLayoutOrder(*page);
