@@ -52,6 +52,8 @@ struct FilmSubtitles {
     QList<int> places;
     QList<int> indexPlaces;
     QList<int> counts;  ///< how many pictures each of them has
+    QList<tarnwell::Sentence> leftOut;
+    bool lacksBurned = false;  ///< that which was to be drawn into the picture
 };
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts);
 

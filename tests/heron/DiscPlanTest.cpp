@@ -134,6 +134,9 @@ TEST(FilmStreamsTest, TakesWhatTheFilmHas)
     const FilmSubtitles found = foundSubtitles(plan, film(), counts);
     EXPECT_EQ(found.places, QList<int>{2});
     EXPECT_EQ(found.indexPlaces, QList<int>{1});
+    EXPECT_EQ(found.leftOut.size(), 1) << "the first is announced and never comes";
+    plan.burnedSubtitle = 1;
+    EXPECT_TRUE(foundSubtitles(plan, film(), counts).lacksBurned);
 }
 
 TEST(DiscCheckTest, NoticesWhatACopyLacks)
