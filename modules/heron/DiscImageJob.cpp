@@ -92,8 +92,10 @@ void DiscImageJob::copyIsGood()
 /// The list of what is missing stands beside the image.
 void DiscImageJob::placed(const QString &path)
 {
-    if (m_badSectors > 0)
+    if (m_badSectors > 0) {
+        QFile::remove(path + listSuffix);  // of an image that is gone
         QFile::rename(m_copy + listSuffix, path + listSuffix);
+    }
     removeCopy();
     m_lock.reset();
 }

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The disc tools over authored discs. KESTREL_DISC_TOOLS, KESTREL_DISCS and KESTREL_FAILING_READS say where things are."""
 
+import errno
 import filecmp
 import json
 import os
@@ -131,6 +132,15 @@ class DiscToImage(Case):
             source.seek(4)
             self.assertEqual(copy.read(), source.read())
         self.assertEqual(os.listdir(self.folder), ["copy.iso"])
+
+    def test_a_drive_that_goes_away_is_no_scratch(self):
+        for error in (errno.ENODEV, errno.ENOMEDIUM):
+            code, last = self.copy(FAILING_FIRST=1003, FAILING_LAST=10 ** 6, FAILING_ERROR=error)
+            self.assertEqual((code, last), (3, {"error": "missing"}))
+            with open(self.path("copy.iso.map")) as file:
+                left = json.load(file)
+            self.assertEqual((left["position"], left["untried"], left["bad"]), (1003, [], []))
+        self.assertEqual(self.copy()[1]["result"]["continuedFrom"], 1003 * SECTOR)
 
     def test_leaves_alone_what_is_not_its_own(self):
         with open(self.path("copy.iso"), "w") as file:
