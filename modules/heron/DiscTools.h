@@ -14,6 +14,7 @@ struct DiscTools {
     QString author;                                 ///< dvdauthor
     QString writer;                                 ///< dd
     TranscodeTools transcode;
+    bool keepsCancelledImages = false;  ///< to be gone on with, as those that were broken off
 };
 
 DiscTools discTools(const JKestrelSettingDispatcher &settings, int processors);

@@ -13,6 +13,7 @@
 #include "modules/common/MediaPlayer.h"
 #include "modules/common/PresetChooser.h"
 #include "modules/common/PresetDialog.h"
+#include "modules/heron/DiscImageJob.h"
 #include "modules/heron/DiscList.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
@@ -419,6 +420,21 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
                     {sizeText(needed), sizeText(space->available)})
                     .localized();
     return false;
+}
+
+/// What broken-off copies left goes with the last of their rows.
+void HeronController::removeLeftImages(const QString &module, int row, int count)
+{
+    if (module != heronJobs)
+        return;
+    QSet<QString> removed, kept;
+    const QList<JobId> &order = queue().order(module);
+    for (int index = 0; index < order.size(); ++index)
+        (index >= row && index < row + count ? removed : kept).insert(brokenOffImage(*queue().record(order[index])));
+    for (const QString &path : removed.subtract(kept)) {
+        if (!path.isNull())
+            removeBrokenOffImage(path);
+    }
 }
 
 /// What the button starts where no disc is in view.

@@ -79,6 +79,7 @@ private:
     DiscPlan draft() const;
     QList<DiscPlan> plans() const;
     bool canStart(const QList<DiscPlan> &plans, QString *obstacle) const;
+    void removeLeftImages(const QString &module, int row, int count);
     QList<JobId> openJobs();
     void begin();
 

@@ -73,6 +73,7 @@ std::unique_ptr<QWidget> HeronController::makeContents()
     connect(m_list.get(), &QAbstractItemModel::rowsInserted, this, &HeronController::showArea);
     connect(m_list.get(), &QAbstractItemModel::rowsRemoved, this, &HeronController::showArea);
     connect(m_list.get(), &QAbstractItemModel::dataChanged, this, &HeronController::showArea);
+    connect(&queue(), &JobQueue::aboutToRemove, this, &HeronController::removeLeftImages);
     showDrives();
     showArea();
     tarnwell::tabInLayoutOrder(*page);
