@@ -15,6 +15,9 @@ struct TitleCell {
     bool hasOwnClock = false;    ///< its clock begins anew
     int stillSeconds = 0;        ///< its last picture stands that long; 255 until somebody presses a button
     int angles = 1;              ///< cells that could be played in its place
+
+    /// How long it holds its last picture by itself.
+    int standingSeconds() const { return stillSeconds == 255 ? 0 : stillSeconds; }
 };
 
 /// The order in which a title's film is played.

@@ -5,6 +5,9 @@
 #include <QSaveFile>
 #include <QXmlStreamWriter>
 
+#include <iterator>
+#include <map>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -36,6 +39,43 @@ QString contentOf(const disc::DiscAudio &track)
 QString formatOf(const disc::DiscAudio &track)
 {
     return track.codec == "lpcm"_L1 ? u"pcm"_s : track.codec;
+}
+
+/// Chapters begin cells and pictures that stand still end them; the times are the film's, in which nothing stands.
+void writeCells(const DiscPlan &plan, const disc::DiscTitle &title, QXmlStreamWriter &xml)
+{
+    struct Joint {
+        bool isChapter = false;
+        int pause = 0;  ///< of the cell that ends here
+    };
+    std::map<qint64, Joint> joints;
+    const double begin = title.chapters.value(plan.firstChapter - 1), end = begin + chosenSeconds(plan, title);
+    const auto filmTime = [&](double time) {
+        double film = time - begin;
+        for (const disc::DiscStill &still : title.stills) {
+            if (still.start >= begin && still.start + still.seconds <= time + 0.0005)
+                film -= still.seconds;
+        }
+        return qint64(film * 1000 + 0.5);
+    };
+    joints[0].isChapter = true;
+    for (const double start : chosenChapters(plan, title))
+        joints[filmTime(begin + start)].isChapter = true;
+    for (const disc::DiscStill &still : title.stills) {
+        if (still.start >= begin && still.start < end)
+            joints[filmTime(still.start)].pause = still.seconds;
+    }
+    joints[filmTime(end)];
+    for (auto joint = joints.begin(), next = std::next(joint); next != joints.end(); joint = next++) {
+        xml.writeEmptyElement(u"cell"_s);
+        xml.writeAttribute(u"start"_s, timeOfChapter(double(joint->first) / 1000));
+        if (std::next(next) != joints.end())
+            xml.writeAttribute(u"end"_s, timeOfChapter(double(next->first) / 1000));
+        if (joint->second.isChapter)
+            xml.writeAttribute(u"chapter"_s, u"1"_s);
+        if (next->second.pause > 0)
+            xml.writeAttribute(u"pause"_s, QString::number(next->second.pause));
+    }
 }
 
 bool writeText(const QString &path, const QByteArray &text)
@@ -92,12 +132,9 @@ QByteArray authorFile(const DiscPlan &plan, const disc::DiscTitle &title, const 
     xml.writeStartElement(u"pgc"_s);
     if (!title.subtitles.isEmpty())
         xml.writeAttribute(u"palette"_s, paletteFile);
-    QStringList chapters;
-    for (const double start : chosenChapters(plan, title))
-        chapters.append(timeOfChapter(start));
-    xml.writeEmptyElement(u"vob"_s);
+    xml.writeStartElement(u"vob"_s);
     xml.writeAttribute(u"file"_s, u"-"_s);
-    xml.writeAttribute(u"chapters"_s, chapters.isEmpty() ? u"0"_s : chapters.join(u','));
+    writeCells(plan, title, xml);
     xml.writeEndDocument();
     return text;
 }

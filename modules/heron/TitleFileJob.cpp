@@ -98,7 +98,7 @@ void TitleFileJob::addCompanions()
     QSaveFile file(m_paths.chapters);
     if (!file.open(QIODevice::WriteOnly) || file.write(chapterFile(chapters)) < 0 || !file.commit())
         return fail("The output could not be written."_key);
-    const double seconds = chosenSeconds(request().plan, title());
+    const double seconds = filmSeconds(request().plan, title());
     runConverter(
         fileArguments(m_film, title(), m_subtitles, m_paths), 0.35 * shareOfFile(), seconds,
         [this, seconds, chapterCount = chosenChapters(request().plan, title()).size()](const ToolEnding &ending) {

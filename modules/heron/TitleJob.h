@@ -34,6 +34,7 @@ protected:
 private:
     void compare(const QString &path, const OutputExpectation &expected, const ToldOutput &told,
                  const ToolEnding &ending);
+    int decodedSeconds() const;
     void decodeAt(const QString &path, QList<double> places, bool hasVideo);
 
     ToolMessages m_messages;

@@ -122,6 +122,10 @@ void describe(const ifo_handle_t &tables, const ttu_t &entry, const TitleLayout 
         for (; chapter < cell.chapter; ++chapter)
             title.chapters.append(rounded(title.seconds));
         title.seconds += cell.seconds;
+        if (const int standing = cell.standingSeconds()) {
+            title.stills.append({rounded(title.seconds), standing});
+            title.seconds += standing;
+        }
         title.bytes +=
             (qint64(cell.lastSector) - cell.firstSector + 1) * sectorBytes / (cell.isInterleaved ? choice.size() : 1);
         title.angles = std::max(title.angles, static_cast<int>(choice.size()));

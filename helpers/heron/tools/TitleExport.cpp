@@ -82,10 +82,13 @@ int TitleExport::write()
     }
     m_buffer.reserve(bufferBytes + sectorBytes);
     m_sinceReport.start();
-    for (const TitleCell &cell : m_cells) {
+    for (const TitleCell &cell : std::as_const(m_cells)) {
         const auto visit = [&](Sector sector, bool afterLoss) { return take(sector, cell, afterLoss); };
         if (!m_reading.read(cell, visit))
             return m_run.fail(m_error.value_or(DiscError::Write));
+        // Whoever takes the navigation packs sets the cells' still times anew.
+        if (m_clock.hasBegun() && !m_wish.keepsNavigation && &cell != &m_cells.constLast())
+            m_clock.stand(cell.standingSeconds() * ticksPerSecond);
     }
     if (!flush() || (m_subtitles && !m_subtitles->close()))
         return m_run.fail(m_error.value_or(DiscError::Write));

@@ -75,7 +75,7 @@ QJsonArray cellsOf(const QList<TitleCell> &cells)
                                  {u"lastSector"_s, qint64(cell.lastSector)},
                                  {u"ownClock"_s, cell.hasOwnClock},
                                  {u"still"_s, cell.stillSeconds}});
-        start += cell.seconds;
+        start += cell.seconds + cell.standingSeconds();
     }
     return array;
 }
