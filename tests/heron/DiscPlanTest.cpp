@@ -1,3 +1,4 @@
+#include "media/OutputCheck.h"
 #include "modules/heron/DiscCheck.h"
 #include "modules/heron/DiscPlan.h"
 #include "modules/heron/DiscTexts.h"
@@ -134,6 +135,12 @@ TEST(FilmStreamsTest, TakesWhatTheFilmHas)
     const FilmSubtitles found = foundSubtitles(plan, film(), counts);
     EXPECT_EQ(found.places, QList<int>{2});
     EXPECT_EQ(found.indexPlaces, QList<int>{1});
+    FoundOutput written{.information = {}, .packets = {1}, .bytes = 1};
+    written.information.tracks.resize(1);
+    written.information.tracks[0].kind = MediaTrack::Kind::Subtitle;
+    EXPECT_FALSE(compareOutput(expectedFile({}, found, 1, 0), {}, written).lacksSubtitles);
+    written.packets = {0};
+    EXPECT_TRUE(compareOutput(expectedFile({}, found, 1, 0), {}, written).lacksSubtitles);
     EXPECT_EQ(found.leftOut.size(), 1) << "the first is announced and never comes";
     plan.burnedSubtitle = 1;
     EXPECT_TRUE(foundSubtitles(plan, film(), counts).lacksBurned);
