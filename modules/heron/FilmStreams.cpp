@@ -144,19 +144,21 @@ FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QLis
     return film;
 }
 
+Sentence lacksSubtitles(int number, const QString &language)
+{
+    return {"Subtitle track %1, which this film does not have"_key, {trackName(number, language)}};
+}
+
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts)
 {
     FilmSubtitles subtitles;
-    const auto leaveOut = [&](const QString &name) {
-        subtitles.leftOut.append({"Subtitle track %1, which this film does not have"_key, {name}});
-    };
     const QList<int> chosen = chosenSubtitles(plan, title);
     int indexPlace = 0;
     // Who reads the index sees only tracks with something in them.
     for (int place = 0; place < title.subtitles.size(); ++place) {
         if (counts.value(place) == 0) {
             if (chosen.contains(place) && place != plan.burnedSubtitle - 1)
-                leaveOut(trackName(place + 1, title.subtitles[place].language));
+                subtitles.leftOut.append(lacksSubtitles(place + 1, title.subtitles[place].language));
             continue;
         }
         if (chosen.contains(place)) {
@@ -167,7 +169,7 @@ FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
         ++indexPlace;
     }
     for (const int track : beyond(plan.subtitleTracks, title.subtitles.size()))
-        leaveOut(QString::number(track));
+        subtitles.leftOut.append(lacksSubtitles(track, {}));
     subtitles.lacksBurned = plan.burnedSubtitle > 0 && !subtitles.places.contains(plan.burnedSubtitle - 1);
     return subtitles;
 }

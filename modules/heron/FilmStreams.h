@@ -55,6 +55,8 @@ struct FilmSubtitles {
     QList<tarnwell::Sentence> leftOut;
     bool lacksBurned = false;  ///< that which was to be drawn into the picture
 };
+/// Says that they are not there; `number` from 1.
+tarnwell::Sentence lacksSubtitles(int number, const QString &language);
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts);
 
 /// The film comes on standard input.

@@ -2,6 +2,7 @@
 
 #include "jobs/OutputFile.h"
 
+#include <QJsonArray>
 #include <QSaveFile>
 #include <QXmlStreamWriter>
 
@@ -196,6 +197,14 @@ void MainTitleJob::author(const disc::DiscTitle &wanted)
         disc.titles[0].isMain = true;
         disc.titles[0].seconds = chosenSeconds(request().plan, title());
         disc.titles[0].chapters = chosenChapters(request().plan, title());
+        // What never came the author program leaves out.
+        const QJsonArray streams = lines().result["streams"_L1].toArray();
+        disc.titles[0].subtitles.removeIf(
+            [&](const disc::DiscSubtitle &track) { return !streams.contains(track.streamId); });
+        for (const int place : chosenSubtitles(request().plan, title())) {
+            if (!streams.contains(title().subtitles[place].streamId))
+                addLeftOut(lacksSubtitles(place + 1, title().subtitles[place].language));
+        }
         checkCopy(m_output->partPath(), disc);
     });
 }

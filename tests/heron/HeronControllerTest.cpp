@@ -250,6 +250,25 @@ TEST_F(HeronControllerTest, ADiscIsShownWhileItIsInItsDrive)
     EXPECT_TRUE(shows(0)) << "a bus that is gone";
 }
 
+TEST_F(HeronControllerTest, RowsThatAreLeftStartByTheButtonAndTakeTheirImagesAlong)
+{
+    m_module.openFiles({});
+    DiscPlan plan{.source = m_settings.path(u"none.iso"_s), .way = DiscWay::Image};
+    plan.volume = u"HOLIDAY"_s;
+    JobQueue &queue = m_services.queue();
+    const QString folder = m_settings.path(u"left"_s), copy = folder + u"/.HOLIDAY.kestrel-copy.iso"_s;
+    ASSERT_TRUE(QDir().mkpath(folder));
+    test::writeFile(copy, "begun");
+    const JobId first = queue.add(discJob(plan, folder)), second = queue.add(discJob(plan, folder));
+    queue.remove({first});
+    EXPECT_TRUE(QFile::exists(copy)) << "the other goes on with it";
+    child<QPushButton>("startButton")->click();
+    EXPECT_NE(queue.record(second)->state, JobState::Ready);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isEnded(queue.record(second)->state); }, 20000));
+    queue.remove({second});
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList());
+}
+
 TEST_F(HeronControllerTest, SaysWhyADiscIsNotKeptAndIsQuickMeanwhile)
 {
     const struct {

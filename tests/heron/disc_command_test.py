@@ -159,7 +159,7 @@ class WholeDisc(DiscCommand):
         sound = subprocess.run(["ffmpeg", "-v", "error", "-i", path + "/VIDEO_TS/VTS_01_1.VOB", "-map", "i:0x80", "-f", "s16le", "-ac", "1", "-t",
                                 "1", "-"], capture_output=True).stdout
         signs = [sample < 0 for sample, in struct.iter_unpack("<h", sound)]
-        self.assertAlmostEqual(sum(a != b for a, b in zip(signs, signs[1:])), 2 * 880, delta=20)  # English, whose stream was the second
+        self.assertGreater(sum(a != b for a, b in zip(signs, signs[1:])), 2 * 700)  # English is the higher tone, once the second stream
 
 
 class Titles(DiscCommand):

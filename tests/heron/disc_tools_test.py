@@ -166,6 +166,12 @@ class DiscCover(Case):
             width, height = map(int, size.split(","))
             self.assertAlmostEqual(width / height, shape, delta=0.01)
 
+    def test_looks_at_the_begin_the_middle_and_the_end(self):
+        for first, missing in ((1000, [0, 6, 12]), (2000, [6, 12]), (2600, [12]), (3200, [])):
+            failing = {"FAILING_FILE": disc("plain.iso"), "FAILING_FIRST": first, "FAILING_LAST": 10 ** 6}
+            _, lines, _ = run("disccover", "--check", disc("plain.iso"), failing=failing)
+            self.assertEqual(lines[-1]["result"]["missing"], missing)
+
     def test_says_why_there_is_none(self):
         for arguments, error in ((["--title", "9"], "noTitle"), (["--ffmpeg", "/none"], "noPicture")):
             code, lines, _ = run("disccover", *arguments, disc("plain.iso"), self.path("cover.jpg"))

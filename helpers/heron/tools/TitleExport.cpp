@@ -142,7 +142,10 @@ bool TitleExport::takeFilm(Sector sector)
     for (Packet &packet : packets) {
         if (m_subtitles && packet.isSubtitle() && !m_subtitles->add(sector, packet))
             return giveUp(DiscError::Write);
-        if (m_wish.streams && !packet.isPicture() && isWanted(packet))
+        if (packet.isPicture() || !isWanted(packet))
+            continue;
+        m_streams.insert(packet.streamId);
+        if (m_wish.streams)
             setStream(packet, m_wish.streams->at(packet.streamId));
     }
     return append(sector);
@@ -213,13 +216,16 @@ void TitleExport::report()
 
 QJsonObject TitleExport::result() const
 {
-    QJsonArray chapters;
+    QJsonArray chapters, streams;
     for (const double start : m_chapters)
         chapters.append(start);
+    for (const int stream : m_streams)
+        streams.append(stream);
     return {{u"bytes"_s, m_written},
             {u"seconds"_s, secondsOfTicks(m_clock.end() - m_zero)},
             {u"start"_s, secondsOfTicks(m_zero)},
             {u"chapters"_s, chapters},
+            {u"streams"_s, streams},
             {u"joints"_s, m_clock.joints()},
             {u"lostSectors"_s, m_reading.lostSectors()},
             {u"emptySectors"_s, m_emptySectors},

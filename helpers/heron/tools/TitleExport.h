@@ -10,6 +10,7 @@
 #include <map>
 #include <memory>
 #include <optional>
+#include <set>
 
 namespace kestrel::disc {
 
@@ -57,6 +58,7 @@ private:
     QByteArray m_buffer;
     QElapsedTimer m_sinceReport;
     std::map<int, qint64> m_soundTimes;  ///< the latest of each track
+    std::set<int> m_streams;             ///< that came, but for the picture
     QList<double> m_chapters;
     std::optional<qint64> m_packClock;  ///< of the last pack
     std::optional<DiscError> m_error;

@@ -25,6 +25,7 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QSet>
 #include <QThread>
 
 #include <algorithm>
