@@ -9,6 +9,8 @@
 
 #include <QEventLoop>
 
+using namespace Qt::StringLiterals;
+
 namespace kestrel::cli {
 
 ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundings &surroundings,
