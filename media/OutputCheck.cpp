@@ -87,6 +87,19 @@ Sentence mismatchIn(const OutputExpectation &expected, const MediaInformation &f
                : Sentence("The picture of the finished file does not stand upright."_key);
 }
 
+bool hasAllSubtitles(const OutputExpectation &expected, const FoundOutput &found)
+{
+    QList<qint64> packets;
+    for (qsizetype index = 0; index < found.information.tracks.size(); ++index) {
+        if (found.information.tracks[index].kind == MediaTrack::Kind::Subtitle)
+            packets.append(found.packets.value(index));
+    }
+    qsizetype number = 0;
+    return std::all_of(expected.tracks.begin(), expected.tracks.end(), [&](const OutputExpectation::Track &track) {
+        return track.kind != MediaTrack::Kind::Subtitle || packets.value(number++) >= track.packets;
+    });
+}
+
 }  // namespace
 
 ToolCommand outputReportCommand(const QString &proberPath, const QString &argument, qint64 fileBytes)
@@ -169,6 +182,7 @@ OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput
     }
     findings.isTooLarge = expected.maximumBytes > 0 && found.bytes > expected.maximumBytes;
     findings.lacksChapters = information.chapters.size() < expected.chapters;
+    findings.lacksSubtitles = !hasAllSubtitles(expected, found);
     return findings;
 }
 

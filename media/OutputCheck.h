@@ -31,7 +31,7 @@ struct OutputFindings {
     double seconds = 0;
     bool isShort = false, isLong = false;  ///< than expected, by more than a second and one in a hundred
     bool isTooLarge = false;               ///< for the limit of the plan
-    bool lacksChapters = false;
+    bool lacksChapters = false, lacksSubtitles = false;
 };
 
 /// Reads a written file back, all of its `fileBytes`; what it says of packets that are none is for ToolMessages.

@@ -25,7 +25,8 @@ struct TranscodeMachine {
 struct OutputExpectation {
     struct Track {
         MediaTrack::Kind kind;
-        QString codec;  ///< ffprobe's name
+        QString codec;       ///< ffprobe's name
+        qint64 packets = 0;  ///< of subtitles: at least
     };
     QList<Track> tracks;
     std::optional<double> seconds;  ///< nothing where the source does not tell

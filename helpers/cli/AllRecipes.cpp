@@ -20,13 +20,20 @@ std::shared_ptr<JKestrelSettingDispatcher> settingsOf(ModuleSettingKind kind)
 
 }  // namespace
 
+DiscTools interruptibleDiscTools(const JKestrelSettingDispatcher &settings)
+{
+    DiscTools tools = discTools(settings, QThread::idealThreadCount());
+    tools.keepsCancelledImages = true;
+    return tools;
+}
+
 AllRecipes::AllRecipes(JobQueue &queue)
     : m_video(settingsOf(ModuleSettingVideo)),
       m_disc(settingsOf(ModuleSettingDVD)),
       m_download(settingsOf(ModuleSettingDownload)),
       m_record(settingsOf(ModuleSettingRecord)),
       m_transcodes([this] { return transcodeTools(*m_video, QThread::idealThreadCount()); }),
-      m_discs([this] { return discTools(*m_disc, QThread::idealThreadCount()); }),
+      m_discs([this] { return interruptibleDiscTools(*m_disc); }),
       m_downloads([this] { return downloadTools(*m_download, QThread::idealThreadCount()); }),
       m_recordings([this] {
           return RecordTools{.transcoder = m_record->getTranscoderPath(),

@@ -10,6 +10,9 @@
 
 namespace kestrel::cli {
 
+/// Here a signal cancels, and a long copy of a disc is not lost by it.
+DiscTools interruptibleDiscTools(const JKestrelSettingDispatcher &settings);
+
 /// How the jobs of every module are run, by the settings of each; for commands that go on with whatever there is. In
 /// the queue while it lives.
 class AllRecipes {

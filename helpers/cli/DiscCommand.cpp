@@ -1,5 +1,6 @@
 #include "DiscCommand.h"
 
+#include "AllRecipes.h"
 #include "CliSession.h"
 #include "DiscOptions.h"
 #include "JobRunner.h"
@@ -107,7 +108,7 @@ ExitStatus runKeep(const Surroundings &surroundings, const QStringList &argument
     choice.disc.subtitleTracks = choice.subtitleNumbers;
     choice.disc.burnedSubtitle = choice.burnedSubtitle;
 
-    DiscRecipe recipe([&settings] { return discTools(settings, QThread::idealThreadCount()); });
+    DiscRecipe recipe([&settings] { return interruptibleDiscTools(settings); });
     session.queue().setRecipe(heronJobs.toString(), &recipe);
     const Answer answer = askDisc(session, choice.disc.source);
     if (session.isInterrupted())

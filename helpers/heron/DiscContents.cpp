@@ -12,6 +12,7 @@ namespace {
 
 constexpr int maximumTitles = 99;
 constexpr int maximumChapters = 999;
+constexpr int maximumStills = 9999;
 constexpr int maximumAudio = 8;
 constexpr int maximumSubtitles = 32;
 
@@ -86,6 +87,9 @@ DiscTitle titleFromJson(const QJsonObject &object)
     for (const QJsonValue &start : object[u"chapters"].toArray())
         if (title.chapters.size() < maximumChapters)
             title.chapters.append(positiveNumber(start));
+    for (const QJsonValue &still : object[u"stills"].toArray())
+        if (title.stills.size() < maximumStills)
+            title.stills.append({positiveNumber(still[u"start"]), boundedInt(still[u"seconds"], 0, 254, 0)});
     for (const QJsonValue &track : object[u"audio"].toArray())
         if (title.audio.size() < maximumAudio)
             title.audio.append(audioFromJson(track.toObject()));
@@ -126,6 +130,11 @@ QJsonObject toJson(const DiscTitle &title)
                        {u"aspect"_s, title.aspect}, {u"standard"_s, title.standard}, {u"width"_s, title.width},
                        {u"height"_s, title.height}, {u"chapters"_s, chapters},       {u"angles"_s, title.angles},
                        {u"audio"_s, audio},         {u"subtitles"_s, subtitles},     {u"bytes"_s, title.bytes}};
+    QJsonArray stills;
+    for (const DiscStill &still : title.stills)
+        stills.append(QJsonObject{{u"start"_s, still.start}, {u"seconds"_s, still.seconds}});
+    if (!stills.isEmpty())
+        object.insert(u"stills"_s, stills);
     if (title.duplicateOf)
         object.insert(u"duplicateOf"_s, title.duplicateOf);
     return object;

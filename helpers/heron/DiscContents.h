@@ -30,6 +30,12 @@ struct DiscSubtitle {
     QString codecData(int width, int height) const;
 };
 
+/// A picture that stands still in a title.
+struct DiscStill {
+    double start = 0;  ///< in the title
+    int seconds = 0;
+};
+
 struct DiscTitle {
     int number = 0;  ///< from 1
     bool isMain = false;
@@ -38,6 +44,7 @@ struct DiscTitle {
     QString standard;  ///< "PAL", "NTSC"
     int width = 0, height = 0;
     QList<double> chapters;  ///< starts, in seconds
+    QList<DiscStill> stills;
     int angles = 1;
     QList<DiscAudio> audio;
     QList<DiscSubtitle> subtitles;

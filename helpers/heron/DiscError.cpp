@@ -48,8 +48,10 @@ DiscError sourceErrorOf(int systemError)
     switch (systemError) {
         case ENOENT:
         case ENOTDIR:
+        case ENODEV:
         case ENOMEDIUM:
         case ENXIO:
+        case ESTALE:
             return DiscError::Missing;
         case EACCES:
         case EPERM:

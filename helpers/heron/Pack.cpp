@@ -132,6 +132,14 @@ Packets packetsOf(Sector sector)
     return packets;
 }
 
+void setStream(Packet &packet, int streamId)
+{
+    // Private streams have theirs in front of the payload, behind the header.
+    uchar *header = packet.header.data();
+    (header[3] == privateStream ? header[packet.header.size()] : header[3]) = static_cast<uchar>(streamId);
+    packet.streamId = streamId;
+}
+
 void moveClocks(Sector sector, qint64 move)
 {
     if (!isPack(sector))

@@ -42,6 +42,9 @@ bool isPack(Sector sector);
 /// None where it is no pack of an MPEG-2 program stream. Whatever the bytes are, nothing is read beyond the sector.
 Packets packetsOf(Sector sector);
 
+/// Gives the packet's stream another number of its kind.
+void setStream(Packet &packet, int streamId);
+
 /// Sets the clocks of a sector anew, those of a navigation pack too: `move` ticks later. What would come before 0 is at
 /// 0.
 void moveClocks(Sector sector, qint64 move);

@@ -1,6 +1,7 @@
 #include "SubtitleFiles.h"
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -60,10 +61,11 @@ bool SubtitleFiles::close()
     QByteArray text = "# VobSub index file, v7 (do not modify this line!)\n";
     text += m_title.subtitles.isEmpty() ? QByteArray()
                                         : m_title.subtitles.first().codecData(m_title.width, m_title.height).toLatin1();
-    int index = 0;
     for (const DiscSubtitle &track : m_title.subtitles) {
         const QString language = track.language.isEmpty() ? u"--"_s : track.language;
-        text += u"\nid: %1, index: %2\n"_s.arg(language).arg(index++).toLatin1() + m_tracks[track.streamId].entries;
+        // By the number that its packets have. Two tracks of one number are the first of them only.
+        text += u"\nid: %1, index: %2\n"_s.arg(language).arg(track.streamId & 0x1f).toLatin1() +
+                std::exchange(m_tracks[track.streamId].entries, {});
     }
     return m_index.write(text) == text.size() && m_index.flush() && m_pictures.flush();
 }

@@ -33,4 +33,10 @@ void TitleClock::enter(const Navigation &unit, Before before)
     m_end = m_sourceEnd + m_move;
 }
 
+void TitleClock::stand(qint64 ticks)
+{
+    m_move += ticks;
+    m_end += ticks;
+}
+
 }  // namespace kestrel::disc

@@ -19,6 +19,9 @@ public:
     /// The next unit, in play order.
     void enter(const Navigation &unit, Before before);
 
+    /// The picture that the last unit ended with stands for so long before the next.
+    void stand(qint64 ticks);
+
     bool hasBegun() const { return m_hasBegun; }
     qint64 move() const { return m_move; }    ///< to be added to the times of this unit
     qint64 start() const { return m_start; }  ///< of this unit

@@ -10,10 +10,14 @@ struct TitleCell {
     quint32 lastSector = 0;
     double seconds = 0;
     int chapter = 0;             ///< from 1
+    int vob = 0, number = 0;     ///< as its units name it; 0 where the tables do not tell
     bool isInterleaved = false;  ///< other angles' units stand between its own
     bool hasOwnClock = false;    ///< its clock begins anew
     int stillSeconds = 0;        ///< its last picture stands that long; 255 until somebody presses a button
     int angles = 1;              ///< cells that could be played in its place
+
+    /// How long it holds its last picture by itself.
+    int standingSeconds() const { return stillSeconds == 255 ? 0 : stillSeconds; }
 };
 
 /// The order in which a title's film is played.

@@ -20,9 +20,40 @@ namespace {
 
 constexpr qint64 bytesOfSector = 2048;
 
-const QString mapSuffix = u".map"_s, listSuffix = u".bad"_s;
+const QString mapSuffix = u".map"_s, listSuffix = u".bad"_s, lockSuffix = u".lock"_s;
+
+/// Of a name that every run of the same disc finds.
+QString copyIn(const QString &folder, const QString &name)
+{
+    return folder + u'/' + fittingName(u'.' + portableName(name), u".kestrel-copy.iso"_s, 143);
+}
+
+void removeAll(const QString &copy)
+{
+    for (const QString &suffix : {QString(), mapSuffix, listSuffix})
+        QFile::remove(copy + suffix);
+}
 
 }  // namespace
+
+QString brokenOffImage(const JobRecord &record)
+{
+    const auto plan = DiscPlan::fromJson(record.plan);
+    const bool isMade = record.state == JobState::Done || record.state == JobState::DoneWithProblems;
+    if (!plan || plan->way != DiscWay::Image || isMade)
+        return {};
+    disc::DiscContents contents;
+    contents.volume = plan->volume;
+    return copyIn(record.folder, discOutputName(*plan, contents));
+}
+
+void removeBrokenOffImage(const QString &path)
+{
+    QLockFile lock(path + lockSuffix);
+    lock.setStaleLockTime(0);
+    if (lock.tryLock())
+        removeAll(path);
+}
 
 DiscImageJob::~DiscImageJob()
 {
@@ -33,8 +64,8 @@ void DiscImageJob::carryOut()
 {
     if (QFileInfo(request().plan.source).isDir())
         return fail("A folder has no sectors to copy. Choose another way."_key);
-    m_copy = request().folder + u'/' + fittingName(u'.' + portableName(outputName()), u".kestrel-copy.iso"_s, 143);
-    m_lock = std::make_unique<QLockFile>(m_copy + u".lock"_s);
+    m_copy = copyIn(request().folder, outputName());
+    m_lock = std::make_unique<QLockFile>(m_copy + lockSuffix);
     m_lock->setStaleLockTime(0);
     if (!QFileInfo(request().folder).isDir())
         return fail("The output directory does not exist. Please check the setting."_key);
@@ -92,18 +123,24 @@ void DiscImageJob::copyIsGood()
 /// The list of what is missing stands beside the image.
 void DiscImageJob::placed(const QString &path)
 {
-    if (m_badSectors > 0)
+    if (m_badSectors > 0) {
+        QFile::remove(path + listSuffix);  // of an image that is gone
         QFile::rename(m_copy + listSuffix, path + listSuffix);
+    }
     removeCopy();
     m_lock.reset();
 }
 
 void DiscImageJob::removeCopy()
 {
-    if (m_copy.isEmpty())
-        return;
-    for (const QString &suffix : {QString(), mapSuffix, listSuffix})
-        QFile::remove(m_copy + suffix);
+    if (!m_copy.isEmpty())
+        removeAll(m_copy);
+}
+
+void DiscImageJob::cancel()
+{
+    m_staysForLater |= request().tools.keepsCancelledImages && QFileInfo::exists(m_copy + mapSuffix);
+    WholeDiscJob::cancel();
 }
 
 void DiscImageJob::discard()

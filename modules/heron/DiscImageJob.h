@@ -14,6 +14,8 @@ public:
     using WholeDiscJob::WholeDiscJob;
     ~DiscImageJob() override;
 
+    void cancel() override;
+
 protected:
     void carryOut() override;
     void discard() override;
@@ -31,5 +33,10 @@ private:
     bool m_staysForLater = false;
     bool m_hasBegunAnew = false;
 };
+
+/// The hidden file that a run of the job left, or may have left; null for a job that leaves none.
+QString brokenOffImage(const JobRecord &record);
+/// Unless somebody is at it.
+void removeBrokenOffImage(const QString &path);
 
 }  // namespace kestrel

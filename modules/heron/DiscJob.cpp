@@ -84,11 +84,31 @@ ToolProcess &DiscJob::runDiscTool(const ToolCommand &command, double share, Cont
     return tool;
 }
 
+void DiscJob::lookAtFilm(std::function<void(const QList<FilmStream> &streams)> then)
+{
+    runDiscTool(filmStreamsCommand(m_request.tools.transcode.prober, titleReader({})), 0.02,
+                [this, then = std::move(then)](const ToolEnding &ending) {
+                    const QList<FilmStream> streams = readFilmStreams(ending.output);
+                    // It ends as soon as it knows enough, and the reader with it.
+                    if (streams.isEmpty())
+                        return fail(discFailure(lines(), ending), ending.lastWords);
+                    then(streams);
+                });
+}
+
 std::shared_ptr<ToolCommand> DiscJob::titleReader(const QStringList &options) const
 {
     DiscPlan plan = m_request.plan;
     plan.title = title().number;
-    return titleReaderCommand(m_request.tools, plan, options);
+    QStringList tracks;
+    for (const int place : chosenSound(plan, title()))
+        tracks.append(QString::number(title().audio[place].streamId));
+    for (const int place : chosenSubtitles(plan, title()))
+        tracks.append(QString::number(title().subtitles[place].streamId));
+    const bool takesAll = !plan.soundTracks && !plan.subtitleTracks;
+    const bool isTold = options.contains(u"--tracks"_s) || takesAll;
+    return titleReaderCommand(m_request.tools, plan,
+                              isTold ? options : options + QStringList{u"--tracks"_s, tracks.join(u',')});
 }
 
 void DiscJob::tellStage(const Sentence &stage)

@@ -3,6 +3,7 @@
 #include "DiscFailure.h"
 #include "DiscPlan.h"
 #include "DiscTools.h"
+#include "FilmStreams.h"
 
 #include "jobs/ToolJob.h"
 
@@ -43,7 +44,9 @@ protected:
     /// then on. Its progress is `share` of the whole work, behind what was done before.
     ToolProcess &runDiscTool(const ToolCommand &command, double share, Continuation then);
     const DiscToolLines &lines() const { return m_lines; }
-    /// disctitle for the plan's title, followed by what else it is told.
+    /// Asks the title's film what tracks it has; `then` is not called where it has none, which fails the job.
+    void lookAtFilm(std::function<void(const QList<FilmStream> &streams)> then);
+    /// disctitle for the plan's title and its wanted tracks, followed by what else it is told.
     std::shared_ptr<ToolCommand> titleReader(const QStringList &options) const;
 
     void tellStage(const tarnwell::Sentence &stage);

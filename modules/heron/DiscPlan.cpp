@@ -5,6 +5,7 @@
 #include <QJsonArray>
 
 #include <algorithm>
+#include <cmath>
 #include <iterator>
 
 using namespace Qt::StringLiterals;
@@ -204,6 +205,16 @@ double chosenSeconds(const DiscPlan &plan, const disc::DiscTitle &title)
     const int last = lastChapterOf(plan, title);
     const double end = last < title.chapters.size() ? title.chapters[last] : title.seconds;
     return std::max(0.0, end - startOfChapter(plan, title));
+}
+
+double filmSeconds(const DiscPlan &plan, const disc::DiscTitle &title)
+{
+    constexpr double rounding = 0.002;
+    const double seconds = chosenSeconds(plan, title), end = startOfChapter(plan, title) + seconds;
+    const auto last = std::find_if(title.stills.begin(), title.stills.end(), [&](const disc::DiscStill &still) {
+        return std::abs(still.start + still.seconds - end) < rounding;
+    });
+    return last == title.stills.end() ? seconds : std::max(0.0, seconds - last->seconds);
 }
 
 disc::DiscTitle chosenPart(const DiscPlan &plan, disc::DiscTitle title)

@@ -62,6 +62,8 @@ QList<int> chosenSubtitles(const DiscPlan &plan, const disc::DiscTitle &title);
 
 /// Seconds of the chosen chapters.
 double chosenSeconds(const DiscPlan &plan, const disc::DiscTitle &title);
+/// The same without the picture that stands at their end, which no film has.
+double filmSeconds(const DiscPlan &plan, const disc::DiscTitle &title);
 /// The title as far as they reach: its length, and about its bytes.
 disc::DiscTitle chosenPart(const DiscPlan &plan, disc::DiscTitle title);
 /// Their starts, from the first of them on.

@@ -139,4 +139,17 @@ qint64 resultBytes(DiscWay way, const Preset &preset, const disc::DiscContents &
     }));
 }
 
+qint64 neededBytes(const QList<DiscPlan> &plans, const disc::DiscContents &contents)
+{
+    qint64 results = 0, mostBeside = 0;
+    for (const DiscPlan &plan : plans) {
+        const disc::DiscTitle *title = titleOf(contents, plan);
+        const QList<disc::DiscTitle> parts = title ? QList{chosenPart(plan, *title)} : QList<disc::DiscTitle>();
+        const qint64 result = resultBytes(plan.way, plan.transcode.preset, contents, parts);
+        results += result;
+        mostBeside = std::max(mostBeside, expectedBytesOf(plan) - result);
+    }
+    return results + mostBeside;
+}
+
 }  // namespace kestrel

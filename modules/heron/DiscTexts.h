@@ -27,5 +27,8 @@ QString titleFactsText(const disc::DiscTitle &title);
 /// About what the result takes, in bytes.
 qint64 resultBytes(DiscWay way, const Preset &preset, const disc::DiscContents &contents,
                    const QList<disc::DiscTitle> &titles);
+/// What the plans, one after another, take until the last of them is done: their results, and what the largest work
+/// takes beside its own.
+qint64 neededBytes(const QList<DiscPlan> &plans, const disc::DiscContents &contents);
 
 }  // namespace kestrel

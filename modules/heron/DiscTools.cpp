@@ -54,6 +54,13 @@ std::shared_ptr<ToolCommand> titleReaderCommand(const DiscTools &tools, const Di
         ToolCommand{.program = tools.title, .arguments = arguments + options + QStringList{plan.source}});
 }
 
+ToolCommand discPictureCheckCommand(const DiscTools &tools, const QString &source)
+{
+    return {.program = tools.cover,
+            .arguments = {u"--check"_s, u"--ffmpeg"_s, tools.transcode.transcoder, source},
+            .timeLimit = std::chrono::minutes(2)};
+}
+
 ToolCommand discCoverCommand(const DiscTools &tools, const QString &source, int title, const QString &target)
 {
     QStringList arguments;

@@ -38,6 +38,14 @@ QString trackName(int number, const QString &language)
     return language.isEmpty() ? QString::number(number) : u"%1 (%2)"_s.arg(number).arg(language);
 }
 
+/// Wanted tracks of a title that has only `count`.
+QList<int> beyond(const std::optional<QList<int>> &tracks, qsizetype count)
+{
+    QList<int> found = tracks.value_or(QList<int>());
+    found.removeIf([count](int track) { return track <= count; });
+    return found;
+}
+
 QString codecFor(const FilmStream &stream)
 {
     // Matroska takes no sound in the disc's own arrangement of samples; these hold the same ones.
@@ -112,6 +120,9 @@ QList<int> countSubtitles(const QByteArray &index)
 FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QList<FilmStream> &streams, bool takesVideo)
 {
     FilmPlan film;
+    const auto leaveOut = [&](const QString &name) {
+        film.leftOut.append({"Sound track %1, which this film does not have"_key, {name}});
+    };
     for (const FilmStream &stream : streams) {
         if (takesVideo && stream.kind == MediaTrack::Kind::Video && film.video.isEmpty())
             film.video.append(stream);
@@ -122,14 +133,20 @@ FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QLis
             return stream.kind == MediaTrack::Kind::Audio && stream.id == track.streamId;
         });
         if (found == streams.end()) {
-            film.leftOut.append(
-                {"Sound track %1, which this film does not have"_key, {trackName(place + 1, track.language)}});
+            leaveOut(trackName(place + 1, track.language));
             continue;
         }
         film.sound.append(*found);
         film.soundFacts.append(track);
     }
+    for (const int track : beyond(plan.soundTracks, title.audio.size()))
+        leaveOut(QString::number(track));
     return film;
+}
+
+Sentence lacksSubtitles(int number, const QString &language)
+{
+    return {"Subtitle track %1, which this film does not have"_key, {trackName(number, language)}};
 }
 
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts)
@@ -138,15 +155,22 @@ FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
     const QList<int> chosen = chosenSubtitles(plan, title);
     int indexPlace = 0;
     // Who reads the index sees only tracks with something in them.
-    for (int place = 0; place < title.subtitles.size() && place < counts.size(); ++place) {
-        if (counts[place] == 0)
+    for (int place = 0; place < title.subtitles.size(); ++place) {
+        if (counts.value(place) == 0) {
+            if (chosen.contains(place) && place != plan.burnedSubtitle - 1)
+                subtitles.leftOut.append(lacksSubtitles(place + 1, title.subtitles[place].language));
             continue;
+        }
         if (chosen.contains(place)) {
             subtitles.places.append(place);
             subtitles.indexPlaces.append(indexPlace);
+            subtitles.counts.append(counts[place]);
         }
         ++indexPlace;
     }
+    for (const int track : beyond(plan.subtitleTracks, title.subtitles.size()))
+        subtitles.leftOut.append(lacksSubtitles(track, {}));
+    subtitles.lacksBurned = plan.burnedSubtitle > 0 && !subtitles.places.contains(plan.burnedSubtitle - 1);
     return subtitles;
 }
 
@@ -210,8 +234,8 @@ OutputExpectation expectedFile(const FilmPlan &film, const FilmSubtitles &subtit
         expected.tracks.append({stream.kind, stream.codec});
     for (const FilmStream &stream : film.sound)
         expected.tracks.append({stream.kind, codecFor(stream) == "copy"_L1 ? stream.codec : codecFor(stream)});
-    for (qsizetype index = 0; index < subtitles.places.size(); ++index)
-        expected.tracks.append({MediaTrack::Kind::Subtitle, u"dvd_subtitle"_s});
+    for (const int count : subtitles.counts)
+        expected.tracks.append({MediaTrack::Kind::Subtitle, u"dvd_subtitle"_s, count});
     expected.seconds = seconds;
     expected.chapters = chapters;
     return expected;

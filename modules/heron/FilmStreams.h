@@ -51,7 +51,12 @@ struct FilmPaths {
 struct FilmSubtitles {
     QList<int> places;
     QList<int> indexPlaces;
+    QList<int> counts;  ///< how many pictures each of them has
+    QList<tarnwell::Sentence> leftOut;
+    bool lacksBurned = false;  ///< that which was to be drawn into the picture
 };
+/// Says that they are not there; `number` from 1.
+tarnwell::Sentence lacksSubtitles(int number, const QString &language);
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts);
 
 /// The film comes on standard input.

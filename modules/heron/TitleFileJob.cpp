@@ -89,12 +89,16 @@ void TitleFileJob::addCompanions()
     tellLosses();
     const QJsonObject result = lines().result;
     const auto chapters = chaptersIn(result, request().plan.firstChapter);
-    if (!m_paths.subtitles.isNull())
+    if (takesVideo())
         m_subtitles = foundSubtitles(request().plan, title(), countSubtitles(readIndex(m_paths.subtitles + u".idx"_s)));
+    for (const Sentence &leftOut : m_subtitles.leftOut)
+        addLeftOut(leftOut);
+    if (m_subtitles.lacksBurned)
+        addProblem("The subtitles that were to be drawn into the picture are not in this film."_key);
     QSaveFile file(m_paths.chapters);
     if (!file.open(QIODevice::WriteOnly) || file.write(chapterFile(chapters)) < 0 || !file.commit())
         return fail("The output could not be written."_key);
-    const double seconds = chosenSeconds(request().plan, title());
+    const double seconds = filmSeconds(request().plan, title());
     runConverter(
         fileArguments(m_film, title(), m_subtitles, m_paths), 0.35 * shareOfFile(), seconds,
         [this, seconds, chapterCount = chosenChapters(request().plan, title()).size()](const ToolEnding &ending) {

@@ -24,14 +24,7 @@ QString secondsText(double seconds)
 
 void TitleJob::carryOut()
 {
-    runDiscTool(filmStreamsCommand(request().tools.transcode.prober, titleReader({})), 0.02,
-                [this](const ToolEnding &ending) {
-                    const QList<FilmStream> streams = readFilmStreams(ending.output);
-                    // It ends as soon as it knows enough, and the reader with it.
-                    if (streams.isEmpty())
-                        return fail(discFailure(lines(), ending), ending.lastWords);
-                    makeFile(streams);
-                });
+    lookAtFilm([this](const QList<FilmStream> &streams) { makeFile(streams); });
 }
 
 void TitleJob::runConverter(const QStringList &arguments, double share, double seconds, Continuation then)
@@ -101,10 +94,21 @@ void TitleJob::compare(const QString &path, const OutputExpectation &expected, c
                     {secondsText(findings.seconds), secondsText(*expected.seconds)}});
     if (findings.lacksChapters)
         addProblem("Chapters are missing in the finished file."_key);
+    if (findings.lacksSubtitles)
+        addProblem("Subtitles are missing in the finished file."_key);
     setFact(u"seconds"_s, findings.seconds);
     setFact(u"wantedSeconds"_s, *expected.seconds);
-    const double end = std::max(0.0, findings.seconds - 2);
+    const double end = std::max(0.0, findings.seconds - decodedSeconds());
     decodeAt(path, {0, end / 2, end}, found->information.hasVideo());
+}
+
+/// Long enough that a picture that stands still begins or ends in it.
+int TitleJob::decodedSeconds() const
+{
+    int longest = 0;
+    for (const disc::DiscStill &still : title().stills)
+        longest = std::max(longest, still.seconds);
+    return longest + 2;
 }
 
 void TitleJob::decodeAt(const QString &path, QList<double> places, bool hasVideo)
@@ -114,7 +118,8 @@ void TitleJob::decodeAt(const QString &path, QList<double> places, bool hasVideo
     const double place = places.takeFirst();
     ToolCommand command = decodingCommand(request().tools.transcode.transcoder, u"file:"_s + path, Decoding::All);
     const qsizetype input = command.arguments.indexOf(u"-i"_s);
-    for (const QString &argument : {QString::number(place, 'f', 3), u"-ss"_s, u"2"_s, u"-t"_s})
+    for (const QString &argument :
+         {QString::number(place, 'f', 3), u"-ss"_s, QString::number(decodedSeconds()), u"-t"_s})
         command.arguments.insert(input, argument);
     m_converterProgress = {};
     const ToolProcess &tool = run(command, [this, path, places, place, hasVideo](const ToolEnding &) {

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "DiscJob.h"
-#include "FilmStreams.h"
 
 #include "media/OutputCheck.h"
 #include "media/ToolMessages.h"
@@ -35,6 +34,7 @@ protected:
 private:
     void compare(const QString &path, const OutputExpectation &expected, const ToldOutput &told,
                  const ToolEnding &ending);
+    int decodedSeconds() const;
     void decodeAt(const QString &path, QList<double> places, bool hasVideo);
 
     ToolMessages m_messages;

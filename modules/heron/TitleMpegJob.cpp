@@ -28,7 +28,7 @@ void TitleMpegJob::makeFile(const QList<FilmStream> &streams)
             if (stream.kind != MediaTrack::Kind::Data)
                 expected.tracks.append({stream.kind, stream.codec});
         }
-        expected.seconds = chosenSeconds(request().plan, title());
+        expected.seconds = filmSeconds(request().plan, title());
         checkFile(m_output->partPath(), expected, {.bytes = lines().result["bytes"_L1].toInteger(), .tracks = {}});
     });
 }

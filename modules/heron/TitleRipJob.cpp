@@ -43,6 +43,9 @@ void TitleRipJob::fileIsGood()
     beginShare(1 - shareOfFile());
     m_converting = std::make_unique<TranscodeJob>(TranscodeRequest{
         .plan = transcodePlan(), .information = {}, .folder = request().folder, .tools = request().tools.transcode});
+    m_converting->setNotary([this](const JobOutcome &outcome, const QString &partPath, std::function<void()> then) {
+        beforePlacing(withOwnProblems(outcome), partPath, std::move(then));
+    });
     connect(m_converting.get(), &Job::noted, this, &Job::noted);
     connect(m_converting.get(), &Job::finished, this, &TitleRipJob::converted);
     connect(m_converting.get(), &Job::progressed, this, [this](const JobProgress &progress) {
@@ -54,7 +57,7 @@ void TitleRipJob::fileIsGood()
         m_converting->setPaused(true);
 }
 
-void TitleRipJob::converted(const JobOutcome &outcome)
+JobOutcome TitleRipJob::withOwnProblems(const JobOutcome &outcome) const
 {
     JobOutcome whole = outcome;
     whole.problems = problems() + outcome.problems;
@@ -63,8 +66,13 @@ void TitleRipJob::converted(const JobOutcome &outcome)
         whole.state = JobState::DoneWithProblems;
     if (whole.state == JobState::DoneWithProblems)
         whole.sentence = whole.problems.value(0);
+    return whole;
+}
+
+void TitleRipJob::converted(const JobOutcome &outcome)
+{
     m_workFolder.reset();
-    finish(whole);
+    finish(withOwnProblems(outcome));
 }
 
 void TitleRipJob::cancel()

@@ -24,6 +24,7 @@ protected:
 
 private:
     TranscodePlan transcodePlan() const;
+    JobOutcome withOwnProblems(const JobOutcome &outcome) const;
     void converted(const JobOutcome &outcome);
 
     QString m_film;

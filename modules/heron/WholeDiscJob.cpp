@@ -2,8 +2,7 @@
 
 #include "DiscCheck.h"
 
-#include "jobs/OutputFile.h"
-
+#include <QJsonArray>
 #include <QJsonDocument>
 
 using namespace Qt::StringLiterals;
@@ -31,21 +30,19 @@ void WholeDiscJob::checkCopy(const QString &copy, const disc::DiscContents &want
             if (const disc::DiscTitle *original = wanted.mainTitle())
                 setFact(u"wantedSeconds"_s, original->seconds);
         }
-        lookAtPicture(copy);
+        lookAtPictures(copy);
     });
 }
 
-void WholeDiscJob::lookAtPicture(const QString &copy)
+void WholeDiscJob::lookAtPictures(const QString &copy)
 {
-    m_workFolder = std::make_unique<OutputFile>(request().folder, outputName(), QString(), OutputFile::Kind::Folder);
-    if (!m_workFolder->isValid())
-        return fail(m_workFolder->reason());
-    run(discCoverCommand(request().tools, copy, 0, m_workFolder->partPath() + u"/picture.jpg"_s),
-        [this](const ToolEnding &ending) {
-            if (!ending.isGood() && contents().mainTitle())
-                addProblem("No picture of the copy could be decoded."_key);
-            copyIsGood();
-        });
+    runDiscTool(discPictureCheckCommand(request().tools, copy), 0.01, [this](const ToolEnding &ending) {
+        if (!ending.isGood() && contents().mainTitle())
+            addProblem("No picture of the copy could be decoded."_key);
+        for (const QJsonValue &seconds : lines().result["missing"_L1].toArray())
+            addProblem({"Nothing could be decoded at %1 s."_key, {QString::number(seconds.toDouble(), 'f', 1)}});
+        copyIsGood();
+    });
 }
 
 }  // namespace kestrel

@@ -4,7 +4,8 @@
 
 namespace kestrel {
 
-/// A job whose output is a disc again: it is read as one, and a picture of its film decoded, before it counts as made.
+/// A job whose output is a disc again: it is read as one, and pictures of its film are decoded, before it counts as
+/// made.
 class WholeDiscJob : public DiscJob {
     Q_OBJECT
 public:
@@ -16,7 +17,7 @@ protected:
     virtual void copyIsGood() = 0;
 
 private:
-    void lookAtPicture(const QString &copy);
+    void lookAtPictures(const QString &copy);
 };
 
 }  // namespace kestrel

@@ -50,12 +50,12 @@ Conversions::Conversions(JobQueue &queue, std::shared_ptr<JKestrelSettingDispatc
       m_queue(queue),
       m_settings(std::move(settings)),
       m_defaults(defaults),
-      m_ownPresets(defaults, ownPresetsKey.toString()),
+      m_ownPresets(ownPresetsIn(defaults)),
       m_recipe([this] { return tools(); })
 {
     m_draft.preset = builtInPresets().first();
-    if (const QString id = defaults.stringForKey(chosenPresetKey); m_ownPresets.presetOfId(id))
-        m_ownPresets.apply(id, m_draft);
+    if (const QString id = defaults.stringForKey(chosenPresetKey); m_ownPresets->presetOfId(id))
+        m_ownPresets->apply(id, m_draft);
     else if (const Preset *preset = kestrel::presetOfId(id))
         m_draft.preset = *preset;
     if (const QByteArray options = defaults.dataForKey(optionsKey); options.size() <= largestOptions)
@@ -244,8 +244,8 @@ void Conversions::choosePreset(const QList<JobId> &ids, const QString &presetId)
     if (ids.isEmpty())
         m_defaults.setObject(presetId, chosenPresetKey);
     edit(ids, [this, presetId, preset = *preset](TranscodePlan &plan) {
-        if (m_ownPresets.presetOfId(presetId)) {
-            m_ownPresets.apply(presetId, plan);
+        if (m_ownPresets->presetOfId(presetId)) {
+            m_ownPresets->apply(presetId, plan);
             return;
         }
         // A number of one encoder's quality says nothing to another.
@@ -286,13 +286,13 @@ std::optional<QString> Conversions::draftFolder() const
 
 const Preset *Conversions::presetOfId(const QString &id) const
 {
-    const Preset *own = m_ownPresets.presetOfId(id);
+    const Preset *own = m_ownPresets->presetOfId(id);
     return own ? own : kestrel::presetOfId(id);
 }
 
 void Conversions::reset()
 {
-    m_ownPresets.removeAll();
+    m_ownPresets->removeAll();
     for (const QString &key : {chosenPresetKey, optionsKey, draftFolderKey})
         m_defaults.removeObjectForKey(key);
     m_draft = {};

@@ -33,7 +33,7 @@ public:
 
     JobQueue &queue() const { return m_queue; }
     JKestrelSettingDispatcher &settings() const { return *m_settings; }
-    OwnPresets &ownPresets() { return m_ownPresets; }
+    OwnPresets &ownPresets() { return *m_ownPresets; }
     TranscodeTools tools() const;  ///< with the language that tracks are named in
 
     /// Adds the files that are not yet in the list and still to be converted. How many of them are new.
@@ -99,7 +99,7 @@ private:
     JobQueue &m_queue;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;
     foundation::UserDefaults &m_defaults;
-    OwnPresets m_ownPresets;
+    std::shared_ptr<OwnPresets> m_ownPresets;
     TranscodeRecipe m_recipe;
     MediaProber m_prober;
     std::unique_ptr<CodecQuery> m_codecs;

@@ -57,6 +57,7 @@ TEST(DiscContents, ComesBackFromItsJson)
     title.width = 720;
     title.height = 480;
     title.chapters = {0, 15.25};
+    title.stills = {{15, 5}};
     title.angles = 2;
     title.duplicateOf = 1;
     title.bytes = qint64(5) << 30;

@@ -1,5 +1,7 @@
+#include "media/OutputCheck.h"
 #include "modules/heron/DiscCheck.h"
 #include "modules/heron/DiscPlan.h"
+#include "modules/heron/DiscTexts.h"
 #include "modules/heron/FilmStreams.h"
 
 #include <gtest/gtest.h>
@@ -73,6 +75,28 @@ TEST(DiscPlanTest, ChoosesTracksAndChapters)
     EXPECT_EQ(chosenChapters(plan, film()), (QList<double>{0, 30}));
 }
 
+TEST(DiscPlanTest, NeedsSpaceForResultsAndTheLargestWork)
+{
+    disc::DiscContents contents;
+    contents.bytes = 9000;
+    contents.titles = {film(), film()};
+    contents.titles[1].number = 3;
+    contents.titles[1].bytes = 2000;
+    const struct {
+        DiscWay way;
+        QList<int> titles;
+        qint64 bytes;
+    } rows[] = {{DiscWay::Image, {0}, 9000}, {DiscWay::Mkv, {2}, 2050}, {DiscWay::Mkv, {2, 3}, 3000 + 2100}};
+    for (const auto &[way, titles, bytes] : rows) {
+        QList<DiscPlan> plans;
+        for (const int title : titles) {
+            plans.append({.way = way, .title = title});
+            describeDisc(contents, plans.last());
+        }
+        EXPECT_EQ(neededBytes(plans, contents), bytes) << titles.size();
+    }
+}
+
 TEST(DiscPlanTest, NamesTheResult)
 {
     disc::DiscContents contents;
@@ -111,6 +135,15 @@ TEST(FilmStreamsTest, TakesWhatTheFilmHas)
     const FilmSubtitles found = foundSubtitles(plan, film(), counts);
     EXPECT_EQ(found.places, QList<int>{2});
     EXPECT_EQ(found.indexPlaces, QList<int>{1});
+    FoundOutput written{.information = {}, .packets = {1}, .bytes = 1};
+    written.information.tracks.resize(1);
+    written.information.tracks[0].kind = MediaTrack::Kind::Subtitle;
+    EXPECT_FALSE(compareOutput(expectedFile({}, found, 1, 0), {}, written).lacksSubtitles);
+    written.packets = {0};
+    EXPECT_TRUE(compareOutput(expectedFile({}, found, 1, 0), {}, written).lacksSubtitles);
+    EXPECT_EQ(found.leftOut.size(), 1) << "the first is announced and never comes";
+    plan.burnedSubtitle = 1;
+    EXPECT_TRUE(foundSubtitles(plan, film(), counts).lacksBurned);
 }
 
 TEST(DiscCheckTest, NoticesWhatACopyLacks)

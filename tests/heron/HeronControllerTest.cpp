@@ -66,6 +66,7 @@ public:
         m_bus.registerService(m_name);
     }
     int m_asked = 0;
+    QString m_label = u"HOLIDAY"_s;
 
 public slots:
     void GetManagedObjects(const QDBusMessage &call)
@@ -77,7 +78,7 @@ public slots:
         const Interfaces block{{u"org.freedesktop.UDisks2.Block"_s,
                                 {{u"Drive"_s, QVariant::fromValue(QDBusObjectPath(m_drive))},
                                  {u"PreferredDevice"_s, QByteArray("/dev/sr0", 9)},
-                                 {u"IdLabel"_s, u"HOLIDAY"_s}}}};
+                                 {u"IdLabel"_s, m_label}}}};
         const Objects objects{{QDBusObjectPath(m_drive), drive}, {QDBusObjectPath(m_drive + u"_block"_s), block}};
         m_bus.send(m_answers ? call.createReply(QVariant::fromValue(objects))
                              : call.createErrorReply(u"org.freedesktop.DBus.Error.Failed"_s, {}));
@@ -229,13 +230,43 @@ TEST_F(HeronControllerTest, ADiscIsShownWhileItIsInItsDrive)
     EXPECT_TRUE(QTest::qWaitFor([&] { return disks.m_asked > asked; }, 20000));
     QTest::qWait(100);
     EXPECT_TRUE(shows(1)) << "a service that does not answer";
+    m_module.markAppear();
+    m_module.onViewDidDisappear();
+    m_module.view()->show();
+    QTest::qWait(0);
+    disks.m_label = u"SECOND"_s;
+    setDisc(R"({"volume":"SECOND","titles":[{"title":1,"seconds":60,"main":true}]})");
+    disks.setDisc(true);
+    EXPECT_TRUE(QTest::qWaitFor([&] { return titles->topLevelItemCount() == 1; }, 20000))
+        << "another disc, where the host shows the module again that it showed before";
     disks.startAgain(false);
     EXPECT_TRUE(shows(0)) << "a service that was started again";
     ::kill(test::PrivateBus::instance().processId(), SIGKILL);
+    m_module.view()->hide();
     m_module.onViewDidDisappear();
+    QTest::qWait(0);
     m_module.markAppear();
     QTest::qWait(100);
     EXPECT_TRUE(shows(0)) << "a bus that is gone";
+}
+
+TEST_F(HeronControllerTest, RowsThatAreLeftStartByTheButtonAndTakeTheirImagesAlong)
+{
+    m_module.openFiles({});
+    DiscPlan plan{.source = m_settings.path(u"none.iso"_s), .way = DiscWay::Image};
+    plan.volume = u"HOLIDAY"_s;
+    JobQueue &queue = m_services.queue();
+    const QString folder = m_settings.path(u"left"_s), copy = folder + u"/.HOLIDAY.kestrel-copy.iso"_s;
+    ASSERT_TRUE(QDir().mkpath(folder));
+    test::writeFile(copy, "begun");
+    const JobId first = queue.add(discJob(plan, folder)), second = queue.add(discJob(plan, folder));
+    queue.remove({first});
+    EXPECT_TRUE(QFile::exists(copy)) << "the other goes on with it";
+    child<QPushButton>("startButton")->click();
+    EXPECT_NE(queue.record(second)->state, JobState::Ready);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return isEnded(queue.record(second)->state); }, 20000));
+    queue.remove({second});
+    EXPECT_EQ(QDir(folder).entryList(QDir::Files | QDir::Hidden), QStringList());
 }
 
 TEST_F(HeronControllerTest, SaysWhyADiscIsNotKeptAndIsQuickMeanwhile)

@@ -17,6 +17,18 @@ Navigation unit(quint32 start, quint32 end)
     return {.startTime = start, .endTime = end};
 }
 
+TEST(TitleClock, StandsBetweenCells)
+{
+    for (const quint32 next : {45000u, 0u}) {
+        TitleClock clock;
+        clock.enter(unit(0, 45000), Before::Everything);
+        clock.stand(90000);
+        clock.enter(unit(next, next + 45000), Before::Everything);
+        EXPECT_EQ(clock.start(), 135000) << next;
+        EXPECT_EQ(clock.end(), 180000);
+    }
+}
+
 TEST(TitleClock, GoesOnWhereAnotherClockBegins)
 {
     TitleClock clock(100);

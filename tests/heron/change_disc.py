@@ -29,10 +29,14 @@ class TitleSet:
         with open(self.base + "1.VOB", "wb") as file:
             file.write(self.film)
 
+    def chain(self, number):
+        """Where a chain stands in the tables."""
+        start = struct.unpack_from(">I", self.tables, 0xCC)[0] * SECTOR
+        return start + struct.unpack_from(">I", self.tables, start + 8 + 8 * number + 4)[0]
+
     def cells(self, chain):
         """Where the entries of a chain's cells stand in the tables."""
-        start = struct.unpack_from(">I", self.tables, 0xCC)[0] * SECTOR
-        program_chain = start + struct.unpack_from(">I", self.tables, start + 8 + 8 * chain + 4)[0]
+        program_chain = self.chain(chain)
         first = program_chain + struct.unpack_from(">H", self.tables, program_chain + 0xE8)[0]
         return [first + 24 * i for i in range(self.tables[program_chain + 3])]
 
@@ -151,6 +155,13 @@ def scramble(folder):
     image(folder, "scrambled")
 
 
+def swap_sound(folder):
+    titles = TitleSet(os.path.join(folder, "wide"))
+    struct.pack_into(">HH", titles.tables, titles.chain(0) + 0x0C, 0x8100, 0x8000)
+    titles.save()
+    image(folder, "wide")
+
+
 if __name__ == "__main__":
-    for change in (make_angles, interleave_angles, make_big, shorten_samples, scramble):
+    for change in (swap_sound, make_angles, interleave_angles, make_big, shorten_samples, scramble):
         change(sys.argv[1])

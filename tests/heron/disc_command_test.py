@@ -6,6 +6,7 @@ import filecmp
 import json
 import os
 import plistlib
+import struct
 import subprocess
 import tempfile
 import unittest
@@ -30,6 +31,12 @@ def probe(path):
 
 def tracks(found, kind):
     return [(s["codec_name"], s.get("tags", {}).get("language")) for s in found["streams"] if s["codec_type"] == kind]
+
+
+def packets(path, kind):
+    rows = subprocess.run(["ffprobe", "-v", "error", "-count_packets", "-select_streams", kind, "-show_entries", "stream=nb_read_packets",
+                           "-of", "csv=p=0", path], capture_output=True, text=True).stdout
+    return [int(row.strip(",")) for row in rows.split()]
 
 
 def length(found):
@@ -139,7 +146,7 @@ class WholeDisc(DiscCommand):
         self.assertEqual(self.left(), ["HOLIDAY_2026", "lower"])
 
     def test_main_title(self):
-        for name, title, facts in (("plain.iso", 2, ("4:3", "PAL")), ("steps.iso", 1, ("16:9", "NTSC"))):
+        for name, title, facts in (("plain.iso", 2, ("4:3", "PAL")), ("steps.iso", 1, ("16:9", "NTSC")), ("wide.iso", 1, ("16:9", "PAL"))):
             path = self.keep_one("copy", "--way", "main", disc(name))
             wanted, found = info(disc(name))["titles"][title - 1], info(path)["titles"]
             self.assertEqual((len(found), found[0]["aspect"], found[0]["standard"]), (1, *facts))
@@ -149,6 +156,10 @@ class WholeDisc(DiscCommand):
             self.assertEqual([round(start) for start in found[0]["chapters"]], [round(start) for start in wanted["chapters"]])
             for one, other in zip(found[0]["subtitles"], wanted["subtitles"]):
                 self.assertEqual(one["palette"][0], other["palette"][0])
+        sound = subprocess.run(["ffmpeg", "-v", "error", "-i", path + "/VIDEO_TS/VTS_01_1.VOB", "-map", "i:0x80", "-f", "s16le", "-ac", "1", "-t",
+                                "1", "-"], capture_output=True).stdout
+        signs = [sample < 0 for sample, in struct.iter_unpack("<h", sound)]
+        self.assertGreater(sum(a != b for a, b in zip(signs, signs[1:])), 2 * 700)  # English is the higher tone, once the second stream
 
 
 class Titles(DiscCommand):
@@ -168,6 +179,12 @@ class Titles(DiscCommand):
                                   "-f", "rawvideo", "-"], capture_output=True).stdout
         pixels = zip(picture[0::3], picture[1::3], picture[2::3])
         self.assertGreater(sum(r > 200 and g > 200 and b < 90 for r, g, b in pixels), 100)
+
+    def test_every_language_of_subtitles_is_there(self):
+        path = self.keep_one("copy", "--way", "mkv", disc("wide.iso"))
+        self.assertEqual((tracks(probe(path), "subtitle"), packets(path, "s")), ([("dvd_subtitle", "fre"), ("dvd_subtitle", "eng")], [2, 2]))
+        path = self.keep_one("copy", "--way", "mpeg", "--audio", "2", "--subtitles", "none", disc("wide.iso"))
+        self.assertEqual([stream["id"] for stream in probe(path)["streams"]], ["0x1e0", "0x80"])
 
     def test_all_kinds_of_sound(self):
         samples = {}
@@ -219,9 +236,7 @@ class Titles(DiscCommand):
             found = probe(path)
             self.assertAlmostEqual(length(found), 6, delta=0.1)
             self.assertEqual([chapter["tags"]["title"] for chapter in found["chapters"]], ["Chapter 1", "Chapter 2"])
-            counted = subprocess.run(["ffprobe", "-v", "error", "-count_packets", "-select_streams", "v", "-show_entries",
-                                      "stream=nb_read_packets", "-of", "csv=p=0", path], capture_output=True, text=True).stdout
-            self.assertEqual(counted.strip().strip(","), "144")
+            self.assertEqual(packets(path, "v"), [144])
 
     def test_sound_presets(self):
         path = self.keep_one("rip", "--preset", "mp3", "--titles", "1", disc("plain.iso"))

@@ -1,6 +1,7 @@
 #!/usr/bin/env python3
 """The disc tools over authored discs. KESTREL_DISC_TOOLS, KESTREL_DISCS and KESTREL_FAILING_READS say where things are."""
 
+import errno
 import filecmp
 import json
 import os
@@ -132,6 +133,15 @@ class DiscToImage(Case):
             self.assertEqual(copy.read(), source.read())
         self.assertEqual(os.listdir(self.folder), ["copy.iso"])
 
+    def test_a_drive_that_goes_away_is_no_scratch(self):
+        for error in (errno.ENODEV, errno.ENOMEDIUM):
+            code, last = self.copy(FAILING_FIRST=1003, FAILING_LAST=10 ** 6, FAILING_ERROR=error)
+            self.assertEqual((code, last), (3, {"error": "missing"}))
+            with open(self.path("copy.iso.map")) as file:
+                left = json.load(file)
+            self.assertEqual((left["position"], left["untried"], left["bad"]), (1003, [], []))
+        self.assertEqual(self.copy()[1]["result"]["continuedFrom"], 1003 * SECTOR)
+
     def test_leaves_alone_what_is_not_its_own(self):
         with open(self.path("copy.iso"), "w") as file:
             file.write("precious")
@@ -155,6 +165,12 @@ class DiscCover(Case):
                                    capture_output=True, text=True, check=True).stdout.strip()
             width, height = map(int, size.split(","))
             self.assertAlmostEqual(width / height, shape, delta=0.01)
+
+    def test_looks_at_the_begin_the_middle_and_the_end(self):
+        for first, missing in ((1000, [0, 6, 12]), (2000, [6, 12]), (2600, [12]), (3200, [])):
+            failing = {"FAILING_FILE": disc("plain.iso"), "FAILING_FIRST": first, "FAILING_LAST": 10 ** 6}
+            _, lines, _ = run("disccover", "--check", disc("plain.iso"), failing=failing)
+            self.assertEqual(lines[-1]["result"]["missing"], missing)
 
     def test_says_why_there_is_none(self):
         for arguments, error in ((["--title", "9"], "noTitle"), (["--ffmpeg", "/none"], "noPicture")):

@@ -1,5 +1,6 @@
 // Preloaded into a tool: reads of FAILING_FILE that touch the sectors FAILING_FIRST to FAILING_LAST fail as those of a
-// scratched disc do. With FAILING_TIMES they do so that often only. With KILLED_AT the process is killed when it reads
+// scratched disc do. With FAILING_TIMES they do so that often only; with FAILING_ERROR they fail
+// for another reason. With KILLED_AT the process is killed when it reads
 // that sector.
 
 #include <dlfcn.h>
@@ -50,6 +51,11 @@ ssize_t allowed(int descriptor, size_t size, long long offset)
     return -1;
 }
 
+int failure()
+{
+    return static_cast<int>(number("FAILING_ERROR", EIO));
+}
+
 template <typename Function>
 Function next(const char *name)
 {
@@ -63,7 +69,7 @@ extern "C" __attribute__((visibility("default"))) ssize_t pread64(int descriptor
 {
     static const auto original = next<ssize_t (*)(int, void *, size_t, off64_t)>("pread64");
     const ssize_t length = allowed(descriptor, size, offset);
-    errno = EIO;
+    errno = failure();
     return length < 0 ? -1 : original(descriptor, into, static_cast<size_t>(length), offset);
 }
 
@@ -71,6 +77,6 @@ extern "C" __attribute__((visibility("default"))) ssize_t read(int descriptor, v
 {
     static const auto original = next<ssize_t (*)(int, void *, size_t)>("read");
     const ssize_t length = allowed(descriptor, size, lseek64(descriptor, 0, SEEK_CUR));
-    errno = EIO;
+    errno = failure();
     return length < 0 ? -1 : original(descriptor, into, static_cast<size_t>(length));
 }

@@ -37,6 +37,20 @@ cat >plain.xml <<'X'
 <pgc><vob file="two-lines.mpg" chapters="0,3,6,9"/></pgc></titles></titleset></dvdauthor>
 X
 author plain HOLIDAY_2026
+
+# Each language of subtitles has a stream for wide screens and one for others; the sound is in other streams than its place tells
+cp two.mpg wide.mpg
+for stream in 0 1 2 3; do
+    spumux -s$stream lines.xml <wide.mpg >next.mpg 2>>spumux.log
+    mv next.mpg wide.mpg
+done
+cat >wide.xml <<'X'
+<dvdauthor dest="wide"><vmgm/><titleset><titles><video format="pal" aspect="16:9" widescreen="nopanscan"/><audio lang="en"/><audio lang="de"/>
+<subpicture lang="fr"><stream id="0" mode="widescreen"/><stream id="1" mode="letterbox"/></subpicture>
+<subpicture lang="en"><stream id="2" mode="widescreen"/><stream id="3" mode="letterbox"/></subpicture>
+<pgc><vob file="wide.mpg"><cell start="0" end="6" chapter="1" pause="5"/><cell start="6" chapter="1"/></vob></pgc></titles></titleset></dvdauthor>
+X
+dvdauthor -x wide.xml >>author.log 2>&1
 mkdir -p lower/video_ts
 for file in plain/VIDEO_TS/*; do cp "$file" "lower/video_ts/$(basename "$file" | tr A-Z a-z)"; done
 head -c $(($(stat -c %s plain.iso) / 2 / 2048 * 2048)) plain.iso >truncated.iso

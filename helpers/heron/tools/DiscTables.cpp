@@ -50,12 +50,16 @@ const pgc_t *chainOf(const ifo_handle_t &tables, int number)
     return chain && chain->cell_playback && chain->program_map ? chain : nullptr;
 }
 
-TitleCell cellOf(const cell_playback_t &cell, int chapter)
+TitleCell cellOf(const pgc_t &chain, int index, int chapter)
 {
+    const cell_playback_t &cell = chain.cell_playback[index];
+    const cell_position_t position = chain.cell_position ? chain.cell_position[index] : cell_position_t{};
     return {.firstSector = cell.first_sector,
             .lastSector = std::max(cell.first_sector, cell.last_sector),
             .seconds = secondsOf(cell.playback_time),
             .chapter = chapter,
+            .vob = position.vob_id_nr,
+            .number = position.cell_nr,
             .isInterleaved = cell.interleaved != 0,
             .hasOwnClock = cell.stc_discontinuity != 0,
             .stillSeconds = cell.still_time};
@@ -68,9 +72,9 @@ void appendCells(const pgc_t &chain, int firstCell, int endCell, int chapter, QL
         const cell_playback_t &cell = chain.cell_playback[i];
         const bool isOtherAngle = cell.block_type == BLOCK_TYPE_ANGLE_BLOCK && cell.block_mode > BLOCK_MODE_FIRST_CELL;
         if (isOtherAngle && i > firstCell && cells.last().size() < 9)
-            cells.last().append(cellOf(cell, chapter));
+            cells.last().append(cellOf(chain, i, chapter));
         else if (!isOtherAngle)
-            cells.append({cellOf(cell, chapter)});
+            cells.append({cellOf(chain, i, chapter)});
     }
 }
 
@@ -118,6 +122,10 @@ void describe(const ifo_handle_t &tables, const ttu_t &entry, const TitleLayout 
         for (; chapter < cell.chapter; ++chapter)
             title.chapters.append(rounded(title.seconds));
         title.seconds += cell.seconds;
+        if (const int standing = cell.standingSeconds()) {
+            title.stills.append({rounded(title.seconds), standing});
+            title.seconds += standing;
+        }
         title.bytes +=
             (qint64(cell.lastSector) - cell.firstSector + 1) * sectorBytes / (cell.isInterleaved ? choice.size() : 1);
         title.angles = std::max(title.angles, static_cast<int>(choice.size()));

@@ -89,6 +89,17 @@ QByteArray pictureAt(FilmFile &film, quint32 sector)
     return {};
 }
 
+quint32 placeBefore(const QList<TitleCell> &cells, double share)
+{
+    const quint32 place = placesIn(cells, {std::min(share, 0.9999)}).value(0);
+    const auto cell = std::find_if(cells.begin(), cells.end(), [place](const TitleCell &each) {
+        return place >= each.firstSector && place <= each.lastSector;
+    });
+    if (cell == cells.end())
+        return place;
+    return std::max<quint32>(cell->firstSector, place - std::min<quint32>(place, sectorsOfUnit));
+}
+
 QList<quint32> placesIn(const QList<TitleCell> &cells, const QList<double> &shares)
 {
     qint64 all = 0;

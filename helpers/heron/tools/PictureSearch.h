@@ -26,6 +26,9 @@ QByteArray videoAt(FilmFile &film, quint32 first, int count);
 /// The first whole picture behind a sector, as a stream of its own that a decoder takes. Empty where there is none.
 QByteArray pictureAt(FilmFile &film, quint32 sector);
 
+/// The sector from which the last unit before a share of a title's length is found: at its begin and at its end too.
+quint32 placeBefore(const QList<TitleCell> &cells, double share);
+
 /// The sectors at the given shares of a title's length, in play order.
 QList<quint32> placesIn(const QList<TitleCell> &cells, const QList<double> &shares);
 

@@ -6,6 +6,7 @@
 #include <QFile>
 
 #include <fcntl.h>
+#include <linux/cdrom.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -27,6 +28,13 @@ constexpr int attempts = 3;
 constexpr int millisecondsOfReport = 250, millisecondsOfSave = 2000;
 
 volatile std::sig_atomic_t s_isStopped = 0;
+
+// False for what is no drive.
+bool isEmptyDrive(int descriptor)
+{
+    const int status = ioctl(descriptor, CDROM_DRIVE_STATUS, CDSL_CURRENT);
+    return status == CDS_NO_DISC || status == CDS_TRAY_OPEN;
+}
 
 }  // namespace
 
@@ -71,7 +79,7 @@ std::optional<DiscError> SectorCopy::openSource()
     posix_fadvise(m_source, 0, 0, POSIX_FADV_SEQUENTIAL);
     m_sectors = (m_map.bytes + sectorBytes - 1) / sectorBytes;
     m_map.fingerprint = fingerprint();
-    return std::nullopt;
+    return m_isGone ? std::optional(DiscError::Missing) : std::nullopt;
 }
 
 // Of the volume's descriptors and what follows them, which no two discs share.
@@ -140,7 +148,7 @@ std::optional<DiscError> SectorCopy::copyForward()
         const qint64 came = read(range);
         if (came > 0 && !write(range.first, came))
             return targetErrorOf(errno);
-        if (came == 0) {
+        if (came == 0 && !m_isGone) {
             if (const auto error = copyAround(range))
                 return error;
         } else {
@@ -155,6 +163,7 @@ std::optional<DiscError> SectorCopy::copyForward()
 // A run whose first sector fails: what can be had of it at once, the rest is for later.
 std::optional<DiscError> SectorCopy::copyAround(SectorRange range)
 {
+    const QList<SectorRange> untried = m_map.untried;
     int failures = 0;
     const qint64 end = range.first + range.count;
     for (qint64 at = range.first; at < end;) {
@@ -166,8 +175,10 @@ std::optional<DiscError> SectorCopy::copyAround(SectorRange range)
         if (came < block.count)
             append(m_map.untried, {at + came, block.count - came});
         at += block.count;
-        if (s_isStopped)
+        if (isOver()) {
+            m_map.untried = untried;
             return pause();  // all of the run is read again
+        }
     }
     m_map.position = end;
     return std::nullopt;
@@ -176,6 +187,7 @@ std::optional<DiscError> SectorCopy::copyAround(SectorRange range)
 std::optional<DiscError> SectorCopy::tryAgain()
 {
     while (!m_map.untried.isEmpty()) {
+        const QList<SectorRange> bad = m_map.bad;
         const SectorRange range = m_map.untried.first();
         const SectorRange block{range.first, std::min(sectorsOfBlock, range.count)};
         const qint64 came = read(block);
@@ -184,6 +196,10 @@ std::optional<DiscError> SectorCopy::tryAgain()
         if (came < block.count)
             if (const auto error = tryAgainSlowly(block))
                 return error;
+        if (m_isGone) {
+            m_map.bad = bad;
+            return pause();  // all of the block is read again
+        }
         m_map.untried.first() = {range.first + block.count, range.count - block.count};
         if (m_map.untried.first().count == 0)
             m_map.untried.removeFirst();
@@ -195,9 +211,9 @@ std::optional<DiscError> SectorCopy::tryAgain()
 
 std::optional<DiscError> SectorCopy::tryAgainSlowly(SectorRange range)
 {
-    for (qint64 at = range.first; at < range.first + range.count; ++at) {
+    for (qint64 at = range.first; at < range.first + range.count && !m_isGone; ++at) {
         qint64 came = 0;
-        for (int attempt = 0; attempt < attempts && came == 0; ++attempt)
+        for (int attempt = 0; attempt < attempts && came == 0 && !m_isGone; ++attempt)
             came = read({at, 1});
         if (came == 0)
             append(m_map.bad, {at, 1});
@@ -219,6 +235,7 @@ qint64 SectorCopy::read(SectorRange range)
         fcntl(m_source, F_SETFL, fcntl(m_source, F_GETFL) & ~O_DIRECT);
         bytes = readOnce();
     }
+    m_isGone = bytes < 0 && (sourceErrorOf(errno) == DiscError::Missing || (errno == EIO && isEmptyDrive(m_source)));
     if (bytes <= 0)
         return 0;
     const bool isEnd = range.first * sectorBytes + bytes >= m_map.bytes;
@@ -239,13 +256,20 @@ bool SectorCopy::write(qint64 firstSector, qint64 sectors)
     return true;
 }
 
+bool SectorCopy::isOver() const
+{
+    return m_isGone || s_isStopped;
+}
+
 std::optional<DiscError> SectorCopy::pause()
 {
     if (m_sinceReport.elapsed() >= millisecondsOfReport)
         report();
-    if (s_isStopped || m_sinceSave.elapsed() >= millisecondsOfSave)
+    if (isOver() || m_sinceSave.elapsed() >= millisecondsOfSave)
         if (!saveMap())
             return targetErrorOf(errno);
+    if (m_isGone)
+        return DiscError::Missing;
     return s_isStopped ? std::optional(DiscError::Stopped) : std::nullopt;
 }
 

@@ -36,7 +36,9 @@ private:
     /// Sectors that came, from the first on; 0 where the first cannot be read.
     qint64 read(SectorRange range);
     bool write(qint64 firstSector, qint64 sectors);
+    /// Ends the copy where it was asked to, or where the source is gone, with its map saved.
     std::optional<DiscError> pause();
+    bool isOver() const;
     bool saveMap();
     bool writeList() const;
     void report();
@@ -47,7 +49,8 @@ private:
     std::unique_ptr<uchar, Free> m_buffer;
     CopyMap m_map;
     qint64 m_sectors = 0;
-    qint64 m_copied = 0;  ///< bytes in this run
+    bool m_isGone = false;  ///< the source
+    qint64 m_copied = 0;    ///< bytes in this run
     QElapsedTimer m_clock, m_sinceReport, m_sinceSave;
 };
 

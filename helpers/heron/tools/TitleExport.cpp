@@ -82,10 +82,13 @@ int TitleExport::write()
     }
     m_buffer.reserve(bufferBytes + sectorBytes);
     m_sinceReport.start();
-    for (const TitleCell &cell : m_cells) {
+    for (const TitleCell &cell : std::as_const(m_cells)) {
         const auto visit = [&](Sector sector, bool afterLoss) { return take(sector, cell, afterLoss); };
         if (!m_reading.read(cell, visit))
             return m_run.fail(m_error.value_or(DiscError::Write));
+        // Whoever takes the navigation packs sets the cells' still times anew.
+        if (m_clock.hasBegun() && !m_wish.keepsNavigation && &cell != &m_cells.constLast())
+            m_clock.stand(cell.standingSeconds() * ticksPerSecond);
     }
     if (!flush() || (m_subtitles && !m_subtitles->close()))
         return m_run.fail(m_error.value_or(DiscError::Write));
@@ -131,13 +134,20 @@ bool TitleExport::takeFilm(Sector sector)
         std::any_of(packets.begin(), packets.end(), [](const Packet &packet) { return packet.isScrambled; });
     if (isScrambled && ++m_scrambled >= enoughScrambled)
         return giveUp(DiscError::Protected);
-    if (isSoundOfBefore(packets))
+    const auto isWantedHere = [this](const Packet &packet) { return isWanted(packet); };
+    if (std::none_of(packets.begin(), packets.end(), isWantedHere) || isSoundOfBefore(packets))
         return true;
     moveClocks(sector, m_clock.move());
     packets = packetsOf(sector);
-    for (const Packet &packet : packets)
+    for (Packet &packet : packets) {
         if (m_subtitles && packet.isSubtitle() && !m_subtitles->add(sector, packet))
             return giveUp(DiscError::Write);
+        if (packet.isPicture() || !isWanted(packet))
+            continue;
+        m_streams.insert(packet.streamId);
+        if (m_wish.streams)
+            setStream(packet, m_wish.streams->at(packet.streamId));
+    }
     return append(sector);
 }
 
@@ -146,6 +156,11 @@ bool TitleExport::append(Sector sector)
     keepPackClockAhead(sector, m_packClock);
     m_buffer.append(reinterpret_cast<const char *>(sector.data()), sectorBytes);
     return m_buffer.size() < bufferBytes || flush();
+}
+
+bool TitleExport::isWanted(const Packet &packet) const
+{
+    return packet.isPicture() || !m_wish.streams || m_wish.streams->contains(packet.streamId);
 }
 
 // Where two pieces meet, the sound of the first may reach into the second: what would be played at the same time, or
@@ -201,13 +216,16 @@ void TitleExport::report()
 
 QJsonObject TitleExport::result() const
 {
-    QJsonArray chapters;
+    QJsonArray chapters, streams;
     for (const double start : m_chapters)
         chapters.append(start);
+    for (const int stream : m_streams)
+        streams.append(stream);
     return {{u"bytes"_s, m_written},
             {u"seconds"_s, secondsOfTicks(m_clock.end() - m_zero)},
             {u"start"_s, secondsOfTicks(m_zero)},
             {u"chapters"_s, chapters},
+            {u"streams"_s, streams},
             {u"joints"_s, m_clock.joints()},
             {u"lostSectors"_s, m_reading.lostSectors()},
             {u"emptySectors"_s, m_emptySectors},

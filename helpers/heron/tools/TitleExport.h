@@ -9,6 +9,8 @@
 
 #include <map>
 #include <memory>
+#include <optional>
+#include <set>
 
 namespace kestrel::disc {
 
@@ -21,6 +23,8 @@ struct TitleWish {
     int angle = 1;
     QString subtitlePrefix;        ///< where its subtitles go as files; empty for nowhere
     bool keepsNavigation = false;  ///< whether the disc's own navigation packs stay in the stream
+    /// The streams of sound and subtitles that are wanted, and under which numbers; nothing for all, as they are.
+    std::optional<std::map<int, int>> streams;
 };
 
 /// Writes the program stream of a title's cells in play order, on one clock that goes through.
@@ -37,6 +41,7 @@ private:
     bool take(Sector sector, const TitleCell &cell, bool afterLoss);
     bool takeFilm(Sector sector);
     bool isSoundOfBefore(const Packets &packets);
+    bool isWanted(const Packet &packet) const;
     bool append(Sector sector);
     bool flush();
     bool giveUp(DiscError error);
@@ -53,6 +58,7 @@ private:
     QByteArray m_buffer;
     QElapsedTimer m_sinceReport;
     std::map<int, qint64> m_soundTimes;  ///< the latest of each track
+    std::set<int> m_streams;             ///< that came, but for the picture
     QList<double> m_chapters;
     std::optional<qint64> m_packClock;  ///< of the last pack
     std::optional<DiscError> m_error;

@@ -1,6 +1,7 @@
 #include "TitleReading.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace kestrel::disc {
 
@@ -52,9 +53,11 @@ bool TitleReading::readRun(qint64 first, qint64 last, const Visit &visit)
     return true;
 }
 
-// From unit to unit of the same angle. What stands between belongs to the others.
+// From unit to unit of the same angle. What stands between belongs to the others, whose units are also met where one of
+// its own is lost.
 bool TitleReading::readInterleaved(const TitleCell &cell, const Visit &visit)
 {
+    std::pair own(cell.vob, cell.number);
     for (qint64 at = cell.firstSector; at <= cell.lastSector;) {
         const int came = m_film.read(static_cast<quint32>(at), 1, m_buffer.data());
         const auto unit = came ? navigationOf(Sector(m_buffer.data(), sectorBytes)) : std::nullopt;
@@ -62,6 +65,12 @@ bool TitleReading::readInterleaved(const TitleCell &cell, const Visit &visit)
             m_lost += 1;
             m_afterLoss = true;
             ++at;  // until the next unit begins
+            continue;
+        }
+        if (at == cell.firstSector || own == std::pair(0, 0))
+            own = {unit->vob, unit->cell};
+        if (own != std::pair(unit->vob, unit->cell)) {
+            at += unit->lastSector + 1;
             continue;
         }
         if (!readRun(at, std::min<qint64>(at + unit->lastSector, cell.lastSector), visit))

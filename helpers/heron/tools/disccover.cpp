@@ -1,5 +1,7 @@
 // disccover [--title N] [--ffmpeg PATH] SOURCE TARGET: writes a picture that stands for the film, or for one of its
 // titles.
+// disccover --check [--ffmpeg PATH] SOURCE: looks for a picture at the film's begin, in its middle and at its end, and
+// tells the seconds of those where none could be decoded.
 
 #include "DiscTables.h"
 #include "FrameDecoder.h"
@@ -10,6 +12,7 @@
 #include <QCommandLineParser>
 #include <QFile>
 #include <QFileInfo>
+#include <QJsonArray>
 
 #include <algorithm>
 
@@ -50,6 +53,18 @@ std::optional<DiscError> makeCover(const DiscTitle &title, const QList<TitleCell
     return std::nullopt;
 }
 
+QJsonArray placesWithoutPicture(const DiscTitle &title, const QList<TitleCell> &cells, FilmFile film,
+                                const FrameDecoder &decoder)
+{
+    QJsonArray seconds;
+    for (const double share : {0.0, 0.5, 1.0}) {
+        const QByteArray video = pictureAt(film, placeBefore(cells, share));
+        if (video.isEmpty() || decoder.shades(video).isEmpty())
+            seconds.append(share * title.seconds);
+    }
+    return seconds;
+}
+
 }  // namespace
 
 int main(int argumentCount, char **argumentValues)
@@ -59,8 +74,10 @@ int main(int argumentCount, char **argumentValues)
     for (int i = 0; i < argumentCount; ++i)
         arguments.append(QFile::decodeName(argumentValues[i]));
     QCommandLineParser parser;
-    parser.addOptions({{u"title"_s, {}, u"number"_s}, {u"ffmpeg"_s, {}, u"path"_s}});
-    if (!parser.parse(arguments) || parser.positionalArguments().size() != 2)
+    parser.addOptions({{u"title"_s, {}, u"number"_s}, {u"ffmpeg"_s, {}, u"path"_s}, {u"check"_s, {}}});
+    const bool isGood = parser.parse(arguments);
+    const bool checks = parser.isSet(u"check"_s);
+    if (!isGood || parser.positionalArguments().size() != (checks ? 1 : 2))
         return run.fail(DiscError::Usage);
     run.limit({.seconds = 120, .processorSeconds = 15, .memory = qint64(1) << 30});
 
@@ -78,9 +95,14 @@ int main(int argumentCount, char **argumentValues)
     auto film = FilmFile::open(*source, layout.titleSet);
     if (!film)
         return run.fail(film.reason());
-    const auto error =
-        makeCover(*title, layout.played(1, 1, 999), std::move(*film),
-                  FrameDecoder(ffmpegBesides(parser.value(u"ffmpeg"_s))), parser.positionalArguments()[1]);
+    const QList<TitleCell> cells = layout.played(1, 1, 999);
+    const FrameDecoder decoder(ffmpegBesides(parser.value(u"ffmpeg"_s)));
+    if (checks) {
+        const QJsonArray missing = placesWithoutPicture(*title, cells, std::move(*film), decoder);
+        run.line({{u"result"_s, QJsonObject{{u"title"_s, title->number}, {u"missing"_s, missing}}}});
+        return 0;
+    }
+    const auto error = makeCover(*title, cells, std::move(*film), decoder, parser.positionalArguments()[1]);
     if (error)
         return run.fail(*error);
     run.line({{u"result"_s, QJsonObject{{u"title"_s, title->number}}}});

@@ -1,7 +1,8 @@
-// disctitle [--title N] [--chapters FIRST-LAST] [--angle N] [--subtitles PREFIX] [--navigation] [--streams] SOURCE
+// disctitle [--title N] [--chapters FIRST-LAST] [--angle N] [--tracks FROM=TO,…] [--subtitles PREFIX] [--navigation]
+//     [--streams] SOURCE
 // Writes the program stream of a title to standard output, on one clock, and JSON lines about it to standard error;
-// with
-// --streams only says, on standard output, what an encoder must know about the title.
+// with --tracks only those streams of sound and subtitles, under these numbers (0x81=0x80); with --streams only says,
+// on standard output, what an encoder must know about the title.
 
 #include "PictureSearch.h"
 #include "TitleExport.h"
@@ -27,6 +28,7 @@ std::optional<Request> requestOf(const QStringList &arguments)
     parser.addOptions({{u"title"_s, {}, u"number"_s},
                        {u"chapters"_s, {}, u"range"_s},
                        {u"angle"_s, {}, u"number"_s},
+                       {u"tracks"_s, {}, u"streams"_s},
                        {u"subtitles"_s, {}, u"prefix"_s},
                        {u"navigation"_s, {}},
                        {u"streams"_s, {}}});
@@ -44,6 +46,13 @@ std::optional<Request> requestOf(const QStringList &arguments)
     };
     request.wish.title = number(parser.value(u"title"_s), 0);
     request.wish.angle = number(parser.value(u"angle"_s), 1);
+    if (parser.isSet(u"tracks"_s))
+        request.wish.streams.emplace();
+    for (const QString &track : parser.value(u"tracks"_s).split(u',', Qt::SkipEmptyParts)) {
+        const int from = track.section(u'=', 0, 0).toInt(nullptr, 0), to = track.section(u'=', -1).toInt(nullptr, 0);
+        isGood &= from >= 0x20 && from < 0x1e0 && to >= 0x20 && to < 0x1e0;
+        request.wish.streams->emplace(from, to);
+    }
     const QString chapters = parser.value(u"chapters"_s);
     request.wish.firstChapter = number(chapters.section(u'-', 0, 0), 1);
     request.wish.lastChapter = number(chapters.section(u'-', -1), 999);
@@ -66,7 +75,7 @@ QJsonArray cellsOf(const QList<TitleCell> &cells)
                                  {u"lastSector"_s, qint64(cell.lastSector)},
                                  {u"ownClock"_s, cell.hasOwnClock},
                                  {u"still"_s, cell.stillSeconds}});
-        start += cell.seconds;
+        start += cell.seconds + cell.standingSeconds();
     }
     return array;
 }

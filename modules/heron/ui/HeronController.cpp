@@ -2,13 +2,18 @@
 
 #include "DiscView.h"
 
+#include "foundation/Queues.h"
 #include "jobs/DiskSpace.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobPage.h"
 #include "jobs/ui/JobRowDelegate.h"
+#include "media/OwnPresets.h"
 #include "modules/ModuleRow.h"
 #include "modules/common/LateView.h"
 #include "modules/common/MediaPlayer.h"
+#include "modules/common/PresetChooser.h"
+#include "modules/common/PresetDialog.h"
+#include "modules/heron/DiscImageJob.h"
 #include "modules/heron/DiscList.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
@@ -20,10 +25,10 @@
 #include <QFileDialog>
 #include <QFileInfo>
 #include <QPushButton>
+#include <QSet>
 #include <QThread>
 
 #include <algorithm>
-#include <numeric>
 
 using namespace Qt::StringLiterals;
 
@@ -105,9 +110,13 @@ void HeronController::markAppear()
     m_drives.start();
 }
 
+/// A turn later: the host also says so where it shows this module again at once.
 void HeronController::onViewDidDisappear()
 {
-    m_drives.stop();
+    foundation::queue::asyncMain([self = QPointer(this)] {
+        if (self && self->m_view->isHidden())
+            self->m_drives.stop();
+    });
 }
 
 void HeronController::openFiles(const QStringList &paths)
@@ -143,6 +152,11 @@ void HeronController::openSource(const QString &source)
     if (source.isEmpty())
         return;
     m_source = source;
+    m_openedLabel.clear();
+    for (const DiscDrive &drive : m_drives.drives()) {
+        if (drive.device == source)
+            m_openedLabel = drive.label;
+    }
     m_contents.reset();
     m_pictures.stop();
     m_disc->showReading(QFileInfo(source).fileName());
@@ -195,11 +209,14 @@ void HeronController::showDrives()
         m_contents.reset();
         m_disc->clear();
     }
-    m_driveBox->setCurrentIndex(m_driveBox->findData(m_source));
-    if (m_source.isEmpty() && !drives.isEmpty()) {
-        m_driveBox->setCurrentIndex(0);
-        openSource(drives.first().device);
-    }
+    const auto inDrive = [this](const DiscDrive &drive) { return drive.device == m_source; };
+    auto drive = std::find_if(drives.begin(), drives.end(), inDrive);
+    const bool isChanged = drive != drives.end() && drive->label != m_openedLabel;
+    if (m_source.isEmpty())
+        drive = drives.begin();
+    m_driveBox->setCurrentIndex(drive == drives.end() ? -1 : int(drive - drives.begin()));
+    if (drive != drives.end() && (m_source.isEmpty() || isChanged))
+        openSource(drive->device);
     showChoice();
 }
 
@@ -208,10 +225,31 @@ DiscWay HeronController::way() const
     return DiscWay(m_ways->currentData().toInt());
 }
 
+const Preset *HeronController::presetNamed(const QString &id) const
+{
+    const Preset *own = m_ownPresets->presetOfId(id);
+    return own ? own : presetOfId(id);
+}
+
 Preset HeronController::preset() const
 {
-    const Preset *preset = presetOfId(m_presets->currentData().toString());
+    const Preset *preset = presetNamed(m_presetId);
     return preset ? *preset : builtInPresets().first();
+}
+
+void HeronController::choosePreset(const QString &id)
+{
+    m_presetId = id;
+    const Preset chosen = preset();
+    m_presets->showPreset(&chosen);
+    showChoice();
+}
+
+void HeronController::showFormats()
+{
+    auto *dialog = new PresetDialog(*m_ownPresets, draft().transcode, m_page->window());
+    connect(dialog, &PresetDialog::chosen, this, &HeronController::choosePreset);
+    dialog->open();
 }
 
 QList<disc::DiscTitle> HeronController::chosenTitles() const
@@ -238,9 +276,7 @@ void HeronController::showChoice()
     m_disc->setChoosing(!takesWholeDisc(way()), way() == DiscWay::Rip && preset().takesVideo());
     const QList<disc::DiscTitle> titles = chosenTitles();
     const bool isFolder = QFileInfo(m_source).isDir();
-    const bool canMake =
-        m_contents && (takesWholeDisc(way()) ? !(isFolder && way() == DiscWay::Image) : !titles.isEmpty());
-    m_page->setStartEnabled(canMake);
+    m_canMake = m_contents && (takesWholeDisc(way()) ? !(isFolder && way() == DiscWay::Image) : !titles.isEmpty());
     const auto row = std::find_if(discWayRows().begin(), discWayRows().end(),
                                   [this](const DiscWayRow &candidate) { return candidate.way == way(); });
     QString text = row->sentence.localized();
@@ -266,8 +302,8 @@ void HeronController::showSizes()
         m_ways->setItemText(
             index++, row.way == DiscWay::Rip ? row.name.localized() : named(row.name.localized(), row.way, preset()));
     for (index = 0; index < m_presets->count(); ++index) {
-        if (const Preset *preset = presetOfId(m_presets->itemData(index).toString()))
-            m_presets->setItemText(index, named(preset->name, DiscWay::Rip, *preset));
+        if (const Preset *preset = presetNamed(m_presets->itemData(index).toString()))
+            m_presets->setItemText(index, u"  "_s + named(preset->name, DiscWay::Rip, *preset));
     }
 }
 
@@ -280,6 +316,20 @@ void HeronController::showArea()
     m_ways->setEnabled(m_contents.has_value());
     m_presets->setEnabled(m_contents.has_value());
     m_optionsButton->setVisible(m_contents.has_value());
+    m_page->setStartEnabled(m_canMake || !openJobs().isEmpty());
+}
+
+/// What is wanted of any title.
+DiscPlan HeronController::draft() const
+{
+    DiscPlan plan;
+    plan.source = m_source;
+    plan.way = way();
+    plan.transcode.preset = preset();
+    applySettings(*m_settings, QThread::idealThreadCount(), plan);
+    if (plan.way == DiscWay::Rip && m_ownPresets->presetOfId(m_presetId))
+        m_ownPresets->apply(m_presetId, plan.transcode);
+    return plan;
 }
 
 QList<DiscPlan> HeronController::plans() const
@@ -287,11 +337,7 @@ QList<DiscPlan> HeronController::plans() const
     QList<DiscPlan> plans;
     const QList<int> numbers = takesWholeDisc(way()) ? QList<int>{0} : m_disc->chosenTitles();
     for (const int number : numbers) {
-        DiscPlan plan;
-        plan.source = m_source;
-        plan.way = way();
-        plan.transcode.preset = preset();
-        applySettings(*m_settings, QThread::idealThreadCount(), plan);
+        DiscPlan plan = draft();
         if (number > 0)
             m_disc->fillIn(number, plan);
         describeDisc(*m_contents, plan);
@@ -365,10 +411,7 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
         *obstacle = "The disc tools could not be started. Please install the application again."_key.localized();
         return false;
     }
-    const qint64 needed =
-        std::accumulate(plans.begin(), plans.end(), qint64(0),
-                        [](qint64 most, const DiscPlan &plan) { return std::max(most, expectedBytesOf(plan)); }) +
-        resultBytes(way(), preset(), *m_contents, chosenTitles());
+    const qint64 needed = neededBytes(plans, *m_contents);
     const auto space = diskSpaceOf(discFolder(*m_settings, plans.first()));
     if (!space || space->available >= needed)
         return true;
@@ -380,10 +423,34 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
     return false;
 }
 
+/// What broken-off copies left goes with the last of their rows.
+void HeronController::removeLeftImages(const QString &module, int row, int count)
+{
+    if (module != heronJobs)
+        return;
+    QSet<QString> removed, kept;
+    const QList<JobId> &order = queue().order(module);
+    for (int index = 0; index < order.size(); ++index)
+        (index >= row && index < row + count ? removed : kept).insert(brokenOffImage(*queue().record(order[index])));
+    for (const QString &path : removed.subtract(kept)) {
+        if (!path.isNull())
+            removeBrokenOffImage(path);
+    }
+}
+
+/// What the button starts where no disc is in view.
+QList<JobId> HeronController::openJobs()
+{
+    return m_source.isEmpty() ? queue().idsIn({JobState::Ready, JobState::Interrupted}, heronJobs.toString())
+                              : QList<JobId>();
+}
+
 void HeronController::begin()
 {
     const QList<DiscPlan> wanted = m_contents ? plans() : QList<DiscPlan>();
-    if (wanted.isEmpty() || !m_page->startButton()->isEnabled())
+    if (wanted.isEmpty())
+        return queue().start(openJobs());
+    if (!m_page->startButton()->isEnabled())
         return;
     QString obstacle;
     if (canStart(wanted, &obstacle)) {

@@ -22,6 +22,8 @@ class JobPage;
 class JobQueue;
 class LateView;
 class MediaPlayer;
+class OwnPresets;
+class PresetChooser;
 
 /// The DVD module: a disc, its titles and the way to keep them above the list of jobs. Drives are watched while the
 /// module is open; what is in one that was put in last is shown where no disc is.
@@ -69,10 +71,16 @@ private:
     void playFilm(const DiscPlan &plan, const QStringList &choice, const QString &name);
 
     DiscWay way() const;
+    const Preset *presetNamed(const QString &id) const;
     Preset preset() const;
+    void choosePreset(const QString &id);
+    void showFormats();
     QList<disc::DiscTitle> chosenTitles() const;
+    DiscPlan draft() const;
     QList<DiscPlan> plans() const;
     bool canStart(const QList<DiscPlan> &plans, QString *obstacle) const;
+    void removeLeftImages(const QString &module, int row, int count);
+    QList<JobId> openJobs();
     void begin();
 
     ModuleServices &m_services;
@@ -84,14 +92,19 @@ private:
     DiscDrives m_drives;
     QHash<QString, QPixmap> m_rowPictures;         ///< of the discs that were shown, by source and title
     QString m_source;                              ///< of the disc that is shown; null for none
+    QString m_openedLabel;                         ///< that its drive told of it, if it is in one
     std::optional<disc::DiscContents> m_contents;  ///< once it has answered
+    bool m_canMake = false;                        ///< of the disc what is chosen
     std::unique_ptr<LateView> m_view;
     // From the making of the view's contents on
     std::unique_ptr<DiscList> m_list;
     QPointer<JobPage> m_page;
     QPointer<DiscView> m_disc;
     QPointer<MediaPlayer> m_player;
-    QPointer<QComboBox> m_driveBox, m_ways, m_presets;
+    QPointer<QComboBox> m_driveBox, m_ways;
+    QPointer<PresetChooser> m_presets;
+    std::shared_ptr<OwnPresets> m_ownPresets;
+    QString m_presetId;  ///< that of a rip; null for the first
     QPointer<QPushButton> m_optionsButton;
 };
 

@@ -6,9 +6,12 @@
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
+#include "media/OwnPresets.h"
 #include "modules/common/MediaPlayer.h"
 #include "modules/common/OutputFolderLine.h"
+#include "modules/common/PresetChooser.h"
 #include "modules/heron/DiscList.h"
+#include "modules/marlin/Conversion.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/TabOrder.h"
 
@@ -69,6 +72,8 @@ std::unique_ptr<QWidget> HeronController::makeContents()
             [](const QString &title) { warn(Sentence("“%1” could not be played."_key, {title}).localized()); });
     connect(m_list.get(), &QAbstractItemModel::rowsInserted, this, &HeronController::showArea);
     connect(m_list.get(), &QAbstractItemModel::rowsRemoved, this, &HeronController::showArea);
+    connect(m_list.get(), &QAbstractItemModel::dataChanged, this, &HeronController::showArea);
+    connect(&queue(), &JobQueue::aboutToRemove, this, &HeronController::removeLeftImages);
     showDrives();
     showArea();
     tarnwell::tabInLayoutOrder(*page);
@@ -113,16 +118,20 @@ void HeronController::makeChoices()
     m_ways = new QComboBox;
     m_ways->setObjectName(u"wayComboBox"_s);
     m_ways->setAccessibleName("How the disc is kept"_key.localized());
-    for (const DiscWayRow &row : discWayRows())
+    for (const DiscWayRow &row : discWayRows()) {
         m_ways->addItem(row.name.localized(), int(row.way));
+        m_ways->setItemData(m_ways->count() - 1, row.sentence.localized(), Qt::ToolTipRole);
+    }
     connect(m_ways, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
     m_page->addChoice(m_ways);
-    m_presets = new QComboBox;
+    m_ownPresets = ownPresetsIn(foundation::UserDefaults::standardUserDefaults());
+    m_presets = new PresetChooser(*m_ownPresets);
     m_presets->setObjectName(u"targetComboBox"_s);
-    m_presets->setAccessibleName("Output format"_key.localized());
-    for (const Preset &preset : builtInPresets())
-        m_presets->addItem(preset.name, preset.id);
-    connect(m_presets, &QComboBox::currentIndexChanged, this, &HeronController::showChoice);
+    const Preset first = preset();
+    m_presets->showPreset(&first);
+    connect(m_presets, &PresetChooser::chosen, this, &HeronController::choosePreset);
+    connect(m_presets, &PresetChooser::allFormatsWanted, this, &HeronController::showFormats);
+    connect(m_ownPresets.get(), &OwnPresets::changed, this, [this] { choosePreset(preset().id); });
     m_page->addChoice(m_presets);
     auto *folder = new OutputFolderLine;
     folder->setDispatcher(m_settings);

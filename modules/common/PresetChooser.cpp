@@ -1,5 +1,6 @@
 #include "PresetChooser.h"
 
+#include "PresetDialog.h"
 #include "media/OwnPresets.h"
 #include "tarnwell/TextKey.h"
 
@@ -45,6 +46,7 @@ void PresetChooser::fill()
                 addHeading(presetGroupName(preset.group));
             group = preset.group;
             addItem(u"  "_s + preset.name, preset.id);
+            setItemData(count() - 1, presetLine(preset), Qt::ToolTipRole);
         }
     }
     insertSeparator(count());

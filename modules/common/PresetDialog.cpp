@@ -22,8 +22,14 @@ using tarnwell::operator""_key;
 
 const QString presetFilePattern = u"*.kestrel-preset"_s;
 
-/// "MKV with H.265  ·  mkv · H.265 · AAC": what is searched is what is shown.
-QString lineOf(const Preset &preset)
+QString fileFilter()
+{
+    return "Presets"_key.localized() + u" ("_s + presetFilePattern + u')';
+}
+
+}  // namespace
+
+QString presetLine(const Preset &preset)
 {
     QStringList facts{preset.extension.toUpper()};
     for (const QString &codec : {preset.videoCodec, preset.audioCodec}) {
@@ -33,13 +39,6 @@ QString lineOf(const Preset &preset)
     facts.removeDuplicates();
     return preset.name + u"   "_s + facts.join(u" · "_s);
 }
-
-QString fileFilter()
-{
-    return "Presets"_key.localized() + u" ("_s + presetFilePattern + u')';
-}
-
-}  // namespace
 
 PresetDialog::PresetDialog(OwnPresets &ownPresets, TranscodePlan plan, QWidget *parent)
     : QDialog(parent),
@@ -96,7 +95,7 @@ void PresetDialog::fill(const QString &selectedId)
     QString group;
     for (const QList<Preset> &presets : {m_ownPresets.presets(), allPresets()}) {
         for (const Preset &preset : presets) {
-            const QString line = lineOf(preset);
+            const QString line = presetLine(preset);  // what is searched is what is shown
             const auto isIn = [&](const QString &word) { return line.contains(word, Qt::CaseInsensitive); };
             if (!std::all_of(words.begin(), words.end(), isIn))
                 continue;

@@ -14,6 +14,9 @@ namespace kestrel {
 
 class OwnPresets;
 
+/// "MKV with H.265   MKV · H.265 · AAC"
+QString presetLine(const Preset &preset);
+
 /// Every format that can be made, with a search, and the keeping of own presets. Deletes itself when it is closed.
 class PresetDialog : public QDialog {
     Q_OBJECT
