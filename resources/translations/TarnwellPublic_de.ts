@@ -532,6 +532,10 @@
         <translation>Filme wählen</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>Filme auswählen …</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>Ordner auswählen</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>Wird konvertiert …</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>Wird umgewandelt … %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>Wird gestoppt …</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>Untertitelspur %1, die dieser Film nicht hat</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>Untertitel</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>In der fertigen Datei fehlen Untertitel.</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>Der Film ist da, aber Untertitel, Cover oder Kapitel konnten nicht hinzugefügt werden.</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>Der Film ist kopiergeschützt und wird nicht geladen.</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>Der Film ist kopiergeschützt und wird nicht geladen. Sehen Sie ihn auf seiner eigenen Seite an.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>Der Film ist nicht in der gewünschten Form vorhanden. Wählen Sie eine andere Auflösung oder ein anderes Format.</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>Der Film ist privat oder nur für Mitglieder und kann deshalb nicht geladen werden.</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>Der Film ist privat oder nur für Mitglieder und kann deshalb nicht geladen werden. Suchen Sie ihn unter einer anderen Adresse.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>Der Server gibt den Film nicht heraus. Versuchen Sie es später erneut, oder öffnen Sie die Seite in einem Browser, um den Grund zu sehen.</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>Der Server nimmt vorerst keine Anfragen mehr an. Versuchen Sie es in %1 Minuten noch einmal.</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>Der Server nimmt im Moment keine weiteren Anfragen an. Versuchen Sie es nach einer Weile erneut.</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>Das Zertifikat des Servers ist ungültig; möglicherweise gibt er sich für einen anderen aus. Es wurde nichts geladen.</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>Das Zertifikat des Servers ist ungültig; vielleicht ist er nicht, wer er zu sein vorgibt. Es wurde nichts geladen; prüfen Sie die Adresse und das Datum dieses Computers.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>Die Website hat sich geändert, und die Download-Engine kennt sie nicht mehr. Aktualisieren Sie die Engine, und versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>Die Website zeigt diesen Film nur angemeldeten Benutzern, und Kestrel meldet sich nicht an.</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>Die Seite zeigt diesen Film nur angemeldeten Besuchern; Kestrel meldet sich nicht an. Suchen Sie ihn unter einer anderen Adresse.</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>Die Website will zuerst das Alter des Zuschauers wissen, das sie nur durch eine Anmeldung erfährt.</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>Die Seite will zuerst das Alter des Zuschauers wissen, das sie nur durch eine Anmeldung erfährt. Suchen Sie den Film unter einer anderen Adresse.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>Die Untertitel fehlen: Die Seite hat sie nicht herausgegeben.</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>Die Untertitel, die ins Bild gezeichnet werden sollten, sind nicht in diesem Film.</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

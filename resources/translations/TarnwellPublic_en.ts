@@ -532,6 +532,10 @@
         <translation>Choose Films</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>Choose Films…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>Choose a Folder</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>Converting…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>Converting… %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>Stopping…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>Subtitle track %1, which this film does not have</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>Subtitles</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>Subtitles are missing in the finished file.</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>The film has come, but subtitles, cover or chapters could not be added to it.</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>The film is copy protected and is not downloaded.</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>The film is copy protected and is not downloaded. Watch it on its own site.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>The film is not there in the form that was wanted. Choose another resolution or format.</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>The film is private or for members only, so it cannot be downloaded.</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>The server refuses to hand out the film. Try again later, or open the page in a browser to see why.</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>The server takes no more requests for now. Try again in %1 minutes.</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>The server takes no more requests for now. Try again in a while.</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>The site has changed and the download engine does not know it any more. Update the engine and try again.</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>The site shows this film only to those who have logged in, which Kestrel does not do.</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>The site wants to know the viewer's age first, which it learns only from a log-in.</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>The subtitles are missing: the site did not hand them out.</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>The subtitles that were to be drawn into the picture are not in this film.</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

@@ -532,6 +532,10 @@
         <translation>Elegir películas</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>Elegir películas…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>Elegir una carpeta</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>Convirtiendo…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>Convirtiendo… %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>Deteniendo…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>La pista de subtítulos %1, que esta película no tiene</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>Subtítulos</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>Faltan subtítulos en el archivo terminado.</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>La película ha llegado, pero no se pudieron añadir los subtítulos, la carátula o los capítulos.</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>La película está protegida contra copia y no se descarga.</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>La película está protegida contra copia y no se descarga. Véala en su propio sitio.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>La película no está disponible en la forma deseada. Elija otra resolución u otro formato.</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>La película es privada o solo para miembros, por lo que no se puede descargar.</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>La película es privada o solo para miembros, por lo que no se puede descargar. Búsquela en otra dirección.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>El servidor se niega a entregar la película. Inténtelo más tarde o abra la página en un navegador para ver el motivo.</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>El servidor no acepta más solicitudes por ahora. Inténtelo de nuevo en %1 minutos.</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>El servidor no acepta más peticiones por ahora. Inténtelo de nuevo dentro de un rato.</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>El certificado del servidor no es válido, por lo que podría no ser quien dice ser. No se ha descargado nada.</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>El certificado del servidor no es válido, así que puede no ser quien dice ser. No se descargó nada; compruebe la dirección y la fecha de este ordenador.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>El sitio ha cambiado y el motor de descarga ya no lo reconoce. Actualice el motor e inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>El sitio solo muestra esta película a quien ha iniciado sesión, y Kestrel no lo hace.</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>El sitio muestra esta película solo a quienes han iniciado sesión, algo que Kestrel no hace. Búsquela en otra dirección.</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>El sitio pide primero la edad del espectador, que solo conoce mediante un inicio de sesión.</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>El sitio quiere saber primero la edad del espectador, que solo conoce si inicia sesión. Busque la película en otra dirección.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>Faltan los subtítulos: el sitio no los entregó.</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>Los subtítulos que debían dibujarse en la imagen no están en esta película.</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

@@ -532,6 +532,10 @@
         <translation>Choisir des films</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>Choisir les films…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>Choisir un dossier</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>Conversion…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>Conversion… %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>Arrêt en cours…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>La piste de sous-titres %1, que ce film n’a pas</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>Sous-titres</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>Des sous-titres manquent dans le fichier terminé.</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>Le film est arrivé, mais les sous-titres, la jaquette ou les chapitres n’ont pas pu être ajoutés.</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>Le film est protégé contre la copie et n’est pas téléchargé.</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>Le film est protégé contre la copie et n’est pas téléchargé. Regardez-le sur son propre site.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>Le film n’est pas disponible sous la forme souhaitée. Choisissez une autre résolution ou un autre format.</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>Le film est privé ou réservé aux membres ; il ne peut donc pas être téléchargé.</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>Le film est privé ou réservé aux membres et ne peut donc pas être téléchargé. Cherchez-le à une autre adresse.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>Le serveur refuse de fournir le film. Réessayez plus tard, ou ouvrez la page dans un navigateur pour en connaître la raison.</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>Le serveur n’accepte plus de demandes pour le moment. Réessayez dans %1 minutes.</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>Le serveur n’accepte plus de demandes pour le moment. Réessayez dans quelque temps.</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>Le certificat du serveur n’est pas valide ; il se peut que ce ne soit pas le bon serveur. Rien n’a été téléchargé.</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>Le certificat du serveur n’est pas valide : il n’est peut-être pas celui qu’il prétend être. Rien n’a été téléchargé ; vérifiez l’adresse et la date de cet ordinateur.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>Le site a changé et le moteur de téléchargement ne le reconnaît plus. Mettez le moteur à jour et réessayez.</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>Le site ne montre ce film qu’aux personnes connectées à un compte, ce que Kestrel ne fait pas.</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>Le site ne montre ce film qu’aux personnes connectées, ce que Kestrel ne fait pas. Cherchez-le à une autre adresse.</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>Le site demande d’abord l’âge du spectateur, qu’il n’apprend que par une connexion à un compte.</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>Le site veut d’abord connaître l’âge du spectateur, ce qu’il n’apprend que par une connexion. Cherchez le film à une autre adresse.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>Les sous-titres manquent : le site ne les a pas fournis.</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>Les sous-titres à incruster dans l’image ne sont pas dans ce film.</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

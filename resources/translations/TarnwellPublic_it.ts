@@ -532,6 +532,10 @@
         <translation>Scegli i filmati</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>Scegli i filmati…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>Scegli una cartella</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>Conversione…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>Conversione… %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>Interruzione…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>La traccia di sottotitoli %1, che questo filmato non ha</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>Sottotitoli</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>Nel file finito mancano dei sottotitoli.</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>Il film è arrivato, ma non è stato possibile aggiungere sottotitoli, copertina o capitoli.</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>Il filmato è protetto dalla copia e non viene scaricato.</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>Il filmato è protetto dalla copia e non viene scaricato. Guardalo sul suo sito.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>Il filmato non è disponibile nella forma voluta. Scegli un’altra risoluzione o un altro formato.</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>Il filmato è privato o riservato ai membri, quindi non può essere scaricato.</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>Il filmato è privato o solo per membri, quindi non può essere scaricato. Cercalo a un altro indirizzo.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>Il server rifiuta di fornire il filmato. Riprova più tardi o apri la pagina in un browser per scoprirne il motivo.</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>Il server per ora non accetta altre richieste. Riprova tra %1 minuti.</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>Per ora il server non accetta altre richieste. Riprova tra un po’.</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>Il certificato del server non è valido, quindi potrebbe non essere il server che dice di essere. Non è stato scaricato nulla.</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>Il certificato del server non è valido, quindi potrebbe non essere chi dice di essere. Non è stato scaricato nulla; controlla l’indirizzo e la data di questo computer.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>Il sito è cambiato e il motore di download non lo riconosce più. Aggiorna il motore e riprova.</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>Il sito mostra questo filmato solo a chi ha effettuato l’accesso, cosa che Kestrel non fa.</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>Il sito mostra questo filmato solo a chi ha effettuato l’accesso, cosa che Kestrel non fa. Cercalo a un altro indirizzo.</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>Il sito vuole prima conoscere l’età dello spettatore, che apprende solo tramite un accesso.</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>Il sito vuole prima conoscere l’età dello spettatore, che apprende solo da un accesso. Cerca il filmato a un altro indirizzo.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>I sottotitoli mancano: il sito non li ha forniti.</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>I sottotitoli da disegnare nell’immagine non sono in questo filmato.</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

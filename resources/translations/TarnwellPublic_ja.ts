@@ -532,6 +532,10 @@
         <translation>ビデオを選択</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>映像を選択…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>フォルダーを選択</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>変換中…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>変換中… %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>中止しています…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>この映像にない字幕トラック %1</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>字幕</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>完成したファイルに字幕が欠けています。</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>映像は届きましたが、字幕・カバー・チャプターを追加できませんでした。</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>このビデオはコピー保護されているため、ダウンロードされません。</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>この映像はコピー保護されているため、ダウンロードしません。元のサイトで視聴してください。</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>ご希望の形ではこのビデオを入手できません。別の解像度または形式を選んでください。</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>このビデオは非公開または会員限定のため、ダウンロードできません。</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>この映像は非公開か会員専用のため、ダウンロードできません。別のアドレスで探してください。</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>サーバーがビデオの提供を拒否しています。後でもう一度試すか、ブラウザでページを開いて理由を確認してください。</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>サーバーは現在これ以上の要求を受け付けません。%1 分後にもう一度お試しください。</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>サーバーは現在、要求を受け付けていません。しばらくしてからもう一度お試しください。</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>サーバーの証明書が無効なため、本物のサーバーではない可能性があります。何もダウンロードしていません。</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>サーバーの証明書が無効なため、本物ではないおそれがあります。何もダウンロードしていません。アドレスとこのコンピュータの日付を確認してください。</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>サイトが変更され、ダウンロードエンジンが対応できなくなりました。エンジンをアップデートして、もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>このサイトは、ログインした人にだけこのビデオを公開しています。Kestrelはログインを行いません。</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>サイトはこの映像をログインした人にのみ表示します。Kestrel はログインしません。別のアドレスで探してください。</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>このサイトでは視聴者の年齢確認が必要で、確認にはログインが必要です。</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>サイトはログインによる年齢確認を求めています。別のアドレスで探してください。</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>字幕がありません。サイトが提供しませんでした。</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>映像に焼き込むはずの字幕は、この映像にありません。</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

@@ -532,6 +532,10 @@
         <translation>비디오 선택</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>영상 선택…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>폴더 선택</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>변환 중…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>변환 중… %1%</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>중단하는 중…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>이 영상에 없는 자막 트랙 %1</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>자막</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>완성된 파일에 자막이 빠져 있습니다.</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>영상은 받았지만 자막, 표지 또는 챕터를 추가할 수 없었습니다.</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>이 비디오는 복사 방지되어 있어 다운로드하지 않습니다.</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>이 영상은 복사 방지되어 있어 다운로드하지 않습니다. 해당 사이트에서 시청하세요.</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>원하는 형태의 비디오가 없습니다. 다른 해상도나 포맷을 선택하십시오.</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>이 비디오는 비공개이거나 회원 전용이므로 다운로드할 수 없습니다.</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>비공개이거나 회원 전용 영상이라 다운로드할 수 없습니다. 다른 주소에서 찾아보세요.</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>서버가 비디오 제공을 거부합니다. 나중에 다시 시도하거나 브라우저에서 페이지를 열어 이유를 확인하십시오.</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>서버가 지금은 더 이상 요청을 받지 않습니다. %1분 후에 다시 시도하세요.</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>서버가 지금은 더 이상 요청을 받지 않습니다. 잠시 후에 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>서버의 인증서가 유효하지 않아 진짜 서버가 아닐 수 있습니다. 아무것도 다운로드하지 않았습니다.</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>서버의 인증서가 유효하지 않아 서버의 신원을 믿을 수 없습니다. 아무것도 다운로드하지 않았습니다. 주소와 이 컴퓨터의 날짜를 확인하세요.</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>사이트가 변경되어 다운로드 엔진이 더 이상 인식하지 못합니다. 엔진을 업데이트하고 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>이 사이트는 로그인한 사용자에게만 이 비디오를 제공하며 Kestrel은 로그인하지 않습니다.</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>사이트가 로그인한 사람에게만 이 영상을 보여 주는데 Kestrel은 로그인하지 않습니다. 다른 주소에서 찾아보세요.</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>이 사이트는 먼저 시청자의 나이를 확인하며, 확인하려면 로그인이 필요합니다.</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>사이트가 먼저 시청자의 나이를 확인하려 하는데, 이는 로그인해야만 가능합니다. 다른 주소에서 찾아보세요.</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>자막이 없습니다. 사이트가 제공하지 않았습니다.</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>화면에 그려 넣을 자막이 이 영상에 없습니다.</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

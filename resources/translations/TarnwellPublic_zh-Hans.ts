@@ -532,6 +532,10 @@
         <translation>选取影片</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>选择影片…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>选择文件夹</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>正在转换…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>正在转换… %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>正在停止…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>此影片没有的字幕轨 %1</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>字幕</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>完成的文件缺少字幕。</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>影片已下载，但无法添加字幕、封面或章节。</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>该影片受拷贝保护，不会下载。</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>该影片受拷贝保护，不会下载。请在其网站上观看。</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>没有所需形式的影片。请选取其他分辨率或格式。</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>该影片为私有或仅限会员观看，因此无法下载。</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>该影片为私密或仅限会员，无法下载。请在其他地址查找。</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>服务器拒绝提供该影片。请稍后重试，或在浏览器中打开该页面以了解原因。</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>服务器暂时不再接受请求。请在 %1 分钟后重试。</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>服务器暂时不再接受请求。请稍等片刻后重试。</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>服务器的证书无效，因此可能不是真正的服务器。未下载任何内容。</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>服务器的证书无效，其身份可能不实。未下载任何内容；请检查地址和本机日期。</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>该网站已更改，下载引擎不再认识它。请更新引擎，然后重试。</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>该网站只向已登录的用户提供此影片，而 Kestrel 不进行登录。</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>网站只向已登录者显示该影片，而 Kestrel 不会登录。请在其他地址查找。</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>该网站需要先知道观看者的年龄，只有登录才能得知。</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>网站要先确认观众年龄，这只能通过登录得知。请在其他地址查找。</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>缺少字幕：网站没有提供。</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>要画入画面的字幕不在此影片中。</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>

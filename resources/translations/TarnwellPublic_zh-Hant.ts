@@ -532,6 +532,10 @@
         <translation>選擇影片</translation>
     </message>
     <message>
+        <source>Choose Films…</source>
+        <translation>選擇影片…</translation>
+    </message>
+    <message>
         <source>Choose a Folder</source>
         <translation>選擇資料夾</translation>
     </message>
@@ -614,6 +618,10 @@
     <message>
         <source>Converting…</source>
         <translation>正在轉換…</translation>
+    </message>
+    <message>
+        <source>Converting… %1 %</source>
+        <translation>正在轉換… %1 %</translation>
     </message>
     <message>
         <source>Copied.</source>
@@ -2096,8 +2104,16 @@
         <translation>正在停止…</translation>
     </message>
     <message>
+        <source>Subtitle track %1, which this film does not have</source>
+        <translation>此影片沒有的字幕軌 %1</translation>
+    </message>
+    <message>
         <source>Subtitles</source>
         <translation>字幕</translation>
+    </message>
+    <message>
+        <source>Subtitles are missing in the finished file.</source>
+        <translation>完成的檔案缺少字幕。</translation>
     </message>
     <message>
         <source>Subtitles in the picture</source>
@@ -2372,8 +2388,8 @@
         <translation>影片已下載，但無法加入字幕、封面或章節。</translation>
     </message>
     <message>
-        <source>The film is copy protected and is not downloaded.</source>
-        <translation>該影片受拷貝保護，不會下載。</translation>
+        <source>The film is copy protected and is not downloaded. Watch it on its own site.</source>
+        <translation>該影片受複製保護，不會下載。請在其網站上觀看。</translation>
     </message>
     <message>
         <source>The film is no longer there. Look for it at another address.</source>
@@ -2384,8 +2400,8 @@
         <translation>沒有所需形式的影片。請選擇其他解析度或格式。</translation>
     </message>
     <message>
-        <source>The film is private or for members only, so it cannot be downloaded.</source>
-        <translation>該影片為私人或僅限會員觀看，因此無法下載。</translation>
+        <source>The film is private or for members only, so it cannot be downloaded. Look for it at another address.</source>
+        <translation>該影片為私人或僅限會員，無法下載。請在其他位址尋找。</translation>
     </message>
     <message>
         <source>The film of the chosen titles as it stands on the disc; no chapters, no names of languages.</source>
@@ -2556,12 +2572,16 @@
         <translation>伺服器拒絕提供該影片。請稍後再試一次，或在瀏覽器中打開該頁面以了解原因。</translation>
     </message>
     <message>
+        <source>The server takes no more requests for now. Try again in %1 minutes.</source>
+        <translation>伺服器暫時不再接受請求。請在 %1 分鐘後重試。</translation>
+    </message>
+    <message>
         <source>The server takes no more requests for now. Try again in a while.</source>
         <translation>伺服器暫時不再接受要求。請稍等片刻後再試一次。</translation>
     </message>
     <message>
-        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded.</source>
-        <translation>伺服器的憑證無效，因此可能不是真正的伺服器。未下載任何內容。</translation>
+        <source>The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date.</source>
+        <translation>伺服器的憑證無效，其身分可能不實。未下載任何內容；請檢查位址和本機日期。</translation>
     </message>
     <message>
         <source>The settings' folder</source>
@@ -2576,12 +2596,12 @@
         <translation>該網站已變更，下載引擎不再認識它。請更新引擎，然後再試一次。</translation>
     </message>
     <message>
-        <source>The site shows this film only to those who have logged in, which Kestrel does not do.</source>
-        <translation>該網站只向已登入的使用者提供此影片，而 Kestrel 不進行登入。</translation>
+        <source>The site shows this film only to those who have logged in, which Kestrel does not do. Look for it at another address.</source>
+        <translation>網站只向已登入者顯示該影片，而 Kestrel 不會登入。請在其他位址尋找。</translation>
     </message>
     <message>
-        <source>The site wants to know the viewer's age first, which it learns only from a log-in.</source>
-        <translation>該網站需要先知道觀看者的年齡，只有登入才能得知。</translation>
+        <source>The site wants to know the viewer's age first, which it learns only from a log-in. Look for it at another address.</source>
+        <translation>網站要先確認觀眾年齡，這只能透過登入得知。請在其他位址尋找。</translation>
     </message>
     <message>
         <source>The snapshot could not be written.</source>
@@ -2618,6 +2638,10 @@
     <message>
         <source>The subtitles are missing: the site did not hand them out.</source>
         <translation>缺少字幕：網站沒有提供。</translation>
+    </message>
+    <message>
+        <source>The subtitles that were to be drawn into the picture are not in this film.</source>
+        <translation>要畫入畫面的字幕不在此影片中。</translation>
     </message>
     <message>
         <source>The title. %1 cannot hold it.</source>
