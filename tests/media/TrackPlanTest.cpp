@@ -64,8 +64,11 @@ TEST(TrackPlanTest, JoinsUnequalFilesByEncodingThem)
     EXPECT_EQ(alike->work, TranscodeSteps::Work::Copy);
     EXPECT_TRUE(alike->expected.decodesAll && alike->expected.secondsAreTold);
     EXPECT_EQ(alike->expected.seconds, 120);
-    const QList<SourcePiece> pieces{
-        {.source = 0, .seconds = 10}, {.source = 0, .seconds = 20}, {.source = 1, .seconds = 5}};
+    QList<SourcePiece> pieces(3);
+    for (const auto &[number, source, seconds] : {std::tuple(0, 0, 10), std::tuple(1, 0, 20), std::tuple(2, 1, 5)}) {
+        pieces[number].source = source;
+        pieces[number].seconds = seconds;
+    }
     QList<double> starts;
     for (const MediaChapter &chapter : resultChapters(plan, {film(), film()}, pieces))
         starts.append(chapter.start);

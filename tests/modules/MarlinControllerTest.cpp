@@ -8,6 +8,7 @@
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
 #include "media/SubtitleFile.h"
+#include "modules/marlin/Conversion.h"
 #include "modules/marlin/Conversions.h"
 #include "modules/marlin/ui/TrackOptions.h"
 #include "tests/support/TestEnvironment.h"
@@ -237,12 +238,19 @@ TEST_F(MarlinControllerTest, WhatIsChosenForAllIsThereAgain)
     QLineEdit *name = find<QLineEdit>(u"namePattern"_s);
     name->setText(u"{name} small"_s);
     emit name->textEdited(name->text());
-    find<QDoubleSpinBox>(u"speedFactor"_s)->setValue(2);
+    const std::pair<QString, double> ofFilms[] = {
+        {u"speedFactor"_s, 2}, {u"volume"_s, 6}, {u"brightness"_s, 0.5}, {u"fadeIn"_s, 3}};
+    QList<double> usual;
+    for (const auto &[option, value] : ofFilms) {
+        usual.append(find<QDoubleSpinBox>(option)->value());
+        find<QDoubleSpinBox>(option)->setValue(value);
+    }
     emit find<QComboBox>(u"folderBox"_s)->activated(1);
     start();
     EXPECT_EQ(find<QLineEdit>(u"namePattern"_s)->text(), u"{name} small");
     EXPECT_EQ(find<QComboBox>(u"folderBox"_s)->currentIndex(), 1);
-    EXPECT_EQ(find<QDoubleSpinBox>(u"speedFactor"_s)->value(), 1) << "changes the film";
+    for (qsizetype i = 0; i < usual.size(); ++i)
+        EXPECT_EQ(find<QDoubleSpinBox>(ofFilms[i].first)->value(), usual[i]) << "changes the film";
     foundation::NotificationCenter::defaultCenter().postNotificationName(keyResetProfilesNotification.toString());
     start();
     EXPECT_EQ(find<QLineEdit>(u"namePattern"_s)->text(), u"");
