@@ -1,0 +1,114 @@
+#include "RecordJob.h"
+
+#include "foundation/Queues.h"
+#include "tarnwell/Log.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <fcntl.h>
+#include <unistd.h>
+#include <utility>
+
+// What becomes of a recording whose sources change or go away.
+
+using namespace Qt::StringLiterals;
+
+namespace kestrel {
+
+using tarnwell::Sentence;
+using tarnwell::operator""_key;
+
+namespace {
+
+/// What has been recorded survives the end of the machine as well.
+void syncLater(const QString &path)
+{
+    foundation::queue::asyncGlobal([name = QFile::encodeName(path)] {
+        const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
+        if (file < 0)
+            return;
+        fdatasync(file);
+        close(file);
+    });
+}
+
+}  // namespace
+
+/// The screen's picture goes on without it.
+void RecordJob::loseInset()
+{
+    m_recording.plan.inset.reset();
+    m_problems.append("The camera went away: its picture ends there."_key);
+}
+
+/// A source has gone away by itself.
+void RecordJob::goOnAfterFailure(const ToolEnding &ending)
+{
+    const RecordPlan &plan = m_recording.plan;
+    tarnwell::DNFootLog(u"A recording was interrupted: %1"_s, ending.lastWords);
+    const bool isFirst = m_recording.stretches.isEmpty();
+    const bool isCamera = !m_target.camera.isEmpty() && ending.lastWords.contains(m_target.camera);
+    if (isFirst && isCamera)
+        return fail("The camera could not be opened. Another program may be using it."_key, ending.lastWords);
+    if (plan.inset && (isCamera || !cameraTarget(plan)))
+        loseInset();
+    const auto target = captureTarget(plan);
+    if (!target ||
+        (isFirst && (plan.sound == RecordPlan::Sound::None || ending.cause == ToolEnding::Cause::CouldNotStart)) ||
+        m_failures > 2) {
+        if (isFirst)
+            return fail(target ? m_messages.failure().sentence : target.reason(), ending.lastWords);
+        m_problems.append(target ? Sentence("The recording was interrupted."_key) : target.reason());
+        return endRecording();
+    }
+    if (isFirst)
+        return fail("The sound could not be recorded. Is the sound server running?"_key, ending.lastWords);
+    // The window may have another size now, which the arguments make up for; the second attempt goes without the sound.
+    if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None)
+        m_problems.append("The sound is missing since the sound server went away."_key);
+    if (m_isHolding)
+        return;
+    const QSize size = m_target.area.size();
+    m_target = *target;
+    if (m_target.isShared)  // whose size only its pictures tell
+        m_target.area.setSize(size);
+    beginStretch();
+}
+
+/// What hands over the pictures of a shared screen repeats the last one where nothing changes: none at all for five
+/// looks means that it is gone without a word.
+bool RecordJob::hasStopped()
+{
+    const qint64 before = std::exchange(m_picturesAtLook, m_stretch.pictures);
+    m_looksInVain = before > 0 && before == m_stretch.pictures ? m_looksInVain + 1 : 0;
+    return m_looksInVain >= 5;
+}
+
+void RecordJob::watch()
+{
+    if (!m_recorder)
+        return;
+    syncLater(m_recording.stretches.last());
+    if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
+        loseInset();
+    if (m_target.isShared && hasStopped()) {
+        m_isScreenMissing = true;
+        m_isToEnd = true;
+        m_recorder->cancel();
+        return;
+    }
+    // ffmpeg waits forever for a display that is gone, and does not listen then.
+    if (m_recording.plan.hasPicturesOfDisplay() && !captureTarget(m_recording.plan)) {
+        m_recorder->cancel();
+        return;
+    }
+    const auto space = m_tools.diskSpace(m_recording.folder);
+    if (!space || space->available > m_tools.reservedBytes || m_isToEnd)
+        return;
+    m_isToEnd = true;
+    m_problems.append("The recording ended because the disk is nearly full."_key);
+    m_recorder->stop();
+}
+
+}  // namespace kestrel
