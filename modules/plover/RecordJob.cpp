@@ -14,6 +14,7 @@
 #include <QSaveFile>
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -25,12 +26,12 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr std::chrono::seconds watchInterval{2};
+constexpr std::chrono::milliseconds watchInterval{500};
 /// Until ffmpeg has opened everything and the sound server's clock has settled.
 constexpr std::chrono::milliseconds leadWithSound{1200}, leadWithoutSound{600};
 constexpr std::chrono::seconds patience{20};
 
-/// By how many seconds the shortest sound is shorter than the pictures.
+/// By how many seconds the shortest sound is shorter than the pictures; less than 0 where it is longer.
 double missingSound(const FoundOutput &found, const RecordPlan &plan)
 {
     constexpr double packetsPerSecond = 48000.0 / 1024;
@@ -43,7 +44,7 @@ double missingSound(const FoundOutput &found, const RecordPlan &plan)
         else if (found.information.tracks[index].kind == MediaTrack::Kind::Audio)
             sound = std::min(sound, packets / packetsPerSecond);
     }
-    return std::max(pictures - sound, 0.0);
+    return sound < std::numeric_limits<double>::max() ? pictures - sound : 0;
 }
 
 }  // namespace
@@ -119,6 +120,7 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
     const auto lead = plan.sound == RecordPlan::Sound::None ? leadWithoutSound : leadWithSound;
     const auto now = std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch());
     m_stretch = {};
+    m_looksInVain = 0;
     m_messages = ToolMessages({part.partPath()});
     if (m_size.isEmpty())
         m_size = m_target.area.size();
@@ -266,9 +268,11 @@ void RecordJob::check(const ToolEnding &joining)
             tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
             return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
         }
-        if (const double missing = missingSound(*found, m_recording.plan); missing > 2)
-            m_problems.append(
-                {"The last %1 s have no sound: the sound server went away."_key, {QString::number(qRound(missing))}});
+        const double missing = missingSound(*found, m_recording.plan);
+        if (std::abs(missing) > 2)
+            m_problems.append({missing > 0 ? "The last %1 s have no sound: the sound server went away."_key
+                                           : "The last %1 s have no picture."_key,
+                               {QString::number(std::lround(std::abs(missing)))}});
         JobOutcome outcome{.state = m_problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
                            .problems = m_problems};
         if (m_isRecovery)

@@ -28,8 +28,9 @@ struct RecordTools {
 };
 
 /// A recording: stretches of Matroska that grow beside the result, and what joins them without encoding when it ends,
-/// which is its success. A pause ends a stretch. A source that goes away ends one as well: it is gone on with without
-/// the sound, or, where the pictures are gone, ended with what there is. Ends by itself when the disk is nearly full.
+/// which is its success. A pause ends a stretch. A source that goes away ends one as well, and so does a change
+/// of its size: it is gone on with, without the sound where that is gone, or, where the pictures are gone, ended with
+/// what there is. Ends by itself when the disk is nearly full.
 ///
 /// The stretches stay where the job's object goes while it runs: `UnfinishedRecording::findAll` finds them, and a job
 /// with such a one finishes it.
@@ -76,6 +77,7 @@ private:
     void goOnAfterFailure(const ToolEnding &ending);
     void endRecording();
     bool hasStopped();
+    bool followTarget();
     void watch();
     void join();
     void check(const ToolEnding &ending);
@@ -105,7 +107,7 @@ private:
     Tally m_stretch;   ///< of the one that is recorded
     ToolMessages m_messages;
     QList<tarnwell::Sentence> m_problems;
-    QTimer m_watch;  ///< over disk and display
+    QTimer m_watch;  ///< over disk and sources
     std::unique_ptr<WorkFolder> m_workFolder;
     std::unique_ptr<WorkFolder> m_snapshots;  ///< where the display is shared
     std::shared_ptr<OutputFile> m_output;

@@ -63,7 +63,10 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
         return endRecording();
     }
     if (isFirst)
-        return fail("The sound could not be recorded. Is the sound server running?"_key, ending.lastWords);
+        return fail(ending.cause == ToolEnding::Cause::Cancelled
+                        ? "Nothing was recorded."_key
+                        : "The sound could not be recorded. Is the sound server running?"_key,
+                    ending.lastWords);
     // The window may have another size now, which the arguments make up for; the second attempt goes without the sound.
     if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None)
         m_problems.append("The sound is missing since the sound server went away."_key);
@@ -76,13 +79,30 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
     beginStretch();
 }
 
-/// What hands over the pictures of a shared screen repeats the last one where nothing changes: none at all for five
-/// looks means that it is gone without a word.
+/// Pictures come at a constant rate, repeated where nothing changes: none at all for ten seconds, or for half a minute
+/// before the first, means that their source is gone without a word.
 bool RecordJob::hasStopped()
 {
+    constexpr int looks = 20, looksBeforeTheFirst = 60;
     const qint64 before = std::exchange(m_picturesAtLook, m_stretch.pictures);
-    m_looksInVain = before > 0 && before == m_stretch.pictures ? m_looksInVain + 1 : 0;
-    return m_looksInVain >= 5;
+    m_looksInVain = before == m_stretch.pictures ? m_looksInVain + 1 : 0;
+    return m_looksInVain >= (before > 0 ? looks : looksBeforeTheFirst);
+}
+
+/// The picture's own size changed, or its place on the desktop: what runs knows only the former.
+bool RecordJob::followTarget()
+{
+    const auto target = captureTarget(m_recording.plan);
+    // ffmpeg waits forever for a display that is gone, and does not listen then.
+    if (!target)
+        m_recorder->cancel();
+    else if (target->area != m_target.area)
+        m_recorder->stop();
+    else
+        return false;
+    if (target)
+        m_target = *target;
+    return true;
 }
 
 void RecordJob::watch()
@@ -92,17 +112,18 @@ void RecordJob::watch()
     syncLater(m_recording.stretches.last());
     if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
         loseInset();
-    if (m_target.isShared && hasStopped()) {
-        m_isScreenMissing = true;
-        m_isToEnd = true;
-        m_recorder->cancel();
+    if (hasStopped()) {
+        m_looksInVain = 0;
+        m_isScreenMissing = m_target.isShared;
+        m_isToEnd = m_isToEnd || m_target.isShared;
+        if (m_target.isShared || m_stretch.pictures == 0)
+            m_recorder->cancel();
+        else
+            m_recorder->stop();
         return;
     }
-    // ffmpeg waits forever for a display that is gone, and does not listen then.
-    if (m_recording.plan.hasPicturesOfDisplay() && !captureTarget(m_recording.plan)) {
-        m_recorder->cancel();
+    if (m_recording.plan.hasPicturesOfDisplay() && followTarget())
         return;
-    }
     const auto space = m_tools.diskSpace(m_recording.folder);
     if (!space || space->available > m_tools.reservedBytes || m_isToEnd)
         return;
