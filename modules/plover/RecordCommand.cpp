@@ -246,8 +246,6 @@ QStringList finishArguments(const QString &list, const QString &output)
             u"0"_s,
             u"-c"_s,
             u"copy"_s,
-            u"-movflags"_s,
-            u"+faststart"_s,
             u"file:"_s + output};
 }
 
