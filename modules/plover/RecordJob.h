@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <atomic>
+
 namespace kestrel {
 
 class OutputFile;
@@ -108,6 +110,7 @@ private:
     ToolMessages m_messages;
     QList<tarnwell::Sentence> m_problems;
     QTimer m_watch;  ///< over disk and sources
+    std::shared_ptr<std::atomic_bool> m_isSyncing = std::make_shared<std::atomic_bool>(false);
     std::unique_ptr<WorkFolder> m_workFolder;
     std::unique_ptr<WorkFolder> m_snapshots;  ///< where the display is shared
     std::shared_ptr<OutputFile> m_output;

@@ -8,6 +8,7 @@
 
 #include <fcntl.h>
 #include <unistd.h>
+#include <atomic>
 #include <utility>
 
 // What becomes of a recording whose sources change or go away.
@@ -21,15 +22,17 @@ using tarnwell::operator""_key;
 
 namespace {
 
-/// What has been recorded survives the end of the machine as well.
-void syncLater(const QString &path)
+/// What has been recorded survives the end of the machine as well. A slow disk is not asked again while it writes.
+void syncLater(const QString &path, const std::shared_ptr<std::atomic_bool> &isSyncing)
 {
-    foundation::queue::asyncGlobal([name = QFile::encodeName(path)] {
-        const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
-        if (file < 0)
-            return;
-        fdatasync(file);
-        close(file);
+    if (isSyncing->exchange(true))
+        return;
+    foundation::queue::asyncGlobal([name = QFile::encodeName(path), isSyncing] {
+        if (const int file = open(name.constData(), O_RDONLY | O_CLOEXEC); file >= 0) {
+            fdatasync(file);
+            close(file);
+        }
+        *isSyncing = false;
     });
 }
 
@@ -109,7 +112,7 @@ void RecordJob::watch()
 {
     if (!m_recorder)
         return;
-    syncLater(m_recording.stretches.last());
+    syncLater(m_recording.stretches.last(), m_isSyncing);
     if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
         loseInset();
     if (hasStopped()) {
