@@ -37,6 +37,9 @@ QStringList framesArguments(const RecordPlan &plan, QSize size, int connection, 
 /// The sources of the plan's sound, as the sound server names them.
 QStringList soundSources(const RecordPlan &plan);
 
+/// What tells by its success whether they can be recorded.
+QStringList soundProbeArguments(const RecordPlan &plan);
+
 /// What joins the stretches, without encoding, into the file that was asked for. `list` is for `joinList`'s text.
 QStringList finishArguments(const QString &list, const QString &output);
 QByteArray joinList(const QStringList &stretches);

@@ -121,6 +121,7 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
     const auto now = std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch());
     m_stretch = {};
     m_looksInVain = 0;
+    m_hasSoundEnded = false;
     m_messages = ToolMessages({part.partPath()});
     if (m_size.isEmpty())
         m_size = m_target.area.size();
@@ -141,6 +142,7 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
             readScreen(line);
         else
             m_messages.readLine(line);
+        noteSoundEnd(line);
     });
     connect(&tool, &ToolProcess::outputLine, this, &RecordJob::readProgress);
 }
@@ -203,6 +205,7 @@ void RecordJob::setPaused(bool paused)
     if (m_isFinishing || isStopping() || m_isHolding == paused)
         return;
     m_isHolding = paused;
+    m_isSilent = m_isSilent && paused;
     if (paused && m_recorder)
         m_recorder->stop();
     else if (!paused && !m_recorder)

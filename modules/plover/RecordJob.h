@@ -78,6 +78,9 @@ private:
     void loseInset();
     void goOnAfterFailure(const ToolEnding &ending);
     void endRecording();
+    bool loseMicrophone(const ToolEnding &ending);
+    void noteSoundEnd(const QByteArray &line);
+    void lookForSound();
     bool hasStopped();
     bool followTarget();
     void watch();
@@ -94,7 +97,11 @@ private:
     QSize m_size;  ///< of the pictures of all stretches; empty until it is known
     CaptureTarget m_target;
     bool m_isRecovery = false;
-    bool m_isSilent = false;
+    bool m_isSilent = false;                    ///< for want of the sound server
+    bool m_hasSoundEnded = false;               ///< of the stretch of the moment: its pictures go on alone
+    bool m_isServerThere = false;               ///< it is back, and nothing was recorded since
+    std::unique_ptr<ToolProcess> m_soundProbe;  ///< while it is looked for
+    int m_looksForSound = 0;
     bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
     bool m_isFinishing = false;
     qint64 m_picturesAtLook = 0;

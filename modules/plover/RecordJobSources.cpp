@@ -36,6 +36,9 @@ void syncLater(const QString &path, const std::shared_ptr<std::atomic_bool> &isS
     });
 }
 
+const tarnwell::TextKey soundIsMissing = "The sound is missing since the sound server went away."_key;
+const tarnwell::TextKey soundWasMissing = "The sound server was away for a while: that part has no sound."_key;
+
 }  // namespace
 
 /// The screen's picture goes on without it.
@@ -43,6 +46,49 @@ void RecordJob::loseInset()
 {
     m_recording.plan.inset.reset();
     m_problems.append("The camera went away: its picture ends there."_key);
+}
+
+/// What ffmpeg says of a sound that cannot be opened, or ends, begins with its name.
+bool RecordJob::loseMicrophone(const ToolEnding &ending)
+{
+    RecordPlan &plan = m_recording.plan;
+    if (plan.microphone.isEmpty() || !ending.lastWords.contains(plan.microphone + u": "_s))
+        return false;
+    plan.microphone.clear();
+    m_problems.append("The chosen microphone is missing: the usual one is recorded instead."_key);
+    return true;
+}
+
+void RecordJob::noteSoundEnd(const QByteArray &line)
+{
+    for (const QString &source : soundSources(m_recording.plan))
+        m_hasSoundEnded = m_hasSoundEnded || line.contains((source + u": "_s).toUtf8());
+}
+
+/// Whether the sound server answers again: what goes on without it has its sound again then.
+void RecordJob::lookForSound()
+{
+    constexpr int looks = 8;
+    if (!m_isSilent || m_soundProbe || ++m_looksForSound % looks != 0)
+        return;
+    RecordPlan usual = m_recording.plan;
+    usual.microphone.clear();
+    m_soundProbe = std::make_unique<ToolProcess>(ToolCommand{
+        .program = m_tools.transcoder, .arguments = soundProbeArguments(usual), .timeLimit = std::chrono::seconds(10)});
+    connect(m_soundProbe.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
+        m_soundProbe.release()->deleteLater();
+        if (!ending.isGood() || !m_isSilent)
+            return;
+        m_isSilent = false;
+        m_isServerThere = true;
+        m_failures = 0;
+        for (const tarnwell::TextKey &key : {soundIsMissing, soundWasMissing})
+            m_problems.removeAll(Sentence(key));
+        m_problems.append(soundWasMissing);
+        if (m_recorder)
+            m_recorder->stop();
+    });
+    m_soundProbe->start();
 }
 
 /// A source has gone away by itself.
@@ -56,6 +102,8 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
         return fail("The camera could not be opened. Another program may be using it."_key, ending.lastWords);
     if (plan.inset && (isCamera || !cameraTarget(plan)))
         loseInset();
+    if ((std::exchange(m_isServerThere, false) || isFirst) && loseMicrophone(ending))
+        return m_isHolding ? void() : beginStretch();
     const auto target = captureTarget(plan);
     if (!target ||
         (isFirst && (plan.sound == RecordPlan::Sound::None || ending.cause == ToolEnding::Cause::CouldNotStart)) ||
@@ -71,8 +119,10 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
                         : "The sound could not be recorded. Is the sound server running?"_key,
                     ending.lastWords);
     // The window may have another size now, which the arguments make up for; the second attempt goes without the sound.
-    if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None)
-        m_problems.append("The sound is missing since the sound server went away."_key);
+    if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None) {
+        m_problems.removeAll(Sentence(soundIsMissing));
+        m_problems.append(soundIsMissing);
+    }
     if (m_isHolding)
         return;
     const QSize size = m_target.area.size();
@@ -115,6 +165,9 @@ void RecordJob::watch()
     syncLater(m_recording.stretches.last(), m_isSyncing);
     if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
         loseInset();
+    if (m_hasSoundEnded && m_stretch.pictures > 0)
+        return m_recorder->stop();
+    lookForSound();
     if (hasStopped()) {
         m_looksInVain = 0;
         m_isScreenMissing = m_target.isShared;
