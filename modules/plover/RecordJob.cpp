@@ -95,7 +95,7 @@ void RecordJob::start()
     const auto target = captureTarget(m_recording.plan);
     if (!target)
         return fail(target.reason());
-    m_target = *target;
+    setTarget(*target);
     if (const auto space = m_tools.diskSpace(m_recording.folder); space && space->available <= m_tools.reservedBytes)
         return fail("There is too little space on the disk to record."_key);
     m_watch.start(watchInterval);

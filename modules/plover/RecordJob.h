@@ -75,6 +75,7 @@ private:
     void readScreen(const QByteArray &line);
     void readProgress(const QByteArray &line);
     void stretchEnded(const ToolEnding &ending);
+    void setTarget(const CaptureTarget &target);
     void loseInset();
     void goOnAfterFailure(const ToolEnding &ending);
     void endRecording();

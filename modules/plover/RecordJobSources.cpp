@@ -41,6 +41,13 @@ const tarnwell::TextKey soundWasMissing = "The sound server was away for a while
 
 }  // namespace
 
+void RecordJob::setTarget(const CaptureTarget &target)
+{
+    m_target = target;
+    if (!target.note.isEmpty() && !m_problems.contains(target.note))
+        m_problems.append(target.note);
+}
+
 /// The screen's picture goes on without it.
 void RecordJob::loseInset()
 {
@@ -126,7 +133,7 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
     if (m_isHolding)
         return;
     const QSize size = m_target.area.size();
-    m_target = *target;
+    setTarget(*target);
     if (m_target.isShared)  // whose size only its pictures tell
         m_target.area.setSize(size);
     beginStretch();
@@ -154,7 +161,7 @@ bool RecordJob::followTarget()
     else
         return false;
     if (target)
-        m_target = *target;
+        setTarget(*target);
     return true;
 }
 

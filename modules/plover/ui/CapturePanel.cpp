@@ -11,7 +11,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTime>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPointer>
@@ -200,10 +199,9 @@ void CapturePanel::fillSources()
             m_sources->addItem(iconOf(window.id, {{}, window.area.size()}),
                                Sentence("Window: %1"_key, {window.title}).localized(), entry(What::Window, window.id));
     }
-    for (const QString &path : cameraDevices()) {
+    for (const CameraDevice &camera : cameraDevices()) {
         m_obstacle = {};
-        m_sources->addItem(Sentence("Camera %1"_key, {QFileInfo(path).fileName()}).localized(),
-                           entry(What::Camera, path));
+        m_sources->addItem(Sentence("Camera %1"_key, {camera.name}).localized(), entry(What::Camera, camera.path));
     }
     int index = m_sources->findData(chosen);
     if (index < 0 && What(chosen.toList().value(0).toInt()) == What::Window)
@@ -218,8 +216,8 @@ void CapturePanel::fillCameras()
     const QSignalBlocker quiet(m_insets);
     m_insets->clear();
     m_insets->addItem("No camera in the picture"_key.localized(), QString());
-    for (const QString &path : cameraDevices())
-        m_insets->addItem(Sentence("Camera %1 in the picture"_key, {QFileInfo(path).fileName()}).localized(), path);
+    for (const CameraDevice &camera : cameraDevices())
+        m_insets->addItem(Sentence("Camera %1 in the picture"_key, {camera.name}).localized(), camera.path);
     m_insets->setCurrentIndex(std::max(0, m_insets->findData(chosen)));
     m_insets->setVisible(m_insets->count() > 1);
     insetChosen();
