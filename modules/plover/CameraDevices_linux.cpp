@@ -8,6 +8,7 @@
 #include <linux/videodev2.h>
 #include <sys/ioctl.h>
 #include <unistd.h>
+#include <cerrno>
 
 using namespace Qt::StringLiterals;
 

@@ -1,5 +1,8 @@
 #include "RecordCommand.h"
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -118,8 +121,10 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
         sounds.append(u"[a%1]"_s.arg(input));
         // Sound devices have clocks of their own, and the first times that the sound server tells are unsettled: the
         // sound is stretched until it is in step. Without `res` the resampler comes in the midst and forgets the step.
-        chains.append(u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0,aresample=async=1000:flags=res%3"_s.arg(input).arg(
-            begin, sounds.last()));
+        // What comes late is silence (`first_pts`), so that the tracks of every stretch begin together.
+        chains.append(
+            u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0,aresample=async=1000:first_pts=0:flags=res%3"_s.arg(input).arg(
+                begin, sounds.last()));
     }
     if (sounds.size() > 1 && !plan.separateTracks) {
         chains.append(sounds.join(QString()) + u"amix=inputs=2:duration=longest:normalize=0[a]"_s);
@@ -257,11 +262,67 @@ QStringList finishArguments(const QString &list, const QString &output)
             u"file:"_s + output};
 }
 
-QByteArray joinList(const QStringList &stretches)
+QStringList stretchSpanArguments(const QString &stretch)
+{
+    return {u"-v"_s,  u"error"_s, u"-show_entries"_s,  u"stream=codec_type,start_time:stream_tags=DURATION"_s,
+            u"-of"_s, u"json"_s,  u"file:"_s + stretch};
+}
+
+StretchSpan stretchSpan(const QByteArray &told)
+{
+    StretchSpan span;
+    const QJsonArray streams = QJsonDocument::fromJson(told).object()["streams"_L1].toArray();
+    for (const QJsonValue &stream : streams) {
+        // "00:00:04.354000000"
+        const QStringList parts = stream["tags"_L1]["DURATION"_L1].toString().split(u':');
+        const double end =
+            parts.size() == 3 ? parts[0].toDouble() * 3600 + parts[1].toDouble() * 60 + parts[2].toDouble() : 0;
+        if (stream["codec_type"_L1] == "video"_L1) {
+            span.begin = stream["start_time"_L1].toString().toDouble();
+            span.picturesEnd = end;
+        } else {
+            span.soundEnd = span.soundEnd > 0 ? std::min(span.soundEnd, end) : end;
+        }
+    }
+    return span;
+}
+
+double joiningEnd(const StretchSpan &span, double rate)
+{
+    constexpr double packet = 1024.0 / 48000, rounding = 0.0005;
+    constexpr int pictures = 4;  // of the last, whichever fits best: what is left over does not add up
+    constexpr double together = 1;
+    if (span.picturesEnd <= 0 || span.soundEnd <= 0)
+        return span.picturesEnd;
+    // Where one of them has ended long before, the pictures are what counts.
+    const bool haveEndedTogether = std::abs(span.picturesEnd - span.soundEnd) < together;
+    const double end = haveEndedTogether ? std::min(span.picturesEnd, span.soundEnd) : span.picturesEnd;
+    const double last = std::floor((end - span.begin) * rate + rounding);
+    double best = end - span.begin, bestRest = packet;
+    for (double number = last; number > std::max(last - pictures, 0.0); --number) {
+        const double picture = number / rate;
+        const double sound = std::floor((picture + rounding) / packet) * packet;
+        if (picture - sound < bestRest) {
+            best = sound;
+            bestRest = picture - sound;
+        }
+    }
+    return span.begin + best;
+}
+
+QByteArray joinList(const QStringList &stretches, const QList<StretchSpan> &spans, double rate)
 {
     QByteArray list = "ffconcat version 1.0\n";
-    for (QString path : stretches)
+    for (qsizetype number = 0; number < stretches.size(); ++number) {
+        QString path = stretches[number];
         list += "file 'file:" + path.replace(u"'"_s, u"'\\''"_s).toUtf8() + "'\n";
+        const StretchSpan span = spans.value(number);
+        const double end = number + 1 < stretches.size() ? joiningEnd(span, rate) : 0;
+        if (number > 0 && span.begin > 0)
+            list += "inpoint " + QByteArray::number(span.begin, 'f', 3) + '\n';
+        if (end > 0)  // in the file's own thousandths, so that what begins there is left out
+            list += "outpoint " + QByteArray::number(end, 'f', 3) + '\n';
+    }
     return list;
 }
 

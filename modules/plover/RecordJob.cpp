@@ -225,7 +225,23 @@ void RecordJob::endRecording()
         return fail(m_isRecovery ? Sentence("Nothing of the recording is left."_key)
                                  : Sentence("Nothing was recorded."_key));
     emit progressed({.seconds = recordedSeconds(), .bytes = m_recorded.bytes, .stage = Sentence("Finishing…"_key)});
-    join();
+    measure();
+}
+
+/// One stretch after another, where there are several.
+void RecordJob::measure()
+{
+    const qsizetype number = m_spans.size();
+    if (number == m_recording.stretches.size() || m_recording.stretches.size() == 1)
+        return join();
+    run({.program = m_tools.prober,
+         .arguments = stretchSpanArguments(m_recording.stretches[number]),
+         .timeLimit = patience,
+         .collectsOutput = true},
+        [this](const ToolEnding &ending) {
+            m_spans.append(stretchSpan(ending.output));
+            measure();
+        });
 }
 
 void RecordJob::join()
@@ -241,8 +257,9 @@ void RecordJob::join()
     m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
     const QString list = m_workFolder->filePath(u"list.txt"_s);
     QSaveFile file(list);
-    const bool isListed =
-        file.open(QIODevice::WriteOnly) && file.write(joinList(m_recording.stretches)) > 0 && file.commit();
+    const bool isListed = file.open(QIODevice::WriteOnly) &&
+                          file.write(joinList(m_recording.stretches, m_spans, m_recording.plan.rate)) > 0 &&
+                          file.commit();
     if (!isListed || !m_output->isValid())
         return placeAsItIs(isListed ? m_output->reason()
                                     : Sentence("The folder for temporary files cannot be written."_key));
@@ -251,6 +268,15 @@ void RecordJob::join()
         run({.program = m_tools.transcoder, .arguments = finishArguments(list, m_output->partPath())},
             [this](const ToolEnding &ending) { check(ending); });
     connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
+}
+
+/// By the joins.
+double RecordJob::secondsCut() const
+{
+    double seconds = 0;
+    for (qsizetype number = 0; number + 1 < m_spans.size(); ++number)
+        seconds += std::max(m_spans[number].picturesEnd - joiningEnd(m_spans[number], m_recording.plan.rate), 0.0);
+    return seconds;
 }
 
 void RecordJob::check(const ToolEnding &joining)
@@ -264,7 +290,7 @@ void RecordJob::check(const ToolEnding &joining)
         OutputExpectation expected;
         expected.tracks = recordedTracks(m_recording.plan);
         if (!m_isRecovery)
-            expected.seconds = recordedSeconds();
+            expected.seconds = recordedSeconds() - secondsCut();
         const OutputFindings findings = found ? compareOutput(expected, {}, *found) : OutputFindings();
         if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
             !findings.mismatch.isEmpty()) {

@@ -85,12 +85,14 @@ private:
     bool hasStopped();
     bool followTarget();
     void watch();
+    void measure();
     void join();
     void check(const ToolEnding &ending);
     void place(JobOutcome outcome);
     void placeAsItIs(const tarnwell::Sentence &problem);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
     void removeStretches();
+    double secondsCut() const;
     double recordedSeconds() const { return double(m_recorded.pictures + m_stretch.pictures) / m_recording.plan.rate; }
 
     UnfinishedRecording m_recording;
@@ -113,8 +115,9 @@ private:
     quint32 m_node = 0;                          ///< of what is shared; 0 as long as the user thinks
     bool m_isScreenMissing = false;              ///< it is shared, but no pictures come
     QPointer<ToolProcess> m_recorder;
-    Tally m_recorded;  ///< of the stretches that have ended
-    Tally m_stretch;   ///< of the one that is recorded
+    Tally m_recorded;            ///< of the stretches that have ended
+    Tally m_stretch;             ///< of the one that is recorded
+    QList<StretchSpan> m_spans;  ///< of all, once they are to be joined
     ToolMessages m_messages;
     QList<tarnwell::Sentence> m_problems;
     QTimer m_watch;  ///< over disk and sources
