@@ -149,8 +149,10 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
 
 void RecordJob::readProgress(const QByteArray &line)
 {
-    // A screen on which nothing changes has few pictures of its own.
-    if (!m_target.isShared || !line.startsWith("dup_frames"))
+    // A screen on which nothing changes has few pictures of its own, and many a camera gives fewer than it is asked
+    // for.
+    const bool mayRepeat = m_target.isShared || m_recording.plan.what == RecordPlan::What::Camera;
+    if (!mayRepeat || !line.startsWith("dup_frames"))
         m_stretch.readLine(line);
     if (!line.startsWith("progress"))
         return;
@@ -308,6 +310,10 @@ void RecordJob::check(const ToolEnding &joining)
             outcome.sentence = "Recovered after an interruption."_key;
         else
             outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+        constexpr qint64 share = 100;
+        if (m_recorded.missed > m_recorded.pictures / share)
+            outcome.sentence = {"%1 of %2 pictures came too late: the one before stands for them."_key,
+                                {QString::number(m_recorded.missed), QString::number(m_recorded.pictures)}};
         place(std::move(outcome));
     });
 }

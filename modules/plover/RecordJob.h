@@ -50,6 +50,8 @@ public:
     /// What is to be seen now, of a screen that the desktop shares: `snapshotTaken` follows. False for any other, whose
     /// picture anybody can have, and while there is none.
     bool takeSnapshot();
+    /// Pictures so far that did not come in time.
+    qint64 missedPictures() const { return m_recorded.missed + m_stretch.missed; }
 
 signals:
     /// The file is a PPM, to be read at once.

@@ -15,6 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+using tarnwell::Sentence;
 using tarnwell::operator""_key;
 
 ControlBar::ControlBar()
@@ -67,11 +68,13 @@ bool ControlBar::showBeside(const QRect &area)
     return false;
 }
 
-void ControlBar::showRecord(const JobRecord &record)
+void ControlBar::showRecord(const JobRecord &record, qint64 missed)
 {
     m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
-    m_text->setText(durationText(record.progress.seconds) + u" · "_s +
-                    QLocale().formattedDataSize(record.progress.bytes));
+    QStringList parts{durationText(record.progress.seconds), QLocale().formattedDataSize(record.progress.bytes)};
+    if (missed > 0)
+        parts.append(Sentence("%1 dropped"_key, {QString::number(missed)}).localized());
+    m_text->setText(parts.join(u" · "_s));
 }
 
 void ControlBar::setLevel(double level)

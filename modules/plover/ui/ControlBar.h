@@ -19,7 +19,8 @@ public:
     /// Puts it beside the area, in pixels of the desktop. False, and it stays hidden, where there is no room that is
     /// not in the picture.
     bool showBeside(const QRect &area);
-    void showRecord(const JobRecord &record);
+    /// `missed`: pictures that did not come in time.
+    void showRecord(const JobRecord &record, qint64 missed);
     void setLevel(double level);
 
 signals:

@@ -306,7 +306,7 @@ void PloversController::recordChanged(JobId id)
     if (!record || isEnded(record->state))
         closeControls();
     else if (m_bar)
-        m_bar->showRecord(*record);
+        m_bar->showRecord(*record, m_recipe.recording() ? m_recipe.recording()->missedPictures() : 0);
     showState();
 }
 
