@@ -1,5 +1,8 @@
 #include "RecordCommand.h"
 
+#include "media/Encoders.h"
+#include "tarnwell/SystemInformation.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -17,14 +20,16 @@ namespace {
 
 struct Coding {
     const char *preset;
-    const char *quality;  ///< of x264, the smaller the better
+    const char *quality;   ///< of x264, the smaller the better
+    const char *hardware;  ///< of encoders in hardware, likewise
     const char *soundBitRate;
 };
 
 // By quality. Each keeps up with 30 pictures a second of 1920 × 1080 on two processors; the better ones take more of
 // the disk, not of the processor.
-constexpr std::array<Coding, 3> codings = {
-    {{"veryfast", "28", "96k"}, {"superfast", "23", "160k"}, {"superfast", "17", "256k"}}};
+constexpr std::array<Coding, 3> codings = {{{"veryfast", "28", "-qp 28", "96k"},
+                                            {"superfast", "23", "-qp 23", "160k"},
+                                            {"superfast", "17", "-qp 19", "256k"}}};
 
 QString number(double value)
 {
@@ -111,6 +116,17 @@ struct Graph {
     QStringList outputs;
 };
 
+/// Without delay in the encoder nothing is lost with it.
+QStringList pictureCoding(const RecordPlan &plan, const RecordStretch &stretch)
+{
+    const Coding &coding = codings.at(size_t(plan.quality));
+    if (!stretch.hardwareDevice.isEmpty())
+        return tableWords(tarnwell::hardwareEncoderArguments.encoder) + tableWords(coding.hardware) +
+               tableWords("-bf 0");
+    return {u"-c:v"_s,  u"libx264"_s,     u"-preset"_s, QLatin1StringView(coding.preset),
+            u"-tune"_s, u"zerolatency"_s, u"-crf"_s,    QLatin1StringView(coding.quality)};
+}
+
 /// `pictures` is the number of the input that has them; the sounds are the first ones.
 Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
 {
@@ -137,9 +153,13 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
                      .arg(stretch.size.height());
     else if (own.isEmpty())
         chain += u"crop=trunc(iw/2)*2:trunc(ih/2)*2,"_s;
+    // What the encoder in hardware takes.
+    const QString last = stretch.hardwareDevice.isEmpty()
+                             ? u"[v]"_s
+                             : u","_s + QLatin1StringView(tarnwell::hardwareEncoderArguments.filter) + u"[v]"_s;
     const QString encoded = u"scale=flags=fast_bilinear:out_color_matrix=bt709:out_range=tv,format=yuv420p"_s;
     if (!hasInset(plan, stretch.target)) {
-        chains.append(chain + encoded + u"[v]"_s);
+        chains.append(chain + encoded + last);
     } else {
         // Converted before it is overlaid, so that both have the same colours; when the camera ends, the screen goes
         // on.
@@ -148,8 +168,8 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
         chains.append(u"[camera][screen]scale2ref=w=trunc(iw*%1/2)*2:h=trunc(ow/mdar/2)*2[inset][ground]"_s.arg(
             number(plan.inset->width)));
         chains.append(
-            u"[ground][inset]overlay=x=clip(W*%1\\,0\\,max(0\\,W-w)):y=clip(H*%2\\,0\\,max(0\\,H-h)):eof_action=pass:format=yuv420[v]"_s
-                .arg(number(plan.inset->x), number(plan.inset->y)));
+            u"[ground][inset]overlay=x=clip(W*%1\\,0\\,max(0\\,W-w)):y=clip(H*%2\\,0\\,max(0\\,H-h)):eof_action=pass:format=yuv420%3"_s
+                .arg(number(plan.inset->x), number(plan.inset->y), last));
     }
     return {chains.join(u';'), QStringList{u"[v]"_s} + sounds};
 }
@@ -172,6 +192,8 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
     QStringList arguments{u"-hide_banner"_s, u"-nostdin"_s, u"-y"_s,        u"-loglevel"_s, u"repeat+level+warning"_s,
                           u"-nostats"_s,     u"-copyts"_s,  u"-progress"_s, u"pipe:1"_s,    u"-stats_period"_s,
                           u"0.25"_s};
+    if (!stretch.hardwareDevice.isEmpty())
+        arguments += {QLatin1StringView(tarnwell::hardwareEncoderArguments.device), stretch.hardwareDevice};
     const QStringList sources = soundSources(plan);
     for (const QString &source : sources)
         arguments += soundInput(source, stretch.isSilent);
@@ -182,17 +204,9 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
     arguments += {u"-filter_complex"_s, text};
     for (const QString &output : outputs)
         arguments += {u"-map"_s, output};
-    const Coding &coding = codings.at(size_t(plan.quality));
-    // Without delay in the encoder nothing is lost with it; a constant rate plays and edits everywhere.
-    arguments += {u"-c:v"_s,
-                  u"libx264"_s,
-                  u"-preset"_s,
-                  QLatin1StringView(coding.preset),
-                  u"-tune"_s,
-                  u"zerolatency"_s,
-                  u"-crf"_s,
-                  QLatin1StringView(coding.quality),
-                  u"-g"_s,
+    // A constant rate plays and edits everywhere.
+    arguments += pictureCoding(plan, stretch);
+    arguments += {u"-g"_s,
                   QString::number(std::lround(plan.rate * 2)),
                   u"-colorspace"_s,
                   u"bt709"_s,
@@ -205,7 +219,7 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
                   u"-r"_s,
                   number(plan.rate)};
     if (!sources.isEmpty())
-        arguments += {u"-c:a"_s, u"aac"_s, u"-b:a"_s, QLatin1StringView(coding.soundBitRate)};
+        arguments += {u"-c:a"_s, u"aac"_s, u"-b:a"_s, QLatin1StringView(codings.at(size_t(plan.quality)).soundBitRate)};
     if (stretch.seconds > 0)
         arguments += {u"-t"_s, number(stretch.seconds)};
     return arguments + QStringList{u"-shortest"_s, u"-f"_s,

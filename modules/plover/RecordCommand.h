@@ -19,6 +19,7 @@ struct RecordStretch {
     std::chrono::microseconds begin{0};  ///< by the clock since 1970; what comes before it is left out
     double seconds = 0;                  ///< of this stretch at the most; 0 for no limit
     bool isSilent = false;               ///< the sound server is away: the track goes on without a sound
+    QString hardwareDevice = {};         ///< that encodes the pictures; empty for software
     QString output = {};                 ///< a file that is there already
 };
 

@@ -98,6 +98,9 @@ void RecordJob::start()
     setTarget(*target);
     if (const auto space = m_tools.diskSpace(m_recording.folder); space && space->available <= m_tools.reservedBytes)
         return fail("There is too little space on the disk to record."_key);
+    constexpr QSize usualSize(1920, 1080);  // where only the pictures tell
+    if (m_tools.hardwareDevice)
+        m_hardwareDevice = m_tools.hardwareDevice(m_target.area.isEmpty() ? usualSize : m_target.area.size());
     m_watch.start(watchInterval);
     if (m_target.isShared)
         openScreen();
@@ -130,6 +133,7 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
                                 .begin = now + lead,
                                 .seconds = plan.seconds > 0 ? plan.seconds - recordedSeconds() : 0,
                                 .isSilent = m_isSilent,
+                                .hardwareDevice = m_hardwareDevice,
                                 .output = part.partPath()};
     const QStringList arguments = recordArguments(plan, stretch);
     tarnwell::DNFootLog(u"Recording: %1"_s, arguments.join(u' '));

@@ -25,6 +25,8 @@ struct RecordTools {
     QString frames = {};                                       ///< of screenFrames
     QString restoreToken = {};                                 ///< of what the portal let be recorded last
     std::function<void(const QString &token)> keepToken = {};  ///< takes the one for next time
+    /// The device that encodes pictures of this size in hardware; empty where there is none, or it is not to be used.
+    std::function<QString(QSize pictures)> hardwareDevice = {};
     DiskSpaceFunction diskSpace = diskSpaceOf;
     qint64 reservedBytes = 200'000'000;  ///< that are left free on the disk
 };
@@ -99,7 +101,8 @@ private:
 
     UnfinishedRecording m_recording;
     RecordTools m_tools;
-    QSize m_size;  ///< of the pictures of all stretches; empty until it is known
+    QString m_hardwareDevice;  ///< of all stretches, which are encoded alike; empty for software
+    QSize m_size;              ///< of the pictures of all stretches; empty until it is known
     CaptureTarget m_target;
     bool m_isRecovery = false;
     bool m_isSilent = false;                    ///< for want of the sound server

@@ -104,6 +104,10 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
     const RecordPlan &plan = m_recording.plan;
     tarnwell::DNFootLog(u"A recording was interrupted: %1"_s, ending.lastWords);
     const bool isFirst = m_recording.stretches.isEmpty();
+    if (isFirst && !std::exchange(m_hardwareDevice, {}).isEmpty()) {
+        emit noted("Encoding in software"_key);
+        return m_isHolding ? void() : beginStretch();
+    }
     const bool isCamera = !m_target.camera.isEmpty() && ending.lastWords.contains(m_target.camera);
     if (isFirst && isCamera)
         return fail("The camera could not be opened. Another program may be using it."_key, ending.lastWords);

@@ -138,6 +138,19 @@ TEST_F(RecordJobTest, AMicrophoneThatIsGoneGivesWayToTheUsualOne)
     EXPECT_GT(pictures(m_outcome->outputs.first(), u"a"_s).size(), 20);
 }
 
+TEST_F(RecordJobTest, HardwareThatFailsGivesWayToSoftware)
+{
+    m_tools.hardwareDevice = [](QSize) { return u"/dev/null"_s; };
+    m_plan.seconds = 1;
+    take(std::make_unique<RecordJob>(m_plan, m_folder.path(), m_tools));
+    QStringList notes;
+    QObject::connect(m_job.get(), &Job::noted, m_job.get(),
+                     [&](const tarnwell::Sentence &note) { notes.append(note.english()); });
+    ASSERT_TRUE(waitForEnd());
+    EXPECT_EQ(notes, QStringList{u"Encoding in software"_s});
+    EXPECT_EQ(m_outcome->state, JobState::Done) << qPrintable(m_outcome->details);
+}
+
 TEST_F(RecordJobTest, StopsWhilePaused)
 {
     begin();
