@@ -2,6 +2,7 @@
 
 #include "AreaChooser.h"
 #include "PreviewPicture.h"
+#include "ScreenOverlay.h"
 #include "WindowChooser.h"
 #include "foundation/Queues.h"
 #include "modules/plover/RecordRecipe.h"
@@ -11,11 +12,9 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTime>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QPointer>
 #include <QProgressBar>
-#include <QScreen>
 #include <QTimeEdit>
 
 #include <chrono>
@@ -55,18 +54,9 @@ QComboBox *named(QComboBox *box, const char *objectName, tarnwell::TextKey name)
     return box;
 }
 
-/// In pixels of the display.
-QPixmap pictureOf(quint32 window, const QRect &area)
-{
-    QScreen *screen = QGuiApplication::primaryScreen();
-    const double ratio = screen->devicePixelRatio();
-    const QRect points((QPointF(area.topLeft()) / ratio).toPoint(), area.size() / ratio);
-    return screen->grabWindow(window, points.x(), points.y(), points.width(), points.height());
-}
-
 QIcon iconOf(quint32 window, const QRect &area)
 {
-    const QPixmap picture = pictureOf(window, area);
+    const QPixmap picture = displayPicture(window, area);
     return picture.isNull() ? QIcon() : picture.scaled(entryPicture * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
@@ -392,7 +382,7 @@ void CapturePanel::showPreview()
     const auto target = captureTarget(plan);
     if (!target)
         return m_picture->showText(target.reason().localized());
-    m_picture->showPicture(pictureOf(target->window, target->area));
+    m_picture->showPicture(displayPicture(target->window, target->area));
 }
 
 void CapturePanel::followCamera(const RecordPlan &plan)

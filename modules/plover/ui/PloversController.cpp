@@ -3,6 +3,7 @@
 #include "CapturePanel.h"
 #include "ClickRings.h"
 #include "ControlBar.h"
+#include "ScreenOverlay.h"
 #include "foundation/Queues.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
@@ -20,12 +21,10 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QGuiApplication>
 #include <QImage>
 #include <QJsonDocument>
 #include <QLocale>
 #include <QMenu>
-#include <QScreen>
 #include <QShortcut>
 #include <QSystemTrayIcon>
 
@@ -353,12 +352,8 @@ void PloversController::takeSnapshot()
             job, &RecordJob::snapshotTaken, this, [this](const QString &path) { keepSnapshot(QImage(path)); },
             Qt::SingleShotConnection);
     }
-    if (m_target.display.isEmpty())
-        return;
-    QScreen *screen = QGuiApplication::primaryScreen();
-    const double ratio = screen->devicePixelRatio();
-    const QRect area((QPointF(m_target.area.topLeft()) / ratio).toPoint(), m_target.area.size() / ratio);
-    keepSnapshot(screen->grabWindow(m_target.window, area.x(), area.y(), area.width(), area.height()).toImage());
+    if (!m_target.display.isEmpty())
+        keepSnapshot(displayPicture(m_target.window, m_target.area).toImage());
 }
 
 void PloversController::keepSnapshot(const QImage &picture)
