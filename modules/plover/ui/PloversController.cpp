@@ -18,6 +18,7 @@
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/TabOrder.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
@@ -44,6 +45,8 @@ constexpr JobPageTexts ploverTexts = {
     .emptyButton = {},
     .start = "Record"_key,
     .emptyImage = "plover_module",
+    .discardQuestion = "What has been recorded will be deleted."_key,
+    .discardButton = "Discard Recording"_key,
 };
 
 constexpr int countdownSeconds = 3;
@@ -116,6 +119,8 @@ void PloversController::extendMenu(QMenu *menu, const QList<JobId> &ids)
     for (const JobId id : ids)
         recordings += queue().record(id)->outcome.outputs;
     menu->addSeparator();
+    menu->addAction("Stop"_key.localized(), this, &PloversController::stopRecording)
+        ->setEnabled(ids.contains(m_recording));
     menu->addAction("Cut or Convert…"_key.localized(), this,
                     [this, recordings] { m_services.openInConverter(recordings); })
         ->setEnabled(!recordings.isEmpty());
@@ -174,9 +179,11 @@ void PloversController::forgetCountdown()
     m_page->showMessage({});
 }
 
-/// While it counts down the same button begins at once.
+/// While it counts down the same button begins at once, and then it ends the recording.
 void PloversController::startClicked()
 {
+    if (m_recording != 0)
+        return stopRecording();
     QString obstacle = m_panel->obstacle().localized();
     const bool isReady = obstacle.isEmpty() && m_settings->check(&obstacle);
     if (!isReady) {
@@ -311,8 +318,12 @@ void PloversController::recordChanged(JobId id)
 
 void PloversController::showState()
 {
-    if (m_page)
-        m_page->setStartEnabled(m_recording == 0);
+    if (!m_page)
+        return;
+    m_page->startButton()->setText((m_recording != 0 ? "Stop"_key : ploverTexts.start).localized());
+    // A second click on "Record" is not meant for "Stop".
+    const JobRecord *record = m_recording != 0 ? queue().record(m_recording) : nullptr;
+    m_page->setStartEnabled(!record || (record->progress.seconds > 0 && record->state != JobState::Stopping));
 }
 
 void PloversController::keyPressed(X11Keys::Key key)
