@@ -22,7 +22,9 @@ ControlBar::ControlBar()
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
       m_text(new QLabel),
       m_level(new QProgressBar),
-      m_pause(new QPushButton("Pause"_key.localized()))
+      m_stop(new QPushButton("Stop"_key.localized())),
+      m_pause(new QPushButton("Pause"_key.localized())),
+      m_snapshot(new QPushButton("Snapshot"_key.localized()))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setObjectName(u"controlBar"_s);
@@ -34,13 +36,11 @@ ControlBar::ControlBar()
     m_level->setTextVisible(false);
     m_level->setFixedWidth(60);
     m_level->setAccessibleName("Sound level"_key.localized());
-    auto *stop = new QPushButton("Stop"_key.localized());
-    auto *snapshot = new QPushButton("Snapshot"_key.localized());
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, stop, snapshot})
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, m_stop, m_snapshot})
         layout->addWidget(widget);
     connect(m_pause, &QPushButton::clicked, this, &ControlBar::pauseClicked);
-    connect(stop, &QPushButton::clicked, this, &ControlBar::stopClicked);
-    connect(snapshot, &QPushButton::clicked, this, &ControlBar::snapshotClicked);
+    connect(m_stop, &QPushButton::clicked, this, &ControlBar::stopClicked);
+    connect(m_snapshot, &QPushButton::clicked, this, &ControlBar::snapshotClicked);
 }
 
 bool ControlBar::showBeside(const QRect &area)
@@ -66,6 +66,22 @@ bool ControlBar::showBeside(const QRect &area)
     }
     hide();
     return false;
+}
+
+void ControlBar::showAtEdge()
+{
+    constexpr int margin = 16;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize size = sizeHint();
+    setGeometry({{screen.center().x() - size.width() / 2, screen.bottom() - margin - size.height()}, size});
+    show();
+}
+
+void ControlBar::setKeys(const QStringList &keys)
+{
+    QPushButton *const buttons[] = {m_stop, m_pause, m_snapshot};
+    for (qsizetype number = 0; number < qsizetype(std::size(buttons)); ++number)
+        buttons[number]->setToolTip(keys.value(number));
 }
 
 void ControlBar::showRecord(const JobRecord &record, qint64 missed)

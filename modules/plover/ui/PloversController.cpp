@@ -51,6 +51,20 @@ constexpr JobPageTexts ploverTexts = {
 
 constexpr int countdownSeconds = 3;
 
+/// What can be done from anywhere, with Ctrl and Alt.
+constexpr struct {
+    X11Keys::Key key;
+    Qt::Key letter;
+    tarnwell::TextKey text;
+} remoteActions[] = {{X11Keys::Key::Stop, Qt::Key_S, "Stop"_key},
+                     {X11Keys::Key::Pause, Qt::Key_P, "Pause"_key},
+                     {X11Keys::Key::Snapshot, Qt::Key_N, "Snapshot"_key}};
+
+QKeySequence keysFor(Qt::Key letter)
+{
+    return QKeySequence(Qt::CTRL | Qt::ALT | letter);
+}
+
 }  // namespace
 
 PloversController::PloversController(const ModuleConfigure &configure, ModuleServices &services)
@@ -88,11 +102,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 
     connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
-    connect(panel, &CapturePanel::beginChosen, this, [this] {
-        if (m_beginning.isValid())
-            m_page->showMessage({});
-        m_beginning = {};
-    });
+    connect(panel, &CapturePanel::beginChosen, this, &PloversController::endCountdown);
     connect(page->list(), &JobListView::menuRequested, this, &PloversController::extendMenu);
     (new MadeFilms(*page, m_settings))->showPictures(*m_list);
     connect(&queue(), &JobQueue::changed, this, &PloversController::recordChanged);
@@ -173,9 +183,17 @@ void PloversController::onViewDidDisappear()
 /// A recording that is to begin at a time does so from any module.
 void PloversController::forgetCountdown()
 {
-    if (!m_beginning.isValid() || m_panel->begin() == CapturePanel::Begin::AtTime)
+    if (m_beginning.isValid() && m_panel->begin() != CapturePanel::Begin::AtTime)
+        endCountdown();
+}
+
+void PloversController::endCountdown()
+{
+    if (!m_beginning.isValid())
         return;
     m_beginning = {};
+    m_keys.reset();
+    m_shortcuts.reset();
     m_page->showMessage({});
 }
 
@@ -206,13 +224,19 @@ void PloversController::beginAt(const QDateTime &moment)
     const std::chrono::milliseconds left(QDateTime::currentDateTime().msecsTo(moment));
     if (left.count() <= 0)
         return record();
+    constexpr std::chrono::seconds keysAhead(10);
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(left);
     const Sentence message = seconds < std::chrono::minutes(1)
                                  ? Sentence("Recording begins in %1 s. Press Record to begin at once."_key,
                                             {QString::number(seconds.count())})
                                  : Sentence("Recording begins at %1. Press Record to begin at once."_key,
                                             {QLocale().toString(moment.time(), QLocale::ShortFormat)});
-    m_page->showMessage(message.localized());
+    QStringList parts{message.localized()};
+    if (seconds <= keysAhead) {
+        takeKeys();
+        parts.append(keyLine(u' '));
+    }
+    m_page->showMessage(parts.join(u' ').trimmed());
     constexpr std::chrono::milliseconds step = std::chrono::seconds(1);
     foundation::queue::afterMain(std::min(step, left), [self = QPointer(this), moment] {
         if (self && self->m_beginning == moment)
@@ -245,45 +269,85 @@ void PloversController::openControls()
         m_rings = std::make_unique<ClickRings>(*m_keys);
         m_rings->setActive(true);
     }
-    m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
-    m_tray->setToolTip("Recording"_key.localized());
-    connect(m_tray.get(), &QSystemTrayIcon::activated, this, &PloversController::stopRecording);
-    m_tray->show();
-
+    openTray();
     m_bar = std::make_unique<ControlBar>();
     connect(m_bar.get(), &ControlBar::pauseClicked, this, &PloversController::togglePause);
     connect(m_bar.get(), &ControlBar::stopClicked, this, &PloversController::stopRecording);
     connect(m_bar.get(), &ControlBar::snapshotClicked, this, &PloversController::takeSnapshot);
-    if (m_target.display.isEmpty())
+    m_bar->setKeys(keyTexts());
+    if (m_target.isShared)  // nobody knows where that is: this window stays
         return;
+    if (m_target.display.isEmpty())
+        return m_bar->showAtEdge();
     QRect area = m_target.area;
     if (m_target.window != 0) {
         const auto display = X11Display::open();
         if (const auto window = display ? (*display)->window(m_target.window) : std::nullopt)
             area = window->area;
     }
-    // Without room beside the picture, this window steps out of it and tray and keys remain.
-    if (!m_bar->showBeside(area) && m_view->isVisible())
+    // Without room beside the picture, this window steps out of it where tray or keys remain.
+    const bool isInReach = QSystemTrayIcon::isSystemTrayAvailable() || (m_keys && m_keys->isTaken(X11Keys::Key::Stop));
+    if (!m_bar->showBeside(area) && isInReach && m_view->isVisible())
         m_view->window()->showMinimized();
+}
+
+void PloversController::openTray()
+{
+    m_trayMenu = std::make_unique<QMenu>();
+    const QStringList keys = keyTexts();
+    for (const auto &[key, letter, text] : remoteActions) {
+        m_trayMenu->addAction((text.localized() + u'\t' + keys[qsizetype(key)]).trimmed(), this,
+                              [this, key = key] { keyPressed(key); });
+    }
+    m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
+    m_tray->setToolTip(("Recording"_key.localized() + u'\n' + keyLine(u'\n')).trimmed());
+    m_tray->setContextMenu(m_trayMenu.get());
+    connect(m_tray.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            keyPressed(X11Keys::Key::Stop);
+    });
+    m_tray->show();
 }
 
 void PloversController::takeKeys()
 {
+    if (m_keys || m_shortcuts)
+        return;
     if (!isWaylandSession()) {
         m_keys = std::make_unique<X11Keys>();
         connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
         return;
     }
     m_shortcuts = std::make_unique<QObject>();
-    for (const auto &[key, letter] :
-         {std::pair(X11Keys::Key::Stop, Qt::Key_S), std::pair(X11Keys::Key::Pause, Qt::Key_P),
-          std::pair(X11Keys::Key::Snapshot, Qt::Key_N)}) {
-        auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::ALT | letter), m_view->window());
+    for (const auto &[key, letter, text] : remoteActions) {
+        auto *shortcut = new QShortcut(keysFor(letter), m_view->window());
         shortcut->setContext(Qt::ApplicationShortcut);
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, [this, key = key] { keyPressed(key); });
         connect(m_shortcuts.get(), &QObject::destroyed, shortcut, &QObject::deleteLater);
     }
+}
+
+/// Of those that were got.
+QStringList PloversController::keyTexts() const
+{
+    QStringList texts;
+    for (const auto &[key, letter, text] : remoteActions) {
+        const bool isThere = m_shortcuts || (m_keys && m_keys->isTaken(key));
+        texts.append(isThere ? keysFor(letter).toString(QKeySequence::NativeText) : QString());
+    }
+    return texts;
+}
+
+QString PloversController::keyLine(QChar separator) const
+{
+    const QStringList keys = keyTexts();
+    QStringList parts;
+    for (const auto &[key, letter, text] : remoteActions) {
+        if (const QString &known = keys[qsizetype(key)]; !known.isEmpty())
+            parts.append(text.localized() + u": "_s + known);
+    }
+    return parts.join(separator == u' ' ? u" · "_s : QString(separator));
 }
 
 void PloversController::closeControls()
@@ -294,6 +358,8 @@ void PloversController::closeControls()
     m_keys.reset();
     m_shortcuts.reset();
     m_tray.reset();
+    if (m_trayMenu)
+        m_trayMenu.release()->deleteLater();
     // Its own button may be what ended the recording.
     if (m_bar)
         m_bar.release()->deleteLater();
@@ -321,6 +387,7 @@ void PloversController::showState()
     if (!m_page)
         return;
     m_page->startButton()->setText((m_recording != 0 ? "Stop"_key : ploverTexts.start).localized());
+    m_page->startButton()->setToolTip(m_recording != 0 ? keyLine(u'\n') : QString());
     // A second click on "Record" is not meant for "Stop".
     const JobRecord *record = m_recording != 0 ? queue().record(m_recording) : nullptr;
     m_page->setStartEnabled(!record || (record->progress.seconds > 0 && record->state != JobState::Stopping));
@@ -353,10 +420,14 @@ void PloversController::stopRecording()
 {
     if (m_recording != 0)
         queue().stop({m_recording});
+    else
+        endCountdown();
 }
 
 void PloversController::takeSnapshot()
 {
+    if (m_recording == 0)
+        return;
     if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot()) {
         disconnect(job, &RecordJob::snapshotTaken, this, nullptr);  // one that never came
         connect(
