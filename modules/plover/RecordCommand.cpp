@@ -187,6 +187,19 @@ QStringList soundSources(const RecordPlan &plan)
     return sources;
 }
 
+QList<Microphone> microphonesIn(const QByteArray &told)
+{
+    // "* alsa_input.usb-1 [Headset] (none)", where the star marks the usual one
+    static const QRegularExpression row(u"^[* ] (\\S+) \\[(.*)\\]( \\([^)]*\\))?$"_s);
+    QList<Microphone> microphones;
+    for (const QByteArray &line : told.split('\n')) {
+        const QRegularExpressionMatch match = row.match(QString::fromUtf8(line));
+        if (match.hasMatch() && !match.captured(1).endsWith(u".monitor"))  // what the computer plays
+            microphones.append({match.captured(1), match.captured(2)});
+    }
+    return microphones;
+}
+
 QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch)
 {
     QStringList arguments{u"-hide_banner"_s, u"-nostdin"_s, u"-y"_s,        u"-loglevel"_s, u"repeat+level+warning"_s,

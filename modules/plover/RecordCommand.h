@@ -38,6 +38,13 @@ QStringList framesArguments(const RecordPlan &plan, QSize size, int connection, 
 /// The sources of the plan's sound, as the sound server names them.
 QStringList soundSources(const RecordPlan &plan);
 
+struct Microphone {
+    QString name;   ///< as the sound server has it
+    QString title;  ///< "Built-in Audio Analog Stereo"
+};
+/// Those that `ffmpeg -sources pulse` tells.
+QList<Microphone> microphonesIn(const QByteArray &told);
+
 /// What tells by its success whether they can be recorded.
 QStringList soundProbeArguments(const RecordPlan &plan);
 

@@ -95,6 +95,17 @@ TEST(RecordCommandTest, AWindowOfAnotherSizeIsFittedIntoTheFirst)
     EXPECT_FALSE(fits());
 }
 
+TEST(RecordCommandTest, MicrophonesAreReadFromTheListOfSources)
+{
+    const QList<Microphone> found = microphonesIn(
+        "Auto-detected sources for pulse:\n"
+        "* out.monitor [Monitor of Null Output] (none)\n"
+        "  alsa_input.usb-1 [Head[set] (left)] (none)\n");
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found[0].name, u"alsa_input.usb-1");
+    EXPECT_EQ(found[0].title, u"Head[set] (left)");
+}
+
 TEST(RecordCommandTest, HardwareGetsItsPicturesUploaded)
 {
     for (const auto &inset : {std::optional<RecordPlan::Inset>(), std::optional(RecordPlan::Inset())}) {

@@ -5,6 +5,8 @@
 #include "ScreenOverlay.h"
 #include "WindowChooser.h"
 #include "foundation/Queues.h"
+#include "jobs/ToolProcess.h"
+#include "modules/plover/RecordCommand.h"
 #include "modules/plover/RecordRecipe.h"
 #include "modules/plover/ScreenCastPortal.h"
 #include "modules/plover/X11Display.h"
@@ -13,6 +15,7 @@
 #include <QComboBox>
 #include <QDateTime>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QPointer>
 #include <QProgressBar>
 #include <QTimeEdit>
@@ -54,6 +57,19 @@ QComboBox *named(QComboBox *box, const char *objectName, tarnwell::TextKey name)
     return box;
 }
 
+QString rateText(double rate)
+{
+    return Sentence("%1 pictures a second"_key, {QLocale().toString(rate, 'g', 4)}).localized();
+}
+
+/// Also a value that is not among the choices.
+void showValue(QComboBox *box, const QVariant &value, const QString &text)
+{
+    if (box->findData(value) < 0)
+        box->addItem(text, value);
+    box->setCurrentIndex(box->findData(value));
+}
+
 QIcon iconOf(quint32 window, const QRect &area)
 {
     const QPixmap picture = displayPicture(window, area);
@@ -66,11 +82,15 @@ CapturePanel::CapturePanel()
     : m_sources(named(new QComboBox, "sourceComboBox", "What to record"_key)),
       m_insets(named(new QComboBox, "insetComboBox", "Camera in the picture"_key)),
       m_sounds(named(new QComboBox, "soundComboBox", "Sound"_key)),
+      m_microphones(named(new QComboBox, "microphoneComboBox", "Microphone"_key)),
       m_formats(named(new QComboBox, "formatComboBox", "Format"_key)),
+      m_qualities(named(new QComboBox, "qualityComboBox", "Quality"_key)),
+      m_rates(named(new QComboBox, "rateComboBox", "Pictures a second"_key)),
       m_begins(named(new QComboBox, "countdownComboBox", "Begin"_key)),
       m_limits(named(new QComboBox, "limitComboBox", "Stop after"_key)),
       m_time(new QTimeEdit),
       m_pointer(new QCheckBox("Show the pointer"_key.localized())),
+      m_clicks(new QCheckBox("Show clicks"_key.localized())),
       m_picture(new PreviewPicture),
       m_level(new QProgressBar)
 {
@@ -78,7 +98,8 @@ CapturePanel::CapturePanel()
     arrange();
     connect(m_sources, &QComboBox::activated, this, &CapturePanel::sourceChosen);
     connect(m_insets, &QComboBox::currentIndexChanged, this, &CapturePanel::insetChosen);
-    connect(m_sounds, &QComboBox::activated, this, &CapturePanel::soundChosen);
+    for (QComboBox *box : {m_sounds, m_microphones})
+        connect(box, &QComboBox::activated, this, &CapturePanel::soundChosen);
     connect(m_begins, &QComboBox::currentIndexChanged, this, [this] {
         m_time->setVisible(begin() == Begin::AtTime);
         emit beginChosen();
@@ -104,6 +125,9 @@ void CapturePanel::makeChoices()
                    {m_sounds, "No sound"_key, int(None)},
                    {m_formats, "QuickTime movie (MOV)"_key, int(RecordPlan::Container::Mov)},
                    {m_formats, "MPEG-4 movie (MP4)"_key, int(RecordPlan::Container::Mp4)},
+                   {m_qualities, "Small file"_key, int(RecordPlan::Quality::Small)},
+                   {m_qualities, "Good quality"_key, int(RecordPlan::Quality::Good)},
+                   {m_qualities, "Best quality"_key, int(RecordPlan::Quality::Best)},
                    {m_begins, "Count down from three"_key, int(Begin::AfterCountdown)},
                    {m_begins, "Begin at once"_key, int(Begin::AtOnce)},
                    {m_begins, "Begin at a time…"_key, int(Begin::AtTime)},
@@ -112,6 +136,10 @@ void CapturePanel::makeChoices()
         box->addItem(text.localized(), value);
     for (const int minutes : {1, 5, 10, 30, 60})
         m_limits->addItem(Sentence("Stop after %1 min"_key, {QString::number(minutes)}).localized(), minutes * 60);
+    for (const int rate : {15, 24, 30, 60})
+        m_rates->addItem(rateText(rate), double(rate));
+    m_microphones->addItem("Usual microphone"_key.localized(), QString());
+    m_clicks->setObjectName(u"clicksCheckBox"_s);
     m_sources->setIconSize(entryPicture);
     m_time->setObjectName(u"beginTimeEdit"_s);
     m_time->setAccessibleName("Time at which the recording begins"_key.localized());
@@ -132,7 +160,7 @@ void CapturePanel::arrange()
     layout->addWidget(m_picture);
     auto *choices = new QVBoxLayout;
     choices->setSpacing(8);
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_insets, m_sounds, m_level})
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_insets})
         choices->addWidget(widget);
     const auto addPair = [choices](QWidget *left, QWidget *right) {
         auto *pair = new QHBoxLayout;
@@ -141,19 +169,23 @@ void CapturePanel::arrange()
         choices->addLayout(pair);
         return pair;
     };
+    addPair(m_sounds, m_microphones);
+    choices->addWidget(m_level);
     addPair(m_begins, m_limits)->insertWidget(1, m_time);
-    addPair(m_formats, m_pointer);
+    addPair(m_formats, m_qualities);
+    addPair(m_rates, m_pointer)->addWidget(m_clicks);
     choices->addStretch();
     layout->addLayout(choices, 1);
 }
 
-void CapturePanel::open(const QString &transcoderPath, const std::optional<RecordPlan> &last)
+void CapturePanel::open(const QString &transcoderPath, const RecordPlan &usual, const std::optional<RecordPlan> &last)
 {
     m_transcoderPath = transcoderPath;
     fillSources();
     fillCameras();
-    if (last && !std::exchange(m_isRestored, true))
-        restore(*last);
+    if (!std::exchange(m_isRestored, true))
+        restore(usual, last);
+    fillMicrophones();
     m_preview.start(previewInterval);
     soundChosen();
     showPreview();
@@ -165,6 +197,7 @@ void CapturePanel::release()
     m_meter.close();
     m_camera.close();
     m_portal.reset();
+    m_microphoneList.reset();
     m_picture->showPicture({});
 }
 
@@ -213,6 +246,25 @@ void CapturePanel::fillCameras()
     insetChosen();
 }
 
+/// As soon as the sound server has told them.
+void CapturePanel::fillMicrophones()
+{
+    m_microphoneList =
+        std::make_unique<ToolProcess>(ToolCommand{.program = m_transcoderPath,
+                                                  .arguments = {u"-hide_banner"_s, u"-sources"_s, u"pulse"_s},
+                                                  .timeLimit = 10s,
+                                                  .collectsOutput = true});
+    connect(m_microphoneList.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
+        const QString chosen = m_microphones->currentData().toString();
+        while (m_microphones->count() > 1)
+            m_microphones->removeItem(1);
+        for (const Microphone &microphone : microphonesIn(ending.output))
+            m_microphones->addItem(microphone.title, microphone.name);
+        showValue(m_microphones, chosen, chosen);
+    });
+    m_microphoneList->start();
+}
+
 /// What is there is the desktop's to show.
 void CapturePanel::addPortal()
 {
@@ -233,8 +285,14 @@ void CapturePanel::addPortal()
 }
 
 /// Windows and areas are others by now.
-void CapturePanel::restore(const RecordPlan &last)
+void CapturePanel::restore(const RecordPlan &usual, const std::optional<RecordPlan> &lastPlan)
 {
+    m_qualities->setCurrentIndex(m_qualities->findData(int(usual.quality)));
+    showValue(m_rates, usual.rate, rateText(usual.rate));
+    showValue(m_microphones, usual.microphone, usual.microphone);
+    if (!lastPlan)
+        return;
+    const RecordPlan &last = *lastPlan;
     const auto show = [](QComboBox *box, const QVariant &value) {
         if (const int index = box->findData(value); index >= 0)
             box->setCurrentIndex(index);
@@ -272,6 +330,7 @@ void CapturePanel::soundChosen()
         return;
     RecordPlan plan;
     choose(plan);
+    m_microphones->setEnabled(plan.sound == RecordPlan::Sound::Microphone || plan.sound == RecordPlan::Sound::Both);
     m_meter.open(m_transcoderPath, plan);
 }
 
@@ -340,9 +399,22 @@ void CapturePanel::choose(RecordPlan &plan) const
     const int sound = m_sounds->currentData().toInt();
     plan.separateTracks = sound > int(RecordPlan::Sound::Both);
     plan.sound = plan.separateTracks ? RecordPlan::Sound::Both : RecordPlan::Sound(sound);
+    plan.microphone = m_microphones->currentData().toString();
+    plan.quality = RecordPlan::Quality(m_qualities->currentData().toInt());
+    plan.rate = m_rates->currentData().toDouble();
     plan.container = RecordPlan::Container(m_formats->currentData().toInt());
     plan.pointer = m_pointer->isChecked();
     plan.seconds = m_limits->currentData().toInt();
+}
+
+void CapturePanel::setShowsClicks(bool shows)
+{
+    m_clicks->setChecked(shows);
+}
+
+bool CapturePanel::showsClicks() const
+{
+    return m_clicks->isChecked();
 }
 
 CapturePanel::Begin CapturePanel::begin() const

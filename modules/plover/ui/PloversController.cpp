@@ -95,6 +95,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
     m_page = page.get();
     auto *panel = new CapturePanel;
     m_panel = panel;
+    panel->setShowsClicks(m_settings->isCaptureMouseClick());
     page->setTopArea(panel);
     auto *folder = new OutputFolderLine;
     folder->setDispatcher(m_settings);
@@ -119,7 +120,8 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 void PloversController::openPanel()
 {
     const QByteArray choices = m_settings->getRecordChoices().toUtf8();
-    m_panel->open(m_settings->getTranscoderPath(), RecordPlan::fromJson(QJsonDocument::fromJson(choices).object()));
+    m_panel->open(m_settings->getTranscoderPath(), recordPlan(*m_settings),
+                  RecordPlan::fromJson(QJsonDocument::fromJson(choices).object()));
 }
 
 /// What is to be made of a recording is the converter's work.
@@ -249,6 +251,10 @@ void PloversController::record()
     m_beginning = {};
     RecordPlan plan = recordPlan(*m_settings);
     m_panel->choose(plan);
+    m_settings->setDefaultRecordQuality(int(plan.quality));
+    m_settings->setMaxFramerate(plan.rate);
+    m_settings->setAudioDeviceID(plan.microphone);
+    m_settings->setCaptureMouseClick(m_panel->showsClicks());
     m_settings->setRecordChoices(QString::fromUtf8(QJsonDocument(plan.toJson()).toJson(QJsonDocument::Compact)));
     const auto target = captureTarget(plan);
     m_target = target ? *target : CaptureTarget();
