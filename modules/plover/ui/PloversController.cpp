@@ -50,6 +50,7 @@ constexpr JobPageTexts ploverTexts = {
 };
 
 constexpr int countdownSeconds = 3;
+constexpr std::chrono::seconds recoveryDelay(5);  ///< after a start, which has other things to do
 
 /// What can be done from anywhere, with Ctrl and Alt.
 constexpr struct {
@@ -73,6 +74,23 @@ PloversController::PloversController(const ModuleConfigure &configure, ModuleSer
       m_recipe([this] { return recordTools(*m_settings); }),
       m_view(std::make_unique<LateView>([this] { return makeContents(); }))
 {
+    foundation::queue::afterMain(recoveryDelay, [self = QPointer(this)] {
+        if (self)
+            self->recover();
+    });
+}
+
+/// What an interrupted recording left is finished also where nobody opens the page, which does it.
+void PloversController::recover()
+{
+    foundation::queue::asyncGlobal([self = QPointer(this)] {
+        if (UnfinishedRecording::findAll().isEmpty())
+            return;
+        foundation::queue::asyncMain([self] {
+            if (self)
+                self->m_view->makeContents();
+        });
+    });
 }
 
 PloversController::~PloversController()

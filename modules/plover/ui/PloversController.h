@@ -44,6 +44,7 @@ public:
     void onViewDidDisappear() override;
 
 private:
+    void recover();
     std::unique_ptr<QWidget> makeContents();
     JobQueue &queue();
     void startClicked();
