@@ -37,6 +37,20 @@ constexpr auto previewInterval = 500ms;
 constexpr auto untilGone = 200ms;  ///< a list or a chooser that closes, from the picture of the screen
 using What = RecordPlan::What;
 
+/// Windows come and go while the panel is open.
+class SourceBox : public QComboBox {
+public:
+    explicit SourceBox(std::function<void()> refill) : m_refill(std::move(refill)) {}
+    void showPopup() override
+    {
+        m_refill();
+        QComboBox::showPopup();
+    }
+
+private:
+    std::function<void()> m_refill;
+};
+
 /// What an entry of the sources stands for; a window of the number 0 is chosen by a click.
 QVariantList entry(What what, const QVariant &name = {})
 {
@@ -79,7 +93,7 @@ QIcon iconOf(quint32 window, const QRect &area)
 }  // namespace
 
 CapturePanel::CapturePanel()
-    : m_sources(named(new QComboBox, "sourceComboBox", "What to record"_key)),
+    : m_sources(named(new SourceBox([this] { fillSources(); }), "sourceComboBox", "What to record"_key)),
       m_insets(named(new QComboBox, "insetComboBox", "Camera in the picture"_key)),
       m_sounds(named(new QComboBox, "soundComboBox", "Sound"_key)),
       m_microphones(named(new QComboBox, "microphoneComboBox", "Microphone"_key)),
@@ -344,9 +358,11 @@ void CapturePanel::insetChosen()
 
 void CapturePanel::chooseArea()
 {
-    auto *chooser = new AreaChooser;
-    connect(chooser, &AreaChooser::chosen, this, [this](const QRect &area) {
-        m_area = area;
+    auto *chooser = new AreaChooser(m_area);
+    connect(chooser, &AreaChooser::chosen, this, [this](const QRect &area) { m_area = area; });
+    connect(chooser, &QObject::destroyed, this, [this] {
+        if (m_area.isEmpty())  // none was chosen
+            m_sources->setCurrentIndex(0);
         showPreview();
     });
     chooser->show();
