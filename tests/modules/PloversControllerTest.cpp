@@ -91,9 +91,11 @@ TEST_F(PloversControllerTest, RecordsPausesAndStops)
     EXPECT_EQ(find<QLabel>(u"folderLabel"_s)->text(), m_settings.dispatcher().getVideoDir());
     choose(u"soundComboBox"_s, int(RecordPlan::Sound::None));
     choose(u"countdownComboBox"_s, false);
+    choose(u"qualityComboBox"_s, int(RecordPlan::Quality::Small));
     auto *start = find<QPushButton>(u"startButton"_s);
     start->click();
     ASSERT_TRUE(waitForSeconds(1));
+    EXPECT_EQ(m_settings.dispatcher().getRecorderDefaultQuality(), int(RecordPlan::Quality::Small));
     barButton(u"Pause"_s)->click();
     EXPECT_EQ(recording()->state, JobState::Paused);
     const double paused = recording()->progress.seconds;
