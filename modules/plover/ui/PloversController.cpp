@@ -399,10 +399,14 @@ void PloversController::recordChanged(JobId id)
     if (id != m_recording || id == 0)
         return;
     const JobRecord *record = queue().record(id);
-    if (!record || isEnded(record->state))
+    if (!record || isEnded(record->state)) {
         closeControls();
-    else if (m_bar)
+    } else if (m_bar) {
         m_bar->showRecord(*record, m_recipe.recording() ? m_recipe.recording()->missedPictures() : 0);
+        const auto pause = int(X11Keys::Key::Pause);
+        const tarnwell::TextKey text = record->state == JobState::Paused ? "Continue"_key : "Pause"_key;
+        m_trayMenu->actions().at(pause)->setText((text.localized() + u'\t' + keyTexts()[pause]).trimmed());
+    }
     showState();
 }
 
