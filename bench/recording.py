@@ -13,6 +13,7 @@ import time
 
 sys.path.insert(0, os.path.join(os.path.dirname(os.path.abspath(__file__)), '../tests/plover'))
 import recorded
+import recorder_harness
 import recording_test
 
 SECONDS = int(sys.argv[2]) if len(sys.argv) > 2 else 20
@@ -54,7 +55,7 @@ class Bench(recording_test.RecordingTest):
     def runTest(self):
         for size in ((1280, 720), (1920, 1080)):
             with self.subTest(size):
-                recording_test.SIZE = size
+                recorder_harness.SIZE = size
                 self.display = self.start_display()
                 self.show_scene(0, 0, *size)
                 time.sleep(1)

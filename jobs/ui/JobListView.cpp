@@ -5,6 +5,7 @@
 #include "foundation/Queues.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
+#include "tarnwell/Alerts.h"
 #include "tarnwell/TextKey.h"
 #include "tarnwell/WebPages.h"
 
@@ -172,9 +173,36 @@ void JobListView::setFilterText(const QString &text)
     setDragDropMode(text.isEmpty() ? DragDrop : DragOnly);
 }
 
+void JobListView::setDiscardQuestion(tarnwell::TextKey question, tarnwell::TextKey button)
+{
+    m_discardQuestion = question;
+    m_discardButton = button;
+}
+
+bool JobListView::mayDiscard(const QList<JobId> &ids) const
+{
+    const bool isAsked = !m_discardQuestion.isEmpty() && std::any_of(ids.begin(), ids.end(), [this](JobId id) {
+        const JobRecord *record = m_queue.record(id);
+        return record && isActive(record->state);
+    });
+    return !isAsked || tarnwell::runAlert({.message = m_discardQuestion.localized(),
+                                           .defaultButton = m_discardButton.localized(),
+                                           .alternateButton = "Go On"_key.localized(),
+                                           .informativeText = {},
+                                           .style = tarnwell::AlertStyle::Warning}) == tarnwell::AlertAnswer::Default;
+}
+
+void JobListView::cancel(const QList<JobId> &ids)
+{
+    if (mayDiscard(ids))
+        m_queue.cancel(ids);
+}
+
 void JobListView::removeSelected()
 {
     const QList<JobId> ids = selectedIds();
+    if (!mayDiscard(ids))
+        return;
     const int row = ids.isEmpty() ? -1 : m_filter->mapFromSource(m_list.index(m_list.rowOf(ids.first()), 0)).row();
     m_queue.remove(ids);
     if (const QModelIndex next = m_filter->index(std::min(row, m_filter->rowCount() - 1), 0); next.isValid())
@@ -311,7 +339,7 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
         {"Go On"_key, !paused.isEmpty(), [this, paused] { m_queue.setPaused(paused, false); }},
         {"Cancel"_key, !(active + paused + checking).isEmpty(),
          [this, active, paused, checking] {
-             m_queue.cancel(active + paused);
+             cancel(active + paused);
              emit stopLookingRequested(checking);
          }},
         {},

@@ -26,6 +26,10 @@ public:
     /// Only rows whose title or details contain the text are shown; all for an empty one.
     void setFilterText(const QString &text);
 
+    /// For jobs whose work cannot be had again: what is asked before one that runs is cancelled or removed, and the
+    /// button that does it.
+    void setDiscardQuestion(tarnwell::TextKey question, tarnwell::TextKey button);
+    void cancel(const QList<JobId> &ids);
     void removeSelected();
     void removeEnded();
     void showDetails(JobId id);
@@ -57,6 +61,7 @@ private:
 
     void setUpKeys();
     void activate(const QModelIndex &index);
+    bool mayDiscard(const QList<JobId> &ids) const;
     void moveSelected(int rows);
     void showInFolder(JobId id);
     void copyResults(const QList<JobId> &ids);
@@ -65,6 +70,7 @@ private:
     JobQueue &m_queue;
     JobList &m_list;
     Filter *m_filter;
+    tarnwell::TextKey m_discardQuestion, m_discardButton;
 };
 
 }  // namespace kestrel

@@ -55,6 +55,7 @@ JobPage::JobPage(JobQueue &queue, JobList &list, const QString &module, const Jo
     m_form->listLayout->addWidget(m_list);
     m_list->setObjectName(u"jobList"_s);
     m_list->setAccessibleName(texts.title.localized());
+    m_list->setDiscardQuestion(texts.discardQuestion, texts.discardButton);
     setUpTexts(texts);
     setUpActions();
     showRows();
@@ -98,7 +99,7 @@ void JobPage::setUpActions()
     connect(m_form->closeTipButton, &QPushButton::clicked, m_form->tipFrame, &QWidget::hide);
     connect(m_form->pauseButton, &QPushButton::clicked, this, &JobPage::togglePause);
     connect(m_form->cancelButton, &QPushButton::clicked, this, [this] {
-        m_queue.cancel(m_queue.idsIn({JobState::Waiting, JobState::Running, JobState::Paused}, m_module));
+        m_list->cancel(m_queue.idsIn({JobState::Waiting, JobState::Running, JobState::Paused}, m_module));
         emit cancelClicked();
     });
     connect(m_form->filterEdit, &QLineEdit::textChanged, m_list, &JobListView::setFilterText);

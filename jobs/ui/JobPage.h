@@ -27,6 +27,8 @@ struct JobPageTexts {
     tarnwell::TextKey emptyButton;  ///< adds something; none for no such button
     tarnwell::TextKey start;        ///< "Convert"
     const char *emptyImage = nullptr;
+    tarnwell::TextKey discardQuestion = {};  ///< asked before a job is cancelled; none for no question
+    tarnwell::TextKey discardButton = {};
 };
 
 /// The page that every module stands in: Back and title, the module's own controls above, beside and below the list of

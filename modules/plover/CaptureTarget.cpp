@@ -2,7 +2,6 @@
 
 #include "X11Display.h"
 
-#include <QDir>
 #include <QFileInfo>
 
 #include <algorithm>
@@ -68,14 +67,6 @@ QRect recordableArea(const QRect &wanted, const QRect &desktop)
     return area.width() >= 2 && area.height() >= 2 ? area : QRect();
 }
 
-QStringList cameraDevices()
-{
-    QStringList paths;
-    for (const QString &name : QDir(u"/dev"_s).entryList({u"video*"_s}, QDir::System, QDir::Name))
-        paths.append(u"/dev/"_s + name);
-    return paths;
-}
-
 Target cameraTarget(const RecordPlan &plan)
 {
     CaptureTarget target;
@@ -84,10 +75,14 @@ Target cameraTarget(const RecordPlan &plan)
         return target;
     }
     target.camera = plan.camera;
-    if (target.camera.isEmpty() || !QFileInfo::exists(target.camera))
-        target.camera = cameraDevices().value(0);
-    if (target.camera.isEmpty())
+    if (!target.camera.isEmpty() && QFileInfo::exists(target.camera))
+        return target;
+    const CameraDevice first = cameraDevices().value(0);
+    if (first.path.isEmpty())
         return Failure{Sentence("No camera was found."_key)};
+    target.camera = first.path;
+    if (!plan.camera.isEmpty())
+        target.note = {"The chosen camera is missing: %1 is recorded instead."_key, {first.name}};
     return target;
 }
 
@@ -105,6 +100,7 @@ Target captureTarget(const RecordPlan &plan)
     CaptureTarget both = *pictures;
     both.camera = camera->camera;
     both.generator = camera->generator;
+    both.note = camera->note;
     return both;
 }
 

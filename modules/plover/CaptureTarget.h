@@ -5,6 +5,7 @@
 #include "foundation/Result.h"
 #include "tarnwell/TextKey.h"
 
+#include <QList>
 #include <QSize>
 
 namespace kestrel {
@@ -18,11 +19,16 @@ struct CaptureTarget {
     QString generator = {};  ///< instead of a camera: a source of ffmpeg's own
     bool isShared =
         false;  ///< through the portal: a stream with times of its own on standard input; the area may be empty
+    tarnwell::Sentence note = {};  ///< that it is another camera than was asked for
 };
 
-QStringList cameraDevices();  ///< paths of all that are there
+struct CameraDevice {
+    QString path;  ///< one that lasts where the system has such
+    QString name;  ///< "Integrated Webcam"
+};
+QList<CameraDevice> cameraDevices();  ///< all that are there
 
-/// The camera alone that the plan names, or the first one.
+/// The camera alone that the plan names, or the first one, with a note where it names another.
 foundation::Result<CaptureTarget, tarnwell::Sentence> cameraTarget(const RecordPlan &plan);
 
 /// What the plan names, or why it cannot be recorded: no such screen or window, an area that is nowhere.

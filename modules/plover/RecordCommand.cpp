@@ -1,5 +1,11 @@
 #include "RecordCommand.h"
 
+#include "media/Encoders.h"
+#include "tarnwell/SystemInformation.h"
+
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -14,14 +20,16 @@ namespace {
 
 struct Coding {
     const char *preset;
-    const char *quality;  ///< of x264, the smaller the better
+    const char *quality;   ///< of x264, the smaller the better
+    const char *hardware;  ///< of encoders in hardware, likewise
     const char *soundBitRate;
 };
 
 // By quality. Each keeps up with 30 pictures a second of 1920 × 1080 on two processors; the better ones take more of
 // the disk, not of the processor.
-constexpr std::array<Coding, 3> codings = {
-    {{"veryfast", "28", "96k"}, {"superfast", "23", "160k"}, {"superfast", "17", "256k"}}};
+constexpr std::array<Coding, 3> codings = {{{"veryfast", "28", "-qp 28", "96k"},
+                                            {"superfast", "23", "-qp 23", "160k"},
+                                            {"superfast", "17", "-qp 19", "256k"}}};
 
 QString number(double value)
 {
@@ -108,6 +116,17 @@ struct Graph {
     QStringList outputs;
 };
 
+/// Without delay in the encoder nothing is lost with it.
+QStringList pictureCoding(const RecordPlan &plan, const RecordStretch &stretch)
+{
+    const Coding &coding = codings.at(size_t(plan.quality));
+    if (!stretch.hardwareDevice.isEmpty())
+        return tableWords(tarnwell::hardwareEncoderArguments.encoder) + tableWords(coding.hardware) +
+               tableWords("-bf 0");
+    return {u"-c:v"_s,  u"libx264"_s,     u"-preset"_s, QLatin1StringView(coding.preset),
+            u"-tune"_s, u"zerolatency"_s, u"-crf"_s,    QLatin1StringView(coding.quality)};
+}
+
 /// `pictures` is the number of the input that has them; the sounds are the first ones.
 Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
 {
@@ -118,8 +137,10 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
         sounds.append(u"[a%1]"_s.arg(input));
         // Sound devices have clocks of their own, and the first times that the sound server tells are unsettled: the
         // sound is stretched until it is in step. Without `res` the resampler comes in the midst and forgets the step.
-        chains.append(u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0,aresample=async=1000:flags=res%3"_s.arg(input).arg(
-            begin, sounds.last()));
+        // What comes late is silence (`first_pts`), so that the tracks of every stretch begin together.
+        chains.append(
+            u"[%1:a]asetpts=PTS-%2/TB,atrim=start=0,aresample=async=1000:first_pts=0:flags=res%3"_s.arg(input).arg(
+                begin, sounds.last()));
     }
     if (sounds.size() > 1 && !plan.separateTracks) {
         chains.append(sounds.join(QString()) + u"amix=inputs=2:duration=longest:normalize=0[a]"_s);
@@ -132,9 +153,13 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
                      .arg(stretch.size.height());
     else if (own.isEmpty())
         chain += u"crop=trunc(iw/2)*2:trunc(ih/2)*2,"_s;
+    // What the encoder in hardware takes.
+    const QString last = stretch.hardwareDevice.isEmpty()
+                             ? u"[v]"_s
+                             : u","_s + QLatin1StringView(tarnwell::hardwareEncoderArguments.filter) + u"[v]"_s;
     const QString encoded = u"scale=flags=fast_bilinear:out_color_matrix=bt709:out_range=tv,format=yuv420p"_s;
     if (!hasInset(plan, stretch.target)) {
-        chains.append(chain + encoded + u"[v]"_s);
+        chains.append(chain + encoded + last);
     } else {
         // Converted before it is overlaid, so that both have the same colours; when the camera ends, the screen goes
         // on.
@@ -143,8 +168,8 @@ Graph graph(const RecordPlan &plan, const RecordStretch &stretch, int pictures)
         chains.append(u"[camera][screen]scale2ref=w=trunc(iw*%1/2)*2:h=trunc(ow/mdar/2)*2[inset][ground]"_s.arg(
             number(plan.inset->width)));
         chains.append(
-            u"[ground][inset]overlay=x=clip(W*%1\\,0\\,max(0\\,W-w)):y=clip(H*%2\\,0\\,max(0\\,H-h)):eof_action=pass:format=yuv420[v]"_s
-                .arg(number(plan.inset->x), number(plan.inset->y)));
+            u"[ground][inset]overlay=x=clip(W*%1\\,0\\,max(0\\,W-w)):y=clip(H*%2\\,0\\,max(0\\,H-h)):eof_action=pass:format=yuv420%3"_s
+                .arg(number(plan.inset->x), number(plan.inset->y), last));
     }
     return {chains.join(u';'), QStringList{u"[v]"_s} + sounds};
 }
@@ -162,11 +187,26 @@ QStringList soundSources(const RecordPlan &plan)
     return sources;
 }
 
+QList<Microphone> microphonesIn(const QByteArray &told)
+{
+    // "* alsa_input.usb-1 [Headset] (none)", where the star marks the usual one
+    static const QRegularExpression row(u"^[* ] (\\S+) \\[(.*)\\]( \\([^)]*\\))?$"_s);
+    QList<Microphone> microphones;
+    for (const QByteArray &line : told.split('\n')) {
+        const QRegularExpressionMatch match = row.match(QString::fromUtf8(line));
+        if (match.hasMatch() && !match.captured(1).endsWith(u".monitor"))  // what the computer plays
+            microphones.append({match.captured(1), match.captured(2)});
+    }
+    return microphones;
+}
+
 QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch)
 {
     QStringList arguments{u"-hide_banner"_s, u"-nostdin"_s, u"-y"_s,        u"-loglevel"_s, u"repeat+level+warning"_s,
                           u"-nostats"_s,     u"-copyts"_s,  u"-progress"_s, u"pipe:1"_s,    u"-stats_period"_s,
                           u"0.25"_s};
+    if (!stretch.hardwareDevice.isEmpty())
+        arguments += {QLatin1StringView(tarnwell::hardwareEncoderArguments.device), stretch.hardwareDevice};
     const QStringList sources = soundSources(plan);
     for (const QString &source : sources)
         arguments += soundInput(source, stretch.isSilent);
@@ -177,17 +217,9 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
     arguments += {u"-filter_complex"_s, text};
     for (const QString &output : outputs)
         arguments += {u"-map"_s, output};
-    const Coding &coding = codings.at(size_t(plan.quality));
-    // Without delay in the encoder nothing is lost with it; a constant rate plays and edits everywhere.
-    arguments += {u"-c:v"_s,
-                  u"libx264"_s,
-                  u"-preset"_s,
-                  QLatin1StringView(coding.preset),
-                  u"-tune"_s,
-                  u"zerolatency"_s,
-                  u"-crf"_s,
-                  QLatin1StringView(coding.quality),
-                  u"-g"_s,
+    // A constant rate plays and edits everywhere.
+    arguments += pictureCoding(plan, stretch);
+    arguments += {u"-g"_s,
                   QString::number(std::lround(plan.rate * 2)),
                   u"-colorspace"_s,
                   u"bt709"_s,
@@ -200,13 +232,21 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
                   u"-r"_s,
                   number(plan.rate)};
     if (!sources.isEmpty())
-        arguments += {u"-c:a"_s, u"aac"_s, u"-b:a"_s, QLatin1StringView(coding.soundBitRate)};
+        arguments += {u"-c:a"_s, u"aac"_s, u"-b:a"_s, QLatin1StringView(codings.at(size_t(plan.quality)).soundBitRate)};
     if (stretch.seconds > 0)
         arguments += {u"-t"_s, number(stretch.seconds)};
     return arguments + QStringList{u"-shortest"_s, u"-f"_s,
                                    u"matroska"_s,  u"-cluster_time_limit"_s,
                                    u"400"_s,       u"-flush_packets"_s,
                                    u"1"_s,         u"file:"_s + stretch.output};
+}
+
+QStringList soundProbeArguments(const RecordPlan &plan)
+{
+    QStringList arguments{u"-hide_banner"_s, u"-nostdin"_s, u"-loglevel"_s, u"error"_s};
+    for (const QString &source : soundSources(plan))
+        arguments += soundInput(source, false);
+    return arguments + QStringList{u"-t"_s, u"0.1"_s, u"-f"_s, u"null"_s, u"-"_s};
 }
 
 QStringList cameraPictureArguments(const CaptureTarget &camera, const QString &output)
@@ -246,16 +286,70 @@ QStringList finishArguments(const QString &list, const QString &output)
             u"0"_s,
             u"-c"_s,
             u"copy"_s,
-            u"-movflags"_s,
-            u"+faststart"_s,
             u"file:"_s + output};
 }
 
-QByteArray joinList(const QStringList &stretches)
+QStringList stretchSpanArguments(const QString &stretch)
+{
+    return {u"-v"_s,  u"error"_s, u"-show_entries"_s,  u"stream=codec_type,start_time:stream_tags=DURATION"_s,
+            u"-of"_s, u"json"_s,  u"file:"_s + stretch};
+}
+
+StretchSpan stretchSpan(const QByteArray &told)
+{
+    StretchSpan span;
+    const QJsonArray streams = QJsonDocument::fromJson(told).object()["streams"_L1].toArray();
+    for (const QJsonValue &stream : streams) {
+        // "00:00:04.354000000"
+        const QStringList parts = stream["tags"_L1]["DURATION"_L1].toString().split(u':');
+        const double end =
+            parts.size() == 3 ? parts[0].toDouble() * 3600 + parts[1].toDouble() * 60 + parts[2].toDouble() : 0;
+        if (stream["codec_type"_L1] == "video"_L1) {
+            span.begin = stream["start_time"_L1].toString().toDouble();
+            span.picturesEnd = end;
+        } else {
+            span.soundEnd = span.soundEnd > 0 ? std::min(span.soundEnd, end) : end;
+        }
+    }
+    return span;
+}
+
+double joiningEnd(const StretchSpan &span, double rate)
+{
+    constexpr double packet = 1024.0 / 48000, rounding = 0.0005;
+    constexpr int pictures = 4;  // of the last, whichever fits best: what is left over does not add up
+    constexpr double together = 1;
+    if (span.picturesEnd <= 0 || span.soundEnd <= 0)
+        return span.picturesEnd;
+    // Where one of them has ended long before, the pictures are what counts.
+    const bool haveEndedTogether = std::abs(span.picturesEnd - span.soundEnd) < together;
+    const double end = haveEndedTogether ? std::min(span.picturesEnd, span.soundEnd) : span.picturesEnd;
+    const double last = std::floor((end - span.begin) * rate + rounding);
+    double best = end - span.begin, bestRest = packet;
+    for (double number = last; number > std::max(last - pictures, 0.0); --number) {
+        const double picture = number / rate;
+        const double sound = std::floor((picture + rounding) / packet) * packet;
+        if (picture - sound < bestRest) {
+            best = sound;
+            bestRest = picture - sound;
+        }
+    }
+    return span.begin + best;
+}
+
+QByteArray joinList(const QStringList &stretches, const QList<StretchSpan> &spans, double rate)
 {
     QByteArray list = "ffconcat version 1.0\n";
-    for (QString path : stretches)
+    for (qsizetype number = 0; number < stretches.size(); ++number) {
+        QString path = stretches[number];
         list += "file 'file:" + path.replace(u"'"_s, u"'\\''"_s).toUtf8() + "'\n";
+        const StretchSpan span = spans.value(number);
+        const double end = number + 1 < stretches.size() ? joiningEnd(span, rate) : 0;
+        if (number > 0 && span.begin > 0)
+            list += "inpoint " + QByteArray::number(span.begin, 'f', 3) + '\n';
+        if (end > 0)  // in the file's own thousandths, so that what begins there is left out
+            list += "outpoint " + QByteArray::number(end, 'f', 3) + '\n';
+    }
     return list;
 }
 

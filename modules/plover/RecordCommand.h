@@ -19,6 +19,7 @@ struct RecordStretch {
     std::chrono::microseconds begin{0};  ///< by the clock since 1970; what comes before it is left out
     double seconds = 0;                  ///< of this stretch at the most; 0 for no limit
     bool isSilent = false;               ///< the sound server is away: the track goes on without a sound
+    QString hardwareDevice = {};         ///< that encodes the pictures; empty for software
     QString output = {};                 ///< a file that is there already
 };
 
@@ -37,9 +38,33 @@ QStringList framesArguments(const RecordPlan &plan, QSize size, int connection, 
 /// The sources of the plan's sound, as the sound server names them.
 QStringList soundSources(const RecordPlan &plan);
 
+struct Microphone {
+    QString name;   ///< as the sound server has it
+    QString title;  ///< "Built-in Audio Analog Stereo"
+};
+/// Those that `ffmpeg -sources pulse` tells.
+QList<Microphone> microphonesIn(const QByteArray &told);
+
+/// What tells by its success whether they can be recorded.
+QStringList soundProbeArguments(const RecordPlan &plan);
+
+/// Where a stretch's tracks begin and end, in seconds of its file; 0 where that is not known.
+struct StretchSpan {
+    double begin = 0;  ///< of the pictures; what stands before is the sound encoder's own
+    double picturesEnd = 0;
+    double soundEnd = 0;  ///< of the shortest; 0 also where there is none
+};
+QStringList stretchSpanArguments(const QString &stretch);  ///< of ffprobe
+StretchSpan stretchSpan(const QByteArray &told);
+
+/// Where the stretch is cut for the next one to follow without a gap: at the end of a packet of sound that is nearly
+/// that of a picture. 0 where its end is not known.
+double joiningEnd(const StretchSpan &span, double rate);
+
 /// What joins the stretches, without encoding, into the file that was asked for. `list` is for `joinList`'s text.
 QStringList finishArguments(const QString &list, const QString &output);
-QByteArray joinList(const QStringList &stretches);
+/// `spans` has all of them, or none where nothing is to be cut.
+QByteArray joinList(const QStringList &stretches, const QList<StretchSpan> &spans, double rate);
 
 /// The tracks that the finished file must hold.
 QList<OutputExpectation::Track> recordedTracks(const RecordPlan &plan);

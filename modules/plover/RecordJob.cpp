@@ -13,9 +13,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <fcntl.h>
-#include <unistd.h>
 #include <algorithm>
+#include <cmath>
 #include <limits>
 
 using namespace Qt::StringLiterals;
@@ -27,24 +26,12 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr std::chrono::seconds watchInterval{2};
+constexpr std::chrono::milliseconds watchInterval{500};
 /// Until ffmpeg has opened everything and the sound server's clock has settled.
 constexpr std::chrono::milliseconds leadWithSound{1200}, leadWithoutSound{600};
 constexpr std::chrono::seconds patience{20};
 
-/// What has been recorded survives the end of the machine as well.
-void syncLater(const QString &path)
-{
-    foundation::queue::asyncGlobal([name = QFile::encodeName(path)] {
-        const int file = open(name.constData(), O_RDONLY | O_CLOEXEC);
-        if (file < 0)
-            return;
-        fdatasync(file);
-        close(file);
-    });
-}
-
-/// By how many seconds the shortest sound is shorter than the pictures.
+/// By how many seconds the shortest sound is shorter than the pictures; less than 0 where it is longer.
 double missingSound(const FoundOutput &found, const RecordPlan &plan)
 {
     constexpr double packetsPerSecond = 48000.0 / 1024;
@@ -57,7 +44,7 @@ double missingSound(const FoundOutput &found, const RecordPlan &plan)
         else if (found.information.tracks[index].kind == MediaTrack::Kind::Audio)
             sound = std::min(sound, packets / packetsPerSecond);
     }
-    return std::max(pictures - sound, 0.0);
+    return sound < std::numeric_limits<double>::max() ? pictures - sound : 0;
 }
 
 }  // namespace
@@ -108,9 +95,12 @@ void RecordJob::start()
     const auto target = captureTarget(m_recording.plan);
     if (!target)
         return fail(target.reason());
-    m_target = *target;
+    setTarget(*target);
     if (const auto space = m_tools.diskSpace(m_recording.folder); space && space->available <= m_tools.reservedBytes)
         return fail("There is too little space on the disk to record."_key);
+    constexpr QSize usualSize(1920, 1080);  // where only the pictures tell
+    if (m_tools.hardwareDevice)
+        m_hardwareDevice = m_tools.hardwareDevice(m_target.area.isEmpty() ? usualSize : m_target.area.size());
     m_watch.start(watchInterval);
     if (m_target.isShared)
         openScreen();
@@ -133,6 +123,8 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
     const auto lead = plan.sound == RecordPlan::Sound::None ? leadWithoutSound : leadWithSound;
     const auto now = std::chrono::milliseconds(QDateTime::currentMSecsSinceEpoch());
     m_stretch = {};
+    m_looksInVain = 0;
+    m_hasSoundEnded = false;
     m_messages = ToolMessages({part.partPath()});
     if (m_size.isEmpty())
         m_size = m_target.area.size();
@@ -141,6 +133,7 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
                                 .begin = now + lead,
                                 .seconds = plan.seconds > 0 ? plan.seconds - recordedSeconds() : 0,
                                 .isSilent = m_isSilent,
+                                .hardwareDevice = m_hardwareDevice,
                                 .output = part.partPath()};
     const QStringList arguments = recordArguments(plan, stretch);
     tarnwell::DNFootLog(u"Recording: %1"_s, arguments.join(u' '));
@@ -153,14 +146,17 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
             readScreen(line);
         else
             m_messages.readLine(line);
+        noteSoundEnd(line);
     });
     connect(&tool, &ToolProcess::outputLine, this, &RecordJob::readProgress);
 }
 
 void RecordJob::readProgress(const QByteArray &line)
 {
-    // A screen on which nothing changes has few pictures of its own.
-    if (!m_target.isShared || !line.startsWith("dup_frames"))
+    // A screen on which nothing changes has few pictures of its own, and many a camera gives fewer than it is asked
+    // for.
+    const bool mayRepeat = m_target.isShared || m_recording.plan.what == RecordPlan::What::Camera;
+    if (!mayRepeat || !line.startsWith("dup_frames"))
         m_stretch.readLine(line);
     if (!line.startsWith("progress"))
         return;
@@ -197,47 +193,6 @@ void RecordJob::stretchEnded(const ToolEnding &ending)
     goOnAfterFailure(ending);
 }
 
-/// The screen's picture goes on without it.
-void RecordJob::loseInset()
-{
-    m_recording.plan.inset.reset();
-    m_problems.append("The camera went away: its picture ends there."_key);
-}
-
-/// A source has gone away by itself.
-void RecordJob::goOnAfterFailure(const ToolEnding &ending)
-{
-    const RecordPlan &plan = m_recording.plan;
-    tarnwell::DNFootLog(u"A recording was interrupted: %1"_s, ending.lastWords);
-    const bool isFirst = m_recording.stretches.isEmpty();
-    const bool isCamera = !m_target.camera.isEmpty() && ending.lastWords.contains(m_target.camera);
-    if (isFirst && isCamera)
-        return fail("The camera could not be opened. Another program may be using it."_key, ending.lastWords);
-    if (plan.inset && (isCamera || !cameraTarget(plan)))
-        loseInset();
-    const auto target = captureTarget(plan);
-    if (!target ||
-        (isFirst && (plan.sound == RecordPlan::Sound::None || ending.cause == ToolEnding::Cause::CouldNotStart)) ||
-        m_failures > 2) {
-        if (isFirst)
-            return fail(target ? m_messages.failure().sentence : target.reason(), ending.lastWords);
-        m_problems.append(target ? Sentence("The recording was interrupted."_key) : target.reason());
-        return endRecording();
-    }
-    if (isFirst)
-        return fail("The sound could not be recorded. Is the sound server running?"_key, ending.lastWords);
-    // The window may have another size now, which the arguments make up for; the second attempt goes without the sound.
-    if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None)
-        m_problems.append("The sound is missing since the sound server went away."_key);
-    if (m_isHolding)
-        return;
-    const QSize size = m_target.area.size();
-    m_target = *target;
-    if (m_target.isShared)  // whose size only its pictures tell
-        m_target.area.setSize(size);
-    beginStretch();
-}
-
 void RecordJob::stop()
 {
     if (m_isFinishing)
@@ -256,45 +211,11 @@ void RecordJob::setPaused(bool paused)
     if (m_isFinishing || isStopping() || m_isHolding == paused)
         return;
     m_isHolding = paused;
+    m_isSilent = m_isSilent && paused;
     if (paused && m_recorder)
         m_recorder->stop();
     else if (!paused && !m_recorder)
         beginStretch();
-}
-
-/// What hands over the pictures of a shared screen repeats the last one where nothing changes: none at all for five
-/// looks means that it is gone without a word.
-bool RecordJob::hasStopped()
-{
-    const qint64 before = std::exchange(m_picturesAtLook, m_stretch.pictures);
-    m_looksInVain = before > 0 && before == m_stretch.pictures ? m_looksInVain + 1 : 0;
-    return m_looksInVain >= 5;
-}
-
-void RecordJob::watch()
-{
-    if (!m_recorder)
-        return;
-    syncLater(m_recording.stretches.last());
-    if (m_recording.plan.inset && !m_target.camera.isEmpty() && !QFileInfo::exists(m_target.camera))
-        loseInset();
-    if (m_target.isShared && hasStopped()) {
-        m_isScreenMissing = true;
-        m_isToEnd = true;
-        m_recorder->cancel();
-        return;
-    }
-    // ffmpeg waits forever for a display that is gone, and does not listen then.
-    if (m_recording.plan.hasPicturesOfDisplay() && !captureTarget(m_recording.plan)) {
-        m_recorder->cancel();
-        return;
-    }
-    const auto space = m_tools.diskSpace(m_recording.folder);
-    if (!space || space->available > m_tools.reservedBytes || m_isToEnd)
-        return;
-    m_isToEnd = true;
-    m_problems.append("The recording ended because the disk is nearly full."_key);
-    m_recorder->stop();
 }
 
 void RecordJob::endRecording()
@@ -310,7 +231,23 @@ void RecordJob::endRecording()
         return fail(m_isRecovery ? Sentence("Nothing of the recording is left."_key)
                                  : Sentence("Nothing was recorded."_key));
     emit progressed({.seconds = recordedSeconds(), .bytes = m_recorded.bytes, .stage = Sentence("Finishing…"_key)});
-    join();
+    measure();
+}
+
+/// One stretch after another, where there are several.
+void RecordJob::measure()
+{
+    const qsizetype number = m_spans.size();
+    if (number == m_recording.stretches.size() || m_recording.stretches.size() == 1)
+        return join();
+    run({.program = m_tools.prober,
+         .arguments = stretchSpanArguments(m_recording.stretches[number]),
+         .timeLimit = patience,
+         .collectsOutput = true},
+        [this](const ToolEnding &ending) {
+            m_spans.append(stretchSpan(ending.output));
+            measure();
+        });
 }
 
 void RecordJob::join()
@@ -326,8 +263,9 @@ void RecordJob::join()
     m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
     const QString list = m_workFolder->filePath(u"list.txt"_s);
     QSaveFile file(list);
-    const bool isListed =
-        file.open(QIODevice::WriteOnly) && file.write(joinList(m_recording.stretches)) > 0 && file.commit();
+    const bool isListed = file.open(QIODevice::WriteOnly) &&
+                          file.write(joinList(m_recording.stretches, m_spans, m_recording.plan.rate)) > 0 &&
+                          file.commit();
     if (!isListed || !m_output->isValid())
         return placeAsItIs(isListed ? m_output->reason()
                                     : Sentence("The folder for temporary files cannot be written."_key));
@@ -336,6 +274,15 @@ void RecordJob::join()
         run({.program = m_tools.transcoder, .arguments = finishArguments(list, m_output->partPath())},
             [this](const ToolEnding &ending) { check(ending); });
     connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_messages.readLine(line); });
+}
+
+/// By the joins.
+double RecordJob::secondsCut() const
+{
+    double seconds = 0;
+    for (qsizetype number = 0; number + 1 < m_spans.size(); ++number)
+        seconds += std::max(m_spans[number].picturesEnd - joiningEnd(m_spans[number], m_recording.plan.rate), 0.0);
+    return seconds;
 }
 
 void RecordJob::check(const ToolEnding &joining)
@@ -349,22 +296,28 @@ void RecordJob::check(const ToolEnding &joining)
         OutputExpectation expected;
         expected.tracks = recordedTracks(m_recording.plan);
         if (!m_isRecovery)
-            expected.seconds = recordedSeconds();
+            expected.seconds = recordedSeconds() - secondsCut();
         const OutputFindings findings = found ? compareOutput(expected, {}, *found) : OutputFindings();
         if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
             !findings.mismatch.isEmpty()) {
             tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
             return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
         }
-        if (const double missing = missingSound(*found, m_recording.plan); missing > 2)
-            m_problems.append(
-                {"The last %1 s have no sound: the sound server went away."_key, {QString::number(qRound(missing))}});
+        const double missing = missingSound(*found, m_recording.plan);
+        if (std::abs(missing) > 2)
+            m_problems.append({missing > 0 ? "The last %1 s have no sound: the sound server went away."_key
+                                           : "The last %1 s have no picture."_key,
+                               {QString::number(std::lround(std::abs(missing)))}});
         JobOutcome outcome{.state = m_problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
                            .problems = m_problems};
         if (m_isRecovery)
             outcome.sentence = "Recovered after an interruption."_key;
         else
             outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+        constexpr qint64 share = 100;
+        if (m_recorded.missed > m_recorded.pictures / share)
+            outcome.sentence = {"%1 of %2 pictures came too late: the one before stands for them."_key,
+                                {QString::number(m_recorded.missed), QString::number(m_recorded.pictures)}};
         place(std::move(outcome));
     });
 }

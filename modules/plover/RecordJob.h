@@ -11,6 +11,8 @@
 #include <QPointer>
 #include <QTimer>
 
+#include <atomic>
+
 namespace kestrel {
 
 class OutputFile;
@@ -23,13 +25,16 @@ struct RecordTools {
     QString frames = {};                                       ///< of screenFrames
     QString restoreToken = {};                                 ///< of what the portal let be recorded last
     std::function<void(const QString &token)> keepToken = {};  ///< takes the one for next time
+    /// The device that encodes pictures of this size in hardware; empty where there is none, or it is not to be used.
+    std::function<QString(QSize pictures)> hardwareDevice = {};
     DiskSpaceFunction diskSpace = diskSpaceOf;
     qint64 reservedBytes = 200'000'000;  ///< that are left free on the disk
 };
 
 /// A recording: stretches of Matroska that grow beside the result, and what joins them without encoding when it ends,
-/// which is its success. A pause ends a stretch. A source that goes away ends one as well: it is gone on with without
-/// the sound, or, where the pictures are gone, ended with what there is. Ends by itself when the disk is nearly full.
+/// which is its success. A pause ends a stretch. A source that goes away ends one as well, and so does a change
+/// of its size: it is gone on with, without the sound where that is gone, or, where the pictures are gone, ended with
+/// what there is. Ends by itself when the disk is nearly full.
 ///
 /// The stretches stay where the job's object goes while it runs: `UnfinishedRecording::findAll` finds them, and a job
 /// with such a one finishes it.
@@ -47,6 +52,8 @@ public:
     /// What is to be seen now, of a screen that the desktop shares: `snapshotTaken` follows. False for any other, whose
     /// picture anybody can have, and while there is none.
     bool takeSnapshot();
+    /// Pictures so far that did not come in time.
+    qint64 missedPictures() const { return m_recorded.missed + m_stretch.missed; }
 
 signals:
     /// The file is a PPM, to be read at once.
@@ -72,25 +79,37 @@ private:
     void readScreen(const QByteArray &line);
     void readProgress(const QByteArray &line);
     void stretchEnded(const ToolEnding &ending);
+    void setTarget(const CaptureTarget &target);
     void loseInset();
     void goOnAfterFailure(const ToolEnding &ending);
     void endRecording();
+    bool loseMicrophone(const ToolEnding &ending);
+    void noteSoundEnd(const QByteArray &line);
+    void lookForSound();
     bool hasStopped();
+    bool followTarget();
     void watch();
+    void measure();
     void join();
     void check(const ToolEnding &ending);
     void place(JobOutcome outcome);
     void placeAsItIs(const tarnwell::Sentence &problem);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
     void removeStretches();
+    double secondsCut() const;
     double recordedSeconds() const { return double(m_recorded.pictures + m_stretch.pictures) / m_recording.plan.rate; }
 
     UnfinishedRecording m_recording;
     RecordTools m_tools;
-    QSize m_size;  ///< of the pictures of all stretches; empty until it is known
+    QString m_hardwareDevice;  ///< of all stretches, which are encoded alike; empty for software
+    QSize m_size;              ///< of the pictures of all stretches; empty until it is known
     CaptureTarget m_target;
     bool m_isRecovery = false;
-    bool m_isSilent = false;
+    bool m_isSilent = false;                    ///< for want of the sound server
+    bool m_hasSoundEnded = false;               ///< of the stretch of the moment: its pictures go on alone
+    bool m_isServerThere = false;               ///< it is back, and nothing was recorded since
+    std::unique_ptr<ToolProcess> m_soundProbe;  ///< while it is looked for
+    int m_looksForSound = 0;
     bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
     bool m_isFinishing = false;
     qint64 m_picturesAtLook = 0;
@@ -101,11 +120,13 @@ private:
     quint32 m_node = 0;                          ///< of what is shared; 0 as long as the user thinks
     bool m_isScreenMissing = false;              ///< it is shared, but no pictures come
     QPointer<ToolProcess> m_recorder;
-    Tally m_recorded;  ///< of the stretches that have ended
-    Tally m_stretch;   ///< of the one that is recorded
+    Tally m_recorded;            ///< of the stretches that have ended
+    Tally m_stretch;             ///< of the one that is recorded
+    QList<StretchSpan> m_spans;  ///< of all, once they are to be joined
     ToolMessages m_messages;
     QList<tarnwell::Sentence> m_problems;
-    QTimer m_watch;  ///< over disk and display
+    QTimer m_watch;  ///< over disk and sources
+    std::shared_ptr<std::atomic_bool> m_isSyncing = std::make_shared<std::atomic_bool>(false);
     std::unique_ptr<WorkFolder> m_workFolder;
     std::unique_ptr<WorkFolder> m_snapshots;  ///< where the display is shared
     std::shared_ptr<OutputFile> m_output;

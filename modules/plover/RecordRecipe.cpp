@@ -6,6 +6,7 @@
 #include "media/MediaProber.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/ProductInformation.h"
+#include "tarnwell/SystemInformation.h"
 
 #include <QDateTime>
 #include <QSet>
@@ -30,10 +31,17 @@ RecordTools recordTools(const JKestrelSettingDispatcher &settings)
             .prober = proberBeside(settings.getTranscoderPath()),
             .frames = tarnwell::productBundle().contentsPath(u"Helpers/screenFrames"_s),
             .restoreToken = foundation::UserDefaults::standardUserDefaults().stringForKey(tokenKey),
-            .keepToken = [](const QString &token) {
-                auto &defaults = foundation::UserDefaults::standardUserDefaults();
-                defaults.setObject(token.isEmpty() ? QVariant() : token, tokenKey);
-            }};
+            .keepToken =
+                [](const QString &token) {
+                    auto &defaults = foundation::UserDefaults::standardUserDefaults();
+                    defaults.setObject(token.isEmpty() ? QVariant() : token, tokenKey);
+                },
+            .hardwareDevice =
+                [isWanted = settings.getQSV()](QSize pictures) {
+                    constexpr quint32 avc1 = 0x61766331;
+                    return isWanted ? tarnwell::hardwareEncoderDevice(avc1, pictures.width(), pictures.height())
+                                    : QString();
+                }};
 }
 
 bool canShareAgain()

@@ -18,7 +18,7 @@ constexpr struct {
 /// With and without Caps Lock and Num Lock, which the display counts as modifiers.
 constexpr uint16_t locks[] = {0, XCB_MOD_MASK_LOCK, XCB_MOD_MASK_2, XCB_MOD_MASK_LOCK | XCB_MOD_MASK_2};
 
-/// The key that carries the letter; 0 where none does.
+/// The key that carries the letter in any of the user's layouts, the first one before the others; 0 where none does.
 quint8 codeOf(xcb_connection_t *connection, quint32 symbol)
 {
     const xcb_setup_t *setup = xcb_get_setup(connection);
@@ -30,9 +30,11 @@ quint8 codeOf(xcb_connection_t *connection, quint32 symbol)
     if (!reply || reply->keysyms_per_keycode == 0)
         return 0;
     const xcb_keysym_t *symbols = xcb_get_keyboard_mapping_keysyms(reply.get());
-    for (int key = 0; key < count; ++key) {
-        if (symbols[key * reply->keysyms_per_keycode] == symbol)
-            return quint8(setup->min_keycode + key);
+    for (int column = 0; column < reply->keysyms_per_keycode; ++column) {
+        for (int key = 0; key < count; ++key) {
+            if (symbols[key * reply->keysyms_per_keycode + column] == symbol)
+                return quint8(setup->min_keycode + key);
+        }
     }
     return 0;
 }
@@ -58,7 +60,9 @@ X11Keys::~X11Keys() = default;
 void X11Keys::take(Key key, quint32 symbol)
 {
     const quint8 code = codeOf(m_connection.get(), symbol);
-    bool isGood = code != 0;
+    if (code == 0)  // which stands for every key
+        return;
+    bool isGood = true;
     for (const uint16_t lock : locks) {
         const uint16_t modifiers = XCB_MOD_MASK_CONTROL | XCB_MOD_MASK_1 | lock;
         const auto cookie = xcb_grab_key_checked(m_connection.get(), 0, m_root, modifiers, code, XCB_GRAB_MODE_ASYNC,

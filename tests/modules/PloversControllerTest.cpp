@@ -91,19 +91,25 @@ TEST_F(PloversControllerTest, RecordsPausesAndStops)
     EXPECT_EQ(find<QLabel>(u"folderLabel"_s)->text(), m_settings.dispatcher().getVideoDir());
     choose(u"soundComboBox"_s, int(RecordPlan::Sound::None));
     choose(u"countdownComboBox"_s, false);
+    choose(u"qualityComboBox"_s, int(RecordPlan::Quality::Small));
     auto *start = find<QPushButton>(u"startButton"_s);
     start->click();
     ASSERT_TRUE(waitForSeconds(1));
-    EXPECT_FALSE(start->isEnabled());
+    EXPECT_EQ(m_settings.dispatcher().getRecorderDefaultQuality(), int(RecordPlan::Quality::Small));
     barButton(u"Pause"_s)->click();
     EXPECT_EQ(recording()->state, JobState::Paused);
     const double paused = recording()->progress.seconds;
     barButton(u"Continue"_s)->click();
     ASSERT_TRUE(waitForSeconds(paused + 1));
-    barButton(u"Stop"_s)->click();
+    // Without an answer to its question a recording is not thrown away.
+    find<QPushButton>(u"cancelButton"_s)->click();
+    EXPECT_EQ(recording()->state, JobState::Running);
+    EXPECT_EQ(start->text(), u"Stop");
+    start->click();
     ASSERT_TRUE(waitUntil([&] { return isEnded(recording()->state); }, 60'000));
     EXPECT_EQ(recording()->state, JobState::Done) << qPrintable(recording()->outcome.details);
     EXPECT_EQ(m_settings.outputs().size(), 1);
+    EXPECT_EQ(start->text(), u"Record");
     EXPECT_TRUE(start->isEnabled());
     EXPECT_TRUE(waitUntil([] { return !barButton(u"Stop"_s); }));
 }

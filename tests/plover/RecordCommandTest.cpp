@@ -95,6 +95,31 @@ TEST(RecordCommandTest, AWindowOfAnotherSizeIsFittedIntoTheFirst)
     EXPECT_FALSE(fits());
 }
 
+TEST(RecordCommandTest, MicrophonesAreReadFromTheListOfSources)
+{
+    const QList<Microphone> found = microphonesIn(
+        "Auto-detected sources for pulse:\n"
+        "* out.monitor [Monitor of Null Output] (none)\n"
+        "  alsa_input.usb-1 [Head[set] (left)] (none)\n");
+    ASSERT_EQ(found.size(), 1);
+    EXPECT_EQ(found[0].name, u"alsa_input.usb-1");
+    EXPECT_EQ(found[0].title, u"Head[set] (left)");
+}
+
+TEST(RecordCommandTest, HardwareGetsItsPicturesUploaded)
+{
+    for (const auto &inset : {std::optional<RecordPlan::Inset>(), std::optional(RecordPlan::Inset())}) {
+        const RecordStretch stretch{
+            .target = {.display = u":5"_s, .area = {0, 0, 640, 360}, .camera = u"/dev/video0"_s},
+            .hardwareDevice = u"/dev/dri/renderD128"_s};
+        const QString line = recordArguments({.inset = inset}, stretch).join(u' ');
+        EXPECT_TRUE(line.contains(u" -vaapi_device /dev/dri/renderD128 "));
+        EXPECT_TRUE(line.contains(u",format=nv12,hwupload[v]")) << qPrintable(line);
+        EXPECT_TRUE(line.contains(u" -c:v h264_vaapi -qp 23 "));
+        EXPECT_FALSE(line.contains(u"libx264"));
+    }
+}
+
 TEST(FramePaceTest, HandsOnNoMoreThanTheRateAndNoLess)
 {
     const struct {

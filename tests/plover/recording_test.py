@@ -3,6 +3,7 @@
     recording_test.py BUNDLE [TEST…]
 """
 import os
+import shutil
 import signal
 import time
 
@@ -93,16 +94,34 @@ class RecordingTest(RecorderTestCase):
         self.assert_in_order(recorded.clocks(result['outputs'][0]), 2)
         self.assert_only(*result['outputs'])
 
+    def test_a_window_that_changes_its_size(self):
+        self.show_scene(200, 100, 640, 360)
+        window = self.logged()['window'][0]
+        recording = self.record('--window', window)
+        recording.wait_for_seconds(1.5)
+        self.resize(window, 600, 300)
+        recording.wait_for_seconds(4)
+        recording.send(signal.SIGINT)
+        status, result, errors = recording.finish()
+        self.assertEqual((status, result['problems']), (0, []), errors)
+        video, audio = recorded.probe(result['outputs'][0])['streams']
+        self.assertEqual((video['width'], video['height']), (640, 360))
+        self.assertAlmostEqual(float(video['duration']), float(audio['duration']), delta=0.5)
+
     def test_a_sound_server_that_goes(self):
         self.show_scene()
         recording = self.record()
         recording.wait_for_seconds(3)
         self.sound_server.kill()
         recording.wait_for_seconds(6)
+        self.sound_server.wait()
+        shutil.rmtree(os.path.join(self.environment['XDG_RUNTIME_DIR'], 'pulse'))
+        self.start_sound_server()
+        recording.wait_for_seconds(15)
         recording.send(signal.SIGINT)
         status, result, errors = recording.finish()
         self.assertEqual((status, result['state']), (3, 'done-with-problems'), errors)
-        self.assertIn('sound', result['problems'][0])
+        self.assertIn('was away for a while', result['problems'][0])
         clocks = recorded.clocks(result['outputs'][0])
         self.assertGreater(clocks[-1][1] - clocks[0][1], 5)
 

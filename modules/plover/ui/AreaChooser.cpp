@@ -30,10 +30,12 @@ QString sizeText(QSize size)
 
 }  // namespace
 
-AreaChooser::AreaChooser() : ScreenOverlay("Choose an Area"_key.localized()), m_bar(new QWidget(this))
+AreaChooser::AreaChooser(const QRect &former)
+    : ScreenOverlay("Choose an Area"_key.localized()),
+      m_bar(new QWidget(this))
 {
     setObjectName(u"areaChooser"_s);
-    m_area = {rect().center() - QPoint(320, 180), QSize(640, 360)};
+    m_area = former.isEmpty() ? QRect(rect().center() - QPoint(320, 180), QSize(640, 360)) : areaOf(former);
     makeBar();
 }
 

@@ -9,7 +9,8 @@ namespace kestrel {
 class AreaChooser : public ScreenOverlay {
     Q_OBJECT
 public:
-    AreaChooser();
+    /// Begins with the former area, in pixels of the desktop, where there is one.
+    explicit AreaChooser(const QRect &former);
 
 signals:
     void chosen(const QRect &area);  ///< in pixels of the desktop

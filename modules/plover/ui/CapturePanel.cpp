@@ -2,8 +2,11 @@
 
 #include "AreaChooser.h"
 #include "PreviewPicture.h"
+#include "ScreenOverlay.h"
 #include "WindowChooser.h"
 #include "foundation/Queues.h"
+#include "jobs/ToolProcess.h"
+#include "modules/plover/RecordCommand.h"
 #include "modules/plover/RecordRecipe.h"
 #include "modules/plover/ScreenCastPortal.h"
 #include "modules/plover/X11Display.h"
@@ -11,12 +14,10 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTime>
-#include <QFileInfo>
-#include <QGuiApplication>
 #include <QHBoxLayout>
+#include <QLocale>
 #include <QPointer>
 #include <QProgressBar>
-#include <QScreen>
 #include <QTimeEdit>
 
 #include <chrono>
@@ -35,6 +36,20 @@ constexpr QSize entryPicture(64, 36);
 constexpr auto previewInterval = 500ms;
 constexpr auto untilGone = 200ms;  ///< a list or a chooser that closes, from the picture of the screen
 using What = RecordPlan::What;
+
+/// Windows come and go while the panel is open.
+class SourceBox : public QComboBox {
+public:
+    explicit SourceBox(std::function<void()> refill) : m_refill(std::move(refill)) {}
+    void showPopup() override
+    {
+        m_refill();
+        QComboBox::showPopup();
+    }
+
+private:
+    std::function<void()> m_refill;
+};
 
 /// What an entry of the sources stands for; a window of the number 0 is chosen by a click.
 QVariantList entry(What what, const QVariant &name = {})
@@ -56,32 +71,40 @@ QComboBox *named(QComboBox *box, const char *objectName, tarnwell::TextKey name)
     return box;
 }
 
-/// In pixels of the display.
-QPixmap pictureOf(quint32 window, const QRect &area)
+QString rateText(double rate)
 {
-    QScreen *screen = QGuiApplication::primaryScreen();
-    const double ratio = screen->devicePixelRatio();
-    const QRect points((QPointF(area.topLeft()) / ratio).toPoint(), area.size() / ratio);
-    return screen->grabWindow(window, points.x(), points.y(), points.width(), points.height());
+    return Sentence("%1 pictures a second"_key, {QLocale().toString(rate, 'g', 4)}).localized();
+}
+
+/// Also a value that is not among the choices.
+void showValue(QComboBox *box, const QVariant &value, const QString &text)
+{
+    if (box->findData(value) < 0)
+        box->addItem(text, value);
+    box->setCurrentIndex(box->findData(value));
 }
 
 QIcon iconOf(quint32 window, const QRect &area)
 {
-    const QPixmap picture = pictureOf(window, area);
+    const QPixmap picture = displayPicture(window, area);
     return picture.isNull() ? QIcon() : picture.scaled(entryPicture * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
 
 CapturePanel::CapturePanel()
-    : m_sources(named(new QComboBox, "sourceComboBox", "What to record"_key)),
+    : m_sources(named(new SourceBox([this] { fillSources(); }), "sourceComboBox", "What to record"_key)),
       m_insets(named(new QComboBox, "insetComboBox", "Camera in the picture"_key)),
       m_sounds(named(new QComboBox, "soundComboBox", "Sound"_key)),
+      m_microphones(named(new QComboBox, "microphoneComboBox", "Microphone"_key)),
       m_formats(named(new QComboBox, "formatComboBox", "Format"_key)),
+      m_qualities(named(new QComboBox, "qualityComboBox", "Quality"_key)),
+      m_rates(named(new QComboBox, "rateComboBox", "Pictures a second"_key)),
       m_begins(named(new QComboBox, "countdownComboBox", "Begin"_key)),
       m_limits(named(new QComboBox, "limitComboBox", "Stop after"_key)),
       m_time(new QTimeEdit),
       m_pointer(new QCheckBox("Show the pointer"_key.localized())),
+      m_clicks(new QCheckBox("Show clicks"_key.localized())),
       m_picture(new PreviewPicture),
       m_level(new QProgressBar)
 {
@@ -89,7 +112,8 @@ CapturePanel::CapturePanel()
     arrange();
     connect(m_sources, &QComboBox::activated, this, &CapturePanel::sourceChosen);
     connect(m_insets, &QComboBox::currentIndexChanged, this, &CapturePanel::insetChosen);
-    connect(m_sounds, &QComboBox::activated, this, &CapturePanel::soundChosen);
+    for (QComboBox *box : {m_sounds, m_microphones})
+        connect(box, &QComboBox::activated, this, &CapturePanel::soundChosen);
     connect(m_begins, &QComboBox::currentIndexChanged, this, [this] {
         m_time->setVisible(begin() == Begin::AtTime);
         emit beginChosen();
@@ -115,6 +139,9 @@ void CapturePanel::makeChoices()
                    {m_sounds, "No sound"_key, int(None)},
                    {m_formats, "QuickTime movie (MOV)"_key, int(RecordPlan::Container::Mov)},
                    {m_formats, "MPEG-4 movie (MP4)"_key, int(RecordPlan::Container::Mp4)},
+                   {m_qualities, "Small file"_key, int(RecordPlan::Quality::Small)},
+                   {m_qualities, "Good quality"_key, int(RecordPlan::Quality::Good)},
+                   {m_qualities, "Best quality"_key, int(RecordPlan::Quality::Best)},
                    {m_begins, "Count down from three"_key, int(Begin::AfterCountdown)},
                    {m_begins, "Begin at once"_key, int(Begin::AtOnce)},
                    {m_begins, "Begin at a time…"_key, int(Begin::AtTime)},
@@ -123,6 +150,10 @@ void CapturePanel::makeChoices()
         box->addItem(text.localized(), value);
     for (const int minutes : {1, 5, 10, 30, 60})
         m_limits->addItem(Sentence("Stop after %1 min"_key, {QString::number(minutes)}).localized(), minutes * 60);
+    for (const int rate : {15, 24, 30, 60})
+        m_rates->addItem(rateText(rate), double(rate));
+    m_microphones->addItem("Usual microphone"_key.localized(), QString());
+    m_clicks->setObjectName(u"clicksCheckBox"_s);
     m_sources->setIconSize(entryPicture);
     m_time->setObjectName(u"beginTimeEdit"_s);
     m_time->setAccessibleName("Time at which the recording begins"_key.localized());
@@ -143,7 +174,7 @@ void CapturePanel::arrange()
     layout->addWidget(m_picture);
     auto *choices = new QVBoxLayout;
     choices->setSpacing(8);
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_insets, m_sounds, m_level})
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_insets})
         choices->addWidget(widget);
     const auto addPair = [choices](QWidget *left, QWidget *right) {
         auto *pair = new QHBoxLayout;
@@ -152,19 +183,23 @@ void CapturePanel::arrange()
         choices->addLayout(pair);
         return pair;
     };
+    addPair(m_sounds, m_microphones);
+    choices->addWidget(m_level);
     addPair(m_begins, m_limits)->insertWidget(1, m_time);
-    addPair(m_formats, m_pointer);
+    addPair(m_formats, m_qualities);
+    addPair(m_rates, m_pointer)->addWidget(m_clicks);
     choices->addStretch();
     layout->addLayout(choices, 1);
 }
 
-void CapturePanel::open(const QString &transcoderPath, const std::optional<RecordPlan> &last)
+void CapturePanel::open(const QString &transcoderPath, const RecordPlan &usual, const std::optional<RecordPlan> &last)
 {
     m_transcoderPath = transcoderPath;
     fillSources();
     fillCameras();
-    if (last && !std::exchange(m_isRestored, true))
-        restore(*last);
+    if (!std::exchange(m_isRestored, true))
+        restore(usual, last);
+    fillMicrophones();
     m_preview.start(previewInterval);
     soundChosen();
     showPreview();
@@ -176,6 +211,7 @@ void CapturePanel::release()
     m_meter.close();
     m_camera.close();
     m_portal.reset();
+    m_microphoneList.reset();
     m_picture->showPicture({});
 }
 
@@ -200,10 +236,9 @@ void CapturePanel::fillSources()
             m_sources->addItem(iconOf(window.id, {{}, window.area.size()}),
                                Sentence("Window: %1"_key, {window.title}).localized(), entry(What::Window, window.id));
     }
-    for (const QString &path : cameraDevices()) {
+    for (const CameraDevice &camera : cameraDevices()) {
         m_obstacle = {};
-        m_sources->addItem(Sentence("Camera %1"_key, {QFileInfo(path).fileName()}).localized(),
-                           entry(What::Camera, path));
+        m_sources->addItem(Sentence("Camera %1"_key, {camera.name}).localized(), entry(What::Camera, camera.path));
     }
     int index = m_sources->findData(chosen);
     if (index < 0 && What(chosen.toList().value(0).toInt()) == What::Window)
@@ -218,11 +253,30 @@ void CapturePanel::fillCameras()
     const QSignalBlocker quiet(m_insets);
     m_insets->clear();
     m_insets->addItem("No camera in the picture"_key.localized(), QString());
-    for (const QString &path : cameraDevices())
-        m_insets->addItem(Sentence("Camera %1 in the picture"_key, {QFileInfo(path).fileName()}).localized(), path);
+    for (const CameraDevice &camera : cameraDevices())
+        m_insets->addItem(Sentence("Camera %1 in the picture"_key, {camera.name}).localized(), camera.path);
     m_insets->setCurrentIndex(std::max(0, m_insets->findData(chosen)));
     m_insets->setVisible(m_insets->count() > 1);
     insetChosen();
+}
+
+/// As soon as the sound server has told them.
+void CapturePanel::fillMicrophones()
+{
+    m_microphoneList =
+        std::make_unique<ToolProcess>(ToolCommand{.program = m_transcoderPath,
+                                                  .arguments = {u"-hide_banner"_s, u"-sources"_s, u"pulse"_s},
+                                                  .timeLimit = 10s,
+                                                  .collectsOutput = true});
+    connect(m_microphoneList.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
+        const QString chosen = m_microphones->currentData().toString();
+        while (m_microphones->count() > 1)
+            m_microphones->removeItem(1);
+        for (const Microphone &microphone : microphonesIn(ending.output))
+            m_microphones->addItem(microphone.title, microphone.name);
+        showValue(m_microphones, chosen, chosen);
+    });
+    m_microphoneList->start();
 }
 
 /// What is there is the desktop's to show.
@@ -245,8 +299,14 @@ void CapturePanel::addPortal()
 }
 
 /// Windows and areas are others by now.
-void CapturePanel::restore(const RecordPlan &last)
+void CapturePanel::restore(const RecordPlan &usual, const std::optional<RecordPlan> &lastPlan)
 {
+    m_qualities->setCurrentIndex(m_qualities->findData(int(usual.quality)));
+    showValue(m_rates, usual.rate, rateText(usual.rate));
+    showValue(m_microphones, usual.microphone, usual.microphone);
+    if (!lastPlan)
+        return;
+    const RecordPlan &last = *lastPlan;
     const auto show = [](QComboBox *box, const QVariant &value) {
         if (const int index = box->findData(value); index >= 0)
             box->setCurrentIndex(index);
@@ -284,6 +344,7 @@ void CapturePanel::soundChosen()
         return;
     RecordPlan plan;
     choose(plan);
+    m_microphones->setEnabled(plan.sound == RecordPlan::Sound::Microphone || plan.sound == RecordPlan::Sound::Both);
     m_meter.open(m_transcoderPath, plan);
 }
 
@@ -297,9 +358,11 @@ void CapturePanel::insetChosen()
 
 void CapturePanel::chooseArea()
 {
-    auto *chooser = new AreaChooser;
-    connect(chooser, &AreaChooser::chosen, this, [this](const QRect &area) {
-        m_area = area;
+    auto *chooser = new AreaChooser(m_area);
+    connect(chooser, &AreaChooser::chosen, this, [this](const QRect &area) { m_area = area; });
+    connect(chooser, &QObject::destroyed, this, [this] {
+        if (m_area.isEmpty())  // none was chosen
+            m_sources->setCurrentIndex(0);
         showPreview();
     });
     chooser->show();
@@ -352,9 +415,22 @@ void CapturePanel::choose(RecordPlan &plan) const
     const int sound = m_sounds->currentData().toInt();
     plan.separateTracks = sound > int(RecordPlan::Sound::Both);
     plan.sound = plan.separateTracks ? RecordPlan::Sound::Both : RecordPlan::Sound(sound);
+    plan.microphone = m_microphones->currentData().toString();
+    plan.quality = RecordPlan::Quality(m_qualities->currentData().toInt());
+    plan.rate = m_rates->currentData().toDouble();
     plan.container = RecordPlan::Container(m_formats->currentData().toInt());
     plan.pointer = m_pointer->isChecked();
     plan.seconds = m_limits->currentData().toInt();
+}
+
+void CapturePanel::setShowsClicks(bool shows)
+{
+    m_clicks->setChecked(shows);
+}
+
+bool CapturePanel::showsClicks() const
+{
+    return m_clicks->isChecked();
 }
 
 CapturePanel::Begin CapturePanel::begin() const
@@ -394,7 +470,7 @@ void CapturePanel::showPreview()
     const auto target = captureTarget(plan);
     if (!target)
         return m_picture->showText(target.reason().localized());
-    m_picture->showPicture(pictureOf(target->window, target->area));
+    m_picture->showPicture(displayPicture(target->window, target->area));
 }
 
 void CapturePanel::followCamera(const RecordPlan &plan)

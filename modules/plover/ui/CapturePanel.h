@@ -18,6 +18,7 @@ namespace kestrel {
 
 class PreviewPicture;
 class ScreenCastPortal;
+class ToolProcess;
 
 /// What is to be recorded: screens, windows, an area, a camera; the sound; how it begins and ends; and how it looks and
 /// sounds at the moment. Opens nothing before `open` and lets everything go with `release`.
@@ -29,13 +30,15 @@ public:
     CapturePanel();
     ~CapturePanel() override;
 
-    /// `last`: what was chosen last, if anything.
-    void open(const QString &transcoderPath, const std::optional<RecordPlan> &last);
+    /// `usual`: what the settings say; `last`: what was chosen last, if anything.
+    void open(const QString &transcoderPath, const RecordPlan &usual, const std::optional<RecordPlan> &last);
     void release();
     bool isOpen() const { return m_preview.isActive(); }
 
     /// Puts the choices into the plan.
     void choose(RecordPlan &plan) const;
+    void setShowsClicks(bool shows);
+    bool showsClicks() const;
     Begin begin() const;
     QDateTime beginTime() const;  ///< of AtTime: the next time that the clock shows it
     /// Why nothing can be recorded; none where it can.
@@ -49,8 +52,9 @@ private:
     void arrange();
     void fillSources();
     void fillCameras();
+    void fillMicrophones();
     void addPortal();
-    void restore(const RecordPlan &last);
+    void restore(const RecordPlan &usual, const std::optional<RecordPlan> &last);
     void sourceChosen();
     void soundChosen();
     void insetChosen();
@@ -62,11 +66,15 @@ private:
     QComboBox *m_sources;
     QComboBox *m_insets;
     QComboBox *m_sounds;
+    QComboBox *m_microphones;
     QComboBox *m_formats;
+    QComboBox *m_qualities;
+    QComboBox *m_rates;
     QComboBox *m_begins;
     QComboBox *m_limits;
     QTimeEdit *m_time;
     QCheckBox *m_pointer;
+    QCheckBox *m_clicks;
     PreviewPicture *m_picture;
     QProgressBar *m_level;
     QString m_transcoderPath;
@@ -74,6 +82,7 @@ private:
     bool m_isRestored = false;
     CameraPicture m_camera;
     LevelMeter m_meter;
+    std::unique_ptr<ToolProcess> m_microphoneList;
     std::unique_ptr<ScreenCastPortal> m_portal;  ///< while it is looked for one
     QTimer m_preview;
     tarnwell::Sentence m_obstacle;

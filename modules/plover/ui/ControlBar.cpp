@@ -15,13 +15,16 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+using tarnwell::Sentence;
 using tarnwell::operator""_key;
 
 ControlBar::ControlBar()
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
       m_text(new QLabel),
       m_level(new QProgressBar),
-      m_pause(new QPushButton("Pause"_key.localized()))
+      m_stop(new QPushButton("Stop"_key.localized())),
+      m_pause(new QPushButton("Pause"_key.localized())),
+      m_snapshot(new QPushButton("Snapshot"_key.localized()))
 {
     setAttribute(Qt::WA_ShowWithoutActivating);
     setObjectName(u"controlBar"_s);
@@ -33,13 +36,11 @@ ControlBar::ControlBar()
     m_level->setTextVisible(false);
     m_level->setFixedWidth(60);
     m_level->setAccessibleName("Sound level"_key.localized());
-    auto *stop = new QPushButton("Stop"_key.localized());
-    auto *snapshot = new QPushButton("Snapshot"_key.localized());
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, stop, snapshot})
+    for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, m_stop, m_snapshot})
         layout->addWidget(widget);
     connect(m_pause, &QPushButton::clicked, this, &ControlBar::pauseClicked);
-    connect(stop, &QPushButton::clicked, this, &ControlBar::stopClicked);
-    connect(snapshot, &QPushButton::clicked, this, &ControlBar::snapshotClicked);
+    connect(m_stop, &QPushButton::clicked, this, &ControlBar::stopClicked);
+    connect(m_snapshot, &QPushButton::clicked, this, &ControlBar::snapshotClicked);
 }
 
 bool ControlBar::showBeside(const QRect &area)
@@ -67,11 +68,29 @@ bool ControlBar::showBeside(const QRect &area)
     return false;
 }
 
-void ControlBar::showRecord(const JobRecord &record)
+void ControlBar::showAtEdge()
+{
+    constexpr int margin = 16;
+    const QRect screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const QSize size = sizeHint();
+    setGeometry({{screen.center().x() - size.width() / 2, screen.bottom() - margin - size.height()}, size});
+    show();
+}
+
+void ControlBar::setKeys(const QStringList &keys)
+{
+    QPushButton *const buttons[] = {m_stop, m_pause, m_snapshot};
+    for (qsizetype number = 0; number < qsizetype(std::size(buttons)); ++number)
+        buttons[number]->setToolTip(keys.value(number));
+}
+
+void ControlBar::showRecord(const JobRecord &record, qint64 missed)
 {
     m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
-    m_text->setText(durationText(record.progress.seconds) + u" · "_s +
-                    QLocale().formattedDataSize(record.progress.bytes));
+    QStringList parts{durationText(record.progress.seconds), QLocale().formattedDataSize(record.progress.bytes)};
+    if (missed > 0)
+        parts.append(Sentence("%1 dropped"_key, {QString::number(missed)}).localized());
+    m_text->setText(parts.join(u" · "_s));
 }
 
 void ControlBar::setLevel(double level)

@@ -19,7 +19,13 @@ public:
     /// Puts it beside the area, in pixels of the desktop. False, and it stays hidden, where there is no room that is
     /// not in the picture.
     bool showBeside(const QRect &area);
-    void showRecord(const JobRecord &record);
+    /// Where nothing of a screen is recorded: at the lower edge of the first.
+    void showAtEdge();
+    /// The keys that do what the buttons do, as the user knows them: of stop, pause, snapshot. Empty where there is
+    /// none.
+    void setKeys(const QStringList &keys);
+    /// `missed`: pictures that did not come in time.
+    void showRecord(const JobRecord &record, qint64 missed);
     void setLevel(double level);
 
 signals:
@@ -30,7 +36,9 @@ signals:
 private:
     QLabel *m_text;
     QProgressBar *m_level;
+    QPushButton *m_stop;
     QPushButton *m_pause;
+    QPushButton *m_snapshot;
 };
 
 }  // namespace kestrel

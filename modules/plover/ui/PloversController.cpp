@@ -3,6 +3,7 @@
 #include "CapturePanel.h"
 #include "ClickRings.h"
 #include "ControlBar.h"
+#include "ScreenOverlay.h"
 #include "foundation/Queues.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
@@ -17,15 +18,14 @@
 #include "tarnwell/Localization.h"
 #include "tarnwell/ui/TabOrder.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QGuiApplication>
 #include <QImage>
 #include <QJsonDocument>
 #include <QLocale>
 #include <QMenu>
-#include <QScreen>
 #include <QShortcut>
 #include <QSystemTrayIcon>
 
@@ -45,9 +45,26 @@ constexpr JobPageTexts ploverTexts = {
     .emptyButton = {},
     .start = "Record"_key,
     .emptyImage = "plover_module",
+    .discardQuestion = "What has been recorded will be deleted."_key,
+    .discardButton = "Discard Recording"_key,
 };
 
 constexpr int countdownSeconds = 3;
+constexpr std::chrono::seconds recoveryDelay(5);  ///< after a start, which has other things to do
+
+/// What can be done from anywhere, with Ctrl and Alt.
+constexpr struct {
+    X11Keys::Key key;
+    Qt::Key letter;
+    tarnwell::TextKey text;
+} remoteActions[] = {{X11Keys::Key::Stop, Qt::Key_S, "Stop"_key},
+                     {X11Keys::Key::Pause, Qt::Key_P, "Pause"_key},
+                     {X11Keys::Key::Snapshot, Qt::Key_N, "Snapshot"_key}};
+
+QKeySequence keysFor(Qt::Key letter)
+{
+    return QKeySequence(Qt::CTRL | Qt::ALT | letter);
+}
 
 }  // namespace
 
@@ -57,6 +74,23 @@ PloversController::PloversController(const ModuleConfigure &configure, ModuleSer
       m_recipe([this] { return recordTools(*m_settings); }),
       m_view(std::make_unique<LateView>([this] { return makeContents(); }))
 {
+    foundation::queue::afterMain(recoveryDelay, [self = QPointer(this)] {
+        if (self)
+            self->recover();
+    });
+}
+
+/// What an interrupted recording left is finished also where nobody opens the page, which does it.
+void PloversController::recover()
+{
+    foundation::queue::asyncGlobal([self = QPointer(this)] {
+        if (UnfinishedRecording::findAll().isEmpty())
+            return;
+        foundation::queue::asyncMain([self] {
+            if (self)
+                self->m_view->makeContents();
+        });
+    });
 }
 
 PloversController::~PloversController()
@@ -79,6 +113,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
     m_page = page.get();
     auto *panel = new CapturePanel;
     m_panel = panel;
+    panel->setShowsClicks(m_settings->isCaptureMouseClick());
     page->setTopArea(panel);
     auto *folder = new OutputFolderLine;
     folder->setDispatcher(m_settings);
@@ -86,11 +121,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 
     connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
-    connect(panel, &CapturePanel::beginChosen, this, [this] {
-        if (m_beginning.isValid())
-            m_page->showMessage({});
-        m_beginning = {};
-    });
+    connect(panel, &CapturePanel::beginChosen, this, &PloversController::endCountdown);
     connect(page->list(), &JobListView::menuRequested, this, &PloversController::extendMenu);
     (new MadeFilms(*page, m_settings))->showPictures(*m_list);
     connect(&queue(), &JobQueue::changed, this, &PloversController::recordChanged);
@@ -107,7 +138,8 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 void PloversController::openPanel()
 {
     const QByteArray choices = m_settings->getRecordChoices().toUtf8();
-    m_panel->open(m_settings->getTranscoderPath(), RecordPlan::fromJson(QJsonDocument::fromJson(choices).object()));
+    m_panel->open(m_settings->getTranscoderPath(), recordPlan(*m_settings),
+                  RecordPlan::fromJson(QJsonDocument::fromJson(choices).object()));
 }
 
 /// What is to be made of a recording is the converter's work.
@@ -117,6 +149,8 @@ void PloversController::extendMenu(QMenu *menu, const QList<JobId> &ids)
     for (const JobId id : ids)
         recordings += queue().record(id)->outcome.outputs;
     menu->addSeparator();
+    menu->addAction("Stop"_key.localized(), this, &PloversController::stopRecording)
+        ->setEnabled(ids.contains(m_recording));
     menu->addAction("Cut or Convert…"_key.localized(), this,
                     [this, recordings] { m_services.openInConverter(recordings); })
         ->setEnabled(!recordings.isEmpty());
@@ -169,15 +203,25 @@ void PloversController::onViewDidDisappear()
 /// A recording that is to begin at a time does so from any module.
 void PloversController::forgetCountdown()
 {
-    if (!m_beginning.isValid() || m_panel->begin() == CapturePanel::Begin::AtTime)
+    if (m_beginning.isValid() && m_panel->begin() != CapturePanel::Begin::AtTime)
+        endCountdown();
+}
+
+void PloversController::endCountdown()
+{
+    if (!m_beginning.isValid())
         return;
     m_beginning = {};
+    m_keys.reset();
+    m_shortcuts.reset();
     m_page->showMessage({});
 }
 
-/// While it counts down the same button begins at once.
+/// While it counts down the same button begins at once, and then it ends the recording.
 void PloversController::startClicked()
 {
+    if (m_recording != 0)
+        return stopRecording();
     QString obstacle = m_panel->obstacle().localized();
     const bool isReady = obstacle.isEmpty() && m_settings->check(&obstacle);
     if (!isReady) {
@@ -200,13 +244,19 @@ void PloversController::beginAt(const QDateTime &moment)
     const std::chrono::milliseconds left(QDateTime::currentDateTime().msecsTo(moment));
     if (left.count() <= 0)
         return record();
+    constexpr std::chrono::seconds keysAhead(10);
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(left);
     const Sentence message = seconds < std::chrono::minutes(1)
                                  ? Sentence("Recording begins in %1 s. Press Record to begin at once."_key,
                                             {QString::number(seconds.count())})
                                  : Sentence("Recording begins at %1. Press Record to begin at once."_key,
                                             {QLocale().toString(moment.time(), QLocale::ShortFormat)});
-    m_page->showMessage(message.localized());
+    QStringList parts{message.localized()};
+    if (seconds <= keysAhead) {
+        takeKeys();
+        parts.append(keyLine(u' '));
+    }
+    m_page->showMessage(parts.join(u' ').trimmed());
     constexpr std::chrono::milliseconds step = std::chrono::seconds(1);
     foundation::queue::afterMain(std::min(step, left), [self = QPointer(this), moment] {
         if (self && self->m_beginning == moment)
@@ -219,6 +269,10 @@ void PloversController::record()
     m_beginning = {};
     RecordPlan plan = recordPlan(*m_settings);
     m_panel->choose(plan);
+    m_settings->setDefaultRecordQuality(int(plan.quality));
+    m_settings->setMaxFramerate(plan.rate);
+    m_settings->setAudioDeviceID(plan.microphone);
+    m_settings->setCaptureMouseClick(m_panel->showsClicks());
     m_settings->setRecordChoices(QString::fromUtf8(QJsonDocument(plan.toJson()).toJson(QJsonDocument::Compact)));
     const auto target = captureTarget(plan);
     m_target = target ? *target : CaptureTarget();
@@ -239,45 +293,85 @@ void PloversController::openControls()
         m_rings = std::make_unique<ClickRings>(*m_keys);
         m_rings->setActive(true);
     }
-    m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
-    m_tray->setToolTip("Recording"_key.localized());
-    connect(m_tray.get(), &QSystemTrayIcon::activated, this, &PloversController::stopRecording);
-    m_tray->show();
-
+    openTray();
     m_bar = std::make_unique<ControlBar>();
     connect(m_bar.get(), &ControlBar::pauseClicked, this, &PloversController::togglePause);
     connect(m_bar.get(), &ControlBar::stopClicked, this, &PloversController::stopRecording);
     connect(m_bar.get(), &ControlBar::snapshotClicked, this, &PloversController::takeSnapshot);
-    if (m_target.display.isEmpty())
+    m_bar->setKeys(keyTexts());
+    if (m_target.isShared)  // nobody knows where that is: this window stays
         return;
+    if (m_target.display.isEmpty())
+        return m_bar->showAtEdge();
     QRect area = m_target.area;
     if (m_target.window != 0) {
         const auto display = X11Display::open();
         if (const auto window = display ? (*display)->window(m_target.window) : std::nullopt)
             area = window->area;
     }
-    // Without room beside the picture, this window steps out of it and tray and keys remain.
-    if (!m_bar->showBeside(area) && m_view->isVisible())
+    // Without room beside the picture, this window steps out of it where tray or keys remain.
+    const bool isInReach = QSystemTrayIcon::isSystemTrayAvailable() || (m_keys && m_keys->isTaken(X11Keys::Key::Stop));
+    if (!m_bar->showBeside(area) && isInReach && m_view->isVisible())
         m_view->window()->showMinimized();
+}
+
+void PloversController::openTray()
+{
+    m_trayMenu = std::make_unique<QMenu>();
+    const QStringList keys = keyTexts();
+    for (const auto &[key, letter, text] : remoteActions) {
+        m_trayMenu->addAction((text.localized() + u'\t' + keys[qsizetype(key)]).trimmed(), this,
+                              [this, key = key] { keyPressed(key); });
+    }
+    m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
+    m_tray->setToolTip(("Recording"_key.localized() + u'\n' + keyLine(u'\n')).trimmed());
+    m_tray->setContextMenu(m_trayMenu.get());
+    connect(m_tray.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
+        if (reason == QSystemTrayIcon::Trigger)
+            keyPressed(X11Keys::Key::Stop);
+    });
+    m_tray->show();
 }
 
 void PloversController::takeKeys()
 {
+    if (m_keys || m_shortcuts)
+        return;
     if (!isWaylandSession()) {
         m_keys = std::make_unique<X11Keys>();
         connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
         return;
     }
     m_shortcuts = std::make_unique<QObject>();
-    for (const auto &[key, letter] :
-         {std::pair(X11Keys::Key::Stop, Qt::Key_S), std::pair(X11Keys::Key::Pause, Qt::Key_P),
-          std::pair(X11Keys::Key::Snapshot, Qt::Key_N)}) {
-        auto *shortcut = new QShortcut(QKeySequence(Qt::CTRL | Qt::ALT | letter), m_view->window());
+    for (const auto &[key, letter, text] : remoteActions) {
+        auto *shortcut = new QShortcut(keysFor(letter), m_view->window());
         shortcut->setContext(Qt::ApplicationShortcut);
         shortcut->setAutoRepeat(false);
         connect(shortcut, &QShortcut::activated, this, [this, key = key] { keyPressed(key); });
         connect(m_shortcuts.get(), &QObject::destroyed, shortcut, &QObject::deleteLater);
     }
+}
+
+/// Of those that were got.
+QStringList PloversController::keyTexts() const
+{
+    QStringList texts;
+    for (const auto &[key, letter, text] : remoteActions) {
+        const bool isThere = m_shortcuts || (m_keys && m_keys->isTaken(key));
+        texts.append(isThere ? keysFor(letter).toString(QKeySequence::NativeText) : QString());
+    }
+    return texts;
+}
+
+QString PloversController::keyLine(QChar separator) const
+{
+    const QStringList keys = keyTexts();
+    QStringList parts;
+    for (const auto &[key, letter, text] : remoteActions) {
+        if (const QString &known = keys[qsizetype(key)]; !known.isEmpty())
+            parts.append(text.localized() + u": "_s + known);
+    }
+    return parts.join(separator == u' ' ? u" · "_s : QString(separator));
 }
 
 void PloversController::closeControls()
@@ -288,6 +382,8 @@ void PloversController::closeControls()
     m_keys.reset();
     m_shortcuts.reset();
     m_tray.reset();
+    if (m_trayMenu)
+        m_trayMenu.release()->deleteLater();
     // Its own button may be what ended the recording.
     if (m_bar)
         m_bar.release()->deleteLater();
@@ -303,17 +399,26 @@ void PloversController::recordChanged(JobId id)
     if (id != m_recording || id == 0)
         return;
     const JobRecord *record = queue().record(id);
-    if (!record || isEnded(record->state))
+    if (!record || isEnded(record->state)) {
         closeControls();
-    else if (m_bar)
-        m_bar->showRecord(*record);
+    } else if (m_bar) {
+        m_bar->showRecord(*record, m_recipe.recording() ? m_recipe.recording()->missedPictures() : 0);
+        const auto pause = int(X11Keys::Key::Pause);
+        const tarnwell::TextKey text = record->state == JobState::Paused ? "Continue"_key : "Pause"_key;
+        m_trayMenu->actions().at(pause)->setText((text.localized() + u'\t' + keyTexts()[pause]).trimmed());
+    }
     showState();
 }
 
 void PloversController::showState()
 {
-    if (m_page)
-        m_page->setStartEnabled(m_recording == 0);
+    if (!m_page)
+        return;
+    m_page->startButton()->setText((m_recording != 0 ? "Stop"_key : ploverTexts.start).localized());
+    m_page->startButton()->setToolTip(m_recording != 0 ? keyLine(u'\n') : QString());
+    // A second click on "Record" is not meant for "Stop".
+    const JobRecord *record = m_recording != 0 ? queue().record(m_recording) : nullptr;
+    m_page->setStartEnabled(!record || (record->progress.seconds > 0 && record->state != JobState::Stopping));
 }
 
 void PloversController::keyPressed(X11Keys::Key key)
@@ -343,22 +448,22 @@ void PloversController::stopRecording()
 {
     if (m_recording != 0)
         queue().stop({m_recording});
+    else
+        endCountdown();
 }
 
 void PloversController::takeSnapshot()
 {
+    if (m_recording == 0)
+        return;
     if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot()) {
         disconnect(job, &RecordJob::snapshotTaken, this, nullptr);  // one that never came
         connect(
             job, &RecordJob::snapshotTaken, this, [this](const QString &path) { keepSnapshot(QImage(path)); },
             Qt::SingleShotConnection);
     }
-    if (m_target.display.isEmpty())
-        return;
-    QScreen *screen = QGuiApplication::primaryScreen();
-    const double ratio = screen->devicePixelRatio();
-    const QRect area((QPointF(m_target.area.topLeft()) / ratio).toPoint(), m_target.area.size() / ratio);
-    keepSnapshot(screen->grabWindow(m_target.window, area.x(), area.y(), area.width(), area.height()).toImage());
+    if (!m_target.display.isEmpty())
+        keepSnapshot(displayPicture(m_target.window, m_target.area).toImage());
 }
 
 void PloversController::keepSnapshot(const QImage &picture)

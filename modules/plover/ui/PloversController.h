@@ -44,16 +44,21 @@ public:
     void onViewDidDisappear() override;
 
 private:
+    void recover();
     std::unique_ptr<QWidget> makeContents();
     JobQueue &queue();
     void startClicked();
     void beginAt(const QDateTime &moment);
     void forgetCountdown();
+    void endCountdown();
     void openPanel();
     void extendMenu(QMenu *menu, const QList<JobId> &ids);
     void record();
     void openControls();
     void takeKeys();
+    QStringList keyTexts() const;
+    QString keyLine(QChar separator) const;
+    void openTray();
     void closeControls();
     void recordChanged(JobId id);
     void showState();
@@ -73,7 +78,7 @@ private:
     QPointer<JobPage> m_page;
     QPointer<CapturePanel> m_panel;
     QDateTime m_beginning;  ///< of the recording that is about to begin; none where none is
-    // While it records
+    // While it records, the keys already shortly before
     JobId m_recording = 0;
     CaptureTarget m_target;
     LevelMeter m_meter;
@@ -81,6 +86,7 @@ private:
     std::unique_ptr<QObject> m_shortcuts;  ///< where the display gives no keys to those whose window has no keyboard
     std::unique_ptr<ClickRings> m_rings;
     std::unique_ptr<ControlBar> m_bar;
+    std::unique_ptr<QMenu> m_trayMenu;
     std::unique_ptr<QSystemTrayIcon> m_tray;
 };
 

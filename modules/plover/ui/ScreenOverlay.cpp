@@ -7,6 +7,17 @@
 
 namespace kestrel {
 
+QPixmap displayPicture(quint32 window, const QRect &area)
+{
+    QScreen *screen = QGuiApplication::primaryScreen();
+    const double ratio = screen->devicePixelRatio();
+    // Qt counts from the corner of the screen, which others may stand left of.
+    const QPoint corner = window == 0 ? screen->geometry().topLeft() : QPoint();
+    const QPoint place = (QPointF(area.topLeft()) / ratio).toPoint() - corner;
+    const QSize size = area.size() / ratio;
+    return screen->grabWindow(window, place.x(), place.y(), size.width(), size.height());
+}
+
 ScreenOverlay::ScreenOverlay(const QString &title)
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint)
 {
@@ -16,7 +27,8 @@ ScreenOverlay::ScreenOverlay(const QString &title)
     setFocusPolicy(Qt::StrongFocus);
     QScreen *screen = QGuiApplication::primaryScreen();
     const QRect desktop = screen->virtualGeometry();
-    m_screen = screen->grabWindow(0, desktop.x(), desktop.y(), desktop.width(), desktop.height());
+    const double ratio = screen->devicePixelRatio();
+    m_screen = displayPicture(0, {(QPointF(desktop.topLeft()) * ratio).toPoint(), desktop.size() * ratio});
     setGeometry(desktop);
 }
 

@@ -5,6 +5,10 @@
 
 namespace kestrel {
 
+/// What is to be seen now of a window, or of the desktop for 0; in pixels of the display, from the corner of what it
+/// is.
+QPixmap displayPicture(quint32 window, const QRect &area);
+
 /// The whole desktop as it is when this is made, darkened, for something to be chosen on it. Goes by itself when it is
 /// closed; Escape closes it.
 class ScreenOverlay : public QWidget {
