@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>%1 ausgelassen</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>%1 Dateien ausgewählt</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%1 von %2 Bildern kamen zu spät: An ihrer Stelle steht das vorige.</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>%1 von %2 s waren lesbar, %3 Fehler</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%1 von %2 s waren lesbar.</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>%1 Bilder pro Sekunde</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>Neben der Quelle</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>Beste Qualität</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>Bitrate</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>Disc-Images</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>Aufnahme verwerfen</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>Weiter</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>Gute Qualität</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>Bild und Ton werden zusammengefügt …</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>Qualität</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>Qualität (niedriger ist besser)</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>Datei zeigen</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>Klicks anzeigen</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>Im Ordner zeigen</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>Kleines MP4-Video (720p)</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>Kleine Datei</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>Die Kapitel. %1 kann sie nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>Die gewählte Kamera fehlt: Stattdessen wird %1 aufgenommen.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>Das gewählte Mikrofon fehlt: Stattdessen wird das übliche aufgenommen.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>Die Sprachen der Spuren. %1 kann sie nicht aufnehmen.</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>Die letzten %1 s haben kein Bild.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>In den letzten %1 s fehlt der Ton: Der Tondienst war nicht mehr da.</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>Der Ton fehlt: Die Website hat nur das Bild ausgegeben.</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>Der Tondienst war eine Zeit lang weg: Dieser Teil hat keinen Ton.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>Üblich</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>Übliches Mikrofon</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>Version: %@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebM-Video (VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>Das Aufgenommene wird gelöscht.</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

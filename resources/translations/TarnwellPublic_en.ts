@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>%1 dropped</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>%1 files selected</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%1 of %2 pictures came too late: the one before stands for them.</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>%1 of %2 s could be read, %3 faults</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%1 of %2 s could be read.</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>%1 pictures a second</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>Beside the source</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>Best quality</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>Bit rate</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>Disc images</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>Discard Recording</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>Go On</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>Good quality</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>Putting picture and sound together…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>Quality</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>Quality (lower is better)</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>Show File</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>Show clicks</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>Show in Folder</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>Small MP4 Video (720p)</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>Small file</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>The chapters. %1 cannot hold them.</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>The chosen camera is missing: %1 is recorded instead.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>The chosen microphone is missing: the usual one is recorded instead.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>The languages of the tracks. %1 cannot hold them.</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>The last %1 s have no picture.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>The last %1 s have no sound: the sound server went away.</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>The sound is missing: the site handed out the picture alone.</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>The sound server was away for a while: that part has no sound.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>Usual</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>Usual microphone</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>Version: %@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebM Video (VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>What has been recorded will be deleted.</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>%1 perdidos</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>%1 archivos seleccionados</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%1 de %2 imágenes llegaron tarde: en su lugar está la anterior.</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>Se han podido leer %1 de %2 s, %3 errores</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>Se han podido leer %1 de %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>%1 imágenes por segundo</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>Junto al origen</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>Calidad óptima</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>Tasa de bits</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>Imágenes de disco</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>Descartar grabación</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>Reanudar</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>Buena calidad</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>Uniendo imagen y sonido…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>Calidad</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>Calidad (menor es mejor)</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>Mostrar archivo</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>Mostrar clics</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>Mostrar en la carpeta</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>Vídeo MP4 pequeño (720p)</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>Archivo pequeño</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>Los capítulos. %1 no los admite.</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>Falta la cámara elegida: se graba %1 en su lugar.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>Falta el micrófono elegido: se graba el habitual en su lugar.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>Los idiomas de las pistas. %1 no puede contenerlos.</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>Los últimos %1 s no tienen imagen.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>Los últimos %1 s no tienen sonido: el servidor de sonido desapareció.</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>Falta el sonido: el sitio solo ha entregado la imagen.</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>El servidor de sonido estuvo ausente un rato: esa parte no tiene sonido.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>Habitual</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>Micrófono habitual</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>Versión: %@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>Vídeo WebM (VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>Se eliminará lo grabado.</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>%1 perdues</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>%1 fichiers sélectionnés</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%1 images sur %2 sont arrivées trop tard : la précédente les remplace.</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>%1 s sur %2 ont pu être lues, %3 erreurs</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%1 s sur %2 ont pu être lues.</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>%1 images par seconde</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>À côté de la source</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>Qualité maximale</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>Débit</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>Images disque</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>Abandonner l’enregistrement</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>Reprendre</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>Bonne qualité</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>Assemblage de l’image et du son…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>Qualité</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>Qualité (plus bas = meilleur)</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>Afficher le fichier</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>Afficher les clics</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>Afficher dans le dossier</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>Petite vidéo MP4 (720p)</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>Petit fichier</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>Les chapitres. %1 ne peut pas les contenir.</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>La caméra choisie est absente : %1 est enregistrée à la place.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>Le micro choisi est absent : le micro habituel est enregistré à la place.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>Les langues des pistes. %1 ne peut pas les contenir.</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>Les %1 dernières secondes n’ont pas d’image.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>Les dernières %1 s sont sans son : le serveur de son a disparu.</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>Le son manque : le site n’a fourni que l’image.</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>Le serveur son a été absent un moment : cette partie n’a pas de son.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>Habituel</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>Micro habituel</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>Version : %@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>Vidéo WebM (VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>Ce qui a été enregistré sera supprimé.</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>%1 persi</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>%1 file selezionati</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%1 immagini su %2 sono arrivate tardi: al loro posto c’è la precedente.</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>Letti %1 di %2 s, %3 errori</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>Letti %1 di %2 s.</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>%1 immagini al secondo</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>Accanto alla sorgente</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>Qualità migliore</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>Bitrate</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>Immagini disco</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>Scarta registrazione</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>Riprendi</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>Qualità buona</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>Unione di immagine e audio…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>Qualità</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>Qualità (più basso è meglio)</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>Mostra file</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>Mostra i clic</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>Mostra nella cartella</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>Video MP4 piccolo (720p)</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>File piccolo</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>I capitoli. %1 non può contenerli.</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>La fotocamera scelta manca: al suo posto si registra %1.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>Il microfono scelto manca: al suo posto si registra quello abituale.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>Le lingue delle tracce. %1 non può contenerle.</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>Gli ultimi %1 s non hanno immagine.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>Gli ultimi %1 s sono senza audio: il server audio non era più disponibile.</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>Manca l’audio: il sito ha fornito solo l’immagine.</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>Il server audio è mancato per un po’: quella parte è senza audio.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>Consueto</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>Microfono abituale</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>Versione: %@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>Video WebM (VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>Ciò che è stato registrato verrà eliminato.</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>%1 コマ落ち</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>%1個のファイルを選択中</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%2 枚中 %1 枚の画像が間に合わず、直前の画像で補いました。</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>%2秒のうち%1秒を読み込めました（エラー%3件）</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2秒のうち%1秒を読み込めました。</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>毎秒 %1 フレーム</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>ソースと同じ場所</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>最高画質</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>ビットレート</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>ディスクイメージ</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>録画を破棄</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>再開</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>高画質</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>映像と音声をまとめています…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>画質</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>品質（小さいほど高品質）</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>ファイルを表示</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>クリックを表示</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>フォルダに表示</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>小さいMP4ビデオ（720p）</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>小さいファイル</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>チャプター。%1には保存できません。</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>選択したカメラがないため、代わりに %1 を録画します。</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>選択したマイクがないため、代わりに通常のマイクを録音します。</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>トラックの言語。%1 には入れられません。</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>最後の %1 秒には映像がありません。</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>最後の %1 秒には音声がありません。サウンドサーバがなくなりました。</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>音声がありません。サイトから得られたのは映像だけです。</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>サウンドサーバーが一時停止していたため、その部分は音声がありません。</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>標準</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>通常のマイク</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>バージョン: %@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebMビデオ（VP9、Opus）</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>録画した内容は削除されます。</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

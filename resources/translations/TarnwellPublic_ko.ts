@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>%1개 누락</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>파일 %1개 선택됨</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%2개 중 %1개 화면이 늦게 와서 앞 화면으로 대신했습니다.</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>%2초 중 %1초를 읽었습니다(오류 %3개)</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2초 중 %1초를 읽었습니다.</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>초당 %1프레임</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>원본과 같은 위치</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>최고 품질</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>비트율</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>디스크 이미지</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>녹화 버리기</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>재개</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>좋은 품질</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>영상과 사운드를 합치는 중…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>품질</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>품질(낮을수록 좋음)</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>파일 보기</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>클릭 표시</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>폴더에서 보기</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>작은 MP4 비디오(720p)</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>작은 파일</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>챕터. %1에는 담을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>선택한 카메라가 없어 대신 %1을(를) 녹화합니다.</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>선택한 마이크가 없어 대신 기본 마이크를 녹음합니다.</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>트랙의 언어. %1에는 넣을 수 없습니다.</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>마지막 %1초에는 화면이 없습니다.</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>마지막 %1초에는 소리가 없습니다. 사운드 서버가 사라졌습니다.</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>사운드가 없습니다. 사이트가 영상만 제공했습니다.</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>사운드 서버가 잠시 끊겨 그 부분에는 소리가 없습니다.</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>보통</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>기본 마이크</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>버전: %@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebM 비디오(VP9, Opus)</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>녹화된 내용이 삭제됩니다.</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>丢弃 %1 帧</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>已选择 %1 个文件</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%2 帧中有 %1 帧来得太迟：由前一帧代替。</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>%2 秒中可读取 %1 秒，%3 处错误</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2 秒中可读取 %1 秒。</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>每秒 %1 帧</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>来源所在位置</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>最佳质量</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>码率</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>碟片映像</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>放弃录制</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>继续</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>良好质量</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>正在合并画面和声音…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>质量</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>质量（越低越好）</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>显示文件</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>显示点按</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>在文件夹中显示</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>小型 MP4 视频（720p）</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>小文件</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>章节。%1 无法包含。</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>所选摄像头不存在：改为录制 %1。</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>所选麦克风不存在：改为录制默认麦克风。</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>音轨的语言信息。%1 无法容纳。</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>最后 %1 秒没有画面。</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>最后 %1 秒没有声音：声音服务器已消失。</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>缺少声音：网站只提供了画面。</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>声音服务器中断了一段时间：该部分没有声音。</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>常用</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>默认麦克风</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>版本：%@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebM 视频（VP9、Opus）</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>已录制的内容将被删除。</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>

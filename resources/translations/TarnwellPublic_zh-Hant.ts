@@ -40,6 +40,10 @@
         <translation>%1 dB</translation>
     </message>
     <message>
+        <source>%1 dropped</source>
+        <translation>遺失 %1 格</translation>
+    </message>
+    <message>
         <source>%1 files selected</source>
         <translation>已選取 %1 個檔案</translation>
     </message>
@@ -52,6 +56,10 @@
         <translation>%1 kbit/s</translation>
     </message>
     <message>
+        <source>%1 of %2 pictures came too late: the one before stands for them.</source>
+        <translation>%2 格中有 %1 格來得太遲：由前一格代替。</translation>
+    </message>
+    <message>
         <source>%1 of %2 s could be read, %3 faults</source>
         <translation>%2 秒中可讀取 %1 秒，%3 處錯誤</translation>
     </message>
@@ -62,6 +70,10 @@
     <message>
         <source>%1 of %2 s could be read.</source>
         <translation>%2 秒中可讀取 %1 秒。</translation>
+    </message>
+    <message>
+        <source>%1 pictures a second</source>
+        <translation>每秒 %1 格</translation>
     </message>
     <message>
         <source>%1 s</source>
@@ -416,6 +428,10 @@
         <translation>來源所在位置</translation>
     </message>
     <message>
+        <source>Best quality</source>
+        <translation>最佳品質</translation>
+    </message>
+    <message>
         <source>Bit rate</source>
         <translation>位元率</translation>
     </message>
@@ -764,6 +780,10 @@
         <translation>光碟映像檔</translation>
     </message>
     <message>
+        <source>Discard Recording</source>
+        <translation>捨棄錄製</translation>
+    </message>
+    <message>
         <source>Dolby Digital</source>
         <translation>Dolby Digital</translation>
     </message>
@@ -1022,6 +1042,10 @@
     <message>
         <source>Go On</source>
         <translation>繼續</translation>
+    </message>
+    <message>
+        <source>Good quality</source>
+        <translation>良好品質</translation>
     </message>
     <message>
         <source>Got It</source>
@@ -1716,6 +1740,10 @@
         <translation>正在合併畫面和聲音…</translation>
     </message>
     <message>
+        <source>Quality</source>
+        <translation>品質</translation>
+    </message>
+    <message>
         <source>Quality (lower is better)</source>
         <translation>品質（越低越好）</translation>
     </message>
@@ -1948,6 +1976,10 @@
         <translation>顯示檔案</translation>
     </message>
     <message>
+        <source>Show clicks</source>
+        <translation>顯示點按</translation>
+    </message>
+    <message>
         <source>Show in Folder</source>
         <translation>在檔案夾中顯示</translation>
     </message>
@@ -1994,6 +2026,10 @@
     <message>
         <source>Small MP4 Video (720p)</source>
         <translation>小型 MP4 影片（720p）</translation>
+    </message>
+    <message>
+        <source>Small file</source>
+        <translation>小檔案</translation>
     </message>
     <message>
         <source>Snapshot</source>
@@ -2198,6 +2234,14 @@
     <message>
         <source>The chapters. %1 cannot hold them.</source>
         <translation>章節。%1 無法包含。</translation>
+    </message>
+    <message>
+        <source>The chosen camera is missing: %1 is recorded instead.</source>
+        <translation>所選攝影機不存在：改為錄製 %1。</translation>
+    </message>
+    <message>
+        <source>The chosen microphone is missing: the usual one is recorded instead.</source>
+        <translation>所選麥克風不存在：改為錄製預設麥克風。</translation>
     </message>
     <message>
         <source>The chosen titles become files of the format beside, as small as you like.</source>
@@ -2460,6 +2504,10 @@
         <translation>音軌的語言資訊。%1 無法容納。</translation>
     </message>
     <message>
+        <source>The last %1 s have no picture.</source>
+        <translation>最後 %1 秒沒有畫面。</translation>
+    </message>
+    <message>
         <source>The last %1 s have no sound: the sound server went away.</source>
         <translation>最後 %1 秒沒有聲音：聲音伺服器已消失。</translation>
     </message>
@@ -2618,6 +2666,10 @@
     <message>
         <source>The sound is missing: the site handed out the picture alone.</source>
         <translation>缺少聲音：網站只提供了畫面。</translation>
+    </message>
+    <message>
+        <source>The sound server was away for a while: that part has no sound.</source>
+        <translation>聲音伺服器中斷了一段時間：該部分沒有聲音。</translation>
     </message>
     <message>
         <source>The sound. %1 holds only pictures.</source>
@@ -2996,6 +3048,10 @@
         <translation>常用</translation>
     </message>
     <message>
+        <source>Usual microphone</source>
+        <translation>預設麥克風</translation>
+    </message>
+    <message>
         <source>Version: %@</source>
         <translation>版本：%@</translation>
     </message>
@@ -3094,6 +3150,10 @@
     <message>
         <source>WebM Video (VP9, Opus)</source>
         <translation>WebM 影片（VP9、Opus）</translation>
+    </message>
+    <message>
+        <source>What has been recorded will be deleted.</source>
+        <translation>已錄製的內容將被刪除。</translation>
     </message>
     <message>
         <source>What the server sent is no film.</source>
