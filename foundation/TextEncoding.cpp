@@ -44,7 +44,8 @@ std::string guessedEncoding(const QByteArray &text)
     const UCharsetMatch *match = ucsdet_detect(detector.get(), &status);
     if (U_FAILURE(status) || !match || ucsdet_getConfidence(match, &status) < leastConfidence)
         return usualEncoding;
-    const std::string name = ucsdet_getName(match, &status);
+    const char *guessed = ucsdet_getName(match, &status);
+    const std::string name = guessed ? guessed : usualEncoding;
     // What is not valid is none, and the usual encoding has all letters of the other.
     return U_FAILURE(status) || name.starts_with("UTF-") || name == "ISO-8859-1" ? usualEncoding : name;
 }

@@ -89,26 +89,24 @@ void JobQueue::load()
 /// What is found on a thread of its own, and fetched from there.
 struct JobQueue::OutputLook {
     std::mutex mutex;
-    QList<JobRecord> gone;
+    QList<JobRecord> others;  ///< that are gone, or back
     bool hasEnded = false;
 };
 
 void JobQueue::lookForOutputs()
 {
     QList<JobRecord> made;
-    for (const JobId id : idsIn({JobState::Done, JobState::DoneWithProblems})) {
-        if (const JobRecord *done = record(id); !done->outcome.problems.contains(tarnwell::Sentence(outputIsGone)))
-            made.append(*done);
-    }
+    for (const JobId id : idsIn({JobState::Done, JobState::DoneWithProblems}))
+        made.append(*record(id));
     if (made.isEmpty() || std::exchange(m_isLookingForOutputs, true))
         return;
     const auto look = std::make_shared<OutputLook>();
     foundation::queue::asyncDetached([look, made] {
         for (const JobRecord &record : made) {
-            if (outputsAreThere(record))
+            if (outputsAreThere(record) != saysOutputsGone(record))
                 continue;
             const std::lock_guard lock(look->mutex);
-            look->gone.append(record);
+            look->others.append(record);
         }
         const std::lock_guard lock(look->mutex);
         look->hasEnded = true;
@@ -122,14 +120,17 @@ void JobQueue::fetchGone(const std::shared_ptr<OutputLook> &look, std::chrono::m
     constexpr std::chrono::milliseconds longest = std::chrono::seconds(2);
     later(delay, [this, look, next = std::min(2 * delay, longest)] {
         std::unique_lock lock(look->mutex);
-        const QList<JobRecord> found = std::exchange(look->gone, {});
+        const QList<JobRecord> found = std::exchange(look->others, {});
         const bool hasEnded = look->hasEnded;
         lock.unlock();
         for (const JobRecord &looked : found) {
             Entry *entry = find(looked.id);
             if (!entry || entry->record.state != looked.state || entry->record.outcome != looked.outcome)
                 continue;  // it has been started again
-            setOutputsGone(entry->record);
+            if (saysOutputsGone(entry->record))
+                setOutputsThere(entry->record);
+            else
+                setOutputsGone(entry->record);
             emit changed(looked.id);
         }
         m_isLookingForOutputs = !hasEnded;

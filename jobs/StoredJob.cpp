@@ -76,10 +76,7 @@ std::optional<LoadedJob> loadedJob(const JobRow &row)
             endInterrupted(record);
         loaded.isToBeStored = true;
     } else if (*state == JobState::Done || *state == JobState::DoneWithProblems) {
-        if (record.outcome.state != JobState::DoneWithProblems)
-            record.outcome.state = JobState::Done;
-        record.state = record.outcome.state;
-        record.outcome.problems.removeAll(tarnwell::Sentence(outputIsGone));
+        setOutputsThere(record);
     }
     return loaded;
 }
@@ -92,6 +89,19 @@ bool outputsAreThere(const JobRecord &record)
     return std::all_of(outputs.begin(), outputs.end(), [](const QString &path) {
         return foundation::fileFacts(path).kind != foundation::FileKind::Missing;
     });
+}
+
+bool saysOutputsGone(const JobRecord &record)
+{
+    return record.outcome.problems.contains(tarnwell::Sentence(outputIsGone));
+}
+
+void setOutputsThere(JobRecord &record)
+{
+    if (record.outcome.state != JobState::DoneWithProblems)
+        record.outcome.state = JobState::Done;
+    record.state = record.outcome.state;
+    record.outcome.problems.removeAll(tarnwell::Sentence(outputIsGone));
 }
 
 void setOutputsGone(JobRecord &record)

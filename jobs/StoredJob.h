@@ -21,7 +21,9 @@ std::optional<LoadedJob> loadedJob(const JobRow &row);
 
 /// False for a job that is done where a file that it made is not there any more. Asks the disk.
 bool outputsAreThere(const JobRecord &record);
-/// It is DoneWithProblems, `outputIsGone`, then, until it is loaded again: the disk may be back.
+/// It is DoneWithProblems, `outputIsGone`, until they are there again: the disk may be back.
+bool saysOutputsGone(const JobRecord &record);
 void setOutputsGone(JobRecord &record);
+void setOutputsThere(JobRecord &record);
 
 }  // namespace kestrel

@@ -37,7 +37,7 @@ struct Container {
     const char *bitmaps = {};   ///< codecs of subtitles of pictures that it takes as they are
     const char *arguments = {};
     const char *rates = {};     ///< the only pictures a second that it takes; smallest first
-    const char *lostTags = {};  ///< of the file, that it has no place for: "title", "date", "place" and "make", "make"
+    const char *lostTags = {};  ///< of the file, that it has no place for: "title", "date", "place"
     int sampleRate = 0;         ///< the only one that it takes; 0 for any
     int channels = 0;           ///< at most; 0 for any
 

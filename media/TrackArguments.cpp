@@ -48,10 +48,9 @@ QString cueCut(double seconds, bool isBitmap)
 }
 
 /// Where the tags of the whole file stand; Ogg has them with its tracks.
-QString tagPlace(const TrackPlan &tracks, const MediaInformation &source)
+QString tagPlace(const MediaInformation &source)
 {
-    const MediaTrack *first = tracks.video ? tracks.video->source : tracks.sounds.first().source;
-    return source.format == "ogg"_L1 ? u"0:s:%1"_s.arg(first->index) : u"0"_s;
+    return source.format == "ogg"_L1 ? u"0:s:0"_s : u"0"_s;
 }
 
 /// As the container takes it. QuickTime has a list of its own, whose codes are not all those of today.
@@ -131,7 +130,10 @@ QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const 
             arguments += trackTags(tracks, *subtitle.source, specifier);
         } else {
             MediaTrack track;
-            track.language = plan.externalSubtitles.at(subtitle.file).language;
+            // Of a person or a name: "de", where files want three letters.
+            const QString &language = plan.externalSubtitles.at(subtitle.file).language;
+            const QString code = foundation::isoLanguageCode(language);
+            track.language = code.isEmpty() ? language : code;
             track.isForced = plan.externalSubtitles.at(subtitle.file).isForced;
             arguments << u"-disposition:"_s + specifier << dispositionText(track);
             arguments += trackTags(tracks, track, specifier);
@@ -157,7 +159,7 @@ QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const 
 
 QStringList tagArguments(const Plan &, const TrackPlan &tracks, const MediaInformation &source, int chapters)
 {
-    QStringList arguments{u"-map_metadata"_s, tagPlace(tracks, source), u"-map_chapters"_s, QString::number(chapters)};
+    QStringList arguments{u"-map_metadata"_s, tagPlace(source), u"-map_chapters"_s, QString::number(chapters)};
     if (tracks.video) {
         arguments += trackTags(tracks, *tracks.video->source, u"v:0"_s);
         // The name that other players ask for.

@@ -88,7 +88,8 @@ void TranscodeJob::judge(const ToolEnding &ending, const std::optional<OutputFin
     // What encoders say of a folder for temporary files that is full is not always "no space".
     constexpr qint64 leastTemporarySpace = 1'000'000;
     const auto space = m_workFolder ? diskSpaceOf(QDir::tempPath()) : std::nullopt;
-    if (outcome.state == JobState::Failed && space && space->available < leastTemporarySpace)
+    if (outcome.state == JobState::Failed && !m_messages.failure().isHopeless && space &&
+        space->available < leastTemporarySpace)
         outcome.sentence = "The disk for temporary files is full. Free some space and convert again."_key;
     if (m_reading.faults() > 0)
         outcome.details += u'\n' + m_reading.text();

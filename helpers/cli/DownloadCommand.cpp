@@ -113,6 +113,8 @@ QList<JobRecord> jobsFor(const DownloadPlan &plan, const Analysis::Answer &answe
     if (answer)
         return downloadJobs(plan, *answer, folder);
     JobRecord record = downloadJob(plan, folder);
+    if (passesByItself(answer.reason().kind))
+        return {record};  // it waits by itself
     record.state = JobState::Unusable;
     record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
     return {record};
@@ -125,7 +127,8 @@ QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &reque
 {
     const JKestrelSettingDispatcher &settings = session.settings();
     QEventLoop loop;
-    Analysis analysis([&] { return engineTools(settings); }, downloadTools(settings, 1).answers);
+    Analysis analysis([&] { return engineTools(settings); }, downloadTools(settings, 1).answers,
+                      Analysis::Patience::Tells);
     std::vector<QList<JobId>> ids(size_t(addresses.size()));
     qsizetype open = addresses.size();
     const auto planOf = [&](qint64 number) {
@@ -140,12 +143,6 @@ QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &reque
         session.queue().start(added);
         if (--open == 0)
             loop.quit();
-    });
-    QHash<qint64, int> told;  // seconds
-    QObject::connect(&analysis, &Analysis::waits, &loop, [&](qint64 number, EngineFailure::Kind kind, int seconds) {
-        if (const int before = std::exchange(told[number], seconds); before <= seconds)
-            std::fprintf(stderr, "kestrel-cli: %s: %s\n", qPrintable(addresses[number]),
-                         qPrintable(waitingSentence(kind, seconds).english()));
     });
     for (qsizetype number = 0; number < addresses.size(); ++number)
         analysis.ask(number, planOf(number));

@@ -38,7 +38,7 @@ ExitStatus runJobs(CliSession &session, const QList<JobId> &ids, const Surroundi
     DesktopServices desktop(tarnwell::productBundle().identifier());
     const QString why = tarnwell::AppLocalizedString(u"Jobs are running."_s);
     QObject::connect(&queue, &JobQueue::changed, &loop, [&] {
-        desktop.setAwake(true, why);
+        desktop.setAwake(!queue.idsIn({JobState::Running, JobState::Paused, JobState::Stopping}).isEmpty(), why);
         desktop.setScreenOn(queue.isLaneActive(Lane::Capture), why);
     });
 

@@ -139,7 +139,8 @@ void DiscImageJob::removeCopy()
 
 void DiscImageJob::cancel()
 {
-    m_staysForLater |= request().tools.keepsCancelledImages && QFileInfo::exists(m_copy + mapSuffix);
+    m_staysForLater |=
+        request().tools.keepsCancelledImages && !m_copy.isEmpty() && QFileInfo::exists(m_copy + mapSuffix);
     WholeDiscJob::cancel();
 }
 

@@ -171,6 +171,7 @@ bool Conversions::start(QString *obstacle)
         m_queue.change(joined, [](JobRecord &record) { record.state = JobState::Ready; });
         ids = startable();
     }
+    setLanes(m_queue, draft().threads, QThread::idealThreadCount());  // as the settings window left it
     m_queue.start(ids);
     return true;
 }

@@ -12,10 +12,11 @@ using namespace std::chrono_literals;
 
 namespace kestrel {
 
-Analysis::Analysis(std::function<EngineTools()> tools, const QString &answers, QObject *parent)
+Analysis::Analysis(std::function<EngineTools()> tools, const QString &answers, Patience patience, QObject *parent)
     : QObject(parent),
       m_tools(std::move(tools)),
-      m_answers(answers)
+      m_answers(answers),
+      m_patience(patience)
 {
 }
 
@@ -101,7 +102,8 @@ void Analysis::failed(Request request, const ToolEnding &ending)
     }
     startPending();
     const int asked = retryAfterIn(ending.output);
-    const auto seconds = passesByItself(failure.kind) ? request.attempts.next(failure.kind, asked) : std::nullopt;
+    const bool isWaitedOut = m_patience == Patience::WaitsOut && passesByItself(failure.kind);
+    const auto seconds = isWaitedOut ? request.attempts.next(failure.kind, asked) : std::nullopt;
     if (!seconds) {
         const Refusal refusal{givenUpSentence(failure, asked), ending.lastWords, failure.kind};
         emit answered(request.id, foundation::Failure{refusal});

@@ -29,7 +29,11 @@ public:
 
     static constexpr int maximumAtOnce = 2;
 
-    Analysis(std::function<EngineTools()> tools, const QString &answers, QObject *parent = nullptr);
+    /// Whether failures that pass by themselves are waited out, or told at once.
+    enum class Patience { WaitsOut, Tells };
+
+    Analysis(std::function<EngineTools()> tools, const QString &answers, Patience patience = Patience::WaitsOut,
+             QObject *parent = nullptr);
     ~Analysis() override;
 
     /// `id` is the caller's name for it. `answered` comes once, later than this returns, unless it is stopped.
@@ -66,6 +70,7 @@ private:
 
     std::function<EngineTools()> m_tools;
     AnswerStore m_answers;
+    Patience m_patience;
     QList<Request> m_pending;
     QList<Request> m_waiting;
     QSet<qint64> m_read;  ///< whose answers are being read

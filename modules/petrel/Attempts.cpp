@@ -26,11 +26,10 @@ std::optional<int> Attempts::next(Kind kind, int asked)
 {
     if (kind == Kind::TooMany && asked > longestWait)
         return std::nullopt;
-    // A night without a network is one attempt.
-    if (kind == Kind::NoNetwork && !hasNetwork()) {
-        m_count = std::min(m_count, lastWait);
-        return waits[m_count == lastWait ? m_count : m_count++];
-    }
+    // A night without a network is no attempt.
+    if (kind == Kind::NoNetwork && !hasNetwork())
+        return waits[std::min(m_offline++, lastWait)];
+    m_offline = 0;
     if (m_count >= (kind == Kind::Server ? serverWaits : lastWait + 1))
         return std::nullopt;
     const int usual = waits[m_count++];

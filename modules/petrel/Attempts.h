@@ -9,13 +9,13 @@ namespace kestrel {
 /// When to ask again after failures that pass by themselves: soon at first, and not for ever.
 class Attempts {
 public:
-    /// Seconds until the next one; nothing where there is none any more. `asked` is what the server wants, 0 where it
-    /// does not say. Without a network there is always a next one.
+    /// Seconds until the next one; nothing where there is none any more. `asked` is what the server wants, in seconds,
+    /// 0 where it does not say. While the machine has no network there is always a next one, for ever.
     std::optional<int> next(EngineFailure::Kind kind, int asked);
-    void reset() { m_count = 0; }
+    void reset() { m_count = m_offline = 0; }
 
 private:
-    int m_count = 0;
+    int m_count = 0, m_offline = 0;
 };
 
 /// What is told of the wait meanwhile.

@@ -41,9 +41,10 @@ qint64 bytesOf(const QJsonValue &value)
 bool isLikelyPlace(const QUrl &url)
 {
     static const QRegularExpression name(u"\\.(xn--[a-z0-9-]+|\\p{L}{2,})$"_s), number(u"^[\\d.]+$|:"_s);
+    static const QStringList files = mediaNameFilters();
     const QString host = url.host();
-    const bool isFile = url.path().size() <= 1 && host.section(u'.', -1).size() > 2 &&
-                        mediaNameFilters().contains(u"*."_s + host.section(u'.', -1));
+    const bool isFile =
+        url.path().size() <= 1 && host.section(u'.', -1).size() > 2 && files.contains(u"*."_s + host.section(u'.', -1));
     return host == "localhost"_L1 || number.match(host).hasMatch() || (name.match(host).hasMatch() && !isFile);
 }
 

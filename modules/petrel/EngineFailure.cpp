@@ -150,8 +150,9 @@ EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy)
     Kind kind = Kind::Unknown;
     switch (ending.cause) {
         case CouldNotStart:
-        case Crashed:
             kind = Kind::EngineBroken;
+            break;
+        case Crashed:  // killed, such as for want of memory
             break;
         case TimeLimit:
         case Silence:

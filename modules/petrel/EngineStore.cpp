@@ -171,7 +171,7 @@ std::optional<QString> EngineStore::fallBack(const QString &engine, Damage damag
         return other;
     EngineState state = readState(m_folder);
     const bool isBroken = damage == Damage::Broken;
-    // This one does it no better.
+    // The one that took over fails too: the suspect is not to blame, and is on trial again.
     if (!state.suspect.isEmpty() && (isBroken || !state.isBroken)) {
         state.previous = std::exchange(state.current, std::exchange(state.suspect, {}));
         state.isOnTrial = true;

@@ -103,17 +103,19 @@ void PartFolder::removeLeft(const QString &folder, const DownloadPlan &plan)
     }
 }
 
-void PartFolder::moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to)
+bool PartFolder::moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to)
 {
     int error = 0;
     const QString path = pathOf(folder, plan, 0);
     if (!QFileInfo(path).isDir())
-        return;
-    if (const int lock = lockOf(path, error); lock >= 0) {
-        std::rename(QFile::encodeName(path).constData(), QFile::encodeName(pathOf(to, plan, 0)).constData());
-        close(lock);
-    }
-    removeLeft(folder, plan);
+        return true;
+    const int lock = lockOf(path, error);
+    if (lock < 0)
+        return false;
+    const bool isMoved =
+        std::rename(QFile::encodeName(path).constData(), QFile::encodeName(pathOf(to, plan, 0)).constData()) == 0;
+    close(lock);
+    return isMoved;
 }
 
 PartFolder::PartFolder(QString path, int lock) : m_path(std::move(path)), m_lock(lock)

@@ -20,8 +20,8 @@ public:
     static Taken take(const QString &folder, const DownloadPlan &plan);
     /// Removes what earlier runs have left for the plan, unless it is in use.
     static void removeLeft(const QString &folder, const DownloadPlan &plan);
-    /// Takes it to another folder; removes it where that is on another disk.
-    static void moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to);
+    /// Takes it to another folder. False, and it stays, where that cannot be: it is on another disk, or not there.
+    static bool moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to);
 
     ~PartFolder();
     PartFolder(const PartFolder &) = delete;

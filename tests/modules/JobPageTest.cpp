@@ -91,7 +91,8 @@ TEST_F(JobPageTest, CancelsItsOwnJobsAlsoPausedOnes)
     emit recipe.jobOf(disc)->progressed({.fraction = 0.9});
     emit recipe.jobOf(ids[1])->progressed({.fraction = 0.5});
     const auto *bar = page.findChild<QProgressBar *>(u"progressBar"_s);
-    EXPECT_TRUE(test::waitUntil([&] { return bar->maximum() == 2 * bar->value(); })) << bar->value();
+    EXPECT_TRUE(test::waitUntil([&] { return bar->value() > 0 && bar->maximum() == 2 * bar->value(); }))
+        << bar->value();
     page.findChild<QPushButton *>(u"cancelButton"_s)->click();
     EXPECT_TRUE(test::waitUntil([&] { return state(1) == JobState::Cancelled; }));
     EXPECT_EQ(queue.record(disc)->state, JobState::Running);

@@ -211,6 +211,8 @@ void HeronController::showDrives()
     }
     const auto inDrive = [this](const DiscDrive &drive) { return drive.device == m_source; };
     auto drive = std::find_if(drives.begin(), drives.end(), inDrive);
+    if (drive != drives.end() && m_openedLabel.isNull())
+        m_openedLabel = drive->label;  // it was opened before the drives were known
     const bool isChanged = drive != drives.end() && drive->label != m_openedLabel;
     if (m_source.isEmpty())
         drive = drives.begin();

@@ -82,12 +82,15 @@ void PetrelController::lookAgain(const QList<JobId> &ids)
 {
     changePlans(ids, followProxy());
     for (const JobId id : ids) {
-        queue().change(id, [](JobRecord &record) {
-            record.state = JobState::Checking;
-            record.outcome = {};
+        // The menu may be older than the row's state.
+        const JobRecord *record = queue().record(id);
+        if (!record || (record->state > JobState::Ready && record->state != JobState::Failed))
+            continue;
+        queue().change(id, [](JobRecord &changed) {
+            changed.state = JobState::Checking;
+            changed.outcome = {};
         });
-        if (queue().record(id))
-            lookAt(id);
+        lookAt(id);
     }
 }
 
@@ -148,6 +151,9 @@ void PetrelController::chooseAmong(JobId id, const EngineAnswer &answer)
         if (result == QDialog::Accepted && plan) {
             for (const JobRecord &job : downloadJobs(*plan, answer, record->folder, dialog->chosenItems()))
                 lookAt(queue().add(job));
+        } else if (record && record->started.isValid()) {
+            // It was there before the question.
+            return queue().change(id, [](JobRecord &changed) { changed.state = JobState::Ready; });
         }
         queue().remove({id});
     });
@@ -183,7 +189,8 @@ PetrelController::PlanEdit PetrelController::followProxy() const
     };
 }
 
-/// What runs stays as it is. What has come of a film goes to the new folder, or goes where it fits no more.
+/// What runs stays as it is. What has come of a film goes to the new folder, or keeps the film where it is, or goes
+/// where it fits no more.
 void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit)
 {
     for (const JobId id : ids) {
@@ -193,13 +200,13 @@ void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit
             continue;
         DownloadPlan edited = *plan;
         edit(edited);
-        const QString folder = plan->hasOwnFolder ? record->folder : downloadFolder(*m_settings, edited);
+        QString folder = plan->hasOwnFolder ? record->folder : downloadFolder(*m_settings, edited);
         if (edited == *plan && folder == record->folder)
             continue;
         if (edited.identity() != plan->identity())
             PartFolder::removeLeft(record->folder, *plan);
-        else if (folder != record->folder)
-            PartFolder::moveLeft(record->folder, *plan, folder);
+        else if (folder != record->folder && !PartFolder::moveLeft(record->folder, *plan, folder))
+            folder = record->folder;
         queue().change(id, [&](JobRecord &changed) {
             setDownloadPlan(changed, edited);
             changed.folder = folder;
