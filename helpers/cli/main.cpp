@@ -20,6 +20,7 @@
 #include <cstdio>
 #include <cstring>
 #include <future>
+#include <memory>
 #include <thread>
 #include <utility>
 
@@ -100,14 +101,13 @@ public:
     Sweep(const Sweep &) = delete;
     Sweep &operator=(const Sweep &) = delete;
 
-    void end(ExitStatus status)
+    ~Sweep()
     {
         constexpr auto patience = std::chrono::seconds(2);
-        if (m_end.wait_for(patience) != std::future_status::ready) {
-            std::fflush(nullptr);
-            _exit(status);
-        }
-        m_thread.join();
+        if (m_end.wait_for(patience) == std::future_status::ready)
+            m_thread.join();
+        else
+            m_thread.detach();
     }
 
 private:
@@ -165,7 +165,7 @@ int main(int argc, char **argv)
     tarnwell::Localization localization(foundation::Bundle::main().resource(u"translations"_s),
                                         cli::interfaceLanguage());
     const tarnwell::Installed<tarnwell::Localization> installedLocalization(localization);
-    cli::Sweep sweep;
+    auto sweep = std::make_unique<cli::Sweep>();
 
     QStringList arguments;
     for (int index = 1; index < argc; ++index)
@@ -173,6 +173,9 @@ int main(int argc, char **argv)
     cli::ExitStatus status = cli::runCommand(arguments);
     if (!cli::isPrinted() && (status == cli::AllDone || status == cli::SomeWithProblems))
         status = cli::SomeFailed;
-    sweep.end(status);
-    return status;
+    sweep.reset();
+    foundation::UserDefaults::standardUserDefaults().synchronize();
+    std::fflush(nullptr);
+    // Threads that greet a bus or wait for a disk must not find the program half taken down.
+    _exit(status);
 }

@@ -69,7 +69,7 @@ RecordJob::RecordJob(RecordPlan plan, const QString &folder, RecordTools tools, 
       m_tools(std::move(tools))
 {
     if (m_recording.plan.name.isEmpty())
-        m_recording.plan.name = u"Recording "_s + QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss"_s);
+        m_recording.plan.name = newRecordingName();
     connect(&m_watch, &QTimer::timeout, this, &RecordJob::watch);
 }
 

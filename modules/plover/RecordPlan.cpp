@@ -1,7 +1,9 @@
 #include "RecordPlan.h"
 
 #include "settings/JKestrelSettingDispatcher.h"
+#include "tarnwell/TextKey.h"
 
+#include <QDateTime>
 #include <QJsonArray>
 
 #include <algorithm>
@@ -112,6 +114,13 @@ RecordPlan recordPlan(const JKestrelSettingDispatcher &settings)
     plan.camera = settings.getCurrentVideoDeviceID();
     plan.microphone = settings.getCurrentAudioDeviceID();
     return plan;
+}
+
+QString newRecordingName()
+{
+    using tarnwell::operator""_key;
+    const QString time = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss"_s);
+    return tarnwell::Sentence("Recording %1"_key, {time}).localized();
 }
 
 }  // namespace kestrel

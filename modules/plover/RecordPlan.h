@@ -63,5 +63,7 @@ struct RecordPlan {
 
 /// What the settings ask of a recording.
 RecordPlan recordPlan(const JKestrelSettingDispatcher &settings);
+/// "Recording 2024-12-31 12.00.00": of this moment, in the language of the interface.
+QString newRecordingName();
 
 }  // namespace kestrel

@@ -8,7 +8,6 @@
 #include "tarnwell/ProductInformation.h"
 #include "tarnwell/SystemInformation.h"
 
-#include <QDateTime>
 #include <QSet>
 
 using namespace Qt::StringLiterals;
@@ -53,7 +52,7 @@ JobRecord recordingJob(const RecordPlan &plan, const QString &folder)
 {
     RecordPlan named = plan;
     if (named.name.isEmpty())
-        named.name = u"Recording "_s + QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss"_s);
+        named.name = newRecordingName();
     JobRecord record;
     record.module = ploverJobs.toString();
     record.title = named.name;

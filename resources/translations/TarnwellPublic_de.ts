@@ -1800,6 +1800,10 @@
         <translation>Aufnahme</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>Aufnahme %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>Die Aufnahme beginnt um %1. Mit „Aufnehmen“ beginnt sie sofort.</translation>
     </message>

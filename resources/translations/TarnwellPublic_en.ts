@@ -1800,6 +1800,10 @@
         <translation>Recording</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>Recording %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>Recording begins at %1. Press Record to begin at once.</translation>
     </message>

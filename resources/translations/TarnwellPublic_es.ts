@@ -1800,6 +1800,10 @@
         <translation>Grabación</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>Grabación %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>La grabación empieza a las %1. Pulse Grabar para empezar ahora.</translation>
     </message>

@@ -1800,6 +1800,10 @@
         <translation>Enregistrement</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>Enregistrement %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>L’enregistrement commence à %1. Appuyez sur Enregistrer pour commencer tout de suite.</translation>
     </message>

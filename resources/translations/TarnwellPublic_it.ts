@@ -1800,6 +1800,10 @@
         <translation>Registrazione</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>Registrazione %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>La registrazione inizia alle %1. Premi Registra per iniziare subito.</translation>
     </message>

@@ -1800,6 +1800,10 @@
         <translation>録画中</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>録画 %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>録画は %1 に始まります。「録画」を押すとすぐに始まります。</translation>
     </message>

@@ -1800,6 +1800,10 @@
         <translation>기록</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>녹화 %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>%1에 녹화가 시작됩니다. 바로 시작하려면 녹화를 누르세요.</translation>
     </message>

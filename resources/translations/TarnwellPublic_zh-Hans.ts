@@ -1800,6 +1800,10 @@
         <translation>录制</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>录制 %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>录制将于 %1 开始。按“录制”可立即开始。</translation>
     </message>

@@ -1800,6 +1800,10 @@
         <translation>錄製</translation>
     </message>
     <message>
+        <source>Recording %1</source>
+        <translation>錄製 %1</translation>
+    </message>
+    <message>
         <source>Recording begins at %1. Press Record to begin at once.</source>
         <translation>錄製將於 %1 開始。按「錄製」可立即開始。</translation>
     </message>
