@@ -53,7 +53,7 @@ QString progressText(const JobProgress &progress)
     if (progress.seconds > 0)
         return durationText(progress.seconds);
     if (progress.bytes > 0)
-        return QLocale().formattedDataSize(progress.bytes, 1, QLocale::DataSizeSIFormat);
+        return bytesText(progress.bytes);
     return nameOf(JobState::Running);
 }
 
@@ -99,6 +99,11 @@ QString jobStateHoverText(const JobRecord &record)
     }
     lines.removeDuplicates();
     return lines.join(u'\n');
+}
+
+QString bytesText(qint64 bytes)
+{
+    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
 }
 
 }  // namespace kestrel

@@ -10,4 +10,7 @@ QString jobStateText(const JobRecord &record);
 /// All that is known of the state, a line each: the time that is left, notes, problems, what was left out, outputs.
 QString jobStateHoverText(const JobRecord &record);
 
+/// "1.2 GB", localised.
+QString bytesText(qint64 bytes);
+
 }  // namespace kestrel

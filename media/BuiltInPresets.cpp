@@ -30,7 +30,7 @@ struct BuiltIn {
     Limits limits = {};
 };
 
-// The first one is what a newcomer gets.
+// The first one is the default.
 constexpr BuiltIn builtIns[] = {
     {"mp4-h264", "MP4 Video (H.264, AAC)"_key, "everywhere", "mp4", "h264", "aac", {.isPlain = true}},
     {"mkv-h264", "MKV Video (H.264, AAC)"_key, "everywhere", "mkv", "h264", "aac"},

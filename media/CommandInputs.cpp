@@ -125,7 +125,7 @@ private:
     {
         m_result.chapters = m_sources.first().chapters.size();
         m_result.chapterInput = 0;
-        // Films of this kind have a track of the names, which readers miss where no chapter has one.
+        // MP4 keeps the titles of chapters in a text track, which readers miss where no chapter has one.
         const bool lacksNames =
             m_tracks.container->has(Container::HandlerNames) &&
             std::ranges::any_of(m_sources.first().chapters, &QString::isEmpty, &MediaChapter::title);

@@ -33,7 +33,7 @@ constexpr Container containerTable[] = {
      .text = "mov_text",
      .keptText = "mov_text",
      .bitmaps = "dvd_subtitle",
-     // TrueHD is young here.
+     // TrueHD in MP4 is experimental to this ffmpeg.
      .arguments = "-movflags +faststart -strict experimental"},
     {.id = "mkv",
      .name = "MKV",

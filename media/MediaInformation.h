@@ -101,4 +101,8 @@ std::optional<MediaInformation> parseMediaInformation(const QByteArray &json);
 /// one.
 void addPictureData(const QByteArray &json, MediaInformation &information);
 
+/// Bits of each colour, by the name that ffmpeg gives a format of pixels: 10 of "yuv420p10le". 0 where the name tells
+/// none, which are 8.
+int bitDepthOf(const QString &pixelFormat);
+
 }  // namespace kestrel

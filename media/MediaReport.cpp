@@ -129,13 +129,8 @@ QString languageIn(const QHash<QString, QString> &tags)
 
 int bitDepthIn(const QJsonObject &stream, const QString &pixelFormat)
 {
-    // "yuv420p10le", "p010le", "rgb48be", "y210le": the digits before the byte order
-    static const QRegularExpression pattern(u"(\\d+)(?:le|be)$"_s);
-    const int digits = pattern.match(pixelFormat).captured(1).toInt();
-    if (digits == 48 || digits == 64)
-        return 16;
-    if (digits % 100 >= 9 && digits % 100 <= 16)
-        return digits % 100;
+    if (const int told = bitDepthOf(pixelFormat); told > 0)
+        return told;
     const int depth = reportInteger(stream["bits_per_raw_sample"_L1], 16);
     return pixelFormat.isEmpty() && depth > 8 ? depth : 8;
 }
@@ -295,6 +290,16 @@ bool isFormatOfPictures(const QString &format)
 }
 
 }  // namespace
+
+int bitDepthOf(const QString &pixelFormat)
+{
+    // "yuv420p10le", "p010le", "rgb48be", "y210le": the digits before the byte order
+    static const QRegularExpression pattern(u"(\\d+)(?:le|be)$"_s);
+    const int digits = pattern.match(pixelFormat).captured(1).toInt();
+    if (digits == 48 || digits == 64)
+        return 16;
+    return digits % 100 >= 9 && digits % 100 <= 16 ? digits % 100 : 0;
+}
 
 std::optional<MediaInformation> parseMediaInformation(const QByteArray &json)
 {

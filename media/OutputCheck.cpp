@@ -124,7 +124,7 @@ ToolCommand decodingCommand(const QString &transcoderPath, const QString &argume
         u"file"_s};
     if (decoding == Decoding::KeyPictures)
         arguments += {u"-skip_frame:v"_s, u"nokey"_s};
-    // Passed through, or the writer of nothing complains about the times of pictures.
+    // Passed through, or the null muxer complains about the times of pictures.
     arguments += {u"-i"_s,        argument,         u"-map"_s, u"0:V?"_s, u"-map"_s, u"0:a?"_s,
                   u"-fps_mode"_s, u"passthrough"_s, u"-f"_s,   u"null"_s, u"-"_s};
     return {.program = transcoderPath, .arguments = arguments, .silenceLimit = std::chrono::minutes(2)};
@@ -172,7 +172,7 @@ OutputFindings compareOutput(const OutputExpectation &expected, const ToldOutput
     findings.mismatch = mismatchIn(expected, information);
     findings.isEmpty = found.bytes == 0 || std::none_of(found.packets.begin(), found.packets.end(),
                                                         [](qint64 packets) { return packets > 0; });
-    // Elsewhere the reader guesses, and the writer knows.
+    // Without a header ffprobe estimates the length; what ffmpeg told is exact.
     findings.seconds =
         information.headerTellsDuration() || told.seconds <= 0 ? information.duration.value_or(0) : told.seconds;
     if (expected.seconds && !findings.isEmpty) {

@@ -16,7 +16,7 @@ namespace kestrel {
 class OutputFile;
 
 /// Gives a finished output, a file or a folder, its name in the background: syncing a large file to a slow disk takes
-/// long. Owned by shared pointers alone.
+/// long. Who lets go of it leaves it running: only `takeBack` undoes it. Owned by shared pointers alone.
 class Placing : public std::enable_shared_from_this<Placing> {
 public:
     using Placed = std::function<void(const foundation::Result<QString, tarnwell::Sentence> &path)>;

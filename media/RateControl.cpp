@@ -100,7 +100,7 @@ QStringList qualityArguments(const Plan &plan, const VideoEncoder &encoder)
     if (!encoder.quality)
         return {};
     QStringList arguments{QString::fromLatin1(encoder.quality), numberText(qualityValue(plan, encoder))};
-    // These take a rate for a limit unless it is none; VP8 knows no other way than a high one.
+    // Constant quality needs a rate of 0; VP8 has no such value and gets one too high to matter.
     if (encoder.is("libvpx-vp9"_L1) || encoder.is("libaom-av1"_L1))
         arguments << u"-b:v"_s << u"0"_s;
     else if (encoder.is("libvpx"_L1))

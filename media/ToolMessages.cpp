@@ -32,7 +32,7 @@ QByteArray levelOf(QByteArrayView line)
     return {};
 }
 
-/// The writer of nothing wants times that only grow, which not every good file has.
+/// The null muxer wants times that only grow, which not every good file has.
 bool isFault(const QByteArray &level, const QByteArray &line)
 {
     if (line.startsWith("[null @ "))

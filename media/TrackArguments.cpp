@@ -162,7 +162,7 @@ QStringList tagArguments(const Plan &, const TrackPlan &tracks, const MediaInfor
     QStringList arguments{u"-map_metadata"_s, tagPlace(source), u"-map_chapters"_s, QString::number(chapters)};
     if (tracks.video) {
         arguments += trackTags(tracks, *tracks.video->source, u"v:0"_s);
-        // The name that other players ask for.
+        // Some players take HEVC only as hvc1, not as hev1.
         const QString muxer = QString::fromLatin1(tracks.container->muxer);
         if (tracks.video->codec == "hevc"_L1 && (muxer == "mp4"_L1 || muxer == "mov"_L1 || muxer == "ipod"_L1))
             arguments << u"-tag:v:0"_s << u"hvc1"_s;

@@ -33,7 +33,7 @@ TranscodeJob::TranscodeJob(TranscodeRequest request, QObject *parent) : ToolJob(
 TranscodeJob::~TranscodeJob()
 {
     endTool();
-    m_placing.reset();  // what is getting its name keeps it: only who cancels takes it back
+    m_placing.reset();  // not taken back
     discard();
 }
 

@@ -109,7 +109,7 @@ bool TranscodeJob::aimsAgain(const OutputFindings &findings, qint64 bytes)
 {
     const int mostCorrections = m_steps.work == TranscodeSteps::Work::Encode ? 2 : 5;  // sound is made in no time
     const qint64 correction = sizeCorrection(m_steps.expected.maximumBytes, bytes);
-    // To fill the size with: pictures that are as good as they can be, sound that knows few rates.
+    // A larger size gains nothing where the pictures are at their best, and sound has few rates.
     const bool hasNoMore =
         correction < 0 && ((m_correction < 0 && bytes <= m_lastBytes) || m_steps.work != TranscodeSteps::Work::Encode);
     if (correction == 0 || hasNoMore || findings.isShort || m_corrections == mostCorrections ||

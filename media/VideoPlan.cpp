@@ -1,8 +1,6 @@
 #include "FilterText.h"
 #include "TrackPlan.h"
 
-#include <QRegularExpression>
-
 #include <algorithm>
 #include <cmath>
 
@@ -214,10 +212,7 @@ QString targetCodec(const Plan &plan, const MediaTrack &track, const Container &
 PixelKind pixelKind(const QString &format, int depth)
 {
     PixelKind kind;
-    kind.depth = depth;
-    // "yuv420p10le", "p010le"
-    static const QRegularExpression pattern(u"(?:p|gray)(\\d+)(?:le|be)$"_s);
-    kind.depth = std::max(depth, pattern.match(format).captured(1).toInt());
+    kind.depth = std::max(depth, bitDepthOf(format));
     kind.chroma = format.contains("444"_L1) ? 2 : format.contains("422"_L1) ? 1 : 0;
     kind.isRgb = format.startsWith("rgb"_L1) || format.startsWith("bgr"_L1) || format.startsWith("gbr"_L1) ||
                  format.startsWith("pal"_L1) || format.startsWith("argb"_L1) || format.startsWith("abgr"_L1);

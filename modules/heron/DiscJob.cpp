@@ -29,7 +29,7 @@ DiscJob::DiscJob(DiscRequest request, QObject *parent) : ToolJob(parent), m_requ
 DiscJob::~DiscJob()
 {
     endTool();
-    m_placing.reset();  // what is getting its name keeps it: only who cancels takes it back
+    m_placing.reset();  // not taken back
     DiscJob::discard();
 }
 

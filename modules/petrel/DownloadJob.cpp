@@ -49,7 +49,7 @@ DownloadJob::DownloadJob(DownloadPlan plan, QString folder, DownloadTools tools,
 DownloadJob::~DownloadJob()
 {
     endTool();
-    m_placing.reset();  // what is getting its name keeps it: only who cancels takes it back
+    m_placing.reset();  // not taken back
     m_conversion.reset();
     discard();
 }

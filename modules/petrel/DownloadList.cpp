@@ -2,6 +2,7 @@
 
 #include "Download.h"
 
+#include "jobs/JobText.h"
 #include "jobs/RemainingTime.h"
 
 #include <QJsonArray>
@@ -20,11 +21,6 @@ namespace {
 
 const QString filmKey = u"film"_s;  // beside the members of the plan
 
-QString sizeText(double bytes)
-{
-    return QLocale().formattedDataSize(qint64(bytes), 1, QLocale::DataSizeSIFormat);
-}
-
 QString detailText(const JobRecord &record)
 {
     const auto plan = DownloadPlan::fromJson(record.plan);
@@ -38,7 +34,7 @@ QString detailText(const JobRecord &record)
         parts.append(durationText(plan->seconds));
     parts.append(form);
     if (plan->bytes > 0)
-        parts.append(sizeText(double(plan->bytes)));
+        parts.append(bytesText(plan->bytes));
     return parts.join(u" · "_s);
 }
 
@@ -54,8 +50,8 @@ QString runText(const JobRecord &record)
     if (progress.fraction)
         parts.append(u"%1 %"_s.arg(std::floor(*progress.fraction * 100)));
     else
-        parts.append(sizeText(double(progress.bytes)));
-    parts.append(Sentence("%1/s"_key, {sizeText(progress.bytesPerSecond)}).localized());
+        parts.append(bytesText(progress.bytes));
+    parts.append(Sentence("%1/s"_key, {bytesText(qint64(progress.bytesPerSecond))}).localized());
     if (progress.remainingSeconds)
         parts.append(remainingTimeText(*progress.remainingSeconds));
     return parts.join(u" · "_s);

@@ -5,6 +5,7 @@
 #include "foundation/Queues.h"
 #include "jobs/DiskSpace.h"
 #include "jobs/JobQueue.h"
+#include "jobs/JobText.h"
 #include "jobs/ui/JobPage.h"
 #include "jobs/ui/JobRowDelegate.h"
 #include "media/OwnPresets.h"
@@ -43,11 +44,6 @@ namespace {
 QString pictureKey(const QString &source, const QString &volume, int title)
 {
     return source + u'\n' + volume + u'\n' + QString::number(title);
-}
-
-QString sizeText(qint64 bytes)
-{
-    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
 }
 
 }  // namespace
@@ -285,8 +281,8 @@ void HeronController::showChoice()
     if (m_contents && isFolder && way() == DiscWay::Image)
         text = "A folder has no sectors to copy. Choose another way."_key.localized();
     else if (m_contents)
-        text +=
-            u' ' + Sentence("About %1."_key, {sizeText(resultBytes(way(), preset(), *m_contents, titles))}).localized();
+        text += u' ' +
+                Sentence("About %1."_key, {bytesText(resultBytes(way(), preset(), *m_contents, titles))}).localized();
     m_disc->setChoiceText(m_contents ? text : QString());
     showArea();
 }
@@ -297,7 +293,7 @@ void HeronController::showSizes()
     const QList<disc::DiscTitle> titles = chosenTitles();
     const auto named = [&](const QString &name, DiscWay way, const Preset &preset) {
         const qint64 bytes = m_contents ? resultBytes(way, preset, *m_contents, titles) : 0;
-        return bytes > 0 ? name + u" · "_s + sizeText(bytes) : name;
+        return bytes > 0 ? name + u" · "_s + bytesText(bytes) : name;
     };
     int index = 0;
     for (const DiscWayRow &row : discWayRows())
@@ -420,7 +416,7 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
     *obstacle = Sentence(
                     "There is not enough space: %1 are needed and %2 are free. Free some, or choose another folder "
                     "in the settings."_key,
-                    {sizeText(needed), sizeText(space->available)})
+                    {bytesText(needed), bytesText(space->available)})
                     .localized();
     return false;
 }

@@ -5,6 +5,7 @@
 #include "foundation/Bundle.h"
 #include "foundation/Queues.h"
 #include "jobs/JobQueue.h"
+#include "jobs/JobText.h"
 #include "jobs/ui/JobDetails.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
@@ -51,11 +52,6 @@ constexpr std::initializer_list<JobState> startable = {JobState::Ready, JobState
 
 constexpr int offeredHeights[] = {240, 360, 480, 720, 1080, 1440, 2160};
 constexpr qint64 offeredLimits[] = {100'000, 500'000, 1'000'000, 5'000'000, 10'000'000};
-
-QString sizeText(qint64 bytes)
-{
-    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
-}
 
 void addRow(QComboBox &box, const QString &text, const QVariant &value)
 {
@@ -149,7 +145,7 @@ void PetrelController::addChoices()
     m_limits->setAccessibleName("Speed limit of each download"_key.localized());
     addRow(*m_limits, "No speed limit"_key.localized(), 0);
     for (const qint64 limit : offeredLimits)
-        addRow(*m_limits, tarnwell::Sentence("%1/s"_key, {sizeText(limit)}).localized(), limit);
+        addRow(*m_limits, tarnwell::Sentence("%1/s"_key, {bytesText(limit)}).localized(), limit);
     for (QComboBox *box : {m_formats.data(), m_resolutions.data(), m_limits.data()}) {
         connect(box, &QComboBox::currentIndexChanged, this, [this, box] { applyChoice(box); });
         m_page->addChoice(box);

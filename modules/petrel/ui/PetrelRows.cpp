@@ -3,6 +3,7 @@
 #include "SitePictures.h"
 
 #include "jobs/JobQueue.h"
+#include "jobs/JobText.h"
 #include "jobs/ui/JobDetails.h"
 #include "jobs/ui/JobListView.h"
 #include "jobs/ui/JobPage.h"
@@ -27,11 +28,6 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr qint64 maximumTextFile = 4 * 1024 * 1024;
-
-QString bytesText(qint64 bytes)
-{
-    return QLocale().formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat);
-}
 
 }  // namespace
 
