@@ -185,7 +185,7 @@ void JobQueue::change(JobId id, const std::function<void(JobRecord &)> &edit)
     edit(edited);
     edited.id = id;
     edited.module = entry->record.module;
-    if (edited.state > JobState::Ready)
+    if (!isBeforeStart(edited.state))
         edited.state = entry->record.state;
     const bool waited = entry->record.state == JobState::Waiting;
     // What it weighs and needs may be different now.

@@ -93,6 +93,11 @@ bool isEnded(JobState state)
     return state >= JobState::Done;
 }
 
+bool isBeforeStart(JobState state)
+{
+    return state == JobState::Checking || state == JobState::Unusable || state == JobState::Ready;
+}
+
 bool isActive(JobState state)
 {
     return state == JobState::Running || state == JobState::Paused || state == JobState::Stopping;

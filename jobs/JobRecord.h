@@ -30,8 +30,9 @@ enum class JobState {
     Interrupted,  ///< the program ended while it ran; is offered again
 };
 
-bool isEnded(JobState state);   ///< from Done on
-bool isActive(JobState state);  ///< has a `Job`: Running, Paused, Stopping
+bool isBeforeStart(JobState state);  ///< Checking, Unusable, Ready
+bool isEnded(JobState state);        ///< from Done on
+bool isActive(JobState state);       ///< has a `Job`: Running, Paused, Stopping
 
 /// The name in files and for programs: "done-with-problems".
 QString jobStateName(JobState state);

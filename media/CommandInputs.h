@@ -1,6 +1,7 @@
 #pragma once
 
 #include "FilterGraph.h"
+#include "SubtitleInputs.h"
 #include "TrackPlan.h"
 
 namespace kestrel {
@@ -10,10 +11,10 @@ struct CommandInputs {
     QStringList arguments;           ///< "-i …"
     QStringList firstPassArguments;  ///< without what only the last run needs
     GraphInputs graph;
-    QStringList subtitleMaps;  ///< by track of the result
-    QString coverPath;         ///< of the cover to be attached; null for none
-    int chapterInput = 0;      ///< -1 for none
-    qsizetype chapters = 0;    ///< in the result
+    SubtitleInputs subtitles;
+    QString coverPath;       ///< of the cover to be attached; null for none
+    int chapterInput = 0;    ///< -1 for none
+    qsizetype chapters = 0;  ///< in the result
     QList<TranscodeRun> runs;
     QHash<QString, QByteArray> files;
 };
@@ -22,8 +23,6 @@ struct CommandInputs {
 CommandInputs commandInputs(const TranscodePlan &plan, const QList<MediaInformation> &sources, TrackPlan &tracks,
                             const QList<SourcePiece> &pieces, const TranscodePaths &paths);
 
-/// The length of the only piece that is kept; nothing where all is, or several.
-std::optional<double> cutLength(const TranscodePlan &plan, const QList<SourcePiece> &pieces);
 QStringList threadArguments(const TranscodePlan &plan);
 
 }  // namespace kestrel

@@ -1,4 +1,4 @@
-#include "TrackPlan.h"
+#include "CueTimes.h"
 
 #include "SubtitleFile.h"
 
@@ -19,11 +19,6 @@ using tarnwell::operator""_key;
 constexpr const char *readableText =
     "subrip srt ass ssa mov_text webvtt text eia_608 microdvd sami realtext subviewer "
     "subviewer1 jacosub mpl2 pjs vplayer stl";
-
-bool isCut(const Plan &plan)
-{
-    return plan.pieces.size() > 1 || plan.sources.size() > 1;
-}
 
 /// ffmpeg's name of the encoder; null where the container cannot hold such subtitles.
 QString subtitleEncoder(const Container &container, const QString &codec, bool isBitmap)
@@ -126,7 +121,7 @@ private:
                          ? "Subtitles that are pictures: %1. %2 cannot hold them; burn them in, or choose MKV."_key
                          : "Subtitles: %1. %2 cannot hold them."_key,
                      name);
-        } else if (m_plan.speedFactor != 1 || isCut(m_plan)) {
+        } else if (!canFollow(m_plan, track.isBitmap)) {
             m_tracks.leftOut.append(
                 {"Subtitles: %1. They cannot follow the changed times; burn them in to keep them."_key, {name}});
         } else {
@@ -153,7 +148,7 @@ private:
         const QString encoder = subtitleEncoder(*m_tracks.container, codec, kind.isBitmap);
         if (encoder.isNull())
             leaveOut("Subtitles: %1. %2 cannot hold them."_key, name);
-        else if (m_plan.speedFactor != 1 || isCut(m_plan))
+        else if (!canFollow(m_plan, kind.isBitmap))
             m_tracks.leftOut.append(
                 {"Subtitles: %1. They cannot follow the changed times; burn them in to keep them."_key, {name}});
         else

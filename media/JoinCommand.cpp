@@ -2,6 +2,7 @@
 
 #include "ChapterFile.h"
 #include "RateControl.h"
+#include "SubtitleInputs.h"
 #include "TrackArguments.h"
 
 #include <algorithm>
@@ -128,6 +129,9 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
         commonHead() + QStringList{u"-f"_s, u"concat"_s, u"-safe"_s, u"0"_s, u"-i"_s, u"file:"_s + list};
     // What the list hides stands in the first file itself.
     arguments << u"-i"_s << u"file:"_s + plan.sources.first();
+    const SubtitleInputs subtitles = subtitleInputs(plan, sources.first(), tracks, pieces, paths.workFolder, 1, 2);
+    arguments += subtitles.arguments;
+    steps.runs += subtitles.runs;
     int chapterInput = -1;
     if (tracks.keepsChapters) {
         const QList<MediaChapter> chapters = resultChapters(plan, sources, pieces);
@@ -136,13 +140,14 @@ foundation::Result<TranscodeSteps, tarnwell::Sentence> joinSteps(const Plan &pla
             const QString path = paths.workFolder + u"/chapters.txt"_s;
             steps.files.insert(path, chapterFile(chapters));
             arguments << u"-f"_s << u"ffmetadata"_s << u"-i"_s << u"file:"_s + path;
-            chapterInput = 2;
+            chapterInput = 2 + subtitles.count;
         }
     }
     const QList<int> indexes = indexesOf(tracks);
     for (qsizetype number = 0; number < indexes.size(); ++number)
         arguments << u"-map"_s << u"0:%1"_s.arg(isCut ? number : indexes.at(number));
     arguments << u"-c"_s << u"copy"_s;
+    arguments += subtitleArguments(plan, tracks, subtitles.maps, cueTimes(plan, pieces));
     for (const MediaTrack *file : std::as_const(tracks.attachments))
         arguments << u"-map"_s << u"1:%1"_s.arg(file->index);
     if (!tracks.covers.isEmpty())

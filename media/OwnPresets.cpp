@@ -7,6 +7,7 @@
 #include <QUuid>
 
 #include <algorithm>
+#include <map>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -261,6 +262,18 @@ void OwnPresets::keep()
     else
         m_defaults.setObject(writtenCollection(all), m_key);
     emit changed();
+}
+
+std::shared_ptr<OwnPresets> ownPresetsIn(foundation::UserDefaults &defaults)
+{
+    static std::map<foundation::UserDefaults *, std::weak_ptr<OwnPresets>> all;
+    std::weak_ptr<OwnPresets> &known = all[&defaults];
+    std::shared_ptr<OwnPresets> presets = known.lock();
+    if (!presets) {
+        presets = std::make_shared<OwnPresets>(defaults, ownPresetsKey.toString());
+        known = presets;
+    }
+    return presets;
 }
 
 }  // namespace kestrel

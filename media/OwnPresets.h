@@ -4,6 +4,8 @@
 
 #include <QObject>
 
+#include <memory>
+
 namespace kestrel {
 
 namespace foundation {
@@ -54,6 +56,12 @@ private:
     QHash<QString, QJsonObject> m_options;
     bool m_isStoredUnreadable = false;  ///< at least in part: it is put aside before it is replaced
 };
+
+inline constexpr QStringView ownPresetsKey = u"marlinPresets";  ///< of the user's own presets in the defaults
+
+/// The user's own presets in the defaults: one object for all who have them at a time, so that each shows what another
+/// has changed. Main thread; the defaults outlive it.
+std::shared_ptr<OwnPresets> ownPresetsIn(foundation::UserDefaults &defaults);
 
 /// Puts the first preset of such a file and its options into the plan, for this once. False where it is refused.
 bool applyPresetFile(const QByteArray &file, TranscodePlan &plan);

@@ -36,17 +36,6 @@ QString dispositionText(const MediaTrack &track)
     return flags.isEmpty() ? u"0"_s : flags.join(u'+');
 }
 
-/// Cues that end before the piece begins are dropped, and those at its ends shortened: the container would move
-/// everything else to make room for them.
-QString cueCut(double seconds, bool isBitmap)
-{
-    const QString length = numberText(seconds);
-    if (isBitmap)
-        return u"noise=drop='lt(pts,0)+gte(pts*tb,%1)'"_s.arg(length);
-    return u"noise=drop='lte(pts+d,0)+gte(pts*tb,%1)',setts=pts='max(PTS,0)':dts='max(PTS,0)':"
-           "duration='min(DURATION+min(PTS,0),%1/TB-max(PTS,0))'"_s.arg(length);
-}
-
 /// Where the tags of the whole file stand; Ogg has them with its tracks.
 QString tagPlace(const MediaInformation &source)
 {
@@ -115,16 +104,16 @@ QStringList pieceInput(const SourcePiece &piece, const MediaInformation &source,
     return arguments << u"-i"_s << u"file:"_s + path;
 }
 
-QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const QStringList &subtitleMaps,
-                               std::optional<double> cut, const QString &coverPath)
+QStringList subtitleArguments(const Plan &plan, const TrackPlan &tracks, const QStringList &maps,
+                              const std::optional<CueTimes> &times)
 {
     QStringList arguments;
     for (int number = 0; number < tracks.subtitles.size(); ++number) {
         const SubtitleTrackPlan &subtitle = tracks.subtitles.at(number);
         const QString specifier = u"s:%1"_s.arg(number);
-        arguments << u"-map"_s << subtitleMaps.at(number) << u"-c:"_s + specifier << subtitle.encoder;
-        if (cut)
-            arguments << u"-bsf:"_s + specifier << cueCut(*cut, subtitle.source && subtitle.source->isBitmap);
+        arguments << u"-map"_s << maps.at(number) << u"-c:"_s + specifier << subtitle.encoder;
+        if (times)
+            arguments << u"-bsf:"_s + specifier << cueFilter(*times, subtitle.source && subtitle.source->isBitmap);
         if (subtitle.source) {
             arguments << u"-disposition:"_s + specifier << dispositionText(*subtitle.source);
             arguments += trackTags(tracks, *subtitle.source, specifier);
@@ -139,6 +128,12 @@ QStringList companionArguments(const Plan &plan, const TrackPlan &tracks, const 
             arguments += trackTags(tracks, track, specifier);
         }
     }
+    return arguments;
+}
+
+QStringList companionArguments(const TrackPlan &tracks, const QString &coverPath)
+{
+    QStringList arguments;
     for (const MediaTrack *file : tracks.attachments)
         arguments << u"-map"_s << u"0:%1"_s.arg(file->index);
     if (!tracks.attachments.isEmpty())

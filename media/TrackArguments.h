@@ -1,5 +1,6 @@
 #pragma once
 
+#include "CueTimes.h"
 #include "TrackPlan.h"
 
 namespace kestrel {
@@ -13,11 +14,11 @@ QStringList commonTail(const TrackPlan &tracks, const QString &output);
 QStringList pieceInput(const SourcePiece &piece, const MediaInformation &source, const QString &path,
                        bool copiesPictures);
 
-/// Subtitles, covers and attachments. `subtitleMaps` says where each of the subtitles comes from ("0:3"), `cut` is the
-/// length of the only piece that is kept, nothing where all is; `coverPath` is the cover to be attached, where there is
-/// one.
-QStringList companionArguments(const TranscodePlan &plan, const TrackPlan &tracks, const QStringList &subtitleMaps,
-                               std::optional<double> cut, const QString &coverPath);
+/// `maps` says where each of the subtitles comes from ("0:3"), `times` where its cues go.
+QStringList subtitleArguments(const TranscodePlan &plan, const TrackPlan &tracks, const QStringList &maps,
+                              const std::optional<CueTimes> &times);
+/// Covers and attachments. `coverPath` is the cover to be attached, where there is one.
+QStringList companionArguments(const TrackPlan &tracks, const QString &coverPath);
 
 /// Tags of the file and of its tracks, and chapters; those of the input `chapters`, -1 for none.
 QStringList tagArguments(const TranscodePlan &plan, const TrackPlan &tracks, const MediaInformation &source,

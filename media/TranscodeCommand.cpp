@@ -168,8 +168,8 @@ private:
                 arguments << u"-filter:a:%1"_s.arg(number) << filters;
             arguments += soundArguments(m_plan, m_tracks.sounds.at(number), number);
         }
-        arguments += companionArguments(m_plan, m_tracks, m_inputs.subtitleMaps, cutLength(m_plan, m_pieces),
-                                        m_inputs.coverPath);
+        arguments += subtitleArguments(m_plan, m_tracks, m_inputs.subtitles.maps, cueTimes(m_plan, m_pieces));
+        arguments += companionArguments(m_tracks, m_inputs.coverPath);
         arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_inputs.chapterInput);
         arguments += threadArguments(m_plan);
         // Else players that mind the list of edits would not show what stands before the start.

@@ -4,12 +4,9 @@
 #include "jobs/JobQueue.h"
 #include "media/MediaProber.h"
 #include "media/OutputName.h"
-#include "media/OwnPresets.h"
 #include "settings/JKestrelSettingDispatcher.h"
 
 #include <algorithm>
-#include <map>
-#include <memory>
 
 using namespace Qt::StringLiterals;
 
@@ -22,18 +19,6 @@ const QString sourceKey = u"source"_s;
 const QString folderKey = u"folder"_s;
 
 }  // namespace
-
-std::shared_ptr<OwnPresets> ownPresetsIn(foundation::UserDefaults &defaults)
-{
-    static std::map<foundation::UserDefaults *, std::weak_ptr<OwnPresets>> all;
-    std::weak_ptr<OwnPresets> &known = all[&defaults];
-    std::shared_ptr<OwnPresets> presets = known.lock();
-    if (!presets) {
-        presets = std::make_shared<OwnPresets>(defaults, ownPresetsKey.toString());
-        known = presets;
-    }
-    return presets;
-}
 
 TranscodePlan conversionPlan(const JKestrelSettingDispatcher &settings, const Preset &preset, int processors)
 {

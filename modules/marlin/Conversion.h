@@ -9,18 +9,8 @@ namespace kestrel {
 
 class JKestrelSettingDispatcher;
 class JobQueue;
-class OwnPresets;
 
-namespace foundation {
-class UserDefaults;
-}
-
-inline constexpr QStringView marlinJobs = u"marlin";            ///< what conversions are stored under
-inline constexpr QStringView ownPresetsKey = u"marlinPresets";  ///< of the user's own presets in the defaults
-
-/// The user's own presets in the defaults: one object for all who have them at a time, so that each shows what another
-/// has changed. Main thread; the defaults outlive it.
-std::shared_ptr<OwnPresets> ownPresetsIn(foundation::UserDefaults &defaults);
+inline constexpr QStringView marlinJobs = u"marlin";  ///< what conversions are stored under
 
 /// What the settings ask of a conversion to `preset`, all else as it is sensible. A number of cores beyond `processors`
 /// means all, as does one below 1.

@@ -24,10 +24,16 @@ Analysis::~Analysis() = default;
 
 void Analysis::ask(qint64 id, const DownloadPlan &plan)
 {
-    if (const auto known = m_answers.answer(plan))
-        return answerLater(id, *known);
-    m_pending.append({id, plan});
-    startPending();
+    read(
+        id, [plan, answers = m_answers] { return answers.answer(plan); },
+        [this, id, plan](const std::optional<EngineAnswer> &known) {
+            if (known) {
+                emit answered(id, *known);
+                return;
+            }
+            m_pending.append({id, plan});
+            startPending();
+        });
 }
 
 void Analysis::stop(qint64 id)
@@ -35,7 +41,7 @@ void Analysis::stop(qint64 id)
     const auto isIt = [id](const Request &request) { return request.id == id; };
     m_pending.removeIf(isIt);
     m_waiting.removeIf(isIt);
-    m_read.remove(id);
+    m_readings.remove(id);
     std::erase_if(m_running, [&](const Run &run) { return isIt(run.request); });
     startPending();
 }
@@ -67,15 +73,28 @@ void Analysis::ended(qint64 id, const ToolEnding &ending)
     if (!ending.isGood())
         return failed(request, ending);
     startPending();
-    m_read.insert(id);
-    // Some are megabytes.
-    foundation::queue::asyncGlobal([self = QPointer(this), request, ending, answers = m_answers] {
-        const auto answer = parseEngineAnswer(ending.output, request.plan.address);
-        if (answer)
-            answers.keep(request.plan, *answer);
-        foundation::queue::asyncMain([self, request, answer, words = ending.lastWords] {
-            if (self && self->m_read.remove(request.id))
-                self->tell(request, answer, words);
+    read(
+        id,
+        [plan = request.plan, output = ending.output, answers = m_answers] {
+            const auto answer = parseEngineAnswer(output, plan.address);
+            if (answer)
+                answers.keep(plan, *answer);
+            return answer;
+        },
+        [this, request, words = ending.lastWords](const auto &answer) { tell(request, answer, words); });
+}
+
+template <typename Reader, typename Taker>
+void Analysis::read(qint64 id, Reader reader, Taker taker)
+{
+    const quint64 reading = ++m_lastReading;
+    m_readings[id] = reading;
+    foundation::queue::asyncGlobal([self = QPointer(this), id, reading, reader, taker] {
+        foundation::queue::asyncMain([self, id, reading, taker, what = reader()] {
+            if (!self || self->m_readings.value(id) != reading)
+                return;
+            self->m_readings.remove(id);
+            taker(what);
         });
     });
 }
@@ -143,12 +162,6 @@ void Analysis::secondPassed()
         if (request.seconds < seldom || request.seconds % seldom == 0)
             emit waits(request.id, request.failure, request.seconds);
     }
-}
-
-void Analysis::answerLater(qint64 id, const Answer &answer)
-{
-    QMetaObject::invokeMethod(
-        this, [this, id, answer] { emit answered(id, answer); }, Qt::QueuedConnection);
 }
 
 }  // namespace kestrel

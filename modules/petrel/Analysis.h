@@ -6,8 +6,8 @@
 #include "EngineCommand.h"
 #include "EngineFailure.h"
 
+#include <QHash>
 #include <QObject>
-#include <QSet>
 
 #include <functional>
 #include <memory>
@@ -66,14 +66,18 @@ private:
     void failed(Request request, const ToolEnding &ending);
     void waitOn();
     void secondPassed();
-    void answerLater(qint64 id, const Answer &answer);
+    /// Hands to `taker` what `reader` brings from the background, unless `id` was stopped meanwhile: some answers are
+    /// megabytes.
+    template <typename Reader, typename Taker>
+    void read(qint64 id, Reader reader, Taker taker);
 
     std::function<EngineTools()> m_tools;
     AnswerStore m_answers;
     Patience m_patience;
     QList<Request> m_pending;
     QList<Request> m_waiting;
-    QSet<qint64> m_read;  ///< whose answers are being read
+    QHash<qint64, quint64> m_readings;  ///< the number of each's reading under way
+    quint64 m_lastReading = 0;
     bool m_isWaiting = false;
     std::vector<Run> m_running;
 };

@@ -42,7 +42,7 @@ QString detailText(const JobRecord &record)
 QString runText(const JobRecord &record)
 {
     const JobProgress &progress = record.progress;
-    if (record.state <= JobState::Ready)
+    if (isBeforeStart(record.state))
         return record.blocked.localized();
     if (record.state != JobState::Running || !progress.stage.isEmpty() || progress.bytesPerSecond <= 0)
         return {};

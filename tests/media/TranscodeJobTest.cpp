@@ -10,6 +10,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QProcess>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
@@ -246,6 +247,39 @@ TEST_F(TranscodeJobTest, ACopyIsDecodedAndBeginsBeforeTheCut)
     EXPECT_EQ(int(outcome.state), int(JobState::Done)) << outcome.sentence.english().toStdString();
     EXPECT_GT(outcome.facts[u"seconds"_s].toDouble(), 1.9) << "nothing that was wanted is lost";
     EXPECT_TRUE(QFile::exists(path(u"decoding"_s)) && !test::readBytes(path(u"decoding"_s)).contains("nokey"));
+}
+
+TEST_F(TranscodeJobTest, SubtitlesFollowThePieces)
+{
+    const QString cues = path(u"cues.srt"_s), source = path(u"source.mkv"_s), told = path(u"told.srt"_s);
+    test::writeBytes(cues,
+                     "1\n00:00:00,200 --> 00:00:00,600\none\n\n2\n00:00:00,700 --> 00:00:00,900\ntwo\n\n"
+                     "3\n00:00:01,000 --> 00:00:01,400\nthree\n\n4\n00:00:01,600 --> 00:00:01,800\nfour\n\n");
+    const auto transcode = [&](const QStringList &arguments) {
+        return QProcess::execute(m_tools.transcoder, QStringList{u"-v"_s, u"error"_s, u"-y"_s} + arguments) == 0;
+    };
+    ASSERT_TRUE(transcode({u"-i"_s, film(u"mp4"_s), u"-i"_s, cues, u"-an"_s, u"-c"_s, u"copy"_s, source}));
+    TranscodePlan plan = planFor({source}, u"mkv-h264"_s);
+    plan.externalSubtitles = {{.path = cues, .language = u"de"_s}};
+    plan.copies = plan.exactCuts = false;
+    plan.pieces = {{.start = 0.4, .end = 0.8}, {.start = 1.2, .end = 2}};
+    const QByteArray atOnce =
+        "1\n00:00:00,000 --> 00:00:00,200\none\n\n2\n00:00:00,300 --> 00:00:00,400\ntwo\n\n"
+        "3\n00:00:00,400 --> 00:00:00,600\nthree\n\n4\n00:00:00,800 --> 00:00:01,000\nfour\n\n";
+    const QByteArray slowed =
+        "1\n00:00:00,000 --> 00:00:00,400\none\n\n2\n00:00:00,600 --> 00:00:00,800\ntwo\n\n"
+        "3\n00:00:00,800 --> 00:00:01,200\nthree\n\n4\n00:00:01,600 --> 00:00:02,000\nfour\n\n";
+    for (const auto &[preset, speed, wanted] : {std::tuple(u"mkv-h264"_s, 1.0, atOnce), {u"mp4-h264"_s, 0.5, slowed}}) {
+        plan.preset = *presetOfId(preset);
+        plan.speedFactor = speed;
+        const JobOutcome outcome = run(plan).outcome;
+        ASSERT_EQ(int(outcome.state), int(JobState::Done)) << outcome.sentence.english().toStdString();
+        EXPECT_TRUE(outcome.leftOut.isEmpty()) << outcome.leftOut.value(0).english().toStdString();
+        for (const QString &track : {u"0:s:0"_s, u"0:s:1"_s}) {
+            ASSERT_TRUE(transcode({u"-i"_s, outcome.outputs.value(0), u"-map"_s, track, told}));
+            EXPECT_EQ(test::readBytes(told), wanted) << preset.toStdString() << ' ' << track.toStdString();
+        }
+    }
 }
 
 TEST_F(TranscodeJobTest, WhatGetsNoNameIsNotDone)

@@ -21,9 +21,10 @@ namespace kestrel::disc {
 
 namespace {
 
-constexpr qint64 sectorsAtOnce = 2048;  // 4 MiB
-constexpr qint64 sectorsOfBlock = 16;   // a drive corrects errors in blocks of these
-constexpr int blocksInARow = 4;         // after so many failures the rest of the run is left for later
+constexpr qint64 sectorsAtOnce = 128;  // 256 KiB; with more the processor's cache no longer holds what is on its way
+constexpr qint64 sectorsOfRun = 2048;
+constexpr qint64 sectorsOfBlock = 16;  // a drive corrects errors in blocks of these
+constexpr int blocksInARow = 4;        // after so many failures the rest of the run is left for later
 constexpr int attempts = 3;
 constexpr int millisecondsOfReport = 250, millisecondsOfSave = 2000;
 
@@ -149,7 +150,7 @@ std::optional<DiscError> SectorCopy::copyForward()
         if (came > 0 && !write(range.first, came))
             return targetErrorOf(errno);
         if (came == 0 && !m_isGone) {
-            if (const auto error = copyAround(range))
+            if (const auto error = copyAround({range.first, std::min(sectorsOfRun, m_sectors - range.first)}))
                 return error;
         } else {
             m_map.position += came;

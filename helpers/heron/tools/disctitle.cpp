@@ -16,6 +16,9 @@ using namespace kestrel::disc;
 
 namespace {
 
+// Of sound and subtitles; the pictures have 0x1e0.
+constexpr int firstTrackId = 0x20, lastTrackId = 0x1df;
+
 struct Request {
     TitleWish wish;
     bool wantsStreams = false;
@@ -50,7 +53,8 @@ std::optional<Request> requestOf(const QStringList &arguments)
         request.wish.streams.emplace();
     for (const QString &track : parser.value(u"tracks"_s).split(u',', Qt::SkipEmptyParts)) {
         const int from = track.section(u'=', 0, 0).toInt(nullptr, 0), to = track.section(u'=', -1).toInt(nullptr, 0);
-        isGood &= from >= 0x20 && from < 0x1e0 && to >= 0x20 && to < 0x1e0;
+        const auto isStream = [](int id) { return id >= firstTrackId && id <= lastTrackId; };
+        isGood &= isStream(from) && isStream(to);
         request.wish.streams->emplace(from, to);
     }
     const QString chapters = parser.value(u"chapters"_s);

@@ -11,7 +11,6 @@
 #include "modules/common/OutputFolderLine.h"
 #include "modules/common/PresetChooser.h"
 #include "modules/heron/DiscList.h"
-#include "modules/marlin/Conversion.h"
 #include "tarnwell/ui/Images.h"
 #include "tarnwell/ui/TabOrder.h"
 

@@ -5,7 +5,13 @@
 #include "media/SubtitleFile.h"
 #include "media/ToolPath.h"
 
+#include <QDateTime>
+#include <QFileInfo>
 #include <QPointer>
+
+#include <utility>
+
+using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
@@ -37,15 +43,10 @@ void FrameMaker::start()
     m_path = std::make_unique<ToolPath>(request.plan.sources.value(0));
     TranscodePlan plan = request.plan;
     plan.sources = {m_path->path()};
-    m_subtitles.reset();
+    const MediaTrack *video = request.source.firstOf(MediaTrack::Kind::Video);
     for (TranscodePlan::ExternalSubtitle &subtitle : plan.externalSubtitles) {
-        if (subtitle.use != TranscodePlan::SubtitleUse::Burn)
-            continue;
-        if (!m_subtitles)
-            m_subtitles = std::make_unique<WorkFolder>();
-        const MediaTrack *video = request.source.firstOf(MediaTrack::Kind::Video);
-        const auto readable = readableSubtitles(subtitle.path, m_subtitles->path(), video ? video->frameRate : 0);
-        subtitle.path = readable ? *readable : subtitle.path;
+        if (subtitle.use == TranscodePlan::SubtitleUse::Burn)
+            subtitle.path = readableCopy(subtitle.path, video ? video->frameRate : 0);
     }
     const QStringList arguments =
         previewArguments(plan, request.source, request.seconds, request.size, request.picture, request.place);
@@ -63,6 +64,19 @@ void FrameMaker::start()
         take(request, ending.isGood() ? QImage::fromData(ending.output, "PPM") : QImage());
     });
     m_process->start();
+}
+
+/// The last one is kept: every picture needs it.
+QString FrameMaker::readableCopy(const QString &path, double frameRate)
+{
+    const QString original =
+        u"%1 %2 %3"_s.arg(path).arg(frameRate).arg(QFileInfo(path).lastModified().toMSecsSinceEpoch());
+    if (std::exchange(m_original, original) != original) {
+        m_subtitles = std::make_unique<WorkFolder>();
+        const auto copy = readableSubtitles(path, m_subtitles->path(), frameRate);
+        m_copy = copy ? *copy : path;
+    }
+    return m_copy;
 }
 
 void FrameMaker::take(const Request &request, const QImage &image)

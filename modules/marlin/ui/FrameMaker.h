@@ -40,6 +40,7 @@ signals:
 
 private:
     void start();
+    QString readableCopy(const QString &path, double frameRate);
     void take(const Request &request, const QImage &image);
     void refineLater(Request request);
 
@@ -47,7 +48,8 @@ private:
     bool m_isRefining = false;
     quint64 m_requests = 0;
     std::unique_ptr<ToolPath> m_path;
-    std::unique_ptr<WorkFolder> m_subtitles;  ///< copies of those that are burnt in
+    QString m_original, m_copy;               ///< of subtitles that are burnt in
+    std::unique_ptr<WorkFolder> m_subtitles;  ///< where the copy lies
     std::unique_ptr<ToolProcess> m_process;
 };
 

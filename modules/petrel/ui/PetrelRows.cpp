@@ -80,7 +80,7 @@ void PetrelController::lookAgain(const QList<JobId> &ids)
     for (const JobId id : ids) {
         // The menu may be older than the row's state.
         const JobRecord *record = queue().record(id);
-        if (!record || (record->state > JobState::Ready && record->state != JobState::Failed))
+        if (!record || (!isBeforeStart(record->state) && record->state != JobState::Failed))
             continue;
         queue().change(id, [](JobRecord &changed) {
             changed.state = JobState::Checking;
@@ -108,7 +108,7 @@ void PetrelController::stopLooking(const QList<JobId> &ids)
 void PetrelController::prepare(JobId id)
 {
     const JobRecord *record = queue().record(id);
-    if (!record || record->module != petrelJobs || record->state <= JobState::Ready)
+    if (!record || record->module != petrelJobs || isBeforeStart(record->state))
         return;
     if (m_asked.remove(id))
         m_analysis->stop(id);
