@@ -120,7 +120,7 @@ void Conversions::addOne(const QString &path)
     lookAt(m_queue.add(record));
 }
 
-JobId Conversions::join(const QList<JobId> &ids)
+JobId Conversions::join(const QList<JobId> &ids, QString *obstacle)
 {
     QStringList sources;
     QList<JobId> joined;
@@ -129,6 +129,10 @@ JobId Conversions::join(const QList<JobId> &ids)
         const auto plan = record && !isActive(record->state) ? this->plan(id) : std::nullopt;
         if (!plan || record->state == JobState::Unusable)
             continue;
+        if (!plan->pieces.isEmpty()) {
+            *obstacle = "Files can be cut or joined, but not both at once."_key.localized();
+            return 0;
+        }
         sources += plan->sources;
         joined.append(id);
     }
@@ -136,7 +140,6 @@ JobId Conversions::join(const QList<JobId> &ids)
         return 0;
     TranscodePlan plan = *this->plan(joined.first());
     plan.sources = sources;
-    plan.pieces.clear();
     JobRecord record = conversionJob(plan, m_queue.record(joined.first())->folder);
     setOwnFolder(record, ownFolder(*m_queue.record(joined.first())));
     record.title =
@@ -167,7 +170,9 @@ bool Conversions::start(QString *obstacle)
     QList<JobId> ids = startable();
     if (const QList<JobId> ready = m_queue.idsIn({JobState::Ready}, marlinJobs.toString());
         m_settings->mergeMedia() && ready.size() > 1) {
-        const JobId joined = join(ready);
+        const JobId joined = join(ready, obstacle);
+        if (!obstacle->isEmpty())
+            return false;
         m_queue.change(joined, [](JobRecord &record) { record.state = JobState::Ready; });
         ids = startable();
     }
@@ -249,6 +254,8 @@ void Conversions::choosePreset(const QList<JobId> &ids, const QString &presetId)
             m_ownPresets->apply(presetId, plan);
             return;
         }
+        if (plan.preset.group == "own"_L1)  // whose options were its own
+            setOptions(optionsOf({}), plan);
         // A number of one encoder's quality says nothing to another.
         if (plan.rateControl == TranscodePlan::RateControl::Quality && plan.preset.videoCodec != preset.videoCodec)
             plan.rateControl = TranscodePlan::RateControl::Preset;

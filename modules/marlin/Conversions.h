@@ -38,8 +38,9 @@ public:
 
     /// Adds the files that are not yet in the list and still to be converted. How many of them are new.
     int add(const QStringList &paths);
-    /// One job of the sources of several, in their order, in place of them. 0 where there are fewer than two.
-    JobId join(const QList<JobId> &ids);
+    /// One job of the sources of several, in their order, in place of them. 0 where there are fewer than two, and with
+    /// a sentence where one is cut.
+    JobId join(const QList<JobId> &ids, QString *obstacle);
     /// Checks the folders and starts what has not been done, joined first where the settings want that. False with a
     /// sentence where it cannot.
     bool start(QString *obstacle);

@@ -189,9 +189,16 @@ TEST_F(MarlinControllerTest, PresetIsForTheSelectedOrForAllAndIsRemembered)
     OwnPresets own(defaults, u"marlinPresets"_s);
     TranscodePlan plan;
     plan.preset = builtInPresets().first();
-    ASSERT_TRUE(own.save(u"mine"_s, plan));
+    plan.speedFactor = 2;
+    const auto mine = own.save(u"mine"_s, plan);
+    ASSERT_TRUE(mine);
     start();
     EXPECT_GT(find<QComboBox>(u"targetComboBox"_s)->findText(u"  mine"_s), 0);
+    open({clip(u"a.mkv"_s)});
+    choose(*mine);
+    EXPECT_EQ(planAt(0).speedFactor, 2);
+    choose(u"mkv-h265"_s);
+    EXPECT_EQ(planAt(0).speedFactor, 1) << "an own preset's options are its own";
     foundation::NotificationCenter::defaultCenter().postNotificationName(keyResetProfilesNotification.toString());
     EXPECT_EQ(find<QComboBox>(u"targetComboBox"_s)->currentData(), builtInPresets().first().id);
     EXPECT_EQ(find<QComboBox>(u"targetComboBox"_s)->findText(u"  mine"_s), -1);
@@ -265,11 +272,16 @@ TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)
     TranscodePlan cut = planAt(0);
     cut.pieces = {{.start = 0, .end = 0.5}};
     queue().change(idAt(0), [&](JobRecord &record) { setPlan(record, cut); });
+    Conversions conversions(queue(), settings.configure().value(moduleSettingKey.toString()), defaults);
+    QString obstacle;
+    EXPECT_FALSE(conversions.start(&obstacle));
+    EXPECT_TRUE(obstacle.contains(u"cut")) << "no piece is lost without a word";
+    cut.pieces.clear();
+    queue().change(idAt(0), [&](JobRecord &record) { setPlan(record, cut); });
     convert();
     ASSERT_EQ(queue().order(module).size(), 1);
     ASSERT_TRUE(isIn(0, JobState::Done)) << recordAt(0).outcome.details.toStdString();
     EXPECT_EQ(planAt(0).sources.size(), 2);
-    EXPECT_TRUE(planAt(0).pieces.isEmpty()) << "of one film, and not of what it becomes a part of";
     EXPECT_EQ(settings.outputs(), QStringList{u"a.mkv"_s});
 }
 

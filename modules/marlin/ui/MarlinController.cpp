@@ -212,8 +212,7 @@ void MarlinController::extendMenu(QMenu *menu, const QList<JobId> &ids)
     menu->addSeparator();
     menu->addAction("Play Source"_key.localized(), this, [this, current] { playSource(current); });
     menu->addAction("Cut and Edit…"_key.localized(), this, [this, current] { edit(current); });
-    menu->addAction("Join into One"_key.localized(), this, [this, ids] { m_conversions->join(ids); })
-        ->setEnabled(ids.size() > 1);
+    menu->addAction("Join into One"_key.localized(), this, [this, ids] { join(ids); })->setEnabled(ids.size() > 1);
 }
 
 void MarlinController::editCurrent()
@@ -222,13 +221,28 @@ void MarlinController::editCurrent()
     edit(ids.isEmpty() ? m_list->idAt(0) : ids.first());
 }
 
+void MarlinController::join(const QList<JobId> &ids)
+{
+    QString obstacle;
+    m_conversions->join(ids, &obstacle);
+    if (!obstacle.isEmpty())
+        m_page->showMessage(obstacle);
+}
+
 /// Once it is known what the file holds; a join has no one picture to edit.
 void MarlinController::edit(JobId id)
 {
+    m_toEdit = 0;
     const auto plan = m_conversions->plan(id);
-    const QList<MediaInformation> sources = m_conversions->information(id);
-    if (!plan || sources.size() != 1 || isActive(queue().record(id)->state))
+    if (!plan || isActive(queue().record(id)->state))
         return;
+    if (plan->sources.size() > 1)
+        return m_page->showMessage("Files can be cut or joined, but not both at once."_key.localized());
+    const QList<MediaInformation> sources = m_conversions->information(id);
+    if (sources.isEmpty()) {
+        m_toEdit = id;
+        return;
+    }
     auto *window = new EditWindow({.plan = *plan, .source = sources.first(), .tools = m_conversions->tools()},
                                   *m_settings, *m_thumbnails, *m_player, m_page->window());
     connect(window, &EditWindow::edited, this, [this, id](const TranscodePlan &edited) {

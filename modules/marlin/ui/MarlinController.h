@@ -64,6 +64,7 @@ private:
     void extendMenu(QMenu *menu, const QList<JobId> &ids);
     void editCurrent();
     void edit(JobId id);
+    void join(const QList<JobId> &ids);
     void playSource(JobId id);
     void play(const QString &path);
     void showState();
@@ -82,6 +83,7 @@ private:
     QPointer<JobPage> m_page;
     QPointer<PresetChooser> m_presets;
     QPointer<OptionsPanel> m_options;
+    JobId m_toEdit = 0;  ///< once its source is known
     bool m_isToShow = false;
     bool m_isToShowSelection = false;
 };

@@ -107,6 +107,10 @@ void MarlinController::connectPage()
     connect(list, &JobListView::playRequested, this, &MarlinController::play);
     connect(list, &JobListView::editRequested, this, &MarlinController::edit);
     connect(list, &JobListView::menuRequested, this, &MarlinController::extendMenu);
+    connect(m_conversions.get(), &Conversions::informed, this, [this](JobId id) {
+        if (id == m_toEdit)
+            edit(id);
+    });
     connect(list, &JobListView::selectedChanged, this, &MarlinController::showSelection);
     connect(m_conversions.get(), &Conversions::draftChanged, this, &MarlinController::showPreset);
     connect(&queue(), &JobQueue::changed, this, &MarlinController::showState);
