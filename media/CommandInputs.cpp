@@ -34,17 +34,27 @@ public:
     }
 
 private:
-    /// Covers are attached from files of their own where the container has no other way.
+    /// Covers are attached, or written as tags, from files of their own where the container has no other way.
     void addCoverRuns()
     {
-        if (m_tracks.covers.isEmpty() || !m_tracks.container->has(Container::AttachedCovers))
+        if (m_tracks.covers.isEmpty() || m_tracks.container->has(Container::Covers))
             return;
         const MediaTrack &cover = *m_tracks.covers.first();
-        m_result.coverPath = m_paths.workFolder + (cover.codec == "png"_L1 ? u"/cover.png"_s : u"/cover.jpg"_s);
+        const bool isPng = cover.codec == "png"_L1;
+        const QString path = m_paths.workFolder + (isPng ? u"/cover.png"_s : u"/cover.jpg"_s);
         QStringList arguments = commonHead() + QStringList{u"-i"_s, u"file:"_s + m_plan.sources.first()};
         arguments << u"-map"_s << u"0:%1"_s.arg(cover.index) << u"-c"_s << u"copy"_s << u"-frames:v"_s << u"1"_s
-                  << u"-f"_s << u"image2pipe"_s << u"file:"_s + m_result.coverPath;
-        m_result.runs.append({.arguments = arguments, .stage = {"Cover"_key}, .share = 0, .seconds = 0});
+                  << u"-f"_s << u"image2pipe"_s << u"file:"_s + path;
+        TranscodeRun run{.arguments = arguments, .stage = {"Cover"_key}, .share = 0, .seconds = 0};
+        if (m_tracks.container->has(Container::AttachedCovers))
+            m_result.coverPath = path;
+        else
+            run.coverTag = {.picturePath = path,
+                            .tagPath = m_paths.workFolder + u"/cover.txt"_s,
+                            .mimeType = isPng ? u"image/png"_s : u"image/jpeg"_s,
+                            .width = cover.width,
+                            .height = cover.height};
+        m_result.runs.append(run);
     }
 
     void addInputs()
@@ -74,6 +84,10 @@ private:
             m_result.graph.watermark = m_inputCount++;
         }
         m_result.firstPassArguments = m_result.arguments;
+        for (const TranscodeRun &run : std::as_const(m_result.runs)) {
+            if (run.coverTag)
+                m_result.coverInput = addTagInput(run.coverTag->tagPath);
+        }
         addChapterInput();
     }
 
@@ -98,9 +112,14 @@ private:
             if (chapters.isEmpty())
                 return;
             m_result.files.insert(path, chapterFile(chapters));
-            m_result.arguments << u"-f"_s << u"ffmetadata"_s << u"-i"_s << u"file:"_s + path;
-            m_result.chapterInput = m_inputCount++;
+            m_result.chapterInput = addTagInput(path);
         }
+    }
+
+    int addTagInput(const QString &path)
+    {
+        m_result.arguments << u"-f"_s << u"ffmetadata"_s << u"-i"_s << u"file:"_s + path;
+        return m_inputCount++;
     }
 
     const TranscodePlan &m_plan;

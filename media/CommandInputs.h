@@ -13,6 +13,7 @@ struct CommandInputs {
     GraphInputs graph;
     SubtitleInputs subtitles;
     QString coverPath;       ///< of the cover to be attached; null for none
+    int coverInput = -1;     ///< that has the cover as a tag; -1 for none
     int chapterInput = 0;    ///< -1 for none
     qsizetype chapters = 0;  ///< in the result
     QList<TranscodeRun> runs;

@@ -15,6 +15,7 @@ struct Container {
         Chapters = 4,
         Covers = 8,           ///< as a picture among the tracks
         AttachedCovers = 16,  ///< as a file that is attached
+        TagCovers = 2048,     ///< as a tag of the first track
         Attachments = 32,
         ManySounds = 64,
         TrackNames = 128,    ///< languages and titles of tracks

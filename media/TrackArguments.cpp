@@ -144,7 +144,7 @@ QStringList companionArguments(const TrackPlan &tracks, const QString &coverPath
         arguments << u"-attach"_s << u"file:"_s + coverPath << option
                   << (isPng ? u"mimetype=image/png"_s : u"mimetype=image/jpeg"_s) << option
                   << (isPng ? u"filename=cover.png"_s : u"filename=cover.jpg"_s);
-    } else if (!tracks.covers.isEmpty()) {
+    } else if (!tracks.covers.isEmpty() && tracks.container->has(Container::Covers)) {
         const QString specifier = tracks.video ? u"v:1"_s : u"v:0"_s;
         arguments << u"-map"_s << u"0:%1"_s.arg(tracks.covers.first()->index) << u"-c:"_s + specifier << u"copy"_s
                   << u"-disposition:"_s + specifier << u"attached_pic"_s;

@@ -171,6 +171,8 @@ private:
         arguments += subtitleArguments(m_plan, m_tracks, m_inputs.subtitles.maps, cueTimes(m_plan, m_pieces));
         arguments += companionArguments(m_tracks, m_inputs.coverPath);
         arguments += tagArguments(m_plan, m_tracks, m_sources.first(), m_inputs.chapterInput);
+        if (m_inputs.coverInput >= 0)
+            arguments << u"-map_metadata:s:a:0"_s << u"%1:s:0"_s.arg(m_inputs.coverInput);
         arguments += threadArguments(m_plan);
         // Else players that mind the list of edits would not show what stands before the start.
         if (m_steps.expected.mayBeLonger)

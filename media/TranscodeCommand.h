@@ -39,12 +39,20 @@ struct OutputExpectation {
     bool decodesAll = false;
 };
 
+/// A picture that a run leaves behind, and the file that it is to be written into as a tag.
+struct CoverTag {
+    QString picturePath, tagPath;
+    QString mimeType;
+    int width = 0, height = 0;  ///< pixels
+};
+
 /// One run of ffmpeg.
 struct TranscodeRun {
     QStringList arguments;
     tarnwell::Sentence stage;  ///< "First pass"; none for the only one
     double share = 1;          ///< of the whole work; the shares of all runs come to 1
     double seconds = 0;        ///< of output that are the whole of this run's progress; 0 where not known
+    std::optional<CoverTag> coverTag = {};
 };
 
 struct TranscodeSteps {

@@ -1,5 +1,6 @@
 #include "TranscodeJob.h"
 
+#include "CoverTag.h"
 #include "MediaProber.h"
 #include "OutputName.h"
 #include "SubtitleFile.h"
@@ -153,6 +154,8 @@ void TranscodeJob::stepEnded(const ToolEnding &ending)
         judge(ending, std::nullopt);
     else if (isLast)
         checkOutput(ending);
+    else if (const auto &tag = m_steps.runs[m_step].coverTag; tag && !writeCoverTag(*tag))
+        fail("The folder for temporary files cannot be written."_key);
     else {
         ++m_step;
         runStep();

@@ -187,7 +187,8 @@ TEST_F(TranscodeJobTest, RealOnes)
 {
     const QByteArray oddName = path(u"caf"_s).toUtf8() + "\xe9.mkv";
     ASSERT_EQ(link(film(u"mkv"_s).toUtf8().constData(), oddName.constData()), 0);
-    const QString damaged = path(u"damaged.mkv"_s);
+    const QString song = path(u"song.mp3"_s), damaged = path(u"damaged.mkv"_s);
+    ASSERT_TRUE(test::makeSample(song, {u"-c:v"_s, u"mjpeg"_s, u"-frames:v"_s, u"1"_s}));
     QByteArray bytes = test::readBytes(film(u"mkv"_s));
     test::writeBytes(damaged, bytes.replace(bytes.size() / 2, 3000, QByteArray(3000, 'x')));
     const auto with = [](TranscodePlan plan, const std::function<void(TranscodePlan &)> &change) {
@@ -216,6 +217,7 @@ TEST_F(TranscodeJobTest, RealOnes)
         {"a name that is not UTF-8", planFor({foundation::decodedFileName(oddName)}, u"mp4-h264"_s), JobState::Done,
          u"caf\uFFFD.mp4"_s},
         {"joined", planFor({film(u"mp4"_s), film(u"mkv"_s)}, u"mkv-h264"_s), JobState::Done, u"film (1).mkv"_s},
+        {"a cover among the tags", planFor({song}, u"opus"_s), JobState::Done, u"song.opus"_s},
         {"a damaged source", planFor({damaged}, u"mp4-h264"_s), JobState::DoneWithProblems, u"damaged.mp4"_s},
     };
     const QDateTime date(QDate(2001, 2, 3), QTime(4, 5, 6));

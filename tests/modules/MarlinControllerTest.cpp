@@ -220,6 +220,15 @@ TEST_F(MarlinControllerTest, OptionsChangeThePlansAndTheSwitches)
     emit folder->activated(1);
     EXPECT_EQ(recordAt(0).folder, QFileInfo(planAt(0).sources.first()).absolutePath());
     EXPECT_EQ(recordAt(1).folder, settings.folder());
+    queue().change(idAt(0), [](JobRecord &record) { setOwnFolder(record, u"/own"_s); });
+    emit folder->activated(0);
+    EXPECT_EQ(recordAt(0).folder, settings.folder()) << "of the settings again";
+    auto *rate = find<QComboBox>(u"frameRate"_s);
+    for (int row = 0; row < rate->count(); ++row) {
+        emit rate->activated(row);
+        wait();
+        EXPECT_EQ(rate->currentIndex(), row) << rate->itemText(row).toStdString();
+    }
     find<QCheckBox>(u"mergeMedia"_s)->click();
     EXPECT_TRUE(settings.dispatcher().mergeMedia());
 }

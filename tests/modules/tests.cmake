@@ -1,6 +1,7 @@
 kestrel_test(modules
     SOURCES
         ConversionTest.cpp
+        EditWindowTest.cpp
         JobPageTest.cpp
         MarlinControllerTest.cpp
         ModuleSettings.cpp ModuleSettings.h

@@ -1,0 +1,12 @@
+#pragma once
+
+#include "TranscodeCommand.h"
+
+namespace kestrel {
+
+/// Writes the picture as Ogg files have it among their tags, for ffmpeg to read as the tags of its first track: in the
+/// name METADATA_BLOCK_PICTURE a picture block of FLAC (RFC 9639, section 8.8), in Base64. False where either file
+/// cannot be read or written.
+bool writeCoverTag(const CoverTag &tag);
+
+}  // namespace kestrel
