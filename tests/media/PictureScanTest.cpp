@@ -35,6 +35,20 @@ TEST(PictureScanTest, InterlacedOnlyWhereNearlyAllPicturesAgree)
     }
 }
 
+TEST(PictureScanTest, LooksWherePicturesOfTelevisionDoNotTell)
+{
+    MediaTrack track;
+    track.kind = MediaTrack::Kind::Video;
+    track.codec = u"h264"_s;
+    track.frameRate = 25;
+    const std::pair<int, bool> rows[] = {{480, true},  {576, true},  {1080, true},
+                                         {1088, true}, {720, false}, {2160, false}};
+    for (const auto &[height, isWorthwhile] : rows) {
+        track.height = height;
+        EXPECT_EQ(PictureScan::isWorthwhile(track), isWorthwhile) << height;
+    }
+}
+
 TEST(PictureScanTest, BlackBarsOfTheLastPicture)
 {
     PictureScan scan;

@@ -23,6 +23,12 @@ TEST(Preset, EachHasANameOfItsOwnAndWhatItTakesToMakeIt)
         EXPECT_TRUE(preset.takesVideo() || preset.takesAudio());
         EXPECT_TRUE(!preset.takesVideo() || preset.videoCodec == "copy"_L1 || videoEncoderOf(preset.videoCodec));
         EXPECT_TRUE(!preset.takesAudio() || preset.audioCodec == "copy"_L1 || soundEncoderOf(preset.audioCodec));
+        // A name tells the truth about its codecs.
+        const QStringList told = preset.name.section(u'(', 1).remove(u')').split(u", "_s);
+        for (const char *name : {"h264", "hevc", "av1", "vp9", "aac", "alac", "opus", "vorbis", "ac3", "flac"}) {
+            const QString codec = QString::fromLatin1(name);
+            EXPECT_TRUE(!told.contains(codecLabel(codec)) || codec == preset.videoCodec || codec == preset.audioCodec);
+        }
         // What is stored is read again: the same rules hold for our own.
         const auto read = Preset::fromJson(preset.toJson());
         ASSERT_TRUE(read) << read.reason().english().toStdString();
@@ -31,7 +37,8 @@ TEST(Preset, EachHasANameOfItsOwnAndWhatItTakesToMakeIt)
     EXPECT_EQ(builtInPresets().first().id, u"mp4-h264"_s);
     EXPECT_GE(builtInPresets().size(), 40);
     EXPECT_GE(allPresets().size(), 180);
-    for (const QString &id : {u"mp4-h264"_s, u"mkv-h264"_s, u"webm-vp9"_s, u"mp3"_s, u"flac"_s, u"mkv-copy"_s, u"m2ts-h264"_s})
+    for (const QString &id :
+         {u"mp4-h264"_s, u"mkv-h264"_s, u"webm-vp9"_s, u"mp3"_s, u"flac"_s, u"mkv-copy"_s, u"m2ts-h264"_s})
         EXPECT_TRUE(presetOfId(id)) << id.toStdString();
     EXPECT_FALSE(presetOfId(u"mp5"_s));
 }

@@ -19,7 +19,7 @@ TEST(SubtitleFile, ItsNameTellsTheLanguage)
     } cases[] = {
         {u"/a/film.fr.srt"_s, "fr"},       {u"/a/film.pt-BR.vtt"_s, "pt-BR"}, {u"/a/film.ger.forced.srt"_s, "de", true},
         {u"/a/The.It.sdh.de.srt"_s, "de"}, {u"/a/It.2010.srt"_s, ""},         {u"/a/de.srt"_s, ""},
-        {u"/a/film.ts.srt"_s, ""}};
+        {u"/a/film.ts.srt"_s, ""},         {u"/a/film.de.sdh.srt"_s, "de"}};
     for (const auto &each : cases) {
         const TranscodePlan::ExternalSubtitle file = subtitleFile(each.path);
         EXPECT_EQ(file.language.toStdString(), each.language) << each.path.toStdString();

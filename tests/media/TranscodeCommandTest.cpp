@@ -128,6 +128,15 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
              plan.quality = 99;
          }),
          "-crf 63 -b:v 0"},
+        {"asked quality, not that of the best", u"mp4-h264"_s, video(), encoding([](Plan &plan) {
+             plan.rateControl = Plan::RateControl::Quality;
+             plan.quality = 30;
+             plan.best = true;
+         }),
+         "-crf 30 "},
+        {"mirrored", u"mp4-h264"_s, video(), [](Plan &plan) { plan.mirrored = true; }, "hflip"},
+        {"a mark of plain text", u"mp4-h264"_s, video(),
+         [](Plan &plan) { plan.watermark = Plan::Watermark{.text = u"100 %"_s, .imagePath = {}}; }, "expansion=none"},
         {"constant where it must be", u"avi-mpeg4"_s,
          changed(video(),
                  [](auto &t) {
@@ -193,12 +202,19 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
         {"louder without clipping", u"mp4-h264"_s, video(), [](Plan &plan) { plan.volume = 6; },
          "volume=6dB,alimiter=limit=0.97"},
         {"H.265 under the name that players ask for", u"mp4-h265"_s, video(), {}, "-tag:v:0 hvc1"},
+        {"also in its own player", u"mov-hevc"_s, video(), {}, "-tag:v:0 hvc1"},
         {"threads", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.threads = 3; }), "-threads 3 "},
         {"burnt text, the second of the subtitles", u"mp4-h264"_s, video(),
          [](Plan &plan) {
              plan.subtitles = {{3, Plan::SubtitleUse::Burn}};
          },
          "subtitles=filename=/films/a.mp4:si=1"},
+        {"burnt text of a piece", u"mp4-h264"_s, video(),
+         [](Plan &plan) {
+             plan.subtitles = {{3, Plan::SubtitleUse::Burn}};
+             plan.pieces = {{.start = 10, .end = 20}};
+         },
+         "setpts=PTS+10/TB,subtitles="},
         {"a second look takes its time", u"webm-vp9"_s, video(),
          [](Plan &plan) {
              plan.rateControl = Plan::RateControl::Size;
@@ -255,6 +271,16 @@ TEST(TranscodeCommand, TracksGoWhereTheTargetCanHoldThem)
     EXPECT_NE(lineOf(*mp3).find("-map 0:2 "), std::string::npos) << "the default one is kept: " << lineOf(*mp3);
     EXPECT_EQ(lineOf(*mp3).find("-map 0:1 "), std::string::npos);
     EXPECT_TRUE(mp3->leftOut.value(0).english().contains(u"German"_s));
+
+    const MediaInformation surround = film({video(), changed(sound(1), [](auto &t) {
+                                                t.channels = 6;
+                                                t.channelLayout = u"5.1"_s;
+                                            })});
+    const auto stereo = [](Plan &plan) { plan.mix = Plan::SoundMix::Stereo; };
+    EXPECT_NE(lineFor(planFor(u"mp4-h264"_s), surround).find("-c:a:0 copy"), std::string::npos);
+    EXPECT_EQ(lineFor(planFor(u"mp4-h264"_s, stereo), surround).find("-c:a:0 copy"), std::string::npos);
+    const auto fine = film({changed(sound(0, {}, u"flac"_s), [](auto &t) { t.bitDepth = 24; })});
+    EXPECT_NE(lineFor(planFor(u"wav"_s), fine).find("pcm_s24le"), std::string::npos);
 
     MediaInformation ogg = film({sound(0, u"eng"_s, u"vorbis"_s)});
     ogg.format = u"ogg"_s;
@@ -342,6 +368,14 @@ TEST(TranscodeCommand, TellsTheResultsLengthAndHowFarToTrustIt)
                   },
                   film()),
               7.5);
+    MediaInformation chapters = film();
+    chapters.chapters = {{.start = 0, .end = 30, .title = u"one"_s}, {.start = 30, .end = 60, .title = u"two"_s}};
+    const auto hastened = stepsFor(planFor(u"mkv-h264"_s, [](Plan &p) { p.speedFactor = 2; }), chapters);
+    EXPECT_TRUE(hastened->files.value(u"/work/chapters.txt"_s).contains("START=15000"));
+    Plan joined = planFor(u"mkv-copy"_s);
+    joined.sources += u"/films/b.mp4"_s;
+    EXPECT_NE(lineOf(*transcodeSteps(joined, {film(), film()}, {}, paths)).find("-map_metadata 1 "), std::string::npos)
+        << "of the first file";
     const auto cut =
         stepsFor(planFor(u"mkv-copy"_s, [](Plan &p) { p.pieces = {{.start = 10, .end = 16}}, p.exactCuts = false; }));
     EXPECT_NEAR(double(cut->expectedBytes), 1'000'000, 100'000) << "a tenth of the film";
