@@ -272,6 +272,27 @@ TEST_F(MarlinControllerTest, WhatIsChosenForAllIsThereAgain)
     EXPECT_EQ(find<QLineEdit>(u"namePattern"_s)->text(), u"");
 }
 
+TEST_F(MarlinControllerTest, OneTrackOfSubtitlesIsBurntIn)
+{
+    const QString film = settings.path(u"film.mkv"_s), text = settings.path(u"a.srt"_s);
+    test::writeFile(text, "1\n00:00:00,100 --> 00:00:01,000\na\n\n");
+    settings.makeClip(film, QLatin1StringView(test::shortVideo) + " -i %1 -i %1 -map 0 -map 1 -map 2 "_L1.arg(text) +
+                                "-metadata:s:s:0 language=ger -metadata:s:s:1 language=jpn"_L1);
+    open({film});
+    ASSERT_TRUE(isIn(0, JobState::Ready));
+    find<JobListView>(u"jobList"_s)->select(idAt(0));
+    wait();
+    for (const auto language : {"German"_L1, "Japanese"_L1}) {
+        for (QComboBox *box : controller->view()->findChildren<QComboBox *>()) {
+            if (box->accessibleName().contains(language))
+                emit box->activated(int(TranscodePlan::SubtitleUse::Burn));
+        }
+        wait();
+    }
+    using enum TranscodePlan::SubtitleUse;
+    EXPECT_EQ(planAt(0).subtitles, (QHash<int, TranscodePlan::SubtitleUse>{{2, Burn}})) << "the other is a track again";
+}
+
 TEST_F(MarlinControllerTest, FilesAreJoinedWhereTheSettingsWantIt)
 {
     open({clip(u"a.mkv"_s), clip(u"b.mkv"_s)});
