@@ -92,6 +92,7 @@ class CliTest(unittest.TestCase):
                 (['--audio', 'none'], lambda found: self.assertEqual(len(found['streams']), 1)),
                 (['--subtitle-file', words, '--subtitle-file', words + ':fre'], lambda found: self.assertEqual(languages(found), ['und', 'fra'])),
                 (['--subtitles', 'none', with_words], lambda found: self.assertEqual(languages(found), [])),
+                (['--subtitle-languages', 'fr', with_words], lambda found: self.assertEqual(languages(found), [])),
                 (['--turn', 'right'], lambda found: self.assert_turned_right(found['format']['filename'])),
                 (['--size', '200k', '--no-copy'], lambda found: self.assertLessEqual(int(found['format']['size']), 200_000))]
         for options, check in rows:
