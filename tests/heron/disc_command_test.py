@@ -237,6 +237,7 @@ class Titles(DiscCommand):
             self.assertAlmostEqual(length(found), 6, delta=0.1)
             self.assertEqual([chapter["tags"]["title"] for chapter in found["chapters"]], ["Chapter 1", "Chapter 2"])
             self.assertEqual(packets(path, "v"), [144])
+        self.assertEqual(found["streams"][0]["r_frame_rate"], "24000/1001")
 
     def test_sound_presets(self):
         path = self.keep_one("rip", "--preset", "mp3", "--titles", "1", disc("plain.iso"))
