@@ -86,13 +86,27 @@ ToolProcess &DiscJob::runDiscTool(const ToolCommand &command, double share, Cont
 
 void DiscJob::lookAtFilm(std::function<void(const QList<FilmStream> &streams)> then)
 {
-    runDiscTool(filmStreamsCommand(m_request.tools.transcode.prober, titleReader({})), 0.02,
-                [this, then = std::move(then)](const ToolEnding &ending) {
+    lookAtFilm(usualLook, std::move(then));
+}
+
+/// Farther where sound is missing and the film goes on; who makes the file holds in memory what it looks at, so that
+/// this is as little as shows the most.
+void DiscJob::lookAtFilm(qint64 look, std::function<void(const QList<FilmStream> &streams)> then)
+{
+    runDiscTool(filmStreamsCommand(m_request.tools.transcode.prober, titleReader({}), look), 0.01,
+                [this, look, then = std::move(then)](const ToolEnding &ending) {
                     const QList<FilmStream> streams = readFilmStreams(ending.output);
+                    if (streams.size() > m_streams.size()) {
+                        m_streams = streams;
+                        m_look = look;
+                    }
                     // It ends as soon as it knows enough, and the reader with it.
-                    if (streams.isEmpty())
+                    if (m_streams.isEmpty())
                         return fail(discFailure(lines(), ending), ending.lastWords);
-                    then(streams);
+                    const bool goesOn = look < std::min(m_request.plan.bytes, farthestLook);
+                    if (goesOn && !planFilm(m_request.plan, title(), m_streams, true).missing.isEmpty())
+                        return lookAtFilm(4 * look, then);
+                    then(m_streams);
                 });
 }
 

@@ -14,9 +14,6 @@ using tarnwell::operator""_key;
 
 namespace {
 
-// A track may begin minutes into the film.
-const QStringList farLook{u"-probesize"_s, u"50M"_s, u"-analyzeduration"_s, u"100M"_s};
-
 struct Language {
     const char *disc;
     const char *file;
@@ -65,10 +62,18 @@ QStringList tail(const QString &path)
 
 }  // namespace
 
-ToolCommand filmStreamsCommand(const QString &proberPath, std::shared_ptr<ToolCommand> reader)
+QStringList lookOptions(qint64 bytes)
+{
+    constexpr int microsecondsOfByte = 2;
+    return {u"-probesize"_s, QString::number(bytes), u"-analyzeduration"_s,
+            QString::number(bytes * microsecondsOfByte)};
+}
+
+ToolCommand filmStreamsCommand(const QString &proberPath, std::shared_ptr<ToolCommand> reader, qint64 look)
 {
     ToolCommand command{.program = proberPath};
-    command.arguments = QStringList{u"-v"_s, u"error"_s} + farLook +
+    // What was looked at is not kept.
+    command.arguments = QStringList{u"-v"_s, u"error"_s, u"-fflags"_s, u"nobuffer"_s} + lookOptions(look) +
                         QStringList{u"-f"_s, u"mpeg"_s, u"-show_streams"_s, u"-of"_s, u"json"_s, u"-i"_s, u"pipe:0"_s};
     command.outputLimit = maximumReportBytes;
     command.collectsOutput = true;
@@ -134,6 +139,7 @@ FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QLis
         });
         if (found == streams.end()) {
             leaveOut(trackName(place + 1, track.language));
+            film.missing.append(place);
             continue;
         }
         film.sound.append(*found);
@@ -174,9 +180,10 @@ FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
     return subtitles;
 }
 
-QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths)
+QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths,
+                          qint64 look)
 {
-    QStringList arguments = head() + QStringList{u"-fflags"_s, u"+genpts"_s} + farLook +
+    QStringList arguments = head() + QStringList{u"-fflags"_s, u"+genpts"_s} + lookOptions(look) +
                             QStringList{u"-f"_s, u"mpeg"_s, u"-i"_s, u"pipe:0"_s};
     const auto map = [&](const FilmStream &stream) { arguments << u"-map"_s << u"0:i:0x%1"_s.arg(stream.id, 0, 16); };
     for (const FilmStream &stream : film.video)

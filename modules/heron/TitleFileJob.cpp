@@ -74,7 +74,7 @@ void TitleFileJob::makeFile(const QList<FilmStream> &streams)
     const QStringList options =
         m_paths.subtitles.isNull() ? QStringList() : QStringList{u"--subtitles"_s, m_paths.subtitles};
     const ToolCommand command{.program = request().tools.transcode.transcoder,
-                              .arguments = filmArguments(m_film, title(), m_paths),
+                              .arguments = filmArguments(m_film, title(), m_paths, look()),
                               .silenceLimit = request().tools.transcode.silenceLimit,
                               .feeder = titleReader(options)};
     tellStage({});
@@ -88,6 +88,11 @@ void TitleFileJob::addCompanions()
 {
     tellLosses();
     const QJsonObject result = lines().result;
+    for (const int place : std::as_const(m_film.missing)) {
+        if (result["streams"_L1].toArray().contains(title().audio[place].streamId))
+            addProblem({"Sound track %1 begins so late in the film that it was not seen in time."_key,
+                        {QString::number(place + 1)}});
+    }
     const auto chapters = chaptersIn(result, request().plan.firstChapter);
     if (takesVideo())
         m_subtitles = foundSubtitles(request().plan, title(), countSubtitles(readIndex(m_paths.subtitles + u".idx"_s)));

@@ -66,7 +66,7 @@ void TitleJob::checkFile(const QString &path, const OutputExpectation &expected,
     // A program stream's tracks may begin late in it.
     ToolCommand command =
         outputReportCommand(request().tools.transcode.prober, u"file:"_s + path, QFileInfo(path).size());
-    command.arguments = QStringList{u"-probesize"_s, u"50M"_s, u"-analyzeduration"_s, u"100M"_s} + command.arguments;
+    command.arguments = lookOptions(look()) + command.arguments;
     run(command, [this, path, expected, told](const ToolEnding &ending) { compare(path, expected, told, ending); });
 }
 
