@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <sys/stat.h>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -45,6 +46,15 @@ QString brokenOffImage(const JobRecord &record)
     disc::DiscContents contents;
     contents.volume = plan->volume;
     return copyIn(record.folder, discOutputName(*plan, contents));
+}
+
+qint64 brokenOffBytes(const JobRecord &record)
+{
+    constexpr qint64 bytesOfBlock = 512;
+    struct stat status = {};
+    const QString path = brokenOffImage(record);
+    const bool isThere = !path.isNull() && ::stat(QFile::encodeName(path).constData(), &status) == 0;
+    return isThere ? status.st_blocks * bytesOfBlock : 0;
 }
 
 void removeBrokenOffImage(const QString &path)

@@ -180,8 +180,7 @@ FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
     return subtitles;
 }
 
-QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths,
-                          qint64 look)
+QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths, qint64 look)
 {
     QStringList arguments = head() + QStringList{u"-fflags"_s, u"+genpts"_s} + lookOptions(look) +
                             QStringList{u"-f"_s, u"mpeg"_s, u"-i"_s, u"pipe:0"_s};
