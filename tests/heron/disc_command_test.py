@@ -110,7 +110,7 @@ class WholeDisc(DiscCommand):
         self.assertEqual(self.left(), ["HOLIDAY_2026.iso"])
 
     def test_a_broken_off_image_goes_on(self):
-        copy = os.path.join(self.out, ".HOLIDAY_2026.kestrel-copy.iso")
+        copy = os.path.join(self.out, f".HOLIDAY_2026.{os.path.getsize(disc('plain.iso'))}.kestrel-copy.iso")
         environment = {**os.environ, "LD_PRELOAD": os.environ["KESTREL_FAILING_READS"], "FAILING_FILE": disc("plain.iso"), "KILLED_AT": "2100"}
         subprocess.run([os.path.join(TOOLS, "disc2iso"), disc("plain.iso"), copy], stdout=subprocess.DEVNULL, env=environment)
         with open(copy + ".map") as file:
