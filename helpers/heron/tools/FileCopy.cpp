@@ -135,6 +135,8 @@ std::optional<DiscError> FileCopy::copyPiece(int source, int target, qint64 from
     while (done < bytes) {
         const qint64 wanted = isSlow ? std::min<qint64>(sectorBytes, bytes - done) : bytes - done;
         ssize_t came = pread64(source, m_buffer.data(), size_t(wanted), from + done);
+        if (came < 0 && isSourceGone(errno, m_sourcePath))
+            return DiscError::Missing;
         if (came <= 0 && !isSlow) {
             isSlow = true;
             continue;

@@ -1,12 +1,11 @@
 #include "SectorCopy.h"
 
-#include "helpers/heron/Pack.h"
+#include "DiscSource.h"
 
 #include <QCryptographicHash>
 #include <QFile>
 
 #include <fcntl.h>
-#include <linux/cdrom.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -29,13 +28,6 @@ constexpr int attempts = 3;
 constexpr int millisecondsOfReport = 250, millisecondsOfSave = 2000;
 
 volatile std::sig_atomic_t s_isStopped = 0;
-
-// False for what is no drive.
-bool isEmptyDrive(int descriptor)
-{
-    const int status = ioctl(descriptor, CDROM_DRIVE_STATUS, CDSL_CURRENT);
-    return status == CDS_NO_DISC || status == CDS_TRAY_OPEN;
-}
 
 }  // namespace
 
@@ -236,7 +228,7 @@ qint64 SectorCopy::read(SectorRange range)
         fcntl(m_source, F_SETFL, fcntl(m_source, F_GETFL) & ~O_DIRECT);
         bytes = readOnce();
     }
-    m_isGone = bytes < 0 && (sourceErrorOf(errno) == DiscError::Missing || (errno == EIO && isEmptyDrive(m_source)));
+    m_isGone = bytes < 0 && isSourceGone(errno, m_sourcePath);
     if (bytes <= 0)
         return 0;
     const bool isEnd = range.first * sectorBytes + bytes >= m_map.bytes;

@@ -30,6 +30,8 @@ bool TitleReading::readRun(qint64 first, qint64 last, const Visit &visit)
         const int size = failures ? sectorsOfBlock : sectorsAtOnce;
         const int wanted = static_cast<int>(std::min<qint64>(size, last - at + 1));
         const int came = m_film.read(static_cast<quint32>(at), wanted, m_buffer.data());
+        if (m_film.isGone())
+            return false;
         if (came == 0 && ++failures <= attempts)
             continue;
         if (came == 0) {
@@ -60,6 +62,8 @@ bool TitleReading::readInterleaved(const TitleCell &cell, const Visit &visit)
     std::pair own(cell.vob, cell.number);
     for (qint64 at = cell.firstSector; at <= cell.lastSector;) {
         const int came = m_film.read(static_cast<quint32>(at), 1, m_buffer.data());
+        if (m_film.isGone())
+            return false;
         const auto unit = came ? navigationOf(Sector(m_buffer.data(), sectorBytes)) : std::nullopt;
         if (!unit) {
             m_lost += 1;
