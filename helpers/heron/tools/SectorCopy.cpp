@@ -106,6 +106,8 @@ std::optional<DiscError> SectorCopy::openTarget()
     m_map = *begun;
     // What the map says is there must be there; what is not read again.
     m_map.position = std::min<qint64>(m_map.position, status.st_size / sectorBytes);
+    cutAt(m_map.untried, m_map.position);
+    cutAt(m_map.bad, m_map.position);
     return std::nullopt;
 }
 
