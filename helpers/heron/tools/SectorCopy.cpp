@@ -22,8 +22,7 @@ namespace {
 
 constexpr qint64 sectorsAtOnce = 128;  // 256 KiB; with more the processor's cache no longer holds what is on its way
 constexpr qint64 sectorsOfRun = 2048;
-constexpr qint64 sectorsOfBlock = 16;  // a drive corrects errors in blocks of these
-constexpr int blocksInARow = 4;        // after so many failures the rest of the run is left for later
+constexpr int blocksInARow = 4;  // after so many failures the rest of the run is left for later
 constexpr int attempts = 3;
 constexpr int millisecondsOfReport = 250, millisecondsOfSave = 2000;
 
@@ -162,7 +161,7 @@ std::optional<DiscError> SectorCopy::copyAround(SectorRange range)
     int failures = 0;
     const qint64 end = range.first + range.count;
     for (qint64 at = range.first; at < end;) {
-        const SectorRange block{at, std::min(sectorsOfBlock, end - at)};
+        const SectorRange block{at, std::min<qint64>(sectorsOfBlock, end - at)};
         const qint64 came = failures < blocksInARow ? read(block) : 0;
         if (came > 0 && !write(at, came))
             return targetErrorOf(errno);
@@ -184,7 +183,7 @@ std::optional<DiscError> SectorCopy::tryAgain()
     while (!m_map.untried.isEmpty()) {
         const QList<SectorRange> bad = m_map.bad;
         const SectorRange range = m_map.untried.first();
-        const SectorRange block{range.first, std::min(sectorsOfBlock, range.count)};
+        const SectorRange block{range.first, std::min<qint64>(sectorsOfBlock, range.count)};
         const qint64 came = read(block);
         if (came == block.count && !write(block.first, came))
             return targetErrorOf(errno);
