@@ -50,6 +50,7 @@ void DiscJob::lookedAt(const ToolEnding &ending)
         return fail(discFailure(m_lines, ending), ending.lastWords);
     }
     const QString before = m_request.plan.volume;
+    const qint64 bytesBefore = m_request.plan.bytes;
     m_contents = *std::move(contents);
     if (m_contents.isProtected)
         return fail(discFailure(u"protected"_s));
@@ -57,6 +58,9 @@ void DiscJob::lookedAt(const ToolEnding &ending)
         return fail({"This is another disc: %1 instead of %2."_key, {m_contents.volume, before}});
     if (!describeDisc(m_contents, m_request.plan))
         return fail(discFailure(u"noTitle"_s));
+    // The tables tell the same of a disc each time.
+    if (bytesBefore > 0 && bytesBefore != m_request.plan.bytes)
+        return fail({"This is another disc, which is also called %1."_key, {m_contents.volume}});
     if (!takesWholeDisc(m_request.plan.way) && m_request.plan.firstChapter > title().chapters.size() &&
         m_request.plan.firstChapter > 1)
         return fail(discFailure(u"noTitle"_s));
