@@ -454,6 +454,8 @@ void HeronController::begin()
         return;
     QString obstacle;
     if (canStart(wanted, &obstacle)) {
+        if (m_source.startsWith("/dev/"_L1))
+            m_pictures.stop();  // a drive reads at one place
         QList<JobId> ids;
         for (const DiscPlan &plan : wanted) {
             const QString folder = discFolder(*m_settings, plan);
