@@ -64,6 +64,8 @@ void DiscJob::lookedAt(const ToolEnding &ending)
     if (!takesWholeDisc(m_request.plan.way) && m_request.plan.firstChapter > title().chapters.size() &&
         m_request.plan.firstChapter > 1)
         return fail(discFailure(u"noTitle"_s));
+    if (!takesWholeDisc(m_request.plan.way) && title().angles > 1)
+        addLeftOut({"The other angles of the film: %1"_key, {QString::number(title().angles - 1)}});
     if (m_contents.isTruncated)
         addProblem("The disc image ends before its film does."_key);
     carryOut();

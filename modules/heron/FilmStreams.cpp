@@ -43,6 +43,12 @@ QList<int> beyond(const std::optional<QList<int>> &tracks, qsizetype count)
     return found;
 }
 
+/// `number` from 1.
+Sentence lacksSubtitles(int number, const QString &language)
+{
+    return {"Subtitle track %1, which this film does not have"_key, {trackName(number, language)}};
+}
+
 QString codecFor(const FilmStream &stream)
 {
     // Matroska takes no sound in the disc's own arrangement of samples; these hold the same ones.
@@ -150,9 +156,16 @@ FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QLis
     return film;
 }
 
-Sentence lacksSubtitles(int number, const QString &language)
+QList<Sentence> lackingSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QJsonArray &streams)
 {
-    return {"Subtitle track %1, which this film does not have"_key, {trackName(number, language)}};
+    QList<Sentence> lacking;
+    for (const int place : chosenSubtitles(plan, title)) {
+        if (!streams.contains(title.subtitles[place].streamId))
+            lacking.append(lacksSubtitles(place + 1, title.subtitles[place].language));
+    }
+    for (const int track : beyond(plan.subtitleTracks, title.subtitles.size()))
+        lacking.append(lacksSubtitles(track, {}));
+    return lacking;
 }
 
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts)

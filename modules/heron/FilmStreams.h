@@ -5,6 +5,8 @@
 #include "jobs/ToolProcess.h"
 #include "media/TranscodeCommand.h"
 
+class QJsonArray;
+
 namespace kestrel {
 
 /// A track as it is in a title's film, which need not hold all that the disc's tables name.
@@ -61,8 +63,10 @@ struct FilmSubtitles {
     QList<tarnwell::Sentence> leftOut;
     bool lacksBurned = false;  ///< that which was to be drawn into the picture
 };
-/// Says that they are not there; `number` from 1.
-tarnwell::Sentence lacksSubtitles(int number, const QString &language);
+/// Says of wanted ones that they are not there: of those that the title has not got, and of those that are not among
+/// the streams that came.
+QList<tarnwell::Sentence> lackingSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
+                                           const QJsonArray &streams);
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts);
 
 /// The film comes on standard input.

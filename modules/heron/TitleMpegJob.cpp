@@ -2,6 +2,8 @@
 
 #include "jobs/OutputFile.h"
 
+#include <QJsonArray>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -23,6 +25,10 @@ void TitleMpegJob::makeFile(const QList<FilmStream> &streams)
         if (!isGoodStep(ending))
             return;
         tellLosses();
+        for (const tarnwell::Sentence &leftOut :
+             planFilm(request().plan, title(), streams, true).leftOut +
+                 lackingSubtitles(request().plan, title(), lines().result["streams"_L1].toArray()))
+            addLeftOut(leftOut);
         OutputExpectation expected;
         for (const FilmStream &stream : streams) {
             if (stream.kind != MediaTrack::Kind::Data)

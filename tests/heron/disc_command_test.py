@@ -82,6 +82,7 @@ class Usage(DiscCommand):
         image = disc("plain.iso")
         rows = [[], ["nonsense"], ["info"], ["info", "a", "b"], ["copy", image], ["copy", "--way", "rip", image], ["copy", "--way", "mkv"],
                 ["copy", "--way", "image", "--titles", "1", image], ["copy", "--way", "mkv", "--titles", "0", image],
+                ["copy", "--way", "folder", "--audio", "1", image],
                 ["copy", "--way", "mkv", "--chapters", "3-2", image], ["rip", "--preset", "none", image], ["rip", "--join", image],
                 ["copy", "--way", "mkv", "--to", "/nowhere", image]]
         for row in rows:
