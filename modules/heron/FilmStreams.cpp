@@ -1,9 +1,12 @@
 #include "FilmStreams.h"
 
+#include "foundation/LanguageTags.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,20 +17,11 @@ using tarnwell::operator""_key;
 
 namespace {
 
-struct Language {
-    const char *disc;
-    const char *file;
-};
-/// Those that films come in; ISO 639-2 as Matroska wants it.
-constexpr Language languages[] = {
-    {"ar", "ara"}, {"bg", "bul"}, {"ca", "cat"}, {"cs", "cze"}, {"da", "dan"}, {"de", "ger"}, {"el", "gre"},
-    {"en", "eng"}, {"es", "spa"}, {"et", "est"}, {"eu", "baq"}, {"fa", "per"}, {"fi", "fin"}, {"fr", "fre"},
-    {"ga", "gle"}, {"gl", "glg"}, {"he", "heb"}, {"iw", "heb"}, {"hi", "hin"}, {"hr", "hrv"}, {"hu", "hun"},
-    {"id", "ind"}, {"in", "ind"}, {"is", "ice"}, {"it", "ita"}, {"ja", "jpn"}, {"ka", "geo"}, {"ko", "kor"},
-    {"lt", "lit"}, {"lv", "lav"}, {"mk", "mac"}, {"ms", "may"}, {"nl", "dut"}, {"no", "nor"}, {"pl", "pol"},
-    {"pt", "por"}, {"ro", "rum"}, {"ru", "rus"}, {"sk", "slo"}, {"sl", "slv"}, {"sq", "alb"}, {"sr", "srp"},
-    {"sv", "swe"}, {"ta", "tam"}, {"te", "tel"}, {"th", "tha"}, {"tr", "tur"}, {"uk", "ukr"}, {"ur", "urd"},
-    {"vi", "vie"}, {"cy", "wel"}, {"zh", "chi"},
+/// Those for which Matroska wants another code than the usual one of three letters.
+constexpr std::pair<const char *, const char *> fileLanguages[] = {
+    {"bod", "tib"}, {"ces", "cze"}, {"cym", "wel"}, {"deu", "ger"}, {"ell", "gre"}, {"eus", "baq"}, {"fas", "per"},
+    {"fra", "fre"}, {"hye", "arm"}, {"isl", "ice"}, {"kat", "geo"}, {"mkd", "mac"}, {"mri", "mao"}, {"msa", "may"},
+    {"mya", "bur"}, {"nld", "dut"}, {"ron", "rum"}, {"slk", "slo"}, {"sqi", "alb"}, {"zho", "chi"},
 };
 
 QString trackName(int number, const QString &language)
@@ -111,9 +105,12 @@ QList<FilmStream> readFilmStreams(const QByteArray &json)
 
 QString fileLanguage(const QString &code)
 {
-    const auto found = std::find_if(std::begin(languages), std::end(languages),
-                                    [&](const Language &language) { return code == QLatin1StringView(language.disc); });
-    return found == std::end(languages) ? code : QString::fromLatin1(found->file);
+    const QString usual = foundation::isoLanguageCode(code);
+    for (const auto &[iso, file] : fileLanguages) {
+        if (usual == QLatin1StringView(iso))
+            return QString::fromLatin1(file);
+    }
+    return usual.isEmpty() ? code : usual;
 }
 
 QList<int> countSubtitles(const QByteArray &index)

@@ -126,6 +126,7 @@ TEST(FilmStreamsTest, TakesWhatTheFilmHas)
     const QStringList arguments = filmArguments(planned, film(), {.film = u"/film"_s}, usualLook);
     EXPECT_EQ(arguments[arguments.indexOf(u"-c:a:0"_s) + 1], u"pcm_s24le");
     EXPECT_EQ(arguments[arguments.indexOf(u"-c:a:1"_s) + 1], u"copy");
+    EXPECT_EQ(fileLanguage(u"nb"_s) + fileLanguage(u"de"_s), u"nobger");
 
     // Readers of an index do not see its empty tracks.
     const QList<int> counts =
