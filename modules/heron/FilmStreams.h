@@ -40,7 +40,7 @@ struct FilmPlan {
     QList<FilmStream> sound;            ///< in the file's order
     QList<disc::DiscAudio> soundFacts;  ///< of each of them
     QList<int> missing;                 ///< places in the disc's list of the sound that was wanted and is not there
-    QList<tarnwell::Sentence> leftOut;
+    QList<tarnwell::Sentence> leftOut;  ///< first of these, then of what the disc has not got either
 };
 
 /// `takesVideo` false leaves the picture out.

@@ -57,8 +57,6 @@ QString TitleFileJob::openTarget()
 void TitleFileJob::makeFile(const QList<FilmStream> &streams)
 {
     m_film = planFilm(request().plan, title(), streams, takesVideo());
-    for (const Sentence &leftOut : m_film.leftOut)
-        addLeftOut(leftOut);
     if (m_film.video.isEmpty() && m_film.sound.isEmpty())
         return fail("This title has no sound to keep."_key);
     m_workFolder = std::make_unique<OutputFile>(request().folder, outputName(), QString(), OutputFile::Kind::Folder);
@@ -87,12 +85,8 @@ void TitleFileJob::makeFile(const QList<FilmStream> &streams)
 void TitleFileJob::addCompanions()
 {
     tellLosses();
+    tellLeftOut(m_film);
     const QJsonObject result = lines().result;
-    for (const int place : std::as_const(m_film.missing)) {
-        if (result["streams"_L1].toArray().contains(title().audio[place].streamId))
-            addProblem({"Sound track %1 begins so late in the film that it was not seen in time."_key,
-                        {QString::number(place + 1)}});
-    }
     const auto chapters = chaptersIn(result, request().plan.firstChapter);
     if (takesVideo())
         m_subtitles = foundSubtitles(request().plan, title(), countSubtitles(readIndex(m_paths.subtitles + u".idx"_s)));

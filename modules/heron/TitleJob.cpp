@@ -3,6 +3,7 @@
 #include "DiscCheck.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
 
 #include <algorithm>
 
@@ -58,6 +59,23 @@ void TitleJob::tellLosses()
     setFact(u"faults"_s, m_lostSectors);
     if (m_lostSectors > 0)
         addProblem({"%1 sectors of the film could not be read."_key, {QString::number(m_lostSectors)}});
+}
+
+QList<int> TitleJob::tellLeftOut(const FilmPlan &film)
+{
+    const QJsonArray streams = lines().result["streams"_L1].toArray();
+    QList<int> late;
+    for (qsizetype index = 0; index < film.leftOut.size(); ++index) {
+        const int place = film.missing.value(index, -1);
+        if (place < 0 || !streams.contains(title().audio[place].streamId)) {
+            addLeftOut(film.leftOut[index]);
+            continue;
+        }
+        late.append(place);
+        addProblem({"Sound track %1 begins so late in the film that it is not found in time."_key,
+                    {QString::number(place + 1)}});
+    }
+    return late;
 }
 
 void TitleJob::checkFile(const QString &path, const OutputExpectation &expected, const ToldOutput &told)
