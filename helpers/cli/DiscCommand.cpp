@@ -100,8 +100,10 @@ ExitStatus runKeep(const Surroundings &surroundings, const QStringList &argument
         return wrongUsage(u"Name one drive, image or folder."_s);
     if (!rips && !choice.namesWay)
         return wrongUsage(u"Say how with --way: image, folder, main, mkv, mpeg or sound."_s);
-    if (takesWholeDisc(choice.disc.way) && (!choice.titles.isEmpty() || !choice.disc.takesAllChapters()))
-        return wrongUsage(u"The whole disc is copied that way: it takes no titles and no chapters."_s);
+    const bool choosesTracks = choice.audioNumbers || choice.subtitleNumbers || choice.disc.angle > 1;
+    if (takesWholeDisc(choice.disc.way) &&
+        (!choice.titles.isEmpty() || !choice.disc.takesAllChapters() || choosesTracks))
+        return wrongUsage(u"The whole disc is copied that way: it takes no titles, chapters, angles or tracks."_s);
     choice.disc.source = foundation::absoluteFileName(sources->first());
     choice.disc.transcode = choice.plan;
     choice.disc.soundTracks = choice.audioNumbers;

@@ -5,10 +5,13 @@
 #include "JobReporter.h"
 #include "JobRunner.h"
 #include "jobs/JobText.h"
+#include "modules/heron/DiscImageJob.h"
+#include "modules/heron/DiscRecipe.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 
 #include <algorithm>
 
@@ -124,15 +127,25 @@ ExitStatus clear(const Choice &choice)
     if (!store)
         return failed(u"The list of jobs cannot be written, %1"_s.arg(jobStorePath()));
     QList<JobId> ids;
+    QSet<QString> removed, kept;  // broken-off copies of discs, which go with the last of their jobs
     for (const ListedJob &job : choice.jobs) {
         const JobState state = job.record.state;
         const bool isFinished = state == JobState::Done || state == JobState::DoneWithProblems ||
                                 state == JobState::Cancelled || state == JobState::Unusable;
-        if (choice.isMeant(job, isFinished))
+        const bool isMeant = choice.isMeant(job, isFinished);
+        if (isMeant)
             ids.append(job.record.id);
+        if (job.record.module == heronJobs)
+            (isMeant ? removed : kept).insert(brokenOffImage(job.record));
     }
     store->remove(ids);
-    return store->flush() ? AllDone : failed(u"The list of jobs could not be written, %1"_s.arg(jobStorePath()));
+    if (!store->flush())
+        return failed(u"The list of jobs could not be written, %1"_s.arg(jobStorePath()));
+    for (const QString &path : removed.subtract(kept)) {
+        if (!path.isNull())
+            removeBrokenOffImage(path);
+    }
+    return AllDone;
 }
 
 }  // namespace

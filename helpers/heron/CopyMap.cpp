@@ -6,6 +6,8 @@
 #include <QJsonObject>
 #include <QSaveFile>
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel::disc {
@@ -44,6 +46,13 @@ void append(QList<SectorRange> &ranges, SectorRange range)
         ranges.last().count += range.count;
     else
         ranges.append(range);
+}
+
+void cutAt(QList<SectorRange> &ranges, qint64 position)
+{
+    for (SectorRange &range : ranges)
+        range.count = std::min(range.count, position - range.first);
+    ranges.removeIf([](const SectorRange &range) { return range.count <= 0; });
 }
 
 qint64 sectorsIn(const QList<SectorRange> &ranges)

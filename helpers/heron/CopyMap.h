@@ -17,6 +17,8 @@ struct SectorRange {
 
 /// Appends a range, as part of the last one where it follows that.
 void append(QList<SectorRange> &ranges, SectorRange range);
+/// Removes what stands from `position` on.
+void cutAt(QList<SectorRange> &ranges, qint64 position);
 qint64 sectorsIn(const QList<SectorRange> &ranges);
 
 /// How far the copy of a disc is; kept beside the copy so that a broken-off one goes on.

@@ -30,6 +30,12 @@ const QString propertiesInterface = u"org.freedesktop.DBus.Properties"_s;
 const QString blockInterface = u"org.freedesktop.UDisks2.Block"_s;
 const QString driveInterface = u"org.freedesktop.UDisks2.Drive"_s;
 
+const struct {
+    QString path, interface, name;
+} signalsOfChange[] = {{diskPath, managerInterface, u"InterfacesAdded"_s},
+                       {diskPath, managerInterface, u"InterfacesRemoved"_s},
+                       {QString(), propertiesInterface, u"PropertiesChanged"_s}};
+
 constexpr std::chrono::milliseconds quietTime{300};  // a new disc changes many properties at once
 
 using Interfaces = QMap<QString, QVariantMap>;
@@ -56,24 +62,32 @@ QList<DiscDrive> drivesIn(const Objects &objects)
 
 }  // namespace
 
-/// The process's own connection, which is never closed: what comes while nobody watches is not asked about.
+/// What is heard of drives, over the process's own connection, which is never closed.
 class DiscDrives::Bus {
 public:
-    explicit Bus(QDBusConnection connection) : m_connection(std::move(connection)) {}
+    Bus(const QDBusConnection &connection, DiscDrives &drives)
+        : m_connection(connection),
+          m_drives(drives),
+          m_watcher(diskService, connection, QDBusServiceWatcher::WatchForRegistration)
+    {
+        for (const auto &[path, interface, name] : signalsOfChange)
+            m_connection.connect(diskService, path, interface, name, &m_drives, SLOT(askLater()));
+        // One that comes only now, or again, has its drives from the beginning and says nothing of them.
+        connect(&m_watcher, &QDBusServiceWatcher::serviceRegistered, &m_drives, &DiscDrives::askLater);
+    }
+    ~Bus()
+    {
+        for (const auto &[path, interface, name] : signalsOfChange)
+            m_connection.disconnect(diskService, path, interface, name, &m_drives, SLOT(askLater()));
+    }
     Q_DISABLE_COPY(Bus)
 
     QDBusConnection &connection() { return m_connection; }
-    /// One that comes only now, or again, has its drives from the beginning and says nothing of them.
-    void watchService(DiscDrives &drives)
-    {
-        m_watcher =
-            std::make_unique<QDBusServiceWatcher>(diskService, m_connection, QDBusServiceWatcher::WatchForRegistration);
-        connect(m_watcher.get(), &QDBusServiceWatcher::serviceRegistered, &drives, &DiscDrives::askLater);
-    }
 
 private:
     QDBusConnection m_connection;
-    std::unique_ptr<QDBusServiceWatcher> m_watcher;
+    DiscDrives &m_drives;
+    QDBusServiceWatcher m_watcher;
 };
 
 DiscDrives::DiscDrives(QObject *parent) : QObject(parent) {}
@@ -83,24 +97,16 @@ DiscDrives::~DiscDrives() = default;
 /// Greeting the bus waits for its answer, so that is done elsewhere.
 void DiscDrives::start()
 {
-    if (m_bus || std::exchange(m_isToAsk, true))
+    if (m_bus || std::exchange(m_isStarting, true))
         return;
     foundation::queue::asyncGlobal([self = QPointer(this)] {
         const QDBusConnection connection = QDBusConnection::systemBus();
         foundation::queue::asyncMain([self, connection] {
-            auto bus = std::make_unique<Bus>(connection);
-            if (!self || !self->m_isToAsk)
+            if (!self || !std::exchange(self->m_isStarting, false))
                 return;
-            self->m_isToAsk = false;
             if (!connection.isConnected())
                 return tarnwell::DNFootLog(u"Drives cannot be watched: there is no system bus"_s);
-            self->m_bus = std::move(bus);
-            QDBusConnection &system = self->m_bus->connection();
-            const char *slot = SLOT(askLater());
-            system.connect(diskService, diskPath, managerInterface, u"InterfacesAdded"_s, self.data(), slot);
-            system.connect(diskService, diskPath, managerInterface, u"InterfacesRemoved"_s, self.data(), slot);
-            system.connect(diskService, QString(), propertiesInterface, u"PropertiesChanged"_s, self.data(), slot);
-            self->m_bus->watchService(*self);
+            self->m_bus = std::make_unique<Bus>(connection, *self);
             self->ask();
         });
     });
@@ -109,12 +115,12 @@ void DiscDrives::start()
 void DiscDrives::stop()
 {
     m_bus.reset();
-    m_isToAsk = false;
+    m_isStarting = m_isToAsk = false;
 }
 
 void DiscDrives::askLater()
 {
-    if (std::exchange(m_isToAsk, true))
+    if (!m_bus || std::exchange(m_isToAsk, true))
         return;
     foundation::queue::afterMain(quietTime, [self = QPointer(this)] {
         if (self && std::exchange(self->m_isToAsk, false))

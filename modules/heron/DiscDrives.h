@@ -43,7 +43,7 @@ private:
 
     std::unique_ptr<Bus> m_bus;
     QList<DiscDrive> m_drives;
-    bool m_isToAsk = false;
+    bool m_isStarting = false, m_isToAsk = false;
 };
 
 }  // namespace kestrel

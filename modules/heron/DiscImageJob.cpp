@@ -7,6 +7,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <sys/stat.h>
 #include <cstdio>
 
 using namespace Qt::StringLiterals;
@@ -22,10 +23,10 @@ constexpr qint64 bytesOfSector = 2048;
 
 const QString mapSuffix = u".map"_s, listSuffix = u".bad"_s, lockSuffix = u".lock"_s;
 
-/// Of a name that every run of the same disc finds.
-QString copyIn(const QString &folder, const QString &name)
+/// Of a name that every run of the same disc finds. Some makers call all their discs alike.
+QString copyIn(const QString &folder, const QString &name, qint64 bytes)
 {
-    return folder + u'/' + fittingName(u'.' + portableName(name), u".kestrel-copy.iso"_s, 143);
+    return folder + u'/' + fittingName(u'.' + portableName(name), u".%1.kestrel-copy.iso"_s.arg(bytes), 143);
 }
 
 void removeAll(const QString &copy)
@@ -44,7 +45,16 @@ QString brokenOffImage(const JobRecord &record)
         return {};
     disc::DiscContents contents;
     contents.volume = plan->volume;
-    return copyIn(record.folder, discOutputName(*plan, contents));
+    return copyIn(record.folder, discOutputName(*plan, contents), plan->bytes);
+}
+
+qint64 brokenOffBytes(const JobRecord &record)
+{
+    constexpr qint64 bytesOfBlock = 512;
+    struct stat status = {};
+    const QString path = brokenOffImage(record);
+    const bool isThere = !path.isNull() && ::stat(QFile::encodeName(path).constData(), &status) == 0;
+    return isThere ? status.st_blocks * bytesOfBlock : 0;
 }
 
 void removeBrokenOffImage(const QString &path)
@@ -64,7 +74,7 @@ void DiscImageJob::carryOut()
 {
     if (QFileInfo(request().plan.source).isDir())
         return fail("A folder has no sectors to copy. Choose another way."_key);
-    m_copy = copyIn(request().folder, outputName());
+    m_copy = copyIn(request().folder, outputName(), request().plan.bytes);
     m_lock = std::make_unique<QLockFile>(m_copy + lockSuffix);
     m_lock->setStaleLockTime(0);
     if (!QFileInfo(request().folder).isDir())

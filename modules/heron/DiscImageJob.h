@@ -36,6 +36,8 @@ private:
 
 /// The hidden file that a run of the job left, or may have left; null for a job that leaves none.
 QString brokenOffImage(const JobRecord &record);
+/// What it takes on its disk already.
+qint64 brokenOffBytes(const JobRecord &record);
 /// Unless somebody is at it.
 void removeBrokenOffImage(const QString &path);
 

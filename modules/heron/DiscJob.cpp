@@ -50,6 +50,7 @@ void DiscJob::lookedAt(const ToolEnding &ending)
         return fail(discFailure(m_lines, ending), ending.lastWords);
     }
     const QString before = m_request.plan.volume;
+    const qint64 bytesBefore = m_request.plan.bytes;
     m_contents = *std::move(contents);
     if (m_contents.isProtected)
         return fail(discFailure(u"protected"_s));
@@ -57,9 +58,14 @@ void DiscJob::lookedAt(const ToolEnding &ending)
         return fail({"This is another disc: %1 instead of %2."_key, {m_contents.volume, before}});
     if (!describeDisc(m_contents, m_request.plan))
         return fail(discFailure(u"noTitle"_s));
+    // The tables tell the same of a disc each time.
+    if (bytesBefore > 0 && bytesBefore != m_request.plan.bytes)
+        return fail({"This is another disc, which is also called %1."_key, {m_contents.volume}});
     if (!takesWholeDisc(m_request.plan.way) && m_request.plan.firstChapter > title().chapters.size() &&
         m_request.plan.firstChapter > 1)
         return fail(discFailure(u"noTitle"_s));
+    if (!takesWholeDisc(m_request.plan.way) && title().angles > 1)
+        addLeftOut({"The other angles of the film: %1"_key, {QString::number(title().angles - 1)}});
     if (m_contents.isTruncated)
         addProblem("The disc image ends before its film does."_key);
     carryOut();
@@ -86,13 +92,27 @@ ToolProcess &DiscJob::runDiscTool(const ToolCommand &command, double share, Cont
 
 void DiscJob::lookAtFilm(std::function<void(const QList<FilmStream> &streams)> then)
 {
-    runDiscTool(filmStreamsCommand(m_request.tools.transcode.prober, titleReader({})), 0.02,
-                [this, then = std::move(then)](const ToolEnding &ending) {
+    lookAtFilm(usualLook, std::move(then));
+}
+
+/// Farther where sound is missing and the film goes on; who makes the file holds in memory what it looks at, so that
+/// this is as little as shows the most.
+void DiscJob::lookAtFilm(qint64 look, std::function<void(const QList<FilmStream> &streams)> then)
+{
+    runDiscTool(filmStreamsCommand(m_request.tools.transcode.prober, titleReader({}), look), 0.01,
+                [this, look, then = std::move(then)](const ToolEnding &ending) {
                     const QList<FilmStream> streams = readFilmStreams(ending.output);
+                    if (streams.size() > m_streams.size()) {
+                        m_streams = streams;
+                        m_look = look;
+                    }
                     // It ends as soon as it knows enough, and the reader with it.
-                    if (streams.isEmpty())
+                    if (m_streams.isEmpty())
                         return fail(discFailure(lines(), ending), ending.lastWords);
-                    then(streams);
+                    const bool goesOn = look < std::min(m_request.plan.bytes, farthestLook);
+                    if (goesOn && !planFilm(m_request.plan, title(), m_streams, true).missing.isEmpty())
+                        return lookAtFilm(4 * look, then);
+                    then(m_streams);
                 });
 }
 

@@ -46,6 +46,8 @@ protected:
     const DiscToolLines &lines() const { return m_lines; }
     /// Asks the title's film what tracks it has; `then` is not called where it has none, which fails the job.
     void lookAtFilm(std::function<void(const QList<FilmStream> &streams)> then);
+    /// How much of the film had to be looked at until its tracks were known.
+    qint64 look() const { return m_look; }
     /// disctitle for the plan's title and its wanted tracks, followed by what else it is told.
     std::shared_ptr<ToolCommand> titleReader(const QStringList &options) const;
 
@@ -73,10 +75,13 @@ protected:
 
 private:
     void lookedAt(const ToolEnding &ending);
+    void lookAtFilm(qint64 look, std::function<void(const QList<FilmStream> &streams)> then);
 
     DiscRequest m_request;
     disc::DiscContents m_contents;
     DiscToolLines m_lines;
+    QList<FilmStream> m_streams;
+    qint64 m_look = usualLook;
     bool m_isFed = false;  ///< the tool of the moment makes something of what a reader tells it
     JobProgress m_told;
     double m_doneShare = 0, m_share = 0;

@@ -1,5 +1,6 @@
 #include "DiscRecipe.h"
 
+#include "DiscImageJob.h"
 #include "DiscJob.h"
 #include "DiscPlan.h"
 
@@ -7,6 +8,8 @@
 #include "settings/JKestrelSettingDispatcher.h"
 
 #include <QFileInfo>
+
+#include <algorithm>
 
 using namespace Qt::StringLiterals;
 
@@ -54,7 +57,8 @@ JobNeeds DiscRecipe::needs(const JobRecord &record) const
         return {.lane = Lane::Disc};
     // Encoding takes about as long as reading ten times as much.
     const double effort = plan->way == DiscWay::Rip ? 10 : 1;
-    return {.lane = Lane::Disc, .bytes = expectedBytesOf(*plan), .weight = double(plan->bytes) * effort};
+    const qint64 bytes = std::max<qint64>(0, expectedBytesOf(*plan) - brokenOffBytes(record));
+    return {.lane = Lane::Disc, .bytes = bytes, .weight = double(plan->bytes) * effort};
 }
 
 std::unique_ptr<Job> DiscRecipe::makeJob(const JobRecord &record)

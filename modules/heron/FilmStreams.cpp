@@ -1,9 +1,12 @@
 #include "FilmStreams.h"
 
+#include "foundation/LanguageTags.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,23 +17,11 @@ using tarnwell::operator""_key;
 
 namespace {
 
-// A track may begin minutes into the film.
-const QStringList farLook{u"-probesize"_s, u"50M"_s, u"-analyzeduration"_s, u"100M"_s};
-
-struct Language {
-    const char *disc;
-    const char *file;
-};
-/// Those that films come in; ISO 639-2 as Matroska wants it.
-constexpr Language languages[] = {
-    {"ar", "ara"}, {"bg", "bul"}, {"ca", "cat"}, {"cs", "cze"}, {"da", "dan"}, {"de", "ger"}, {"el", "gre"},
-    {"en", "eng"}, {"es", "spa"}, {"et", "est"}, {"eu", "baq"}, {"fa", "per"}, {"fi", "fin"}, {"fr", "fre"},
-    {"ga", "gle"}, {"gl", "glg"}, {"he", "heb"}, {"iw", "heb"}, {"hi", "hin"}, {"hr", "hrv"}, {"hu", "hun"},
-    {"id", "ind"}, {"in", "ind"}, {"is", "ice"}, {"it", "ita"}, {"ja", "jpn"}, {"ka", "geo"}, {"ko", "kor"},
-    {"lt", "lit"}, {"lv", "lav"}, {"mk", "mac"}, {"ms", "may"}, {"nl", "dut"}, {"no", "nor"}, {"pl", "pol"},
-    {"pt", "por"}, {"ro", "rum"}, {"ru", "rus"}, {"sk", "slo"}, {"sl", "slv"}, {"sq", "alb"}, {"sr", "srp"},
-    {"sv", "swe"}, {"ta", "tam"}, {"te", "tel"}, {"th", "tha"}, {"tr", "tur"}, {"uk", "ukr"}, {"ur", "urd"},
-    {"vi", "vie"}, {"cy", "wel"}, {"zh", "chi"},
+/// Those for which Matroska wants another code than the usual one of three letters.
+constexpr std::pair<const char *, const char *> fileLanguages[] = {
+    {"bod", "tib"}, {"ces", "cze"}, {"cym", "wel"}, {"deu", "ger"}, {"ell", "gre"}, {"eus", "baq"}, {"fas", "per"},
+    {"fra", "fre"}, {"hye", "arm"}, {"isl", "ice"}, {"kat", "geo"}, {"mkd", "mac"}, {"mri", "mao"}, {"msa", "may"},
+    {"mya", "bur"}, {"nld", "dut"}, {"ron", "rum"}, {"slk", "slo"}, {"sqi", "alb"}, {"zho", "chi"},
 };
 
 QString trackName(int number, const QString &language)
@@ -44,6 +35,12 @@ QList<int> beyond(const std::optional<QList<int>> &tracks, qsizetype count)
     QList<int> found = tracks.value_or(QList<int>());
     found.removeIf([count](int track) { return track <= count; });
     return found;
+}
+
+/// `number` from 1.
+Sentence lacksSubtitles(int number, const QString &language)
+{
+    return {"Subtitle track %1, which this film does not have"_key, {trackName(number, language)}};
 }
 
 QString codecFor(const FilmStream &stream)
@@ -65,10 +62,18 @@ QStringList tail(const QString &path)
 
 }  // namespace
 
-ToolCommand filmStreamsCommand(const QString &proberPath, std::shared_ptr<ToolCommand> reader)
+QStringList lookOptions(qint64 bytes)
+{
+    constexpr int microsecondsOfByte = 2;
+    return {u"-probesize"_s, QString::number(bytes), u"-analyzeduration"_s,
+            QString::number(bytes * microsecondsOfByte)};
+}
+
+ToolCommand filmStreamsCommand(const QString &proberPath, std::shared_ptr<ToolCommand> reader, qint64 look)
 {
     ToolCommand command{.program = proberPath};
-    command.arguments = QStringList{u"-v"_s, u"error"_s} + farLook +
+    // What was looked at is not kept.
+    command.arguments = QStringList{u"-v"_s, u"error"_s, u"-fflags"_s, u"nobuffer"_s} + lookOptions(look) +
                         QStringList{u"-f"_s, u"mpeg"_s, u"-show_streams"_s, u"-of"_s, u"json"_s, u"-i"_s, u"pipe:0"_s};
     command.outputLimit = maximumReportBytes;
     command.collectsOutput = true;
@@ -100,9 +105,12 @@ QList<FilmStream> readFilmStreams(const QByteArray &json)
 
 QString fileLanguage(const QString &code)
 {
-    const auto found = std::find_if(std::begin(languages), std::end(languages),
-                                    [&](const Language &language) { return code == QLatin1StringView(language.disc); });
-    return found == std::end(languages) ? code : QString::fromLatin1(found->file);
+    const QString usual = foundation::isoLanguageCode(code);
+    for (const auto &[iso, file] : fileLanguages) {
+        if (usual == QLatin1StringView(iso))
+            return QString::fromLatin1(file);
+    }
+    return usual.isEmpty() ? code : usual;
 }
 
 QList<int> countSubtitles(const QByteArray &index)
@@ -134,6 +142,7 @@ FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QLis
         });
         if (found == streams.end()) {
             leaveOut(trackName(place + 1, track.language));
+            film.missing.append(place);
             continue;
         }
         film.sound.append(*found);
@@ -144,9 +153,16 @@ FilmPlan planFilm(const DiscPlan &plan, const disc::DiscTitle &title, const QLis
     return film;
 }
 
-Sentence lacksSubtitles(int number, const QString &language)
+QList<Sentence> lackingSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QJsonArray &streams)
 {
-    return {"Subtitle track %1, which this film does not have"_key, {trackName(number, language)}};
+    QList<Sentence> lacking;
+    for (const int place : chosenSubtitles(plan, title)) {
+        if (!streams.contains(title.subtitles[place].streamId))
+            lacking.append(lacksSubtitles(place + 1, title.subtitles[place].language));
+    }
+    for (const int track : beyond(plan.subtitleTracks, title.subtitles.size()))
+        lacking.append(lacksSubtitles(track, {}));
+    return lacking;
 }
 
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts)
@@ -174,9 +190,9 @@ FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
     return subtitles;
 }
 
-QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths)
+QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths, qint64 look)
 {
-    QStringList arguments = head() + QStringList{u"-fflags"_s, u"+genpts"_s} + farLook +
+    QStringList arguments = head() + QStringList{u"-fflags"_s, u"+genpts"_s} + lookOptions(look) +
                             QStringList{u"-f"_s, u"mpeg"_s, u"-i"_s, u"pipe:0"_s};
     const auto map = [&](const FilmStream &stream) { arguments << u"-map"_s << u"0:i:0x%1"_s.arg(stream.id, 0, 16); };
     for (const FilmStream &stream : film.video)

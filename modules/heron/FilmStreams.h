@@ -5,6 +5,8 @@
 #include "jobs/ToolProcess.h"
 #include "media/TranscodeCommand.h"
 
+class QJsonArray;
+
 namespace kestrel {
 
 /// A track as it is in a title's film, which need not hold all that the disc's tables name.
@@ -15,8 +17,13 @@ struct FilmStream {
     int bits = 0;   ///< of a sample of uncompressed sound
 };
 
+/// How many bytes of a film are looked at for its tracks, some of which may begin late in it: the fewest and the most.
+inline constexpr qint64 usualLook = 50'000'000, farthestLook = 16 * usualLook;
+/// The options with which ffmpeg and ffprobe do that.
+QStringList lookOptions(qint64 bytes);
+
 /// Looks into the beginning of the film that `reader` writes.
-ToolCommand filmStreamsCommand(const QString &proberPath, std::shared_ptr<ToolCommand> reader);
+ToolCommand filmStreamsCommand(const QString &proberPath, std::shared_ptr<ToolCommand> reader, qint64 look);
 /// In the film's order; empty where the report is none.
 QList<FilmStream> readFilmStreams(const QByteArray &json);
 
@@ -32,7 +39,8 @@ struct FilmPlan {
     QList<FilmStream> video;            ///< one or none
     QList<FilmStream> sound;            ///< in the file's order
     QList<disc::DiscAudio> soundFacts;  ///< of each of them
-    QList<tarnwell::Sentence> leftOut;
+    QList<int> missing;                 ///< places in the disc's list of the sound that was wanted and is not there
+    QList<tarnwell::Sentence> leftOut;  ///< first of these, then of what the disc has not got either
 };
 
 /// `takesVideo` false leaves the picture out.
@@ -55,12 +63,14 @@ struct FilmSubtitles {
     QList<tarnwell::Sentence> leftOut;
     bool lacksBurned = false;  ///< that which was to be drawn into the picture
 };
-/// Says that they are not there; `number` from 1.
-tarnwell::Sentence lacksSubtitles(int number, const QString &language);
+/// Says of wanted ones that they are not there: of those that the title has not got, and of those that are not among
+/// the streams that came.
+QList<tarnwell::Sentence> lackingSubtitles(const DiscPlan &plan, const disc::DiscTitle &title,
+                                           const QJsonArray &streams);
 FilmSubtitles foundSubtitles(const DiscPlan &plan, const disc::DiscTitle &title, const QList<int> &counts);
 
 /// The film comes on standard input.
-QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths);
+QStringList filmArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmPaths &paths, qint64 look);
 QStringList fileArguments(const FilmPlan &film, const disc::DiscTitle &title, const FilmSubtitles &subtitles,
                           const FilmPaths &paths);
 

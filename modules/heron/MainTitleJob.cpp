@@ -201,10 +201,8 @@ void MainTitleJob::author(const disc::DiscTitle &wanted)
         const QJsonArray streams = lines().result["streams"_L1].toArray();
         disc.titles[0].subtitles.removeIf(
             [&](const disc::DiscSubtitle &track) { return !streams.contains(track.streamId); });
-        for (const int place : chosenSubtitles(request().plan, title())) {
-            if (!streams.contains(title().subtitles[place].streamId))
-                addLeftOut(lacksSubtitles(place + 1, title().subtitles[place].language));
-        }
+        for (const tarnwell::Sentence &leftOut : lackingSubtitles(request().plan, title(), streams))
+            addLeftOut(leftOut);
         checkCopy(m_output->partPath(), disc);
     });
 }

@@ -57,8 +57,6 @@ QString TitleFileJob::openTarget()
 void TitleFileJob::makeFile(const QList<FilmStream> &streams)
 {
     m_film = planFilm(request().plan, title(), streams, takesVideo());
-    for (const Sentence &leftOut : m_film.leftOut)
-        addLeftOut(leftOut);
     if (m_film.video.isEmpty() && m_film.sound.isEmpty())
         return fail("This title has no sound to keep."_key);
     m_workFolder = std::make_unique<OutputFile>(request().folder, outputName(), QString(), OutputFile::Kind::Folder);
@@ -74,7 +72,7 @@ void TitleFileJob::makeFile(const QList<FilmStream> &streams)
     const QStringList options =
         m_paths.subtitles.isNull() ? QStringList() : QStringList{u"--subtitles"_s, m_paths.subtitles};
     const ToolCommand command{.program = request().tools.transcode.transcoder,
-                              .arguments = filmArguments(m_film, title(), m_paths),
+                              .arguments = filmArguments(m_film, title(), m_paths, look()),
                               .silenceLimit = request().tools.transcode.silenceLimit,
                               .feeder = titleReader(options)};
     tellStage({});
@@ -87,6 +85,7 @@ void TitleFileJob::makeFile(const QList<FilmStream> &streams)
 void TitleFileJob::addCompanions()
 {
     tellLosses();
+    tellLeftOut(m_film);
     const QJsonObject result = lines().result;
     const auto chapters = chaptersIn(result, request().plan.firstChapter);
     if (takesVideo())

@@ -3,6 +3,7 @@
 #include "DiscCheck.h"
 
 #include <QFileInfo>
+#include <QJsonArray>
 
 #include <algorithm>
 
@@ -60,13 +61,30 @@ void TitleJob::tellLosses()
         addProblem({"%1 sectors of the film could not be read."_key, {QString::number(m_lostSectors)}});
 }
 
+QList<int> TitleJob::tellLeftOut(const FilmPlan &film)
+{
+    const QJsonArray streams = lines().result["streams"_L1].toArray();
+    QList<int> late;
+    for (qsizetype index = 0; index < film.leftOut.size(); ++index) {
+        const int place = film.missing.value(index, -1);
+        if (place < 0 || !streams.contains(title().audio[place].streamId)) {
+            addLeftOut(film.leftOut[index]);
+            continue;
+        }
+        late.append(place);
+        addProblem({"Sound track %1 begins so late in the film that it is not found in time."_key,
+                    {QString::number(place + 1)}});
+    }
+    return late;
+}
+
 void TitleJob::checkFile(const QString &path, const OutputExpectation &expected, const ToldOutput &told)
 {
     tellStage("Checking the finished file…"_key);
     // A program stream's tracks may begin late in it.
     ToolCommand command =
         outputReportCommand(request().tools.transcode.prober, u"file:"_s + path, QFileInfo(path).size());
-    command.arguments = QStringList{u"-probesize"_s, u"50M"_s, u"-analyzeduration"_s, u"100M"_s} + command.arguments;
+    command.arguments = lookOptions(look()) + command.arguments;
     run(command, [this, path, expected, told](const ToolEnding &ending) { compare(path, expected, told, ending); });
 }
 

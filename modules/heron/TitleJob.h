@@ -25,6 +25,8 @@ protected:
     void runConverter(const QStringList &arguments, double share, double seconds, Continuation then);
     /// What the reader says that the disc did not give.
     void tellLosses();
+    /// The sound that the film lacks, once it was read; places in the disc's list of what came, too late to be known.
+    QList<int> tellLeftOut(const FilmPlan &film);
     /// Length, tracks, chapters, and pictures or sound at the begin, in the middle and at the end.
     void checkFile(const QString &path, const OutputExpectation &expected, const ToldOutput &told);
     ToldOutput told() const;

@@ -2,6 +2,8 @@
 
 #include "jobs/OutputFile.h"
 
+#include <QJsonArray>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -23,10 +25,18 @@ void TitleMpegJob::makeFile(const QList<FilmStream> &streams)
         if (!isGoodStep(ending))
             return;
         tellLosses();
+        const QList<int> late = tellLeftOut(planFilm(request().plan, title(), streams, true));
+        for (const tarnwell::Sentence &leftOut :
+             lackingSubtitles(request().plan, title(), lines().result["streams"_L1].toArray()))
+            addLeftOut(leftOut);
         OutputExpectation expected;
         for (const FilmStream &stream : streams) {
             if (stream.kind != MediaTrack::Kind::Data)
                 expected.tracks.append({stream.kind, stream.codec});
+        }
+        for (const int place : late) {
+            const QString &codec = title().audio[place].codec;
+            expected.tracks.append({MediaTrack::Kind::Audio, codec == "lpcm"_L1 ? u"pcm_dvd"_s : codec});
         }
         expected.seconds = filmSeconds(request().plan, title());
         checkFile(m_output->partPath(), expected, {.bytes = lines().result["bytes"_L1].toInteger(), .tracks = {}});

@@ -3,9 +3,25 @@
 #include "jobs/OutputFile.h"
 #include "jobs/PortableNames.h"
 
+#include <QJsonDocument>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
+
+namespace {
+
+/// Whether the rate at which film was taken may be asked for: what stays as it is would no longer do so.
+bool mayAskForRate(const TranscodePlan &plan)
+{
+    const QString &codec = plan.preset.videoCodec;
+    const bool mayStay = plan.copies && (codec == "copy"_L1 || codec == "mpeg2video"_L1);
+    const bool isUsual =
+        plan.deinterlace == TranscodePlan::Deinterlace::Auto || plan.deinterlace == TranscodePlan::Deinterlace::Off;
+    return plan.preset.takesVideo() && plan.frameRate == 0 && isUsual && !mayStay;
+}
+
+}  // namespace
 
 TitleRipJob::~TitleRipJob()
 {
@@ -31,6 +47,8 @@ TranscodePlan TitleRipJob::transcodePlan() const
     result.sources = {m_film};
     result.besideSource = false;
     result.keepsDate = false;
+    if (m_isPulledDown)
+        result.frameRate = 24000.0 / 1001;
     const qsizetype burned = subtitles().places.indexOf(plan.burnedSubtitle - 1);
     if (plan.burnedSubtitle > 0 && burned >= 0)
         result.subtitles.insert(int(film().video.size() + film().sound.size() + burned),
@@ -38,7 +56,23 @@ TranscodePlan TitleRipJob::transcodePlan() const
     return result;
 }
 
+/// The film in its file no longer tells which of its pictures are shown for three fields.
 void TitleRipJob::fileIsGood()
+{
+    if (title().standard != "NTSC"_L1 || !mayAskForRate(request().plan.transcode))
+        return convert();
+    ToolCommand command = *titleReader({u"--streams"_s});
+    command.timeLimit = std::chrono::minutes(3);
+    command.outputLimit = maximumReportBytes;
+    command.collectsOutput = true;
+    run(command, [this](const ToolEnding &ending) {
+        const QJsonObject facts = QJsonDocument::fromJson(ending.output).object();
+        m_isPulledDown = facts["pulldown"_L1].toBool() && facts["progressive"_L1].toBool();
+        convert();
+    });
+}
+
+void TitleRipJob::convert()
 {
     beginShare(1 - shareOfFile());
     m_converting = std::make_unique<TranscodeJob>(TranscodeRequest{

@@ -24,10 +24,12 @@ protected:
 
 private:
     TranscodePlan transcodePlan() const;
+    void convert();
     JobOutcome withOwnProblems(const JobOutcome &outcome) const;
     void converted(const JobOutcome &outcome);
 
     QString m_film;
+    bool m_isPulledDown = false;                 ///< pictures of 24 a second, shown as 30
     std::unique_ptr<TranscodeJob> m_converting;  ///< once the film is there
 };
 

@@ -159,6 +159,8 @@ TEST(CopyMap, IsKeptAndDistrustsItself)
     ASSERT_TRUE(back);
     EXPECT_EQ(back->untried, map.untried);
     EXPECT_EQ(back->position, 500);
+    cutAt(map.untried, 15);
+    EXPECT_EQ(map.untried, (QList<SectorRange>{{10, 5}}));
 
     map.untried = {{990, 11}};  // beyond the end of the disc
     ASSERT_TRUE(map.save(path));

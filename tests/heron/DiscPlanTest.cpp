@@ -122,10 +122,11 @@ TEST(FilmStreamsTest, TakesWhatTheFilmHas)
     const FilmPlan planned = planFilm(plan, film(), readFilmStreams(report), true);
     ASSERT_EQ(planned.sound.size(), 2);
     EXPECT_EQ(planned.sound.first().id, 0xa2);
-    EXPECT_EQ(planned.leftOut.size(), 1) << "0x81 is announced and never comes";
-    const QStringList arguments = filmArguments(planned, film(), {.film = u"/film"_s});
+    EXPECT_EQ(planned.missing, QList<int>{1}) << "0x81 is announced and never comes";
+    const QStringList arguments = filmArguments(planned, film(), {.film = u"/film"_s}, usualLook);
     EXPECT_EQ(arguments[arguments.indexOf(u"-c:a:0"_s) + 1], u"pcm_s24le");
     EXPECT_EQ(arguments[arguments.indexOf(u"-c:a:1"_s) + 1], u"copy");
+    EXPECT_EQ(fileLanguage(u"nb"_s) + fileLanguage(u"de"_s), u"nobger");
 
     // Readers of an index do not see its empty tracks.
     const QList<int> counts =

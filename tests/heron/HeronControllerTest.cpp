@@ -256,7 +256,7 @@ TEST_F(HeronControllerTest, RowsThatAreLeftStartByTheButtonAndTakeTheirImagesAlo
     DiscPlan plan{.source = m_settings.path(u"none.iso"_s), .way = DiscWay::Image};
     plan.volume = u"HOLIDAY"_s;
     JobQueue &queue = m_services.queue();
-    const QString folder = m_settings.path(u"left"_s), copy = folder + u"/.HOLIDAY.kestrel-copy.iso"_s;
+    const QString folder = m_settings.path(u"left"_s), copy = folder + u"/.HOLIDAY.0.kestrel-copy.iso"_s;
     ASSERT_TRUE(QDir().mkpath(folder));
     test::writeFile(copy, "begun");
     const JobId first = queue.add(discJob(plan, folder)), second = queue.add(discJob(plan, folder));

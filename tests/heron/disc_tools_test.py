@@ -5,6 +5,7 @@ import errno
 import filecmp
 import json
 import os
+import shutil
 import subprocess
 import tempfile
 import unittest
@@ -140,6 +141,11 @@ class DiscToImage(Case):
             with open(self.path("copy.iso.map")) as file:
                 left = json.load(file)
             self.assertEqual((left["position"], left["untried"], left["bad"]), (1003, [], []))
+            for tool, *rest in (("discfolder", self.path("folder")), ("disctitle",)):
+                failing = {"FAILING_FILE": disc("plain.iso"), "FAILING_FIRST": 1503, "FAILING_LAST": 10 ** 6, "FAILING_ERROR": error}
+                code, lines, _ = run(tool, disc("plain.iso"), *rest, failing=failing)
+                self.assertEqual((code, lines[-1]), (3, {"error": "missing"}))
+                shutil.rmtree(self.path("folder"), ignore_errors=True)
         self.assertEqual(self.copy()[1]["result"]["continuedFrom"], 1003 * SECTOR)
 
     def test_leaves_alone_what_is_not_its_own(self):

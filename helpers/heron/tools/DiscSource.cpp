@@ -8,6 +8,7 @@
 #include <dvdread/dvd_udf.h>
 
 #include <fcntl.h>
+#include <linux/cdrom.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -133,6 +134,18 @@ bool DiscSource::isCutOff(int titleSet) const
     return false;
 }
 
+bool isSourceGone(int systemError, const QString &path)
+{
+    if (systemError != EIO)
+        return sourceErrorOf(systemError) == DiscError::Missing;
+    const int descriptor = ::open(QFile::encodeName(path).constData(), O_RDONLY | O_CLOEXEC | O_NONBLOCK);
+    if (descriptor < 0)
+        return sourceErrorOf(errno) == DiscError::Missing;
+    const int status = ioctl(descriptor, CDROM_DRIVE_STATUS, CDSL_CURRENT);  // fails for what is no drive
+    close(descriptor);
+    return status == CDS_NO_DISC || status == CDS_TRAY_OPEN;
+}
+
 void FilmFile::Close::operator()(dvd_file_t *file) const
 {
     DVDCloseFile(file);
@@ -141,6 +154,7 @@ void FilmFile::Close::operator()(dvd_file_t *file) const
 foundation::Result<FilmFile, DiscError> FilmFile::open(const DiscSource &source, int titleSet)
 {
     FilmFile film;
+    film.m_path = source.path();
     film.m_file.reset(DVDOpenFile(source.reader(), titleSet, DVD_READ_TITLE_VOBS));
     if (!film.m_file)
         return foundation::Failure{DiscError::Read};
@@ -150,10 +164,13 @@ foundation::Result<FilmFile, DiscError> FilmFile::open(const DiscSource &source,
 
 int FilmFile::read(quint32 first, int count, uchar *into)
 {
+    m_isGone = false;
     if (first >= m_sectors)
         return 0;
     const qint64 wanted = std::min<qint64>(count, m_sectors - first);
+    errno = 0;
     const ssize_t came = DVDReadBlocks(m_file.get(), static_cast<int>(first), static_cast<size_t>(wanted), into);
+    m_isGone = came <= 0 && isSourceGone(errno, m_path);
     return came > 0 ? static_cast<int>(came) : 0;
 }
 

@@ -13,6 +13,9 @@ using dvd_file_t = struct dvd_file_s;
 
 namespace kestrel::disc {
 
+constexpr int sectorsOfBlock = 16;    ///< a drive corrects errors in blocks of these: if one is gone, all are
+constexpr int hopelessBlocks = 2000;  ///< after so many in a row the rest is not tried
+
 /// A disc that is open for reading: a drive, an image, or a folder (with VIDEO_TS in it, or that itself; letters of
 /// any case).
 class DiscSource {
@@ -22,6 +25,7 @@ public:
     static foundation::Result<DiscSource, DiscError> open(const QString &path);
 
     Kind kind() const { return m_kind; }
+    QString path() const { return m_path; }
     dvd_reader_t *reader() const { return m_reader.get(); }
     /// What it is called: the volume's name, or the folder's.
     QString volume() const;
@@ -40,6 +44,9 @@ private:
     std::unique_ptr<dvd_reader_t, Close> m_reader;
 };
 
+/// Whether a read that failed for this reason failed because the disc, or what it is on, is no longer there.
+bool isSourceGone(int systemError, const QString &path);
+
 /// The film of one title set.
 class FilmFile {
 public:
@@ -48,6 +55,8 @@ public:
     qint64 sectors() const { return m_sectors; }
     /// How many of `count` sectors came, from the first on; 0 where the first cannot be read.
     int read(quint32 first, int count, uchar *into);
+    /// The last read failed because there is no disc any more.
+    bool isGone() const { return m_isGone; }
 
 private:
     struct Close {
@@ -55,6 +64,8 @@ private:
     };
     std::unique_ptr<dvd_file_t, Close> m_file;
     qint64 m_sectors = 0;
+    QString m_path;  ///< of the disc
+    bool m_isGone = false;
 };
 
 }  // namespace kestrel::disc

@@ -118,6 +118,7 @@ std::optional<DiscError> FileCopy::copyFile(const File &file)
                             O_WRONLY | O_CREAT | O_EXCL | O_CLOEXEC | O_NOFOLLOW);
     if (target.value() < 0)
         return targetErrorOf(errno);
+    m_lostBlocks = 0;
     posix_fadvise(source.value(), file.start, file.bytes, POSIX_FADV_SEQUENTIAL);
     for (qint64 at = 0; at < file.bytes; at += bytesAtOnce) {
         const qint64 bytes = std::min(bytesAtOnce, file.bytes - at);
@@ -127,22 +128,28 @@ std::optional<DiscError> FileCopy::copyFile(const File &file)
     return std::nullopt;
 }
 
-// As much at once as comes; where nothing does, sector by sector.
+// As much at once as comes; where nothing does, block by block of the disc.
 std::optional<DiscError> FileCopy::copyPiece(int source, int target, qint64 from, qint64 to, qint64 bytes)
 {
     qint64 done = 0;
     bool isSlow = false;
     while (done < bytes) {
-        const qint64 wanted = isSlow ? std::min<qint64>(sectorBytes, bytes - done) : bytes - done;
-        ssize_t came = pread64(source, m_buffer.data(), size_t(wanted), from + done);
-        if (came <= 0 && !isSlow) {
+        constexpr qint64 blockBytes = sectorsOfBlock * sectorBytes;
+        const qint64 left = bytes - done, leftOfBlock = std::min(left, blockBytes - (from + done) % blockBytes);
+        const bool isHopeless = m_lostBlocks >= hopelessBlocks;
+        const qint64 wanted = isSlow && !isHopeless ? leftOfBlock : left;
+        ssize_t came = isHopeless ? 0 : pread64(source, m_buffer.data(), size_t(wanted), from + done);
+        if (came < 0 && isSourceGone(errno, m_sourcePath))
+            return DiscError::Missing;
+        if (came <= 0 && !isSlow && !isHopeless) {
             isSlow = true;
             continue;
         }
+        m_lostBlocks = came > 0 ? 0 : m_lostBlocks + 1;
         if (came <= 0) {
             came = wanted;
             std::fill_n(m_buffer.begin(), came, '\0');
-            ++m_badSectors;
+            m_badSectors += (came + sectorBytes - 1) / sectorBytes;
         }
         for (ssize_t written = 0; written < came;) {
             const ssize_t now =

@@ -37,6 +37,7 @@ private:
     QString m_sourcePath, m_targetPath;
     QByteArray m_buffer;
     qint64 m_wholeBytes = 0, m_copied = 0, m_badSectors = 0;
+    int m_lostBlocks = 0;  ///< in a row, of the file of the moment
     QElapsedTimer m_clock, m_sinceReport;
 };
 

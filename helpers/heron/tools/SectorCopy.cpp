@@ -1,12 +1,11 @@
 #include "SectorCopy.h"
 
-#include "helpers/heron/Pack.h"
+#include "DiscSource.h"
 
 #include <QCryptographicHash>
 #include <QFile>
 
 #include <fcntl.h>
-#include <linux/cdrom.h>
 #include <linux/fs.h>
 #include <sys/ioctl.h>
 #include <sys/stat.h>
@@ -23,19 +22,11 @@ namespace {
 
 constexpr qint64 sectorsAtOnce = 128;  // 256 KiB; with more the processor's cache no longer holds what is on its way
 constexpr qint64 sectorsOfRun = 2048;
-constexpr qint64 sectorsOfBlock = 16;  // a drive corrects errors in blocks of these
-constexpr int blocksInARow = 4;        // after so many failures the rest of the run is left for later
+constexpr int blocksInARow = 4;  // after so many failures the rest of the run is left for later
 constexpr int attempts = 3;
 constexpr int millisecondsOfReport = 250, millisecondsOfSave = 2000;
 
 volatile std::sig_atomic_t s_isStopped = 0;
-
-// False for what is no drive.
-bool isEmptyDrive(int descriptor)
-{
-    const int status = ioctl(descriptor, CDROM_DRIVE_STATUS, CDSL_CURRENT);
-    return status == CDS_NO_DISC || status == CDS_TRAY_OPEN;
-}
 
 }  // namespace
 
@@ -114,6 +105,8 @@ std::optional<DiscError> SectorCopy::openTarget()
     m_map = *begun;
     // What the map says is there must be there; what is not read again.
     m_map.position = std::min<qint64>(m_map.position, status.st_size / sectorBytes);
+    cutAt(m_map.untried, m_map.position);
+    cutAt(m_map.bad, m_map.position);
     return std::nullopt;
 }
 
@@ -168,7 +161,7 @@ std::optional<DiscError> SectorCopy::copyAround(SectorRange range)
     int failures = 0;
     const qint64 end = range.first + range.count;
     for (qint64 at = range.first; at < end;) {
-        const SectorRange block{at, std::min(sectorsOfBlock, end - at)};
+        const SectorRange block{at, std::min<qint64>(sectorsOfBlock, end - at)};
         const qint64 came = failures < blocksInARow ? read(block) : 0;
         if (came > 0 && !write(at, came))
             return targetErrorOf(errno);
@@ -190,7 +183,7 @@ std::optional<DiscError> SectorCopy::tryAgain()
     while (!m_map.untried.isEmpty()) {
         const QList<SectorRange> bad = m_map.bad;
         const SectorRange range = m_map.untried.first();
-        const SectorRange block{range.first, std::min(sectorsOfBlock, range.count)};
+        const SectorRange block{range.first, std::min<qint64>(sectorsOfBlock, range.count)};
         const qint64 came = read(block);
         if (came == block.count && !write(block.first, came))
             return targetErrorOf(errno);
@@ -236,7 +229,7 @@ qint64 SectorCopy::read(SectorRange range)
         fcntl(m_source, F_SETFL, fcntl(m_source, F_GETFL) & ~O_DIRECT);
         bytes = readOnce();
     }
-    m_isGone = bytes < 0 && (sourceErrorOf(errno) == DiscError::Missing || (errno == EIO && isEmptyDrive(m_source)));
+    m_isGone = bytes < 0 && isSourceGone(errno, m_sourcePath);
     if (bytes <= 0)
         return 0;
     const bool isEnd = range.first * sectorBytes + bytes >= m_map.bytes;

@@ -85,7 +85,7 @@ int TitleExport::write()
     for (const TitleCell &cell : std::as_const(m_cells)) {
         const auto visit = [&](Sector sector, bool afterLoss) { return take(sector, cell, afterLoss); };
         if (!m_reading.read(cell, visit))
-            return m_run.fail(m_error.value_or(DiscError::Write));
+            return m_run.fail(m_error.value_or(m_reading.film().isGone() ? DiscError::Missing : DiscError::Write));
         // Whoever takes the navigation packs sets the cells' still times anew.
         if (m_clock.hasBegun() && !m_wish.keepsNavigation && &cell != &m_cells.constLast())
             m_clock.stand(cell.standingSeconds() * ticksPerSecond);

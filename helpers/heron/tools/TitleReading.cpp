@@ -8,9 +8,7 @@ namespace kestrel::disc {
 namespace {
 
 constexpr int sectorsAtOnce = 256;
-constexpr int sectorsOfBlock = 16;  // a drive corrects errors in blocks of these: if one is gone, all are
 constexpr int attempts = 2;
-constexpr int hopelessBlocks = 2000;
 
 }  // namespace
 
@@ -30,6 +28,8 @@ bool TitleReading::readRun(qint64 first, qint64 last, const Visit &visit)
         const int size = failures ? sectorsOfBlock : sectorsAtOnce;
         const int wanted = static_cast<int>(std::min<qint64>(size, last - at + 1));
         const int came = m_film.read(static_cast<quint32>(at), wanted, m_buffer.data());
+        if (m_film.isGone())
+            return false;
         if (came == 0 && ++failures <= attempts)
             continue;
         if (came == 0) {
@@ -58,15 +58,23 @@ bool TitleReading::readRun(qint64 first, qint64 last, const Visit &visit)
 bool TitleReading::readInterleaved(const TitleCell &cell, const Visit &visit)
 {
     std::pair own(cell.vob, cell.number);
+    int lostBlocks = 0;
     for (qint64 at = cell.firstSector; at <= cell.lastSector;) {
         const int came = m_film.read(static_cast<quint32>(at), 1, m_buffer.data());
+        if (m_film.isGone())
+            return false;
         const auto unit = came ? navigationOf(Sector(m_buffer.data(), sectorBytes)) : std::nullopt;
         if (!unit) {
-            m_lost += 1;
+            // Until the next unit begins
+            const qint64 left = cell.lastSector - at + 1, block = came ? 1 : std::min<qint64>(sectorsOfBlock, left);
+            lostBlocks = came ? 0 : lostBlocks + 1;
+            const qint64 lost = lostBlocks < hopelessBlocks ? block : left;
+            m_lost += lost;
             m_afterLoss = true;
-            ++at;  // until the next unit begins
+            at += lost;
             continue;
         }
+        lostBlocks = 0;
         if (at == cell.firstSector || own == std::pair(0, 0))
             own = {unit->vob, unit->cell};
         if (own != std::pair(unit->vob, unit->cell)) {

@@ -16,7 +16,7 @@ public:
 
     explicit TitleReading(FilmFile film) : m_film(std::move(film)) {}
 
-    /// False where the visitor ended it.
+    /// False where the visitor ended it, or the film is gone.
     bool read(const TitleCell &cell, const Visit &visit);
 
     FilmFile &film() { return m_film; }

@@ -409,8 +409,10 @@ bool HeronController::canStart(const QList<DiscPlan> &plans, QString *obstacle) 
         *obstacle = "The disc tools could not be started. Please install the application again."_key.localized();
         return false;
     }
-    const qint64 needed = neededBytes(plans, *m_contents);
-    const auto space = diskSpaceOf(discFolder(*m_settings, plans.first()));
+    const QString folder = discFolder(*m_settings, plans.first());
+    const qint64 begun = brokenOffBytes(discJob(plans.first(), folder));
+    const qint64 needed = std::max<qint64>(0, neededBytes(plans, *m_contents) - begun);
+    const auto space = diskSpaceOf(folder);
     if (!space || space->available >= needed)
         return true;
     *obstacle = Sentence(
@@ -452,6 +454,8 @@ void HeronController::begin()
         return;
     QString obstacle;
     if (canStart(wanted, &obstacle)) {
+        if (m_source.startsWith("/dev/"_L1))
+            m_pictures.stop();  // a drive reads at one place
         QList<JobId> ids;
         for (const DiscPlan &plan : wanted) {
             const QString folder = discFolder(*m_settings, plan);
