@@ -20,6 +20,9 @@ struct EngineTools {
     QString failed = {};  ///< the engine before this one; null for none
 };
 
+/// A proxy through which nothing gets anywhere.
+inline constexpr QStringView deadProxy = u"http://127.0.0.1:9";
+
 /// After a failure: whether there is another engine to try, which is in `tools` then.
 bool takeOtherEngine(EngineTools &tools, EngineFailure::Kind failure);
 
