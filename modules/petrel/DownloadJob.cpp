@@ -17,7 +17,9 @@
 #include <QJsonArray>
 #include <QPointer>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -183,8 +185,8 @@ void DownloadJob::engineFailed(const ToolEnding &ending)
         tarnwell::DNFootLog(u"Trying another engine: %1"_s.arg(ending.lastWords));
         return analyse();
     }
-    const bool mayHaveExpired =
-        failure.kind == Kind::Refused || failure.kind == Kind::Gone || failure.kind == Kind::NoSuchForm;
+    constexpr Kind ofExpired[] = {Kind::Refused, Kind::Gone, Kind::NoSuchForm, Kind::LogIn};
+    const bool mayHaveExpired = std::ranges::find(ofExpired, failure.kind) != std::end(ofExpired);
     if (mayHaveExpired && !m_answerPath.isNull() && !m_hasAskedAgain) {
         m_hasAskedAgain = true;
         m_answers.forget(m_plan);

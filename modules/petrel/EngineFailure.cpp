@@ -101,8 +101,8 @@ constexpr Words wordsTable[] = {
      "is not a valid URL|did not get any data blocks|The page contains no|contain any video|"
      "\\bno video (on|in|content)\\b",
      Kind::NoFilm},
-    {"HTTP Error 403|Forbidden|captcha", Kind::Refused},
-    {"HTTP Error 5\\d\\d|timed? ?out|Connection reset|Connection aborted|Remote end closed|IncompleteRead|"
+    {"HTTP Error 4(?!08|16)\\d\\d|Forbidden|captcha", Kind::Refused},
+    {"HTTP Error (5\\d\\d|408)|timed? ?out|Connection reset|Connection aborted|Remote end closed|IncompleteRead|"
      "bytes read, .* more expected|ContentTooShort|Content too short|Giving up after|BadStatusLine|"
      "Connection broken|EOF occurred|fragment .{0,20}not found|HTTP Error 416|Did not get any data|BrokenPipe",
      Kind::Server},

@@ -19,7 +19,7 @@ struct EngineFailure {
         TooMany,    ///< requests: the server wants to be left alone for a while
         NoNetwork,  ///< passes by itself
         Proxy,
-        Refused,   ///< 403: also what an address answers that has expired
+        Refused,   ///< 403 and the like: also what an address answers that has expired
         Server,    ///< it breaks off, answers nonsense or is overloaded: another attempt may do
         NotThere,  ///< nobody answers at that place, or the place has no such name
         Certificate,

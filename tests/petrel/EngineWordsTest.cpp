@@ -40,6 +40,8 @@ constexpr FailureCase failureCases[] = {
     {"ERROR: [x] Unable to download webpage: <urlopen error [Errno -2] Name or service not known>", Kind::NotThere},
     {"ERROR: Unable to download webpage: <urlopen error Tunnel connection failed: 403 Forbidden>", Kind::Proxy},
     {"ERROR: unable to download video data: HTTP Error 403: Forbidden", Kind::Refused},
+    {"ERROR: unable to download video data: HTTP Error 400: Bad Request", Kind::Refused},
+    {"ERROR: unable to download video data: HTTP Error 416: Requested Range Not Satisfiable", Kind::Server},
     {"ERROR: unable to download video data: <urlopen error timed out>", Kind::Server},
     {"ERROR: [Errno 28] No space left on device", Kind::Disk},
     {"ERROR: [site] x: Unable to extract title; please report this issue on https://x.example", Kind::EngineOld},
