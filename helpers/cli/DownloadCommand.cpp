@@ -7,6 +7,7 @@
 #include "modules/petrel/Analysis.h"
 #include "modules/petrel/Download.h"
 #include "modules/petrel/DownloadRecipe.h"
+#include "modules/petrel/PartFolder.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -113,8 +114,9 @@ QList<JobRecord> jobsFor(const DownloadPlan &plan, const Analysis::Answer &answe
     if (answer)
         return downloadJobs(plan, *answer, folder);
     JobRecord record = downloadJob(plan, folder);
-    if (passesByItself(answer.reason().kind))
-        return {record};  // it waits by itself
+    // It waits by itself, or needs the site no more.
+    if (passesByItself(answer.reason().kind) || PartFolder::hasLeftFilm(folder, plan))
+        return {record};
     record.state = JobState::Unusable;
     record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
     return {record};

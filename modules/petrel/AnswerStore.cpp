@@ -40,9 +40,9 @@ QString AnswerStore::fresh(const DownloadPlan &plan) const
     return file.isFile() && isFresh(file) ? file.absoluteFilePath() : QString();
 }
 
-std::optional<EngineAnswer> AnswerStore::answer(const DownloadPlan &plan) const
+std::optional<EngineAnswer> AnswerStore::answer(const DownloadPlan &plan, Age age) const
 {
-    QFile file(fresh(plan));
+    QFile file(age == Age::Fresh ? fresh(plan) : pathOf(plan));
     if (file.fileName().isEmpty() || file.size() > maximumAnswerBytes || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     auto answer = parseEngineAnswer(file.readAll(), plan.address);

@@ -68,12 +68,16 @@ void DownloadJob::start()
         return fail(part.reason());
     m_part = *std::move(part);
     m_resumed = m_part->bytes();
-    if (auto answer = m_answers.answer(m_plan)) {
-        m_answer = *std::move(answer);
-        m_answerPath = m_answers.fresh(m_plan);
-        return download();
-    }
-    analyse();
+    // Of a film that is there already it will do what the site has told once, or nothing: it may be gone by now.
+    const bool isThere = m_part->missingCompanions().has_value();
+    auto answer = m_answers.answer(m_plan, isThere ? AnswerStore::Age::Any : AnswerStore::Age::Fresh);
+    if (!answer && isThere)
+        answer = EngineAnswer{.title = m_plan.address, .seconds = m_plan.seconds};
+    if (!answer)
+        return analyse();
+    m_answer = *std::move(answer);
+    m_answerPath = m_answers.fresh(m_plan);
+    download();
 }
 
 void DownloadJob::analyse()

@@ -118,6 +118,11 @@ bool PartFolder::moveLeft(const QString &folder, const DownloadPlan &plan, const
     return isMoved;
 }
 
+bool PartFolder::hasLeftFilm(const QString &folder, const DownloadPlan &plan)
+{
+    return QFileInfo(pathOf(folder, plan, 0) + u'/' + companionsName).isFile();
+}
+
 PartFolder::PartFolder(QString path, int lock) : m_path(std::move(path)), m_lock(lock)
 {
     if (QFile file(m_path + u'/' + wholesName); file.open(QFile::ReadOnly))

@@ -23,6 +23,9 @@ public:
     /// Takes it to another folder. False, and it stays, where that cannot be: it is on another disk, or not there.
     static bool moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to);
 
+    /// Whether an earlier run has left the whole film, which is only to be looked at and converted.
+    static bool hasLeftFilm(const QString &folder, const DownloadPlan &plan);
+
     ~PartFolder();
     PartFolder(const PartFolder &) = delete;
     PartFolder &operator=(const PartFolder &) = delete;
