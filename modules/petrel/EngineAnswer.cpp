@@ -149,7 +149,10 @@ void readFilm(const QJsonObject &json, EngineAnswer &answer)
     const QString live = json["live_status"_L1].toString();
     answer.isLive = live == "is_live"_L1 || json["is_live"_L1].toBool();
     answer.isToCome = live == "is_upcoming"_L1;
-    answer.isProtected = json["_has_drm"_L1].toBool();
+    // Told of any form; those have been left out.
+    answer.isProtected = json["_has_drm"_L1].toBool() && !std::ranges::any_of(answer.forms, [](const auto &form) {
+                             return form.hasVideo || form.hasAudio;
+                         });
     answer.ageLimit = int(numberOf(json["age_limit"_L1], 150));
     answer.hasChapters = !json["chapters"_L1].toArray().isEmpty();
     answer.film = json;
