@@ -80,8 +80,9 @@ Promise promiseOf(const QJsonValue &codec)
 
 EngineAnswer::Form formOf(const QJsonObject &json)
 {
+    const int width = int(numberOf(json["width"_L1], 100'000)), height = int(numberOf(json["height"_L1], 100'000));
     return {.extension = json["ext"_L1].toString().left(10),
-            .height = int(numberOf(json["height"_L1], 100'000)),
+            .height = width > 0 && height > 0 ? std::min(width, height) : height,
             .hasVideo = promiseOf(json["vcodec"_L1]) != Promise::No,
             .hasAudio = promiseOf(json["acodec"_L1]) != Promise::No,
             .bytes = bytesOfForm(json)};

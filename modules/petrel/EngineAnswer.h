@@ -14,7 +14,7 @@ struct EngineAnswer {
     /// One of the forms that a film can be had in.
     struct Form {
         QString extension;
-        int height = 0;        ///< 0 where it is not told, or for sound
+        int height = 0;  ///< of a film upright its width, as the engine counts; 0 where it is not told, or for sound
         bool hasVideo = true;  ///< or it is not told
         bool hasAudio = true;
         qint64 bytes = 0;  ///< of what is downloaded, or about; 0 where it is not told

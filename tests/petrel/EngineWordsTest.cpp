@@ -88,7 +88,7 @@ TEST(EngineAnswerTest, PictureAndSoundApartAreOnePromise)
 {
     const auto answer = parseEngineAnswer(R"({"title": " A\nfilm ", "duration": 60.5, "thumbnail": "file:///etc/passwd",
         "formats": [{"ext": "m4a", "vcodec": "none", "acodec": "aac", "filesize": 10},
-                    {"ext": "mp4", "vcodec": "h264", "acodec": "none", "height": 720, "filesize": 100},
+                    {"ext": "mp4", "vcodec": "h264", "acodec": "none", "width": 720, "height": 1280, "filesize": 100},
                     {"ext": "mp4", "vcodec": "h264", "acodec": "none", "height": 1080, "filesize_approx": 200.7},
                     {"ext": "mp4", "vcodec": null, "height": -3}, 17],
         "requested_formats": [{"vcodec": "h264", "acodec": "none", "filesize": 100}, {"vcodec": "none", "acodec": "aac", "filesize": 10}],
