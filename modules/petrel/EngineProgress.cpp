@@ -91,16 +91,23 @@ bool EngineProgress::readReport(const QByteArray &json)
 
 void EngineProgress::sumUp(double bytesPerSecond, bool hasFraction)
 {
-    qint64 done = 0;
+    qint64 done = 0, total = 0;
     double share = 0;
     for (const File &file : std::as_const(m_files)) {
         done += file.done;
+        total += file.total;
         share += file.fraction;
     }
+    const bool isAll = m_files.size() >= (m_hasTwoFiles ? 2 : 1);
+    if (m_expectedBytes > 0 || !hasFraction || !isAll)
+        total = m_expectedBytes;
     constexpr double beforeTheEnd = 0.99;
     m_progress.stage = {};
     m_progress.bytes = done;
     m_progress.bytesPerSecond = bytesPerSecond;
+    m_progress.remainingSeconds.reset();
+    if (total > done && bytesPerSecond > 0)
+        m_progress.remainingSeconds = double(total - done) / bytesPerSecond;
     if (m_expectedBytes > 0)
         share = double(done) / double(m_expectedBytes);
     else

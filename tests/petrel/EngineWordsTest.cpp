@@ -161,6 +161,7 @@ TEST(EngineProgressTest, TwoFilesAreOneBarThatOnlyGrows)
     progress.readLine(report("media.f2.m4a", 5, 10));
     EXPECT_DOUBLE_EQ(*progress.progress().fraction, 0.75);
     EXPECT_EQ(progress.progress().bytes, 105);
+    EXPECT_DOUBLE_EQ(*progress.progress().remainingSeconds, 5 / 5.5);
     EXPECT_TRUE(progress.readLine("[Merger] Merging formats into \"media.mp4\""));
     EXPECT_FALSE(progress.progress().stage.isEmpty());
     for (const QByteArray line : {"[download] Destination: media.mp4", "kestrel-progress nonsense", ""})
