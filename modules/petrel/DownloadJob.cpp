@@ -71,8 +71,10 @@ void DownloadJob::start()
     // Of a film that is there already it will do what the site has told once, or nothing: it may be gone by now.
     const bool isThere = m_part->missingCompanions().has_value();
     auto answer = m_answers.answer(m_plan, isThere ? AnswerStore::Age::Any : AnswerStore::Age::Fresh);
-    if (!answer && isThere)
-        answer = EngineAnswer{.title = m_plan.address, .seconds = m_plan.seconds};
+    if (!answer && isThere) {
+        answer.emplace().title = m_plan.address;
+        answer->seconds = m_plan.seconds;
+    }
     if (!answer)
         return analyse();
     m_answer = *std::move(answer);

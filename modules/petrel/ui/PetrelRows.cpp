@@ -168,12 +168,16 @@ void PetrelController::readChoice(const QComboBox *box, DownloadPlan &plan) cons
     }
 }
 
-/// For what was chosen in the list, else for everything that is still to be downloaded.
+/// For what was chosen in the list, else for everything that is still to be downloaded. How fast says nothing of what
+/// has come, so what waits, has failed or was broken off takes part.
 void PetrelController::applyChoice(const QComboBox *box)
 {
     QList<JobId> ids = m_page->list()->selectedIds();
-    if (ids.isEmpty())
-        ids = queue().idsIn({JobState::Checking, JobState::Ready}, petrelJobs.toString());
+    using enum JobState;
+    if (ids.isEmpty() && box == m_limits)
+        ids = queue().idsIn({Checking, Ready, Waiting, Failed, Cancelled, Interrupted}, petrelJobs.toString());
+    else if (ids.isEmpty())
+        ids = queue().idsIn({Checking, Ready}, petrelJobs.toString());
     changePlans(ids, [this, box](DownloadPlan &plan) { readChoice(box, plan); });
 }
 
@@ -199,14 +203,16 @@ void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit
         QString folder = plan->hasOwnFolder ? record->folder : downloadFolder(*m_settings, edited);
         if (edited == *plan && folder == record->folder)
             continue;
-        if (edited.identity() != plan->identity())
+        const bool isOther = edited.identity() != plan->identity();
+        if (isOther)
             PartFolder::removeLeft(record->folder, *plan);
         else if (folder != record->folder && !PartFolder::moveLeft(record->folder, *plan, folder))
             folder = record->folder;
+        const bool isNew = isOther || folder != record->folder;
         queue().change(id, [&](JobRecord &changed) {
             setDownloadPlan(changed, edited);
             changed.folder = folder;
-            if (isEnded(changed.state))
+            if (isEnded(changed.state) && isNew)
                 changed.state = JobState::Ready;
         });
     }
