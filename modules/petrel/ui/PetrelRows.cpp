@@ -222,19 +222,19 @@ void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
 {
     const JobRecord *record = queue().record(ids.first());
     const FilmFacts facts = filmFacts(*record);
+    const auto plan = DownloadPlan::fromJson(record->plan);
     menu->addSeparator();
     if (!facts.resolutions.isEmpty()) {
         QMenu *resolutions = menu->addMenu("Resolution"_key.localized());
         for (const auto &[height, bytes] : facts.resolutions) {
             const QString size = bytes > 0 ? u"  ·  "_s + bytesText(bytes) : QString();
             resolutions->addAction(u"%1p"_s.arg(height) + size, this, [this, ids, lines = height] {
-                changePlans(ids, [lines](DownloadPlan &plan) { plan.height = lines; });
+                changePlans(ids, [lines](DownloadPlan &changed) { changed.height = lines; });
             });
         }
     }
     if (!facts.subtitles.isEmpty()) {
         QMenu *subtitles = menu->addMenu("Subtitles"_key.localized());
-        const auto plan = DownloadPlan::fromJson(record->plan);
         for (const QString &language : facts.subtitles) {
             QAction *action = subtitles->addAction(QString(language).replace(u'&', u"&&"_s));
             action->setCheckable(true);
@@ -248,8 +248,12 @@ void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
             });
         }
     }
-    menu->addAction("Allow Many From One Server"_key.localized(), this,
-                    [this, ids] { changePlans(ids, [](DownloadPlan &plan) { plan.manyFromServer = true; }); });
+    QAction *many = menu->addAction("Allow Many From One Server"_key.localized());
+    many->setCheckable(true);
+    many->setChecked(plan && plan->manyFromServer);
+    connect(many, &QAction::toggled, this, [this, ids](bool isAllowed) {
+        changePlans(ids, [isAllowed](DownloadPlan &changed) { changed.manyFromServer = isAllowed; });
+    });
     menu->addAction("Update Download Engine"_key.localized(), this, &PetrelController::updateEngine);
     menu->addAction("Remove With Partial File"_key.localized(), this, [this, ids] { removeWithParts(ids); });
 }
