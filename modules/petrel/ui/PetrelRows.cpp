@@ -11,6 +11,7 @@
 #include "modules/petrel/DownloadList.h"
 #include "modules/petrel/EngineFailure.h"
 #include "modules/petrel/PartFolder.h"
+#include "tarnwell/Folders.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -191,7 +192,7 @@ PetrelController::PlanEdit PetrelController::followProxy() const
 
 /// What runs stays as it is. What has come of a film goes to the new folder, or keeps the film where it is, or goes
 /// where it fits no more.
-void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit)
+void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit, const QString &chosenFolder)
 {
     for (const JobId id : ids) {
         const JobRecord *record = queue().record(id);
@@ -201,13 +202,19 @@ void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit
         DownloadPlan edited = *plan;
         edit(edited);
         QString folder = plan->hasOwnFolder ? record->folder : downloadFolder(*m_settings, edited);
+        if (!chosenFolder.isNull())
+            folder = chosenFolder;
         if (edited == *plan && folder == record->folder)
             continue;
         const bool isOther = edited.identity() != plan->identity();
-        if (isOther)
+        if (isOther) {
             PartFolder::removeLeft(record->folder, *plan);
-        else if (folder != record->folder && !PartFolder::moveLeft(record->folder, *plan, folder))
+        } else if (folder != record->folder && !PartFolder::moveLeft(record->folder, *plan, folder)) {
             folder = record->folder;
+            if (!chosenFolder.isNull())
+                m_page->showMessage(
+                    "What has come cannot be moved to that folder, so it stays where it is."_key.localized());
+        }
         const bool isNew = isOther || folder != record->folder;
         queue().change(id, [&](JobRecord &changed) {
             setDownloadPlan(changed, edited);
@@ -253,6 +260,12 @@ void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
     many->setChecked(plan && plan->manyFromServer);
     connect(many, &QAction::toggled, this, [this, ids](bool isAllowed) {
         changePlans(ids, [isAllowed](DownloadPlan &changed) { changed.manyFromServer = isAllowed; });
+    });
+    menu->addAction("Save To…"_key.localized(), this, [this, ids, present = record->folder] {
+        const QString folder = tarnwell::chooseFolder(m_page, present);
+        if (!folder.isEmpty())
+            changePlans(
+                ids, [](DownloadPlan &changed) { changed.hasOwnFolder = true; }, folder);
     });
     menu->addAction("Update Download Engine"_key.localized(), this, &PetrelController::updateEngine);
     menu->addAction("Remove With Partial File"_key.localized(), this, [this, ids] { removeWithParts(ids); });
