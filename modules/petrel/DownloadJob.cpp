@@ -173,9 +173,10 @@ EngineFailure DownloadJob::failureOf(const ToolEnding &ending) const
 {
     using Kind = EngineFailure::Kind;
     const EngineFailure failure = engineFailure(ending, m_plan.proxy);
-    // A server that was there before is not there because the way to it is broken.
+    // A server that was there before has broken off, or the way to it is broken.
     if (failure.kind == Kind::NotThere && m_part->bytes() > 0)
-        return engineFailureOf(Kind::NoNetwork);
+        return hasNetwork() ? EngineFailure{failure.kind, engineFailureOf(Kind::Server).sentence}
+                            : engineFailureOf(Kind::NoNetwork);
     // What runs below the engine does not always tell why it could not write.
     const auto space = diskSpaceOf(m_folder);
     if (failure.kind == Kind::Unknown && space && space->available < leastSpace)
@@ -198,7 +199,7 @@ void DownloadJob::engineFailed(const ToolEnding &ending)
         m_answers.forget(m_plan);
         return analyse();
     }
-    if (passesByItself(failure.kind))
+    if (passesByItself(failure.kind) || (failure.kind == Kind::NotThere && m_part->bytes() > 0))
         return waitAndTryAgain(failure, ending.lastWords);
     fail(failure.sentence, ending.lastWords);
 }
