@@ -265,7 +265,8 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
     if (!preset)
         return fail("The converter is missing. Please install the application again."_key);
     TranscodePlan plan;
-    plan.sources = {m_part->named(path, title())};
+    plan.sources = {path};
+    plan.namePattern = title();
     plan.preset = *preset;
     m_conversion = std::make_unique<TranscodeJob>(
         TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});

@@ -41,8 +41,6 @@ public:
     /// Whether what is there of the engine's `file` is a part of `whole`, in whatever words tell wholes apart; true,
     /// and kept for the next time, where nothing was known of it.
     bool isPartOf(const QString &file, const QString &whole);
-    /// The same file under a name of its own within the folder, for tools that make their output's name of it.
-    QString named(const QString &path, const QString &title) const;
     /// Removes what was downloaded, to begin anew.
     void clear();
     void remove();  ///< the folder and all in it
