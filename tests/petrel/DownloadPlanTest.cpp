@@ -34,8 +34,9 @@ TEST(DownloadPlanTest, AddressesAsPeoplePasteThem)
     for (const auto &[text, address] : cases)
         EXPECT_EQ(downloadAddress(QString::fromUtf8(text)), QString::fromLatin1(address)) << text;
     const QStringList both{u"https://a.example/1"_s, u"https://b.example/"_s};
-    EXPECT_EQ(addressesIn(u"Look: https://a.example/1\n\thttps://b.example/ https://a.example/1 and file:///x"_s),
-              both);
+    EXPECT_EQ(
+        addressesIn(u"Look (https://a.example/1)\n\tURL=https://b.example/, <https://a.example/1> and file:///x"_s),
+        both);
     EXPECT_EQ(textOfFile(QByteArray("h\0t\0t\0p\0", 8)), u"http");
 }
 
