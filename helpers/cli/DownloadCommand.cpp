@@ -123,7 +123,7 @@ QList<JobRecord> jobsFor(const DownloadPlan &plan, const Analysis::Answer &answe
 }
 
 /// The jobs for the addresses, in their order, once all of them have been looked at; each is started as soon as its
-/// own was. Those until then where a signal ended that.
+/// own was. Those that a signal came before are cancelled.
 QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &request, CliSession &session,
                       const QString &folder)
 {
@@ -150,8 +150,11 @@ QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &reque
         analysis.ask(number, planOf(number));
     session.wait(loop);
     QList<JobId> all;
-    for (const QList<JobId> &some : ids)
-        all += some;
+    for (size_t number = 0; number < ids.size(); ++number) {
+        JobRecord unasked = downloadJob(planOf(qint64(number)), folder);
+        unasked.state = unasked.outcome.state = JobState::Cancelled;
+        all += ids[number].isEmpty() ? QList{session.queue().add(unasked)} : ids[number];
+    }
     return all;
 }
 
