@@ -245,7 +245,7 @@ void DownloadJob::looked(const ToolEnding &ending, const QString &path)
         ending.isGood() ? parseOutputReport(ending.output, QFileInfo(path).size()) : std::optional<FoundOutput>();
     m_check = found ? checkDownload(m_plan, m_answer, *found, toldPackets(ending.output), QFileInfo(path).suffix(),
                                     ending.lastWords)
-                    : DownloadCheck{DownloadCheck::Finding::Useless, "What the server sent is no film."_key};
+                    : DownloadCheck{DownloadCheck::Finding::Useless, notAFilm};
     switch (m_check.finding) {
         case DownloadCheck::Finding::Useless:
             // It would be the same at the next attempt.

@@ -181,11 +181,13 @@ QList<std::pair<int, qint64>> EngineAnswer::resolutions() const
 
 foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &output, const QString &address)
 {
-    QJsonObject root;
-    if (output.size() <= maximumAnswerBytes)
-        root = QJsonDocument::fromJson(answerLine(output)).object();
+    using Kind = EngineFailure::Kind;
+    if (output.size() > maximumAnswerBytes)
+        return foundation::Failure{engineFailureOf(Kind::TooLong).sentence};
+    const QJsonObject root = QJsonDocument::fromJson(answerLine(output)).object();
     if (root.isEmpty())
-        return foundation::Failure{Sentence("What the site answered could not be understood."_key)};
+        return foundation::Failure{
+            Sentence("What the site answered could not be understood. Update the download engine and try again."_key)};
     EngineAnswer answer;
     const bool isList = root["_type"_L1].toString().endsWith("playlist"_L1) || root.contains("entries"_L1);
     if (!isList) {
@@ -201,7 +203,7 @@ foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &o
                     answer.entries.append(entryOf(entries.at(index).toObject(), int(index) + 1, address));
             }
             if (answer.entries.isEmpty())
-                return foundation::Failure{Sentence("There is no film at this address."_key)};
+                return foundation::Failure{engineFailureOf(Kind::NoFilm).sentence};
         }
     }
     if (answer.title.isEmpty())

@@ -48,12 +48,14 @@ constexpr KindSentence sentences[] = {
     {Kind::Certificate,
      "The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date."_key},
     {Kind::NoFilm, "There is no film at this address. Look for the page that plays it."_key},
+    {Kind::TooLong,
+     "There are too many films at this address to look at them all. Add the address of one of them."_key},
     {Kind::NoSuchForm, "The film is not there in the form that was wanted. Choose another resolution or format."_key},
     {Kind::Disk, "There is no space left on the disk. Free some space and try again; what has come is kept."_key},
     {Kind::EngineOld,
      "The site has changed and the download engine does not know it any more. Update the engine and try again."_key},
     {Kind::EngineBroken, "The download engine does not work. Please install the application again."_key},
-    {Kind::Unknown, "The download failed. The details tell what the engine said."_key},
+    {Kind::Unknown, "The download failed. Try again later; the details tell what the engine said."_key},
 };
 
 struct Words {
@@ -165,7 +167,7 @@ EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy)
             kind = Kind::Server;
             break;
         case OutputLimit:
-            kind = Kind::NoFilm;
+            kind = Kind::TooLong;
             break;
         default:
             kind = kindOf(ending.lastWords);
@@ -182,7 +184,7 @@ EngineFailure engineFailureOf(EngineFailure::Kind kind)
 
 int retryAfterIn(const QByteArray &output)
 {
-    constexpr int longest = 3600;
+    constexpr int longest = 24 * 3600;
     static const QByteArray mark = "header: retry-after: ";
     const QByteArray text = output.right(256 * 1024);
     const qsizetype place = text.toLower().lastIndexOf(mark);

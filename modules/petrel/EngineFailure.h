@@ -24,6 +24,7 @@ struct EngineFailure {
         NotThere,  ///< nobody answers at that place, or the place has no such name
         Certificate,
         NoFilm,
+        TooLong,  ///< an answer that nobody reads to its end
         NoSuchForm,
         Disk,
         EngineOld,
@@ -38,8 +39,8 @@ struct EngineFailure {
 /// Who goes through a proxy reaches nothing but that: `proxy` is its address, null for none.
 EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy = {});
 
-/// Seconds that a server wants to be left alone, from what the engine tells of its answers; 0 where it does not say, an
-/// hour at most.
+/// Seconds that a server wants to be left alone, from what the engine tells of its answers; 0 where it does not say, a
+/// day at most.
 int retryAfterIn(const QByteArray &output);
 
 EngineFailure engineFailureOf(EngineFailure::Kind kind);  ///< with its sentence

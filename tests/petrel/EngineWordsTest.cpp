@@ -73,9 +73,9 @@ TEST(EngineFailureTest, AServerTellsHowLongItWantsToBeLeftAlone)
     const std::pair<QByteArray, int> cases[] = {
         {"header: Retry-After: 2", 2},
         {"header: retry-after: 5\nheader: Retry-After: 70 \nnull", 70},
-        {"header: Retry-After: 99999999999", 3600},
+        {"header: Retry-After: 99999999999", 86400},
         {"header: Retry-After: Sat, 22 Nov 2014 22:24:42 GMT", 0},
-        {"header: Retry-After: Sat, 21 Nov 2099 22:24:42 GMT", 3600},
+        {"header: Retry-After: Sat, 21 Nov 2099 22:24:42 GMT", 86400},
         {"header: Server: x", 0},
     };
     for (const auto &[output, seconds] : cases)
