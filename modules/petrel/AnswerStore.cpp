@@ -48,11 +48,8 @@ std::optional<EngineAnswer> AnswerStore::answer(const DownloadPlan &plan, Age ag
     auto answer = parseEngineAnswer(file.readAll(), plan.address);
     if (!answer || !answer->entries.isEmpty())
         return std::nullopt;
-    // What would be downloaded was told of the form that was asked for then.
-    if (answer->film[formKey].toString() != QString::fromLatin1(plan.identity())) {
-        answer->bytes = 0;
-        answer->video = answer->sound = EngineAnswer::Promise::Unknown;
-    }
+    if (answer->film[formKey].toString() != QString::fromLatin1(plan.identity()))
+        answer->forgetChoice();
     return *std::move(answer);
 }
 

@@ -85,6 +85,7 @@ EngineAnswer::Form formOf(const QJsonObject &json)
             .height = width > 0 && height > 0 ? std::min(width, height) : height,
             .hasVideo = promiseOf(json["vcodec"_L1]) != Promise::No,
             .hasAudio = promiseOf(json["acodec"_L1]) != Promise::No,
+            .tellsAudio = promiseOf(json["acodec"_L1]) == Promise::Yes,
             .bytes = bytesOfForm(json)};
 }
 
@@ -160,6 +161,13 @@ void readFilm(const QJsonObject &json, EngineAnswer &answer)
 }
 
 }  // namespace
+
+void EngineAnswer::forgetChoice()
+{
+    bytes = 0;
+    video = Promise::Unknown;
+    sound = std::ranges::any_of(forms, &Form::tellsAudio) ? Promise::Yes : Promise::Unknown;
+}
 
 QList<std::pair<int, qint64>> EngineAnswer::resolutions() const
 {

@@ -86,14 +86,14 @@ const QString page = u"https://a.example/page"_s;
 
 TEST(EngineAnswerTest, PictureAndSoundApartAreOnePromise)
 {
-    const auto answer = parseEngineAnswer(R"({"title": " A\nfilm ", "duration": 60.5, "thumbnail": "file:///etc/passwd",
+    auto answer = parseEngineAnswer(R"({"title": " A\nfilm ", "duration": 60.5, "thumbnail": "file:///etc/passwd",
         "formats": [{"ext": "m4a", "vcodec": "none", "acodec": "aac", "filesize": 10},
                     {"ext": "mp4", "vcodec": "h264", "acodec": "none", "width": 720, "height": 1280, "filesize": 100},
                     {"ext": "mp4", "vcodec": "h264", "acodec": "none", "height": 1080, "filesize_approx": 200.7},
                     {"ext": "mp4", "vcodec": null, "height": -3}, 17],
         "requested_formats": [{"vcodec": "h264", "acodec": "none", "filesize": 100}, {"vcodec": "none", "acodec": "aac", "filesize": 10}],
         "subtitles": {"en": [], "live_chat": []}, "live_status": "not_live", "age_limit": "old"})",
-                                          page);
+                                    page);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->title, u"A film"_s);
     EXPECT_EQ(answer->seconds, 60.5);
@@ -104,6 +104,8 @@ TEST(EngineAnswerTest, PictureAndSoundApartAreOnePromise)
     EXPECT_EQ(answer->subtitles, QStringList{u"en"_s});
     const QList<std::pair<int, qint64>> resolutions{{1080, 210}, {720, 110}};
     EXPECT_EQ(answer->resolutions(), resolutions);
+    answer->forgetChoice();
+    EXPECT_EQ(answer->sound, Promise::Yes);
 }
 
 TEST(EngineAnswerTest, ListsKeepHowTheirFilmsAreFound)
