@@ -141,6 +141,10 @@ TEST_F(EngineStoreTest, WhatIsNotWholeOrIsGoneIsNotUsed)
     const QString path = install("2024.1.2");
     QFile::remove(path);
     EXPECT_EQ(store.engine(), bundled());
+    EXPECT_NE(install("2024.1.3"), QString());
+    EXPECT_NE(store.engine(), bundled());
+    QFile::resize(bundled(), 1);  // another bundle
+    EXPECT_EQ(store.engine(), bundled());
 }
 
 TEST_F(EngineStoreTest, ThePublisherIsAskedOnceInSixHours)
