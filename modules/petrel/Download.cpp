@@ -83,6 +83,7 @@ EngineTools engineTools(const JKestrelSettingDispatcher &settings)
         .engine = engineStore().engine(),
         .transcoderFolder = QFileInfo(settings.getTranscoderPath()).absolutePath(),
         .home = downloadDataFolder() + "/home"_L1,
+        .python = tarnwell::productBundle().resource(u"petrel.bundle/Contents/Resources/python"_s),
         .tried = [](const EngineTools &tools, std::optional<EngineFailure::Kind> failure) -> std::optional<QString> {
             using enum EngineStore::Damage;
             const EngineStore store = engineStore();

@@ -37,6 +37,8 @@ QProcessEnvironment environmentFor(const DownloadPlan &plan, const EngineTools &
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const auto &name : {"PYTHONPATH"_L1, "PYTHONSTARTUP"_L1, "PYTHONHOME"_L1})
         environment.remove(name);
+    if (!tools.python.isEmpty())
+        environment.insert(u"PYTHONPATH"_s, tools.python);
     environment.insert(u"PYTHONNOUSERSITE"_s, u"1"_s);
     environment.insert(u"PYTHONDONTWRITEBYTECODE"_s, u"1"_s);
     environment.insert(u"PYTHONUNBUFFERED"_s, u"1"_s);  // what it prints by two ways keeps its order

@@ -15,6 +15,7 @@ struct EngineTools {
     QString engine;            ///< absolute path of yt-dlp
     QString transcoderFolder;  ///< that ffmpeg and ffprobe stand in
     QString home;              ///< a folder of Kestrel's that stands for the user's home
+    QString python = {};       ///< whose sitecustomize.py the engine's Python begins with; null for none
     /// What came of them: how the engine failed, nothing where it has worked. May name another one to try.
     std::function<std::optional<QString>(const EngineTools &, std::optional<EngineFailure::Kind> failure)> tried = {};
     QString failed = {};  ///< the engine before this one; null for none
