@@ -70,16 +70,30 @@ void DownloadJob::start()
     m_resumed = m_part->bytes();
     // Of a film that is there already it will do what the site has told once, or nothing: it may be gone by now.
     const bool isThere = m_part->missingCompanions().has_value();
-    auto answer = m_answers.answer(m_plan, isThere ? AnswerStore::Age::Any : AnswerStore::Age::Fresh);
-    if (!answer && isThere) {
-        answer.emplace().title = m_plan.address;
-        answer->seconds = m_plan.seconds;
-    }
-    if (!answer)
-        return analyse();
-    m_answer = *std::move(answer);
-    m_answerPath = m_answers.fresh(m_plan);
-    download();
+    const auto age = isThere ? AnswerStore::Age::Any : AnswerStore::Age::Fresh;
+    const auto recall = [answers = m_answers, plan = m_plan, age] { return answers.answer(plan, age); };
+    read(recall, [this, isThere](std::optional<EngineAnswer> known) {
+        if (!known && isThere) {
+            known.emplace().title = m_plan.address;
+            known->seconds = m_plan.seconds;
+        }
+        if (!known)
+            return analyse();
+        m_answer = *std::move(known);
+        m_answerPath = m_answers.fresh(m_plan);
+        download();
+    });
+}
+
+template <typename Reader, typename Taker>
+void DownloadJob::read(Reader reader, Taker taker)
+{
+    foundation::queue::asyncGlobal([self = QPointer(this), reader, taker] {
+        foundation::queue::asyncMain([self, taker, what = reader()] {
+            if (self && !self->m_isOver)
+                taker(what);
+        });
+    });
 }
 
 void DownloadJob::analyse()
@@ -94,15 +108,21 @@ void DownloadJob::analysed(const ToolEnding &ending)
     m_retryAfter = retryAfterIn(ending.output);
     if (!ending.isGood())
         return engineFailed(ending);
-    auto answer = parseEngineAnswer(ending.output, m_plan.address);
-    if (!answer)
-        return fail(answer.reason(), ending.lastWords);
-    if (!answer->entries.isEmpty())
-        return fail(addressIsOfList);
-    m_answer = *std::move(answer);
-    m_answers.keep(m_plan, m_answer);
-    m_answerPath = m_answers.fresh(m_plan);
-    download();
+    const auto parse = [answers = m_answers, plan = m_plan, output = ending.output] {
+        const auto answer = parseEngineAnswer(output, plan.address);
+        if (answer && answer->entries.isEmpty())
+            answers.keep(plan, *answer);
+        return answer;
+    };
+    read(parse, [this, words = ending.lastWords](const foundation::Result<EngineAnswer, Sentence> &answer) {
+        if (!answer)
+            return fail(answer.reason(), words);
+        if (!answer->entries.isEmpty())
+            return fail(addressIsOfList);
+        m_answer = *answer;
+        m_answerPath = m_answers.fresh(m_plan);
+        download();
+    });
 }
 
 void DownloadJob::download()
