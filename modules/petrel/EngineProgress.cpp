@@ -7,6 +7,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +19,15 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr qsizetype maximumFiles = 64;
+
+/// Endings of subtitles, which come before the film and are nothing beside it.
+constexpr std::string_view companionEndings[] = {"vtt",  "srt",  "ttml", "ass",  "ssa",  "lrc", "json3", "srv1",
+                                                 "srv2", "srv3", "sbv",  "dfxp", "sami", "tt",  "xml",   "json"};
+
+bool isCompanion(const QString &name)
+{
+    return std::ranges::count(companionEndings, name.section(u'.', -1).toStdString()) > 0;
+}
 
 struct StageWords {
     const char *beginning;
@@ -63,7 +73,7 @@ bool EngineProgress::readReport(const QByteArray &json)
     const QJsonArray parts = QJsonDocument::fromJson(json).array();
     const QJsonObject report = parts.at(1).toObject();
     const QString name = report["filename"_L1].toString();
-    if (report.isEmpty() || (m_files.size() >= maximumFiles && !m_files.contains(name)))
+    if (report.isEmpty() || isCompanion(name) || (m_files.size() >= maximumFiles && !m_files.contains(name)))
         return false;
     File &file = m_files[name];
     file.done = std::max(file.done, wholeNumber(report["downloaded_bytes"_L1]));

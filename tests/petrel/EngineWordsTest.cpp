@@ -153,6 +153,7 @@ QByteArray report(const char *file, int done, int total, const char *status = "d
 TEST(EngineProgressTest, TwoFilesAreOneBarThatOnlyGrows)
 {
     EngineProgress progress(0, true);
+    EXPECT_FALSE(progress.readLine(report("media.en.vtt", 5, 5, "finished")));
     EXPECT_TRUE(progress.readLine(report("media.f1.mp4", 50, 100)));
     EXPECT_EQ(progress.resumedAt(), 50);
     EXPECT_EQ(progress.whole(), u"22 0 100"_s);
