@@ -30,9 +30,7 @@ constexpr FailureCase failureCases[] = {
     {"ERROR: [site] x: The uploader has not made this video available in your country", Kind::Country},
     {"ERROR: [site] x: This live event will begin in 3 hours.", Kind::NotBegun},
     {"ERROR: [site] x: Track unavailable in your country due to licensing restrictions", Kind::Country},
-    {"ERROR: [site] x: The channel is not live", Kind::NotBegun},
     {"ERROR: [site] x: We're sorry, this video needs a premium account. It's not free.", Kind::Private},
-    {"ERROR: [site] x: This video is currently unavailable", Kind::Gone},
     {"ERROR: [site] x: This video is DRM protected", Kind::Protected},
     {"ERROR: unable to download video data: HTTP Error 429: Too Many Requests", Kind::TooMany},
     {"ERROR: [x] Unable to download webpage: <urlopen error [Errno -3] Temporary failure in name resolution>",
@@ -66,6 +64,7 @@ TEST(EngineFailureTest, WordsBecomeOneSentence)
     EXPECT_EQ(engineFailure(refused, u"http://p.example:1"_s).kind, Kind::Proxy);
     EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::CouldNotStart}).kind, Kind::EngineBroken);
     EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::Silence}).kind, Kind::Server);
+    EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::OutputLimit}).kind, Kind::TooLong);
 }
 
 TEST(EngineFailureTest, AServerTellsHowLongItWantsToBeLeftAlone)
@@ -92,13 +91,14 @@ TEST(EngineAnswerTest, PictureAndSoundApartAreOnePromise)
                     {"ext": "mp4", "vcodec": "h264", "acodec": "none", "height": 1080, "filesize_approx": 200.7},
                     {"ext": "mp4", "vcodec": null, "height": -3}, 17],
         "requested_formats": [{"vcodec": "h264", "acodec": "none", "filesize": 100}, {"vcodec": "none", "acodec": "aac", "filesize": 10}],
-        "subtitles": {"en": [], "live_chat": []}, "live_status": "not_live", "age_limit": "old"})",
+        "subtitles": {"en": [], "live_chat": []}, "live_status": "not_live", "_has_drm": true, "age_limit": "old"})",
                                     page);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->title, u"A film"_s);
     EXPECT_EQ(answer->seconds, 60.5);
     EXPECT_EQ(answer->picture, QString());
     EXPECT_EQ(answer->bytes, 110);
+    EXPECT_FALSE(answer->isProtected);  // there are free forms
     EXPECT_EQ(answer->video, Promise::Yes);
     EXPECT_EQ(answer->sound, Promise::Yes);
     EXPECT_EQ(answer->subtitles, QStringList{u"en"_s});
