@@ -7,6 +7,7 @@
 #include "modules/petrel/Analysis.h"
 #include "modules/petrel/Download.h"
 #include "modules/petrel/DownloadRecipe.h"
+#include "modules/petrel/PartFolder.h"
 
 #include <QDir>
 #include <QEventLoop>
@@ -113,15 +114,16 @@ QList<JobRecord> jobsFor(const DownloadPlan &plan, const Analysis::Answer &answe
     if (answer)
         return downloadJobs(plan, *answer, folder);
     JobRecord record = downloadJob(plan, folder);
-    if (passesByItself(answer.reason().kind))
-        return {record};  // it waits by itself
+    // It waits by itself, or needs the site no more.
+    if (passesByItself(answer.reason().kind) || PartFolder::hasLeftFilm(folder, plan))
+        return {record};
     record.state = JobState::Unusable;
     record.outcome = {.sentence = answer.reason().sentence, .details = answer.reason().details};
     return {record};
 }
 
 /// The jobs for the addresses, in their order, once all of them have been looked at; each is started as soon as its
-/// own was. Those until then where a signal ended that.
+/// own was. Those that a signal came before are cancelled.
 QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &request, CliSession &session,
                       const QString &folder)
 {
@@ -148,8 +150,11 @@ QList<JobId> lookedAt(const QStringList &addresses, const DownloadRequest &reque
         analysis.ask(number, planOf(number));
     session.wait(loop);
     QList<JobId> all;
-    for (const QList<JobId> &some : ids)
-        all += some;
+    for (size_t number = 0; number < ids.size(); ++number) {
+        JobRecord unasked = downloadJob(planOf(qint64(number)), folder);
+        unasked.state = unasked.outcome.state = JobState::Cancelled;
+        all += ids[number].isEmpty() ? QList{session.queue().add(unasked)} : ids[number];
+    }
     return all;
 }
 

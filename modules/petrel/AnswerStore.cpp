@@ -40,19 +40,16 @@ QString AnswerStore::fresh(const DownloadPlan &plan) const
     return file.isFile() && isFresh(file) ? file.absoluteFilePath() : QString();
 }
 
-std::optional<EngineAnswer> AnswerStore::answer(const DownloadPlan &plan) const
+std::optional<EngineAnswer> AnswerStore::answer(const DownloadPlan &plan, Age age) const
 {
-    QFile file(fresh(plan));
+    QFile file(age == Age::Fresh ? fresh(plan) : pathOf(plan));
     if (file.fileName().isEmpty() || file.size() > maximumAnswerBytes || !file.open(QIODevice::ReadOnly))
         return std::nullopt;
     auto answer = parseEngineAnswer(file.readAll(), plan.address);
     if (!answer || !answer->entries.isEmpty())
         return std::nullopt;
-    // What would be downloaded was told of the form that was asked for then.
-    if (answer->film[formKey].toString() != QString::fromLatin1(plan.identity())) {
-        answer->bytes = 0;
-        answer->video = answer->sound = EngineAnswer::Promise::Unknown;
-    }
+    if (answer->film[formKey].toString() != QString::fromLatin1(plan.identity()))
+        answer->forgetChoice();
     return *std::move(answer);
 }
 

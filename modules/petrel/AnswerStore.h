@@ -19,7 +19,8 @@ public:
 
     /// Path of the film's description for the engine; null where there is none, or it is too old.
     QString fresh(const DownloadPlan &plan) const;
-    std::optional<EngineAnswer> answer(const DownloadPlan &plan) const;
+    enum class Age { Fresh, Any };
+    std::optional<EngineAnswer> answer(const DownloadPlan &plan, Age age = Age::Fresh) const;
     /// Of a list what it tells of the films of its page, each for a plan of its own.
     void keep(const DownloadPlan &plan, const EngineAnswer &answer) const;
     void forget(const DownloadPlan &plan) const;

@@ -17,8 +17,9 @@ namespace {
 /// Seconds between attempts; after the last one it has failed.
 constexpr int waits[] = {5, 15, 45, 120, 300};
 constexpr int lastWait = int(std::size(waits)) - 1;
-constexpr int serverWaits = 2;    ///< one that breaks off without a byte more is not asked for minutes
-constexpr int longestWait = 600;  ///< seconds that others wait for this one's place
+constexpr int deadLineWaits = 150;  ///< half a day of the last one, while the machine's own network is up
+constexpr int serverWaits = 2;      ///< one that breaks off without a byte more is not asked for minutes
+constexpr int longestWait = 600;    ///< seconds that others wait for this one's place
 
 }  // namespace
 
@@ -28,7 +29,9 @@ std::optional<int> Attempts::next(Kind kind, int asked)
         return std::nullopt;
     // A night without a network is no attempt.
     if (kind == Kind::NoNetwork && !hasNetwork())
-        return waits[std::min(m_offline++, lastWait)];
+        m_offline = std::min(m_offline, lastWait);
+    if (kind == Kind::NoNetwork)
+        return m_offline < deadLineWaits ? std::optional(waits[std::min(m_offline++, lastWait)]) : std::nullopt;
     m_offline = 0;
     if (m_count >= (kind == Kind::Server ? serverWaits : lastWait + 1))
         return std::nullopt;

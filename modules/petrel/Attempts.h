@@ -10,7 +10,8 @@ namespace kestrel {
 class Attempts {
 public:
     /// Seconds until the next one; nothing where there is none any more. `asked` is what the server wants, in seconds,
-    /// 0 where it does not say. While the machine has no network there is always a next one, for ever.
+    /// 0 where it does not say. While the machine has no network there is always a next one, for ever; while it has one
+    /// that leads nowhere, for half a day.
     std::optional<int> next(EngineFailure::Kind kind, int asked);
     void reset() { m_count = m_offline = 0; }
 

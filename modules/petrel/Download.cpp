@@ -39,6 +39,8 @@ QString proxyAddress(QString address, const QString &port)
     if (!address.contains("://"_L1))
         address.prepend("http://"_L1);
     QUrl url(address);
+    if (url.scheme() == "socks"_L1)
+        url.setScheme(u"socks5"_s);
     bool isNumber = false;
     const int number = port.trimmed().toInt(&isNumber);
     if (isNumber && number > 0 && number < 65536)
@@ -50,7 +52,11 @@ QString proxyAddress(QString address, const QString &port)
 QString downloadProxy(const JKestrelSettingDispatcher &settings)
 {
     const JDownloaderSetting &setting = *settings.setting()->downloader();
-    return setting.proxyEnabled() ? proxyAddress(setting.proxyURL(), setting.proxyPort()) : QString();
+    if (!setting.proxyEnabled())
+        return {};
+    // What was to go by a proxy goes no other way.
+    const QString proxy = proxyAddress(setting.proxyURL(), setting.proxyPort());
+    return proxy.isNull() ? deadProxy.toString() : proxy;
 }
 
 int downloadsAtOnce(const JKestrelSettingDispatcher &settings)
@@ -77,6 +83,7 @@ EngineTools engineTools(const JKestrelSettingDispatcher &settings)
         .engine = engineStore().engine(),
         .transcoderFolder = QFileInfo(settings.getTranscoderPath()).absolutePath(),
         .home = downloadDataFolder() + "/home"_L1,
+        .python = tarnwell::productBundle().resource(u"petrel.bundle/Contents/Resources/python"_s),
         .tried = [](const EngineTools &tools, std::optional<EngineFailure::Kind> failure) -> std::optional<QString> {
             using enum EngineStore::Damage;
             const EngineStore store = engineStore();

@@ -18,7 +18,7 @@ DownloadPlan downloadPlan(const JKestrelSettingDispatcher &settings, const QStri
 QString downloadFolder(const JKestrelSettingDispatcher &settings, const DownloadPlan &plan);
 /// With its scheme ("http" where none is given), and the port where `port` is one; null where it makes no sense.
 QString proxyAddress(QString address, const QString &port = {});
-/// The settings' proxy in the same way; null where none is set.
+/// The settings' proxy in the same way; null where none is set, a dead one where it is none that can be used.
 QString downloadProxy(const JKestrelSettingDispatcher &settings);
 /// How many at once: a lane has no "unlimited".
 int downloadsAtOnce(const JKestrelSettingDispatcher &settings);

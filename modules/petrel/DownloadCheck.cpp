@@ -16,6 +16,9 @@ using tarnwell::Sentence;
 using tarnwell::operator""_key;
 using Finding = DownloadCheck::Finding;
 
+constexpr tarnwell::TextKey notAFilm =
+    "What the server sent is no film. Open the address in a browser to see what it is."_key;
+
 namespace {
 
 struct Target {
@@ -119,9 +122,9 @@ DownloadCheck checkDownload(const DownloadPlan &plan, const EngineAnswer &answer
     const bool isEmpty =
         std::none_of(found.packets.begin(), found.packets.end(), [](qint64 count) { return count > 0; });
     if (isEmpty || !information.canBeConverted())
-        return {Finding::Useless, "What the server sent is no film."_key};
+        return {Finding::Useless, notAFilm};
     if (plan.soundOnly && !information.hasAudio())
-        return {Finding::Useless, "This film has no sound."_key};
+        return {Finding::Useless, "This film has no sound. Choose a format with a picture for it."_key};
     const Target &target = targetOf(plan.extension);
     const bool isInForm = extension == QLatin1StringView(target.extension) &&
                           information.format.split(u',').contains(QLatin1StringView(target.format)) &&

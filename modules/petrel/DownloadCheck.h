@@ -7,6 +7,9 @@
 
 namespace kestrel {
 
+/// What is told of a useless one that holds neither picture nor sound.
+extern const tarnwell::TextKey notAFilm;
+
 /// What is to be done with a file that has come.
 struct DownloadCheck {
     enum class Finding {

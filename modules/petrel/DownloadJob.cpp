@@ -17,7 +17,9 @@
 #include <QJsonArray>
 #include <QPointer>
 
+#include <algorithm>
 #include <cstdio>
+#include <iterator>
 #include <utility>
 
 using namespace Qt::StringLiterals;
@@ -66,12 +68,32 @@ void DownloadJob::start()
         return fail(part.reason());
     m_part = *std::move(part);
     m_resumed = m_part->bytes();
-    if (auto answer = m_answers.answer(m_plan)) {
-        m_answer = *std::move(answer);
+    // Of a film that is there already it will do what the site has told once, or nothing: it may be gone by now.
+    const bool isThere = m_part->missingCompanions().has_value();
+    const auto age = isThere ? AnswerStore::Age::Any : AnswerStore::Age::Fresh;
+    const auto recall = [answers = m_answers, plan = m_plan, age] { return answers.answer(plan, age); };
+    read(recall, [this, isThere](std::optional<EngineAnswer> known) {
+        if (!known && isThere) {
+            known.emplace().title = m_plan.address;
+            known->seconds = m_plan.seconds;
+        }
+        if (!known)
+            return analyse();
+        m_answer = *std::move(known);
         m_answerPath = m_answers.fresh(m_plan);
-        return download();
-    }
-    analyse();
+        download();
+    });
+}
+
+template <typename Reader, typename Taker>
+void DownloadJob::read(Reader reader, Taker taker)
+{
+    foundation::queue::asyncGlobal([self = QPointer(this), reader, taker] {
+        foundation::queue::asyncMain([self, taker, what = reader()] {
+            if (self && !self->m_isOver)
+                taker(what);
+        });
+    });
 }
 
 void DownloadJob::analyse()
@@ -86,15 +108,21 @@ void DownloadJob::analysed(const ToolEnding &ending)
     m_retryAfter = retryAfterIn(ending.output);
     if (!ending.isGood())
         return engineFailed(ending);
-    auto answer = parseEngineAnswer(ending.output, m_plan.address);
-    if (!answer)
-        return fail(answer.reason(), ending.lastWords);
-    if (!answer->entries.isEmpty())
-        return fail(addressIsOfList);
-    m_answer = *std::move(answer);
-    m_answers.keep(m_plan, m_answer);
-    m_answerPath = m_answers.fresh(m_plan);
-    download();
+    const auto parse = [answers = m_answers, plan = m_plan, output = ending.output] {
+        const auto answer = parseEngineAnswer(output, plan.address);
+        if (answer && answer->entries.isEmpty())
+            answers.keep(plan, *answer);
+        return answer;
+    };
+    read(parse, [this, words = ending.lastWords](const foundation::Result<EngineAnswer, Sentence> &answer) {
+        if (!answer)
+            return fail(answer.reason(), words);
+        if (!answer->entries.isEmpty())
+            return fail(addressIsOfList);
+        m_answer = *answer;
+        m_answerPath = m_answers.fresh(m_plan);
+        download();
+    });
 }
 
 void DownloadJob::download()
@@ -165,9 +193,10 @@ EngineFailure DownloadJob::failureOf(const ToolEnding &ending) const
 {
     using Kind = EngineFailure::Kind;
     const EngineFailure failure = engineFailure(ending, m_plan.proxy);
-    // A server that was there before is not there because the way to it is broken.
+    // A server that was there before has broken off, or the way to it is broken.
     if (failure.kind == Kind::NotThere && m_part->bytes() > 0)
-        return engineFailureOf(Kind::NoNetwork);
+        return hasNetwork() ? EngineFailure{failure.kind, engineFailureOf(Kind::Server).sentence}
+                            : engineFailureOf(Kind::NoNetwork);
     // What runs below the engine does not always tell why it could not write.
     const auto space = diskSpaceOf(m_folder);
     if (failure.kind == Kind::Unknown && space && space->available < leastSpace)
@@ -183,14 +212,14 @@ void DownloadJob::engineFailed(const ToolEnding &ending)
         tarnwell::DNFootLog(u"Trying another engine: %1"_s.arg(ending.lastWords));
         return analyse();
     }
-    const bool mayHaveExpired =
-        failure.kind == Kind::Refused || failure.kind == Kind::Gone || failure.kind == Kind::NoSuchForm;
+    constexpr Kind ofExpired[] = {Kind::Refused, Kind::Gone, Kind::NoSuchForm, Kind::LogIn};
+    const bool mayHaveExpired = std::ranges::find(ofExpired, failure.kind) != std::end(ofExpired);
     if (mayHaveExpired && !m_answerPath.isNull() && !m_hasAskedAgain) {
         m_hasAskedAgain = true;
         m_answers.forget(m_plan);
         return analyse();
     }
-    if (passesByItself(failure.kind))
+    if (passesByItself(failure.kind) || (failure.kind == Kind::NotThere && m_part->bytes() > 0))
         return waitAndTryAgain(failure, ending.lastWords);
     fail(failure.sentence, ending.lastWords);
 }
@@ -236,7 +265,7 @@ void DownloadJob::looked(const ToolEnding &ending, const QString &path)
         ending.isGood() ? parseOutputReport(ending.output, QFileInfo(path).size()) : std::optional<FoundOutput>();
     m_check = found ? checkDownload(m_plan, m_answer, *found, toldPackets(ending.output), QFileInfo(path).suffix(),
                                     ending.lastWords)
-                    : DownloadCheck{DownloadCheck::Finding::Useless, "What the server sent is no film."_key};
+                    : DownloadCheck{DownloadCheck::Finding::Useless, notAFilm};
     switch (m_check.finding) {
         case DownloadCheck::Finding::Useless:
             // It would be the same at the next attempt.
@@ -256,7 +285,8 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
     if (!preset)
         return fail("The converter is missing. Please install the application again."_key);
     TranscodePlan plan;
-    plan.sources = {m_part->named(path, title())};
+    plan.sources = {path};
+    plan.namePattern = title();
     plan.preset = *preset;
     m_conversion = std::make_unique<TranscodeJob>(
         TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});

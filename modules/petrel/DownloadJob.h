@@ -43,6 +43,10 @@ protected:
     void discard() override;
 
 private:
+    /// Hands to `taker`, unless the job is over by then, what `reader` brings from the background: some answers are
+    /// megabytes.
+    template <typename Reader, typename Taker>
+    void read(Reader reader, Taker taker);
     void analyse();
     void analysed(const ToolEnding &ending);
     void download();

@@ -51,6 +51,10 @@ QString runText(const JobRecord &record)
         parts.append(u"%1 %"_s.arg(std::floor(*progress.fraction * 100)));
     else
         parts.append(bytesText(progress.bytes));
+    // What the site has not told is known by what came.
+    const auto plan = DownloadPlan::fromJson(record.plan);
+    if (progress.fraction.value_or(0) > 0 && plan && plan->bytes == 0)
+        parts.append(bytesText(qint64(double(progress.bytes) / *progress.fraction)));
     parts.append(Sentence("%1/s"_key, {bytesText(qint64(progress.bytesPerSecond))}).localized());
     if (progress.remainingSeconds)
         parts.append(remainingTimeText(*progress.remainingSeconds));

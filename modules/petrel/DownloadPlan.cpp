@@ -48,6 +48,23 @@ bool isLikelyPlace(const QUrl &url)
     return host == "localhost"_L1 || number.match(host).hasMatch() || (name.match(host).hasMatch() && !isFile);
 }
 
+/// Without what a text has put around it: "(https://a.example/x)," and "URL=https://a.example/x".
+QString withoutSurroundings(const QString &word)
+{
+    static const QRegularExpression web(u"https?://[^\\s<>\"]+"_s, QRegularExpression::CaseInsensitiveOption);
+    // An address without a scheme may have another one in it.
+    if (!word.startsWith("http"_L1, Qt::CaseInsensitive) && !downloadAddress(word).isNull())
+        return word;
+    const QRegularExpressionMatch match = web.match(word);
+    QString address = match.hasMatch() ? match.captured() : word;
+    const auto isAround = [&address](QChar last) {
+        return u".,;'"_s.contains(last) || (last == u')' && address.count(u')') > address.count(u'('));
+    };
+    while (match.hasMatch() && isAround(address.back()))
+        address.chop(1);
+    return address;
+}
+
 }  // namespace
 
 QJsonObject DownloadPlan::toJson() const
@@ -140,7 +157,7 @@ QStringList addressesIn(const QString &text)
     QStringList addresses;
     QSet<QString> known;
     for (const QString &word : text.split(blanks, Qt::SkipEmptyParts)) {
-        const QString address = downloadAddress(word);
+        const QString address = downloadAddress(withoutSurroundings(word));
         if (address.isNull() || known.contains(address))
             continue;
         known.insert(address);

@@ -80,10 +80,12 @@ Promise promiseOf(const QJsonValue &codec)
 
 EngineAnswer::Form formOf(const QJsonObject &json)
 {
+    const int width = int(numberOf(json["width"_L1], 100'000)), height = int(numberOf(json["height"_L1], 100'000));
     return {.extension = json["ext"_L1].toString().left(10),
-            .height = int(numberOf(json["height"_L1], 100'000)),
+            .height = width > 0 && height > 0 ? std::min(width, height) : height,
             .hasVideo = promiseOf(json["vcodec"_L1]) != Promise::No,
             .hasAudio = promiseOf(json["acodec"_L1]) != Promise::No,
+            .tellsAudio = promiseOf(json["acodec"_L1]) == Promise::Yes,
             .bytes = bytesOfForm(json)};
 }
 
@@ -149,13 +151,23 @@ void readFilm(const QJsonObject &json, EngineAnswer &answer)
     const QString live = json["live_status"_L1].toString();
     answer.isLive = live == "is_live"_L1 || json["is_live"_L1].toBool();
     answer.isToCome = live == "is_upcoming"_L1;
-    answer.isProtected = json["_has_drm"_L1].toBool();
+    // Told of any form; those have been left out.
+    answer.isProtected = json["_has_drm"_L1].toBool() && !std::ranges::any_of(answer.forms, [](const auto &form) {
+                             return form.hasVideo || form.hasAudio;
+                         });
     answer.ageLimit = int(numberOf(json["age_limit"_L1], 150));
     answer.hasChapters = !json["chapters"_L1].toArray().isEmpty();
     answer.film = json;
 }
 
 }  // namespace
+
+void EngineAnswer::forgetChoice()
+{
+    bytes = 0;
+    video = Promise::Unknown;
+    sound = std::ranges::any_of(forms, &Form::tellsAudio) ? Promise::Yes : Promise::Unknown;
+}
 
 QList<std::pair<int, qint64>> EngineAnswer::resolutions() const
 {
@@ -177,11 +189,13 @@ QList<std::pair<int, qint64>> EngineAnswer::resolutions() const
 
 foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &output, const QString &address)
 {
-    QJsonObject root;
-    if (output.size() <= maximumAnswerBytes)
-        root = QJsonDocument::fromJson(answerLine(output)).object();
+    using Kind = EngineFailure::Kind;
+    if (output.size() > maximumAnswerBytes)
+        return foundation::Failure{engineFailureOf(Kind::TooLong).sentence};
+    const QJsonObject root = QJsonDocument::fromJson(answerLine(output)).object();
     if (root.isEmpty())
-        return foundation::Failure{Sentence("What the site answered could not be understood."_key)};
+        return foundation::Failure{
+            Sentence("What the site answered could not be understood. Update the download engine and try again."_key)};
     EngineAnswer answer;
     const bool isList = root["_type"_L1].toString().endsWith("playlist"_L1) || root.contains("entries"_L1);
     if (!isList) {
@@ -197,7 +211,7 @@ foundation::Result<EngineAnswer, Sentence> parseEngineAnswer(const QByteArray &o
                     answer.entries.append(entryOf(entries.at(index).toObject(), int(index) + 1, address));
             }
             if (answer.entries.isEmpty())
-                return foundation::Failure{Sentence("There is no film at this address."_key)};
+                return foundation::Failure{engineFailureOf(Kind::NoFilm).sentence};
         }
     }
     if (answer.title.isEmpty())

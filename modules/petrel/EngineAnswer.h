@@ -14,10 +14,11 @@ struct EngineAnswer {
     /// One of the forms that a film can be had in.
     struct Form {
         QString extension;
-        int height = 0;        ///< 0 where it is not told, or for sound
+        int height = 0;  ///< of a film upright its width, as the engine counts; 0 where it is not told, or for sound
         bool hasVideo = true;  ///< or it is not told
         bool hasAudio = true;
-        qint64 bytes = 0;  ///< of what is downloaded, or about; 0 where it is not told
+        bool tellsAudio = false;  ///< its sound is no guess
+        qint64 bytes = 0;         ///< of what is downloaded, or about; 0 where it is not told
     };
     /// One film of a page or a list.
     struct Entry {
@@ -47,6 +48,8 @@ struct EngineAnswer {
     /// For the engine to download from, as it is; empty where it is a list.
     QJsonObject film;
 
+    /// Another form is asked for than was: what would be downloaded is not known, but that there is sound may be.
+    void forgetChoice();
     /// Heights that are there, highest first, each with the size that a download of it would have or 0.
     QList<std::pair<int, qint64>> resolutions() const;
 };

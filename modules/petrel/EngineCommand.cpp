@@ -20,8 +20,7 @@ constexpr QLatin1StringView onlyWeb("[protocol~='^(http|m3u8|ism)']");
 /// for the web alone.
 void setProxy(QProcessEnvironment &environment, const QString &proxy)
 {
-    static const QString none = u"http://127.0.0.1:9"_s;
-    environment.insert(u"ftp_proxy"_s, proxy.startsWith("http"_L1) ? proxy : none);
+    environment.insert(u"ftp_proxy"_s, proxy.startsWith("http"_L1) ? proxy : deadProxy.toString());
     if (proxy.isEmpty())
         return;
     for (const auto &name : {"no_proxy"_L1, "NO_PROXY"_L1, "HTTP_PROXY"_L1, "HTTPS_PROXY"_L1, "ALL_PROXY"_L1})
@@ -38,6 +37,8 @@ QProcessEnvironment environmentFor(const DownloadPlan &plan, const EngineTools &
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     for (const auto &name : {"PYTHONPATH"_L1, "PYTHONSTARTUP"_L1, "PYTHONHOME"_L1})
         environment.remove(name);
+    if (!tools.python.isEmpty())
+        environment.insert(u"PYTHONPATH"_s, tools.python);
     environment.insert(u"PYTHONNOUSERSITE"_s, u"1"_s);
     environment.insert(u"PYTHONDONTWRITEBYTECODE"_s, u"1"_s);
     environment.insert(u"PYTHONUNBUFFERED"_s, u"1"_s);  // what it prints by two ways keeps its order

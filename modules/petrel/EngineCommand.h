@@ -15,10 +15,14 @@ struct EngineTools {
     QString engine;            ///< absolute path of yt-dlp
     QString transcoderFolder;  ///< that ffmpeg and ffprobe stand in
     QString home;              ///< a folder of Kestrel's that stands for the user's home
+    QString python = {};       ///< whose sitecustomize.py the engine's Python begins with; null for none
     /// What came of them: how the engine failed, nothing where it has worked. May name another one to try.
     std::function<std::optional<QString>(const EngineTools &, std::optional<EngineFailure::Kind> failure)> tried = {};
     QString failed = {};  ///< the engine before this one; null for none
 };
+
+/// A proxy through which nothing gets anywhere.
+inline constexpr QStringView deadProxy = u"http://127.0.0.1:9";
 
 /// After a failure: whether there is another engine to try, which is in `tools` then.
 bool takeOtherEngine(EngineTools &tools, EngineFailure::Kind failure);

@@ -48,12 +48,14 @@ constexpr KindSentence sentences[] = {
     {Kind::Certificate,
      "The server's certificate is not valid, so it may not be who it says it is. Nothing was downloaded; check the address and this computer's date."_key},
     {Kind::NoFilm, "There is no film at this address. Look for the page that plays it."_key},
+    {Kind::TooLong,
+     "There are too many films at this address to look at them all. Add the address of one of them."_key},
     {Kind::NoSuchForm, "The film is not there in the form that was wanted. Choose another resolution or format."_key},
     {Kind::Disk, "There is no space left on the disk. Free some space and try again; what has come is kept."_key},
     {Kind::EngineOld,
      "The site has changed and the download engine does not know it any more. Update the engine and try again."_key},
     {Kind::EngineBroken, "The download engine does not work. Please install the application again."_key},
-    {Kind::Unknown, "The download failed. The details tell what the engine said."_key},
+    {Kind::Unknown, "The download failed. Try again later; the details tell what the engine said."_key},
 };
 
 struct Words {
@@ -75,29 +77,34 @@ constexpr Words wordsTable[] = {
     {"CERTIFICATE_VERIFY_FAILED|certificate verify failed", Kind::Certificate},
     {"will begin in|has not (yet )?(begun|started)|premieres? in|(event|broadcast|stream|live).{0,30}not (yet "
      ")?started|"
-     "is upcoming|is not live yet",
+     "is upcoming|is not live yet|will start (at|in|on)\\b|not started yet|\\b(is|are) (not live|offline)|is now "
+     "offline",
      Kind::NotBegun},
     {"confirm your age|age.?(restrict|gate|verif)|inappropriate for some users", Kind::Age},
     {"not (made this video )?available (in|from) your (country|location|region)|geo.?restrict|"
-     "blocked it in your country|not available in your region|geo.?block",
+     "blocked it in your country|not available in your region|geo.?block|(un|not be )available in your "
+     "(country|location|region)|blocked in (this|your) (country|region)|HTTP Error 451",
      Kind::Country},
-    {"members.only|private video|video is private|this (video|playlist) is private|join this channel|premium "
-     "(members|subscri)|"
-     "only available (to|for) (members|subscribers|premium)|paid content|requires payment",
+    {"members.only|private video|video is private|this (video|playlist) is private|join this channel|\\bpremium\\b|"
+     "only available (to|via|for).{0,30}(member|subscri)|paid content|requires payment|not available for free|"
+     "subscription|subscribe to|protected by a pass|--video-password",
      Kind::Private},
     {"log.?in required|sign in|need to log in|only available for registered users|use --cookies|account credentials|"
      "HTTP Error 401|requires authentication",
      Kind::LogIn},
     {"Video unavailable|has been removed|no longer available|HTTP Error 404|HTTP Error 410|does not exist|"
-     "account.{0,40}terminated|been deleted",
+     "account.{0,40}terminated|been deleted|was deleted|no longer exists|has (already )?(ended|finished)|expired\\?|"
+     "\\b(video|content|track|clip|item|space|page|song)s?\\b.{0,25}(unavailable|not available|not found)(?!.*please "
+     "report)",
      Kind::Gone},
     {"Requested format is not available|No video formats found.{0,20}requested", Kind::NoSuchForm},
     {"Unsupported URL", Kind::UnknownSite},
     {"No video formats found|no (suitable )?(video|media|formats?) (could be )?found|There'?s no video|"
-     "is not a valid URL|did not get any data blocks|The page contains no",
+     "is not a valid URL|did not get any data blocks|The page contains no|contain any video|"
+     "\\bno video (on|in|content)\\b",
      Kind::NoFilm},
-    {"HTTP Error 403|Forbidden", Kind::Refused},
-    {"HTTP Error 5\\d\\d|timed? ?out|Connection reset|Connection aborted|Remote end closed|IncompleteRead|"
+    {"HTTP Error 4(?!08|16)\\d\\d|Forbidden|captcha", Kind::Refused},
+    {"HTTP Error (5\\d\\d|408)|timed? ?out|Connection reset|Connection aborted|Remote end closed|IncompleteRead|"
      "bytes read, .* more expected|ContentTooShort|Content too short|Giving up after|BadStatusLine|"
      "Connection broken|EOF occurred|fragment .{0,20}not found|HTTP Error 416|Did not get any data|BrokenPipe",
      Kind::Server},
@@ -109,10 +116,11 @@ constexpr Words wordsTable[] = {
      Kind::EngineBroken},
 };
 
-/// The lines that tell errors, or all where there is none; what stands in quotes may be a name and tells nothing.
+/// The lines that tell errors, or all where there is none; what stands in quotes may be a name and tells nothing. An
+/// apostrophe within a word is no quote.
 QString messagesIn(const QString &words)
 {
-    static const QRegularExpression quoted(u"([\"'])[^\"'\\n]{0,2000}\\1|https?://\\S+"_s);
+    static const QRegularExpression quoted(u"(?<!\\w)([\"'])[^\"'\\n]{0,2000}\\1(?!\\w)|https?://\\S+"_s);
     QStringList errors;
     for (const QString &line : words.split(u'\n')) {
         if (line.startsWith("ERROR:"_L1) || line.contains("error:"_L1))
@@ -159,7 +167,7 @@ EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy)
             kind = Kind::Server;
             break;
         case OutputLimit:
-            kind = Kind::NoFilm;
+            kind = Kind::TooLong;
             break;
         default:
             kind = kindOf(ending.lastWords);
@@ -176,7 +184,7 @@ EngineFailure engineFailureOf(EngineFailure::Kind kind)
 
 int retryAfterIn(const QByteArray &output)
 {
-    constexpr int longest = 3600;
+    constexpr int longest = 24 * 3600;
     static const QByteArray mark = "header: retry-after: ";
     const QByteArray text = output.right(256 * 1024);
     const qsizetype place = text.toLower().lastIndexOf(mark);

@@ -19,11 +19,12 @@ struct EngineFailure {
         TooMany,    ///< requests: the server wants to be left alone for a while
         NoNetwork,  ///< passes by itself
         Proxy,
-        Refused,   ///< 403: also what an address answers that has expired
+        Refused,   ///< 403 and the like: also what an address answers that has expired
         Server,    ///< it breaks off, answers nonsense or is overloaded: another attempt may do
         NotThere,  ///< nobody answers at that place, or the place has no such name
         Certificate,
         NoFilm,
+        TooLong,  ///< an answer that nobody reads to its end
         NoSuchForm,
         Disk,
         EngineOld,
@@ -38,8 +39,8 @@ struct EngineFailure {
 /// Who goes through a proxy reaches nothing but that: `proxy` is its address, null for none.
 EngineFailure engineFailure(const ToolEnding &ending, const QString &proxy = {});
 
-/// Seconds that a server wants to be left alone, from what the engine tells of its answers; 0 where it does not say, an
-/// hour at most.
+/// Seconds that a server wants to be left alone, from what the engine tells of its answers; 0 where it does not say, a
+/// day at most.
 int retryAfterIn(const QByteArray &output);
 
 EngineFailure engineFailureOf(EngineFailure::Kind kind);  ///< with its sentence

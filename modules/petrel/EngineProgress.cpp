@@ -7,6 +7,7 @@
 #include <QJsonObject>
 
 #include <algorithm>
+#include <string_view>
 
 using namespace Qt::StringLiterals;
 
@@ -18,6 +19,15 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr qsizetype maximumFiles = 64;
+
+/// Endings of subtitles, which come before the film and are nothing beside it.
+constexpr std::string_view companionEndings[] = {"vtt",  "srt",  "ttml", "ass",  "ssa",  "lrc", "json3", "srv1",
+                                                 "srv2", "srv3", "sbv",  "dfxp", "sami", "tt",  "xml",   "json"};
+
+bool isCompanion(const QString &name)
+{
+    return std::ranges::count(companionEndings, name.section(u'.', -1).toStdString()) > 0;
+}
 
 struct StageWords {
     const char *beginning;
@@ -63,7 +73,7 @@ bool EngineProgress::readReport(const QByteArray &json)
     const QJsonArray parts = QJsonDocument::fromJson(json).array();
     const QJsonObject report = parts.at(1).toObject();
     const QString name = report["filename"_L1].toString();
-    if (report.isEmpty() || (m_files.size() >= maximumFiles && !m_files.contains(name)))
+    if (report.isEmpty() || isCompanion(name) || (m_files.size() >= maximumFiles && !m_files.contains(name)))
         return false;
     File &file = m_files[name];
     file.done = std::max(file.done, wholeNumber(report["downloaded_bytes"_L1]));
@@ -91,16 +101,23 @@ bool EngineProgress::readReport(const QByteArray &json)
 
 void EngineProgress::sumUp(double bytesPerSecond, bool hasFraction)
 {
-    qint64 done = 0;
+    qint64 done = 0, total = 0;
     double share = 0;
     for (const File &file : std::as_const(m_files)) {
         done += file.done;
+        total += file.total;
         share += file.fraction;
     }
+    const bool isAll = m_files.size() >= (m_hasTwoFiles ? 2 : 1);
+    if (m_expectedBytes > 0 || !hasFraction || !isAll)
+        total = m_expectedBytes;
     constexpr double beforeTheEnd = 0.99;
     m_progress.stage = {};
     m_progress.bytes = done;
     m_progress.bytesPerSecond = bytesPerSecond;
+    m_progress.remainingSeconds.reset();
+    if (total > done && bytesPerSecond > 0)
+        m_progress.remainingSeconds = double(total - done) / bytesPerSecond;
     if (m_expectedBytes > 0)
         share = double(done) / double(m_expectedBytes);
     else

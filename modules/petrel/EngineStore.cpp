@@ -33,25 +33,37 @@ struct EngineState {
     bool isBroken = false;  ///< the suspect, altogether
     QStringList ruledOut;
     qint64 checked = 0;  ///< seconds since 1970
+    QString bundled;     ///< tells the bundle's own apart from later ones
 };
 
-EngineState readState(const QString &folder)
+/// The bundle may hold no more than a link.
+QString markOf(const QString &engine)
+{
+    const QFileInfo file(engine);
+    return u"%1 %2"_s.arg(file.size()).arg(file.lastModified().toMSecsSinceEpoch());
+}
+
+EngineState readState(const QString &folder, const QString &bundled)
 {
     QFile file(folder + "/engine.json"_L1);
-    if (file.size() > maximumState || !file.open(QIODevice::ReadOnly))
-        return {};
-    const QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
     EngineState state;
+    state.bundled = markOf(bundled);
+    if (file.size() > maximumState || !file.open(QIODevice::ReadOnly))
+        return state;
+    const QJsonObject json = QJsonDocument::fromJson(file.readAll()).object();
     // A version that is not one would be a path.
     const auto version = [&json](QLatin1StringView key) {
         const QString text = json[key].toString();
         return compareEngineVersions(text, {}) > 0 ? text : QString();
     };
-    state.current = version("current"_L1);
-    state.previous = version("previous"_L1);
-    state.isOnTrial = json["trial"_L1].toBool();
-    state.suspect = version("suspect"_L1);
-    state.isBroken = json["broken"_L1].toBool();
+    // What was newer than one bundle's may be older than the next one's, which counts then.
+    if (json["bundled"_L1].toString() == state.bundled) {
+        state.current = version("current"_L1);
+        state.previous = version("previous"_L1);
+        state.isOnTrial = json["trial"_L1].toBool();
+        state.suspect = version("suspect"_L1);
+        state.isBroken = json["broken"_L1].toBool();
+    }
     state.checked = qint64(json["checked"_L1].toDouble());
     for (const QJsonValue &ruledOut : json["ruledOut"_L1].toArray())
         state.ruledOut.append(ruledOut.toString());
@@ -69,6 +81,7 @@ bool writeState(const QString &folder, const EngineState &state)
                                          {u"suspect"_s, state.suspect},
                                          {u"broken"_s, state.isBroken},
                                          {u"checked"_s, state.checked},
+                                         {u"bundled"_s, state.bundled},
                                          {u"ruledOut"_s, QJsonArray::fromStringList(state.ruledOut)}})
                    .toJson());
     return file.commit();
@@ -93,12 +106,12 @@ QString EngineStore::engine() const
 
 QString EngineStore::version() const
 {
-    return readState(m_folder).current;
+    return readState(m_folder, m_bundled).current;
 }
 
 bool EngineStore::isOnTrial() const
 {
-    return readState(m_folder).isOnTrial;
+    return readState(m_folder, m_bundled).isOnTrial;
 }
 
 foundation::Result<QString> EngineStore::install(const EngineRelease &release, const QByteArray &bytes) const
@@ -123,7 +136,7 @@ foundation::Result<QString> EngineStore::install(const EngineRelease &release, c
 
 void EngineStore::adopt(const QString &version) const
 {
-    EngineState state = readState(m_folder);
+    EngineState state = readState(m_folder, m_bundled);
     // One that never worked is nothing to go back to.
     if (!state.isOnTrial)
         state.previous = state.current;
@@ -135,7 +148,7 @@ void EngineStore::adopt(const QString &version) const
 
 void EngineStore::ruleOut(const QString &version) const
 {
-    EngineState state = readState(m_folder);
+    EngineState state = readState(m_folder, m_bundled);
     if (!state.ruledOut.contains(version))
         state.ruledOut.append(version);
     if (writeState(m_folder, state))
@@ -144,12 +157,12 @@ void EngineStore::ruleOut(const QString &version) const
 
 bool EngineStore::isRuledOut(const QString &version) const
 {
-    return readState(m_folder).ruledOut.contains(version);
+    return readState(m_folder, m_bundled).ruledOut.contains(version);
 }
 
 void EngineStore::prove(const QString &engine, const QString &insteadOf) const
 {
-    EngineState state = readState(m_folder);
+    EngineState state = readState(m_folder, m_bundled);
     if (engine != this->engine())
         return;
     if (state.isOnTrial) {
@@ -169,7 +182,7 @@ std::optional<QString> EngineStore::fallBack(const QString &engine, Damage damag
 {
     if (const QString other = this->engine(); engine != other)
         return other;
-    EngineState state = readState(m_folder);
+    EngineState state = readState(m_folder, m_bundled);
     const bool isBroken = damage == Damage::Broken;
     // The one that took over fails too: the suspect is not to blame, and is on trial again.
     if (!state.suspect.isEmpty() && (isBroken || !state.isBroken)) {
@@ -189,7 +202,7 @@ std::optional<QString> EngineStore::fallBack(const QString &engine, Damage damag
 
 void EngineStore::sweep() const
 {
-    const EngineState state = readState(m_folder);
+    const EngineState state = readState(m_folder, m_bundled);
     const QStringList used{state.current, state.previous, state.suspect};
     for (const QFileInfo &other : QDir(m_folder).entryInfoList(QDir::Dirs | QDir::NoDotAndDotDot)) {
         const bool isComing = other.lastModified().secsTo(QDateTime::currentDateTime()) < secondsBetweenChecks;
@@ -200,7 +213,7 @@ void EngineStore::sweep() const
 
 bool EngineStore::takeTurn(const QDateTime &now) const
 {
-    EngineState state = readState(m_folder);
+    EngineState state = readState(m_folder, m_bundled);
     const qint64 seconds = now.toSecsSinceEpoch();
     // A clock that was set back is no reason to wait for years.
     if (state.checked > 0 && seconds >= state.checked && seconds - state.checked < secondsBetweenChecks)

@@ -10,7 +10,7 @@ namespace kestrel {
 /// The engines on this machine: the bundle's own and those that have come since, each in a folder of its own. One is in
 /// use. A new one is on trial until it has worked; while it is, the one before stays and takes over where it fails.
 /// What it then does better rules the new one out for good; where it fails in the same way, the new one is not to
-/// blame.
+/// blame. Where the bundle's own was replaced, that one is in use again.
 class EngineStore {
 public:
     /// `folder` is Kestrel's own; `bundled` is the engine that the program came with.

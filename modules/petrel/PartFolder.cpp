@@ -2,7 +2,6 @@
 
 #include "EngineCommand.h"
 
-#include "jobs/PortableNames.h"
 #include "jobs/SystemFailure.h"
 
 #include <QDir>
@@ -29,7 +28,6 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr int maximumAtOnce = 100;  ///< downloads of one plan into one folder
-constexpr qsizetype nameBytes = 143;
 constexpr qint64 maximumWords = 100'000;
 const QString ownerName = u"owner"_s;
 const QString companionsName = u"companions"_s;
@@ -118,6 +116,11 @@ bool PartFolder::moveLeft(const QString &folder, const DownloadPlan &plan, const
     return isMoved;
 }
 
+bool PartFolder::hasLeftFilm(const QString &folder, const DownloadPlan &plan)
+{
+    return QFileInfo(pathOf(folder, plan, 0) + u'/' + companionsName).isFile();
+}
+
 PartFolder::PartFolder(QString path, int lock) : m_path(std::move(path)), m_lock(lock)
 {
     if (QFile file(m_path + u'/' + wholesName); file.open(QFile::ReadOnly))
@@ -179,18 +182,6 @@ bool PartFolder::isPartOf(const QString &name, const QString &whole)
     if (file.open(QFile::WriteOnly) && file.write(QJsonDocument(m_wholes).toJson()) >= 0)
         file.commit();
     return true;
-}
-
-QString PartFolder::named(const QString &path, const QString &title) const
-{
-    const QString ending = u'.' + QFileInfo(path).suffix();
-    const QString name = m_path + u'/' + fittingName(portableName(title), ending, nameBytes);
-    if (name == path)
-        return path;
-    QFile::remove(name);  // of a run that was ended
-    // Not renamed: a run after this one has to find it.
-    const bool isLinked = link(QFile::encodeName(path).constData(), QFile::encodeName(name).constData()) == 0;
-    return isLinked || QFile::link(path, name) ? name : path;
 }
 
 void PartFolder::clear()

@@ -23,6 +23,9 @@ public:
     /// Takes it to another folder. False, and it stays, where that cannot be: it is on another disk, or not there.
     static bool moveLeft(const QString &folder, const DownloadPlan &plan, const QString &to);
 
+    /// Whether an earlier run has left the whole film, which is only to be looked at and converted.
+    static bool hasLeftFilm(const QString &folder, const DownloadPlan &plan);
+
     ~PartFolder();
     PartFolder(const PartFolder &) = delete;
     PartFolder &operator=(const PartFolder &) = delete;
@@ -38,8 +41,6 @@ public:
     /// Whether what is there of the engine's `file` is a part of `whole`, in whatever words tell wholes apart; true,
     /// and kept for the next time, where nothing was known of it.
     bool isPartOf(const QString &file, const QString &whole);
-    /// The same file under a name of its own within the folder, for tools that make their output's name of it.
-    QString named(const QString &path, const QString &title) const;
     /// Removes what was downloaded, to begin anew.
     void clear();
     void remove();  ///< the folder and all in it

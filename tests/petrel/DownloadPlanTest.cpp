@@ -1,5 +1,9 @@
-#include "modules/petrel/DownloadPlan.h"
+#include "foundation/UserDefaults.h"
+#include "modules/petrel/Download.h"
 #include "modules/petrel/PartFolder.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
+#include "settings/ModuleSettings.h"
 
 #include <QDir>
 #include <QFile>
@@ -34,8 +38,9 @@ TEST(DownloadPlanTest, AddressesAsPeoplePasteThem)
     for (const auto &[text, address] : cases)
         EXPECT_EQ(downloadAddress(QString::fromUtf8(text)), QString::fromLatin1(address)) << text;
     const QStringList both{u"https://a.example/1"_s, u"https://b.example/"_s};
-    EXPECT_EQ(addressesIn(u"Look: https://a.example/1\n\thttps://b.example/ https://a.example/1 and file:///x"_s),
-              both);
+    EXPECT_EQ(
+        addressesIn(u"Look (https://a.example/1)\n\tURL=https://b.example/, <https://a.example/1> and file:///x"_s),
+        both);
     EXPECT_EQ(textOfFile(QByteArray("h\0t\0t\0p\0", 8)), u"http");
 }
 
@@ -66,6 +71,18 @@ TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
     json = plan.toJson();
     json[u"version"_s] = 99;
     EXPECT_FALSE(DownloadPlan::fromJson(json));
+}
+
+TEST(DownloadTest, NothingGoesPastAProxyThatIsSwitchedOn)
+{
+    foundation::UserDefaults defaults(u"/nowhere/defaults.plist"_s);
+    JKestrelSetting setting(defaults);
+    setting.downloader()->setProxyEnabled(true);
+    for (const auto &[text, proxy] : {std::pair(u"socks://p.example:1"_s, u"socks5://p.example:1"_s),
+                                      std::pair(u"ssh://p.example:1"_s, deadProxy.toString())}) {
+        setting.downloader()->setProxyURL(text);
+        EXPECT_EQ(downloadProxy({ModuleSettingDownload, setting}), proxy);
+    }
 }
 
 TEST(PartFolderTest, IsFoundAgainByThePlanAndNobodyElseHasItMeanwhile)

@@ -141,6 +141,10 @@ TEST_F(EngineStoreTest, WhatIsNotWholeOrIsGoneIsNotUsed)
     const QString path = install("2024.1.2");
     QFile::remove(path);
     EXPECT_EQ(store.engine(), bundled());
+    const QString later = install("2024.1.3");
+    EXPECT_EQ(store.engine(), later);
+    QFile::resize(bundled(), 1);  // another bundle
+    EXPECT_EQ(store.engine(), bundled());
 }
 
 TEST_F(EngineStoreTest, ThePublisherIsAskedOnceInSixHours)

@@ -29,6 +29,8 @@ constexpr FailureCase failureCases[] = {
     {"ERROR: [site] x: Sign in to confirm your age. This video may be inappropriate for some users.", Kind::Age},
     {"ERROR: [site] x: The uploader has not made this video available in your country", Kind::Country},
     {"ERROR: [site] x: This live event will begin in 3 hours.", Kind::NotBegun},
+    {"ERROR: [site] x: Track unavailable in your country due to licensing restrictions", Kind::Country},
+    {"ERROR: [site] x: We're sorry, this video needs a premium account. It's not free.", Kind::Private},
     {"ERROR: [site] x: This video is DRM protected", Kind::Protected},
     {"ERROR: unable to download video data: HTTP Error 429: Too Many Requests", Kind::TooMany},
     {"ERROR: [x] Unable to download webpage: <urlopen error [Errno -3] Temporary failure in name resolution>",
@@ -36,6 +38,8 @@ constexpr FailureCase failureCases[] = {
     {"ERROR: [x] Unable to download webpage: <urlopen error [Errno -2] Name or service not known>", Kind::NotThere},
     {"ERROR: Unable to download webpage: <urlopen error Tunnel connection failed: 403 Forbidden>", Kind::Proxy},
     {"ERROR: unable to download video data: HTTP Error 403: Forbidden", Kind::Refused},
+    {"ERROR: unable to download video data: HTTP Error 400: Bad Request", Kind::Refused},
+    {"ERROR: unable to download video data: HTTP Error 416: Requested Range Not Satisfiable", Kind::Server},
     {"ERROR: unable to download video data: <urlopen error timed out>", Kind::Server},
     {"ERROR: [Errno 28] No space left on device", Kind::Disk},
     {"ERROR: [site] x: Unable to extract title; please report this issue on https://x.example", Kind::EngineOld},
@@ -60,6 +64,7 @@ TEST(EngineFailureTest, WordsBecomeOneSentence)
     EXPECT_EQ(engineFailure(refused, u"http://p.example:1"_s).kind, Kind::Proxy);
     EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::CouldNotStart}).kind, Kind::EngineBroken);
     EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::Silence}).kind, Kind::Server);
+    EXPECT_EQ(engineFailure({.cause = ToolEnding::Cause::OutputLimit}).kind, Kind::TooLong);
 }
 
 TEST(EngineFailureTest, AServerTellsHowLongItWantsToBeLeftAlone)
@@ -67,9 +72,9 @@ TEST(EngineFailureTest, AServerTellsHowLongItWantsToBeLeftAlone)
     const std::pair<QByteArray, int> cases[] = {
         {"header: Retry-After: 2", 2},
         {"header: retry-after: 5\nheader: Retry-After: 70 \nnull", 70},
-        {"header: Retry-After: 99999999999", 3600},
+        {"header: Retry-After: 99999999999", 86400},
         {"header: Retry-After: Sat, 22 Nov 2014 22:24:42 GMT", 0},
-        {"header: Retry-After: Sat, 21 Nov 2099 22:24:42 GMT", 3600},
+        {"header: Retry-After: Sat, 21 Nov 2099 22:24:42 GMT", 86400},
         {"header: Server: x", 0},
     };
     for (const auto &[output, seconds] : cases)
@@ -80,24 +85,27 @@ const QString page = u"https://a.example/page"_s;
 
 TEST(EngineAnswerTest, PictureAndSoundApartAreOnePromise)
 {
-    const auto answer = parseEngineAnswer(R"({"title": " A\nfilm ", "duration": 60.5, "thumbnail": "file:///etc/passwd",
+    auto answer = parseEngineAnswer(R"({"title": " A\nfilm ", "duration": 60.5, "thumbnail": "file:///etc/passwd",
         "formats": [{"ext": "m4a", "vcodec": "none", "acodec": "aac", "filesize": 10},
-                    {"ext": "mp4", "vcodec": "h264", "acodec": "none", "height": 720, "filesize": 100},
+                    {"ext": "mp4", "vcodec": "h264", "acodec": "none", "width": 720, "height": 1280, "filesize": 100},
                     {"ext": "mp4", "vcodec": "h264", "acodec": "none", "height": 1080, "filesize_approx": 200.7},
                     {"ext": "mp4", "vcodec": null, "height": -3}, 17],
         "requested_formats": [{"vcodec": "h264", "acodec": "none", "filesize": 100}, {"vcodec": "none", "acodec": "aac", "filesize": 10}],
-        "subtitles": {"en": [], "live_chat": []}, "live_status": "not_live", "age_limit": "old"})",
-                                          page);
+        "subtitles": {"en": [], "live_chat": []}, "live_status": "not_live", "_has_drm": true, "age_limit": "old"})",
+                                    page);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->title, u"A film"_s);
     EXPECT_EQ(answer->seconds, 60.5);
     EXPECT_EQ(answer->picture, QString());
     EXPECT_EQ(answer->bytes, 110);
+    EXPECT_FALSE(answer->isProtected);  // there are free forms
     EXPECT_EQ(answer->video, Promise::Yes);
     EXPECT_EQ(answer->sound, Promise::Yes);
     EXPECT_EQ(answer->subtitles, QStringList{u"en"_s});
     const QList<std::pair<int, qint64>> resolutions{{1080, 210}, {720, 110}};
     EXPECT_EQ(answer->resolutions(), resolutions);
+    answer->forgetChoice();
+    EXPECT_EQ(answer->sound, Promise::Yes);
 }
 
 TEST(EngineAnswerTest, ListsKeepHowTheirFilmsAreFound)
@@ -145,6 +153,7 @@ QByteArray report(const char *file, int done, int total, const char *status = "d
 TEST(EngineProgressTest, TwoFilesAreOneBarThatOnlyGrows)
 {
     EngineProgress progress(0, true);
+    EXPECT_FALSE(progress.readLine(report("media.en.vtt", 5, 5, "finished")));
     EXPECT_TRUE(progress.readLine(report("media.f1.mp4", 50, 100)));
     EXPECT_EQ(progress.resumedAt(), 50);
     EXPECT_EQ(progress.whole(), u"22 0 100"_s);
@@ -155,6 +164,7 @@ TEST(EngineProgressTest, TwoFilesAreOneBarThatOnlyGrows)
     progress.readLine(report("media.f2.m4a", 5, 10));
     EXPECT_DOUBLE_EQ(*progress.progress().fraction, 0.75);
     EXPECT_EQ(progress.progress().bytes, 105);
+    EXPECT_DOUBLE_EQ(*progress.progress().remainingSeconds, 5 / 5.5);
     EXPECT_TRUE(progress.readLine("[Merger] Merging formats into \"media.mp4\""));
     EXPECT_FALSE(progress.progress().stage.isEmpty());
     for (const QByteArray line : {"[download] Destination: media.mp4", "kestrel-progress nonsense", ""})

@@ -155,6 +155,20 @@ class DownloadTest(unittest.TestCase):
         self.assertEqual((status, result["state"]), (130, "cancelled"))
         self.assertGreater(self.part_bytes(), 50_000)
 
+    def test_what_has_come_whole_needs_its_page_no_more(self):
+        arguments = ("--format", "webm", self.server.address("page/film.mp4"))
+        process = self.start(*arguments)
+        self.wait_until(lambda: glob.glob(self.folder + "/.kestrel-download-*/companions"))
+        process.kill()
+        process.communicate()
+        for answer in glob.glob(self.home.name + "/**/answers/*.json", recursive=True, include_hidden=True):
+            os.utime(answer, (0, 0))
+        self.server.gone = "page"
+        status, (result,) = self.download(*arguments)
+        self.assertEqual((status, result["state"]), (0, "done"), self.errors)
+        self.assert_film(result["outputs"][0], codec="vp9")
+        self.assertEqual(os.path.basename(result["outputs"][0]), "A film.webm")
+
     def test_expired_address_is_asked_for_again_and_goes_on(self):
         status, (result,) = self.download(self.server.address("page/expiring"))
         self.assertEqual((status, result["state"]), (0, "done"), self.errors)

@@ -41,7 +41,7 @@ class Handler(BaseHTTPRequestHandler):
         with self.server.lock:
             self.server.requests.append((self.command, self.path, self.headers.get("Range")))
             self.server.asked.append((time.monotonic(), self.path))
-        getattr(self, "way_" + way, self.not_found)(name)
+        getattr(self, "way_" + (way if way != self.server.gone else "gone"), self.not_found)(name)
 
     # Ways
 
@@ -214,6 +214,7 @@ class FilmServer(ThreadingHTTPServer):
         self.refusals = 0
         self.slow_rate = 150_000
         self.title = "A film"
+        self.gone = None  # a way
         self.film = "film.mp4"  # of the page "rich"
 
     def handle_error(self, request, client_address):

@@ -143,11 +143,14 @@ void PetrelController::addChoices()
     m_limits = new QComboBox;
     m_limits->setObjectName(u"limitComboBox"_s);
     m_limits->setAccessibleName("Speed limit of each download"_key.localized());
+    m_limits->setToolTip("Downloads that are running keep the limit that they began with."_key.localized());
     addRow(*m_limits, "No speed limit"_key.localized(), 0);
     for (const qint64 limit : offeredLimits)
         addRow(*m_limits, tarnwell::Sentence("%1/s"_key, {bytesText(limit)}).localized(), limit);
     for (QComboBox *box : {m_formats.data(), m_resolutions.data(), m_limits.data()}) {
-        connect(box, &QComboBox::currentIndexChanged, this, [this, box] { applyChoice(box); });
+        // Also what it shows already may be chosen, for rows that have something else.
+        for (const auto change : {&QComboBox::currentIndexChanged, &QComboBox::activated})
+            connect(box, change, this, [this, box] { applyChoice(box); });
         m_page->addChoice(box);
     }
     auto *folder = new OutputFolderLine;

@@ -65,7 +65,8 @@ private:
     void readChoice(const QComboBox *box, DownloadPlan &plan) const;
     void applyChoice(const QComboBox *box);
     PlanEdit followProxy() const;
-    void changePlans(const QList<JobId> &ids, const PlanEdit &edit);
+    /// `chosenFolder` is where the results are to go; null for where they went or the settings want them.
+    void changePlans(const QList<JobId> &ids, const PlanEdit &edit, const QString &chosenFolder = {});
     void extendMenu(QMenu *menu, const QList<JobId> &ids);
     void offerHelp(JobDetails *details, JobId id);
     void removeWithParts(const QList<JobId> &ids);

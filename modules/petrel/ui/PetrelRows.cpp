@@ -11,6 +11,7 @@
 #include "modules/petrel/DownloadList.h"
 #include "modules/petrel/EngineFailure.h"
 #include "modules/petrel/PartFolder.h"
+#include "tarnwell/Folders.h"
 
 #include <QComboBox>
 #include <QFile>
@@ -168,12 +169,16 @@ void PetrelController::readChoice(const QComboBox *box, DownloadPlan &plan) cons
     }
 }
 
-/// For what was chosen in the list, else for everything that is still to be downloaded.
+/// For what was chosen in the list, else for everything that is still to be downloaded. How fast says nothing of what
+/// has come, so what waits, has failed or was broken off takes part.
 void PetrelController::applyChoice(const QComboBox *box)
 {
     QList<JobId> ids = m_page->list()->selectedIds();
-    if (ids.isEmpty())
-        ids = queue().idsIn({JobState::Checking, JobState::Ready}, petrelJobs.toString());
+    using enum JobState;
+    if (ids.isEmpty() && box == m_limits)
+        ids = queue().idsIn({Checking, Ready, Waiting, Failed, Cancelled, Interrupted}, petrelJobs.toString());
+    else if (ids.isEmpty())
+        ids = queue().idsIn({Checking, Ready}, petrelJobs.toString());
     changePlans(ids, [this, box](DownloadPlan &plan) { readChoice(box, plan); });
 }
 
@@ -187,7 +192,7 @@ PetrelController::PlanEdit PetrelController::followProxy() const
 
 /// What runs stays as it is. What has come of a film goes to the new folder, or keeps the film where it is, or goes
 /// where it fits no more.
-void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit)
+void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit, const QString &chosenFolder)
 {
     for (const JobId id : ids) {
         const JobRecord *record = queue().record(id);
@@ -197,16 +202,24 @@ void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit
         DownloadPlan edited = *plan;
         edit(edited);
         QString folder = plan->hasOwnFolder ? record->folder : downloadFolder(*m_settings, edited);
+        if (!chosenFolder.isNull())
+            folder = chosenFolder;
         if (edited == *plan && folder == record->folder)
             continue;
-        if (edited.identity() != plan->identity())
+        const bool isOther = edited.identity() != plan->identity();
+        if (isOther) {
             PartFolder::removeLeft(record->folder, *plan);
-        else if (folder != record->folder && !PartFolder::moveLeft(record->folder, *plan, folder))
+        } else if (folder != record->folder && !PartFolder::moveLeft(record->folder, *plan, folder)) {
             folder = record->folder;
+            if (!chosenFolder.isNull())
+                m_page->showMessage(
+                    "What has come cannot be moved to that folder, so it stays where it is."_key.localized());
+        }
+        const bool isNew = isOther || folder != record->folder;
         queue().change(id, [&](JobRecord &changed) {
             setDownloadPlan(changed, edited);
             changed.folder = folder;
-            if (isEnded(changed.state))
+            if (isEnded(changed.state) && isNew)
                 changed.state = JobState::Ready;
         });
     }
@@ -216,19 +229,19 @@ void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
 {
     const JobRecord *record = queue().record(ids.first());
     const FilmFacts facts = filmFacts(*record);
+    const auto plan = DownloadPlan::fromJson(record->plan);
     menu->addSeparator();
     if (!facts.resolutions.isEmpty()) {
         QMenu *resolutions = menu->addMenu("Resolution"_key.localized());
         for (const auto &[height, bytes] : facts.resolutions) {
             const QString size = bytes > 0 ? u"  ·  "_s + bytesText(bytes) : QString();
             resolutions->addAction(u"%1p"_s.arg(height) + size, this, [this, ids, lines = height] {
-                changePlans(ids, [lines](DownloadPlan &plan) { plan.height = lines; });
+                changePlans(ids, [lines](DownloadPlan &changed) { changed.height = lines; });
             });
         }
     }
     if (!facts.subtitles.isEmpty()) {
         QMenu *subtitles = menu->addMenu("Subtitles"_key.localized());
-        const auto plan = DownloadPlan::fromJson(record->plan);
         for (const QString &language : facts.subtitles) {
             QAction *action = subtitles->addAction(QString(language).replace(u'&', u"&&"_s));
             action->setCheckable(true);
@@ -242,8 +255,18 @@ void PetrelController::extendMenu(QMenu *menu, const QList<JobId> &ids)
             });
         }
     }
-    menu->addAction("Allow Many From One Server"_key.localized(), this,
-                    [this, ids] { changePlans(ids, [](DownloadPlan &plan) { plan.manyFromServer = true; }); });
+    QAction *many = menu->addAction("Allow Many From One Server"_key.localized());
+    many->setCheckable(true);
+    many->setChecked(plan && plan->manyFromServer);
+    connect(many, &QAction::toggled, this, [this, ids](bool isAllowed) {
+        changePlans(ids, [isAllowed](DownloadPlan &changed) { changed.manyFromServer = isAllowed; });
+    });
+    menu->addAction("Save To…"_key.localized(), this, [this, ids, present = record->folder] {
+        const QString folder = tarnwell::chooseFolder(m_page, present);
+        if (!folder.isEmpty())
+            changePlans(
+                ids, [](DownloadPlan &changed) { changed.hasOwnFolder = true; }, folder);
+    });
     menu->addAction("Update Download Engine"_key.localized(), this, &PetrelController::updateEngine);
     menu->addAction("Remove With Partial File"_key.localized(), this, [this, ids] { removeWithParts(ids); });
 }
