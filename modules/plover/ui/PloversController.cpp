@@ -122,6 +122,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
     connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
     connect(panel, &CapturePanel::beginChosen, this, &PloversController::endCountdown);
+    page->list()->setStartOffered(false);  // nobody would see it run, or end it
     connect(page->list(), &JobListView::menuRequested, this, &PloversController::extendMenu);
     (new MadeFilms(*page, m_settings))->showPictures(*m_list);
     connect(&queue(), &JobQueue::changed, this, &PloversController::recordChanged);
