@@ -75,9 +75,9 @@ QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
                   plan.pointer ? u"1"_s : u"0"_s};
     if (target.window != 0)
         arguments += {u"-window_id"_s, QString::number(target.window)};
-    else
-        arguments += {u"-grab_x"_s, QString::number(target.area.x()), u"-grab_y"_s, QString::number(target.area.y())};
-    return arguments + QStringList{u"-i"_s, target.display};
+    return arguments + QStringList{u"-grab_x"_s, QString::number(target.area.x()),
+                                   u"-grab_y"_s, QString::number(target.area.y()),
+                                   u"-i"_s,      target.display};
 }
 
 bool hasInset(const RecordPlan &plan, const CaptureTarget &target)

@@ -125,12 +125,15 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
         return endRecording();
     }
     if (isFirst)
-        return fail(ending.cause == ToolEnding::Cause::Cancelled
-                        ? "Nothing was recorded."_key
-                        : "The sound could not be recorded. Is the sound server running?"_key,
+        return fail(ending.cause == ToolEnding::Cause::Cancelled ? Sentence("Nothing was recorded."_key)
+                    : m_hasSoundEnded ? Sentence("The sound could not be recorded. Is the sound server running?"_key)
+                                      : m_messages.failure().sentence,
                     ending.lastWords);
-    // The window may have another size now, which the arguments make up for; the second attempt goes without the sound.
-    if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None) {
+    // The picture may have another size or place now, which the arguments make up for; the second attempt goes without
+    // the sound where that is what fails, or where nothing is told.
+    m_failures = target->area != m_target.area && !m_target.isShared ? 0 : m_failures + 1;
+    const bool isForSound = m_hasSoundEnded || ending.cause == ToolEnding::Cause::Cancelled;
+    if (m_failures > 1 && isForSound && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None) {
         m_problems.removeAll(Sentence(soundIsMissing));
         m_problems.append(soundIsMissing);
     }

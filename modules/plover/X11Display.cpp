@@ -135,6 +135,17 @@ QRect X11Display::area() const
     return reply ? QRect(0, 0, reply->width, reply->height) : QRect();
 }
 
+bool X11Display::isComposited() const
+{
+    xcb_connection_t *connection = m_connection.get();
+    const uint32_t compositor = atom("_NET_WM_CM_S0");
+    const auto reply = answer(
+        compositor != 0
+            ? xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, compositor), nullptr)
+            : nullptr);
+    return reply && reply->owner != XCB_WINDOW_NONE;
+}
+
 QList<X11Display::Monitor> X11Display::monitors() const
 {
     xcb_connection_t *connection = m_connection.get();

@@ -42,6 +42,7 @@ public:
 
     QString name() const { return m_name; }
     QRect area() const;                              ///< of the whole desktop
+    bool isComposited() const;                       ///< windows have pixels of their own, also where none is seen
     QList<Monitor> monitors() const;                 ///< the primary one first; the whole desktop where none is told
     QList<Window> windows() const;                   ///< of programs, that are to be seen; the uppermost first
     std::optional<Window> window(quint32 id) const;  ///< nothing where there is none of that number to be seen
