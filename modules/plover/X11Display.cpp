@@ -28,6 +28,7 @@ Answer<Value> answer(Value *value)
 /// Numbers of the RandR protocol, version 1.5.
 constexpr uint8_t queryVersion = 0, getMonitors = 42;
 xcb_extension_t randr = {"RANDR", 0};
+xcb_extension_t xwayland = {"XWAYLAND", 0};  ///< of newer ones, whose monitors have their real names
 
 struct VersionRequest {
     uint8_t major = 0, minor = queryVersion;
@@ -121,7 +122,9 @@ foundation::Result<std::shared_ptr<X11Display>, Sentence> X11Display::open(const
         xcb_screen_next(&roots);
     display->m_root = roots.data->root;
     const QList<Monitor> monitors = display->monitors();
-    if (std::ranges::any_of(monitors, [](const Monitor &monitor) { return monitor.name.startsWith("XWAYLAND"_L1); }))
+    const xcb_query_extension_reply_t *extension = xcb_get_extension_data(display->m_connection.get(), &xwayland);
+    if ((extension && extension->present) ||
+        std::ranges::any_of(monitors, [](const Monitor &monitor) { return monitor.name.startsWith("XWAYLAND"_L1); }))
         return foundation::Failure{wayland};
     return display;
 }
@@ -139,10 +142,10 @@ bool X11Display::isComposited() const
 {
     xcb_connection_t *connection = m_connection.get();
     const uint32_t compositor = atom("_NET_WM_CM_S0");
-    const auto reply = answer(
-        compositor != 0
-            ? xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, compositor), nullptr)
-            : nullptr);
+    const auto reply =
+        answer(compositor != 0
+                   ? xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, compositor), nullptr)
+                   : nullptr);
     return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
