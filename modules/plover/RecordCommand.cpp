@@ -187,6 +187,24 @@ QStringList soundSources(const RecordPlan &plan)
     return sources;
 }
 
+QStringList usualDeviceArguments(const RecordPlan &plan)
+{
+    const QString usual = soundSources(plan).value(0);
+    if (!usual.startsWith(u'@'))
+        return {};
+    const bool isPlayed = plan.sound != RecordPlan::Sound::Microphone;
+    return {u"-hide_banner"_s, isPlayed ? u"-sinks"_s : u"-sources"_s, u"pulse"_s};
+}
+
+QString usualDeviceIn(const QByteArray &told)
+{
+    for (const QByteArray &line : told.split('\n')) {
+        if (line.startsWith("* "))
+            return QString::fromUtf8(line).section(u' ', 1, 1);
+    }
+    return {};
+}
+
 QList<Microphone> microphonesIn(const QByteArray &told)
 {
     // "* alsa_input.usb-1 [Headset] (none)", where the star marks the usual one

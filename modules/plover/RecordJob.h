@@ -86,6 +86,7 @@ private:
     bool loseMicrophone(const ToolEnding &ending);
     void noteSoundEnd(const QByteArray &line);
     void lookForSound();
+    void followUsualDevice(const QString &device);
     bool hasStopped();
     bool followTarget();
     void watch();
@@ -108,7 +109,8 @@ private:
     bool m_isSilent = false;                    ///< for want of the sound server
     bool m_hasSoundEnded = false;               ///< of the stretch of the moment: its pictures go on alone
     bool m_isServerThere = false;               ///< it is back, and nothing was recorded since
-    std::unique_ptr<ToolProcess> m_soundProbe;  ///< while it is looked for
+    std::unique_ptr<ToolProcess> m_soundProbe;  ///< while it is asked
+    QString m_usualDevice;                      ///< of the sound, when it was asked last
     int m_looksForSound = 0;
     bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
     bool m_isFinishing = false;

@@ -72,20 +72,27 @@ void RecordJob::noteSoundEnd(const QByteArray &line)
         m_hasSoundEnded = m_hasSoundEnded || line.contains((source + u": "_s).toUtf8());
 }
 
-/// Whether the sound server answers again: what goes on without it has its sound again then.
+/// Asks the sound server now and then: it may be back, or record from elsewhere.
 void RecordJob::lookForSound()
 {
     constexpr int looks = 8;
-    if (!m_isSilent || m_soundProbe || ++m_looksForSound % looks != 0)
+    const QStringList usual = usualDeviceArguments(m_recording.plan);
+    if (m_soundProbe || (!m_isSilent && usual.isEmpty()) || m_looksForSound++ % looks != 0)
         return;
-    RecordPlan usual = m_recording.plan;
-    usual.microphone.clear();
-    m_soundProbe = std::make_unique<ToolProcess>(ToolCommand{
-        .program = m_tools.transcoder, .arguments = soundProbeArguments(usual), .timeLimit = std::chrono::seconds(10)});
-    connect(m_soundProbe.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
+    const bool isForServer = m_isSilent;
+    RecordPlan plan = m_recording.plan;
+    plan.microphone.clear();
+    m_soundProbe =
+        std::make_unique<ToolProcess>(ToolCommand{.program = m_tools.transcoder,
+                                                  .arguments = isForServer ? soundProbeArguments(plan) : usual,
+                                                  .timeLimit = std::chrono::seconds(10),
+                                                  .collectsOutput = true});
+    connect(m_soundProbe.get(), &ToolProcess::ended, this, [this, isForServer](const ToolEnding &ending) {
         m_soundProbe.release()->deleteLater();
-        if (!ending.isGood() || !m_isSilent)
+        if (!ending.isGood() || m_isSilent != isForServer)
             return;
+        if (!isForServer)
+            return followUsualDevice(usualDeviceIn(ending.output));
         m_isSilent = false;
         m_isServerThere = true;
         m_failures = 0;
@@ -96,6 +103,14 @@ void RecordJob::lookForSound()
             m_recorder->stop();
     });
     m_soundProbe->start();
+}
+
+/// Another one has another delay: the next stretch begins in step again.
+void RecordJob::followUsualDevice(const QString &device)
+{
+    const QString before = device.isEmpty() ? device : std::exchange(m_usualDevice, device);
+    if (!before.isEmpty() && before != device && m_recorder)
+        m_recorder->stop();
 }
 
 /// A source has gone away by itself.
