@@ -312,14 +312,20 @@ void RecordJob::check(const ToolEnding &joining)
                            .problems = m_problems};
         if (m_isRecovery)
             outcome.sentence = "Recovered after an interruption."_key;
-        else
-            outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+        outcome.facts = facts();
         constexpr qint64 share = 100;
         if (m_recorded.missed > m_recorded.pictures / share)
             outcome.sentence = {"%1 of %2 pictures came too late: the one before stands for them."_key,
                                 {QString::number(m_recorded.missed), QString::number(m_recorded.pictures)}};
         place(std::move(outcome));
     });
+}
+
+/// Pictures of a camera have no times that they should have come at.
+QJsonObject RecordJob::facts() const
+{
+    const bool isCounted = !m_isRecovery && m_recording.plan.what != RecordPlan::What::Camera;
+    return isCounted ? QJsonObject{{u"dropped"_s, m_recorded.missed}} : QJsonObject();
 }
 
 void RecordJob::place(JobOutcome outcome)
@@ -342,8 +348,7 @@ void RecordJob::placeAsItIs(const Sentence &problem)
     m_output.reset();
     JobOutcome outcome{.state = JobState::DoneWithProblems, .details = m_messages.text(), .problems = m_problems};
     outcome.problems.append(problem);
-    if (!m_isRecovery)
-        outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+    outcome.facts = facts();
     for (const QString &stretch : std::as_const(m_recording.stretches)) {
         OutputFile place(m_recording.folder, m_recording.plan.name, u"mkv"_s);
         // Takes the place of the empty part, which has the rules for names.

@@ -93,6 +93,7 @@ private:
     void measure();
     void join();
     void check(const ToolEnding &ending);
+    QJsonObject facts() const;
     void place(JobOutcome outcome);
     void placeAsItIs(const tarnwell::Sentence &problem);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
