@@ -258,7 +258,9 @@ void RecordJob::join()
     const auto space = m_tools.diskSpace(m_recording.folder);
     constexpr qint64 margin = 10'000'000;
     if (space && space->available < bytes + margin)
-        return placeAsItIs("The disk is too full to finish the recording: it stays a Matroska file."_key);
+        return placeAsItIs(
+            sentenceOfStretches("The disk is too full to finish the recording: it stays a Matroska file."_key,
+                                "The disk is too full to finish the recording: it stays in %1 Matroska files."_key));
     m_workFolder = std::make_unique<WorkFolder>();
     m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
     const QString list = m_workFolder->filePath(u"list.txt"_s);
@@ -287,11 +289,15 @@ double RecordJob::secondsCut() const
 
 void RecordJob::check(const ToolEnding &joining)
 {
+    const Sentence isNotWhole =
+        sentenceOfStretches("The recording could not be finished: it stays a Matroska file."_key,
+                            "The recording could not be finished: it stays in %1 Matroska files."_key);
     if (!joining.isGood())
-        return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
+        return placeAsItIs(isNotWhole);
     const QString part = m_output->partPath();
     const qint64 bytes = QFileInfo(part).size();
-    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes), [this, part](const ToolEnding &probing) {
+    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes), [this, part,
+                                                                                isNotWhole](const ToolEnding &probing) {
         const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
         OutputExpectation expected;
         expected.tracks = recordedTracks(m_recording.plan);
@@ -301,7 +307,7 @@ void RecordJob::check(const ToolEnding &joining)
         if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
             !findings.mismatch.isEmpty()) {
             tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
-            return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
+            return placeAsItIs(isNotWhole);
         }
         const double missing = missingSound(*found, m_recording.plan);
         if (std::abs(missing) > 2)
@@ -340,6 +346,12 @@ void RecordJob::place(JobOutcome outcome)
                          removeStretches();
                          finish(outcome);
                      });
+}
+
+Sentence RecordJob::sentenceOfStretches(tarnwell::TextKey one, tarnwell::TextKey several) const
+{
+    const qsizetype stretches = m_recording.stretches.size();
+    return stretches > 1 ? Sentence(several, {QString::number(stretches)}) : Sentence(one);
 }
 
 /// The stretches themselves, under names that show: nothing that was recorded is lost.

@@ -95,6 +95,7 @@ private:
     void check(const ToolEnding &ending);
     QJsonObject facts() const;
     void place(JobOutcome outcome);
+    tarnwell::Sentence sentenceOfStretches(tarnwell::TextKey one, tarnwell::TextKey several) const;
     void placeAsItIs(const tarnwell::Sentence &problem);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
     void removeStretches();

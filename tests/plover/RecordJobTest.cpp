@@ -180,6 +180,7 @@ TEST_F(RecordJobTest, EndsWholeWhenTheDiskIsNearlyFull)
     available = 1000;
     ASSERT_TRUE(waitForEnd());
     EXPECT_EQ(m_outcome->state, JobState::DoneWithProblems);
+    EXPECT_TRUE(m_outcome->problems.last().english().endsWith(u"a Matroska file."));
     EXPECT_EQ(files(), (QStringList{u"A talk.mkv"_s, u"A talk.mov"_s}));
     EXPECT_GT(pictures(m_folder.filePath(u"A talk.mkv"_s)).size(), 25);
 
