@@ -131,7 +131,10 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
     if ((std::exchange(m_isServerThere, false) || isFirst) && loseMicrophone(ending))
         return m_isHolding ? void() : beginStretch();
     const auto target = captureTarget(plan);
-    if (!target ||
+    // Another one's pictures may have another size, which only they tell.
+    const bool isOtherCamera =
+        !isFirst && target && plan.what == RecordPlan::What::Camera && target->camera != m_target.camera;
+    if (!target || isOtherCamera ||
         (isFirst && (plan.sound == RecordPlan::Sound::None || ending.cause == ToolEnding::Cause::CouldNotStart)) ||
         m_failures > 2) {
         if (isFirst)
