@@ -48,6 +48,7 @@ signals:
     void beginChosen();
 
 private:
+    static QString rateText(double rate);
     void makeChoices();
     void arrange();
     void fillSources();
