@@ -3,7 +3,9 @@
 #include "CapturePanel.h"
 #include "ClickRings.h"
 #include "ControlBar.h"
+#include "foundation/Bundle.h"
 #include "foundation/Queues.h"
+#include "jobs/DesktopServices.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
@@ -14,6 +16,7 @@
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
+#include "tarnwell/ProductInformation.h"
 #include "tarnwell/ui/TabOrder.h"
 
 #include <QAbstractButton>
@@ -162,8 +165,20 @@ void PloversController::doBackAction()
         m_completedHandler(this);
 }
 
+/// Who answers nothing goes on waiting.
 bool PloversController::shouldTerminate()
 {
+    if (!m_beginning.isValid())
+        return true;
+    const QString moment = QLocale().toString(m_beginning.time(), QLocale::ShortFormat);
+    if (tarnwell::runAlert({.message = Sentence("A recording is to begin at %1."_key, {moment}).localized(),
+                            .defaultButton = "Keep Waiting"_key.localized(),
+                            .alternateButton = "Don't Record"_key.localized(),
+                            .informativeText = {},
+                            .style = tarnwell::AlertStyle::Warning,
+                            .answerToEscape = tarnwell::AlertAnswer::Default}) != tarnwell::AlertAnswer::Alternate)
+        return false;
+    endCountdown();
     return true;
 }
 
@@ -194,6 +209,7 @@ void PloversController::endCountdown()
     if (!m_beginning.isValid())
         return;
     m_beginning = {};
+    m_awake.reset();
     m_keys.reset();
     m_shortcuts.reset();
     m_page->showMessage({});
@@ -224,15 +240,24 @@ void PloversController::beginAt(const QDateTime &moment)
 {
     m_beginning = moment;
     const std::chrono::milliseconds left(QDateTime::currentDateTime().msecsTo(moment));
+    const QString time = QLocale().toString(moment.time(), QLocale::ShortFormat);
+    if (left < -std::chrono::minutes(1)) {  // the machine slept
+        endCountdown();
+        return m_page->showMessage(
+            Sentence("The recording that was to begin at %1 was missed."_key, {time}).localized());
+    }
     if (left.count() <= 0)
         return record();
+    if (!m_awake) {
+        m_awake = std::make_unique<DesktopServices>(tarnwell::productBundle().identifier());
+        m_awake->setAwake(true, Sentence("A recording is to begin at %1."_key, {time}).localized());
+    }
     constexpr std::chrono::seconds keysAhead(10);
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(left);
     const Sentence message = seconds < std::chrono::minutes(1)
                                  ? Sentence("Recording begins in %1 s. Press Record to begin at once."_key,
                                             {QString::number(seconds.count())})
-                                 : Sentence("Recording begins at %1. Press Record to begin at once."_key,
-                                            {QLocale().toString(moment.time(), QLocale::ShortFormat)});
+                                 : Sentence("Recording begins at %1. Press Record to begin at once."_key, {time});
     QStringList parts{message.localized()};
     if (seconds <= keysAhead) {
         takeKeys();
@@ -249,6 +274,7 @@ void PloversController::beginAt(const QDateTime &moment)
 void PloversController::record()
 {
     m_beginning = {};
+    m_awake.reset();
     RecordPlan plan = recordPlan(*m_settings);
     m_panel->choose(plan);
     m_settings->setDefaultRecordQuality(int(plan.quality));

@@ -18,6 +18,7 @@ namespace kestrel {
 class CapturePanel;
 class ClickRings;
 class ControlBar;
+class DesktopServices;
 class JobList;
 class JobPage;
 class JobQueue;
@@ -77,7 +78,8 @@ private:
     std::unique_ptr<JobList> m_list;
     QPointer<JobPage> m_page;
     QPointer<CapturePanel> m_panel;
-    QDateTime m_beginning;  ///< of the recording that is about to begin; none where none is
+    QDateTime m_beginning;                     ///< of the recording that is about to begin; none where none is
+    std::unique_ptr<DesktopServices> m_awake;  ///< until then the machine does not go to sleep
     // While it records, the keys already shortly before
     JobId m_recording = 0;
     CaptureTarget m_target;
