@@ -84,6 +84,11 @@ void ControlBar::setKeys(const QStringList &keys)
         buttons[number]->setToolTip(keys.value(number));
 }
 
+void ControlBar::setSnapshotOffered(bool isOffered)
+{
+    m_snapshot->setVisible(isOffered);
+}
+
 void ControlBar::showRecord(const JobRecord &record, qint64 missed)
 {
     m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());

@@ -24,6 +24,7 @@ public:
     /// The keys that do what the buttons do, as the user knows them: of stop, pause, snapshot. Empty where there is
     /// none.
     void setKeys(const QStringList &keys);
+    void setSnapshotOffered(bool isOffered);
     /// `missed`: pictures that did not come in time.
     void showRecord(const JobRecord &record, qint64 missed);
     void setLevel(double level);

@@ -66,8 +66,9 @@ private:
     void keyPressed(X11Keys::Key key);
     void togglePause();
     void stopRecording();
+    bool offersSnapshot() const { return m_target.isShared || !m_target.display.isEmpty(); }
     void takeSnapshot();
-    void keepSnapshot(const QImage &picture);
+    void saveSnapshot(const QImage &picture);
 
     ModuleServices &m_services;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;

@@ -6,7 +6,9 @@
 #include "ScreenOverlay.h"
 #include "foundation/Queues.h"
 #include "jobs/JobQueue.h"
+#include "jobs/ui/JobPage.h"
 #include "modules/common/LateView.h"
+#include "modules/common/Snapshot.h"
 #include "modules/plover/X11Display.h"
 #include "settings/JKestrelSettingDispatcher.h"
 
@@ -24,6 +26,7 @@ using namespace Qt::StringLiterals;
 
 namespace kestrel {
 
+using tarnwell::Sentence;
 using tarnwell::operator""_key;
 
 namespace {
@@ -57,6 +60,7 @@ void PloversController::openControls()
     connect(m_bar.get(), &ControlBar::stopClicked, this, &PloversController::stopRecording);
     connect(m_bar.get(), &ControlBar::snapshotClicked, this, &PloversController::takeSnapshot);
     m_bar->setKeys(keyTexts());
+    m_bar->setSnapshotOffered(offersSnapshot());
     if (m_target.isShared)  // nobody knows where that is: this window stays
         return;
     if (m_target.display.isEmpty())
@@ -78,8 +82,10 @@ void PloversController::openTray()
     m_trayMenu = std::make_unique<QMenu>();
     const QStringList keys = keyTexts();
     for (const auto &[key, letter, text] : remoteActions) {
-        m_trayMenu->addAction((text.localized() + u'\t' + keys[qsizetype(key)]).trimmed(), this,
-                              [this, key = key] { keyPressed(key); });
+        m_trayMenu
+            ->addAction((text.localized() + u'\t' + keys[qsizetype(key)]).trimmed(), this,
+                        [this, key = key] { keyPressed(key); })
+            ->setVisible(key != X11Keys::Key::Snapshot || offersSnapshot());
     }
     m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
     m_tray->setToolTip(("Recording"_key.localized() + u'\n' + keyLine(u'\n')).trimmed());
@@ -206,20 +212,28 @@ void PloversController::takeSnapshot()
     if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot()) {
         disconnect(job, &RecordJob::snapshotTaken, this, nullptr);  // one that never came
         connect(
-            job, &RecordJob::snapshotTaken, this, [this](const QString &path) { keepSnapshot(QImage(path)); },
+            job, &RecordJob::snapshotTaken, this, [this](const QString &path) { saveSnapshot(QImage(path)); },
             Qt::SingleShotConnection);
     }
-    if (!m_target.display.isEmpty())
-        keepSnapshot(displayPicture(m_target.window, m_target.area).toImage());
+    // What is recorded may have another size by now.
+    const auto plan = RecordPlan::fromJson(queue().record(m_recording)->plan);
+    const auto target = plan && !m_target.display.isEmpty() ? captureTarget(*plan) : CaptureTarget();
+    if (!target)
+        m_page->showMessage(target.reason().localized());
+    else if (!target->display.isEmpty())
+        saveSnapshot(displayPicture(target->window, target->area).toImage());
 }
 
-void PloversController::keepSnapshot(const QImage &picture)
+void PloversController::saveSnapshot(const QImage &picture)
 {
-    const QString name = u"/Snapshot %1.png"_s.arg(QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss.zzz"_s));
+    const QString moment = QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss.zzz"_s);
     // The folder for snapshots is the converter's setting, the only one for all of Kestrel's pictures.
     const QString folder = JKestrelSettingDispatcher::SettingDispatcherWithType(ModuleSettingVideo)->getSnapshotDir();
     const bool isThere = QDir().mkpath(folder);
-    picture.save((isThere ? folder : m_settings->getVideoDir()) + name);
+    keepSnapshot(picture, isThere ? folder : m_settings->getVideoDir(), "Snapshot"_key.localized() + u' ' + moment,
+                 m_page, [this](const QString &path, const QString &sentence) {
+                     m_page->showMessage(path.isEmpty() ? sentence : Sentence("Saved: %1"_key, {path}).localized());
+                 });
 }
 
 }  // namespace kestrel
