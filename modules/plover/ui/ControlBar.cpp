@@ -49,16 +49,21 @@ bool ControlBar::showBeside(const QRect &area)
     const double ratio = devicePixelRatioF();
     const QRect recorded((QPointF(area.topLeft()) / ratio).toPoint(), area.size() / ratio);
     const QSize size = sizeHint();
-    const QPoint places[] = {{recorded.left(), recorded.bottom() + gap},
-                             {recorded.left(), recorded.top() - gap - size.height()},
-                             {recorded.right() + gap, recorded.top()},
-                             {recorded.left() - gap - size.width(), recorded.top()}};
+    QList<QPoint> places{{recorded.left(), recorded.bottom() + gap},
+                         {recorded.left(), recorded.top() - gap - size.height()},
+                         {recorded.right() + gap, recorded.top()},
+                         {recorded.left() - gap - size.width(), recorded.top()}};
     const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens) {  // else a corner that is not in the picture
+        const QRect room = screen->availableGeometry();
+        const int right = room.right() + 1 - size.width(), bottom = room.bottom() + 1 - size.height();
+        places += {{right, bottom}, {room.left(), bottom}, {right, room.top()}, room.topLeft()};
+    }
     for (const QPoint &place : places) {
         const QRect bar(place, size);
         const bool fits = std::any_of(screens.begin(), screens.end(),
                                       [&](const QScreen *screen) { return screen->availableGeometry().contains(bar); });
-        if (fits) {
+        if (fits && !bar.intersects(recorded)) {
             setGeometry(bar);
             show();
             return true;
@@ -89,13 +94,18 @@ void ControlBar::setSnapshotOffered(bool isOffered)
     m_snapshot->setVisible(isOffered);
 }
 
-void ControlBar::showRecord(const JobRecord &record, qint64 missed)
+QString ControlBar::textOf(const JobRecord &record, qint64 missed)
 {
-    m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
     QStringList parts{durationText(record.progress.seconds), QLocale().formattedDataSize(record.progress.bytes)};
     if (missed > 0)
         parts.append(Sentence("%1 dropped"_key, {QString::number(missed)}).localized());
-    m_text->setText(parts.join(u" · "_s));
+    return parts.join(u" · "_s);
+}
+
+void ControlBar::showRecord(const JobRecord &record, qint64 missed)
+{
+    m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
+    m_text->setText(textOf(record, missed));
 }
 
 void ControlBar::setLevel(double level)

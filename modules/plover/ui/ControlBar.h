@@ -16,8 +16,8 @@ class ControlBar : public QWidget {
 public:
     ControlBar();
 
-    /// Puts it beside the area, in pixels of the desktop. False, and it stays hidden, where there is no room that is
-    /// not in the picture.
+    /// Puts it beside the area, in pixels of the desktop, or into a corner of a screen. False, and it stays hidden,
+    /// where there is no room that is not in the picture.
     bool showBeside(const QRect &area);
     /// Where nothing of a screen is recorded: at the lower edge of the first.
     void showAtEdge();
@@ -25,7 +25,8 @@ public:
     /// none.
     void setKeys(const QStringList &keys);
     void setSnapshotOffered(bool isOffered);
-    /// `missed`: pictures that did not come in time.
+    /// Time, size, and `missed`: pictures that did not come in time.
+    static QString textOf(const JobRecord &record, qint64 missed);
     void showRecord(const JobRecord &record, qint64 missed);
     void setLevel(double level);
 

@@ -60,6 +60,7 @@ private:
     QStringList keyTexts() const;
     QString keyLine(QChar separator) const;
     void openTray();
+    QString trayTip(const QString &progress) const;
     void closeControls();
     void recordChanged(JobId id);
     void showState();

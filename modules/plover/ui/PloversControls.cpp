@@ -88,13 +88,21 @@ void PloversController::openTray()
             ->setVisible(key != X11Keys::Key::Snapshot || offersSnapshot());
     }
     m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
-    m_tray->setToolTip(("Recording"_key.localized() + u'\n' + keyLine(u'\n')).trimmed());
+    m_tray->setToolTip(trayTip({}));
     m_tray->setContextMenu(m_trayMenu.get());
     connect(m_tray.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
         if (reason == QSystemTrayIcon::Trigger)
             keyPressed(X11Keys::Key::Stop);
     });
     m_tray->show();
+}
+
+/// Where the bar has no place, the icon alone tells how far the recording is.
+QString PloversController::trayTip(const QString &progress) const
+{
+    QStringList lines{"Recording"_key.localized(), progress, keyLine(u'\n')};
+    lines.removeAll(QString());
+    return lines.join(u'\n');
 }
 
 void PloversController::takeKeys()
@@ -166,7 +174,9 @@ void PloversController::recordChanged(JobId id)
     if (!record || isEnded(record->state)) {
         closeControls();
     } else if (m_bar) {
-        m_bar->showRecord(*record, m_recipe.recording() ? m_recipe.recording()->missedPictures() : 0);
+        const qint64 missed = m_recipe.recording() ? m_recipe.recording()->missedPictures() : 0;
+        m_bar->showRecord(*record, missed);
+        m_tray->setToolTip(trayTip(ControlBar::textOf(*record, missed)));
         const auto pause = int(X11Keys::Key::Pause);
         const tarnwell::TextKey text = record->state == JobState::Paused ? "Continue"_key : "Pause"_key;
         m_trayMenu->actions().at(pause)->setText((text.localized() + u'\t' + keyTexts()[pause]).trimmed());
