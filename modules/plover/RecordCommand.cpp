@@ -259,12 +259,17 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
                                    u"1"_s,         u"file:"_s + stretch.output};
 }
 
-QStringList soundProbeArguments(const RecordPlan &plan)
+QStringList soundInputArguments(const RecordPlan &plan)
 {
     QStringList arguments{u"-hide_banner"_s, u"-nostdin"_s, u"-loglevel"_s, u"error"_s};
     for (const QString &source : soundSources(plan))
         arguments += soundInput(source, false);
-    return arguments + QStringList{u"-t"_s, u"0.1"_s, u"-f"_s, u"null"_s, u"-"_s};
+    return arguments;
+}
+
+QStringList soundProbeArguments(const RecordPlan &plan)
+{
+    return soundInputArguments(plan) + QStringList{u"-t"_s, u"0.1"_s, u"-f"_s, u"null"_s, u"-"_s};
 }
 
 QStringList cameraPictureArguments(const CaptureTarget &camera, const QString &output)
