@@ -299,9 +299,23 @@ void CapturePanel::setShowsClicks(bool shows)
     m_clicks->setChecked(shows);
 }
 
-bool CapturePanel::showsClicks() const
+bool CapturePanel::wantsClicks() const
 {
     return m_clicks->isChecked();
+}
+
+bool CapturePanel::showsClicks() const
+{
+    return wantsClicks() && m_clicks->isEnabled();
+}
+
+/// The rings are windows of their own: the pixels of what is recorded must be those of the screen.
+bool CapturePanel::canShowClicks(const RecordPlan &plan)
+{
+    if (plan.what != What::Window)
+        return plan.what == What::Screen || plan.what == What::Area;
+    const auto display = X11Display::open();
+    return display && !(*display)->isComposited();
 }
 
 CapturePanel::Begin CapturePanel::begin() const
@@ -327,6 +341,7 @@ void CapturePanel::showPreview()
         return;
     RecordPlan plan;
     choose(plan);
+    m_clicks->setEnabled(canShowClicks(plan));
     followCamera(plan);
     if (!m_obstacle.isEmpty())
         return m_picture->showText(m_obstacle.localized());

@@ -38,7 +38,8 @@ public:
     /// Puts the choices into the plan.
     void choose(RecordPlan &plan) const;
     void setShowsClicks(bool shows);
-    bool showsClicks() const;
+    bool wantsClicks() const;
+    bool showsClicks() const;  ///< it is wanted, and would be in the picture
     Begin begin() const;
     QDateTime beginTime() const;  ///< of AtTime: the next time that the clock shows it
     /// Why nothing can be recorded; none where it can.
@@ -49,6 +50,7 @@ signals:
 
 private:
     static QString rateText(double rate);
+    static bool canShowClicks(const RecordPlan &plan);
     void makeChoices();
     void arrange();
     void fillSources();

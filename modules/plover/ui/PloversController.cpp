@@ -280,7 +280,7 @@ void PloversController::record()
     m_settings->setDefaultRecordQuality(int(plan.quality));
     m_settings->setMaxFramerate(plan.rate);
     m_settings->setAudioDeviceID(plan.microphone);
-    m_settings->setCaptureMouseClick(m_panel->showsClicks());
+    m_settings->setCaptureMouseClick(m_panel->wantsClicks());
     m_settings->setRecordChoices(QString::fromUtf8(QJsonDocument(plan.toJson()).toJson(QJsonDocument::Compact)));
     const auto target = captureTarget(plan);
     m_target = target ? *target : CaptureTarget();

@@ -50,7 +50,7 @@ QKeySequence keysFor(Qt::Key letter)
 void PloversController::openControls()
 {
     takeKeys();
-    if (m_keys && m_settings->isCaptureMouseClick()) {
+    if (m_keys && m_panel->showsClicks()) {
         m_rings = std::make_unique<ClickRings>(*m_keys);
         m_rings->setActive(true);
     }
