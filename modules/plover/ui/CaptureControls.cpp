@@ -23,7 +23,7 @@ namespace {
 
 constexpr QSize entryPicture(64, 36);
 
-/// Windows come and go while the panel is open.
+/// Windows, cameras and microphones come and go while the panel is open.
 class SourceBox : public QComboBox {
 public:
     explicit SourceBox(std::function<void()> refill) : m_refill(std::move(refill)) {}
@@ -55,9 +55,9 @@ QString CapturePanel::rateText(double rate)
 
 CapturePanel::CapturePanel()
     : m_sources(named(new SourceBox([this] { fillSources(); }), "sourceComboBox", "What to record"_key)),
-      m_insets(named(new QComboBox, "insetComboBox", "Camera in the picture"_key)),
+      m_insets(named(new SourceBox([this] { fillCameras(); }), "insetComboBox", "Camera in the picture"_key)),
       m_sounds(named(new QComboBox, "soundComboBox", "Sound"_key)),
-      m_microphones(named(new QComboBox, "microphoneComboBox", "Microphone"_key)),
+      m_microphones(named(new SourceBox([this] { fillMicrophones(); }), "microphoneComboBox", "Microphone"_key)),
       m_formats(named(new QComboBox, "formatComboBox", "Format"_key)),
       m_qualities(named(new QComboBox, "qualityComboBox", "Quality"_key)),
       m_rates(named(new QComboBox, "rateComboBox", "Pictures a second"_key)),

@@ -31,7 +31,8 @@ using tarnwell::operator""_key;
 namespace {
 
 constexpr auto previewInterval = 500ms;
-constexpr auto untilGone = 200ms;  ///< a list or a chooser that closes, from the picture of the screen
+const QString beginKey = u"begin"_s;  ///< beside the members of the plan
+constexpr auto untilGone = 200ms;     ///< a list or a chooser that closes, from the picture of the screen
 using What = RecordPlan::What;
 
 /// What an entry of the sources stands for; a window of the number 0 is chosen by a click.
@@ -63,7 +64,7 @@ QIcon iconOf(quint32 window, const QRect &area, QSize size)
 
 CapturePanel::~CapturePanel() = default;
 
-void CapturePanel::open(const QString &transcoderPath, const RecordPlan &usual, const std::optional<RecordPlan> &last)
+void CapturePanel::open(const QString &transcoderPath, const RecordPlan &usual, const QJsonObject &last)
 {
     m_transcoderPath = transcoderPath;
     fillSources();
@@ -141,9 +142,15 @@ void CapturePanel::fillMicrophones()
                                                   .collectsOutput = true});
     connect(m_microphoneList.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
         const QString chosen = m_microphones->currentData().toString();
+        const QList<Microphone> found = microphonesIn(ending.output);
+        bool isAsItWas = m_microphones->count() == found.size() + 1;
+        for (qsizetype index = 0; isAsItWas && index < found.size(); ++index)
+            isAsItWas = m_microphones->itemData(int(index) + 1) == found[index].name;
+        if (isAsItWas)  // the list may be open
+            return;
         while (m_microphones->count() > 1)
             m_microphones->removeItem(1);
-        for (const Microphone &microphone : microphonesIn(ending.output))
+        for (const Microphone &microphone : found)
             m_microphones->addItem(microphone.title, microphone.name);
         showValue(m_microphones, chosen, chosen);
     });
@@ -169,12 +176,13 @@ void CapturePanel::addPortal()
     m_portal->look([] {});
 }
 
-/// Windows and areas are others by now.
-void CapturePanel::restore(const RecordPlan &usual, const std::optional<RecordPlan> &lastPlan)
+/// Windows and areas are others by now, and a time to begin at has passed.
+void CapturePanel::restore(const RecordPlan &usual, const QJsonObject &choices)
 {
     m_qualities->setCurrentIndex(m_qualities->findData(int(usual.quality)));
     showValue(m_rates, usual.rate, rateText(usual.rate));
     showValue(m_microphones, usual.microphone, usual.microphone);
+    const auto lastPlan = RecordPlan::fromJson(choices);
     if (!lastPlan)
         return;
     const RecordPlan &last = *lastPlan;
@@ -188,10 +196,29 @@ void CapturePanel::restore(const RecordPlan &usual, const std::optional<RecordPl
     show(m_formats, int(last.container));
     show(m_limits, int(last.seconds));
     m_pointer->setChecked(last.pointer);
-    if (last.inset) {
-        show(m_insets, last.camera);
-        m_picture->setInset(m_insets->currentIndex() > 0 ? last.inset : std::nullopt);
+    if (const Begin begin{choices[beginKey].toInt(-1)}; begin != Begin::AtTime)
+        show(m_begins, int(begin));
+    QString camera = last.camera;
+    if ((last.inset || last.what == What::Camera) && m_insets->findData(camera) < 1) {
+        const CameraDevice first = cameraDevices().value(0);
+        camera = first.path;
+        emit noted(camera.isEmpty()
+                       ? Sentence("No camera was found."_key)
+                       : Sentence("The chosen camera is missing: %1 is recorded instead."_key, {first.name}));
     }
+    if (last.what == What::Camera)
+        show(m_sources, entry(What::Camera, camera));
+    if (last.inset && !camera.isEmpty()) {
+        show(m_insets, camera);
+        m_picture->setInset(last.inset);
+    }
+}
+
+QJsonObject CapturePanel::choices(const RecordPlan &plan) const
+{
+    QJsonObject choices = plan.toJson();
+    choices[beginKey] = int(begin());
+    return choices;
 }
 
 void CapturePanel::sourceChosen()

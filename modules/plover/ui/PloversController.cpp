@@ -105,6 +105,8 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 
     connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
+    connect(panel, &CapturePanel::noted, m_page,
+            [this](const Sentence &note) { m_page->showMessage(note.localized()); });
     connect(panel, &CapturePanel::beginChosen, this, &PloversController::endCountdown);
     page->list()->setStartOffered(false);  // nobody would see it run, or end it
     connect(page->list(), &JobListView::menuRequested, this, &PloversController::extendMenu);
@@ -123,8 +125,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 void PloversController::openPanel()
 {
     const QByteArray choices = m_settings->getRecordChoices().toUtf8();
-    m_panel->open(m_settings->getTranscoderPath(), recordPlan(*m_settings),
-                  RecordPlan::fromJson(QJsonDocument::fromJson(choices).object()));
+    m_panel->open(m_settings->getTranscoderPath(), recordPlan(*m_settings), QJsonDocument::fromJson(choices).object());
 }
 
 /// What is to be made of a recording is the converter's work.
@@ -280,8 +281,10 @@ void PloversController::record()
     m_settings->setDefaultRecordQuality(int(plan.quality));
     m_settings->setMaxFramerate(plan.rate);
     m_settings->setAudioDeviceID(plan.microphone);
+    m_settings->setVideoDeviceID(plan.camera);
     m_settings->setCaptureMouseClick(m_panel->wantsClicks());
-    m_settings->setRecordChoices(QString::fromUtf8(QJsonDocument(plan.toJson()).toJson(QJsonDocument::Compact)));
+    m_settings->setRecordChoices(
+        QString::fromUtf8(QJsonDocument(m_panel->choices(plan)).toJson(QJsonDocument::Compact)));
     const auto target = captureTarget(plan);
     m_target = target ? *target : CaptureTarget();
     const QString folder = m_settings->getVideoDir();
