@@ -373,7 +373,7 @@ void CapturePanel::showPreview()
     if (!m_obstacle.isEmpty())
         return m_picture->showText(m_obstacle.localized());
     if (plan.what == What::Portal)
-        return m_picture->showText(
+        return m_picture->showPlace(
             "The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then."_key
                 .localized());
     if (plan.what == What::Camera)
