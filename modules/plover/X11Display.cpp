@@ -229,9 +229,14 @@ std::optional<X11Display::Window> X11Display::window(quint32 id) const
     QByteArray title = property(id, "_NET_WM_NAME");
     if (title.isEmpty())
         title = property(id, "WM_NAME");
+    uint32_t frame[4] = {};  // left, right, top, bottom
+    const QByteArray extents = property(id, "_NET_FRAME_EXTENTS");
+    if (extents.size() == sizeof frame)
+        std::memcpy(frame, extents.constData(), sizeof frame);
     return Window{.id = id,
                   .title = QString::fromUtf8(title),
-                  .area = {place->dst_x, place->dst_y, geometry->width, geometry->height}};
+                  .area = {place->dst_x, place->dst_y, geometry->width, geometry->height},
+                  .frame = QMargins(int(frame[0]), int(frame[2]), int(frame[1]), int(frame[3]))};
 }
 
 }  // namespace kestrel

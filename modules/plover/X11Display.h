@@ -4,6 +4,7 @@
 #include "tarnwell/TextKey.h"
 
 #include <QList>
+#include <QMargins>
 #include <QRect>
 #include <QString>
 
@@ -30,7 +31,8 @@ public:
     struct Window {
         quint32 id = 0;
         QString title;
-        QRect area;  ///< without its frame
+        QRect area;           ///< without its frame
+        QMargins frame = {};  ///< around it
     };
 
     /// Null for the display of the environment. The reason where its picture cannot be had: there is none, or it
