@@ -1,6 +1,8 @@
 #include "CapturePanel.h"
 
 #include "PreviewPicture.h"
+#include "jobs/ToolProcess.h"
+#include "modules/plover/ScreenCastPortal.h"
 
 #include <QCheckBox>
 #include <QComboBox>
