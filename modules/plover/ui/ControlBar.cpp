@@ -18,6 +18,12 @@ namespace kestrel {
 using tarnwell::Sentence;
 using tarnwell::operator""_key;
 
+namespace {
+
+constexpr std::chrono::seconds noteTime(4);
+
+}  // namespace
+
 ControlBar::ControlBar()
     : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
       m_text(new QLabel),
@@ -105,7 +111,17 @@ QString ControlBar::textOf(const JobRecord &record, qint64 missed)
 void ControlBar::showRecord(const JobRecord &record, qint64 missed)
 {
     m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
-    m_text->setText(textOf(record, missed));
+    if (m_noteEnd.hasExpired()) {
+        m_text->setText(textOf(record, missed));
+        m_text->setToolTip({});
+    }
+}
+
+void ControlBar::showNote(const QString &note)
+{
+    m_noteEnd.setRemainingTime(noteTime);
+    m_text->setText(m_text->fontMetrics().elidedText(note, Qt::ElideRight, m_text->width()));
+    m_text->setToolTip(note);
 }
 
 void ControlBar::setLevel(double level)

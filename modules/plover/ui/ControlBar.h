@@ -2,6 +2,7 @@
 
 #include "jobs/JobRecord.h"
 
+#include <QDeadlineTimer>
 #include <QWidget>
 
 class QLabel;
@@ -29,6 +30,7 @@ public:
     static QString textOf(const JobRecord &record, qint64 missed);
     void showRecord(const JobRecord &record, qint64 missed);
     void setLevel(double level);
+    void showNote(const QString &note);  ///< for some seconds, in the place of time and size
 
 signals:
     void pauseClicked();
@@ -37,6 +39,7 @@ signals:
 
 private:
     QLabel *m_text;
+    QDeadlineTimer m_noteEnd;
     QProgressBar *m_level;
     QPushButton *m_stop;
     QPushButton *m_pause;

@@ -69,6 +69,7 @@ private:
     void stopRecording();
     bool offersSnapshot() const { return m_target.isShared || !m_target.display.isEmpty(); }
     void takeSnapshot();
+    void tell(const QString &text);
     void saveSnapshot(const QImage &picture);
 
     ModuleServices &m_services;

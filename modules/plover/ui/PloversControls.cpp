@@ -15,6 +15,7 @@
 #include <QApplication>
 #include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QImage>
 #include <QMenu>
 #include <QShortcut>
@@ -229,7 +230,7 @@ void PloversController::takeSnapshot()
     const auto plan = RecordPlan::fromJson(queue().record(m_recording)->plan);
     const auto target = plan && !m_target.display.isEmpty() ? captureTarget(*plan) : CaptureTarget();
     if (!target)
-        m_page->showMessage(target.reason().localized());
+        tell(target.reason().localized());
     else if (!target->display.isEmpty())
         saveSnapshot(displayPicture(target->window, target->area).toImage());
 }
@@ -242,8 +243,20 @@ void PloversController::saveSnapshot(const QImage &picture)
     const bool isThere = QDir().mkpath(folder);
     keepSnapshot(picture, isThere ? folder : m_settings->getVideoDir(), "Snapshot"_key.localized() + u' ' + moment,
                  m_page, [this](const QString &path, const QString &sentence) {
-                     m_page->showMessage(path.isEmpty() ? sentence : Sentence("Saved: %1"_key, {path}).localized());
+                     const QString name = QFileInfo(path).fileName();
+                     tell(path.isEmpty() ? sentence : Sentence("Saved: %1"_key, {name}).localized());
                  });
+}
+
+/// Where it is seen while a recording runs.
+void PloversController::tell(const QString &text)
+{
+    if (m_bar && m_bar->isVisible())
+        m_bar->showNote(text);
+    else if (m_tray && QSystemTrayIcon::isSystemTrayAvailable())
+        m_tray->showMessage("Recording"_key.localized(), text);
+    else
+        m_page->showMessage(text);
 }
 
 }  // namespace kestrel
