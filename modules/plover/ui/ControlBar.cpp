@@ -22,10 +22,18 @@ namespace {
 
 constexpr std::chrono::seconds noteTime(4);
 
+QString longestText()
+{
+    JobRecord record;
+    record.progress = {.seconds = 9 * 3600 + 59 * 60 + 59, .bytes = qint64(999.99 * 1024 * 1024 * 1024)};
+    constexpr qint64 missed = 99'999;
+    return ControlBar::textOf(record, missed);
+}
+
 }  // namespace
 
 ControlBar::ControlBar()
-    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
+    : QFrame(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
       m_text(new QLabel),
       m_level(new QProgressBar),
       m_stop(new QPushButton("Stop"_key.localized())),
@@ -35,15 +43,22 @@ ControlBar::ControlBar()
     setAttribute(Qt::WA_ShowWithoutActivating);
     setObjectName(u"controlBar"_s);
     setWindowTitle("Recording"_key.localized());
+    setProperty("card", true);  // with an edge, as it may lie upon a window of its own colour
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 12, 6);
-    m_text->setMinimumWidth(150);
+    m_text->ensurePolished();
+    m_text->setFixedWidth(m_text->fontMetrics().horizontalAdvance(longestText()));
     m_level->setRange(0, 100);
     m_level->setTextVisible(false);
     m_level->setFixedWidth(60);
     m_level->setAccessibleName("Sound level"_key.localized());
     for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, m_stop, m_snapshot})
         layout->addWidget(widget);
+    // When all have their style: the bar does not grow into the picture.
+    for (const tarnwell::TextKey text : {"Continue"_key, "Pause"_key}) {
+        m_pause->setText(text.localized());
+        m_pause->setMinimumWidth(std::max(m_pause->minimumWidth(), m_pause->sizeHint().width()));
+    }
     connect(m_pause, &QPushButton::clicked, this, &ControlBar::pauseClicked);
     connect(m_stop, &QPushButton::clicked, this, &ControlBar::stopClicked);
     connect(m_snapshot, &QPushButton::clicked, this, &ControlBar::snapshotClicked);

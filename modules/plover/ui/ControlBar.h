@@ -3,7 +3,7 @@
 #include "jobs/JobRecord.h"
 
 #include <QDeadlineTimer>
-#include <QWidget>
+#include <QFrame>
 
 class QLabel;
 class QProgressBar;
@@ -12,7 +12,7 @@ class QPushButton;
 namespace kestrel {
 
 /// The small bar that stands beside what is recorded: time, size, level, and what can be done with the recording.
-class ControlBar : public QWidget {
+class ControlBar : public QFrame {
     Q_OBJECT
 public:
     ControlBar();
