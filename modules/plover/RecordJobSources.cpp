@@ -139,10 +139,10 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
         m_failures > 2) {
         if (isFirst)
             return fail(target ? m_messages.failure().sentence : target.reason(), ending.lastWords);
-        const bool isWindowGone = !target && target.reason() == noSuchWindow(plan.window);
-        m_problems.append(isWindowGone ? Sentence("The window was closed or minimised."_key)
-                          : target     ? Sentence("The recording was interrupted."_key)
-                                       : target.reason());
+        m_problems.append(target ? Sentence("The recording was interrupted."_key)
+                          : target.reason() == noSuchWindow(plan.window)
+                              ? Sentence("The window was closed or minimised."_key)
+                              : target.reason());
         return endRecording();
     }
     if (isFirst)

@@ -118,7 +118,8 @@ void CapturePanel::makeChoices()
     m_sources->setIconSize(entryPicture);
     m_time->setObjectName(u"beginTimeEdit"_s);
     m_time->setAccessibleName("Time at which the recording begins"_key.localized());
-    m_time->setTime(QTime::currentTime().addSecs(5 * 60));
+    const QTime now = QTime::currentTime();
+    m_time->setTime(QTime(now.hour(), now.minute()).addSecs(5 * 60));  // the seconds are not shown
     m_time->hide();
     m_pointer->setObjectName(u"pointerCheckBox"_s);
     m_pointer->setChecked(true);
