@@ -251,6 +251,9 @@ void AppDelegate::onQuitAction()
 /// Whether no job runs, after asking where one does: for all modules at once. Who answers nothing goes on.
 bool AppDelegate::stopJobs(const QString &stopTitle)
 {
+    ModuleController *recorder = m_appController->recorderController();  // may wait for a time
+    if (recorder && !recorder->shouldTerminate())
+        return false;
     if (!m_surroundings.jobs.hasWork())
         return true;
     const tarnwell::AlertAnswer answer = tarnwell::runAlert(

@@ -325,6 +325,7 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
         tarnwell::TextKey text;
         bool isEnabled;
         std::function<void()> action;
+        bool isOffered = true;
     } rows[] = {
         {"Play"_key, hasResult, [this, current] { emit playRequested(outputsOf({current}).first()); }},
         {"Show in Folder"_key, hasResult, [this, current] { showInFolder(current); }},
@@ -334,7 +335,8 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
          [this, again, unusable] {
              m_queue.start(again);
              emit lookAgainRequested(unusable);
-         }},
+         },
+         m_isStartOffered},
         {"Pause"_key, !active.isEmpty(), [this, active] { m_queue.setPaused(active, true); }},
         {"Go On"_key, !paused.isEmpty(), [this, paused] { m_queue.setPaused(paused, false); }},
         {"Cancel"_key, !(active + paused + checking).isEmpty(),
@@ -346,10 +348,10 @@ void JobListView::contextMenuEvent(QContextMenuEvent *event)
         {"Details…"_key, record != nullptr, [this, current] { showDetails(current); }},
         {"Remove"_key, true, [this] { removeSelected(); }},
     };
-    for (const auto &[text, isEnabled, action] : rows) {
+    for (const auto &[text, isEnabled, action, isOffered] : rows) {
         if (text.isEmpty())
             menu->addSeparator();
-        else
+        else if (isOffered)
             menu->addAction(text.localized(), this, action)->setEnabled(isEnabled);
     }
     emit menuRequested(menu, ids);

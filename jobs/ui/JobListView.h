@@ -29,6 +29,8 @@ public:
     /// For jobs whose work cannot be had again: what is asked before one that runs is cancelled or removed, and the
     /// button that does it.
     void setDiscardQuestion(tarnwell::TextKey question, tarnwell::TextKey button);
+    /// For jobs that are begun by their module alone, and whose work cannot be done again: no "Start" and no "Retry".
+    void setStartOffered(bool isOffered) { m_isStartOffered = isOffered; }
     void cancel(const QList<JobId> &ids);
     void removeSelected();
     void removeEnded();
@@ -71,6 +73,7 @@ private:
     JobList &m_list;
     Filter *m_filter;
     tarnwell::TextKey m_discardQuestion, m_discardButton;
+    bool m_isStartOffered = true;
 };
 
 }  // namespace kestrel

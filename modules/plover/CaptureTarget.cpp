@@ -18,14 +18,18 @@ namespace {
 
 using Target = foundation::Result<CaptureTarget, Sentence>;
 
+/// Without a compositor a window has no pixels beyond the screen's edges.
 Target windowTarget(const RecordPlan &plan, const X11Display &display)
 {
     const auto window = display.window(plan.window);
     if (!window)
-        return Failure{Sentence("There is no window %1 to be seen."_key, {QString::number(plan.window)})};
-    const QRect area = recordableArea({{0, 0}, window->area.size()}, {{0, 0}, window->area.size()});
+        return Failure{noSuchWindow(plan.window)};
+    const QRect whole({0, 0}, window->area.size());
+    const QRect seen = window->area.intersected(display.area()).translated(-window->area.topLeft());
+    const QRect area = recordableArea(display.isComposited() ? whole : seen, whole);
     if (area.isEmpty())
-        return Failure{Sentence("The window is too small to be recorded."_key)};
+        return Failure{seen.isEmpty() ? Sentence("The area to be recorded is outside the screen."_key)
+                                      : Sentence("The window is too small to be recorded."_key)};
     return CaptureTarget{.display = display.name(), .window = plan.window, .area = area};
 }
 
@@ -59,6 +63,11 @@ Target displayTarget(const RecordPlan &plan)
 }
 
 }  // namespace
+
+Sentence noSuchWindow(quint32 window)
+{
+    return {"There is no window %1 to be seen."_key, {QString::number(window)}};
+}
 
 QRect recordableArea(const QRect &wanted, const QRect &desktop)
 {

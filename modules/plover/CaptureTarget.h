@@ -14,7 +14,7 @@ namespace kestrel {
 struct CaptureTarget {
     QString display = {};  ///< an X display; empty for a camera
     quint32 window = 0;
-    QRect area = {};         ///< of the display; of the window itself where that is what is recorded. Even sizes.
+    QRect area = {};         ///< of the display; within the window where that is what is recorded. Even sizes.
     QString camera = {};     ///< path of the device; beside a display or what is shared, of the inset
     QString generator = {};  ///< instead of a camera: a source of ffmpeg's own
     bool isShared =
@@ -33,6 +33,9 @@ foundation::Result<CaptureTarget, tarnwell::Sentence> cameraTarget(const RecordP
 
 /// What the plan names, or why it cannot be recorded: no such screen or window, an area that is nowhere.
 foundation::Result<CaptureTarget, tarnwell::Sentence> captureTarget(const RecordPlan &plan);
+
+/// The reason for a window that is not there, or is minimised.
+tarnwell::Sentence noSuchWindow(quint32 window);
 
 /// The part of an area that is on the desktop, with even sides as encoders want them; empty where nothing is left.
 QRect recordableArea(const QRect &wanted, const QRect &desktop);

@@ -2,13 +2,22 @@
 
 #include "RecordCommand.h"
 
+#include "foundation/Queues.h"
 #include "jobs/ToolProcess.h"
+
+#include <QPointer>
 
 #include <algorithm>
 
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
+
+namespace {
+
+constexpr std::chrono::seconds retryDelay(2);
+
+}  // namespace
 
 LevelMeter::LevelMeter(QObject *parent) : QObject(parent) {}
 
@@ -17,36 +26,30 @@ LevelMeter::~LevelMeter() = default;
 void LevelMeter::open(const QString &transcoderPath, const RecordPlan &plan)
 {
     close();
-    const QStringList sources = soundSources(plan);
-    if (sources.isEmpty())
+    const qsizetype sources = soundSources(plan).size();
+    if (sources == 0)
         return;
-    // The last one is the microphone, which is what a level is looked at for.
     m_tool = std::make_unique<ToolProcess>(
         ToolCommand{.program = transcoderPath,
-                    .arguments = {u"-hide_banner"_s,
-                                  u"-nostdin"_s,
-                                  u"-nostats"_s,
-                                  u"-loglevel"_s,
-                                  u"error"_s,
-                                  u"-f"_s,
-                                  u"pulse"_s,
-                                  u"-name"_s,
-                                  u"Kestrel"_s,
-                                  u"-stream_name"_s,
-                                  u"Level"_s,
-                                  u"-sample_rate"_s,
-                                  u"48000"_s,
-                                  u"-i"_s,
-                                  sources.last(),
-                                  u"-af"_s,
-                                  u"asetnsamples=4800,astats=metadata=1:reset=1,"
-                                  "ametadata=mode=print:key=lavfi.astats.Overall.Peak_level:file=-:direct=1"_s,
-                                  u"-f"_s,
-                                  u"null"_s,
-                                  u"-"_s}});
+                    .arguments = soundInputArguments(plan) +
+                                 QStringList{u"-nostats"_s, u"-filter_complex"_s,
+                                             u"amix=inputs=%1:normalize=0,asetnsamples=4800,"
+                                             "astats=metadata=1:reset=1,ametadata=mode=print:"
+                                             "key=lavfi.astats.Overall.Peak_level:file=-:direct=1"_s.arg(sources),
+                                             u"-f"_s, u"null"_s, u"-"_s}});
     connect(m_tool.get(), &ToolProcess::outputLine, this, [this](const QByteArray &line) {
         if (const double level = levelIn(line); level >= 0)
             emit levelChanged(level);
+    });
+    // A microphone that is missing gives way to the usual one, as it does in the recording.
+    RecordPlan usual = plan;
+    usual.microphone.clear();
+    connect(m_tool.get(), &ToolProcess::ended, this, [this, transcoderPath, usual] {
+        emit levelChanged(0);
+        foundation::queue::afterMain(retryDelay, [self = QPointer(this), transcoderPath, usual] {
+            if (self && self->m_tool && !self->m_tool->isRunning())
+                self->open(transcoderPath, usual);
+        });
     });
     m_tool->start();
 }

@@ -10,7 +10,8 @@ namespace kestrel {
 
 class ToolProcess;
 
-/// How loud a recording's sound is at the moment. Listens from `open` until `close` or its own end. Main thread.
+/// How loud a recording's sound is at the moment, all of it together. Listens from `open` until `close`, and tries
+/// again where the sound ends. Main thread.
 class LevelMeter : public QObject {
     Q_OBJECT
 public:

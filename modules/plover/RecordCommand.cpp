@@ -75,9 +75,9 @@ QStringList pictureInput(const RecordPlan &plan, const CaptureTarget &target)
                   plan.pointer ? u"1"_s : u"0"_s};
     if (target.window != 0)
         arguments += {u"-window_id"_s, QString::number(target.window)};
-    else
-        arguments += {u"-grab_x"_s, QString::number(target.area.x()), u"-grab_y"_s, QString::number(target.area.y())};
-    return arguments + QStringList{u"-i"_s, target.display};
+    return arguments + QStringList{u"-grab_x"_s, QString::number(target.area.x()),
+                                   u"-grab_y"_s, QString::number(target.area.y()),
+                                   u"-i"_s,      target.display};
 }
 
 bool hasInset(const RecordPlan &plan, const CaptureTarget &target)
@@ -187,6 +187,24 @@ QStringList soundSources(const RecordPlan &plan)
     return sources;
 }
 
+QStringList usualDeviceArguments(const RecordPlan &plan)
+{
+    const QString usual = soundSources(plan).value(0);
+    if (!usual.startsWith(u'@'))
+        return {};
+    const bool isPlayed = plan.sound != RecordPlan::Sound::Microphone;
+    return {u"-hide_banner"_s, isPlayed ? u"-sinks"_s : u"-sources"_s, u"pulse"_s};
+}
+
+QString usualDeviceIn(const QByteArray &told)
+{
+    for (const QByteArray &line : told.split('\n')) {
+        if (line.startsWith("* "))
+            return QString::fromUtf8(line).section(u' ', 1, 1);
+    }
+    return {};
+}
+
 QList<Microphone> microphonesIn(const QByteArray &told)
 {
     // "* alsa_input.usb-1 [Headset] (none)", where the star marks the usual one
@@ -241,12 +259,17 @@ QStringList recordArguments(const RecordPlan &plan, const RecordStretch &stretch
                                    u"1"_s,         u"file:"_s + stretch.output};
 }
 
-QStringList soundProbeArguments(const RecordPlan &plan)
+QStringList soundInputArguments(const RecordPlan &plan)
 {
     QStringList arguments{u"-hide_banner"_s, u"-nostdin"_s, u"-loglevel"_s, u"error"_s};
     for (const QString &source : soundSources(plan))
         arguments += soundInput(source, false);
-    return arguments + QStringList{u"-t"_s, u"0.1"_s, u"-f"_s, u"null"_s, u"-"_s};
+    return arguments;
+}
+
+QStringList soundProbeArguments(const RecordPlan &plan)
+{
+    return soundInputArguments(plan) + QStringList{u"-t"_s, u"0.1"_s, u"-f"_s, u"null"_s, u"-"_s};
 }
 
 QStringList cameraPictureArguments(const CaptureTarget &camera, const QString &output)

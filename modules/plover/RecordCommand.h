@@ -45,6 +45,13 @@ struct Microphone {
 /// Those that `ffmpeg -sources pulse` tells.
 QList<Microphone> microphonesIn(const QByteArray &told);
 
+/// What tells the usual one of those devices that the plan's sound comes from; none where that does not matter.
+QStringList usualDeviceArguments(const RecordPlan &plan);
+QString usualDeviceIn(const QByteArray &told);  ///< by its name; empty where none is told
+
+/// What ffmpeg is run with to hear the plan's sound: one input for each of its sources.
+QStringList soundInputArguments(const RecordPlan &plan);
+
 /// What tells by its success whether they can be recorded.
 QStringList soundProbeArguments(const RecordPlan &plan);
 

@@ -258,7 +258,9 @@ void RecordJob::join()
     const auto space = m_tools.diskSpace(m_recording.folder);
     constexpr qint64 margin = 10'000'000;
     if (space && space->available < bytes + margin)
-        return placeAsItIs("The disk is too full to finish the recording: it stays a Matroska file."_key);
+        return placeAsItIs(
+            sentenceOfStretches("The disk is too full to finish the recording: it stays a Matroska file."_key,
+                                "The disk is too full to finish the recording: it stays in %1 Matroska files."_key));
     m_workFolder = std::make_unique<WorkFolder>();
     m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
     const QString list = m_workFolder->filePath(u"list.txt"_s);
@@ -287,11 +289,15 @@ double RecordJob::secondsCut() const
 
 void RecordJob::check(const ToolEnding &joining)
 {
+    const Sentence isNotWhole =
+        sentenceOfStretches("The recording could not be finished: it stays a Matroska file."_key,
+                            "The recording could not be finished: it stays in %1 Matroska files."_key);
     if (!joining.isGood())
-        return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
+        return placeAsItIs(isNotWhole);
     const QString part = m_output->partPath();
     const qint64 bytes = QFileInfo(part).size();
-    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes), [this, part](const ToolEnding &probing) {
+    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes), [this, part,
+                                                                                isNotWhole](const ToolEnding &probing) {
         const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
         OutputExpectation expected;
         expected.tracks = recordedTracks(m_recording.plan);
@@ -301,7 +307,7 @@ void RecordJob::check(const ToolEnding &joining)
         if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
             !findings.mismatch.isEmpty()) {
             tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
-            return placeAsItIs("The recording could not be finished: it stays a Matroska file."_key);
+            return placeAsItIs(isNotWhole);
         }
         const double missing = missingSound(*found, m_recording.plan);
         if (std::abs(missing) > 2)
@@ -312,14 +318,20 @@ void RecordJob::check(const ToolEnding &joining)
                            .problems = m_problems};
         if (m_isRecovery)
             outcome.sentence = "Recovered after an interruption."_key;
-        else
-            outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+        outcome.facts = facts();
         constexpr qint64 share = 100;
         if (m_recorded.missed > m_recorded.pictures / share)
             outcome.sentence = {"%1 of %2 pictures came too late: the one before stands for them."_key,
                                 {QString::number(m_recorded.missed), QString::number(m_recorded.pictures)}};
         place(std::move(outcome));
     });
+}
+
+/// Pictures of a camera have no times that they should have come at.
+QJsonObject RecordJob::facts() const
+{
+    const bool isCounted = !m_isRecovery && m_recording.plan.what != RecordPlan::What::Camera;
+    return isCounted ? QJsonObject{{u"dropped"_s, m_recorded.missed}} : QJsonObject();
 }
 
 void RecordJob::place(JobOutcome outcome)
@@ -336,14 +348,19 @@ void RecordJob::place(JobOutcome outcome)
                      });
 }
 
+Sentence RecordJob::sentenceOfStretches(tarnwell::TextKey one, tarnwell::TextKey several) const
+{
+    const qsizetype stretches = m_recording.stretches.size();
+    return stretches > 1 ? Sentence(several, {QString::number(stretches)}) : Sentence(one);
+}
+
 /// The stretches themselves, under names that show: nothing that was recorded is lost.
 void RecordJob::placeAsItIs(const Sentence &problem)
 {
     m_output.reset();
     JobOutcome outcome{.state = JobState::DoneWithProblems, .details = m_messages.text(), .problems = m_problems};
     outcome.problems.append(problem);
-    if (!m_isRecovery)
-        outcome.facts = {{u"dropped"_s, m_recorded.missed}};
+    outcome.facts = facts();
     for (const QString &stretch : std::as_const(m_recording.stretches)) {
         OutputFile place(m_recording.folder, m_recording.plan.name, u"mkv"_s);
         // Takes the place of the empty part, which has the rules for names.

@@ -86,13 +86,16 @@ private:
     bool loseMicrophone(const ToolEnding &ending);
     void noteSoundEnd(const QByteArray &line);
     void lookForSound();
+    void followUsualDevice(const QString &device);
     bool hasStopped();
     bool followTarget();
     void watch();
     void measure();
     void join();
     void check(const ToolEnding &ending);
+    QJsonObject facts() const;
     void place(JobOutcome outcome);
+    tarnwell::Sentence sentenceOfStretches(tarnwell::TextKey one, tarnwell::TextKey several) const;
     void placeAsItIs(const tarnwell::Sentence &problem);
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
     void removeStretches();
@@ -108,7 +111,8 @@ private:
     bool m_isSilent = false;                    ///< for want of the sound server
     bool m_hasSoundEnded = false;               ///< of the stretch of the moment: its pictures go on alone
     bool m_isServerThere = false;               ///< it is back, and nothing was recorded since
-    std::unique_ptr<ToolProcess> m_soundProbe;  ///< while it is looked for
+    std::unique_ptr<ToolProcess> m_soundProbe;  ///< while it is asked
+    QString m_usualDevice;                      ///< of the sound, when it was asked last
     int m_looksForSound = 0;
     bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
     bool m_isFinishing = false;

@@ -72,20 +72,27 @@ void RecordJob::noteSoundEnd(const QByteArray &line)
         m_hasSoundEnded = m_hasSoundEnded || line.contains((source + u": "_s).toUtf8());
 }
 
-/// Whether the sound server answers again: what goes on without it has its sound again then.
+/// Asks the sound server now and then: it may be back, or record from elsewhere.
 void RecordJob::lookForSound()
 {
     constexpr int looks = 8;
-    if (!m_isSilent || m_soundProbe || ++m_looksForSound % looks != 0)
+    const QStringList usual = usualDeviceArguments(m_recording.plan);
+    if (m_soundProbe || (!m_isSilent && usual.isEmpty()) || m_looksForSound++ % looks != 0)
         return;
-    RecordPlan usual = m_recording.plan;
-    usual.microphone.clear();
-    m_soundProbe = std::make_unique<ToolProcess>(ToolCommand{
-        .program = m_tools.transcoder, .arguments = soundProbeArguments(usual), .timeLimit = std::chrono::seconds(10)});
-    connect(m_soundProbe.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
+    const bool isForServer = m_isSilent;
+    RecordPlan plan = m_recording.plan;
+    plan.microphone.clear();
+    m_soundProbe =
+        std::make_unique<ToolProcess>(ToolCommand{.program = m_tools.transcoder,
+                                                  .arguments = isForServer ? soundProbeArguments(plan) : usual,
+                                                  .timeLimit = std::chrono::seconds(10),
+                                                  .collectsOutput = true});
+    connect(m_soundProbe.get(), &ToolProcess::ended, this, [this, isForServer](const ToolEnding &ending) {
         m_soundProbe.release()->deleteLater();
-        if (!ending.isGood() || !m_isSilent)
+        if (!ending.isGood() || m_isSilent != isForServer)
             return;
+        if (!isForServer)
+            return followUsualDevice(usualDeviceIn(ending.output));
         m_isSilent = false;
         m_isServerThere = true;
         m_failures = 0;
@@ -96,6 +103,14 @@ void RecordJob::lookForSound()
             m_recorder->stop();
     });
     m_soundProbe->start();
+}
+
+/// Another one has another delay: the next stretch begins in step again.
+void RecordJob::followUsualDevice(const QString &device)
+{
+    const QString before = device.isEmpty() ? device : std::exchange(m_usualDevice, device);
+    if (!before.isEmpty() && before != device && m_recorder)
+        m_recorder->stop();
 }
 
 /// A source has gone away by itself.
@@ -116,21 +131,30 @@ void RecordJob::goOnAfterFailure(const ToolEnding &ending)
     if ((std::exchange(m_isServerThere, false) || isFirst) && loseMicrophone(ending))
         return m_isHolding ? void() : beginStretch();
     const auto target = captureTarget(plan);
-    if (!target ||
+    // Another one's pictures may have another size, which only they tell.
+    const bool isOtherCamera =
+        !isFirst && target && plan.what == RecordPlan::What::Camera && target->camera != m_target.camera;
+    if (!target || isOtherCamera ||
         (isFirst && (plan.sound == RecordPlan::Sound::None || ending.cause == ToolEnding::Cause::CouldNotStart)) ||
         m_failures > 2) {
         if (isFirst)
             return fail(target ? m_messages.failure().sentence : target.reason(), ending.lastWords);
-        m_problems.append(target ? Sentence("The recording was interrupted."_key) : target.reason());
+        m_problems.append(target ? Sentence("The recording was interrupted."_key)
+                          : target.reason() == noSuchWindow(plan.window)
+                              ? Sentence("The window was closed or minimised."_key)
+                              : target.reason());
         return endRecording();
     }
     if (isFirst)
-        return fail(ending.cause == ToolEnding::Cause::Cancelled
-                        ? "Nothing was recorded."_key
-                        : "The sound could not be recorded. Is the sound server running?"_key,
+        return fail(ending.cause == ToolEnding::Cause::Cancelled ? Sentence("Nothing was recorded."_key)
+                    : m_hasSoundEnded ? Sentence("The sound could not be recorded. Is the sound server running?"_key)
+                                      : m_messages.failure().sentence,
                     ending.lastWords);
-    // The window may have another size now, which the arguments make up for; the second attempt goes without the sound.
-    if (++m_failures > 1 && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None) {
+    // The picture may have another size or place now, which the arguments make up for; the second attempt goes without
+    // the sound where that is what fails, or where nothing is told.
+    m_failures = target->area != m_target.area && !m_target.isShared ? 0 : m_failures + 1;
+    const bool isForSound = m_hasSoundEnded || ending.cause == ToolEnding::Cause::Cancelled;
+    if (m_failures > 1 && isForSound && !std::exchange(m_isSilent, true) && plan.sound != RecordPlan::Sound::None) {
         m_problems.removeAll(Sentence(soundIsMissing));
         m_problems.append(soundIsMissing);
     }

@@ -28,6 +28,7 @@ Answer<Value> answer(Value *value)
 /// Numbers of the RandR protocol, version 1.5.
 constexpr uint8_t queryVersion = 0, getMonitors = 42;
 xcb_extension_t randr = {"RANDR", 0};
+xcb_extension_t xwayland = {"XWAYLAND", 0};  ///< of newer ones, whose monitors have their real names
 
 struct VersionRequest {
     uint8_t major = 0, minor = queryVersion;
@@ -121,7 +122,9 @@ foundation::Result<std::shared_ptr<X11Display>, Sentence> X11Display::open(const
         xcb_screen_next(&roots);
     display->m_root = roots.data->root;
     const QList<Monitor> monitors = display->monitors();
-    if (std::ranges::any_of(monitors, [](const Monitor &monitor) { return monitor.name.startsWith("XWAYLAND"_L1); }))
+    const xcb_query_extension_reply_t *extension = xcb_get_extension_data(display->m_connection.get(), &xwayland);
+    if ((extension && extension->present) ||
+        std::ranges::any_of(monitors, [](const Monitor &monitor) { return monitor.name.startsWith("XWAYLAND"_L1); }))
         return foundation::Failure{wayland};
     return display;
 }
@@ -133,6 +136,17 @@ QRect X11Display::area() const
     xcb_connection_t *connection = m_connection.get();
     const auto reply = answer(xcb_get_geometry_reply(connection, xcb_get_geometry(connection, m_root), nullptr));
     return reply ? QRect(0, 0, reply->width, reply->height) : QRect();
+}
+
+bool X11Display::isComposited() const
+{
+    xcb_connection_t *connection = m_connection.get();
+    const uint32_t compositor = atom("_NET_WM_CM_S0");
+    const auto reply =
+        answer(compositor != 0
+                   ? xcb_get_selection_owner_reply(connection, xcb_get_selection_owner(connection, compositor), nullptr)
+                   : nullptr);
+    return reply && reply->owner != XCB_WINDOW_NONE;
 }
 
 QList<X11Display::Monitor> X11Display::monitors() const
@@ -215,9 +229,14 @@ std::optional<X11Display::Window> X11Display::window(quint32 id) const
     QByteArray title = property(id, "_NET_WM_NAME");
     if (title.isEmpty())
         title = property(id, "WM_NAME");
+    uint32_t frame[4] = {};  // left, right, top, bottom
+    const QByteArray extents = property(id, "_NET_FRAME_EXTENTS");
+    if (extents.size() == sizeof frame)
+        std::memcpy(frame, extents.constData(), sizeof frame);
     return Window{.id = id,
                   .title = QString::fromUtf8(title),
-                  .area = {place->dst_x, place->dst_y, geometry->width, geometry->height}};
+                  .area = {place->dst_x, place->dst_y, geometry->width, geometry->height},
+                  .frame = QMargins(int(frame[0]), int(frame[2]), int(frame[1]), int(frame[3]))};
 }
 
 }  // namespace kestrel

@@ -4,6 +4,7 @@
 #include "tarnwell/TextKey.h"
 
 #include <QList>
+#include <QMargins>
 #include <QRect>
 #include <QString>
 
@@ -30,7 +31,8 @@ public:
     struct Window {
         quint32 id = 0;
         QString title;
-        QRect area;  ///< without its frame
+        QRect area;           ///< without its frame
+        QMargins frame = {};  ///< around it
     };
 
     /// Null for the display of the environment. The reason where its picture cannot be had: there is none, or it
@@ -42,6 +44,7 @@ public:
 
     QString name() const { return m_name; }
     QRect area() const;                              ///< of the whole desktop
+    bool isComposited() const;                       ///< windows have pixels of their own, also where none is seen
     QList<Monitor> monitors() const;                 ///< the primary one first; the whole desktop where none is told
     QList<Window> windows() const;                   ///< of programs, that are to be seen; the uppermost first
     std::optional<Window> window(quint32 id) const;  ///< nothing where there is none of that number to be seen

@@ -1,7 +1,9 @@
 """Windows where people put them: on the screen, dragged, under a sheet, worked by the keyboard alone."""
+import glob
 import os
 import re
 import subprocess
+import time
 from itertools import pairwise
 
 from accessible import children, extents, states, wait_for
@@ -47,6 +49,30 @@ class WindowsTest(ProgramTest):
                 wait_for(lambda: self.frame(window)[0] > x, 'the window to move')
         self.desktop.x('xdotool', 'mouseup', 1)
         wait_for(lambda: self.frame(window)[:2] == [x + 64, y + 32], f'the window to go from {x}, {y} by 64, 32')
+
+    def test_a_held_button_is_ringed_in_the_recording(self):
+        app = self.launch()
+        self.click(app, 'push button', 'Recorder')
+        self.click(app, 'combo box', 'Sound of the computer')
+        self.desktop.key('End', 'Return')
+        for _ in range(2):  # counts down, and begins at once
+            self.click(app, 'push button', 'Record')
+        wait_for(lambda: not app.windows(), 'the window to step out of the picture')
+        self.desktop.move(400, 300)
+        self.desktop.x('xdotool', 'mousedown', 1)
+        def films(pattern):
+            return glob.glob(os.path.join(self.desktop.home, '**', pattern), recursive=True, include_hidden=True)
+        pressed = time.time()
+        wait_for(lambda: any(os.path.getmtime(path) > pressed + 2 for path in films('.*.mkv')), 'two seconds of pictures')
+        self.desktop.key('ctrl+alt+s')
+        path, = wait_for(lambda: films('Recording*.mov'), 'the recording')
+        self.desktop.x('xdotool', 'mouseup', 1)
+        picture = subprocess.run(['ffmpeg', '-v', 'error', '-sseof', '-0.3', '-i', path, '-frames:v', '1', '-vf',
+                                  'crop=64:64:368:268', '-pix_fmt', 'rgb24', '-f', 'rawvideo', '-'], check=True,
+                                 capture_output=True).stdout
+        yellow = sum(red > 200 and 150 < green < 230 and blue < 80 for red, green, blue in
+                     zip(picture[::3], picture[1::3], picture[2::3]))
+        self.assertGreater(yellow, 100)
 
     def test_menus_and_their_shortcuts_work_under_a_sheet(self):
         app = self.launch()

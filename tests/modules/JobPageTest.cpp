@@ -106,8 +106,11 @@ TEST_F(JobPageTest, WhatHasFailedStaysAndIsTriedAgain)
     end(1, JobState::Done);
     page.list()->removeEnded();
     EXPECT_THAT(queue.order(test::marlin), ElementsAre(ids[0], ids[2]));
-    choose(0, u"Retry"_s);
-    EXPECT_EQ(state(0), JobState::Running);
+    for (const bool isOffered : {false, true}) {
+        page.list()->setStartOffered(isOffered);
+        choose(0, u"Retry"_s);
+        EXPECT_EQ(state(0), isOffered ? JobState::Running : JobState::Failed);
+    }
 }
 
 TEST_F(JobPageTest, ProblemsLookOtherThanGoodResults)

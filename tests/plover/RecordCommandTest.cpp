@@ -97,10 +97,12 @@ TEST(RecordCommandTest, AWindowOfAnotherSizeIsFittedIntoTheFirst)
 
 TEST(RecordCommandTest, MicrophonesAreReadFromTheListOfSources)
 {
-    const QList<Microphone> found = microphonesIn(
+    const QByteArray told =
         "Auto-detected sources for pulse:\n"
         "* out.monitor [Monitor of Null Output] (none)\n"
-        "  alsa_input.usb-1 [Head[set] (left)] (none)\n");
+        "  alsa_input.usb-1 [Head[set] (left)] (none)\n";
+    EXPECT_EQ(usualDeviceIn(told), u"out.monitor");
+    const QList<Microphone> found = microphonesIn(told);
     ASSERT_EQ(found.size(), 1);
     EXPECT_EQ(found[0].name, u"alsa_input.usb-1");
     EXPECT_EQ(found[0].title, u"Head[set] (left)");

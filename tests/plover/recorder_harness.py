@@ -121,11 +121,26 @@ class RecorderTestCase(unittest.TestCase):
         wait_for(lambda: 'window' in self.logged(), 'the test window')
         return scene
 
-    def resize(self, window, *size):
+    def place(self, window, *geometry):
         x11 = ctypes.CDLL('libX11.so.6')
         x11.XOpenDisplay.restype = ctypes.c_void_p
         display = ctypes.c_void_p(x11.XOpenDisplay(self.environment['DISPLAY'].encode()))
-        x11.XResizeWindow(display, ctypes.c_ulong(int(window, 16)), *size)
+        x11.XMoveResizeWindow(display, ctypes.c_ulong(int(window, 16)), *geometry)
+        x11.XCloseDisplay(display)
+
+    def resize_display(self, *size):
+        x11, randr = ctypes.CDLL('libX11.so.6'), ctypes.CDLL('libXrandr.so.2')
+        x11.XOpenDisplay.restype = ctypes.c_void_p
+        x11.XDefaultRootWindow.restype = ctypes.c_ulong
+        randr.XRRGetScreenResources.restype = ctypes.POINTER(ctypes.c_ulong)
+        display = ctypes.c_void_p(x11.XOpenDisplay(self.environment['DISPLAY'].encode()))
+        root = ctypes.c_ulong(x11.XDefaultRootWindow(display))
+        resources = randr.XRRGetScreenResources(display, root)
+        crtc = ctypes.cast(resources[3], ctypes.POINTER(ctypes.c_ulong))[0]
+        nothing = ctypes.c_ulong(0)
+        randr.XRRSetCrtcConfig(display, resources, ctypes.c_ulong(crtc), nothing, 0, 0, nothing, 1, None, 0)
+        randr.XRRSetScreenSize(display, root, *size, *size)
+        x11.XSync(display, 0)
         x11.XCloseDisplay(display)
 
     def logged(self):

@@ -94,19 +94,27 @@ class RecordingTest(RecorderTestCase):
         self.assert_in_order(recorded.clocks(result['outputs'][0]), 2)
         self.assert_only(*result['outputs'])
 
-    def test_a_window_that_changes_its_size(self):
+    def test_what_changes_its_size_or_place(self):
         self.show_scene(200, 100, 640, 360)
         window = self.logged()['window'][0]
-        recording = self.record('--window', window)
-        recording.wait_for_seconds(1.5)
-        self.resize(window, 600, 300)
-        recording.wait_for_seconds(4)
-        recording.send(signal.SIGINT)
-        status, result, errors = recording.finish()
-        self.assertEqual((status, result['problems']), (0, []), errors)
-        video, audio = recorded.probe(result['outputs'][0])['streams']
-        self.assertEqual((video['width'], video['height']), (640, 360))
-        self.assertAlmostEqual(float(video['duration']), float(audio['duration']), delta=0.5)
+        for arguments, size, change in ((['--window', window], (640, 360), lambda: self.place(window, 200, 100, 600, 300)),
+                                        (['--window', window], (600, 300), lambda: self.place(window, 900, 100, 600, 300)),
+                                        ([], SIZE, lambda: self.resize_display(1024, 600))):
+            with self.subTest(arguments):
+                recording = self.record(*arguments)
+                recording.wait_for_seconds(1.5)
+                change()
+                recording.wait_for_seconds(4)
+                recording.send(signal.SIGINT)
+                status, result, errors = recording.finish()
+                self.assertEqual((status, result['problems']), (0, []), errors)
+                path, = result['outputs']
+                video, audio = recorded.probe(path)['streams']
+                self.assertEqual((video['width'], video['height']), size)
+                self.assertAlmostEqual(float(video['duration']), float(audio['duration']), delta=0.5)
+                if size == (600, 300):  # the half of it that is on the screen, in the middle
+                    self.assertGreater(recorded.clocks(path, 110, 0)[-1][0], 3)
+                os.remove(path)
 
     def test_a_sound_server_that_goes(self):
         self.show_scene()

@@ -1,5 +1,6 @@
 #include "AreaChooser.h"
 
+#include "modules/plover/CaptureTarget.h"
 #include "tarnwell/Localization.h"
 #include "tarnwell/TextKey.h"
 
@@ -96,8 +97,9 @@ void AreaChooser::resizeEvent(QResizeEvent *)
 
 void AreaChooser::paintEvent(QPaintEvent *)
 {
-    paintDarkened(
-        m_area, u"%1 — %2"_s.arg(sizeText(pixelsOf(m_area).size()), "Draw an area, then press Return"_key.localized()));
+    const QRect pixels = pixelsOf(m_area);
+    paintDarkened(m_area, u"%1 — %2"_s.arg(sizeText(recordableArea(pixels, pixels).size()),
+                                           "Draw an area, then press Return"_key.localized()));
 }
 
 void AreaChooser::mousePressEvent(QMouseEvent *event)

@@ -14,8 +14,6 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDateTime>
-#include <QHBoxLayout>
-#include <QLocale>
 #include <QPointer>
 #include <QProgressBar>
 #include <QTimeEdit>
@@ -32,24 +30,10 @@ using tarnwell::operator""_key;
 
 namespace {
 
-constexpr QSize entryPicture(64, 36);
 constexpr auto previewInterval = 500ms;
-constexpr auto untilGone = 200ms;  ///< a list or a chooser that closes, from the picture of the screen
+const QString beginKey = u"begin"_s;  ///< beside the members of the plan
+constexpr auto untilGone = 200ms;     ///< a list or a chooser that closes, from the picture of the screen
 using What = RecordPlan::What;
-
-/// Windows come and go while the panel is open.
-class SourceBox : public QComboBox {
-public:
-    explicit SourceBox(std::function<void()> refill) : m_refill(std::move(refill)) {}
-    void showPopup() override
-    {
-        m_refill();
-        QComboBox::showPopup();
-    }
-
-private:
-    std::function<void()> m_refill;
-};
 
 /// What an entry of the sources stands for; a window of the number 0 is chosen by a click.
 QVariantList entry(What what, const QVariant &name = {})
@@ -62,20 +46,6 @@ What whatOf(const QComboBox &sources, int index)
     return What(sources.itemData(index).toList().value(0).toInt());
 }
 
-QComboBox *named(QComboBox *box, const char *objectName, tarnwell::TextKey name)
-{
-    box->setObjectName(QLatin1StringView(objectName));
-    box->setAccessibleName(name.localized());
-    box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
-    box->setMinimumContentsLength(12);
-    return box;
-}
-
-QString rateText(double rate)
-{
-    return Sentence("%1 pictures a second"_key, {QLocale().toString(rate, 'g', 4)}).localized();
-}
-
 /// Also a value that is not among the choices.
 void showValue(QComboBox *box, const QVariant &value, const QString &text)
 {
@@ -84,115 +54,17 @@ void showValue(QComboBox *box, const QVariant &value, const QString &text)
     box->setCurrentIndex(box->findData(value));
 }
 
-QIcon iconOf(quint32 window, const QRect &area)
+QIcon iconOf(quint32 window, const QRect &area, QSize size)
 {
     const QPixmap picture = displayPicture(window, area);
-    return picture.isNull() ? QIcon() : picture.scaled(entryPicture * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    return picture.isNull() ? QIcon() : picture.scaled(size * 2, Qt::KeepAspectRatio, Qt::SmoothTransformation);
 }
 
 }  // namespace
 
-CapturePanel::CapturePanel()
-    : m_sources(named(new SourceBox([this] { fillSources(); }), "sourceComboBox", "What to record"_key)),
-      m_insets(named(new QComboBox, "insetComboBox", "Camera in the picture"_key)),
-      m_sounds(named(new QComboBox, "soundComboBox", "Sound"_key)),
-      m_microphones(named(new QComboBox, "microphoneComboBox", "Microphone"_key)),
-      m_formats(named(new QComboBox, "formatComboBox", "Format"_key)),
-      m_qualities(named(new QComboBox, "qualityComboBox", "Quality"_key)),
-      m_rates(named(new QComboBox, "rateComboBox", "Pictures a second"_key)),
-      m_begins(named(new QComboBox, "countdownComboBox", "Begin"_key)),
-      m_limits(named(new QComboBox, "limitComboBox", "Stop after"_key)),
-      m_time(new QTimeEdit),
-      m_pointer(new QCheckBox("Show the pointer"_key.localized())),
-      m_clicks(new QCheckBox("Show clicks"_key.localized())),
-      m_picture(new PreviewPicture),
-      m_level(new QProgressBar)
-{
-    makeChoices();
-    arrange();
-    connect(m_sources, &QComboBox::activated, this, &CapturePanel::sourceChosen);
-    connect(m_insets, &QComboBox::currentIndexChanged, this, &CapturePanel::insetChosen);
-    for (QComboBox *box : {m_sounds, m_microphones})
-        connect(box, &QComboBox::activated, this, &CapturePanel::soundChosen);
-    connect(m_begins, &QComboBox::currentIndexChanged, this, [this] {
-        m_time->setVisible(begin() == Begin::AtTime);
-        emit beginChosen();
-    });
-    connect(m_time, &QTimeEdit::timeChanged, this, &CapturePanel::beginChosen);
-    connect(&m_preview, &QTimer::timeout, this, &CapturePanel::showPreview);
-    connect(&m_meter, &LevelMeter::levelChanged, this, [this](double level) { m_level->setValue(int(level * 100)); });
-}
-
 CapturePanel::~CapturePanel() = default;
 
-void CapturePanel::makeChoices()
-{
-    using enum RecordPlan::Sound;
-    const struct {
-        QComboBox *box;
-        tarnwell::TextKey text;
-        int value;
-    } choices[] = {{m_sounds, "Sound of the computer"_key, int(System)},
-                   {m_sounds, "Microphone"_key, int(Microphone)},
-                   {m_sounds, "Computer and microphone"_key, int(Both)},
-                   {m_sounds, "Computer and microphone, a track each"_key, int(Both) + 1},
-                   {m_sounds, "No sound"_key, int(None)},
-                   {m_formats, "QuickTime movie (MOV)"_key, int(RecordPlan::Container::Mov)},
-                   {m_formats, "MPEG-4 movie (MP4)"_key, int(RecordPlan::Container::Mp4)},
-                   {m_qualities, "Small file"_key, int(RecordPlan::Quality::Small)},
-                   {m_qualities, "Good quality"_key, int(RecordPlan::Quality::Good)},
-                   {m_qualities, "Best quality"_key, int(RecordPlan::Quality::Best)},
-                   {m_begins, "Count down from three"_key, int(Begin::AfterCountdown)},
-                   {m_begins, "Begin at once"_key, int(Begin::AtOnce)},
-                   {m_begins, "Begin at a time…"_key, int(Begin::AtTime)},
-                   {m_limits, "Until it is stopped"_key, 0}};
-    for (const auto &[box, text, value] : choices)
-        box->addItem(text.localized(), value);
-    for (const int minutes : {1, 5, 10, 30, 60})
-        m_limits->addItem(Sentence("Stop after %1 min"_key, {QString::number(minutes)}).localized(), minutes * 60);
-    for (const int rate : {15, 24, 30, 60})
-        m_rates->addItem(rateText(rate), double(rate));
-    m_microphones->addItem("Usual microphone"_key.localized(), QString());
-    m_clicks->setObjectName(u"clicksCheckBox"_s);
-    m_sources->setIconSize(entryPicture);
-    m_time->setObjectName(u"beginTimeEdit"_s);
-    m_time->setAccessibleName("Time at which the recording begins"_key.localized());
-    m_time->setTime(QTime::currentTime().addSecs(5 * 60));
-    m_time->hide();
-    m_pointer->setObjectName(u"pointerCheckBox"_s);
-    m_pointer->setChecked(true);
-    m_level->setRange(0, 100);
-    m_level->setTextVisible(false);
-    m_level->setAccessibleName("Sound level"_key.localized());
-}
-
-void CapturePanel::arrange()
-{
-    auto *layout = new QHBoxLayout(this);
-    layout->setContentsMargins({});
-    layout->setSpacing(16);
-    layout->addWidget(m_picture);
-    auto *choices = new QVBoxLayout;
-    choices->setSpacing(8);
-    for (QWidget *widget : std::initializer_list<QWidget *>{m_sources, m_insets})
-        choices->addWidget(widget);
-    const auto addPair = [choices](QWidget *left, QWidget *right) {
-        auto *pair = new QHBoxLayout;
-        pair->addWidget(left, 1);
-        pair->addWidget(right, 1);
-        choices->addLayout(pair);
-        return pair;
-    };
-    addPair(m_sounds, m_microphones);
-    choices->addWidget(m_level);
-    addPair(m_begins, m_limits)->insertWidget(1, m_time);
-    addPair(m_formats, m_qualities);
-    addPair(m_rates, m_pointer)->addWidget(m_clicks);
-    choices->addStretch();
-    layout->addLayout(choices, 1);
-}
-
-void CapturePanel::open(const QString &transcoderPath, const RecordPlan &usual, const std::optional<RecordPlan> &last)
+void CapturePanel::open(const QString &transcoderPath, const RecordPlan &usual, const QJsonObject &last)
 {
     m_transcoderPath = transcoderPath;
     fillSources();
@@ -225,7 +97,7 @@ void CapturePanel::fillSources()
         addPortal();
     if (display) {
         for (const X11Display::Monitor &monitor : (*display)->monitors())
-            m_sources->addItem(iconOf(0, monitor.area),
+            m_sources->addItem(iconOf(0, monitor.area, m_sources->iconSize()),
                                Sentence("Screen %1 (%2 × %3)"_key, {monitor.name, QString::number(monitor.area.width()),
                                                                     QString::number(monitor.area.height())})
                                    .localized(),
@@ -233,7 +105,7 @@ void CapturePanel::fillSources()
         m_sources->addItem("Part of the screen…"_key.localized(), entry(What::Area));
         m_sources->addItem("Window by a click…"_key.localized(), entry(What::Window, 0));
         for (const X11Display::Window &window : (*display)->windows())
-            m_sources->addItem(iconOf(window.id, {{}, window.area.size()}),
+            m_sources->addItem(iconOf(window.id, {{}, window.area.size()}, m_sources->iconSize()),
                                Sentence("Window: %1"_key, {window.title}).localized(), entry(What::Window, window.id));
     }
     for (const CameraDevice &camera : cameraDevices()) {
@@ -270,9 +142,15 @@ void CapturePanel::fillMicrophones()
                                                   .collectsOutput = true});
     connect(m_microphoneList.get(), &ToolProcess::ended, this, [this](const ToolEnding &ending) {
         const QString chosen = m_microphones->currentData().toString();
+        const QList<Microphone> found = microphonesIn(ending.output);
+        bool isAsItWas = m_microphones->count() == found.size() + 1;
+        for (qsizetype index = 0; isAsItWas && index < found.size(); ++index)
+            isAsItWas = m_microphones->itemData(int(index) + 1) == found[index].name;
+        if (isAsItWas)  // the list may be open
+            return;
         while (m_microphones->count() > 1)
             m_microphones->removeItem(1);
-        for (const Microphone &microphone : microphonesIn(ending.output))
+        for (const Microphone &microphone : found)
             m_microphones->addItem(microphone.title, microphone.name);
         showValue(m_microphones, chosen, chosen);
     });
@@ -298,12 +176,13 @@ void CapturePanel::addPortal()
     m_portal->look([] {});
 }
 
-/// Windows and areas are others by now.
-void CapturePanel::restore(const RecordPlan &usual, const std::optional<RecordPlan> &lastPlan)
+/// Windows and areas are others by now, and a time to begin at has passed.
+void CapturePanel::restore(const RecordPlan &usual, const QJsonObject &choices)
 {
     m_qualities->setCurrentIndex(m_qualities->findData(int(usual.quality)));
     showValue(m_rates, usual.rate, rateText(usual.rate));
     showValue(m_microphones, usual.microphone, usual.microphone);
+    const auto lastPlan = RecordPlan::fromJson(choices);
     if (!lastPlan)
         return;
     const RecordPlan &last = *lastPlan;
@@ -317,10 +196,29 @@ void CapturePanel::restore(const RecordPlan &usual, const std::optional<RecordPl
     show(m_formats, int(last.container));
     show(m_limits, int(last.seconds));
     m_pointer->setChecked(last.pointer);
-    if (last.inset) {
-        show(m_insets, last.camera);
-        m_picture->setInset(m_insets->currentIndex() > 0 ? last.inset : std::nullopt);
+    if (const Begin begin{choices[beginKey].toInt(-1)}; begin != Begin::AtTime)
+        show(m_begins, int(begin));
+    QString camera = last.camera;
+    if ((last.inset || last.what == What::Camera) && m_insets->findData(camera) < 1) {
+        const CameraDevice first = cameraDevices().value(0);
+        camera = first.path;
+        emit noted(camera.isEmpty()
+                       ? Sentence("No camera was found."_key)
+                       : Sentence("The chosen camera is missing: %1 is recorded instead."_key, {first.name}));
     }
+    if (last.what == What::Camera)
+        show(m_sources, entry(What::Camera, camera));
+    if (last.inset && !camera.isEmpty()) {
+        show(m_insets, camera);
+        m_picture->setInset(last.inset);
+    }
+}
+
+QJsonObject CapturePanel::choices(const RecordPlan &plan) const
+{
+    QJsonObject choices = plan.toJson();
+    choices[beginKey] = int(begin());
+    return choices;
 }
 
 void CapturePanel::sourceChosen()
@@ -428,9 +326,23 @@ void CapturePanel::setShowsClicks(bool shows)
     m_clicks->setChecked(shows);
 }
 
-bool CapturePanel::showsClicks() const
+bool CapturePanel::wantsClicks() const
 {
     return m_clicks->isChecked();
+}
+
+bool CapturePanel::showsClicks() const
+{
+    return wantsClicks() && m_clicks->isEnabled();
+}
+
+/// The rings are windows of their own: the pixels of what is recorded must be those of the screen.
+bool CapturePanel::canShowClicks(const RecordPlan &plan)
+{
+    if (plan.what != What::Window)
+        return plan.what == What::Screen || plan.what == What::Area;
+    const auto display = X11Display::open();
+    return display && !(*display)->isComposited();
 }
 
 CapturePanel::Begin CapturePanel::begin() const
@@ -456,11 +368,12 @@ void CapturePanel::showPreview()
         return;
     RecordPlan plan;
     choose(plan);
+    m_clicks->setEnabled(canShowClicks(plan));
     followCamera(plan);
     if (!m_obstacle.isEmpty())
         return m_picture->showText(m_obstacle.localized());
     if (plan.what == What::Portal)
-        return m_picture->showText(
+        return m_picture->showPlace(
             "The desktop shares the picture when the recording begins. Shortcuts work only in Kestrel's windows then."_key
                 .localized());
     if (plan.what == What::Camera)

@@ -30,15 +30,18 @@ public:
     CapturePanel();
     ~CapturePanel() override;
 
-    /// `usual`: what the settings say; `last`: what was chosen last, if anything.
-    void open(const QString &transcoderPath, const RecordPlan &usual, const std::optional<RecordPlan> &last);
+    /// `usual`: what the settings say; `last`: the `choices` of last time, if any.
+    void open(const QString &transcoderPath, const RecordPlan &usual, const QJsonObject &last);
     void release();
     bool isOpen() const { return m_preview.isActive(); }
 
     /// Puts the choices into the plan.
     void choose(RecordPlan &plan) const;
+    /// What `open` takes next time, with what of them is in the plan.
+    QJsonObject choices(const RecordPlan &plan) const;
     void setShowsClicks(bool shows);
-    bool showsClicks() const;
+    bool wantsClicks() const;
+    bool showsClicks() const;  ///< it is wanted, and would be in the picture
     Begin begin() const;
     QDateTime beginTime() const;  ///< of AtTime: the next time that the clock shows it
     /// Why nothing can be recorded; none where it can.
@@ -46,15 +49,18 @@ public:
 
 signals:
     void beginChosen();
+    void noted(const kestrel::tarnwell::Sentence &note);  ///< something else than last time was chosen
 
 private:
+    static QString rateText(double rate);
+    static bool canShowClicks(const RecordPlan &plan);
     void makeChoices();
     void arrange();
     void fillSources();
     void fillCameras();
     void fillMicrophones();
     void addPortal();
-    void restore(const RecordPlan &usual, const std::optional<RecordPlan> &last);
+    void restore(const RecordPlan &usual, const QJsonObject &choices);
     void sourceChosen();
     void soundChosen();
     void insetChosen();

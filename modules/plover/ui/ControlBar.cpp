@@ -18,8 +18,22 @@ namespace kestrel {
 using tarnwell::Sentence;
 using tarnwell::operator""_key;
 
+namespace {
+
+constexpr std::chrono::seconds noteTime(4);
+
+QString longestText()
+{
+    JobRecord record;
+    record.progress = {.seconds = 9 * 3600 + 59 * 60 + 59, .bytes = qint64(999.99 * 1024 * 1024 * 1024)};
+    constexpr qint64 missed = 99'999;
+    return ControlBar::textOf(record, missed);
+}
+
+}  // namespace
+
 ControlBar::ControlBar()
-    : QWidget(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
+    : QFrame(nullptr, Qt::FramelessWindowHint | Qt::WindowStaysOnTopHint | Qt::Tool | Qt::WindowDoesNotAcceptFocus),
       m_text(new QLabel),
       m_level(new QProgressBar),
       m_stop(new QPushButton("Stop"_key.localized())),
@@ -29,15 +43,22 @@ ControlBar::ControlBar()
     setAttribute(Qt::WA_ShowWithoutActivating);
     setObjectName(u"controlBar"_s);
     setWindowTitle("Recording"_key.localized());
+    setProperty("card", true);  // with an edge, as it may lie upon a window of its own colour
     auto *layout = new QHBoxLayout(this);
     layout->setContentsMargins(12, 6, 12, 6);
-    m_text->setMinimumWidth(150);
+    m_text->ensurePolished();
+    m_text->setFixedWidth(m_text->fontMetrics().horizontalAdvance(longestText()));
     m_level->setRange(0, 100);
     m_level->setTextVisible(false);
     m_level->setFixedWidth(60);
     m_level->setAccessibleName("Sound level"_key.localized());
     for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, m_stop, m_snapshot})
         layout->addWidget(widget);
+    // When all have their style: the bar does not grow into the picture.
+    for (const tarnwell::TextKey text : {"Continue"_key, "Pause"_key}) {
+        m_pause->setText(text.localized());
+        m_pause->setMinimumWidth(std::max(m_pause->minimumWidth(), m_pause->sizeHint().width()));
+    }
     connect(m_pause, &QPushButton::clicked, this, &ControlBar::pauseClicked);
     connect(m_stop, &QPushButton::clicked, this, &ControlBar::stopClicked);
     connect(m_snapshot, &QPushButton::clicked, this, &ControlBar::snapshotClicked);
@@ -49,16 +70,21 @@ bool ControlBar::showBeside(const QRect &area)
     const double ratio = devicePixelRatioF();
     const QRect recorded((QPointF(area.topLeft()) / ratio).toPoint(), area.size() / ratio);
     const QSize size = sizeHint();
-    const QPoint places[] = {{recorded.left(), recorded.bottom() + gap},
-                             {recorded.left(), recorded.top() - gap - size.height()},
-                             {recorded.right() + gap, recorded.top()},
-                             {recorded.left() - gap - size.width(), recorded.top()}};
+    QList<QPoint> places{{recorded.left(), recorded.bottom() + gap},
+                         {recorded.left(), recorded.top() - gap - size.height()},
+                         {recorded.right() + gap, recorded.top()},
+                         {recorded.left() - gap - size.width(), recorded.top()}};
     const QList<QScreen *> screens = QGuiApplication::screens();
+    for (const QScreen *screen : screens) {  // else a corner that is not in the picture
+        const QRect room = screen->availableGeometry();
+        const int right = room.right() + 1 - size.width(), bottom = room.bottom() + 1 - size.height();
+        places += {{right, bottom}, {room.left(), bottom}, {right, room.top()}, room.topLeft()};
+    }
     for (const QPoint &place : places) {
         const QRect bar(place, size);
         const bool fits = std::any_of(screens.begin(), screens.end(),
                                       [&](const QScreen *screen) { return screen->availableGeometry().contains(bar); });
-        if (fits) {
+        if (fits && !bar.intersects(recorded)) {
             setGeometry(bar);
             show();
             return true;
@@ -84,13 +110,33 @@ void ControlBar::setKeys(const QStringList &keys)
         buttons[number]->setToolTip(keys.value(number));
 }
 
-void ControlBar::showRecord(const JobRecord &record, qint64 missed)
+void ControlBar::setSnapshotOffered(bool isOffered)
 {
-    m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
+    m_snapshot->setVisible(isOffered);
+}
+
+QString ControlBar::textOf(const JobRecord &record, qint64 missed)
+{
     QStringList parts{durationText(record.progress.seconds), QLocale().formattedDataSize(record.progress.bytes)};
     if (missed > 0)
         parts.append(Sentence("%1 dropped"_key, {QString::number(missed)}).localized());
-    m_text->setText(parts.join(u" · "_s));
+    return parts.join(u" · "_s);
+}
+
+void ControlBar::showRecord(const JobRecord &record, qint64 missed)
+{
+    m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
+    if (m_noteEnd.hasExpired()) {
+        m_text->setText(textOf(record, missed));
+        m_text->setToolTip({});
+    }
+}
+
+void ControlBar::showNote(const QString &note)
+{
+    m_noteEnd.setRemainingTime(noteTime);
+    m_text->setText(m_text->fontMetrics().elidedText(note, Qt::ElideRight, m_text->width()));
+    m_text->setToolTip(note);
 }
 
 void ControlBar::setLevel(double level)

@@ -3,8 +3,9 @@
 #include "CapturePanel.h"
 #include "ClickRings.h"
 #include "ControlBar.h"
-#include "ScreenOverlay.h"
+#include "foundation/Bundle.h"
 #include "foundation/Queues.h"
+#include "jobs/DesktopServices.h"
 #include "jobs/JobList.h"
 #include "jobs/JobQueue.h"
 #include "jobs/ui/JobListView.h"
@@ -12,21 +13,18 @@
 #include "modules/common/LateView.h"
 #include "modules/common/MadeFilms.h"
 #include "modules/common/OutputFolderLine.h"
-#include "modules/plover/X11Display.h"
 #include "settings/JKestrelSettingDispatcher.h"
 #include "tarnwell/Alerts.h"
 #include "tarnwell/Localization.h"
+#include "tarnwell/ProductInformation.h"
 #include "tarnwell/ui/TabOrder.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QDateTime>
 #include <QDir>
-#include <QImage>
 #include <QJsonDocument>
 #include <QLocale>
 #include <QMenu>
-#include <QShortcut>
 #include <QSystemTrayIcon>
 
 using namespace Qt::StringLiterals;
@@ -51,20 +49,6 @@ constexpr JobPageTexts ploverTexts = {
 
 constexpr int countdownSeconds = 3;
 constexpr std::chrono::seconds recoveryDelay(5);  ///< after a start, which has other things to do
-
-/// What can be done from anywhere, with Ctrl and Alt.
-constexpr struct {
-    X11Keys::Key key;
-    Qt::Key letter;
-    tarnwell::TextKey text;
-} remoteActions[] = {{X11Keys::Key::Stop, Qt::Key_S, "Stop"_key},
-                     {X11Keys::Key::Pause, Qt::Key_P, "Pause"_key},
-                     {X11Keys::Key::Snapshot, Qt::Key_N, "Snapshot"_key}};
-
-QKeySequence keysFor(Qt::Key letter)
-{
-    return QKeySequence(Qt::CTRL | Qt::ALT | letter);
-}
 
 }  // namespace
 
@@ -121,7 +105,10 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 
     connect(m_page, &JobPage::backClicked, this, &PloversController::doBackAction);
     connect(m_page, &JobPage::startClicked, this, &PloversController::startClicked);
+    connect(panel, &CapturePanel::noted, m_page,
+            [this](const Sentence &note) { m_page->showMessage(note.localized()); });
     connect(panel, &CapturePanel::beginChosen, this, &PloversController::endCountdown);
+    page->list()->setStartOffered(false);  // nobody would see it run, or end it
     connect(page->list(), &JobListView::menuRequested, this, &PloversController::extendMenu);
     (new MadeFilms(*page, m_settings))->showPictures(*m_list);
     connect(&queue(), &JobQueue::changed, this, &PloversController::recordChanged);
@@ -138,8 +125,7 @@ std::unique_ptr<QWidget> PloversController::makeContents()
 void PloversController::openPanel()
 {
     const QByteArray choices = m_settings->getRecordChoices().toUtf8();
-    m_panel->open(m_settings->getTranscoderPath(), recordPlan(*m_settings),
-                  RecordPlan::fromJson(QJsonDocument::fromJson(choices).object()));
+    m_panel->open(m_settings->getTranscoderPath(), recordPlan(*m_settings), QJsonDocument::fromJson(choices).object());
 }
 
 /// What is to be made of a recording is the converter's work.
@@ -180,8 +166,20 @@ void PloversController::doBackAction()
         m_completedHandler(this);
 }
 
+/// Who answers nothing goes on waiting.
 bool PloversController::shouldTerminate()
 {
+    if (!m_beginning.isValid())
+        return true;
+    const QString moment = QLocale().toString(m_beginning.time(), QLocale::ShortFormat);
+    if (tarnwell::runAlert({.message = Sentence("A recording is to begin at %1."_key, {moment}).localized(),
+                            .defaultButton = "Keep Waiting"_key.localized(),
+                            .alternateButton = "Don't Record"_key.localized(),
+                            .informativeText = {},
+                            .style = tarnwell::AlertStyle::Warning,
+                            .answerToEscape = tarnwell::AlertAnswer::Default}) != tarnwell::AlertAnswer::Alternate)
+        return false;
+    endCountdown();
     return true;
 }
 
@@ -212,6 +210,7 @@ void PloversController::endCountdown()
     if (!m_beginning.isValid())
         return;
     m_beginning = {};
+    m_awake.reset();
     m_keys.reset();
     m_shortcuts.reset();
     m_page->showMessage({});
@@ -242,15 +241,24 @@ void PloversController::beginAt(const QDateTime &moment)
 {
     m_beginning = moment;
     const std::chrono::milliseconds left(QDateTime::currentDateTime().msecsTo(moment));
+    const QString time = QLocale().toString(moment.time(), QLocale::ShortFormat);
+    if (left < -std::chrono::minutes(1)) {  // the machine slept
+        endCountdown();
+        return m_page->showMessage(
+            Sentence("The recording that was to begin at %1 was missed."_key, {time}).localized());
+    }
     if (left.count() <= 0)
         return record();
+    if (!m_awake) {
+        m_awake = std::make_unique<DesktopServices>(tarnwell::productBundle().identifier());
+        m_awake->setAwake(true, Sentence("A recording is to begin at %1."_key, {time}).localized());
+    }
     constexpr std::chrono::seconds keysAhead(10);
     const auto seconds = std::chrono::ceil<std::chrono::seconds>(left);
     const Sentence message = seconds < std::chrono::minutes(1)
                                  ? Sentence("Recording begins in %1 s. Press Record to begin at once."_key,
                                             {QString::number(seconds.count())})
-                                 : Sentence("Recording begins at %1. Press Record to begin at once."_key,
-                                            {QLocale().toString(moment.time(), QLocale::ShortFormat)});
+                                 : Sentence("Recording begins at %1. Press Record to begin at once."_key, {time});
     QStringList parts{message.localized()};
     if (seconds <= keysAhead) {
         takeKeys();
@@ -267,13 +275,16 @@ void PloversController::beginAt(const QDateTime &moment)
 void PloversController::record()
 {
     m_beginning = {};
+    m_awake.reset();
     RecordPlan plan = recordPlan(*m_settings);
     m_panel->choose(plan);
     m_settings->setDefaultRecordQuality(int(plan.quality));
     m_settings->setMaxFramerate(plan.rate);
     m_settings->setAudioDeviceID(plan.microphone);
-    m_settings->setCaptureMouseClick(m_panel->showsClicks());
-    m_settings->setRecordChoices(QString::fromUtf8(QJsonDocument(plan.toJson()).toJson(QJsonDocument::Compact)));
+    m_settings->setVideoDeviceID(plan.camera);
+    m_settings->setCaptureMouseClick(m_panel->wantsClicks());
+    m_settings->setRecordChoices(
+        QString::fromUtf8(QJsonDocument(m_panel->choices(plan)).toJson(QJsonDocument::Compact)));
     const auto target = captureTarget(plan);
     m_target = target ? *target : CaptureTarget();
     const QString folder = m_settings->getVideoDir();
@@ -286,130 +297,6 @@ void PloversController::record()
     showState();
 }
 
-void PloversController::openControls()
-{
-    takeKeys();
-    if (m_keys && m_settings->isCaptureMouseClick()) {
-        m_rings = std::make_unique<ClickRings>(*m_keys);
-        m_rings->setActive(true);
-    }
-    openTray();
-    m_bar = std::make_unique<ControlBar>();
-    connect(m_bar.get(), &ControlBar::pauseClicked, this, &PloversController::togglePause);
-    connect(m_bar.get(), &ControlBar::stopClicked, this, &PloversController::stopRecording);
-    connect(m_bar.get(), &ControlBar::snapshotClicked, this, &PloversController::takeSnapshot);
-    m_bar->setKeys(keyTexts());
-    if (m_target.isShared)  // nobody knows where that is: this window stays
-        return;
-    if (m_target.display.isEmpty())
-        return m_bar->showAtEdge();
-    QRect area = m_target.area;
-    if (m_target.window != 0) {
-        const auto display = X11Display::open();
-        if (const auto window = display ? (*display)->window(m_target.window) : std::nullopt)
-            area = window->area;
-    }
-    // Without room beside the picture, this window steps out of it where tray or keys remain.
-    const bool isInReach = QSystemTrayIcon::isSystemTrayAvailable() || (m_keys && m_keys->isTaken(X11Keys::Key::Stop));
-    if (!m_bar->showBeside(area) && isInReach && m_view->isVisible())
-        m_view->window()->showMinimized();
-}
-
-void PloversController::openTray()
-{
-    m_trayMenu = std::make_unique<QMenu>();
-    const QStringList keys = keyTexts();
-    for (const auto &[key, letter, text] : remoteActions) {
-        m_trayMenu->addAction((text.localized() + u'\t' + keys[qsizetype(key)]).trimmed(), this,
-                              [this, key = key] { keyPressed(key); });
-    }
-    m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
-    m_tray->setToolTip(("Recording"_key.localized() + u'\n' + keyLine(u'\n')).trimmed());
-    m_tray->setContextMenu(m_trayMenu.get());
-    connect(m_tray.get(), &QSystemTrayIcon::activated, this, [this](QSystemTrayIcon::ActivationReason reason) {
-        if (reason == QSystemTrayIcon::Trigger)
-            keyPressed(X11Keys::Key::Stop);
-    });
-    m_tray->show();
-}
-
-void PloversController::takeKeys()
-{
-    if (m_keys || m_shortcuts)
-        return;
-    if (!isWaylandSession()) {
-        m_keys = std::make_unique<X11Keys>();
-        connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
-        return;
-    }
-    m_shortcuts = std::make_unique<QObject>();
-    for (const auto &[key, letter, text] : remoteActions) {
-        auto *shortcut = new QShortcut(keysFor(letter), m_view->window());
-        shortcut->setContext(Qt::ApplicationShortcut);
-        shortcut->setAutoRepeat(false);
-        connect(shortcut, &QShortcut::activated, this, [this, key = key] { keyPressed(key); });
-        connect(m_shortcuts.get(), &QObject::destroyed, shortcut, &QObject::deleteLater);
-    }
-}
-
-/// Of those that were got.
-QStringList PloversController::keyTexts() const
-{
-    QStringList texts;
-    for (const auto &[key, letter, text] : remoteActions) {
-        const bool isThere = m_shortcuts || (m_keys && m_keys->isTaken(key));
-        texts.append(isThere ? keysFor(letter).toString(QKeySequence::NativeText) : QString());
-    }
-    return texts;
-}
-
-QString PloversController::keyLine(QChar separator) const
-{
-    const QStringList keys = keyTexts();
-    QStringList parts;
-    for (const auto &[key, letter, text] : remoteActions) {
-        if (const QString &known = keys[qsizetype(key)]; !known.isEmpty())
-            parts.append(text.localized() + u": "_s + known);
-    }
-    return parts.join(separator == u' ' ? u" · "_s : QString(separator));
-}
-
-void PloversController::closeControls()
-{
-    m_recording = 0;
-    m_meter.close();
-    m_rings.reset();
-    m_keys.reset();
-    m_shortcuts.reset();
-    m_tray.reset();
-    if (m_trayMenu)
-        m_trayMenu.release()->deleteLater();
-    // Its own button may be what ended the recording.
-    if (m_bar)
-        m_bar.release()->deleteLater();
-    QWidget *window = m_view->window();
-    if (window->isMinimized())
-        window->showNormal();
-    if (m_view->isVisible())
-        openPanel();
-}
-
-void PloversController::recordChanged(JobId id)
-{
-    if (id != m_recording || id == 0)
-        return;
-    const JobRecord *record = queue().record(id);
-    if (!record || isEnded(record->state)) {
-        closeControls();
-    } else if (m_bar) {
-        m_bar->showRecord(*record, m_recipe.recording() ? m_recipe.recording()->missedPictures() : 0);
-        const auto pause = int(X11Keys::Key::Pause);
-        const tarnwell::TextKey text = record->state == JobState::Paused ? "Continue"_key : "Pause"_key;
-        m_trayMenu->actions().at(pause)->setText((text.localized() + u'\t' + keyTexts()[pause]).trimmed());
-    }
-    showState();
-}
-
 void PloversController::showState()
 {
     if (!m_page)
@@ -419,60 +306,6 @@ void PloversController::showState()
     // A second click on "Record" is not meant for "Stop".
     const JobRecord *record = m_recording != 0 ? queue().record(m_recording) : nullptr;
     m_page->setStartEnabled(!record || (record->progress.seconds > 0 && record->state != JobState::Stopping));
-}
-
-void PloversController::keyPressed(X11Keys::Key key)
-{
-    switch (key) {
-        case X11Keys::Key::Stop:
-            // Not within the keys' own signal, which ends with them.
-            return foundation::queue::asyncMain([self = QPointer(this)] {
-                if (self)
-                    self->stopRecording();
-            });
-        case X11Keys::Key::Pause:
-            return togglePause();
-        case X11Keys::Key::Snapshot:
-            return takeSnapshot();
-    }
-}
-
-void PloversController::togglePause()
-{
-    const JobRecord *record = queue().record(m_recording);
-    if (record)
-        queue().setPaused({m_recording}, record->state != JobState::Paused);
-}
-
-void PloversController::stopRecording()
-{
-    if (m_recording != 0)
-        queue().stop({m_recording});
-    else
-        endCountdown();
-}
-
-void PloversController::takeSnapshot()
-{
-    if (m_recording == 0)
-        return;
-    if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot()) {
-        disconnect(job, &RecordJob::snapshotTaken, this, nullptr);  // one that never came
-        connect(
-            job, &RecordJob::snapshotTaken, this, [this](const QString &path) { keepSnapshot(QImage(path)); },
-            Qt::SingleShotConnection);
-    }
-    if (!m_target.display.isEmpty())
-        keepSnapshot(displayPicture(m_target.window, m_target.area).toImage());
-}
-
-void PloversController::keepSnapshot(const QImage &picture)
-{
-    const QString name = u"/Snapshot %1.png"_s.arg(QDateTime::currentDateTime().toString(u"yyyy-MM-dd HH.mm.ss.zzz"_s));
-    // The folder for snapshots is the converter's setting, the only one for all of Kestrel's pictures.
-    const QString folder = JKestrelSettingDispatcher::SettingDispatcherWithType(ModuleSettingVideo)->getSnapshotDir();
-    const bool isThere = QDir().mkpath(folder);
-    picture.save((isThere ? folder : m_settings->getVideoDir()) + name);
 }
 
 }  // namespace kestrel

@@ -18,6 +18,7 @@ namespace kestrel {
 class CapturePanel;
 class ClickRings;
 class ControlBar;
+class DesktopServices;
 class JobList;
 class JobPage;
 class JobQueue;
@@ -59,14 +60,17 @@ private:
     QStringList keyTexts() const;
     QString keyLine(QChar separator) const;
     void openTray();
+    QString trayTip(const QString &progress) const;
     void closeControls();
     void recordChanged(JobId id);
     void showState();
     void keyPressed(X11Keys::Key key);
     void togglePause();
     void stopRecording();
+    bool offersSnapshot() const { return m_target.isShared || !m_target.display.isEmpty(); }
     void takeSnapshot();
-    void keepSnapshot(const QImage &picture);
+    void tell(const QString &text);
+    void saveSnapshot(const QImage &picture);
 
     ModuleServices &m_services;
     std::shared_ptr<JKestrelSettingDispatcher> m_settings;
@@ -77,7 +81,8 @@ private:
     std::unique_ptr<JobList> m_list;
     QPointer<JobPage> m_page;
     QPointer<CapturePanel> m_panel;
-    QDateTime m_beginning;  ///< of the recording that is about to begin; none where none is
+    QDateTime m_beginning;                     ///< of the recording that is about to begin; none where none is
+    std::unique_ptr<DesktopServices> m_awake;  ///< until then the machine does not go to sleep
     // While it records, the keys already shortly before
     JobId m_recording = 0;
     CaptureTarget m_target;

@@ -34,6 +34,25 @@ void PreviewPicture::showText(const QString &text)
     setText(text);
 }
 
+/// So that the camera's picture has something to stand in.
+void PreviewPicture::showPlace(const QString &text)
+{
+    if (!m_inset)
+        return showText(text);
+    QPixmap place(previewSize * devicePixelRatioF());
+    place.setDevicePixelRatio(devicePixelRatioF());
+    place.fill(palette().color(QPalette::Mid));
+    QPainter painter(&place);
+    painter.setFont(font());
+    painter.setPen(palette().color(QPalette::WindowText));
+    constexpr int margin = 12;
+    painter.drawText(QRect({}, previewSize).adjusted(margin, margin, -margin, -margin),
+                     Qt::AlignHCenter | Qt::AlignTop | Qt::TextWordWrap, text);
+    painter.end();
+    setPixmap(place);
+    setAccessibleDescription(text);
+}
+
 void PreviewPicture::showPicture(const QPixmap &picture)
 {
     if (picture.isNull())

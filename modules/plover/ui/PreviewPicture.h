@@ -15,6 +15,7 @@ public:
     PreviewPicture();
 
     void showText(const QString &text);
+    void showPlace(const QString &text);  ///< of a picture that is not to be had before
     void showPicture(const QPixmap &picture);
     /// None hides it. Without a picture of the camera its place is shown.
     void setInset(const std::optional<RecordPlan::Inset> &inset);

@@ -28,7 +28,7 @@ void WindowChooser::light(qsizetype window)
 qsizetype WindowChooser::windowAt(QPoint point) const
 {
     for (qsizetype index = 0; index < m_windows.size(); ++index) {
-        if (areaOf(m_windows[index].area).contains(point))
+        if (areaOf(m_windows[index].area.marginsAdded(m_windows[index].frame)).contains(point))
             return index;
     }
     return -1;
