@@ -71,6 +71,10 @@ void tellLosses(TrackPlan &tracks, const Plan &plan, const MediaInformation &sou
             tracks.leftOut.append({"Channels of the sound: %1. %2 become %3."_key,
                                    {trackName(*sound.source, machine), QString::number(sound.source->channels),
                                     QString::number(sound.channels)}});
+        const bool wasLossless = isLosslessSound(sound.source->codec);
+        if (wasLossless && !isLosslessSound(sound.codec) && plan.preset.audioCodec == "copy"_L1)
+            tracks.leftOut.append({"Sound without loss: %1. It becomes %2."_key,
+                                   {trackName(*sound.source, machine), codecLabel(sound.codec)}});
     }
     const auto hasLanguage = [](const SoundTrackPlan &sound) { return !sound.source->language.isEmpty(); };
     const bool lacksLanguages = container.has(Container::ManySounds) && !container.has(Container::TrackNames);

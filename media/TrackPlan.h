@@ -86,6 +86,8 @@ std::optional<VideoTrackPlan> planVideo(const TranscodePlan &plan, const MediaTr
                                         const TranscodeMachine &machine, bool isBurnt);
 QList<SoundTrackPlan> planSounds(const TranscodePlan &plan, const QList<const MediaTrack *> &tracks,
                                  const Container &container, const TranscodeMachine &machine);
+/// Whether sound of that codec is, sample by sample, what it was made of.
+bool isLosslessSound(const QString &codec);
 /// Subtitles, covers, attachments and chapters, with what stays behind.
 void planCompanions(TrackPlan &tracks, const TranscodePlan &plan, const QList<MediaInformation> &sources,
                     const TranscodeMachine &machine);

@@ -53,6 +53,9 @@ void shortenToKept(QList<SourcePiece> &pieces, const TrackPlan &tracks, const QL
 QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSize plannedSize)
 {
     QList<tarnwell::Sentence> notes;
+    const auto encoded = std::ranges::find_if(tracks.sounds, [](const SoundTrackPlan &each) { return each.encoder; });
+    if (plan.preset.audioCodec == "copy"_L1 && encoded != tracks.sounds.end())
+        notes.append({"The sound has to be encoded (%1)."_key, {codecLabel(encoded->codec)}});
     if (!tracks.video)
         return notes;
     const VideoTrackPlan &video = *tracks.video;
