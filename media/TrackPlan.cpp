@@ -13,13 +13,13 @@ using Kind = MediaTrack::Kind;
 using Refused = foundation::Failure<tarnwell::Sentence>;
 using tarnwell::operator""_key;
 
-/// The sound tracks that the user wants, in the file's order.
+/// The sound tracks that the user wants, in the file's order, of those that can be read at all.
 QList<const MediaTrack *> wantedSounds(const Plan &plan, const MediaInformation &source)
 {
     QList<const MediaTrack *> tracks, inLanguages;
     for (const MediaTrack &track : source.tracks) {
         const bool isNamed = !plan.audioTracks || plan.audioTracks->contains(track.index);
-        if (track.kind != Kind::Audio || !isNamed)
+        if (track.kind != Kind::Audio || !isNamed || track.codec.isEmpty())
             continue;
         tracks.append(&track);
         if (isInLanguages(track, plan.soundLanguages))
@@ -31,6 +31,11 @@ QList<const MediaTrack *> wantedSounds(const Plan &plan, const MediaInformation 
 void planSoundTracks(TrackPlan &tracks, const Plan &plan, const MediaInformation &source,
                      const TranscodeMachine &machine)
 {
+    for (const MediaTrack &track : source.tracks) {
+        const bool isNamed = !plan.audioTracks || plan.audioTracks->contains(track.index);
+        if (track.kind == Kind::Audio && track.codec.isEmpty() && isNamed)
+            tracks.leftOut.append({"Sound: %1. Its format is not known."_key, {trackName(track, machine)}});
+    }
     QList<const MediaTrack *> wanted = wantedSounds(plan, source);
     if (wanted.size() > 1 && !tracks.container->has(Container::ManySounds)) {
         const auto isDefault = [](const MediaTrack *track) { return track->isDefault; };
