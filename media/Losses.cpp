@@ -13,7 +13,7 @@ using Plan = TranscodePlan;
 using Kind = MediaTrack::Kind;
 using tarnwell::operator""_key;
 
-void tellPictureLosses(const VideoTrackPlan &video, QList<tarnwell::Sentence> &leftOut)
+void tellPictureLosses(const VideoTrackPlan &video, const Plan &plan, QList<tarnwell::Sentence> &leftOut)
 {
     if (!video.encoder)
         return;
@@ -31,6 +31,9 @@ void tellPictureLosses(const VideoTrackPlan &video, QList<tarnwell::Sentence> &l
     // The reader of GIF gives every picture some.
     if (had.hasAlpha && !has.hasAlpha && video.pixelFormat != "pal8"_L1 && source.codec != "gif"_L1)
         leftOut.append({"The transparency of the picture. %1 cannot hold it."_key, {codecLabel(video.codec)}});
+    if (source.isVariableRate && video.frameRate > 0 && plan.frameRate == 0)
+        leftOut.append({"The irregular times of the pictures. They come evenly, %1 a second."_key,
+                        {QString::number(video.frameRate, 'g', 5)}});
     const bool isMastered = !source.masteringDisplay.isEmpty() || !source.lightLevel.isEmpty();
     if (video.keepsHdr && isMastered && !video.encoder->writesMastering)
         leftOut.append(
@@ -65,7 +68,7 @@ void tellLosses(TrackPlan &tracks, const Plan &plan, const MediaInformation &sou
 {
     const Container &container = *tracks.container;
     if (tracks.video)
-        tellPictureLosses(*tracks.video, tracks.leftOut);
+        tellPictureLosses(*tracks.video, plan, tracks.leftOut);
     for (const SoundTrackPlan &sound : tracks.sounds) {
         if (sound.channels < sound.source->channels && plan.mix == Plan::SoundMix::AsSource)
             tracks.leftOut.append({"Channels of the sound: %1. %2 become %3."_key,

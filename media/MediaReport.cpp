@@ -194,6 +194,7 @@ void readRates(const QJsonObject &stream, MediaTrack &track)
     track.frameRate = average > 0 && average < absurdRate ? average : base < absurdRate ? base : 0;
     if (average <= 0 || base <= 0)
         return;
+    track.baseRate = base;
     // Fields that are coded apart count twice in the base rate. Rounded time stamps shift the average a little.
     constexpr double tolerance = 0.002;
     const double ratio = base / average;

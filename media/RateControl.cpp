@@ -28,7 +28,8 @@ double picturesPerSecond(const VideoTrackPlan &video)
 {
     if (video.frameRate > 0)
         return video.frameRate;
-    return video.source->frameRate > 0 ? video.source->frameRate : 25;
+    const double rate = video.source->frameRate > 0 ? video.source->frameRate : 25;
+    return video.mostRate > 0 ? std::min(rate, video.mostRate) : rate;
 }
 
 /// Sound may take a quarter of everything; less than this a channel is not worth hearing.

@@ -27,6 +27,7 @@ struct VideoTrackPlan {
     QSize uprightSize;     ///< of the source's picture as it stands upright; empty where it is not known
     QSize size;            ///< of the result
     double frameRate = 0;  ///< that is asked for; 0 for as the source
+    double mostRate = 0;   ///< where each picture keeps its time: no more of them a second; 0 for no limit
     bool isVariableRate = false;
 };
 

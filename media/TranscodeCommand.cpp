@@ -142,6 +142,8 @@ private:
             const bool isSteady =
                 m_tracks.video->encoder->isSteady || !m_tracks.container->has(Container::VariableRate);
             arguments << u"-fps_mode:v:0"_s << (isSteady ? u"cfr"_s : u"vfr"_s);
+            if (m_tracks.video->mostRate > 0)
+                arguments << u"-fpsmax:v:0"_s << numberText(m_tracks.video->mostRate);
         }
         return arguments;
     }

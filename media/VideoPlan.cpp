@@ -137,21 +137,27 @@ bool wantsDeinterlacing(const Plan &plan, const MediaTrack &track)
     return true;
 }
 
+/// As often as pictures come; where those of irregular times have to come evenly, as the closest of them do.
+double sourceRate(const Plan &plan, const MediaTrack &track, bool isSteady)
+{
+    constexpr double mostFilledUp = 60;
+    if (plan.deinterlace == Plan::Deinterlace::Film)
+        return 24000.0 / 1001;
+    if (track.isVariableRate && isSteady && track.baseRate > 0)
+        return std::min(track.baseRate, mostFilledUp);
+    const bool isDoubled = plan.deinterlace == Plan::Deinterlace::DoubleRate && wantsDeinterlacing(plan, track);
+    return track.frameRate * (isDoubled ? 2 : 1);
+}
+
 /// Pictures a second that have to be asked for; 0 where each picture may keep its time.
 double wantedRate(const Plan &plan, const VideoEncoder &encoder, const Container &container, const MediaTrack &track)
 {
-    const bool isDoubled = plan.deinterlace == Plan::Deinterlace::DoubleRate && wantsDeinterlacing(plan, track);
-    const double source =
-        plan.deinterlace == Plan::Deinterlace::Film ? 24000.0 / 1001 : track.frameRate * (isDoubled ? 2 : 1);
-    double rate = plan.frameRate;
-    if (const double most = plan.preset.maximumFrameRate; most > 0) {
-        if (rate > most || (rate == 0 && (source > most * 1.001 || track.isVariableRate)))
-            rate = most;
-        // One of irregular times keeps within the limit without being filled up to it.
-        if (plan.frameRate == 0 && track.isVariableRate && source > 0)
-            rate = std::min(most, source);
-    }
     const bool isSteady = encoder.isSteady || !container.has(Container::VariableRate);
+    const double source = sourceRate(plan, track, isSteady), most = plan.preset.maximumFrameRate;
+    double rate = plan.frameRate;
+    const bool keepsTimes = rate == 0 && track.isVariableRate && !isSteady;
+    if (most > 0 && !keepsTimes && (rate > 0 ? rate > most : source > most * 1.001))
+        rate = most;
     // Pictures that come twice as fast are not shown twice as often.
     if (rate == 0 && plan.speedFactor > 1 && !track.isVariableRate)
         rate = source;
@@ -270,6 +276,8 @@ std::optional<VideoTrackPlan> planVideo(const Plan &plan, const MediaTrack &trac
     if (encoder.is("dvvideo"_L1))
         video.pixelFormat = video.size.height() == 480 ? u"yuv411p"_s : u"yuv420p"_s;
     video.frameRate = wantedRate(plan, encoder, container, track);
+    if (track.isVariableRate && video.frameRate == 0)
+        video.mostRate = plan.preset.maximumFrameRate;
     const QString device = encoder.is("libx264"_L1) ? machine.hardwareDevice : machine.hevcDevice;
     const bool isRateFree =
         plan.rateControl == Plan::RateControl::Preset || plan.rateControl == Plan::RateControl::BitRate;
