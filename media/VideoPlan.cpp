@@ -195,12 +195,13 @@ bool keepsPicture(const Plan &plan, const MediaTrack &track, const Container &co
     const bool isOriginal = plan.preset.videoCodec == "copy"_L1;
     const bool keepsFields = isOriginal && plan.deinterlace != Plan::Deinterlace::DoubleRate;
     const bool isAsked = (isOriginal || plan.preset.videoCodec == track.codec) && (keepsFields || !deinterlaces);
-    const bool mustBePlain = plan.preset.plainVideo || plan.dynamicRange == Plan::HighDynamicRange::ToStandard;
+    const bool isKept = track.isHdr() && plan.dynamicRange == Plan::HighDynamicRange::Keep;
+    const bool mustBeStandard = plan.dynamicRange == Plan::HighDynamicRange::ToStandard;
     return plan.copies && isAsked && container.holdsVideo(track.codec) && !changesPictures(plan) &&
            !cutsExactly(plan) && plan.rateControl == Plan::RateControl::Preset && fitsLimits(plan, track) &&
            (track.rotation == 0 || container.has(Container::Upright)) &&
            (container.has(Container::VariableRate) || !track.isVariableRate) &&
-           (!plan.preset.plainVideo || isPlainPicture(track)) && (!mustBePlain || !track.isHdr());
+           (isKept || ((!plan.preset.plainVideo || isPlainPicture(track)) && (!mustBeStandard || !track.isHdr())));
 }
 
 QString targetCodec(const Plan &plan, const MediaTrack &track, const Container &container,
@@ -262,15 +263,18 @@ std::optional<VideoTrackPlan> planVideo(const Plan &plan, const MediaTrack &trac
     if (!video.encoder)
         return {};
     const VideoEncoder &encoder = *video.encoder;
-    video.keepsHdr = track.isHdr() && encoder.holdsHdr && !plan.preset.plainVideo &&
-                     plan.dynamicRange != Plan::HighDynamicRange::ToStandard;
+    const bool wantsHdr = plan.dynamicRange == Plan::HighDynamicRange::Auto
+                              ? !plan.preset.plainVideo
+                              : plan.dynamicRange == Plan::HighDynamicRange::Keep;
+    video.keepsHdr = track.isHdr() && encoder.holdsHdr && wantsHdr;
     video.mapsTones = track.isHdr() && !video.keepsHdr;
     PixelKind kind = pixelKind(track.pixelFormat, track.bitDepth);
     if (video.mapsTones)
         kind.depth = 8;
     if (video.keepsHdr)
         kind.depth = std::max(kind.depth, 10);
-    video.pixelFormat = bestFormat(encoder, track.pixelFormat, kind, plan.preset.plainVideo || video.mapsTones);
+    const bool isPlain = video.mapsTones || (plan.preset.plainVideo && !video.keepsHdr);
+    video.pixelFormat = bestFormat(encoder, track.pixelFormat, kind, isPlain);
     const bool needsSquare = encoder.is("gif"_L1) || encoder.is("apng"_L1);
     video.size = resultSize(plan, encoder, track, needsSquare);
     if (encoder.is("dvvideo"_L1))
