@@ -19,9 +19,11 @@ void tellPictureLosses(const VideoTrackPlan &video, const Plan &plan, QList<tarn
         return;
     const MediaTrack &source = *video.source;
     const PixelKind had = pixelKind(source.pixelFormat, source.bitDepth), has = pixelKind(video.pixelFormat, 8);
-    // Few players show colours of red, green and blue anyway; tone mapping has a note of its own.
+    // Few players show colours of red, green and blue anyway.
     const bool isCoarser = has.depth < had.depth || (has.chroma < had.chroma && !had.isRgb && !has.isRgb);
-    if (isCoarser && !video.mapsTones) {
+    if (video.mapsTones) {
+        leftOut.append(tarnwell::Sentence("High dynamic range becomes standard range."_key));
+    } else if (isCoarser) {
         const auto name = [](const PixelKind &kind) {
             return kind.isRgb ? u"RGB"_s : kind.chroma == 2 ? u"4:4:4"_s : kind.chroma == 1 ? u"4:2:2"_s : u"4:2:0"_s;
         };

@@ -93,7 +93,7 @@ void joinSounds(TrackPlan &tracks, const Plan &plan, const QList<MediaInformatio
         const QString name = plan.sources.at(number).section(u'/', -1);
         const auto isSilent = [](const SoundTrackPlan &sound) { return sound.joined.last() < 0; };
         if (std::ranges::any_of(tracks.sounds, isSilent))
-            tracks.notes.append(
+            tracks.leftOut.append(
                 {"%1 has fewer tracks of sound than other files: what it lacks is silent."_key, {name}});
         for (const MediaTrack *track : std::as_const(left))
             tracks.leftOut.append(

@@ -65,8 +65,6 @@ QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSi
                       {numberText(plan.pieces.first().start)}});
     if (video.encoder && plan.preset.videoCodec == "copy"_L1)
         notes.append({"The picture has to be encoded (%1)."_key, {codecLabel(video.codec)}});
-    if (video.mapsTones)
-        notes.append(tarnwell::Sentence("High dynamic range becomes standard range."_key));
     if (video.size != plannedSize)
         notes.append({"The picture is made smaller, %1 × %2, so that it fits the size."_key,
                       {QString::number(video.size.width()), QString::number(video.size.height())}});
