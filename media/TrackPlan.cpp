@@ -114,7 +114,7 @@ std::optional<VideoTrackPlan> planJoinedVideo(const Plan &plan, const QList<Medi
                                               const Container &container, const TranscodeMachine &machine)
 {
     const auto hasHdr = [](const MediaInformation &source) { return source.firstOf(Kind::Video)->isHdr(); };
-    const auto hasFields = [](const MediaInformation &source) { return source.firstOf(Kind::Video)->isInterlaced(); };
+    const auto hasFields = [](const MediaInformation &source) { return mayHaveFields(*source.firstOf(Kind::Video)); };
     const bool isMixed = std::ranges::any_of(sources, hasHdr) && !std::ranges::all_of(sources, hasHdr);
     Plan common = plan;
     if (isMixed) {

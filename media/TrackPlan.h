@@ -85,6 +85,8 @@ bool cutsExactly(const TranscodePlan &plan);
 
 std::optional<VideoTrackPlan> planVideo(const TranscodePlan &plan, const MediaTrack &track, const Container &container,
                                         const TranscodeMachine &machine, bool isBurnt);
+/// By its flag, or by those of its pictures, where its container tells nothing and the filter heeds them.
+bool mayHaveFields(const MediaTrack &track);
 QList<SoundTrackPlan> planSounds(const TranscodePlan &plan, const QList<const MediaTrack *> &tracks,
                                  const Container &container, const TranscodeMachine &machine);
 /// Whether sound of that codec is, sample by sample, what it was made of.

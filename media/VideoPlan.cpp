@@ -121,13 +121,11 @@ double nearestRate(const char *list, double rate)
 
 bool wantsDeinterlacing(const Plan &plan, const MediaTrack &track)
 {
-    // Its container tells nothing; each picture does, and the filter heeds that.
-    const bool mayBe = track.codec == "dvvideo"_L1 && track.fieldOrder == MediaTrack::FieldOrder::Unknown;
     switch (plan.deinterlace) {
         case Plan::Deinterlace::Off:
             return false;
         case Plan::Deinterlace::Auto:
-            return track.isInterlaced() || mayBe;
+            return mayHaveFields(track);
         case Plan::Deinterlace::DoubleRate:
             return track.fieldOrder != MediaTrack::FieldOrder::Progressive;
         case Plan::Deinterlace::On:
@@ -226,6 +224,12 @@ PixelKind pixelKind(const QString &format, int depth)
     kind.hasAlpha = format.startsWith("yuva"_L1) || format.contains("rgba"_L1) || format.contains("bgra"_L1) ||
                     format.contains("argb"_L1) || format.contains("abgr"_L1) || format.startsWith("gbrap"_L1);
     return kind;
+}
+
+bool mayHaveFields(const MediaTrack &track)
+{
+    const bool mayBe = track.codec == "dvvideo"_L1 && track.fieldOrder == MediaTrack::FieldOrder::Unknown;
+    return track.isInterlaced() || mayBe;
 }
 
 bool changesPictures(const Plan &plan)
