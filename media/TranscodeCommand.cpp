@@ -63,7 +63,8 @@ QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSi
     if (isCutAtKeyframe)
         notes.append({"Cut without encoding: it begins at the key picture at or before %1 s."_key,
                       {numberText(plan.pieces.first().start)}});
-    if (video.encoder && plan.preset.videoCodec == "copy"_L1)
+    const bool wasToBeCopied = plan.preset.videoCodec == "copy"_L1 || (!plan.pieces.isEmpty() && !plan.exactCuts);
+    if (video.encoder && wasToBeCopied)
         notes.append({"The picture has to be encoded (%1)."_key, {codecLabel(video.codec)}});
     if (video.size != plannedSize)
         notes.append({"The picture is made smaller, %1 × %2, so that it fits the size."_key,
@@ -257,7 +258,8 @@ bool cutsAtKeyPictures(const Plan &plan, const QList<MediaInformation> &sources,
     if (plan.pieces.isEmpty() || plan.exactCuts)
         return false;
     const auto tracks = planTracks(plan, sources, machine);
-    return tracks && tracks->video && !tracks->video->encoder;
+    // Several pieces are copied only where all of their tracks are.
+    return tracks && tracks->video && !tracks->video->encoder && (plan.pieces.size() == 1 || tracks->copiesAll());
 }
 
 TranscodePlan withoutShortcuts(Plan plan)
