@@ -109,8 +109,10 @@ private:
         if (use == Plan::SubtitleUse::Leave || !m_plan.preset.takesVideo() || !m_tracks.video)
             return;
         if (use == Plan::SubtitleUse::Burn) {
-            if (!m_tracks.burned)
+            if (!m_tracks.burned) {
                 m_tracks.burnedNumber = m_number;
+                m_tracks.burnedStart = m_sources.first().start;
+            }
             burn({.source = &track, .file = -1, .made = -1, .encoder = {}, .codec = track.codec});
             return;
         }

@@ -58,7 +58,8 @@ struct TrackPlan {
     QList<SoundTrackPlan> sounds;
     QList<SubtitleTrackPlan> subtitles;
     std::optional<SubtitleTrackPlan> burned;
-    int burnedNumber = 0;  ///< of the burned track among the tracks of subtitles of its source
+    int burnedNumber = 0;    ///< of the burned track among the tracks of subtitles of its source
+    double burnedStart = 0;  ///< seconds that the clock of its cues shows where its source begins
     QList<const MediaTrack *> covers, attachments;
     bool keepsChapters = false;
     QList<tarnwell::Sentence> leftOut, notes;
