@@ -145,6 +145,9 @@ private:
         const QString name = file.path.section(u'/', -1);
         if (file.use == Plan::SubtitleUse::Burn) {
             burn({.source = nullptr, .file = index, .made = -1, .encoder = {}, .codec = codec});
+            if (m_sources.size() > 1)
+                m_tracks.leftOut.append(
+                    {"Subtitles: %1. They are burnt into the first of the joined files only."_key, {name}});
             return;
         }
         const QString encoder = subtitleEncoder(*m_tracks.container, codec, kind.isBitmap);
