@@ -92,7 +92,7 @@ double qualityValue(const Plan &plan, const VideoEncoder &encoder)
     if (plan.best)
         value = plan.preset.bestQuality > 0 ? plan.preset.bestQuality : value + encoder.best - encoder.usual;
     if (plan.rateControl == Plan::RateControl::Quality && plan.quality > 0)
-        value = plan.quality;
+        value = encoder.finest < encoder.least ? plan.quality : encoder.finest + encoder.least - plan.quality;
     return std::clamp(value, lowest, highest);
 }
 
