@@ -138,6 +138,8 @@ constexpr Option<Request> options[] = {
      }},
     {"chapter-per-source", nullptr, "with --join: a chapter for each",
      &setSwitch<&TranscodePlan::chapterPerSource, true>},
+    {"no-chapter-per-source", nullptr, "with --join: only the chapters that the sources have",
+     &setSwitch<&TranscodePlan::chapterPerSource, false>},
 
     {"quality", "NUMBER", "constant quality of the encoder",
      [](const QString &value, Request &request) {
@@ -158,6 +160,7 @@ constexpr Option<Request> options[] = {
     {"speed", "STEP", "-2 (smaller, slower) to 2 (larger, faster)",
      [](const QString &value, Request &request) { return readNumber(value, -2, 2, request.plan.speed); }},
     {"no-best", nullptr, "as quick and good as usual", &setSwitch<&TranscodePlan::best, false>},
+    {"hardware", nullptr, "encode in hardware where it is there", &setSwitch<&TranscodePlan::hardware, true>},
     {"no-hardware", nullptr, "encode in software", &setSwitch<&TranscodePlan::hardware, false>},
     {"copy", nullptr, "keep tracks that fit as they are", &setSwitch<&TranscodePlan::copies, true>},
     {"no-copy", nullptr, "encode also what would fit as it is", &setSwitch<&TranscodePlan::copies, false>},
