@@ -78,6 +78,14 @@ bool addSubtitleFile(const QString &text, TranscodePlan::SubtitleUse use, Transc
     return true;
 }
 
+/// A folder that was named goes before what a preset brings along.
+bool goesWhereTold(Request &request)
+{
+    if (!request.folder.isNull())
+        request.plan.besideSource = false;
+    return true;
+}
+
 /// By its id, of the user's own ones also by the name.
 bool choosePreset(const QString &value, Request &request)
 {
@@ -89,7 +97,7 @@ bool choosePreset(const QString &value, Request &request)
     for (const Preset &preset : own.presets()) {
         if (preset.id == value || preset.name == value) {
             own.apply(preset.id, request.plan);
-            return true;
+            return goesWhereTold(request);
         }
     }
     return false;
@@ -98,7 +106,8 @@ bool choosePreset(const QString &value, Request &request)
 bool readPresetFile(const QString &path, Request &request)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && applyPresetFile(file.read(maximumPresetFileBytes + 1), request.plan);
+    return file.open(QIODevice::ReadOnly) && applyPresetFile(file.read(maximumPresetFileBytes + 1), request.plan) &&
+           goesWhereTold(request);
 }
 
 template <auto Member, bool value>
@@ -122,7 +131,7 @@ constexpr Option<Request> options[] = {
     {"to", "FOLDER", "where the results go (the settings' folder)",
      [](const QString &value, Request &request) {
          request.folder = absoluteFileName(value);
-         return foundation::fileFacts(request.folder).kind == foundation::FileKind::Folder;
+         return goesWhereTold(request) && foundation::fileFacts(request.folder).kind == foundation::FileKind::Folder;
      },
      noFolder},
     {"beside-source", nullptr, "results go beside their sources", &setSwitch<&TranscodePlan::besideSource, true>},
