@@ -37,6 +37,8 @@ struct TranscodePlan {
         double size = 0.15;    ///< of the picture's width
     };
 
+    static constexpr qsizetype mostPieces = 64;
+
     QStringList sources;  ///< absolute paths; several are joined in this order
     Preset preset;        ///< by value: editing a preset changes no job
 

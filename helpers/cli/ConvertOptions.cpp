@@ -234,12 +234,12 @@ constexpr Option<Request> options[] = {
     {"watermark-opacity", "NUMBER", "0 to 1",
      [](const QString &value, Request &request) { return readNumber(value, 0, 1, watermark(request).opacity); }},
 
-    {"cut", "FROM-TO", "keep this piece; may be given again: 1:00-2:30",
+    {"cut", "FROM-TO", "keep this piece; may be given again, up to 64 times: 1:00-2:30",
      [](const QString &value, Request &request) {
          TranscodePlan::Piece piece;
          const bool isPiece = readPiece(value, piece);
          request.plan.pieces.append(piece);
-         return isPiece;
+         return isPiece && request.plan.pieces.size() <= TranscodePlan::mostPieces;
      }},
     {"keyframe-cuts", nullptr, "cut at keyframes, without encoding", &setSwitch<&TranscodePlan::exactCuts, false>},
     {"tempo", "FACTOR", "0.25 to 4: 2 is twice as fast",
