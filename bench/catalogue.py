@@ -1,7 +1,8 @@
 #!/usr/bin/python3
-"""catalogue.py BUNDLE [SAMPLE…]: what arrives of the samples of tests/media through three presets of kestrel-cli, beside what arrives
-through HandBrakeCLI when it is asked for all tracks. One line for each fact in which the two differ, or which neither keeps; the exit
-status is the number of those that only the other one keeps. Samples are kept in the folder that CATALOGUE_SAMPLES names."""
+"""catalogue.py BUNDLE [SAMPLE…]: what arrives of the samples of tests/media, and of one film under sixty odd names, through presets of
+kestrel-cli, beside what arrives through HandBrakeCLI when it is asked for all tracks. One line for each fact in which the two differ, or
+which neither keeps; the exit status is the number of those that only the other one keeps. "names" stands for all of the odd names. Samples
+are kept in the folder that CATALOGUE_SAMPLES names."""
 import json
 import os
 import pathlib
@@ -12,10 +13,18 @@ import tempfile
 sys.path.insert(0, str(pathlib.Path(__file__).parent.parent / 'tests' / 'media'))
 from samples import Samples  # noqa: E402
 
+PARTS = (' ', '  two', "'", '"', '`', '\\', '%', '%d', '%03d', '$HOME', '$(x)', '${x}', ';', ':', '|', '&', '&&', '#', '?', '*', '[a]', '[0:v]', '{b}',
+         '{name}', '(c)', '!', '~', '^', '=', '+', ',', '@', '<', '>', '<b>', '\n', '\t', '\r', '\x01', '\x7f', '-', '--', '-i', '.', '..', 'file:',
+         'http:x', 'concat:a|b', 'pipe:1', 'é', 'e\u0301', '日本', '한국어', 'עברית', 'عربي', '\U0001f600', '\u200b', '\ufeff', '\u202e', 'x' * 200)
+NAMES = {f'name{number}': part for number, part in enumerate(PARTS)}
 SAMPLES = ('flat', 'rotated', 'vfr', 'topfield', 'bottomfield', 'telecine', 'hdr10', 'hlg', 'surround', 'surround8', 'languages', 'film', 'bitmaps',
-           'dvdsub', 'odd', 'anamorphic', 'still', 'full', 'deep', 'silent', 'animation', 'stream', 'xvid', 'nasty')
-TARGETS = {'mp4-h264': ('av_mp4', 'x264', 'veryfast', 'av_aac'), 'mkv-h265': ('av_mkv', 'x265', 'veryfast', 'av_aac'),
-           'webm-vp9': ('av_webm', 'VP9', 'fast', 'opus')}
+           'dvdsub', 'odd', 'anamorphic', 'still', 'full', 'deep', 'silent', 'animation', 'moving', 'covered',
+           'stream', 'xvid', 'nasty', *NAMES)
+STEREO = ('--mixdown', 'stereo')
+MANY = ('--mixdown', '7point1')
+TARGETS = {'mp4-h264': ('av_mp4', 'x264', 'veryfast', 'av_aac', MANY), 'mkv-h265': ('av_mkv', 'x265', 'veryfast', 'av_aac', MANY),
+           'webm-vp9': ('av_webm', 'VP9', 'fast', 'opus', MANY), 'phone': ('av_mp4', 'x264', 'veryfast', 'av_aac', STEREO),
+           'avi-mpeg4': None}  # which the other one does not make
 INTERLACED = ('topfield', 'bottomfield')  # test pictures that move look combed as they are
 SAME_LANGUAGE = {'ger': 'deu', 'fre': 'fra'}
 PQ_OR_HLG = ('smpte2084', 'arib-std-b67')
@@ -83,8 +92,8 @@ def is_kept(name, source, result, sample):
         return source == 'unknown' or result == source or 'bt2020' in source
     if name == 'shape':
         return all(abs(a - b) <= max(2, a * 0.02) for a, b in zip(source, result))
-    if name == 'pictures':  # film from television has four of five
-        return abs(result - source) <= 2 or (sample == 'telecine' and abs(result - source * 4 / 5) <= 3)
+    if name == 'pictures':  # film from television has four of five, irregular times may be filled up
+        return abs(result - source) <= 2 or (sample == 'vfr' and result >= source) or (sample == 'telecine' and abs(result - source * 4 / 5) <= 3)
     if name == 'seconds':
         return source == 0 or abs(result - source) <= 0.3
     if name == 'combed':
@@ -94,8 +103,25 @@ def is_kept(name, source, result, sample):
     return result == source
 
 
+def source_of(sample, samples):
+    if sample not in NAMES:
+        return samples.path(sample)
+    odd = samples.folder / f'{NAMES[sample]}.mp4'
+    odd.unlink(missing_ok=True)
+    os.link(samples.path('flat'), odd)
+    return odd
+
+
+def theirs_of(source, wanted, path, environment):
+    container, encoder, speed, sound, mix = wanted
+    run('HandBrakeCLI', '-i', source, '-o', path, '-f', container, '-e', encoder, '--encoder-preset', speed, '-q', 24, '--vfr', '--comb-detect', '--decomb',
+        '--crop', '0:0:0:0', '--auto-anamorphic', '--all-audio', '-E', sound, *mix, '--all-subtitles', '--markers', env=environment)
+    return facts(path) if path.exists() else {}
+
+
 def main():
-    bundle, names = sys.argv[1], sys.argv[2:] or SAMPLES
+    bundle = sys.argv[1]
+    names = [each for name in sys.argv[2:] or SAMPLES for each in (NAMES if name == 'names' else [name])]
     worse = 0
     with tempfile.TemporaryDirectory() as folder:
         home = pathlib.Path(folder)
@@ -103,22 +129,22 @@ def main():
         environment = {**os.environ, 'HOME': folder, **{f'XDG_{each}_HOME': str(home / each) for each in ('DATA', 'CONFIG', 'STATE')}}
         totals = {'ours': 0, 'theirs': 0, 'of': 0}
         for sample in names:
-            source = samples.path(sample)
+            source = source_of(sample, samples)
             had = facts(source)
-            for target, (container, encoder, speed, sound) in TARGETS.items():
+            for target, wanted in list(TARGETS.items())[:1 if sample in NAMES else None]:
                 out = home / f'{sample}-{target}'
                 out.mkdir()
                 run(pathlib.Path(bundle) / 'Contents/Helpers/kestrel-cli', 'convert', '--no-copy', '--speed', 2, '--preset', target, '--to', out, source,
                     env=environment)
-                theirs = out / f'theirs{pathlib.Path(source).suffix}.{target[:4].strip("-")}'
                 ours = next(iter(out.iterdir()), None)
-                run('HandBrakeCLI', '-i', source, '-o', theirs, '-f', container, '-e', encoder, '--encoder-preset', speed, '-q', 24, '--vfr',
-                    '--comb-detect', '--decomb', '--crop', '0:0:0:0', '--auto-anamorphic', '--all-audio', '-E', sound, '--mixdown', '7point1',
-                    '--all-subtitles', '--markers', env=environment)
                 ours = facts(ours) if ours else {}
-                theirs = facts(theirs) if theirs.exists() else {}
+                theirs = theirs_of(source, wanted, out / f'theirs.{wanted[0][3:]}', environment) if wanted else {}
                 for name, value in had.items():
                     kept = [name in each and is_kept(name, value, each[name], sample) for each in (ours, theirs)]
+                    if not wanted:  # nothing to compare with: only what is lost is told
+                        if not kept[0]:
+                            print(f'lost   {sample:11} {target:8} {name:15} source {value}  ours {ours.get(name)}', flush=True)
+                        continue
                     totals['of'] += 1
                     totals['ours'] += kept[0]
                     totals['theirs'] += kept[1]

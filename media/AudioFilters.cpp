@@ -44,6 +44,14 @@ QStringList soundFilters(const TranscodePlan &plan, const SoundTrackPlan &sound,
     return filters;
 }
 
+QStringList placedChannels(const MediaTrack &track)
+{
+    constexpr int mostGuessed = 8;
+    if (track.channels <= mostGuessed || !track.channelLayout.isEmpty())
+        return {};
+    return {u"pan=7.1|c0=c0|c1=c1|c2=c2|c3=c3|c4=c4|c5=c5|c6=c6|c7=c7"_s};
+}
+
 QStringList soundArguments(const TranscodePlan &plan, const SoundTrackPlan &sound, int number)
 {
     const auto option = [&](const QString &name) { return u"%1:a:%2"_s.arg(name).arg(number); };

@@ -109,8 +109,10 @@ private:
         if (use == Plan::SubtitleUse::Leave || !m_plan.preset.takesVideo() || !m_tracks.video)
             return;
         if (use == Plan::SubtitleUse::Burn) {
-            if (!m_tracks.burned)
+            if (!m_tracks.burned) {
                 m_tracks.burnedNumber = m_number;
+                m_tracks.burnedStart = m_sources.first().start;
+            }
             burn({.source = &track, .file = -1, .made = -1, .encoder = {}, .codec = track.codec});
             return;
         }
@@ -143,6 +145,9 @@ private:
         const QString name = file.path.section(u'/', -1);
         if (file.use == Plan::SubtitleUse::Burn) {
             burn({.source = nullptr, .file = index, .made = -1, .encoder = {}, .codec = codec});
+            if (m_sources.size() > 1)
+                m_tracks.leftOut.append(
+                    {"Subtitles: %1. They are burnt into the first of the joined files only."_key, {name}});
             return;
         }
         const QString encoder = subtitleEncoder(*m_tracks.container, codec, kind.isBitmap);

@@ -30,10 +30,11 @@ constexpr Container containerTable[] = {
      .traits = filmTraits,
      .video = "h264 hevc av1 vp9 mpeg4 mpeg2video mpeg1video mjpeg png",
      .sound = "aac ac3 alac dts eac3 mp3 opus truehd vorbis",
+     .keptSound = "flac",
      .text = "mov_text",
      .keptText = "mov_text",
      .bitmaps = "dvd_subtitle",
-     // TrueHD in MP4 is experimental to this ffmpeg.
+     // TrueHD and FLAC in MP4 are experimental to this ffmpeg.
      .arguments = "-movflags +faststart -strict experimental"},
     {.id = "mkv",
      .name = "MKV",
@@ -45,7 +46,8 @@ constexpr Container containerTable[] = {
      .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
      .keptVideo = "vc1 wmv1 wmv3 msmpeg4v2 msmpeg4v3 rv30 rv40",
-     .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
+     .keptSound = "pcm_s24le pcm_s24be pcm_s32le pcm_s32be pcm_f32le pcm_f64le pcm_u8 pcm_alaw pcm_mulaw tta mlp "
+                  "wmav1 wmapro",
      .text = "srt",
      .keptText = plainText,
      .bitmaps = discPictures,
@@ -129,6 +131,7 @@ constexpr Container containerTable[] = {
      .traits = VariableRate | ManySounds | TrackNames,
      .video = "h264 hevc mpeg2video mpeg1video mpeg4",
      .sound = "ac3 aac dts eac3 mp2 mp3 opus truehd",
+     .keptSound = "pcm_bluray",
      .bitmaps = "hdmv_pgs_subtitle",
      .arguments = "-mpegts_m2ts_mode 1",
      .lostTags = "date place"},
@@ -312,7 +315,8 @@ constexpr Container containerTable[] = {
      .traits = matroskaTraits & ~VariableRate,
      .sound = "aac ac3 adpcm_ima_wav alac dts eac3 flac mp2 mp3 opus pcm_s16be pcm_s16le speex truehd vorbis "
               "wavpack wmav2",
-     .keptSound = "pcm_s24le pcm_s32le pcm_f32le pcm_u8 mlp wmav1 wmapro",
+     .keptSound = "pcm_s24le pcm_s24be pcm_s32le pcm_s32be pcm_f32le pcm_f64le pcm_u8 pcm_alaw pcm_mulaw tta mlp "
+                  "wmav1 wmapro",
      .arguments = "-default_mode passthrough"},
     {.id = "caf",
      .name = "CAF",

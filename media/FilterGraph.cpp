@@ -4,6 +4,8 @@
 #include "FilterText.h"
 #include "VideoFilters.h"
 
+#include <algorithm>
+
 using namespace Qt::StringLiterals;
 
 namespace kestrel {
@@ -12,6 +14,14 @@ namespace {
 
 using Plan = TranscodePlan;
 using Kind = MediaTrack::Kind;
+
+/// Of a track that goes through no graph.
+QString soundLine(const Plan &plan, const SoundTrackPlan &sound, std::optional<double> seconds)
+{
+    if (!sound.encoder)
+        return {};
+    return (placedChannels(*sound.source) + soundFilters(plan, sound, seconds)).join(u',');
+}
 
 /// Chains of a graph, separated by semicolons; an empty list of filters still needs one.
 class Graph {
@@ -117,10 +127,13 @@ private:
         const QString result = u"[sound%1_%2]"_s.arg(number).arg(piece);
         const QString layout = sound.layout.isNull() ? sound.source->channelLayout : sound.layout;
         const int rate = sound.sampleRate > 0 ? sound.sampleRate : sound.source->sampleRate;
-        QString format = u"aformat=sample_rates=%1"_s.arg(rate > 0 ? rate : 48000);
+        const int index = sound.joined.value(from.source, sound.source->index);
+        const QList<MediaTrack> &tracks = m_inputs.sources.at(from.source).tracks;
+        const auto track = std::ranges::find(tracks, index, &MediaTrack::index);
+        QString format = track == tracks.end() ? QString() : (placedChannels(*track) << QString()).join(u',');
+        format += u"aformat=sample_rates=%1"_s.arg(rate > 0 ? rate : 48000);
         if (!layout.isEmpty())
             format += u":channel_layouts="_s + layout;
-        const int index = sound.joined.value(from.source, sound.source->index);
         // Joining fills up all but the last piece, as far as its picture goes.
         constexpr double beginning = 0.1;
         const bool isFilled = m_tracks.video && piece + 1 < m_inputs.pieces.size();
@@ -184,7 +197,7 @@ FilterGraph filterGraph(const Plan &plan, const TrackPlan &tracks, const GraphIn
         FilterGraph graph = Graph(plan, tracks, inputs, seconds).build(withSound);
         if (inputs.pieces.size() == 1) {
             for (const SoundTrackPlan &sound : tracks.sounds)
-                graph.soundFilterLines << (sound.encoder ? soundFilters(plan, sound, seconds).join(u',') : QString());
+                graph.soundFilterLines << soundLine(plan, sound, seconds);
         }
         return graph;
     }
@@ -201,7 +214,7 @@ FilterGraph filterGraph(const Plan &plan, const TrackPlan &tracks, const GraphIn
     }
     for (const SoundTrackPlan &sound : tracks.sounds) {
         graph.sounds << u"0:%1"_s.arg(sound.source->index);
-        graph.soundFilterLines << (sound.encoder ? soundFilters(plan, sound, seconds).join(u',') : QString());
+        graph.soundFilterLines << soundLine(plan, sound, seconds);
     }
     return graph;
 }

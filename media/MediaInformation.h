@@ -33,6 +33,7 @@ struct MediaTrack {
     int height = 0;
     double sampleAspect = 1;  ///< width of a sample to its height
     double frameRate = 0;     ///< average, pictures a second; 0 where it is not known
+    double baseRate = 0;      ///< at which no two pictures fall on one; 0 where it is not known
     bool isVariableRate = false;
     bool isReordered = false;  ///< pictures are stored before others that are seen earlier
     QString pixelFormat;       ///< "yuv420p10le"

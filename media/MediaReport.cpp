@@ -194,6 +194,7 @@ void readRates(const QJsonObject &stream, MediaTrack &track)
     track.frameRate = average > 0 && average < absurdRate ? average : base < absurdRate ? base : 0;
     if (average <= 0 || base <= 0)
         return;
+    track.baseRate = base;
     // Fields that are coded apart count twice in the base rate. Rounded time stamps shift the average a little.
     constexpr double tolerance = 0.002;
     const double ratio = base / average;
@@ -313,6 +314,9 @@ std::optional<MediaInformation> parseMediaInformation(const QByteArray &json)
         return std::nullopt;
     information.duration = durationIn(reportNumber(format["duration"_L1]));
     information.start = reportNumber(format["start_time"_L1]).value_or(0);
+    // This one tells what its clock shows at the end.
+    if (information.format.startsWith("matroska"_L1) && information.duration > std::max(0.0, information.start))
+        *information.duration -= std::max(0.0, information.start);
     information.bytes = reportCount(format["size"_L1]);
     information.bitRate = reportCount(format["bit_rate"_L1]);
     information.tags = tagsIn(format);

@@ -32,7 +32,11 @@ bool PictureScan::isWorthwhile(const MediaTrack &video)
                                             "rawvideo"_L1,   "prores"_L1, "dnxhd"_L1, "huffyuv"_L1,  "ffv1"_L1,
                                             "ffvhuff"_L1,    "vc1"_L1,    "wmv3"_L1,  "msmpeg4v3"_L1};
     constexpr int heights[] = {480, 486, 512, 576, 608, 1080, 1088};
-    return video.fieldOrder == MediaTrack::FieldOrder::Unknown && video.frameRate < 31 &&
+    // MPEG-2 always tells something; discs often say "progressive" of everything.
+    using enum MediaTrack::FieldOrder;
+    const bool isOpen =
+        video.fieldOrder == Unknown || (video.fieldOrder == Progressive && video.codec == "mpeg2video"_L1);
+    return isOpen && video.frameRate < 31 &&
            std::find(std::begin(codecs), std::end(codecs), video.codec) != std::end(codecs) &&
            std::find(std::begin(heights), std::end(heights), video.height) != std::end(heights);
 }

@@ -14,7 +14,7 @@ class PictureScan {
 public:
     /// Of the file's film; looks at the middle. `argument` as ToolPath has it.
     static ToolCommand command(const QString &transcoderPath, const QString &argument, const MediaInformation &film);
-    /// Whether a flag leaves open how the film is scanned, and it may be interlaced.
+    /// Whether its flags leave open how the film is scanned, or cannot be trusted, and it may be interlaced.
     static bool isWorthwhile(const MediaTrack &video);
 
     void readLine(const QByteArray &line);

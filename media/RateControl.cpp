@@ -28,7 +28,8 @@ double picturesPerSecond(const VideoTrackPlan &video)
 {
     if (video.frameRate > 0)
         return video.frameRate;
-    return video.source->frameRate > 0 ? video.source->frameRate : 25;
+    const double rate = video.source->frameRate > 0 ? video.source->frameRate : 25;
+    return video.mostRate > 0 ? std::min(rate, video.mostRate) : rate;
 }
 
 /// Sound may take a quarter of everything; less than this a channel is not worth hearing.
@@ -91,7 +92,7 @@ double qualityValue(const Plan &plan, const VideoEncoder &encoder)
     if (plan.best)
         value = plan.preset.bestQuality > 0 ? plan.preset.bestQuality : value + encoder.best - encoder.usual;
     if (plan.rateControl == Plan::RateControl::Quality && plan.quality > 0)
-        value = plan.quality;
+        value = encoder.finest < encoder.least ? plan.quality : encoder.finest + encoder.least - plan.quality;
     return std::clamp(value, lowest, highest);
 }
 

@@ -96,17 +96,30 @@ int sampleRateFor(const Plan &plan, const SoundEncoder &encoder, const Container
     return rate == source && !plan.normalizes ? 0 : rate;
 }
 
+/// Where a preset keeps everything, and the container cannot: what loses nothing stays so where it can.
+QString nearestCodec(const MediaTrack &track, const Container &container)
+{
+    if (container.holdsSound(track.codec) && soundEncoderOf(track.codec))
+        return track.codec;
+    const QString usual = tableWords(container.sound).value(0);
+    if (isLosslessSound(track.codec) && !isLosslessSound(usual)) {
+        for (const QString &codec : tableWords("flac alac wavpack pcm_s16le")) {
+            if (container.holdsSound(codec))
+                return codec;
+        }
+    }
+    return usual;
+}
+
 /// The preset's codec, or its sister that holds samples as deep as the source has them.
 QString soundCodecFor(const Plan &plan, const MediaTrack &track, const Container &container)
 {
-    const QString &asked = plan.preset.audioCodec;
-    if (asked == "copy"_L1) {
-        const bool isMade = container.holdsSound(track.codec) && soundEncoderOf(track.codec);
-        return isMade ? track.codec : tableWords(container.sound).value(0);
-    }
+    const QString asked = plan.preset.audioCodec == "copy"_L1 ? nearestCodec(track, container) : plan.preset.audioCodec;
     QString deeper = asked;
     deeper.replace("pcm_s16"_L1, "pcm_s24"_L1);
-    return track.bitDepth > 16 && container.holdsSound(deeper) ? deeper : asked;
+    // Discs do not tell how deep theirs are.
+    const bool isDeep = track.bitDepth > 16 || (track.bitDepth == 0 && isLosslessSound(track.codec));
+    return isDeep && container.holdsSound(deeper) ? deeper : asked;
 }
 
 bool keepsSound(const Plan &plan, const MediaTrack &track, const Container &container)
@@ -148,6 +161,11 @@ std::optional<SoundTrackPlan> planSound(const Plan &plan, const MediaTrack &trac
 }
 
 }  // namespace
+
+bool isLosslessSound(const QString &codec)
+{
+    return codec.startsWith("pcm_"_L1) || tableWords("flac alac tta ape wavpack truehd mlp").contains(codec);
+}
 
 bool changesSound(const Plan &plan)
 {

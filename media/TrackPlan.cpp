@@ -13,13 +13,13 @@ using Kind = MediaTrack::Kind;
 using Refused = foundation::Failure<tarnwell::Sentence>;
 using tarnwell::operator""_key;
 
-/// The sound tracks that the user wants, in the file's order.
+/// The sound tracks that the user wants, in the file's order, of those that can be read at all.
 QList<const MediaTrack *> wantedSounds(const Plan &plan, const MediaInformation &source)
 {
     QList<const MediaTrack *> tracks, inLanguages;
     for (const MediaTrack &track : source.tracks) {
         const bool isNamed = !plan.audioTracks || plan.audioTracks->contains(track.index);
-        if (track.kind != Kind::Audio || !isNamed)
+        if (track.kind != Kind::Audio || !isNamed || track.codec.isEmpty())
             continue;
         tracks.append(&track);
         if (isInLanguages(track, plan.soundLanguages))
@@ -31,6 +31,11 @@ QList<const MediaTrack *> wantedSounds(const Plan &plan, const MediaInformation 
 void planSoundTracks(TrackPlan &tracks, const Plan &plan, const MediaInformation &source,
                      const TranscodeMachine &machine)
 {
+    for (const MediaTrack &track : source.tracks) {
+        const bool isNamed = !plan.audioTracks || plan.audioTracks->contains(track.index);
+        if (track.kind == Kind::Audio && track.codec.isEmpty() && isNamed)
+            tracks.leftOut.append({"Sound: %1. Its format is not known."_key, {trackName(track, machine)}});
+    }
     QList<const MediaTrack *> wanted = wantedSounds(plan, source);
     if (wanted.size() > 1 && !tracks.container->has(Container::ManySounds)) {
         const auto isDefault = [](const MediaTrack *track) { return track->isDefault; };
@@ -88,7 +93,7 @@ void joinSounds(TrackPlan &tracks, const Plan &plan, const QList<MediaInformatio
         const QString name = plan.sources.at(number).section(u'/', -1);
         const auto isSilent = [](const SoundTrackPlan &sound) { return sound.joined.last() < 0; };
         if (std::ranges::any_of(tracks.sounds, isSilent))
-            tracks.notes.append(
+            tracks.leftOut.append(
                 {"%1 has fewer tracks of sound than other files: what it lacks is silent."_key, {name}});
         for (const MediaTrack *track : std::as_const(left))
             tracks.leftOut.append(
@@ -109,7 +114,7 @@ std::optional<VideoTrackPlan> planJoinedVideo(const Plan &plan, const QList<Medi
                                               const Container &container, const TranscodeMachine &machine)
 {
     const auto hasHdr = [](const MediaInformation &source) { return source.firstOf(Kind::Video)->isHdr(); };
-    const auto hasFields = [](const MediaInformation &source) { return source.firstOf(Kind::Video)->isInterlaced(); };
+    const auto hasFields = [](const MediaInformation &source) { return mayHaveFields(*source.firstOf(Kind::Video)); };
     const bool isMixed = std::ranges::any_of(sources, hasHdr) && !std::ranges::all_of(sources, hasHdr);
     Plan common = plan;
     if (isMixed) {

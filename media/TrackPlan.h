@@ -27,6 +27,7 @@ struct VideoTrackPlan {
     QSize uprightSize;     ///< of the source's picture as it stands upright; empty where it is not known
     QSize size;            ///< of the result
     double frameRate = 0;  ///< that is asked for; 0 for as the source
+    double mostRate = 0;   ///< where each picture keeps its time: no more of them a second; 0 for no limit
     bool isVariableRate = false;
 };
 
@@ -57,7 +58,8 @@ struct TrackPlan {
     QList<SoundTrackPlan> sounds;
     QList<SubtitleTrackPlan> subtitles;
     std::optional<SubtitleTrackPlan> burned;
-    int burnedNumber = 0;  ///< of the burned track among the tracks of subtitles of its source
+    int burnedNumber = 0;    ///< of the burned track among the tracks of subtitles of its source
+    double burnedStart = 0;  ///< seconds that the clock of its cues shows where its source begins
     QList<const MediaTrack *> covers, attachments;
     bool keepsChapters = false;
     QList<tarnwell::Sentence> leftOut, notes;
@@ -84,8 +86,12 @@ bool cutsExactly(const TranscodePlan &plan);
 
 std::optional<VideoTrackPlan> planVideo(const TranscodePlan &plan, const MediaTrack &track, const Container &container,
                                         const TranscodeMachine &machine, bool isBurnt);
+/// By its flag, or by those of its pictures, where its container tells nothing and the filter heeds them.
+bool mayHaveFields(const MediaTrack &track);
 QList<SoundTrackPlan> planSounds(const TranscodePlan &plan, const QList<const MediaTrack *> &tracks,
                                  const Container &container, const TranscodeMachine &machine);
+/// Whether sound of that codec is, sample by sample, what it was made of.
+bool isLosslessSound(const QString &codec);
 /// Subtitles, covers, attachments and chapters, with what stays behind.
 void planCompanions(TrackPlan &tracks, const TranscodePlan &plan, const QList<MediaInformation> &sources,
                     const TranscodeMachine &machine);

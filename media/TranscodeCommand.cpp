@@ -53,6 +53,9 @@ void shortenToKept(QList<SourcePiece> &pieces, const TrackPlan &tracks, const QL
 QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSize plannedSize)
 {
     QList<tarnwell::Sentence> notes;
+    const auto encoded = std::ranges::find_if(tracks.sounds, [](const SoundTrackPlan &each) { return each.encoder; });
+    if (plan.preset.audioCodec == "copy"_L1 && encoded != tracks.sounds.end())
+        notes.append({"The sound has to be encoded (%1)."_key, {codecLabel(encoded->codec)}});
     if (!tracks.video)
         return notes;
     const VideoTrackPlan &video = *tracks.video;
@@ -60,10 +63,9 @@ QList<tarnwell::Sentence> notesOn(const Plan &plan, const TrackPlan &tracks, QSi
     if (isCutAtKeyframe)
         notes.append({"Cut without encoding: it begins at the key picture at or before %1 s."_key,
                       {numberText(plan.pieces.first().start)}});
-    if (video.encoder && plan.preset.videoCodec == "copy"_L1)
+    const bool wasToBeCopied = plan.preset.videoCodec == "copy"_L1 || (!plan.pieces.isEmpty() && !plan.exactCuts);
+    if (video.encoder && wasToBeCopied)
         notes.append({"The picture has to be encoded (%1)."_key, {codecLabel(video.codec)}});
-    if (video.mapsTones)
-        notes.append(tarnwell::Sentence("High dynamic range becomes standard range."_key));
     if (video.size != plannedSize)
         notes.append({"The picture is made smaller, %1 × %2, so that it fits the size."_key,
                       {QString::number(video.size.width()), QString::number(video.size.height())}});
@@ -139,6 +141,8 @@ private:
             const bool isSteady =
                 m_tracks.video->encoder->isSteady || !m_tracks.container->has(Container::VariableRate);
             arguments << u"-fps_mode:v:0"_s << (isSteady ? u"cfr"_s : u"vfr"_s);
+            if (m_tracks.video->mostRate > 0)
+                arguments << u"-fpsmax:v:0"_s << numberText(m_tracks.video->mostRate);
         }
         return arguments;
     }
@@ -254,7 +258,8 @@ bool cutsAtKeyPictures(const Plan &plan, const QList<MediaInformation> &sources,
     if (plan.pieces.isEmpty() || plan.exactCuts)
         return false;
     const auto tracks = planTracks(plan, sources, machine);
-    return tracks && tracks->video && !tracks->video->encoder;
+    // Several pieces are copied only where all of their tracks are.
+    return tracks && tracks->video && !tracks->video->encoder && (plan.pieces.size() == 1 || tracks->copiesAll());
 }
 
 TranscodePlan withoutShortcuts(Plan plan)

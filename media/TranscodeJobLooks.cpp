@@ -78,8 +78,13 @@ void TranscodeJob::scanPicture()
             return finishStopped();
         MediaInformation &film = m_request.information.first();
         MediaTrack &track = film.tracks[film.firstOf(MediaTrack::Kind::Video) - film.tracks.constData()];
-        track.fieldOrder = m_scan.fieldOrder();
-        track.fieldsAreSeen = true;
+        // What its flags say is heeded where the pictures do not speak clearly against it.
+        using enum MediaTrack::FieldOrder;
+        const MediaTrack::FieldOrder seen = m_scan.fieldOrder();
+        if (track.fieldOrder == Unknown || seen == TopFirst || seen == BottomFirst) {
+            track.fieldOrder = seen;
+            track.fieldsAreSeen = true;
+        }
         findKeyPictures(0);
     });
     connect(&tool, &ToolProcess::errorLine, this, [this](const QByteArray &line) { m_scan.readLine(line); });

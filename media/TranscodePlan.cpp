@@ -13,7 +13,6 @@ namespace {
 
 constexpr int planVersion = 1;
 constexpr qsizetype mostSources = 10'000;
-constexpr qsizetype mostPieces = 64;
 constexpr qsizetype mostTracks = 1000;
 constexpr qsizetype mostSubtitleFiles = 32;
 constexpr qsizetype longestPath = 8192;
@@ -243,7 +242,7 @@ void readTimesAndTracks(Plan &plan, const QJsonObject &json)
         const QJsonArray numbers = value.toArray();
         const Plan::Piece piece{.start = boundedNumberAt(numbers, 0, longestSeconds),
                                 .end = boundedNumberAt(numbers, 1, longestSeconds)};
-        if (piece.start >= 0 && piece.end > piece.start && plan.pieces.size() < mostPieces)
+        if (piece.start >= 0 && piece.end > piece.start)
             plan.pieces.append(piece);
     }
     if (json[u"audioTracks"_s].isArray()) {
@@ -279,7 +278,9 @@ std::optional<TranscodePlan> TranscodePlan::fromJson(const QJsonObject &json)
     TranscodePlan plan;
     const auto storedPreset = Preset::fromJson(json[u"preset"_s].toObject());
     const QJsonArray sources = json[u"sources"_s].toArray();
-    if (!storedPreset || sources.isEmpty() || sources.size() > mostSources)
+    // What goes beyond would be missing without a word.
+    const bool isTooMuch = sources.size() > mostSources || json[u"pieces"_s].toArray().size() > Plan::mostPieces;
+    if (!storedPreset || sources.isEmpty() || isTooMuch)
         return {};
     plan.preset = *storedPreset;
     for (const QJsonValue &value : sources) {

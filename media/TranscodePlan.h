@@ -14,7 +14,7 @@ namespace kestrel {
 struct TranscodePlan {
     enum class RateControl { Preset, Quality, BitRate, Size };
     enum class Deinterlace { Auto, Off, On, DoubleRate, Film };  ///< Film takes the doubled fields of 24 pictures out
-    enum class HighDynamicRange { Auto, Keep, ToStandard };      ///< Auto keeps it where the preset can hold it
+    enum class HighDynamicRange { Auto, Keep, ToStandard };      ///< Keep also where a preset promises plain pictures
     enum class SoundMix { AsSource, Mono, Stereo, Surround51 };
     enum class Turn { None, Clockwise, CounterClockwise, UpsideDown };
     enum class SubtitleUse { Keep, Burn, Leave };
@@ -36,6 +36,8 @@ struct TranscodePlan {
         double opacity = 0.6;  ///< 0 to 1
         double size = 0.15;    ///< of the picture's width
     };
+
+    static constexpr qsizetype mostPieces = 64;
 
     QStringList sources;  ///< absolute paths; several are joined in this order
     Preset preset;        ///< by value: editing a preset changes no job

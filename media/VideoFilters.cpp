@@ -174,9 +174,10 @@ QStringList burnedTextFilters(const Plan &plan, const TrackPlan &tracks, const Q
         // Counted over the tracks of subtitles alone.
         filter = u"subtitles=filename=%1:si=%2"_s.arg(filterValue(path)).arg(tracks.burnedNumber);
     }
-    if (!piece.start || *piece.start == 0)
+    const double shift = piece.start.value_or(0) + tracks.burnedStart;
+    if (shift == 0)
         return {filter};
-    const QString start = numberText(*piece.start);
+    const QString start = numberText(shift);
     return {u"setpts=PTS+%1/TB"_s.arg(start), filter, u"setpts=PTS-%1/TB"_s.arg(start)};
 }
 

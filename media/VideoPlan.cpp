@@ -121,13 +121,11 @@ double nearestRate(const char *list, double rate)
 
 bool wantsDeinterlacing(const Plan &plan, const MediaTrack &track)
 {
-    // Its container tells nothing; each picture does, and the filter heeds that.
-    const bool mayBe = track.codec == "dvvideo"_L1 && track.fieldOrder == MediaTrack::FieldOrder::Unknown;
     switch (plan.deinterlace) {
         case Plan::Deinterlace::Off:
             return false;
         case Plan::Deinterlace::Auto:
-            return track.isInterlaced() || mayBe;
+            return mayHaveFields(track);
         case Plan::Deinterlace::DoubleRate:
             return track.fieldOrder != MediaTrack::FieldOrder::Progressive;
         case Plan::Deinterlace::On:
@@ -137,21 +135,27 @@ bool wantsDeinterlacing(const Plan &plan, const MediaTrack &track)
     return true;
 }
 
+/// As often as pictures come; where those of irregular times have to come evenly, as the closest of them do.
+double sourceRate(const Plan &plan, const MediaTrack &track, bool isSteady)
+{
+    constexpr double mostFilledUp = 60;
+    if (plan.deinterlace == Plan::Deinterlace::Film)
+        return 24000.0 / 1001;
+    if (track.isVariableRate && isSteady && track.baseRate > 0)
+        return std::min(track.baseRate, mostFilledUp);
+    const bool isDoubled = plan.deinterlace == Plan::Deinterlace::DoubleRate && wantsDeinterlacing(plan, track);
+    return track.frameRate * (isDoubled ? 2 : 1);
+}
+
 /// Pictures a second that have to be asked for; 0 where each picture may keep its time.
 double wantedRate(const Plan &plan, const VideoEncoder &encoder, const Container &container, const MediaTrack &track)
 {
-    const bool isDoubled = plan.deinterlace == Plan::Deinterlace::DoubleRate && wantsDeinterlacing(plan, track);
-    const double source =
-        plan.deinterlace == Plan::Deinterlace::Film ? 24000.0 / 1001 : track.frameRate * (isDoubled ? 2 : 1);
-    double rate = plan.frameRate;
-    if (const double most = plan.preset.maximumFrameRate; most > 0) {
-        if (rate > most || (rate == 0 && (source > most * 1.001 || track.isVariableRate)))
-            rate = most;
-        // One of irregular times keeps within the limit without being filled up to it.
-        if (plan.frameRate == 0 && track.isVariableRate && source > 0)
-            rate = std::min(most, source);
-    }
     const bool isSteady = encoder.isSteady || !container.has(Container::VariableRate);
+    const double source = sourceRate(plan, track, isSteady), most = plan.preset.maximumFrameRate;
+    double rate = plan.frameRate;
+    const bool keepsTimes = rate == 0 && track.isVariableRate && !isSteady;
+    if (most > 0 && !keepsTimes && (rate > 0 ? rate > most : source > most * 1.001))
+        rate = most;
     // Pictures that come twice as fast are not shown twice as often.
     if (rate == 0 && plan.speedFactor > 1 && !track.isVariableRate)
         rate = source;
@@ -189,12 +193,13 @@ bool keepsPicture(const Plan &plan, const MediaTrack &track, const Container &co
     const bool isOriginal = plan.preset.videoCodec == "copy"_L1;
     const bool keepsFields = isOriginal && plan.deinterlace != Plan::Deinterlace::DoubleRate;
     const bool isAsked = (isOriginal || plan.preset.videoCodec == track.codec) && (keepsFields || !deinterlaces);
-    const bool mustBePlain = plan.preset.plainVideo || plan.dynamicRange == Plan::HighDynamicRange::ToStandard;
+    const bool isKept = track.isHdr() && plan.dynamicRange == Plan::HighDynamicRange::Keep;
+    const bool mustBeStandard = plan.dynamicRange == Plan::HighDynamicRange::ToStandard;
     return plan.copies && isAsked && container.holdsVideo(track.codec) && !changesPictures(plan) &&
            !cutsExactly(plan) && plan.rateControl == Plan::RateControl::Preset && fitsLimits(plan, track) &&
            (track.rotation == 0 || container.has(Container::Upright)) &&
            (container.has(Container::VariableRate) || !track.isVariableRate) &&
-           (!plan.preset.plainVideo || isPlainPicture(track)) && (!mustBePlain || !track.isHdr());
+           (isKept || ((!plan.preset.plainVideo || isPlainPicture(track)) && (!mustBeStandard || !track.isHdr())));
 }
 
 QString targetCodec(const Plan &plan, const MediaTrack &track, const Container &container,
@@ -219,6 +224,12 @@ PixelKind pixelKind(const QString &format, int depth)
     kind.hasAlpha = format.startsWith("yuva"_L1) || format.contains("rgba"_L1) || format.contains("bgra"_L1) ||
                     format.contains("argb"_L1) || format.contains("abgr"_L1) || format.startsWith("gbrap"_L1);
     return kind;
+}
+
+bool mayHaveFields(const MediaTrack &track)
+{
+    const bool mayBe = track.codec == "dvvideo"_L1 && track.fieldOrder == MediaTrack::FieldOrder::Unknown;
+    return track.isInterlaced() || mayBe;
 }
 
 bool changesPictures(const Plan &plan)
@@ -256,20 +267,25 @@ std::optional<VideoTrackPlan> planVideo(const Plan &plan, const MediaTrack &trac
     if (!video.encoder)
         return {};
     const VideoEncoder &encoder = *video.encoder;
-    video.keepsHdr = track.isHdr() && encoder.holdsHdr && !plan.preset.plainVideo &&
-                     plan.dynamicRange != Plan::HighDynamicRange::ToStandard;
+    const bool wantsHdr = plan.dynamicRange == Plan::HighDynamicRange::Auto
+                              ? !plan.preset.plainVideo
+                              : plan.dynamicRange == Plan::HighDynamicRange::Keep;
+    video.keepsHdr = track.isHdr() && encoder.holdsHdr && wantsHdr;
     video.mapsTones = track.isHdr() && !video.keepsHdr;
     PixelKind kind = pixelKind(track.pixelFormat, track.bitDepth);
     if (video.mapsTones)
         kind.depth = 8;
     if (video.keepsHdr)
         kind.depth = std::max(kind.depth, 10);
-    video.pixelFormat = bestFormat(encoder, track.pixelFormat, kind, plan.preset.plainVideo || video.mapsTones);
+    const bool isPlain = video.mapsTones || (plan.preset.plainVideo && !video.keepsHdr);
+    video.pixelFormat = bestFormat(encoder, track.pixelFormat, kind, isPlain);
     const bool needsSquare = encoder.is("gif"_L1) || encoder.is("apng"_L1);
     video.size = resultSize(plan, encoder, track, needsSquare);
     if (encoder.is("dvvideo"_L1))
         video.pixelFormat = video.size.height() == 480 ? u"yuv411p"_s : u"yuv420p"_s;
     video.frameRate = wantedRate(plan, encoder, container, track);
+    if (track.isVariableRate && video.frameRate == 0)
+        video.mostRate = plan.preset.maximumFrameRate;
     const QString device = encoder.is("libx264"_L1) ? machine.hardwareDevice : machine.hevcDevice;
     const bool isRateFree =
         plan.rateControl == Plan::RateControl::Preset || plan.rateControl == Plan::RateControl::BitRate;

@@ -131,7 +131,12 @@ ExitStatus runConvert(const Surroundings &surroundings, const QStringList &argum
     if (!conversions)
         return wrongUsage(conversions.reason());
 
-    TranscodeRecipe recipe([&settings] { return transcodeTools(settings, QThread::idealThreadCount()); });
+    TranscodeRecipe recipe([&settings, &request] {
+        TranscodeTools tools = transcodeTools(settings, QThread::idealThreadCount());
+        if (request.plan.hardware)
+            tools.machine.findHardware();
+        return tools;
+    });
     session.queue().setRecipe(marlinJobs.toString(), &recipe);
     setLanes(session.queue(), request.plan.threads, QThread::idealThreadCount());
     QList<JobId> ids;

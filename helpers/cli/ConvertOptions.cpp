@@ -78,6 +78,14 @@ bool addSubtitleFile(const QString &text, TranscodePlan::SubtitleUse use, Transc
     return true;
 }
 
+/// A folder that was named goes before what a preset brings along.
+bool goesWhereTold(Request &request)
+{
+    if (!request.folder.isNull())
+        request.plan.besideSource = false;
+    return true;
+}
+
 /// By its id, of the user's own ones also by the name.
 bool choosePreset(const QString &value, Request &request)
 {
@@ -89,7 +97,7 @@ bool choosePreset(const QString &value, Request &request)
     for (const Preset &preset : own.presets()) {
         if (preset.id == value || preset.name == value) {
             own.apply(preset.id, request.plan);
-            return true;
+            return goesWhereTold(request);
         }
     }
     return false;
@@ -98,7 +106,8 @@ bool choosePreset(const QString &value, Request &request)
 bool readPresetFile(const QString &path, Request &request)
 {
     QFile file(path);
-    return file.open(QIODevice::ReadOnly) && applyPresetFile(file.read(maximumPresetFileBytes + 1), request.plan);
+    return file.open(QIODevice::ReadOnly) && applyPresetFile(file.read(maximumPresetFileBytes + 1), request.plan) &&
+           goesWhereTold(request);
 }
 
 template <auto Member, bool value>
@@ -122,7 +131,7 @@ constexpr Option<Request> options[] = {
     {"to", "FOLDER", "where the results go (the settings' folder)",
      [](const QString &value, Request &request) {
          request.folder = absoluteFileName(value);
-         return foundation::fileFacts(request.folder).kind == foundation::FileKind::Folder;
+         return goesWhereTold(request) && foundation::fileFacts(request.folder).kind == foundation::FileKind::Folder;
      },
      noFolder},
     {"beside-source", nullptr, "results go beside their sources", &setSwitch<&TranscodePlan::besideSource, true>},
@@ -138,6 +147,8 @@ constexpr Option<Request> options[] = {
      }},
     {"chapter-per-source", nullptr, "with --join: a chapter for each",
      &setSwitch<&TranscodePlan::chapterPerSource, true>},
+    {"no-chapter-per-source", nullptr, "with --join: only the chapters that the sources have",
+     &setSwitch<&TranscodePlan::chapterPerSource, false>},
 
     {"quality", "NUMBER", "constant quality of the encoder",
      [](const QString &value, Request &request) {
@@ -158,6 +169,7 @@ constexpr Option<Request> options[] = {
     {"speed", "STEP", "-2 (smaller, slower) to 2 (larger, faster)",
      [](const QString &value, Request &request) { return readNumber(value, -2, 2, request.plan.speed); }},
     {"no-best", nullptr, "as quick and good as usual", &setSwitch<&TranscodePlan::best, false>},
+    {"hardware", nullptr, "encode in hardware where it is there", &setSwitch<&TranscodePlan::hardware, true>},
     {"no-hardware", nullptr, "encode in software", &setSwitch<&TranscodePlan::hardware, false>},
     {"copy", nullptr, "keep tracks that fit as they are", &setSwitch<&TranscodePlan::copies, true>},
     {"no-copy", nullptr, "encode also what would fit as it is", &setSwitch<&TranscodePlan::copies, false>},
@@ -222,12 +234,12 @@ constexpr Option<Request> options[] = {
     {"watermark-opacity", "NUMBER", "0 to 1",
      [](const QString &value, Request &request) { return readNumber(value, 0, 1, watermark(request).opacity); }},
 
-    {"cut", "FROM-TO", "keep this piece; may be given again: 1:00-2:30",
+    {"cut", "FROM-TO", "keep this piece; may be given again, up to 64 times: 1:00-2:30",
      [](const QString &value, Request &request) {
          TranscodePlan::Piece piece;
          const bool isPiece = readPiece(value, piece);
          request.plan.pieces.append(piece);
-         return isPiece;
+         return isPiece && request.plan.pieces.size() <= TranscodePlan::mostPieces;
      }},
     {"keyframe-cuts", nullptr, "cut at keyframes, without encoding", &setSwitch<&TranscodePlan::exactCuts, false>},
     {"tempo", "FACTOR", "0.25 to 4: 2 is twice as fast",

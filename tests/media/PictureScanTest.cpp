@@ -39,13 +39,19 @@ TEST(PictureScanTest, LooksWherePicturesOfTelevisionDoNotTell)
 {
     MediaTrack track;
     track.kind = MediaTrack::Kind::Video;
-    track.codec = u"h264"_s;
     track.frameRate = 25;
-    const std::pair<int, bool> rows[] = {{480, true},  {576, true},  {1080, true},
-                                         {1088, true}, {720, false}, {2160, false}};
-    for (const auto &[height, isWorthwhile] : rows) {
+    using enum FieldOrder;
+    const std::tuple<QString, FieldOrder, int, bool> rows[] = {
+        {u"h264"_s, Unknown, 480, true},        {u"h264"_s, Unknown, 576, true},
+        {u"h264"_s, Unknown, 1080, true},       {u"h264"_s, Unknown, 1088, true},
+        {u"h264"_s, Unknown, 720, false},       {u"h264"_s, Unknown, 2160, false},
+        {u"h264"_s, Progressive, 576, false},   {u"mpeg2video"_s, Progressive, 576, true},
+        {u"mpeg2video"_s, TopFirst, 576, false}};
+    for (const auto &[codec, order, height, isWorthwhile] : rows) {
+        track.codec = codec;
+        track.fieldOrder = order;
         track.height = height;
-        EXPECT_EQ(PictureScan::isWorthwhile(track), isWorthwhile) << height;
+        EXPECT_EQ(PictureScan::isWorthwhile(track), isWorthwhile) << codec.toStdString() << ' ' << height;
     }
 }
 

@@ -137,6 +137,20 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
         {"mirrored", u"mp4-h264"_s, video(), [](Plan &plan) { plan.mirrored = true; }, "hflip"},
         {"a mark of plain text", u"mp4-h264"_s, video(),
          [](Plan &plan) { plan.watermark = Plan::Watermark{.text = u"100 %"_s, .imagePath = {}}; }, "expansion=none"},
+        {"quality that other encoders count the other way round", u"ogv"_s, video(), encoding([](Plan &plan) {
+             plan.rateControl = Plan::RateControl::Quality;
+             plan.quality = 1;
+         }),
+         "-q:v 10 "},
+        {"irregular times up to the preset's limit", u"mp4-web-1080p"_s,
+         changed(video(), [](auto &t) { t.isVariableRate = true; }), encoding(), "-fpsmax:v:0 60 ", "fps=2"},
+        {"as often as the closest pictures where they come evenly", u"avi-mpeg4"_s,
+         changed(video(),
+                 [](auto &t) {
+                     t.isVariableRate = true;
+                     t.baseRate = 50;
+                 }),
+         encoding(), "fps=50"},
         {"constant where it must be", u"avi-mpeg4"_s,
          changed(video(),
                  [](auto &t) {
@@ -172,6 +186,8 @@ TEST(TranscodeCommand, ArgumentsFollowThePlanAndTheSource)
          changed(hdr, [](auto &t) { t.colorTransfer = u"arib-std-b67"_s; }),
          {},
          "tonemap"},
+        {"HDR that is always to be kept", u"phone-h265"_s, hdr,
+         encoding([](Plan &plan) { plan.dynamicRange = Plan::HighDynamicRange::Keep; }), "yuv420p10le", "tonemap"},
         {"HDR for the television", u"tv-2160p"_s, hdr, encoding(), "yuv420p10le"},
         {"smaller, both sides alike", u"mp4-h264"_s, video(), encoding([](Plan &plan) { plan.maximumHeight = 500; }),
          "scale=888:500,setsar=1"},

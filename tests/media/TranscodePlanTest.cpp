@@ -105,6 +105,7 @@ TEST(TranscodePlan, WhatIsNoneIsNotRead)
         {u"sources"_s, QJsonArray()},
         {u"sources"_s, QJsonArray{u"/a"_s, u"relative"_s}},
         {u"sources"_s, QJsonArray{QString(100'000, u'/')}},
+        {u"pieces"_s, QJsonArray::fromVariantList(QVariantList(65, QVariantList{1, 2}))},
     };
     for (const auto &[key, value] : changes) {
         QJsonObject json = plainPlan().toJson();

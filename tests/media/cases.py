@@ -39,11 +39,11 @@ def case_upright_when_copied(c):
 
 
 def case_variable_rate(c):
-    for preset in ('mp4-h264', 'mkv-h264', 'mp4-h265', 'webm-vp9', 'mov-h264', 'mkv-copy'):
+    for preset in ('mp4-h264', 'mkv-h264', 'mp4-h265', 'webm-vp9', 'mov-h264', 'mkv-copy', 'mp4-web-1080p'):
         out = c.convert('vfr', preset, copies=preset.endswith('copy'), speed=2)
         assert abs(out.packets - 188) <= 2, f'{preset}: {out.packets} pictures'
     out = c.convert('vfr', 'avi-mpeg4')
-    assert out.packets / out.seconds <= 50
+    assert abs(out.packets / out.seconds - 50) < 1
 
 
 def case_hdr_kept(c):

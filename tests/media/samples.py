@@ -132,6 +132,11 @@ class Samples:
         self.ffmpeg('-f', 'lavfi', '-i', 'sine=d=4:r=44100', '-i', cover, '-map', '0', '-map', '1', '-c:a', 'flac', '-ac', '2', '-c:v', 'copy',
                     '-disposition:v', 'attached_pic', '-metadata', 'title=Song', '-metadata', 'artist=Band', path)
 
+    def make_covered(self, path):
+        cover = self.folder / 'cover.png'
+        self.ffmpeg('-f', 'lavfi', '-i', 'color=red:s=64x64', '-frames:v', '1', cover)
+        self.ffmpeg('-i', self.path('flat'), '-i', cover, '-map', '0', '-map', '1', '-c', 'copy', '-disposition:v:1', 'attached_pic', path)
+
     def make_mark(self, path):
         self.ffmpeg('-f', 'lavfi', '-i', 'color=lime:s=40x20', '-frames:v', '1', path)
 
@@ -176,8 +181,9 @@ LISTED = {
     'xvid': dict(encoding=['-c:v', 'mpeg4', '-bf', '2', '-q:v', '4', '-c:a', 'libmp3lame']),
     'stream': dict(encoding=[*H264, '-c:a', 'ac3']),
     'animation': dict(encoding=['-pix_fmt', 'rgb8'], seconds=2, rate='10', sound=False),
+    'moving': dict(encoding=['-f', 'apng', '-pix_fmt', 'rgb24'], seconds=2, rate='10', sound=False),
     'other': dict(encoding=[*H264, '-c:a', 'aac', '-ac', '2'], size='480x360', rate='30', seconds=3),
 }
 EXTENSIONS = {'rotated': 'mov', 'flat': 'mp4', 'topfield': 'mpg', 'bottomfield': 'dv', 'telecine': 'mpg', 'film': 'mp4', 'cues': 'sup',
-              'song': 'flac', 'mark': 'png', 'words': 'srt', 'xvid': 'avi', 'stream': 'ts', 'animation': 'gif', 'full': 'avi', 'other': 'mp4',
+              'song': 'flac', 'mark': 'png', 'words': 'srt', 'xvid': 'avi', 'stream': 'ts', 'animation': 'gif', 'moving': 'apng', 'covered': 'mp4', 'full': 'avi', 'other': 'mp4',
               'still': 'mp4', 'quadrants': 'mp4', 'long': 'mp4', 'grey': 'mp4', 'vfr': 'mp4', 'anamorphic': 'mp4'}

@@ -93,7 +93,9 @@ void PieceList::keepOthers()
 
 void PieceList::tell(const QList<TranscodePlan::Piece> &pieces, int row)
 {
-    setPieces(soundPieces(pieces, m_duration));
+    // More than a plan can have: what was done is taken back.
+    const QList<TranscodePlan::Piece> asked = soundPieces(pieces, m_duration);
+    setPieces(asked.size() <= TranscodePlan::mostPieces ? asked : QList(m_pieces));
     setCurrentCell(row, StartColumn);
     emit changed(m_pieces);
 }
