@@ -224,6 +224,10 @@
         <translation>Eine Voreinstellung braucht einen Namen.</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>Um %1 soll eine Aufnahme beginnen.</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>AC-3-Audio</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Möchten Sie das Programm jetzt neu starten?</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>Interpret und Album. %1 kann sie nicht aufnehmen.</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>Nicht aufnehmen</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>Nicht ausschalten</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>Gleichzeitige Downloads</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>Laufende Downloads behalten das Limit, mit dem sie begonnen haben.</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>Weiterlaufen lassen</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>Weiter warten</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>Den Rest behalten</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>Nach einer neueren Download-Engine wird gesucht …</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>Verlustfreier Ton: %1. Er wird zu %2.</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>Platz des Kamerabilds</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>Plätze und Stile der Untertitel: %1. %2 kann sie nicht enthalten.</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Abspielen</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>Sättigung</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>Sichern in …</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>Kopie sichern</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>Nur der Ton, unverändert (MKA)</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>Tonspur %1 beginnt so spät im Film, dass sie nicht rechtzeitig gefunden wird.</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>Tonspur %1, die dieser Film nicht hat</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>Ton: %1. %2 kann nur eine Tonspur enthalten.</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>Ton: %1. Sein Format ist nicht bekannt.</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>Untertitel: %1. %2 kann sie nicht enthalten.</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>Untertitel: %1. Sie werden nur in die erste der verbundenen Dateien eingebrannt.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>Der Datenträger ist zu voll, um die Aufnahme abzuschließen: Sie bleibt eine Matroska-Datei.</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>Der Datenträger ist zu voll, um die Aufnahme abzuschließen: Sie bleibt in %1 Matroska-Dateien.</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>Der Datenträger des Ausgabeordners kann keine Datei dieser Größe aufnehmen.</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>Die Download-Engine hat jetzt die Version %1. Versuchen Sie es erneut.</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>Der Download ist fehlgeschlagen. Die Details zeigen, was die Engine gemeldet hat.</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>Der Download ist fehlgeschlagen. Versuchen Sie es später erneut; die Details zeigen, was die Engine gemeldet hat.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>Das feinere Bild. Aus %1 Bit %2 wird %3 Bit %4.</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>Der feinere Ton: %1. Aus %2 Bit werden %3 Bit.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>Die fertige Datei konnte nicht gelesen werden.</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>Der Ordner ist zu groß: Nur ein Teil seiner Dateien wurde hinzugefügt.</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>Die unregelmäßigen Zeiten der Bilder. Sie kommen gleichmäßig, %1 pro Sekunde.</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>Die Sprachen der Spuren. %1 kann sie nicht aufnehmen.</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>Die Optionen dieses Auftrags konnten nicht gelesen werden. Fügen Sie die Datei erneut hinzu.</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>Die anderen Blickwinkel des Films: %1</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>Die Aufnahme konnte nicht abgeschlossen werden: Sie bleibt eine Matroska-Datei.</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>Die Aufnahme konnte nicht abgeschlossen werden: Sie bleibt in %1 Matroska-Dateien.</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>Die Aufnahme wurde beendet, weil der Datenträger fast voll ist.</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>Die Aufnahme, die um %1 beginnen sollte, wurde verpasst.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>Der Ton konnte nicht aufgenommen werden. Läuft der Tonserver?</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>Der Ton muss codiert werden (%1).</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>Der Ton fehlt, seit der Tonserver nicht mehr läuft.</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>Das Fenster ist zu klein für eine Aufnahme.</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>Das Fenster wurde geschlossen oder minimiert.</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>Es gibt keine schwarzen Balken.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>Unter dieser Adresse gibt es mehrere Filme. Fügen Sie sie erneut hinzu, um daraus zu wählen.</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>Unter dieser Adresse gibt es zu viele Filme, um alle anzusehen. Fügen Sie die Adresse eines einzelnen hinzu.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>Es gibt keinen Bildschirm, dessen Bild aufgenommen werden könnte.</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>Unter dieser Adresse gibt es keinen Film.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>Diese Datei ist beschädigt oder enthält weder Video noch Ton.</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>Dieser Film hat keinen Ton.</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>Dieser Film hat keinen Ton. Wählen Sie für ihn ein Format mit Bild.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>In diesen Ordner kann nicht geschrieben werden.</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>Dies ist eine andere Disc, die auch %1 heißt.</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>Das Aufgenommene wird gelöscht.</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>Was der Server gesendet hat, ist kein Film.</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>Was angekommen ist, lässt sich nicht in diesen Ordner bewegen und bleibt daher, wo es ist.</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>Die Antwort der Website war nicht zu verstehen.</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>Was der Server gesendet hat, ist kein Film. Öffnen Sie die Adresse in einem Browser, um zu sehen, was es ist.</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>Die Antwort der Website war nicht zu verstehen. Aktualisieren Sie die Download-Engine, und versuchen Sie es erneut.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

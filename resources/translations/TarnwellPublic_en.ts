@@ -224,6 +224,10 @@
         <translation>A preset needs a name.</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>A recording is to begin at %1.</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>AC-3 Audio</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Are you sure you want to restart the application now?</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>Artist and album. %1 cannot hold them.</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>Don't Record</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>Don't Shut Down</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>Downloads at the same time</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>Downloads that are running keep the limit that they began with.</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>Keep Running</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>Keep Waiting</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>Keep the Rest Instead</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>Looking for a newer download engine…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>Lossless sound: %1. It becomes %2.</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>Place of the camera's picture</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>Places and styles of the subtitles: %1. %2 cannot hold them.</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Play</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>Saturation</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>Save To…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>Save a Copy</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>Sound only, unchanged (MKA)</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>Sound track %1 begins so late in the film that it is not found in time.</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>Sound track %1, which this film does not have</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>Sound: %1. %2 holds only one track of sound.</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>Sound: %1. Its format is not known.</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>Subtitles: %1. %2 cannot hold them.</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>Subtitles: %1. They are burnt into the first of the joined files only.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>The disk is too full to finish the recording: it stays a Matroska file.</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>The disk is too full to finish the recording: it stays in %1 Matroska files.</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>The disk of the output folder cannot hold a file of this size.</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>The download engine is now of version %1. Try again.</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>The download failed. The details tell what the engine said.</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>The download failed. Try again later; the details tell what the engine said.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>The finer picture. %1 bit %2 becomes %3 bit %4.</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>The finer sound: %1. %2 bit become %3 bit.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>The finished file could not be read back.</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>The folder is too large: only some of its files were added.</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>The irregular times of the pictures. They come evenly, %1 a second.</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>The languages of the tracks. %1 cannot hold them.</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>The options of this job could not be read. Add the file again.</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>The other angles of the film: %1</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>The recording could not be finished: it stays a Matroska file.</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>The recording could not be finished: it stays in %1 Matroska files.</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>The recording ended because the disk is nearly full.</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>The recording that was to begin at %1 was missed.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>The sound could not be recorded. Is the sound server running?</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>The sound has to be encoded (%1).</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>The sound is missing since the sound server went away.</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>The window is too small to be recorded.</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>The window was closed or minimised.</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>There are no black bars.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>There are several films at this address. Add it again to choose among them.</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>There are too many films at this address to look at them all. Add the address of one of them.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>There is no display whose picture could be recorded.</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>There is no film at this address.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>This file is damaged, or it holds neither video nor sound.</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>This film has no sound.</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>This film has no sound. Choose a format with a picture for it.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>This folder cannot be written to.</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>This is another disc, which is also called %1.</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>What has been recorded will be deleted.</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>What the server sent is no film.</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>What has come cannot be moved to that folder, so it stays where it is.</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>What the site answered could not be understood.</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>What the server sent is no film. Open the address in a browser to see what it is.</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>What the site answered could not be understood. Update the download engine and try again.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

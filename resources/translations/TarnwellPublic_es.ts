@@ -224,6 +224,10 @@
         <translation>Un preajuste necesita un nombre.</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>Una grabación va a empezar a las %1.</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>Audio AC-3</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>¿Seguro que desea reiniciar la aplicación ahora?</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>El artista y el álbum. %1 no puede contenerlos.</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>No grabar</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>No apagar</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>Descargas simultáneas</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>Las descargas en curso conservan el límite con el que empezaron.</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>Seguir</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>Seguir esperando</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>Conservar el resto</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>Buscando un motor de descarga más reciente…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>Sonido sin pérdida: %1. Pasa a %2.</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>Lugar de la imagen de la cámara</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>Posiciones y estilos de los subtítulos: %1. %2 no los admite.</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Reproducir</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>Saturación</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>Guardar en…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>Guardar una copia</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>Solo el sonido, sin cambios (MKA)</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>La pista de sonido %1 empieza tan tarde en la película que no se encuentra a tiempo.</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>Pista de sonido %1, que esta película no tiene</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>Sonido: %1. %2 solo admite una pista de sonido.</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>Sonido: %1. No se conoce su formato.</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>Subtítulos: %1. %2 no los admite.</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>Subtítulos: %1. Solo se incrustan en el primero de los archivos unidos.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>El disco está demasiado lleno para finalizar la grabación: se conserva como archivo Matroska.</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>El disco está demasiado lleno para finalizar la grabación: se conserva en %1 archivos Matroska.</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>El disco de la carpeta de salida no admite un archivo de este tamaño.</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>El motor de descarga tiene ahora la versión %1. Inténtelo de nuevo.</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>La descarga ha fallado. Los detalles muestran el mensaje del motor.</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>La descarga ha fallado. Inténtelo de nuevo más tarde; los detalles muestran el mensaje del motor.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>La imagen más fina. %1 bits %2 pasa a %3 bits %4.</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>El sonido más fino: %1. De %2 bits a %3 bits.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>No se ha podido volver a leer el archivo terminado.</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>La carpeta es demasiado grande: solo se han añadido algunos de sus archivos.</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>Los tiempos irregulares de las imágenes. Aparecen de manera uniforme, %1 por segundo.</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>Los idiomas de las pistas. %1 no puede contenerlos.</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>No se han podido leer las opciones de esta tarea. Vuelva a añadir el archivo.</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>Los demás ángulos de la película: %1</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>No se ha podido finalizar la grabación: se conserva como archivo Matroska.</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>No se ha podido finalizar la grabación: se conserva en %1 archivos Matroska.</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>La grabación ha terminado porque el disco está casi lleno.</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>Se ha perdido la grabación que iba a empezar a las %1.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>No se ha podido grabar el sonido. ¿Está en marcha el servidor de sonido?</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>Hay que codificar el sonido (%1).</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>Falta el sonido desde que se cerró el servidor de sonido.</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>La ventana es demasiado pequeña para grabarla.</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>La ventana se ha cerrado o minimizado.</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>No hay franjas negras.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>Hay varias películas en esta dirección. Añádala de nuevo para elegir entre ellas.</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>Hay demasiadas películas en esta dirección para examinarlas todas. Añada la dirección de una de ellas.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>No hay ninguna pantalla cuya imagen se pueda grabar.</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>No hay ninguna película en esta dirección.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>Este archivo está dañado o no contiene vídeo ni sonido.</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>Esta película no tiene sonido.</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>Esta película no tiene sonido. Elija para ella un formato con imagen.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>No se puede escribir en esta carpeta.</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>Este es otro disco que también se llama %1.</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>Se eliminará lo grabado.</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>Lo que ha enviado el servidor no es una película.</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>Lo recibido no se puede mover a esa carpeta, así que se queda donde está.</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>No se ha podido entender la respuesta del sitio.</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>Lo que ha enviado el servidor no es una película. Abra la dirección en un navegador para ver qué es.</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>No se ha podido entender la respuesta del sitio. Actualice el motor de descarga e inténtelo de nuevo.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

@@ -224,6 +224,10 @@
         <translation>Un préréglage doit avoir un nom.</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>Un enregistrement doit commencer à %1.</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>Audio AC-3</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Voulez-vous vraiment redémarrer l’application maintenant ?</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>L’artiste et l’album. %1 ne peut pas les contenir.</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>Ne pas enregistrer</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>Ne pas éteindre</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>Téléchargements simultanés</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>Les téléchargements en cours gardent la limite avec laquelle ils ont commencé.</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>Laisser continuer</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>Continuer d’attendre</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>Garder plutôt le reste</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>Recherche d’un moteur de téléchargement plus récent…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>Son sans perte : %1. Il devient %2.</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>Place de l’image de la caméra</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>Positions et styles des sous-titres : %1. %2 ne peut pas les contenir.</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Lire</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>Saturation</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>Enregistrer dans…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>Enregistrer une copie</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>Le son seul, inchangé (MKA)</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>La piste audio %1 commence si tard dans le film qu’elle n’est pas trouvée à temps.</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>La piste audio %1, que ce film ne contient pas</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>Son : %1. %2 ne contient qu’une seule piste audio.</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>Son : %1. Son format n’est pas connu.</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>Sous-titres : %1. %2 ne peut pas les contenir.</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>Sous-titres : %1. Ils ne sont incrustés que dans le premier des fichiers réunis.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>Le disque est trop plein pour finaliser l’enregistrement : il reste un fichier Matroska.</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>Le disque est trop plein pour finaliser l’enregistrement : il reste en %1 fichiers Matroska.</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>Le disque du dossier de sortie ne peut pas contenir un fichier de cette taille.</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>Le moteur de téléchargement est maintenant à la version %1. Réessayez.</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>Le téléchargement a échoué. Les détails indiquent le message du moteur.</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>Le téléchargement a échoué. Réessayez plus tard ; les détails indiquent le message du moteur.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>L’image plus fine. %1 bits %2 devient %3 bits %4.</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>Le son plus fin : %1. %2 bits deviennent %3 bits.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>Impossible de relire le fichier obtenu.</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>Le dossier est trop volumineux : seuls certains de ses fichiers ont été ajoutés.</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>Les temps irréguliers des images. Elles se suivent régulièrement, %1 par seconde.</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>Les langues des pistes. %1 ne peut pas les contenir.</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>Impossible de lire les options de cette tâche. Ajoutez de nouveau le fichier.</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>Les autres angles du film : %1</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>L’enregistrement n’a pas pu être finalisé : il reste un fichier Matroska.</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>L’enregistrement n’a pas pu être finalisé : il reste en %1 fichiers Matroska.</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>L’enregistrement a pris fin car le disque est presque plein.</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>L’enregistrement qui devait commencer à %1 a été manqué.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>Le son n’a pas pu être enregistré. Le serveur audio est-il lancé ?</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>Le son doit être encodé (%1).</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>Le son manque depuis l’arrêt du serveur audio.</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>La fenêtre est trop petite pour être enregistrée.</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>La fenêtre a été fermée ou réduite.</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>Il n’y a pas de bandes noires.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>Il y a plusieurs films à cette adresse. Ajoutez-la de nouveau pour choisir parmi eux.</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>Il y a trop de films à cette adresse pour tous les examiner. Ajoutez l’adresse de l’un d’eux.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>Il n’y a aucun écran dont l’image puisse être enregistrée.</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>Il n’y a pas de film à cette adresse.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>Ce fichier est endommagé ou ne contient ni vidéo ni son.</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>Ce film n’a pas de son.</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>Ce film n’a pas de son. Choisissez pour lui un format avec image.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>Impossible d’écrire dans ce dossier.</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>C’est un autre disque, qui s’appelle aussi %1.</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>Ce qui a été enregistré sera supprimé.</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>Ce que le serveur a envoyé n’est pas un film.</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>Ce qui a été reçu ne peut pas être déplacé dans ce dossier et reste donc où il est.</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>La réponse du site n’a pas pu être comprise.</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>Ce que le serveur a envoyé n’est pas un film. Ouvrez l’adresse dans un navigateur pour voir ce que c’est.</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>La réponse du site n’a pas pu être comprise. Mettez le moteur de téléchargement à jour et réessayez.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

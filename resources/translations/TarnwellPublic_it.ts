@@ -224,6 +224,10 @@
         <translation>Un preset deve avere un nome.</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>Una registrazione deve iniziare alle %1.</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>Audio AC-3</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>Riavviare l’applicazione adesso?</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>L’artista e l’album. %1 non può contenerli.</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>Non registrare</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>Non spegnere</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>Download simultanei</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>I download in corso mantengono il limite con cui sono iniziati.</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>Continua l’esecuzione</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>Continua ad attendere</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>Mantieni invece il resto</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>Ricerca di un motore di download più recente…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>Audio senza perdita: %1. Diventa %2.</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>Posizione dell’immagine della fotocamera</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>Posizioni e stili dei sottotitoli: %1. %2 non può contenerli.</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>Riproduci</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>Saturazione</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>Salva in…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>Salva una copia</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>Solo l’audio, invariato (MKA)</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>La traccia audio %1 inizia così tardi nel filmato che non viene trovata in tempo.</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>La traccia audio %1, che questo filmato non contiene</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>Audio: %1. %2 può contenere una sola traccia audio.</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>Audio: %1. Il suo formato non è noto.</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>Sottotitoli: %1. %2 non può contenerli.</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>Sottotitoli: %1. Vengono impressi solo nel primo dei file uniti.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>Il disco è troppo pieno per completare la registrazione: resta un file Matroska.</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>Il disco è troppo pieno per completare la registrazione: resta in %1 file Matroska.</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>Il disco della cartella di destinazione non può contenere un file di queste dimensioni.</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>Il motore di download è ora alla versione %1. Riprova.</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>Il download non è riuscito. I dettagli riportano il messaggio del motore.</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>Il download non è riuscito. Riprova più tardi; i dettagli riportano il messaggio del motore.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>L’immagine più fine. Da %1 bit %2 a %3 bit %4.</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>L’audio più fine: %1. Da %2 bit a %3 bit.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>Impossibile rileggere il file finito.</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>La cartella è troppo grande: sono stati aggiunti solo alcuni dei suoi file.</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>I tempi irregolari delle immagini. Si susseguono in modo uniforme, %1 al secondo.</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>Le lingue delle tracce. %1 non può contenerle.</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>Impossibile leggere le opzioni di questa operazione. Aggiungi di nuovo il file.</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>Le altre angolazioni del filmato: %1</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>Non è stato possibile completare la registrazione: resta un file Matroska.</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>Non è stato possibile completare la registrazione: resta in %1 file Matroska.</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>La registrazione è terminata perché il disco è quasi pieno.</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>La registrazione che doveva iniziare alle %1 non è stata effettuata.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>Non è stato possibile registrare l’audio. Il server audio è in esecuzione?</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>L’audio deve essere codificato (%1).</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>L’audio manca da quando il server audio si è chiuso.</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>La finestra è troppo piccola per essere registrata.</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>La finestra è stata chiusa o ridotta a icona.</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>Non ci sono bande nere.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>A questo indirizzo ci sono più filmati. Aggiungilo di nuovo per scegliere tra questi.</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>A questo indirizzo ci sono troppi filmati per esaminarli tutti. Aggiungi l’indirizzo di uno di essi.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>Non c’è alcuno schermo la cui immagine si possa registrare.</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>A questo indirizzo non c’è alcun filmato.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>Questo file è danneggiato o non contiene né video né audio.</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>Questo filmato non ha audio.</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>Questo filmato non ha audio. Scegli un formato con immagine.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>Impossibile scrivere in questa cartella.</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>Questo è un altro disco, che si chiama anch’esso %1.</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>Ciò che è stato registrato verrà eliminato.</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>Ciò che il server ha inviato non è un filmato.</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>Ciò che è arrivato non può essere spostato in quella cartella, quindi resta dov’è.</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>Impossibile comprendere la risposta del sito.</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>Ciò che il server ha inviato non è un filmato. Apri l’indirizzo in un browser per vedere di che cosa si tratta.</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>Impossibile comprendere la risposta del sito. Aggiorna il motore di download e riprova.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

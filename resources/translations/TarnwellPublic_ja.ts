@@ -224,6 +224,10 @@
         <translation>プリセットには名前が必要です。</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>%1 に録画が始まります。</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>AC-3オーディオ</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>アプリケーションを今すぐ再起動しますか？</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>アーティストとアルバム。%1 には入れられません。</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>録画しない</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>シャットダウンしない</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>同時ダウンロード数</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>実行中のダウンロードには、開始時の制限がそのまま適用されます。</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>実行を続ける</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>待ち続ける</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>残りの部分を残す</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>新しいダウンロードエンジンを探しています…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>ロスレスの音声: %1。%2になります。</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>カメラ映像の位置</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>字幕の位置とスタイル: %1。%2には保存できません。</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>再生</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>彩度</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>保存先…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>コピーを保存</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>音声のみ、そのまま（MKA）</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>音声トラック%1は映像のかなり後で始まるため、間に合うように見つけられません。</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>この映像にない音声トラック%1</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>音声: %1。%2に保存できる音声は1トラックだけです。</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>音声: %1。形式が不明です。</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>字幕: %1。%2には保存できません。</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>字幕: %1。結合するファイルの最初の1つだけに焼き付けられます。</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>ディスクの空きが足りず、録画を仕上げられません。Matroskaファイルのまま残ります。</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>ディスクの空きが足りず、録画を仕上げられません。%1個のMatroskaファイルのまま残ります。</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>出力フォルダのディスクには、このサイズのファイルを保存できません。</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>ダウンロードエンジンがバージョン %1 になりました。もう一度お試しください。</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>ダウンロードに失敗しました。エンジンからのメッセージは詳細で確認できます。</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>ダウンロードに失敗しました。後でもう一度お試しください。エンジンからのメッセージは詳細で確認できます。</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>細やかな画質。%1 ビット %2 は %3 ビット %4 になります。</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>細やかな音質: %1。%2 ビットは %3 ビットになります。</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>完成したファイルを読み込めませんでした。</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>フォルダが大きすぎるため、一部のファイルだけが追加されました。</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>不規則なコマの間隔。毎秒 %1 フレームの均等な間隔になります。</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>トラックの言語。%1 には入れられません。</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>このジョブのオプションを読み込めませんでした。ファイルを追加し直してください。</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>映像のほかのアングル：%1</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>録画を仕上げられませんでした。Matroskaファイルのまま残ります。</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>録画を仕上げられませんでした。%1個のMatroskaファイルのまま残ります。</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>ディスクの空きがほとんどないため、録画を終了しました。</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>%1 に始まるはずだった録画は行われませんでした。</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>音声を録音できませんでした。サウンドサーバーは動作していますか？</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>音声をエンコードする必要があります（%1）。</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>サウンドサーバーが停止してからの音声がありません。</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>ウインドウが小さすぎて録画できません。</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>ウインドウが閉じられたか、最小化されました。</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>黒帯はありません。</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>このアドレスには複数のビデオがあります。追加し直して、その中から選んでください。</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>このアドレスにはビデオが多すぎて、すべてを確認できません。いずれか1つのアドレスを追加してください。</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>録画できるディスプレイがありません。</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>このアドレスにはビデオがありません。</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>このファイルは破損しているか、ビデオも音声も含まれていません。</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>このビデオには音声がありません。</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>このビデオには音声がありません。映像のある形式を選んでください。</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>このフォルダーには書き込めません。</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>同じ%1という名前の別のディスクです。</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>録画した内容は削除されます。</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>サーバーから届いたものはビデオではありません。</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>届いた分をそのフォルダに移動できないため、元の場所に残ります。</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>サイトの応答を解釈できませんでした。</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>サーバーから届いたものはビデオではありません。ブラウザでアドレスを開いて内容を確認してください。</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>サイトの応答を解釈できませんでした。ダウンロードエンジンをアップデートして、もう一度お試しください。</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

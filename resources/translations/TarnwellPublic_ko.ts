@@ -224,6 +224,10 @@
         <translation>프리셋에는 이름이 필요합니다.</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>%1에 녹화가 시작될 예정입니다.</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>AC-3 오디오</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>지금 응용 프로그램을 재시동하겠습니까?</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>아티스트와 앨범. %1에는 넣을 수 없습니다.</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>녹화하지 않기</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>종료하지 않기</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>동시 다운로드 수</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>진행 중인 다운로드는 시작할 때의 제한을 유지합니다.</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>계속 실행</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>계속 기다리기</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>나머지 부분 유지</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>새 다운로드 엔진을 찾는 중…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>무손실 사운드: %1. %2(으)로 됩니다.</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>카메라 영상의 위치</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>자막의 위치와 스타일: %1. %2에는 담을 수 없습니다.</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>재생</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>채도</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>저장 위치…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>사본 저장</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>사운드만 그대로(MKA)</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>사운드 트랙 %1은(는) 영상에서 너무 늦게 시작되어 제때 찾을 수 없습니다.</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>이 영상에 없는 사운드 트랙 %1</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>사운드: %1. %2에는 사운드 트랙을 하나만 담을 수 있습니다.</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>사운드: %1. 포맷을 알 수 없습니다.</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>자막: %1. %2에는 담을 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>자막: %1. 합친 파일 중 첫 번째에만 새겨 넣습니다.</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>디스크 공간이 부족하여 기록을 마무리할 수 없습니다. Matroska 파일로 남습니다.</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>디스크 공간이 부족하여 기록을 마무리할 수 없습니다. Matroska 파일 %1개로 남습니다.</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>출력 폴더의 디스크에 이 크기의 파일을 저장할 수 없습니다.</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>다운로드 엔진이 버전 %1(으)로 업데이트되었습니다. 다시 시도하십시오.</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>다운로드에 실패했습니다. 세부사항에서 엔진의 메시지를 볼 수 있습니다.</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>다운로드에 실패했습니다. 나중에 다시 시도하십시오. 세부사항에서 엔진의 메시지를 볼 수 있습니다.</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>더 세밀한 화면. %1비트 %2이(가) %3비트 %4이(가) 됩니다.</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>더 세밀한 사운드: %1. %2비트에서 %3비트로 됩니다.</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>완성된 파일을 다시 읽을 수 없습니다.</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>폴더가 너무 커서 일부 파일만 추가되었습니다.</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>불규칙한 프레임 간격. 초당 %1프레임으로 고르게 됩니다.</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>트랙의 언어. %1에는 넣을 수 없습니다.</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>이 작업의 옵션을 읽을 수 없습니다. 파일을 다시 추가하십시오.</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>영상의 다른 앵글: %1개</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>기록을 마무리할 수 없습니다. Matroska 파일로 남습니다.</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>기록을 마무리할 수 없습니다. Matroska 파일 %1개로 남습니다.</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>디스크가 거의 가득 차서 기록을 끝냈습니다.</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>%1에 시작될 예정이던 녹화가 이루어지지 않았습니다.</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>사운드를 기록할 수 없습니다. 사운드 서버가 실행 중입니까?</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>사운드를 인코딩해야 합니다(%1).</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>사운드 서버가 종료된 이후의 사운드가 없습니다.</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>윈도우가 너무 작아 기록할 수 없습니다.</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>윈도우가 닫혔거나 최소화되었습니다.</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>검은 여백이 없습니다.</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>이 주소에 여러 비디오가 있습니다. 다시 추가하여 그중에서 선택하십시오.</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>이 주소에는 비디오가 너무 많아 모두 확인할 수 없습니다. 그중 하나의 주소를 추가하십시오.</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>기록할 수 있는 디스플레이가 없습니다.</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>이 주소에는 비디오가 없습니다.</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>이 파일이 손상되었거나 비디오와 사운드가 없습니다.</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>이 비디오에는 사운드가 없습니다.</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>이 비디오에는 사운드가 없습니다. 화면이 있는 포맷을 선택하십시오.</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>이 폴더에는 쓸 수 없습니다.</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>이름이 똑같이 %1인 다른 디스크입니다.</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>녹화된 내용이 삭제됩니다.</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>서버가 보낸 것은 비디오가 아닙니다.</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>받은 내용을 해당 폴더로 옮길 수 없어 현재 위치에 그대로 둡니다.</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>사이트의 응답을 이해할 수 없습니다.</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>서버가 보낸 것은 비디오가 아닙니다. 브라우저에서 주소를 열어 무엇인지 확인하십시오.</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>사이트의 응답을 이해할 수 없습니다. 다운로드 엔진을 업데이트하고 다시 시도하십시오.</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

@@ -224,6 +224,10 @@
         <translation>预设需要名称。</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>录制将于 %1 开始。</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>AC-3 音频</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>确定要现在重新启动应用程序吗？</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>艺人和专辑。%1 无法容纳。</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>不录制</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>不关机</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>同时下载数</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>正在进行的下载保持其开始时的限制。</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>继续运行</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>继续等待</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>改为保留其余部分</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>正在查找更新的下载引擎…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>无损声音：%1。将变为 %2。</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>摄像头画面的位置</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>字幕的位置和样式：%1。%2 无法包含。</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>播放</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>饱和度</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>存储到…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>存储副本</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>仅声音，保持原样（MKA）</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>音轨 %1 在影片中开始得太晚，无法及时找到。</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>此影片没有的音轨 %1</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>声音：%1。%2 只能包含一个音轨。</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>声音：%1。其格式未知。</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>字幕：%1。%2 无法包含。</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>字幕：%1。仅嵌入合并文件中的第一个。</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>磁盘空间不足，无法完成录制：录制内容保留为 Matroska 文件。</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>磁盘空间不足，无法完成录制：录制内容保留为 %1 个 Matroska 文件。</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>输出文件夹所在的磁盘无法存储这种大小的文件。</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>下载引擎现在的版本是 %1。请重试。</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>下载失败。详细信息中包含引擎的消息。</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>下载失败。请稍后重试；详细信息中包含引擎的消息。</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>更精细的画面。%1 位 %2 变为 %3 位 %4。</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>更精细的声音：%1。%2 位变为 %3 位。</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>无法重新读取完成的文件。</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>文件夹过大：只添加了其中的部分文件。</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>不规则的画面时间。将均匀播放，每秒 %1 帧。</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>音轨的语言信息。%1 无法容纳。</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>无法读取此任务的选项。请重新添加文件。</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>影片的其他角度：%1 个</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>无法完成录制：录制内容保留为 Matroska 文件。</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>无法完成录制：录制内容保留为 %1 个 Matroska 文件。</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>磁盘快满了，录制已结束。</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>错过了原定于 %1 开始的录制。</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>无法录制声音。声音服务器是否正在运行？</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>声音必须编码（%1）。</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>声音服务器停止后缺少声音。</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>窗口太小，无法录制。</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>窗口已关闭或最小化。</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>没有黑边。</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>此地址有多个影片。请重新添加以从中选取。</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>此地址的影片过多，无法全部查看。请添加其中一个影片的地址。</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>没有可录制画面的显示器。</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>此地址没有影片。</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>此文件已损坏，或不包含视频和声音。</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>此影片没有声音。</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>此影片没有声音。请为其选取带画面的格式。</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>无法写入此文件夹。</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>这是另一张碟片，名称也是 %1。</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>已录制的内容将被删除。</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>服务器发送的内容不是影片。</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>已收到的内容无法移到该文件夹，因此保留在原处。</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>无法理解网站的响应。</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>服务器发送的内容不是影片。请在浏览器中打开该地址以查看其内容。</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>无法理解网站的响应。请更新下载引擎，然后重试。</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>

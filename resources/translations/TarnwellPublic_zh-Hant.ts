@@ -224,6 +224,10 @@
         <translation>預設組合需要名稱。</translation>
     </message>
     <message>
+        <source>A recording is to begin at %1.</source>
+        <translation>錄製將於 %1 開始。</translation>
+    </message>
+    <message>
         <source>AC-3 Audio</source>
         <translation>AC-3 音訊</translation>
     </message>
@@ -382,6 +386,10 @@
     <message>
         <source>Are you sure you want to restart the application now?</source>
         <translation>確定要現在重新啟動應用程式嗎？</translation>
+    </message>
+    <message>
+        <source>Artist and album. %1 cannot hold them.</source>
+        <translation>藝人和專輯。%1 無法容納。</translation>
     </message>
     <message>
         <source>As the format has it</source>
@@ -788,6 +796,10 @@
         <translation>Dolby Digital</translation>
     </message>
     <message>
+        <source>Don't Record</source>
+        <translation>不錄製</translation>
+    </message>
+    <message>
         <source>Don't Shut Down</source>
         <translation>不關機</translation>
     </message>
@@ -838,6 +850,10 @@
     <message>
         <source>Downloads at the same time</source>
         <translation>同時下載數</translation>
+    </message>
+    <message>
+        <source>Downloads that are running keep the limit that they began with.</source>
+        <translation>正在進行的下載會保持其開始時的限制。</translation>
     </message>
     <message>
         <source>Draw an area, then press Return</source>
@@ -1160,6 +1176,10 @@
         <translation>繼續執行</translation>
     </message>
     <message>
+        <source>Keep Waiting</source>
+        <translation>繼續等待</translation>
+    </message>
+    <message>
         <source>Keep the Rest Instead</source>
         <translation>改為保留其餘部分</translation>
     </message>
@@ -1258,6 +1278,10 @@
     <message>
         <source>Looking for a newer download engine…</source>
         <translation>正在尋找較新的下載引擎…</translation>
+    </message>
+    <message>
+        <source>Lossless sound: %1. It becomes %2.</source>
+        <translation>無損聲音：%1。將變為 %2。</translation>
     </message>
     <message>
         <source>M4A Audio (AAC)</source>
@@ -1656,6 +1680,10 @@
         <translation>攝影機畫面的位置</translation>
     </message>
     <message>
+        <source>Places and styles of the subtitles: %1. %2 cannot hold them.</source>
+        <translation>字幕的位置和樣式：%1。%2 無法包含。</translation>
+    </message>
+    <message>
         <source>Play</source>
         <translation>播放</translation>
     </message>
@@ -1880,6 +1908,10 @@
         <translation>飽和度</translation>
     </message>
     <message>
+        <source>Save To…</source>
+        <translation>儲存到…</translation>
+    </message>
+    <message>
         <source>Save a Copy</source>
         <translation>儲存副本</translation>
     </message>
@@ -2064,6 +2096,10 @@
         <translation>僅聲音，保持原樣（MKA）</translation>
     </message>
     <message>
+        <source>Sound track %1 begins so late in the film that it is not found in time.</source>
+        <translation>音軌 %1 在影片中開始得太晚，無法及時找到。</translation>
+    </message>
+    <message>
         <source>Sound track %1, which this film does not have</source>
         <translation>此影片沒有的音軌 %1</translation>
     </message>
@@ -2074,6 +2110,10 @@
     <message>
         <source>Sound: %1. %2 holds only one track of sound.</source>
         <translation>聲音：%1。%2 只能包含一個音軌。</translation>
+    </message>
+    <message>
+        <source>Sound: %1. Its format is not known.</source>
+        <translation>聲音：%1。其格式未知。</translation>
     </message>
     <message>
         <source>Source</source>
@@ -2174,6 +2214,10 @@
     <message>
         <source>Subtitles: %1. %2 cannot hold them.</source>
         <translation>字幕：%1。%2 無法包含。</translation>
+    </message>
+    <message>
+        <source>Subtitles: %1. They are burnt into the first of the joined files only.</source>
+        <translation>字幕：%1。僅嵌入合併檔案中的第一個。</translation>
     </message>
     <message>
         <source>Subtitles: %1. They cannot follow the changed times; burn them in to keep them.</source>
@@ -2376,6 +2420,10 @@
         <translation>磁碟空間不足，無法完成錄製：錄製內容保留為 Matroska 檔案。</translation>
     </message>
     <message>
+        <source>The disk is too full to finish the recording: it stays in %1 Matroska files.</source>
+        <translation>磁碟空間不足，無法完成錄製：錄製內容保留為 %1 個 Matroska 檔案。</translation>
+    </message>
+    <message>
         <source>The disk of the output folder cannot hold a file of this size.</source>
         <translation>輸出檔案夾所在的磁碟無法儲存這種大小的檔案。</translation>
     </message>
@@ -2400,8 +2448,8 @@
         <translation>下載引擎現在的版本是 %1。請再試一次。</translation>
     </message>
     <message>
-        <source>The download failed. The details tell what the engine said.</source>
-        <translation>下載失敗。詳細資訊中包含引擎的訊息。</translation>
+        <source>The download failed. Try again later; the details tell what the engine said.</source>
+        <translation>下載失敗。請稍後再試一次；詳細資訊中包含引擎的訊息。</translation>
     </message>
     <message>
         <source>The encoder for %1 is not installed.</source>
@@ -2460,6 +2508,10 @@
         <translation>更精細的畫面。%1 位元 %2 變為 %3 位元 %4。</translation>
     </message>
     <message>
+        <source>The finer sound: %1. %2 bit become %3 bit.</source>
+        <translation>更精細的聲音：%1。%2 位元變為 %3 位元。</translation>
+    </message>
+    <message>
         <source>The finished file could not be read back.</source>
         <translation>無法重新讀取完成的檔案。</translation>
     </message>
@@ -2504,6 +2556,10 @@
         <translation>檔案夾過大：只加入了其中的部分檔案。</translation>
     </message>
     <message>
+        <source>The irregular times of the pictures. They come evenly, %1 a second.</source>
+        <translation>不規則的畫面時間。將均勻播放，每秒 %1 格。</translation>
+    </message>
+    <message>
         <source>The languages of the tracks. %1 cannot hold them.</source>
         <translation>音軌的語言資訊。%1 無法容納。</translation>
     </message>
@@ -2534,6 +2590,10 @@
     <message>
         <source>The options of this job could not be read. Add the file again.</source>
         <translation>無法讀取此工作的選項。請重新加入檔案。</translation>
+    </message>
+    <message>
+        <source>The other angles of the film: %1</source>
+        <translation>影片的其他角度：%1 個</translation>
     </message>
     <message>
         <source>The output could not be written.</source>
@@ -2588,8 +2648,16 @@
         <translation>無法完成錄製：錄製內容保留為 Matroska 檔案。</translation>
     </message>
     <message>
+        <source>The recording could not be finished: it stays in %1 Matroska files.</source>
+        <translation>無法完成錄製：錄製內容保留為 %1 個 Matroska 檔案。</translation>
+    </message>
+    <message>
         <source>The recording ended because the disk is nearly full.</source>
         <translation>磁碟快滿了，錄製已結束。</translation>
+    </message>
+    <message>
+        <source>The recording that was to begin at %1 was missed.</source>
+        <translation>錯過了原定於 %1 開始的錄製。</translation>
     </message>
     <message>
         <source>The recording was interrupted.</source>
@@ -2664,6 +2732,10 @@
         <translation>無法錄製聲音。聲音伺服器是否正在執行？</translation>
     </message>
     <message>
+        <source>The sound has to be encoded (%1).</source>
+        <translation>聲音必須編碼（%1）。</translation>
+    </message>
+    <message>
         <source>The sound is missing since the sound server went away.</source>
         <translation>聲音伺服器停止後缺少聲音。</translation>
     </message>
@@ -2732,12 +2804,20 @@
         <translation>視窗太小，無法錄製。</translation>
     </message>
     <message>
+        <source>The window was closed or minimised.</source>
+        <translation>視窗已關閉或最小化。</translation>
+    </message>
+    <message>
         <source>There are no black bars.</source>
         <translation>沒有黑邊。</translation>
     </message>
     <message>
         <source>There are several films at this address. Add it again to choose among them.</source>
         <translation>此位址有多部影片。請重新加入以從中選擇。</translation>
+    </message>
+    <message>
+        <source>There are too many films at this address to look at them all. Add the address of one of them.</source>
+        <translation>此位址的影片過多，無法全部查看。請加入其中一部影片的位址。</translation>
     </message>
     <message>
         <source>There are too many presets. Delete some first.</source>
@@ -2754,10 +2834,6 @@
     <message>
         <source>There is no display whose picture could be recorded.</source>
         <translation>沒有可錄製畫面的顯示器。</translation>
-    </message>
-    <message>
-        <source>There is no film at this address.</source>
-        <translation>此位址沒有影片。</translation>
     </message>
     <message>
         <source>There is no film at this address. Look for the page that plays it.</source>
@@ -2868,12 +2944,16 @@
         <translation>此檔案已損毀，或不包含影片和聲音。</translation>
     </message>
     <message>
-        <source>This film has no sound.</source>
-        <translation>此影片沒有聲音。</translation>
+        <source>This film has no sound. Choose a format with a picture for it.</source>
+        <translation>此影片沒有聲音。請為其選擇帶畫面的格式。</translation>
     </message>
     <message>
         <source>This folder cannot be written to.</source>
         <translation>無法寫入此資料夾。</translation>
+    </message>
+    <message>
+        <source>This is another disc, which is also called %1.</source>
+        <translation>這是另一張光碟，名稱也是 %1。</translation>
     </message>
     <message>
         <source>This is another disc: %1 instead of %2.</source>
@@ -3160,12 +3240,16 @@
         <translation>已錄製的內容將被刪除。</translation>
     </message>
     <message>
-        <source>What the server sent is no film.</source>
-        <translation>伺服器傳送的內容不是影片。</translation>
+        <source>What has come cannot be moved to that folder, so it stays where it is.</source>
+        <translation>已收到的內容無法移到該檔案夾，因此保留在原處。</translation>
     </message>
     <message>
-        <source>What the site answered could not be understood.</source>
-        <translation>無法理解網站的回應。</translation>
+        <source>What the server sent is no film. Open the address in a browser to see what it is.</source>
+        <translation>伺服器傳送的內容不是影片。請在瀏覽器中打開該位址以查看其內容。</translation>
+    </message>
+    <message>
+        <source>What the site answered could not be understood. Update the download engine and try again.</source>
+        <translation>無法理解網站的回應。請更新下載引擎，然後再試一次。</translation>
     </message>
     <message>
         <source>What this preset makes cannot be fitted to a size.</source>
