@@ -145,7 +145,7 @@ private:
         const QString name = file.path.section(u'/', -1);
         if (file.use == Plan::SubtitleUse::Burn) {
             burn({.source = nullptr, .file = index, .made = -1, .encoder = {}, .codec = codec});
-            if (m_sources.size() > 1)
+            if (m_sources.size() > 1 && m_tracks.burned->file == index)
                 m_tracks.leftOut.append(
                     {"Subtitles: %1. They are burnt into the first of the joined files only."_key, {name}});
             return;

@@ -25,7 +25,7 @@ struct Preset {
     double maximumFrameRate = 0;
     int audioChannels = 0;                ///< at most; 0 for as the source
     bool plainVideo = false;              ///< promises 8 bits, 4:2:0 and standard range
-    double quality = 0, bestQuality = 0;  ///< constant quality of the encoder; 0 for its usual
+    double quality = 0, bestQuality = 0;  ///< constant, on the encoder's own scale; 0 for its usual
 
     bool takesVideo() const { return !videoCodec.isNull(); }
     bool takesAudio() const { return !audioCodec.isNull(); }

@@ -164,7 +164,8 @@ std::optional<SoundTrackPlan> planSound(const Plan &plan, const MediaTrack &trac
 
 bool isLosslessSound(const QString &codec)
 {
-    return codec.startsWith("pcm_"_L1) || tableWords("flac alac tta ape wavpack truehd mlp").contains(codec);
+    const bool isSamples = codec.startsWith("pcm_"_L1) && !codec.endsWith("law"_L1);
+    return isSamples || tableWords("flac alac tta ape wavpack truehd mlp").contains(codec);
 }
 
 bool changesSound(const Plan &plan)

@@ -75,8 +75,9 @@ foundation::Result<TranscodePlan, Sentence> TranscodeJob::planWithToolPaths()
 
 void TranscodeJob::prepare()
 {
-    m_output = std::make_shared<OutputFile>(outputFolder(m_request.plan, m_request.folder),
-                                            outputBaseName(m_request.plan, QDate::currentDate()),
+    const QString name =
+        m_request.name.isNull() ? outputBaseName(m_request.plan, QDate::currentDate()) : m_request.name;
+    m_output = std::make_shared<OutputFile>(outputFolder(m_request.plan, m_request.folder), name,
                                             m_request.plan.preset.extension);
     if (!m_output->isValid())
         return fail(m_output->reason());
@@ -154,12 +155,24 @@ void TranscodeJob::stepEnded(const ToolEnding &ending)
         judge(ending, std::nullopt);
     else if (isLast)
         checkOutput(ending);
-    else if (const auto &tag = m_steps.runs[m_step].coverTag; tag && !writeCoverTag(*tag))
+    else if (!takeCoverTag())
         fail("The folder for temporary files cannot be written."_key);
     else {
         ++m_step;
         runStep();
     }
+}
+
+/// False where the folder for temporary files cannot be written.
+bool TranscodeJob::takeCoverTag()
+{
+    const auto &tag = m_steps.runs[m_step].coverTag;
+    const auto isTaken = tag ? writeCoverTag(*tag) : std::optional(true);
+    if (isTaken && !*isTaken) {
+        m_steps.expected.tracks.removeIf([](const auto &track) { return track.kind == MediaTrack::Kind::Cover; });
+        m_steps.leftOut.append({"The cover picture. %1 cannot hold it."_key, {m_request.plan.preset.name}});
+    }
+    return isTaken.has_value();
 }
 
 void TranscodeJob::tellProgress()

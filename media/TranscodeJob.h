@@ -34,6 +34,7 @@ struct TranscodeRequest {
     QList<MediaInformation> information;  ///< of the plan's sources; those that are not told are looked at first
     QString folder;                       ///< that the output goes to
     TranscodeTools tools;
+    QString name = {};  ///< of the output, without its ending; null for what the plan's pattern gives
 };
 
 /// A conversion: looks at the sources, carries out the plan step by step, looks at the output, and gives it its name.
@@ -59,6 +60,7 @@ private:
     void carryOut();
     void runStep();
     void stepEnded(const ToolEnding &ending);
+    bool takeCoverTag();
     void checkOutput(const ToolEnding &ending);
     Decoding neededDecoding() const;
     void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);

@@ -44,7 +44,7 @@ struct TranscodePlan {
 
     // Quality
     RateControl rateControl = RateControl::Preset;
-    double quality = 0;       ///< the encoder's constant quality, for Quality
+    double quality = 0;       ///< constant, on the encoder's scale turned so that lower is better, for Quality
     qint64 videoBitRate = 0;  ///< bits a second, for BitRate
     qint64 maximumBytes = 0;  ///< of the whole file, for Size: two passes
     bool best = false;        ///< the slow, better settings of the preset (the settings' high-quality engine)

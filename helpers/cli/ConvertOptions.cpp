@@ -150,7 +150,7 @@ constexpr Option<Request> options[] = {
     {"no-chapter-per-source", nullptr, "with --join: only the chapters that the sources have",
      &setSwitch<&TranscodePlan::chapterPerSource, false>},
 
-    {"quality", "NUMBER", "constant quality of the encoder",
+    {"quality", "NUMBER", "constant quality; lower is better",
      [](const QString &value, Request &request) {
          request.plan.rateControl = TranscodePlan::RateControl::Quality;
          return readNumber(value, 0, 63, request.plan.quality);

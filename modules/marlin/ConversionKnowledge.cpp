@@ -57,6 +57,7 @@ void Conversions::probed(qint64 look, const MediaProber::Answer &answer)
                 changing.state = JobState::Unusable;
                 changing.outcome.sentence = answer.reason();
             });
+        emit notInformed(id, answer.reason().localized());
         return;
     }
     known->sources[source] = *answer;

@@ -72,6 +72,8 @@ public:
 
 signals:
     void informed(kestrel::JobId id);
+    /// The job's source cannot be read; `informed` does not come.
+    void notInformed(kestrel::JobId id, const QString &reason);
     void draftChanged();
 
 private:

@@ -286,10 +286,9 @@ void DownloadJob::convert(const QString &path, const DownloadCheck &check)
         return fail("The converter is missing. Please install the application again."_key);
     TranscodePlan plan;
     plan.sources = {path};
-    plan.namePattern = title();
     plan.preset = *preset;
-    m_conversion = std::make_unique<TranscodeJob>(
-        TranscodeRequest{.plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode});
+    m_conversion = std::make_unique<TranscodeJob>(TranscodeRequest{
+        .plan = plan, .information = {}, .folder = m_folder, .tools = m_tools.transcode, .name = title()});
     m_conversion->setNotary([this](const JobOutcome &outcome, const QString &partPath, std::function<void()> then) {
         m_converted = outcome;
         beforePlacing(goodOutcome(), partPath, std::move(then));

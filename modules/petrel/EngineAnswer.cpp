@@ -151,7 +151,7 @@ void readFilm(const QJsonObject &json, EngineAnswer &answer)
     const QString live = json["live_status"_L1].toString();
     answer.isLive = live == "is_live"_L1 || json["is_live"_L1].toBool();
     answer.isToCome = live == "is_upcoming"_L1;
-    // Told of any form; those have been left out.
+    // Set where any form is protected; the engine has already dropped those.
     answer.isProtected = json["_has_drm"_L1].toBool() && !std::ranges::any_of(answer.forms, [](const auto &form) {
                              return form.hasVideo || form.hasAudio;
                          });

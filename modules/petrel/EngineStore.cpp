@@ -63,8 +63,8 @@ EngineState readState(const QString &folder, const QString &bundled)
         state.isOnTrial = json["trial"_L1].toBool();
         state.suspect = version("suspect"_L1);
         state.isBroken = json["broken"_L1].toBool();
+        state.checked = qint64(json["checked"_L1].toDouble());
     }
-    state.checked = qint64(json["checked"_L1].toDouble());
     for (const QJsonValue &ruledOut : json["ruledOut"_L1].toArray())
         state.ruledOut.append(ruledOut.toString());
     return state;

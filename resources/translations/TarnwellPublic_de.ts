@@ -1440,6 +1440,10 @@
         <translation>Kein Protokoll angegeben</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>Mehr als %1 Abschnitte lassen sich nicht behalten.</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>Kein Bild der Kopie konnte decodiert werden.</translation>
     </message>

@@ -1440,6 +1440,10 @@
         <translation>No log was named</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>No more than %1 pieces can be kept.</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>No picture of the copy could be decoded.</translation>
     </message>

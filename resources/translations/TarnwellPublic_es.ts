@@ -1440,6 +1440,10 @@
         <translation>No se ha indicado ningún registro</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>No se pueden conservar más de %1 fragmentos.</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>No se ha podido decodificar ninguna imagen de la copia.</translation>
     </message>

@@ -1440,6 +1440,10 @@
         <translation>Aucun journal indiqué</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>On ne peut pas conserver plus de %1 parties.</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>Aucune image de la copie n’a pu être décodée.</translation>
     </message>

@@ -1440,6 +1440,10 @@
         <translation>Nessun log indicato</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>Non si possono conservare più di %1 parti.</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>Non è stato possibile decodificare alcuna immagine della copia.</translation>
     </message>

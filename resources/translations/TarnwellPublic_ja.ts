@@ -1440,6 +1440,10 @@
         <translation>ログが指定されていません</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>残せる部分は%1個までです。</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>コピーの映像をデコードできませんでした。</translation>
     </message>

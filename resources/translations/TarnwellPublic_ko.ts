@@ -1440,6 +1440,10 @@
         <translation>지정된 로그가 없음</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>부분은 최대 %1개까지만 유지할 수 있습니다.</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>사본의 영상을 디코딩할 수 없습니다.</translation>
     </message>

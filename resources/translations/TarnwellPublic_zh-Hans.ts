@@ -1440,6 +1440,10 @@
         <translation>未指定日志</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>最多只能保留 %1 段。</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>无法解码副本的任何画面。</translation>
     </message>

@@ -1440,6 +1440,10 @@
         <translation>未指定記錄</translation>
     </message>
     <message>
+        <source>No more than %1 pieces can be kept.</source>
+        <translation>最多只能保留 %1 段。</translation>
+    </message>
+    <message>
         <source>No picture of the copy could be decoded.</source>
         <translation>無法解碼副本的任何畫面。</translation>
     </message>

@@ -180,9 +180,19 @@ void HeronController::discAnswered(const DiscProbe::Answer &answer)
             if (!pictures.contains(title.number))
                 pictures.append(title.number);
         }
-        m_pictures.make(tools(), m_source, pictures);
+        if (!isInUse(m_source))
+            m_pictures.make(tools(), m_source, pictures);
     }
     showChoice();
+}
+
+/// A drive that a job reads has no time for pictures.
+bool HeronController::isInUse(const QString &source)
+{
+    using enum JobState;
+    const QList<JobId> active = queue().idsIn({Running, Paused, Stopping}, heronJobs.toString());
+    return source.startsWith("/dev/"_L1) &&
+           std::ranges::any_of(active, [&](JobId id) { return queue().record(id)->source == source; });
 }
 
 /// A disc that was put in is shown where none is.
@@ -455,7 +465,7 @@ void HeronController::begin()
     QString obstacle;
     if (canStart(wanted, &obstacle)) {
         if (m_source.startsWith("/dev/"_L1))
-            m_pictures.stop();  // a drive reads at one place
+            m_pictures.stop();  // the drive would go to and fro
         QList<JobId> ids;
         for (const DiscPlan &plan : wanted) {
             const QString folder = discFolder(*m_settings, plan);

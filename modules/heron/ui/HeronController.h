@@ -59,6 +59,7 @@ private:
     void chooseFolder();
     void openSource(const QString &source);
     void discAnswered(const DiscProbe::Answer &answer);
+    bool isInUse(const QString &source);
     void showDrives();
     void showChoice();
     void showSizes();

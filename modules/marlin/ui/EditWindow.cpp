@@ -90,6 +90,7 @@ void EditWindow::makeViews(Thumbnails &thumbnails)
     connect(m_snapshots, &FrameMaker::made, this, &EditWindow::saveSnapshot);
     connect(m_sourceView, &PictureView::cropChanged, this, &EditWindow::setCrop);
     connect(m_timeLine, &TimeLine::moved, this, [this] { showFrames(true); });
+    connect(m_pieces, &PieceList::refused, this, &EditWindow::showMessage);
     connect(m_pieces, &PieceList::changed, this, [this](const QList<TranscodePlan::Piece> &pieces) {
         change([&](TranscodePlan &plan) { plan.pieces = pieces; });
     });

@@ -111,6 +111,11 @@ void MarlinController::connectPage()
         if (id == m_toEdit)
             edit(id);
     });
+    connect(m_conversions.get(), &Conversions::notInformed, this, [this](JobId id, const QString &reason) {
+        if (id == m_toEdit)
+            m_page->showMessage(reason);
+        m_toEdit = id == m_toEdit ? 0 : m_toEdit;
+    });
     connect(list, &JobListView::selectedChanged, this, &MarlinController::showSelection);
     connect(m_conversions.get(), &Conversions::draftChanged, this, &MarlinController::showPreset);
     connect(&queue(), &JobQueue::changed, this, &MarlinController::showState);

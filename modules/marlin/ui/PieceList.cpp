@@ -93,9 +93,15 @@ void PieceList::keepOthers()
 
 void PieceList::tell(const QList<TranscodePlan::Piece> &pieces, int row)
 {
-    // More than a plan can have: what was done is taken back.
     const QList<TranscodePlan::Piece> asked = soundPieces(pieces, m_duration);
-    setPieces(asked.size() <= TranscodePlan::mostPieces ? asked : QList(m_pieces));
+    if (asked.size() > TranscodePlan::mostPieces) {
+        setPieces(QList(m_pieces));  // what was typed is taken back
+        emit refused(
+            tarnwell::Sentence("No more than %1 pieces can be kept."_key, {QString::number(TranscodePlan::mostPieces)})
+                .localized());
+        return;
+    }
+    setPieces(asked);
     setCurrentCell(row, StartColumn);
     emit changed(m_pieces);
 }

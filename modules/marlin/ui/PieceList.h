@@ -22,6 +22,7 @@ public:
 
 signals:
     void changed(const QList<kestrel::TranscodePlan::Piece> &pieces);
+    void refused(const QString &reason);  ///< nothing has changed
 
 private:
     void take(int row, int column);

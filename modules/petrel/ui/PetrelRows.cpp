@@ -197,20 +197,23 @@ void PetrelController::changePlans(const QList<JobId> &ids, const PlanEdit &edit
     for (const JobId id : ids) {
         const JobRecord *record = queue().record(id);
         const auto plan = record && !isActive(record->state) ? DownloadPlan::fromJson(record->plan) : std::nullopt;
-        if (!plan)
+        const bool isDone = record && (record->state == JobState::Done || record->state == JobState::DoneWithProblems);
+        if (!plan || (isDone && !chosenFolder.isNull()))
             continue;
         DownloadPlan edited = *plan;
         edit(edited);
-        QString folder = plan->hasOwnFolder ? record->folder : downloadFolder(*m_settings, edited);
+        const bool isOther = edited.identity() != plan->identity();
+        const bool staysThere = plan->hasOwnFolder || (isEnded(record->state) && !isOther);
+        QString folder = staysThere ? record->folder : downloadFolder(*m_settings, edited);
         if (!chosenFolder.isNull())
             folder = chosenFolder;
         if (edited == *plan && folder == record->folder)
             continue;
-        const bool isOther = edited.identity() != plan->identity();
         if (isOther) {
             PartFolder::removeLeft(record->folder, *plan);
         } else if (folder != record->folder && !PartFolder::moveLeft(record->folder, *plan, folder)) {
             folder = record->folder;
+            edited.hasOwnFolder = plan->hasOwnFolder;
             if (!chosenFolder.isNull())
                 m_page->showMessage(
                     "What has come cannot be moved to that folder, so it stays where it is."_key.localized());
