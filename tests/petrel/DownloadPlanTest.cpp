@@ -1,5 +1,7 @@
 #include "foundation/UserDefaults.h"
+#include "modules/petrel/Attempts.h"
 #include "modules/petrel/Download.h"
+#include "modules/petrel/DownloadRecipe.h"
 #include "modules/petrel/PartFolder.h"
 #include "settings/JKestrelSetting.h"
 #include "settings/JKestrelSettingDispatcher.h"
@@ -53,6 +55,7 @@ TEST(DownloadPlanTest, StoredPlansComeBackAndNonsenseDoesNot)
                             .subtitles = {u"en"_s},
                             .proxy = u"socks5://p.example:1"_s,
                             .bytesPerSecond = 5000,
+                            .manyFromServer = true,
                             .hasOwnProxy = true,
                             .title = u"Title"_s,
                             .seconds = 1.5,
@@ -83,6 +86,41 @@ TEST(DownloadTest, NothingGoesPastAProxyThatIsSwitchedOn)
         setting.downloader()->setProxyURL(text);
         EXPECT_EQ(downloadProxy({ModuleSettingDownload, setting}), proxy);
     }
+}
+
+TEST(DownloadTest, ThreeFromOneServerUnlessMoreAreWanted)
+{
+    const auto job = [](const QString &address, bool isMany = false) {
+        return downloadJob({.address = address, .manyFromServer = isMany}, {});
+    };
+    const QString server = u"http://127.0.0.1:1/"_s;
+    const JobRecord one = job(server + u'1'), two = job(server + u'2'), three = job(server + u'3'),
+                    other = job(u"http://127.0.0.1:2/"_s);
+    const DownloadRecipe recipe([] { return DownloadTools(); });
+    EXPECT_TRUE(recipe.obstacle(job(server), {&one, &two, &other, &other}).isEmpty());
+    EXPECT_FALSE(recipe.obstacle(job(server), {&one, &two, &three}).isEmpty());
+    EXPECT_TRUE(recipe.obstacle(job(server, true), {&one, &two, &three}).isEmpty());
+    foundation::UserDefaults defaults(u"/nowhere/defaults.plist"_s);
+    JKestrelSetting setting(defaults);
+    JKestrelSettingDispatcher settings(ModuleSettingDownload, setting);
+    settings.setConcurrentThread(4);
+    EXPECT_EQ(downloadsAtOnce(settings), 4);
+    settings.setConcurrentThread(0);
+    EXPECT_GT(downloadsAtOnce(settings), 100);
+}
+
+TEST(AttemptsTest, SoonAtFirstAndNotForEver)
+{
+    using Kind = EngineFailure::Kind;
+    Attempts attempts;
+    EXPECT_EQ(attempts.next(Kind::TooMany, 60), 60);
+    EXPECT_EQ(attempts.next(Kind::TooMany, 0), 15);
+    EXPECT_FALSE(attempts.next(Kind::TooMany, 3600)) << "others wait for the place";
+    EXPECT_FALSE(attempts.next(Kind::Server, 0)) << "has broken off twice";
+    for (int night = 0; night < 100; ++night)
+        EXPECT_TRUE(attempts.next(Kind::NoNetwork, 0));
+    attempts.reset();
+    EXPECT_EQ(attempts.next(Kind::Server, 0), 5);
 }
 
 TEST(PartFolderTest, IsFoundAgainByThePlanAndNobodyElseHasItMeanwhile)

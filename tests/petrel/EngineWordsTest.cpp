@@ -1,7 +1,11 @@
+#include "modules/petrel/AnswerStore.h"
+#include "modules/petrel/DownloadPlan.h"
 #include "modules/petrel/EngineAnswer.h"
 #include "modules/petrel/EngineCommand.h"
 #include "modules/petrel/EngineFailure.h"
 #include "modules/petrel/EngineProgress.h"
+
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -124,6 +128,14 @@ TEST(EngineAnswerTest, ListsKeepHowTheirFilmsAreFound)
     EXPECT_EQ(answer->entries[1].address, page);
     EXPECT_EQ(answer->entries[1].item, 3);
     EXPECT_EQ(answer->entries[2].address, page);
+    const QTemporaryDir folder;
+    const AnswerStore store(folder.path());
+    DownloadPlan plan{.address = page};
+    store.keep(plan, *answer);
+    plan.item = 3;
+    EXPECT_EQ(store.answer(plan).value_or(EngineAnswer()).title, u"Two");
+    plan.item = 1;
+    EXPECT_FALSE(store.answer(plan)) << "each film is one by itself";
     // A list of one is that one.
     const auto single =
         parseEngineAnswer(R"({"_type": "playlist", "entries": [{"title": "One", "vcodec": "none"}]})", page);
@@ -192,6 +204,8 @@ TEST(EngineCommandTest, TheAddressIsNeverTakenForAnOption)
     const ToolCommand known = downloadCommand(plan, tools, u"/part"_s, u"/answer.json"_s);
     EXPECT_FALSE(known.arguments.contains(plan.address));
     EXPECT_TRUE(known.arguments.contains(u"/answer.json"_s));
+    plan.bytesPerSecond = 5000;
+    EXPECT_TRUE(downloadCommand(plan, tools, u"/part"_s, {}).arguments.join(u' ').contains(u"--limit-rate 5000 "_s));
 }
 
 }  // namespace
