@@ -298,7 +298,8 @@ void AppController::closeSubWindowAction()
 
 bool AppController::windowShouldClose()
 {
-    return m_currentController && m_currentController->shouldTerminate() && m_surroundings.stopJobs();
+    const bool isAskedLater = m_currentController == recorderController();  // by `stopJobs`
+    return m_currentController && (isAskedLater || m_currentController->shouldTerminate()) && m_surroundings.stopJobs();
 }
 
 void AppController::subModeWindowWillCloseNotification(const tarnwell::TitledWindow *window)

@@ -48,7 +48,7 @@ public:
         ModuleServices &services;
         PresentedWindows windows;
         std::function<void()> terminate;  ///< ends the application
-        /// Whether no job runs, after the user was asked where one did.
+        /// Whether no job runs, and the recorder lets the application end, after the user was asked where need be.
         std::function<bool()> stopJobs;
     };
 

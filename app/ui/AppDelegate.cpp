@@ -248,24 +248,24 @@ void AppDelegate::onQuitAction()
         m_surroundings.terminate();
 }
 
-/// Whether no job runs, after asking where one does: for all modules at once. Who answers nothing goes on.
+/// Whether no job runs, after asking where one does: for all modules at once. Who answers nothing goes on. The recorder
+/// is asked last, as its answer takes effect at once.
 bool AppDelegate::stopJobs(const QString &stopTitle)
 {
-    ModuleController *recorder = m_appController->recorderController();  // may wait for a time
+    const tarnwell::Alert question{
+        .message = AppLocalizedString(u"Jobs are still running."_s),
+        .defaultButton = AppLocalizedString(u"Keep Running"_s),
+        .alternateButton = stopTitle,
+        .informativeText = AppLocalizedString(u"What you stop now is offered to you again at the next start."_s),
+        .style = tarnwell::AlertStyle::Warning,
+        .answerToEscape = tarnwell::AlertAnswer::Default};
+    if (m_surroundings.jobs.hasWork() && tarnwell::runAlert(question) != tarnwell::AlertAnswer::Alternate)
+        return false;
+    ModuleController *recorder = m_appController->recorderController();  // a recording may be set for later
     if (recorder && !recorder->shouldTerminate())
         return false;
-    if (!m_surroundings.jobs.hasWork())
-        return true;
-    const tarnwell::AlertAnswer answer = tarnwell::runAlert(
-        {.message = AppLocalizedString(u"Jobs are still running."_s),
-         .defaultButton = AppLocalizedString(u"Keep Running"_s),
-         .alternateButton = stopTitle,
-         .informativeText = AppLocalizedString(u"What you stop now is offered to you again at the next start."_s),
-         .style = tarnwell::AlertStyle::Warning,
-         .answerToEscape = tarnwell::AlertAnswer::Default});
-    if (answer != tarnwell::AlertAnswer::Alternate)
-        return false;
-    m_surroundings.jobs.interrupt();
+    if (m_surroundings.jobs.hasWork())
+        m_surroundings.jobs.interrupt();
     return true;
 }
 

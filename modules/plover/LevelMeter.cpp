@@ -8,6 +8,7 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -15,7 +16,7 @@ namespace kestrel {
 
 namespace {
 
-constexpr std::chrono::seconds retryDelay(2);
+constexpr std::chrono::seconds firstDelay(2), longestDelay(30);
 
 }  // namespace
 
@@ -26,29 +27,38 @@ LevelMeter::~LevelMeter() = default;
 void LevelMeter::open(const QString &transcoderPath, const RecordPlan &plan)
 {
     close();
-    const qsizetype sources = soundSources(plan).size();
-    if (sources == 0)
-        return;
-    m_tool = std::make_unique<ToolProcess>(
-        ToolCommand{.program = transcoderPath,
-                    .arguments = soundInputArguments(plan) +
-                                 QStringList{u"-nostats"_s, u"-filter_complex"_s,
-                                             u"amix=inputs=%1:normalize=0,asetnsamples=4800,"
-                                             "astats=metadata=1:reset=1,ametadata=mode=print:"
-                                             "key=lavfi.astats.Overall.Peak_level:file=-:direct=1"_s.arg(sources),
-                                             u"-f"_s, u"null"_s, u"-"_s}});
+    m_retryDelay = firstDelay;
+    if (!soundSources(plan).isEmpty())
+        listen(transcoderPath, plan);
+}
+
+void LevelMeter::listen(const QString &transcoderPath, const RecordPlan &plan)
+{
+    m_tool = std::make_unique<ToolProcess>(ToolCommand{
+        .program = transcoderPath,
+        .arguments = soundInputArguments(plan) +
+                     QStringList{u"-nostats"_s, u"-filter_complex"_s,
+                                 u"amix=inputs=%1:normalize=0,asetnsamples=4800,"
+                                 "astats=metadata=1:reset=1,ametadata=mode=print:"
+                                 "key=lavfi.astats.Overall.Peak_level:file=-:direct=1"_s.arg(soundSources(plan).size()),
+                                 u"-f"_s, u"null"_s, u"-"_s}});
     connect(m_tool.get(), &ToolProcess::outputLine, this, [this](const QByteArray &line) {
-        if (const double level = levelIn(line); level >= 0)
-            emit levelChanged(level);
+        const double level = levelIn(line);
+        if (level < 0)
+            return;
+        m_retryDelay = firstDelay;
+        emit levelChanged(level);
     });
     // A microphone that is missing gives way to the usual one, as it does in the recording.
     RecordPlan usual = plan;
     usual.microphone.clear();
     connect(m_tool.get(), &ToolProcess::ended, this, [this, transcoderPath, usual] {
         emit levelChanged(0);
-        foundation::queue::afterMain(retryDelay, [self = QPointer(this), transcoderPath, usual] {
-            if (self && self->m_tool && !self->m_tool->isRunning())
-                self->open(transcoderPath, usual);
+        const std::chrono::seconds delay = std::exchange(m_retryDelay, std::min(m_retryDelay * 2, longestDelay));
+        // Not where something else is listened to by then, or nothing.
+        foundation::queue::afterMain(delay, [this, tool = QPointer(m_tool.get()), transcoderPath, usual] {
+            if (tool)
+                listen(transcoderPath, usual);
         });
     });
     m_tool->start();

@@ -4,6 +4,7 @@
 
 #include <QObject>
 
+#include <chrono>
 #include <memory>
 
 namespace kestrel {
@@ -29,7 +30,10 @@ signals:
     void levelChanged(double level);  ///< 0 to 1, ten times a second
 
 private:
+    void listen(const QString &transcoderPath, const RecordPlan &plan);
+
     std::unique_ptr<ToolProcess> m_tool;
+    std::chrono::seconds m_retryDelay{};  ///< grows while nothing is heard
 };
 
 }  // namespace kestrel

@@ -125,6 +125,8 @@ void RecordJob::runStretch(std::shared_ptr<const ToolCommand> feeder)
     m_stretch = {};
     m_looksInVain = 0;
     m_hasSoundEnded = false;
+    m_usualDevice.clear();  // it may have changed in a pause
+    m_looksForSound = m_isSilent ? m_looksForSound : 0;
     m_messages = ToolMessages({part.partPath()});
     if (m_size.isEmpty())
         m_size = m_target.area.size();
@@ -258,9 +260,8 @@ void RecordJob::join()
     const auto space = m_tools.diskSpace(m_recording.folder);
     constexpr qint64 margin = 10'000'000;
     if (space && space->available < bytes + margin)
-        return placeAsItIs(
-            sentenceOfStretches("The disk is too full to finish the recording: it stays a Matroska file."_key,
-                                "The disk is too full to finish the recording: it stays in %1 Matroska files."_key));
+        return placeAsItIs("The disk is too full to finish the recording: it stays a Matroska file."_key,
+                           "The disk is too full to finish the recording: it stays in %1 Matroska files."_key);
     m_workFolder = std::make_unique<WorkFolder>();
     m_output = std::make_shared<OutputFile>(m_recording.folder, m_recording.plan.name, m_recording.plan.extension());
     const QString list = m_workFolder->filePath(u"list.txt"_s);
@@ -289,42 +290,44 @@ double RecordJob::secondsCut() const
 
 void RecordJob::check(const ToolEnding &joining)
 {
-    const Sentence isNotWhole =
-        sentenceOfStretches("The recording could not be finished: it stays a Matroska file."_key,
-                            "The recording could not be finished: it stays in %1 Matroska files."_key);
+    const auto placeUnfinished = [this] {
+        placeAsItIs("The recording could not be finished: it stays a Matroska file."_key,
+                    "The recording could not be finished: it stays in %1 Matroska files."_key);
+    };
     if (!joining.isGood())
-        return placeAsItIs(isNotWhole);
+        return placeUnfinished();
     const QString part = m_output->partPath();
     const qint64 bytes = QFileInfo(part).size();
-    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes), [this, part,
-                                                                                isNotWhole](const ToolEnding &probing) {
-        const auto found = probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
-        OutputExpectation expected;
-        expected.tracks = recordedTracks(m_recording.plan);
-        if (!m_isRecovery)
-            expected.seconds = recordedSeconds() - secondsCut();
-        const OutputFindings findings = found ? compareOutput(expected, {}, *found) : OutputFindings();
-        if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
-            !findings.mismatch.isEmpty()) {
-            tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
-            return placeAsItIs(isNotWhole);
-        }
-        const double missing = missingSound(*found, m_recording.plan);
-        if (std::abs(missing) > 2)
-            m_problems.append({missing > 0 ? "The last %1 s have no sound: the sound server went away."_key
-                                           : "The last %1 s have no picture."_key,
-                               {QString::number(std::lround(std::abs(missing)))}});
-        JobOutcome outcome{.state = m_problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
-                           .problems = m_problems};
-        if (m_isRecovery)
-            outcome.sentence = "Recovered after an interruption."_key;
-        outcome.facts = facts();
-        constexpr qint64 share = 100;
-        if (m_recorded.missed > m_recorded.pictures / share)
-            outcome.sentence = {"%1 of %2 pictures came too late: the one before stands for them."_key,
-                                {QString::number(m_recorded.missed), QString::number(m_recorded.pictures)}};
-        place(std::move(outcome));
-    });
+    run(outputReportCommand(m_tools.prober, ToolPath(part).argument(), bytes),
+        [this, part, placeUnfinished](const ToolEnding &probing) {
+            const auto found =
+                probing.isGood() ? parseOutputReport(probing.output, QFileInfo(part).size()) : std::nullopt;
+            OutputExpectation expected;
+            expected.tracks = recordedTracks(m_recording.plan);
+            if (!m_isRecovery)
+                expected.seconds = recordedSeconds() - secondsCut();
+            const OutputFindings findings = found ? compareOutput(expected, {}, *found) : OutputFindings();
+            if (!found || findings.isEmpty || findings.isShort || !findings.damage.isEmpty() ||
+                !findings.mismatch.isEmpty()) {
+                tarnwell::DNFootLog(u"The finished recording is not whole: %1"_s, m_messages.text());
+                return placeUnfinished();
+            }
+            const double missing = missingSound(*found, m_recording.plan);
+            if (std::abs(missing) > 2)
+                m_problems.append({missing > 0 ? "The last %1 s have no sound: the sound server went away."_key
+                                               : "The last %1 s have no picture."_key,
+                                   {QString::number(std::lround(std::abs(missing)))}});
+            JobOutcome outcome{.state = m_problems.isEmpty() ? JobState::Done : JobState::DoneWithProblems,
+                               .problems = m_problems};
+            if (m_isRecovery)
+                outcome.sentence = "Recovered after an interruption."_key;
+            outcome.facts = facts();
+            constexpr qint64 share = 100;
+            if (m_recorded.missed > m_recorded.pictures / share)
+                outcome.sentence = {"%1 of %2 pictures came too late: the one before stands for them."_key,
+                                    {QString::number(m_recorded.missed), QString::number(m_recorded.pictures)}};
+            place(std::move(outcome));
+        });
 }
 
 /// Pictures of a camera have no times that they should have come at.
@@ -348,31 +351,31 @@ void RecordJob::place(JobOutcome outcome)
                      });
 }
 
-Sentence RecordJob::sentenceOfStretches(tarnwell::TextKey one, tarnwell::TextKey several) const
-{
-    const qsizetype stretches = m_recording.stretches.size();
-    return stretches > 1 ? Sentence(several, {QString::number(stretches)}) : Sentence(one);
-}
-
-/// The stretches themselves, under names that show: nothing that was recorded is lost.
-void RecordJob::placeAsItIs(const Sentence &problem)
+/// The stretches themselves, under names that show: nothing that was recorded is lost. What cannot be placed is found
+/// at the next start.
+void RecordJob::placeAsItIs(const Sentence &problem, tarnwell::TextKey problemOfSeveral)
 {
     m_output.reset();
     JobOutcome outcome{.state = JobState::DoneWithProblems, .details = m_messages.text(), .problems = m_problems};
-    outcome.problems.append(problem);
     outcome.facts = facts();
     for (const QString &stretch : std::as_const(m_recording.stretches)) {
         OutputFile place(m_recording.folder, m_recording.plan.name, u"mkv"_s);
+        const QByteArray hidden = QFile::encodeName(stretch), part = QFile::encodeName(place.partPath());
         // Takes the place of the empty part, which has the rules for names.
-        if (place.isValid() &&
-            ::rename(QFile::encodeName(stretch).constData(), QFile::encodeName(place.partPath()).constData()) == 0) {
-            if (const auto path = place.publish())
-                outcome.outputs.append(*path);
-        }
+        if (!place.isValid() || ::rename(hidden.constData(), part.constData()) != 0)
+            continue;
+        if (const auto path = place.publish())
+            outcome.outputs.append(*path);
+        else
+            ::rename(part.constData(), hidden.constData());
     }
-    if (outcome.outputs.isEmpty())
+    const qsizetype count = outcome.outputs.size();
+    if (count == 0)
         return finish({.state = JobState::Failed, .sentence = problem, .details = outcome.details});
-    m_recording.forget();
+    if (count == m_recording.stretches.size())
+        m_recording.forget();
+    const bool isSeveral = count > 1 && !problemOfSeveral.isEmpty();
+    outcome.problems.append(isSeveral ? Sentence(problemOfSeveral, {QString::number(count)}) : problem);
     finish(outcome);
 }
 

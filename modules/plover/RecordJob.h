@@ -95,8 +95,7 @@ private:
     void check(const ToolEnding &ending);
     QJsonObject facts() const;
     void place(JobOutcome outcome);
-    tarnwell::Sentence sentenceOfStretches(tarnwell::TextKey one, tarnwell::TextKey several) const;
-    void placeAsItIs(const tarnwell::Sentence &problem);
+    void placeAsItIs(const tarnwell::Sentence &problem, tarnwell::TextKey problemOfSeveral = {});
     void fail(const tarnwell::Sentence &sentence, const QString &details = {});
     void removeStretches();
     double secondsCut() const;
@@ -112,7 +111,7 @@ private:
     bool m_hasSoundEnded = false;               ///< of the stretch of the moment: its pictures go on alone
     bool m_isServerThere = false;               ///< it is back, and nothing was recorded since
     std::unique_ptr<ToolProcess> m_soundProbe;  ///< while it is asked
-    QString m_usualDevice;                      ///< of the sound, when it was asked last
+    QString m_usualDevice;                      ///< of the stretch's sound, when it was asked last
     int m_looksForSound = 0;
     bool m_isHolding = false;  ///< paused: a stretch has ended or is about to
     bool m_isFinishing = false;

@@ -49,17 +49,15 @@ X11Keys::X11Keys(QObject *parent) : QObject(parent)
     if (xcb_connection_has_error(m_connection.get()))
         return;
     m_root = xcb_setup_roots_iterator(xcb_get_setup(m_connection.get())).data->root;
-    for (const auto &[key, symbol] : keys)
-        take(key, symbol);
     m_notifier = std::make_unique<QSocketNotifier>(xcb_get_file_descriptor(m_connection.get()), QSocketNotifier::Read);
     connect(m_notifier.get(), &QSocketNotifier::activated, this, &X11Keys::readEvents);
 }
 
 X11Keys::~X11Keys() = default;
 
-void X11Keys::take(Key key, quint32 symbol)
+void X11Keys::take(Key key)
 {
-    const quint8 code = codeOf(m_connection.get(), symbol);
+    const quint8 code = m_notifier && !isTaken(key) ? codeOf(m_connection.get(), keys[int(key)].symbol) : 0;
     if (code == 0)  // which stands for every key
         return;
     bool isGood = true;

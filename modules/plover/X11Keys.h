@@ -22,10 +22,12 @@ public:
         bool isPressed = false;
     };
 
-    /// For the display of the environment; without one nothing ever comes.
+    /// For the display of the environment; without one nothing ever comes. Has no key yet.
     explicit X11Keys(QObject *parent = nullptr);
     ~X11Keys() override;
 
+    /// Nothing for one that it has.
+    void take(Key key);
     bool isTaken(Key key) const { return m_codes[int(key)] != 0; }
     Pointer pointer() const;
 
@@ -33,7 +35,6 @@ signals:
     void pressed(kestrel::X11Keys::Key key);
 
 private:
-    void take(Key key, quint32 symbol);
     void readEvents();
 
     std::unique_ptr<xcb_connection_t, void (*)(xcb_connection_t *)> m_connection{nullptr, nullptr};

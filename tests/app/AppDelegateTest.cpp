@@ -39,6 +39,12 @@ protected:
         const auto converter = [this](const ModuleConfigure &, ModuleServices &) {
             return std::make_unique<test::EagerModule>(u"video"_s, QSize(300, 200), m_events);
         };
+        const auto recorder = [this](const ModuleConfigure &, ModuleServices &) {
+            auto module = std::make_unique<test::RecordingModule>(u"recorder"_s, QSize(), m_events);
+            m_recorder = module.get();
+            m_recorder->m_mayTerminate = true;
+            return module;
+        };
         const auto startProcess = [this](const QString &program, const QStringList &arguments) {
             m_events.append(program.section(u'/', -3) + u' ' + arguments.join(u' '));
             return false;
@@ -47,7 +53,7 @@ protected:
             AppDelegate::Surroundings{.setting = m_setting,
                                       .defaults = m_defaults,
                                       .jobs = m_jobs,
-                                      .modules = {{ModuleSettingVideo, converter}},
+                                      .modules = {{ModuleSettingVideo, converter}, {ModuleSettingRecord, recorder}},
                                       .windows = {},
                                       .terminate = [this] { m_events.append(u"terminate"_s); },
                                       .startProcess = startProcess,
@@ -83,6 +89,7 @@ protected:
     foundation::UserDefaults m_defaults{m_folder.filePath(u"defaults.plist"_s)};
     JKestrelSetting m_setting{m_defaults};
     QStringList m_events;
+    test::RecordingModule *m_recorder = nullptr;
     std::atomic<int> m_fetches = 0;
     std::map<std::chrono::milliseconds, std::function<void()>> m_later;
     test::TestDesktop m_desktop;
@@ -195,14 +202,17 @@ TEST_F(AppDelegateTest, running_jobs_are_asked_about_once_whatever_ends_the_prog
         EXPECT_FALSE(m_events.contains(u"terminate"_s));
         EXPECT_TRUE(m_jobs.hasWork());
 
-        // "OK" to the language's own question, then "Stop …"
-        m_desktop.answers = {tarnwell::AlertAnswer::Alternate};
-        if (QByteArrayView(name) == "language")
-            m_desktop.answers.prepend(tarnwell::AlertAnswer::Default);
-        m_desktop.alerts.clear();
-        end();
-        EXPECT_TRUE(m_events.contains(u"terminate"_s));
-        EXPECT_TRUE(m_desktop.answers.isEmpty());
+        // "OK" to the language's own question, then "Stop …", and the recorder last, before anything is stopped
+        for (const bool mayTerminate : {false, true}) {
+            m_recorder->m_mayTerminate = mayTerminate;
+            m_desktop.answers = {tarnwell::AlertAnswer::Alternate};
+            if (QByteArrayView(name) == "language")
+                m_desktop.answers.prepend(tarnwell::AlertAnswer::Default);
+            m_desktop.alerts.clear();
+            end();
+            EXPECT_EQ(m_events.contains(u"terminate"_s), mayTerminate);
+            EXPECT_TRUE(m_desktop.answers.isEmpty());
+        }
         EXPECT_TRUE(test::waitUntil([&] { return m_jobs.queue().record(job)->state == JobState::Interrupted; }));
         m_events.clear();
     }

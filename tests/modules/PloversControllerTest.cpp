@@ -99,7 +99,7 @@ TEST_F(PloversControllerTest, RecordsPausesAndStops)
     barButton(u"Pause"_s)->click();
     EXPECT_EQ(recording()->state, JobState::Paused);
     const double paused = recording()->progress.seconds;
-    barButton(u"Continue"_s)->click();
+    barButton(u"Go On"_s)->click();
     ASSERT_TRUE(waitForSeconds(paused + 1));
     // Without an answer to its question a recording is not thrown away.
     find<QPushButton>(u"cancelButton"_s)->click();

@@ -145,7 +145,8 @@ void CapturePanel::fillMicrophones()
         const QList<Microphone> found = microphonesIn(ending.output);
         bool isAsItWas = m_microphones->count() == found.size() + 1;
         for (qsizetype index = 0; isAsItWas && index < found.size(); ++index)
-            isAsItWas = m_microphones->itemData(int(index) + 1) == found[index].name;
+            isAsItWas = m_microphones->itemData(int(index) + 1) == found[index].name &&
+                        m_microphones->itemText(int(index) + 1) == found[index].title;
         if (isAsItWas)  // the list may be open
             return;
         while (m_microphones->count() > 1)

@@ -1,5 +1,6 @@
 #include "ControlBar.h"
 
+#include "foundation/Queues.h"
 #include "jobs/RemainingTime.h"
 #include "tarnwell/TextKey.h"
 
@@ -7,6 +8,7 @@
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QLocale>
+#include <QPointer>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QScreen>
@@ -55,7 +57,7 @@ ControlBar::ControlBar()
     for (QWidget *widget : std::initializer_list<QWidget *>{m_text, m_level, m_pause, m_stop, m_snapshot})
         layout->addWidget(widget);
     // When all have their style: the bar does not grow into the picture.
-    for (const tarnwell::TextKey text : {"Continue"_key, "Pause"_key}) {
+    for (const tarnwell::TextKey text : {"Go On"_key, "Pause"_key}) {
         m_pause->setText(text.localized());
         m_pause->setMinimumWidth(std::max(m_pause->minimumWidth(), m_pause->sizeHint().width()));
     }
@@ -125,11 +127,16 @@ QString ControlBar::textOf(const JobRecord &record, qint64 missed)
 
 void ControlBar::showRecord(const JobRecord &record, qint64 missed)
 {
-    m_pause->setText(record.state == JobState::Paused ? "Continue"_key.localized() : "Pause"_key.localized());
-    if (m_noteEnd.hasExpired()) {
-        m_text->setText(textOf(record, missed));
-        m_text->setToolTip({});
-    }
+    m_pause->setText(record.state == JobState::Paused ? "Go On"_key.localized() : "Pause"_key.localized());
+    m_progress = textOf(record, missed);
+    if (m_noteEnd.hasExpired())
+        showProgress();
+}
+
+void ControlBar::showProgress()
+{
+    m_text->setText(m_progress);
+    m_text->setToolTip({});
 }
 
 void ControlBar::showNote(const QString &note)
@@ -137,6 +144,11 @@ void ControlBar::showNote(const QString &note)
     m_noteEnd.setRemainingTime(noteTime);
     m_text->setText(m_text->fontMetrics().elidedText(note, Qt::ElideRight, m_text->width()));
     m_text->setToolTip(note);
+    // While it is paused nobody else takes the note away.
+    foundation::queue::afterMain(noteTime, [self = QPointer(this), end = m_noteEnd] {
+        if (self && self->m_noteEnd == end)
+            self->showProgress();
+    });
 }
 
 void ControlBar::setLevel(double level)

@@ -38,7 +38,10 @@ signals:
     void snapshotClicked();
 
 private:
+    void showProgress();
+
     QLabel *m_text;
+    QString m_progress;  ///< time and size, as last told
     QDeadlineTimer m_noteEnd;
     QProgressBar *m_level;
     QPushButton *m_stop;

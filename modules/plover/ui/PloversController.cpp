@@ -261,6 +261,9 @@ void PloversController::beginAt(const QDateTime &moment)
                                  : Sentence("Recording begins at %1. Press Record to begin at once."_key, {time});
     QStringList parts{message.localized()};
     if (seconds <= keysAhead) {
+        RecordPlan plan;
+        m_panel->choose(plan);
+        setTarget(plan);
         takeKeys();
         parts.append(keyLine(u' '));
     }
@@ -285,8 +288,7 @@ void PloversController::record()
     m_settings->setCaptureMouseClick(m_panel->wantsClicks());
     m_settings->setRecordChoices(
         QString::fromUtf8(QJsonDocument(m_panel->choices(plan)).toJson(QJsonDocument::Compact)));
-    const auto target = captureTarget(plan);
-    m_target = target ? *target : CaptureTarget();
+    setTarget(plan);
     const QString folder = m_settings->getVideoDir();
     QDir().mkpath(folder);
     m_recording = queue().add(recordingJob(plan, folder));
@@ -295,6 +297,12 @@ void PloversController::record()
     openControls();
     queue().start({m_recording});
     showState();
+}
+
+void PloversController::setTarget(const RecordPlan &plan)
+{
+    const auto target = captureTarget(plan);
+    m_target = target ? *target : CaptureTarget();
 }
 
 void PloversController::showState()

@@ -55,6 +55,7 @@ private:
     void openPanel();
     void extendMenu(QMenu *menu, const QList<JobId> &ids);
     void record();
+    void setTarget(const RecordPlan &plan);
     void openControls();
     void takeKeys();
     QStringList keyTexts() const;
@@ -67,7 +68,10 @@ private:
     void keyPressed(X11Keys::Key key);
     void togglePause();
     void stopRecording();
-    bool offersSnapshot() const { return m_target.isShared || !m_target.display.isEmpty(); }
+    bool offers(X11Keys::Key key) const
+    {
+        return key != X11Keys::Key::Snapshot || m_target.isShared || !m_target.display.isEmpty();
+    }
     void takeSnapshot();
     void tell(const QString &text);
     void saveSnapshot(const QImage &picture);
@@ -83,7 +87,7 @@ private:
     QPointer<CapturePanel> m_panel;
     QDateTime m_beginning;                     ///< of the recording that is about to begin; none where none is
     std::unique_ptr<DesktopServices> m_awake;  ///< until then the machine does not go to sleep
-    // While it records, the keys already shortly before
+    // While it records, target and keys already shortly before
     JobId m_recording = 0;
     CaptureTarget m_target;
     LevelMeter m_meter;

@@ -61,7 +61,7 @@ void PloversController::openControls()
     connect(m_bar.get(), &ControlBar::stopClicked, this, &PloversController::stopRecording);
     connect(m_bar.get(), &ControlBar::snapshotClicked, this, &PloversController::takeSnapshot);
     m_bar->setKeys(keyTexts());
-    m_bar->setSnapshotOffered(offersSnapshot());
+    m_bar->setSnapshotOffered(offers(X11Keys::Key::Snapshot));
     if (m_target.isShared)  // nobody knows where that is: this window stays
         return;
     if (m_target.display.isEmpty())
@@ -86,7 +86,7 @@ void PloversController::openTray()
         m_trayMenu
             ->addAction((text.localized() + u'\t' + keys[qsizetype(key)]).trimmed(), this,
                         [this, key = key] { keyPressed(key); })
-            ->setVisible(key != X11Keys::Key::Snapshot || offersSnapshot());
+            ->setVisible(offers(key));
     }
     m_tray = std::make_unique<QSystemTrayIcon>(QApplication::windowIcon());
     m_tray->setToolTip(trayTip({}));
@@ -108,11 +108,17 @@ QString PloversController::trayTip(const QString &progress) const
 
 void PloversController::takeKeys()
 {
-    if (m_keys || m_shortcuts)
+    if (m_shortcuts)
         return;
     if (!isWaylandSession()) {
-        m_keys = std::make_unique<X11Keys>();
-        connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
+        if (!m_keys) {
+            m_keys = std::make_unique<X11Keys>();
+            connect(m_keys.get(), &X11Keys::pressed, this, &PloversController::keyPressed);
+        }
+        for (const auto &[key, letter, text] : remoteActions) {
+            if (offers(key))
+                m_keys->take(key);
+        }
         return;
     }
     m_shortcuts = std::make_unique<QObject>();
@@ -125,12 +131,12 @@ void PloversController::takeKeys()
     }
 }
 
-/// Of those that were got.
+/// Of those that were got and do something.
 QStringList PloversController::keyTexts() const
 {
     QStringList texts;
     for (const auto &[key, letter, text] : remoteActions) {
-        const bool isThere = m_shortcuts || (m_keys && m_keys->isTaken(key));
+        const bool isThere = offers(key) && (m_shortcuts || (m_keys && m_keys->isTaken(key)));
         texts.append(isThere ? keysFor(letter).toString(QKeySequence::NativeText) : QString());
     }
     return texts;
@@ -179,7 +185,7 @@ void PloversController::recordChanged(JobId id)
         m_bar->showRecord(*record, missed);
         m_tray->setToolTip(trayTip(ControlBar::textOf(*record, missed)));
         const auto pause = int(X11Keys::Key::Pause);
-        const tarnwell::TextKey text = record->state == JobState::Paused ? "Continue"_key : "Pause"_key;
+        const tarnwell::TextKey text = record->state == JobState::Paused ? "Go On"_key : "Pause"_key;
         m_trayMenu->actions().at(pause)->setText((text.localized() + u'\t' + keyTexts()[pause]).trimmed());
     }
     showState();
@@ -220,7 +226,10 @@ void PloversController::takeSnapshot()
 {
     if (m_recording == 0)
         return;
-    if (RecordJob *job = m_recipe.recording(); job && job->takeSnapshot()) {
+    if (m_target.isShared) {
+        RecordJob *job = m_recipe.recording();
+        if (!job || !job->takeSnapshot())
+            return tell("There is no picture at this place."_key.localized());
         disconnect(job, &RecordJob::snapshotTaken, this, nullptr);  // one that never came
         connect(
             job, &RecordJob::snapshotTaken, this, [this](const QString &path) { saveSnapshot(QImage(path)); },
