@@ -2,6 +2,7 @@
 
 #include "ModuleSettings.h"
 #include "jobs/JobQueue.h"
+#include "modules/plover/ui/CapturePanel.h"
 #include "tests/support/TestEnvironment.h"
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <QLabel>
 #include <QProcess>
 #include <QPushButton>
+#include <QTimeEdit>
 
 using namespace Qt::StringLiterals;
 
@@ -118,6 +120,9 @@ TEST_F(PloversControllerTest, TheCountdownCanBeSkippedAndEndsWithTheModule)
 {
     startDisplay();
     open();
+    find<QTimeEdit>(u"beginTimeEdit"_s)->setTime(QTime::currentTime().addSecs(-120));
+    EXPECT_GT(m_controller->view()->findChild<CapturePanel *>()->beginTime(), QDateTime::currentDateTime())
+        << "tomorrow";
     choose(u"soundComboBox"_s, int(RecordPlan::Sound::None));
     auto *start = find<QPushButton>(u"startButton"_s);
     start->click();

@@ -1,7 +1,11 @@
 #include "modules/plover/RecordCommand.h"
 
+#include "foundation/UserDefaults.h"
+#include "helpers/plover/FrameFit.h"
 #include "helpers/plover/FramePace.h"
 #include "modules/plover/LevelMeter.h"
+#include "settings/JKestrelSetting.h"
+#include "settings/JKestrelSettingDispatcher.h"
 
 #include <gtest/gtest.h>
 
@@ -47,6 +51,28 @@ TEST(RecordPlanTest, SurvivesStorageAndNonsense)
     json[u"version"_s] = 2;
     EXPECT_FALSE(RecordPlan::fromJson(json));
     EXPECT_FALSE(RecordPlan::fromJson({}));
+}
+
+TEST(RecordPlanTest, TakesTheSettingsDevices)
+{
+    foundation::UserDefaults defaults(u"/nowhere/defaults.plist"_s);
+    JKestrelSetting setting(defaults);
+    JKestrelSettingDispatcher settings(ModuleSettingRecord, setting);
+    settings.setVideoDeviceID(u"/dev/video1"_s);
+    settings.setAudioDeviceID(u"mic"_s);
+    EXPECT_EQ(recordPlan(settings).camera, u"/dev/video1");
+    EXPECT_EQ(recordPlan(settings).microphone, u"mic");
+}
+
+TEST(FrameFitTest, RowsMayBePaddedAndAPixelTooWide)
+{
+    std::vector<uint8_t> pixels(56, 9), target;  // two rows of five pixels and eight bytes that are none
+    std::fill_n(pixels.begin(), 20, uint8_t(1));
+    std::fill_n(pixels.begin() + 28, 20, uint8_t(2));
+    frames::fit({.pixels = pixels.data(), .width = 5, .height = 2, .stride = 28}, {4, 2}, target);
+    std::vector<uint8_t> wanted(32, 1);
+    std::fill_n(wanted.begin() + 16, 16, uint8_t(2));
+    EXPECT_EQ(target, wanted);
 }
 
 TEST(CaptureTargetTest, AreasAreEvenAndOnTheDesktop)
