@@ -47,7 +47,9 @@ QString decodedFileName(QByteArrayView bytes)
     name.reserve(bytes.size());
     while (!bytes.isEmpty()) {
         const qsizetype length = characterLength(bytes);
-        if (length > 0)
+        if (bytes.startsWith("\xef\xbb\xbf"))  // which fromUtf8 takes for a mark of the encoding, and drops
+            name += QChar(QChar::ByteOrderMark);
+        else if (length > 0)
             name += QString::fromUtf8(bytes.first(length));
         else
             name += QChar(char16_t(0xDC00 + uchar(bytes.front())));

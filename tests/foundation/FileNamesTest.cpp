@@ -19,9 +19,12 @@ using foundation::encodedFileName;
 
 TEST(FileNamesTest, EveryNameComesBack)
 {
-    const QByteArray names[] = {
-        "plain.mp4",    "\xc3\xa4\xf0\x9f\x8e\xac", "caf\xe9.avi", "\xff\xfe",     "\xed\xb2\x80",        "\xc0\xaf",
-        "\xe0\x80\xaf", "\xf4\x90\x80\x80",         "a\xc3",       "\xf0\x9f\xe9", "\x80\xf0\x9f\x8e\xac"};
+    const QByteArray names[] = {"plain.mp4",     "\xc3\xa4\xf0\x9f\x8e\xac",
+                                "caf\xe9.avi",   "\xff\xfe",
+                                "\xed\xb2\x80",  "\xc0\xaf",
+                                "\xe0\x80\xaf",  "\xf4\x90\x80\x80",
+                                "a\xef\xbb\xbf", "a\xc3",
+                                "\xf0\x9f\xe9",  "\x80\xf0\x9f\x8e\xac"};
     QSet<QString> texts;
     for (const QByteArray &name : names) {
         const QString text = decodedFileName(name);
