@@ -146,11 +146,12 @@ class Catalogue:
         assert 'runs' in steps, f"refused: {steps.get('refused')}"
         for path, text in steps['files'].items():
             pathlib.Path(path).write_text(text)
-        for arguments in steps['runs']:
+        for arguments, cover in zip(steps['runs'], steps['covers']):
             result = run(['ffmpeg'] + arguments)
             lines = [l for l in result.stderr.decode(errors='replace').splitlines() if '[error]' in l or '[fatal]' in l]
             assert result.returncode == 0, f"exit status {result.returncode}: {lines[-3:]}\n      ffmpeg {' '.join(arguments)}"
             assert not lines, f"{lines[:3]}\n      ffmpeg {' '.join(arguments)}"
+            assert not cover[0] or self.tool.ask({'cover': cover})['written'], cover
         result = Output(output, steps)
         check_expectation(steps, result)
         return result

@@ -1,4 +1,5 @@
 // Tells what the transcoder would be run with: a line of JSON in, a line of JSON out. For catalogue.py.
+#include "media/CoverTag.h"
 #include "media/FramePreview.h"
 #include "media/Preset.h"
 #include "media/TranscodeCommand.h"
@@ -17,9 +18,12 @@ namespace {
 QJsonObject stepsJson(const TranscodeSteps &steps)
 {
     constexpr const char *kinds[] = {"video", "cover", "audio", "subtitle", "attachment", "data"};
-    QJsonArray runs, tracks, leftOut;
-    for (const TranscodeRun &run : steps.runs)
+    QJsonArray runs, covers, tracks, leftOut;
+    for (const TranscodeRun &run : steps.runs) {
         runs.append(QJsonArray::fromStringList(run.arguments));
+        const CoverTag cover = run.coverTag.value_or(CoverTag());
+        covers.append(QJsonArray{cover.picturePath, cover.tagPath, cover.mimeType, cover.width, cover.height});
+    }
     for (const OutputExpectation::Track &track : steps.expected.tracks)
         tracks.append(QJsonArray{QString::fromLatin1(kinds[int(track.kind)]), track.codec});
     for (const tarnwell::Sentence &sentence : steps.leftOut)
@@ -28,6 +32,7 @@ QJsonObject stepsJson(const TranscodeSteps &steps)
     for (auto file = steps.files.begin(); file != steps.files.end(); ++file)
         files.insert(file.key(), QString::fromUtf8(file.value()));
     return {{u"runs"_s, runs},
+            {u"covers"_s, covers},
             {u"files"_s, files},
             {u"tracks"_s, tracks},
             {u"seconds"_s, steps.expected.seconds ? QJsonValue(*steps.expected.seconds) : QJsonValue::Null},
@@ -51,6 +56,13 @@ QJsonObject answer(const QJsonObject &question)
 {
     if (question.contains(u"presets"_s))
         return {{u"presets"_s, presetsJson()}};
+    if (const QJsonArray cover = question[u"cover"_s].toArray(); !cover.isEmpty())
+        return {{u"written"_s, writeCoverTag({.picturePath = cover[0].toString(),
+                                              .tagPath = cover[1].toString(),
+                                              .mimeType = cover[2].toString(),
+                                              .width = cover[3].toInt(),
+                                              .height = cover[4].toInt()})
+                                   .value_or(false)}};
     const auto plan = TranscodePlan::fromJson(question[u"plan"_s].toObject());
     if (!plan)
         return {{u"refused"_s, u"no plan"_s}};
