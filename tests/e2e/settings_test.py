@@ -47,6 +47,8 @@ class SettingsTest(ProgramTest):
         self.click(app, 'text', field)
         self.desktop.key('ctrl+a')
         self.desktop.x('xdotool', 'type', text)
+        read = self.desktop.accessibility.Text.get_text
+        wait_for(lambda: read(app.find('text', field), 0, -1) == text, f'{field} to have its text')
 
     def test_changes_are_stored(self):
         video = os.path.join(self.desktop.home, 'films')
