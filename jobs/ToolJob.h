@@ -29,6 +29,8 @@ protected:
     ToolProcess &run(const ToolCommand &command, Continuation then);
     bool isStopping() const { return m_isStopping; }
     bool isPaused() const { return m_isPaused; }
+    /// Nothing goes on any more: for what comes from the background.
+    bool isOver() const { return m_isOver; }
     /// For the destructors of those who own what the tool writes: ends it before that is removed.
     void endTool();
     /// `finished` follows, later than this returns.

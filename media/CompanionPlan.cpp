@@ -180,8 +180,7 @@ private:
         // One picture is what players show.
         if (!m_tracks.covers.isEmpty())
             return;
-        if (isKnown && (container.has(Container::Covers) || container.has(Container::AttachedCovers) ||
-                        container.has(Container::TagCovers)))
+        if (isKnown && container.has(Container::AnyCovers))
             m_tracks.covers.append(&track);
         else
             m_tracks.leftOut.append({"The cover picture. %1 cannot hold it."_key, {containerName()}});

@@ -15,13 +15,14 @@ struct Container {
         Chapters = 4,
         Covers = 8,           ///< as a picture among the tracks
         AttachedCovers = 16,  ///< as a file that is attached
-        TagCovers = 2048,     ///< as a tag of the first track
         Attachments = 32,
         ManySounds = 64,
         TrackNames = 128,    ///< languages and titles of tracks
         HandlerNames = 256,  ///< titles of tracks stand in the names of their handlers
         StereoOnly = 1024,   ///< neither more nor fewer channels
         TellsLength = 512,   ///< in its header, so that a file that was cut off shows
+        TagCovers = 2048,    ///< covers as a tag of the first track
+        AnyCovers = Covers | AttachedCovers | TagCovers,
     };
 
     const char *id;    ///< first part of a preset's id

@@ -119,7 +119,7 @@ QStringList subtitleArguments(const Plan &plan, const TrackPlan &tracks, const Q
             arguments += trackTags(tracks, *subtitle.source, specifier);
         } else {
             MediaTrack track;
-            // Of a person or a name: "de", where files want three letters.
+            // People and names of files say "de", where containers want three letters.
             const QString &language = plan.externalSubtitles.at(subtitle.file).language;
             const QString code = foundation::isoLanguageCode(language);
             track.language = code.isEmpty() ? language : code;

@@ -1,14 +1,17 @@
 #include "TranscodeJob.h"
 
+#include "Containers.h"
 #include "CoverTag.h"
 #include "MediaProber.h"
 #include "OutputName.h"
 #include "SubtitleFile.h"
 
+#include "foundation/Queues.h"
 #include "jobs/OutputFile.h"
 #include "tarnwell/Log.h"
 
 #include <QDate>
+#include <QPointer>
 #include <QSaveFile>
 
 #include <algorithm>
@@ -155,24 +158,41 @@ void TranscodeJob::stepEnded(const ToolEnding &ending)
         judge(ending, std::nullopt);
     else if (isLast)
         checkOutput(ending);
-    else if (!takeCoverTag())
-        fail("The folder for temporary files cannot be written."_key);
-    else {
-        ++m_step;
-        runStep();
-    }
+    else if (m_steps.runs[m_step].coverTag)
+        writeTagOf(*m_steps.runs[m_step].coverTag);
+    else
+        runNextStep();
 }
 
-/// False where the folder for temporary files cannot be written.
-bool TranscodeJob::takeCoverTag()
+void TranscodeJob::runNextStep()
 {
-    const auto &tag = m_steps.runs[m_step].coverTag;
-    const auto isTaken = tag ? writeCoverTag(*tag) : std::optional(true);
-    if (isTaken && !*isTaken) {
+    ++m_step;
+    runStep();
+}
+
+/// Some are megabytes.
+void TranscodeJob::writeTagOf(const CoverTag &tag)
+{
+    foundation::queue::asyncGlobal([self = QPointer(this), tag] {
+        foundation::queue::asyncMain([self, isTaken = writeCoverTag(tag)] {
+            if (self && !self->isOver())
+                self->takeTag(isTaken);
+        });
+    });
+}
+
+void TranscodeJob::takeTag(std::optional<bool> isTaken)
+{
+    if (isStopping())
+        return finishStopped();
+    if (!isTaken)
+        return fail("The folder for temporary files cannot be written."_key);
+    if (!*isTaken) {
+        const QString name = QString::fromLatin1(containerOf(m_request.plan.preset)->name);
         m_steps.expected.tracks.removeIf([](const auto &track) { return track.kind == MediaTrack::Kind::Cover; });
-        m_steps.leftOut.append({"The cover picture. %1 cannot hold it."_key, {m_request.plan.preset.name}});
+        m_steps.leftOut.append({"The cover picture. %1 cannot hold it."_key, {name}});
     }
-    return isTaken.has_value();
+    runNextStep();
 }
 
 void TranscodeJob::tellProgress()

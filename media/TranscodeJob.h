@@ -60,7 +60,9 @@ private:
     void carryOut();
     void runStep();
     void stepEnded(const ToolEnding &ending);
-    bool takeCoverTag();
+    void writeTagOf(const CoverTag &tag);
+    void takeTag(std::optional<bool> isTaken);
+    void runNextStep();
     void checkOutput(const ToolEnding &ending);
     Decoding neededDecoding() const;
     void decodeOutput(const ToolEnding &ending, const OutputFindings &findings);

@@ -57,6 +57,8 @@ void Conversions::probed(qint64 look, const MediaProber::Answer &answer)
                 changing.state = JobState::Unusable;
                 changing.outcome.sentence = answer.reason();
             });
+        if (isEnded(record->state))
+            m_known.erase(known);  // who wants to know asks again: its disk may be back
         emit notInformed(id, answer.reason().localized());
         return;
     }

@@ -13,8 +13,8 @@ using dvd_file_t = struct dvd_file_s;
 
 namespace kestrel::disc {
 
-constexpr int sectorsOfBlock = 16;    ///< a drive corrects errors in blocks of these: if one is gone, all are
-constexpr int hopelessBlocks = 2000;  ///< after so many in a row the rest is not tried
+inline constexpr int sectorsOfBlock = 16;    ///< a drive corrects errors in blocks of these: if one is gone, all are
+inline constexpr int hopelessBlocks = 2000;  ///< after so many in a row the rest is not tried
 
 /// A disc that is open for reading: a drive, an image, or a folder (with VIDEO_TS in it, or that itself; letters of
 /// any case).

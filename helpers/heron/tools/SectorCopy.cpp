@@ -21,8 +21,8 @@ namespace kestrel::disc {
 namespace {
 
 constexpr qint64 sectorsAtOnce = 128;  // 256 KiB; with more the processor's cache no longer holds what is on its way
-constexpr qint64 sectorsOfRun = 2048;
-constexpr int blocksInARow = 4;  // after so many failures the rest of the run is left for later
+constexpr qint64 sectorsOfRun = 2048;  // of which the rest is left for later
+constexpr int blocksInARow = 4;        // after so many failures
 constexpr int attempts = 3;
 constexpr int millisecondsOfReport = 250, millisecondsOfSave = 2000;
 

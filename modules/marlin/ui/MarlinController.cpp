@@ -236,6 +236,8 @@ void MarlinController::edit(JobId id)
     const auto plan = m_conversions->plan(id);
     if (!plan || isActive(queue().record(id)->state))
         return;
+    if (queue().record(id)->state == JobState::Unusable)
+        return m_page->showMessage(queue().record(id)->outcome.sentence.localized());
     if (plan->sources.size() > 1)
         return m_page->showMessage("Files can be cut or joined, but not both at once."_key.localized());
     const QList<MediaInformation> sources = m_conversions->information(id);
